@@ -1,0 +1,27 @@
+# The one target that carries compiler flags. Everything of ours links it; nothing sets flags of its own.
+add_library(quillon_flags INTERFACE)
+
+target_include_directories(quillon_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(quillon_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Werror
+  -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast -Wcast-align
+  -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
+  -Wformat=2 -Wimplicit-fallthrough -Wextra-semi -Wundef)
+# GCC 12 sees overlapping copies inside std::string where there are none (GCC bug 105651).
+target_compile_options(quillon_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_compile_definitions(quillon_flags INTERFACE
+  $<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
+
+# Results must agree to the last digit wherever they are computed: no fused multiply-add, no reordering.
+target_compile_options(quillon_flags INTERFACE -ffp-contract=off)
+
+if(QUILLON_SANITIZE)
+  target_compile_options(quillon_flags INTERFACE
+    -fsanitize=${QUILLON_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(quillon_flags INTERFACE -fsanitize=${QUILLON_SANITIZE})
+endif()
+
+if(QUILLON_COVERAGE)
+  target_compile_options(quillon_flags INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(quillon_flags INTERFACE --coverage)
+endif()

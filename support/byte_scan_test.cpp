@@ -1,0 +1,184 @@
+#include "support/byte_scan.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+constexpr std::size_t kLongest = 400;  // three whole blocks of 128 and a rest
+constexpr std::size_t kNowhere = std::string_view::npos;
+
+std::size_t PlainNthByte(std::string_view text, char byte, std::size_t n) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == byte && n-- == 0) return i;
+  }
+  return kNowhere;
+}
+
+class RandomTexts {
+ public:
+  explicit RandomTexts(std::string_view letters) : letters_(letters) {}
+
+  std::string Make(std::size_t length) {
+    std::uniform_int_distribution<std::size_t> pick(0, letters_.size() - 1);
+    std::string text;
+    while (text.size() < length)
+      text += letters_[pick(source_)];
+    return text;
+  }
+
+ private:
+  std::string letters_;
+  std::mt19937 source_{20040229};
+};
+
+// Places next to which a block of 128 bytes begins or ends.
+const std::vector<std::size_t> kBlockEdges = {0, 1, 126, 127, 128, 129, 254, 255, 256, 257, 383, 384, 385, 399};
+
+TEST(FindNthByte, EqualsAPlainLoopAtEveryLength) {
+  RandomTexts texts("ab ");
+  for (std::size_t length = 0; length <= kLongest; ++length) {
+    const std::string text = texts.Make(length);
+    for (std::size_t n = 0; n <= length + 1; ++n) {
+      ASSERT_EQ(FindNthByte(text, ' ', n), PlainNthByte(text, ' ', n)) << "length " << length << ", n " << n;
+    }
+  }
+}
+
+TEST(FindNthByte, EqualsAPlainLoopForEveryByte) {
+  std::string text;
+  for (int i = 0; i < 3 * 256; ++i)
+    text += static_cast<char>(i % 256);
+  for (int i = 0; i < 256; ++i) {
+    const char byte = static_cast<char>(i);
+    for (std::size_t n = 0; n < 3; ++n)
+      ASSERT_EQ(FindNthByte(text, byte, n), static_cast<std::size_t>(i) + n * 256) << "byte " << i;
+    ASSERT_EQ(FindNthByte(text, byte, 3), kNowhere) << "byte " << i;
+  }
+}
+
+TEST(FindNthByte, LoneByteIsFoundAtEveryPlaceOfEveryLength) {
+  for (std::size_t length = 1; length <= kLongest; ++length) {
+    std::string text(length, 'x');
+    for (std::size_t place = 0; place < length; ++place) {
+      text[place] = ' ';
+      ASSERT_EQ(FindNthByte(text, ' ', 0), place) << "length " << length;
+      ASSERT_EQ(FindNthByte(text, ' ', 1), kNowhere) << "length " << length << ", place " << place;
+      text[place] = 'x';
+    }
+  }
+}
+
+TEST(FindNthByte, TextOfNothingElseHasOccurrenceNAtN) {
+  for (const std::size_t length : kBlockEdges) {
+    const std::string text(length, ' ');
+    for (std::size_t n = 0; n < length; ++n)
+      ASSERT_EQ(FindNthByte(text, ' ', n), n) << "length " << length;
+    EXPECT_EQ(FindNthByte(text, ' ', length), kNowhere) << "length " << length;
+    EXPECT_EQ(FindNthByte(text, ' ', std::numeric_limits<std::size_t>::max()), kNowhere) << "length " << length;
+  }
+}
+
+TEST(FindNthByte, OccurrencesOnBothSidesOfABlockEdgeAreToldApart) {
+  for (const std::size_t edge : {std::size_t{128}, std::size_t{256}, std::size_t{384}}) {
+    std::string text(kLongest, 'x');
+    text[edge - 1] = ' ';
+    text[edge] = ' ';
+    EXPECT_EQ(FindNthByte(text, ' ', 0), edge - 1);
+    EXPECT_EQ(FindNthByte(text, ' ', 1), edge);
+    EXPECT_EQ(FindNthByte(text, ' ', 2), kNowhere);
+  }
+}
+
+TEST(FindNthByte, NothingBesideTheTextIsLookedAt) {
+  const std::string around(kLongest, ' ');
+  for (const std::size_t length : kBlockEdges) {
+    const std::string_view text = std::string_view(around).substr(1, length);
+    EXPECT_EQ(FindNthByte(text, ' ', length), kNowhere) << "length " << length;
+  }
+}
+
+TEST(FindText, EqualsTheLibrarySearchAtEveryLength) {
+  RandomTexts texts("aab");  // few letters: many near misses and overlaps
+  RandomTexts wantedTexts("ab");
+  for (std::size_t length = 0; length <= kLongest; ++length) {
+    const std::string text = texts.Make(length);
+    for (std::size_t wantedLength = 0; wantedLength <= 12; ++wantedLength) {
+      const std::string wanted = wantedTexts.Make(wantedLength);
+      ASSERT_EQ(FindText(text, wanted), std::string_view(text).find(wanted)) << text << " / " << wanted;
+    }
+  }
+}
+
+TEST(FindText, LoneOccurrenceIsFoundAtEveryPlaceOfEveryLength) {
+  for (const std::string_view wanted : {"a", "ab", "abc", "aab"}) {
+    for (std::size_t length = wanted.size(); length <= kLongest; ++length) {
+      std::string text(length, 'x');
+      for (std::size_t place = 0; place + wanted.size() <= length; ++place) {
+        text.replace(place, wanted.size(), wanted);
+        ASSERT_EQ(FindText(text, wanted), place) << wanted << ", length " << length;
+        text.replace(place, wanted.size(), wanted.size(), 'x');
+      }
+    }
+  }
+}
+
+struct TextCase {
+  const char* rule;
+  std::string text;
+  std::string wanted;
+  std::size_t place;
+};
+
+class FindTextCase : public testing::TestWithParam<TextCase> {};
+
+TEST_P(FindTextCase, IsFoundAtItsPlace) {
+  EXPECT_EQ(FindText(GetParam().text, GetParam().wanted), GetParam().place) << GetParam().rule;
+}
+
+std::string Xs(std::size_t count) {
+  return std::string(count, 'x');
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ByRule, FindTextCase,
+    testing::Values(
+        TextCase{"nothing is found at the start of nothing", "", "", 0},
+        TextCase{"nothing is found at the start of a text", "abc", "", 0},
+        TextCase{"nothing is found at the start of a long text", Xs(300), "", 0},
+        TextCase{"an empty text holds no character", "", "a", kNowhere},
+        TextCase{"an empty text holds no pair", "", "ab", kNowhere}, TextCase{"a text holds itself", "ab", "ab", 0},
+        TextCase{"a text longer than the place searched is not there", "ab", "abc", kNowhere},
+        TextCase{"a start of the wanted text at the end is no match", Xs(126) + "AK", "AKs", kNowhere},
+        TextCase{"the first of two occurrences counts", "AKo AKs AKs", "AKs", 4},
+        TextCase{"a near miss before the match is passed", "AKo AKs", "AKs", 4},
+        TextCase{"a near miss across the block edge is passed", Xs(127) + "AKo" + Xs(9) + "AKs", "AKs", 139},
+        TextCase{"an occurrence overlaps a near miss of itself", "aaaab", "aab", 2},
+        TextCase{"the same over the block edge", Xs(125) + "aaaab", "aab", 127},
+        TextCase{"a repeated pair overlaps its own near miss", "ababac", "abac", 2},
+        TextCase{"last place of the first block, rest in the second", Xs(127) + "AKs" + Xs(200), "AKs", 127},
+        TextCase{"first place of the second block", Xs(128) + "AKs" + Xs(200), "AKs", 128},
+        TextCase{"last place of the text", Xs(397) + "AKs", "AKs", 397},
+        TextCase{"one character in the second block", Xs(200) + "A" + Xs(99), "A", 200},
+        TextCase{"a wanted text longer than a block", "x" + std::string(150, 'a') + "b" + Xs(150),
+                 std::string(149, 'a') + "b", 2},
+        TextCase{"case counts", "aks AKS", "AKs", kNowhere},
+        TextCase{"a zero byte is a byte", std::string("a\0b", 3), std::string("\0b", 2), 1},
+        TextCase{"bytes above 127 are bytes", Xs(130) + "\xFF\xFE\xFF\xFD", "\xFF\xFD", 132}));
+
+TEST(FindText, NothingBesideTheTextIsLookedAt) {
+  const std::string around = std::string(kLongest, 'x') + "AKs";
+  for (std::size_t cut = 1; cut <= 3; ++cut) {
+    for (std::size_t start = 0; start < kLongest; ++start) {
+      const std::string_view text = std::string_view(around).substr(start, around.size() - start - cut);
+      ASSERT_EQ(FindText(text, "AKs"), kNowhere) << "start " << start << ", cut " << cut;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+// Reading and replacing files. A file of the user's is never written in place: its new content goes to a scratch file,
+// reaches the disk there, and takes the old file's name in one step, so that a crash or a full disk leaves the old
+// content whole. In memory text is UTF-8; on disk it is the code page of "support/windows_1252.h".
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+
+namespace quillon {
+
+/// The system calls that files are reached with, gathered so that a test can make each of them fail. Every call gives
+/// back what the system call of that name does, or the negated error number.
+class FileCalls {
+ public:
+  virtual ~FileCalls() = default;
+
+  virtual int Open(const std::string& path, int flags, mode_t mode) = 0;
+  virtual ssize_t Read(int file, std::span<char> buffer) = 0;
+  virtual ssize_t Write(int file, std::string_view bytes) = 0;
+  virtual int Sync(int file) = 0;
+  virtual int Close(int file) = 0;
+  virtual int Rename(const std::string& from, const std::string& to) = 0;
+  virtual int Unlink(const std::string& path) = 0;
+};
+
+/// The system's own calls.
+[[nodiscard]] FileCalls& SystemFileCalls();
+
+/// The whole file as bytes, the empty text if it cannot be read for whatever reason. A file of more than 64 MiB is none
+/// of ours and counts as unreadable; so does a folder.
+[[nodiscard]] std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// The whole file as text, the empty text if it cannot be read. A missing file reads as an empty one, without a
+/// message.
+[[nodiscard]] std::string ReadAllText(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// Puts `bytes` in the place of the file's content, or makes the file. The scratch file stands in `scratchFolder`,
+/// which should be on the same disk and not be a folder that the user sees listed; where it is on another disk or
+/// cannot be written, the scratch file stands beside the target. A link is followed, so that the file it names is
+/// replaced. Failure of any step is a RunTimeError that names the file and the reason; the old content is then still
+/// there and the scratch file is gone. A file that its permissions protect from writing is such a failure.
+void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
+                 FileCalls& calls = SystemFileCalls());
+
+/// Overwrites the file with the text and one line end (CR LF). Fails as ReplaceFile does.
+void WriteAllText(std::string_view text, const std::filesystem::path& path, const std::filesystem::path& scratchFolder,
+                  FileCalls& calls = SystemFileCalls());
+
+}  // namespace quillon

@@ -1,0 +1,558 @@
+#include "support/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <fstream>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kOld = "AA (1), KK (0), \r\n";
+const std::string kNew = "AA (0.5), KK (1), QQ (1), \r\n";
+
+// Looks at files past the routines under test.
+std::string Content(const fs::path& path) {
+  std::ostringstream content;
+  content << std::ifstream(path, std::ios::binary).rdbuf();
+  return content.str();
+}
+
+void Put(const fs::path& path, std::string_view bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::vector<std::string> Listing(const fs::path& folder) {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink };
+
+// Passes every call on to the system, keeps a record of it, and makes the chosen ones fail. A failing close has closed
+// the file all the same, as the system's own does.
+class FaultyFileCalls : public FileCalls {
+ public:
+  struct Entry {
+    Call call;
+    std::string path;  // empty for calls on an open file
+    int flags = 0;
+  };
+  // The negated error number for call number `number` (from 1), or nothing where the call shall go through.
+  using Fault = std::function<std::optional<int>(const Entry& entry, int number)>;
+
+  explicit FaultyFileCalls(
+      Fault fault = [](const Entry&, int) { return std::nullopt; }, std::size_t largestPiece = std::string::npos)
+      : fault_(std::move(fault)), largestPiece_(largestPiece) {}
+
+  int Open(const std::string& path, int flags, mode_t mode) override {
+    if (const auto error = Record({Call::kOpen, path, flags})) return *error;
+    return SystemFileCalls().Open(path, flags, mode);
+  }
+  ssize_t Read(int file, std::span<char> buffer) override {
+    if (const auto error = Record({Call::kRead, {}})) return *error;
+    return SystemFileCalls().Read(file, buffer.first(std::min(buffer.size(), largestPiece_)));
+  }
+  ssize_t Write(int file, std::string_view bytes) override {
+    if (const auto error = Record({Call::kWrite, {}})) return *error;
+    return SystemFileCalls().Write(file, bytes.substr(0, largestPiece_));
+  }
+  int Sync(int file) override {
+    if (const auto error = Record({Call::kSync, {}})) return *error;
+    return SystemFileCalls().Sync(file);
+  }
+  int Close(int file) override {
+    const auto error = Record({Call::kClose, {}});
+    const int closed = SystemFileCalls().Close(file);
+    return error ? *error : closed;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    if (const auto error = Record({Call::kRename, from})) return *error;
+    return SystemFileCalls().Rename(from, to);
+  }
+  int Unlink(const std::string& path) override {
+    if (const auto error = Record({Call::kUnlink, path})) return *error;
+    return SystemFileCalls().Unlink(path);
+  }
+
+  [[nodiscard]] const std::vector<Entry>& Made() const { return made_; }
+
+  [[nodiscard]] std::vector<std::string> ScratchFiles() const {
+    std::vector<std::string> paths;
+    for (const Entry& entry : made_) {
+      if (entry.call == Call::kOpen && (entry.flags & O_CREAT) != 0) paths.push_back(entry.path);
+    }
+    return paths;
+  }
+
+ private:
+  std::optional<int> Record(Entry entry) {
+    made_.push_back(std::move(entry));
+    return fault_(made_.back(), static_cast<int>(made_.size()));
+  }
+
+  Fault fault_;
+  std::size_t largestPiece_;
+  std::vector<Entry> made_;
+};
+
+FaultyFileCalls::Fault FailOnce(int atNumber, int error) {
+  return [=](const FaultyFileCalls::Entry&, int number) {
+    return number == atNumber ? std::optional(-error) : std::nullopt;
+  };
+}
+
+FaultyFileCalls::Fault FailAlways(Call call, int error) {
+  return [=](const FaultyFileCalls::Entry& entry, int) {
+    return entry.call == call ? std::optional(-error) : std::nullopt;
+  };
+}
+
+// Replaces the file and gives back the failure, if it failed.
+std::optional<RunTimeError> FailureOfReplacing(const fs::path& path, const fs::path& scratchFolder, FileCalls& calls) {
+  try {
+    ReplaceFile(path, kNew, scratchFolder, calls);
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return std::nullopt;
+}
+
+// A folder of the user's with a folder for scratch files beside it, both gone after the test.
+class Files : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = (fs::temp_directory_path() / "quillon-files-XXXXXX").string();
+    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+    root_ = pattern;
+    fs::create_directory(Folder());
+    fs::create_directory(ScratchFolder());
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    fs::remove_all(root_, ignored);
+  }
+
+  [[nodiscard]] fs::path Folder() const { return root_ / "Ranges"; }
+  [[nodiscard]] fs::path ScratchFolder() const { return root_ / "program"; }
+  [[nodiscard]] fs::path File() const { return Folder() / "Button.txt"; }
+
+  void ExpectNoScratchFiles() const {
+    EXPECT_THAT(Listing(Folder()), testing::Each(testing::Not(testing::HasSubstr("quillon"))));
+    EXPECT_THAT(Listing(ScratchFolder()), testing::IsEmpty());
+  }
+
+  [[nodiscard]] std::optional<RunTimeError> Replace(FileCalls& calls) const {
+    return FailureOfReplacing(File(), ScratchFolder(), calls);
+  }
+
+ private:
+  fs::path root_;
+};
+
+using ReadingBytes = Files;
+using ReadingText = Files;
+using ReplacingAFile = Files;
+using WritingText = Files;
+
+TEST_F(ReadingBytes, GivesTheWholeFile) {
+  Put(File(), kOld);
+  EXPECT_EQ(ReadAllBytes(File()), kOld);
+}
+
+TEST_F(ReadingBytes, GivesEveryByteAsItIs) {
+  std::string bytes;
+  for (int i = 0; i < 3 * 4096 + 17; ++i)  // several buffers and a rest
+    bytes += static_cast<char>(i % 251);
+  Put(File(), bytes);
+  EXPECT_EQ(ReadAllBytes(File()), bytes);
+}
+
+TEST_F(ReadingBytes, WhatCannotBeReadIsEmpty) {
+  EXPECT_EQ(ReadAllBytes(Folder() / "missing.txt"), "") << "a missing file";
+  EXPECT_EQ(ReadAllBytes(Folder() / "missing" / "missing.txt"), "") << "a file in a missing folder";
+  EXPECT_EQ(ReadAllBytes(Folder()), "") << "a folder";
+  EXPECT_EQ(ReadAllBytes({}), "") << "no path";
+  EXPECT_EQ(ReadAllBytes(Folder() / std::string(5000, 'x')), "") << "a name too long";
+  Put(File(), "");
+  EXPECT_EQ(ReadAllBytes(File()), "") << "an empty file";
+  fs::create_symlink(Folder() / "missing.txt", Folder() / "dangling.txt");
+  EXPECT_EQ(ReadAllBytes(Folder() / "dangling.txt"), "") << "a link to nothing";
+}
+
+TEST_F(ReadingBytes, NamedPipeDoesNotHoldTheProgram) {
+  ASSERT_EQ(::mkfifo(File().c_str(), 0600), 0);
+  EXPECT_EQ(ReadAllBytes(File()), "");
+}
+
+TEST_F(ReadingBytes, FileBeyondTheLimitCountsAsUnreadable) {
+  constexpr std::uintmax_t kLimit = std::uintmax_t{64} << 20U;
+  Put(File(), "AA (1), ");
+  fs::resize_file(File(), kLimit);
+  EXPECT_EQ(ReadAllBytes(File()).size(), kLimit);
+  fs::resize_file(File(), kLimit + 1);
+  EXPECT_EQ(ReadAllBytes(File()), "");
+}
+
+TEST_F(ReadingBytes, ShortReadsAreJoined) {
+  Put(File(), kOld);
+  FaultyFileCalls calls([](const auto&, int) { return std::nullopt; }, 1);
+  EXPECT_EQ(ReadAllBytes(File(), calls), kOld);
+}
+
+TEST_F(ReadingBytes, FailureOfAnyCallIsAnEmptyTextOrTheWholeOne) {
+  Put(File(), kOld);
+  const std::size_t callCount = [this] {
+    FaultyFileCalls calls;
+    static_cast<void>(ReadAllBytes(File(), calls));
+    return calls.Made().size();
+  }();
+  ASSERT_GE(callCount, 4U) << "open, read, read at the end, close";
+  for (const int error : {EIO, EACCES, EISDIR}) {
+    for (std::size_t number = 1; number <= callCount; ++number) {
+      FaultyFileCalls calls(FailOnce(static_cast<int>(number), error));
+      const std::string bytes = ReadAllBytes(File(), calls);
+      const bool all = calls.Made().at(number - 1).call == Call::kClose;
+      EXPECT_EQ(bytes, all ? kOld : "") << "call " << number << ", error " << error;
+    }
+  }
+}
+
+TEST_F(ReadingBytes, InterruptedCallIsMadeAgain) {
+  Put(File(), kOld);
+  for (int number = 1; number <= 5; ++number) {
+    FaultyFileCalls calls(FailOnce(number, EINTR));
+    EXPECT_EQ(ReadAllBytes(File(), calls), kOld) << "call " << number;
+  }
+}
+
+TEST_F(ReadingText, BytesOfTheCodePageBecomeText) {
+  Put(File(), "\xFF\x80 \x81");
+  EXPECT_EQ(ReadAllText(File()), "\u00FF\u20AC \xC2\x81");
+}
+
+TEST_F(ReadingText, MissingFileReadsAsAnEmptyOne) {
+  EXPECT_EQ(ReadAllText(File()), "");
+}
+
+TEST_F(WritingText, AddsOneLineEnd) {
+  WriteAllText("AA (1), ", File(), ScratchFolder());
+  EXPECT_EQ(Content(File()), "AA (1), \r\n");
+  WriteAllText("", File(), ScratchFolder());
+  EXPECT_EQ(Content(File()), "\r\n");
+  WriteAllText("a\r\n", File(), ScratchFolder());
+  EXPECT_EQ(Content(File()), "a\r\n\r\n");
+}
+
+TEST_F(WritingText, WritesTheCodePage) {
+  WriteAllText("\u00FF\u20AC\u2660", File(), ScratchFolder());
+  EXPECT_EQ(Content(File()), "\xFF\x80?\r\n");
+}
+
+TEST_F(WritingText, FailsAsReplaceFileDoes) {
+  Put(File(), kOld);
+  FaultyFileCalls calls(FailAlways(Call::kWrite, ENOSPC));
+  EXPECT_THROW(WriteAllText("AA (1), ", File(), ScratchFolder(), calls), RunTimeError);
+  EXPECT_EQ(Content(File()), kOld);
+}
+
+TEST_F(ReplacingAFile, MakesTheFile) {
+  ReplaceFile(File(), kNew, ScratchFolder());
+  EXPECT_EQ(Content(File()), kNew);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, NewContentTakesThePlaceOfTheOld) {
+  Put(File(), std::string(100000, 'x'));
+  ReplaceFile(File(), kNew, ScratchFolder());
+  EXPECT_EQ(Content(File()), kNew);
+  ReplaceFile(File(), "", ScratchFolder());
+  EXPECT_EQ(Content(File()), "");
+  EXPECT_EQ(Listing(Folder()), std::vector<std::string>{"Button.txt"});
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, BytesAreWrittenAsTheyAre) {
+  const std::string bytes("\0\r\n\xFF\x1A", 5);
+  ReplaceFile(File(), bytes, ScratchFolder());
+  EXPECT_EQ(Content(File()), bytes);
+}
+
+TEST_F(ReplacingAFile, ShortWritesAreJoined) {
+  FaultyFileCalls calls([](const auto&, int) { return std::nullopt; }, 1);
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  EXPECT_EQ(Content(File()), kNew);
+}
+
+// Names of the calls from the scratch file's birth to its taking the target's name.
+TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
+  Put(File(), kOld);
+  FaultyFileCalls calls;
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+
+  std::vector<Call> order;
+  bool scratch = false;
+  for (const auto& entry : calls.Made()) {
+    scratch = scratch || (entry.call == Call::kOpen && (entry.flags & O_CREAT) != 0);
+    if (scratch) order.push_back(entry.call);
+    if (entry.call == Call::kRename) break;
+  }
+  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
+}
+
+TEST_F(ReplacingAFile, ScratchFileStandsInItsFolderUnderANameOfItsOwn) {
+  FaultyFileCalls calls;
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  const std::vector<std::string> scratch = calls.ScratchFiles();
+  ASSERT_EQ(scratch.size(), 2U);
+  EXPECT_NE(scratch[0], scratch[1]);
+  for (const std::string& path : scratch)
+    EXPECT_EQ(fs::path(path).parent_path(), ScratchFolder());
+}
+
+TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
+  Put(File(), kOld);
+  struct Case {
+    const char* rule;
+    FaultyFileCalls::Fault fault;
+    fs::path scratch;
+  };
+  const auto failInScratchFolder = [this](int error) {
+    return [this, error](const FaultyFileCalls::Entry& entry, int) -> std::optional<int> {
+      const bool there = fs::path(entry.path).parent_path() == ScratchFolder();
+      return entry.call == Call::kOpen && there ? std::optional(-error) : std::nullopt;
+    };
+  };
+  const std::vector<Case> cases = {
+      {"missing", [](const auto&, int) { return std::nullopt; }, Folder().parent_path() / "missing"},
+      {"not to be written", failInScratchFolder(EACCES), ScratchFolder()},
+      {"on a disk that is read-only", failInScratchFolder(EROFS), ScratchFolder()},
+      {"on another disk",
+       [this](const FaultyFileCalls::Entry& entry, int) {
+         const bool apart = entry.call == Call::kRename && fs::path(entry.path).parent_path() == ScratchFolder();
+         return apart ? std::optional(-EXDEV) : std::nullopt;
+       },
+       ScratchFolder()},
+  };
+  for (const Case& c : cases) {
+    FaultyFileCalls calls(c.fault);
+    EXPECT_FALSE(FailureOfReplacing(File(), c.scratch, calls)) << c.rule;
+    EXPECT_EQ(Content(File()), kNew) << c.rule;
+    ExpectNoScratchFiles();
+    ASSERT_FALSE(calls.ScratchFiles().empty()) << c.rule;
+    EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), Folder()) << c.rule;
+    Put(File(), kOld);
+  }
+}
+
+TEST_F(ReplacingAFile, LinkIsFollowed) {
+  const fs::path elsewhere = Folder().parent_path() / "elsewhere";
+  fs::create_directory(elsewhere);
+  Put(elsewhere / "kept.txt", kOld);
+  fs::create_symlink("../elsewhere/kept.txt", Folder() / "near.txt");
+  fs::create_symlink(Folder() / "near.txt", File());
+  ReplaceFile(File(), kNew, ScratchFolder());
+  EXPECT_TRUE(fs::is_symlink(File()));
+  EXPECT_TRUE(fs::is_symlink(Folder() / "near.txt"));
+  EXPECT_FALSE(fs::is_symlink(elsewhere / "kept.txt"));
+  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
+  EXPECT_THAT(Listing(elsewhere), testing::ElementsAre("kept.txt"));
+}
+
+TEST_F(ReplacingAFile, LinkToNothingMakesTheFileItNames) {
+  fs::create_symlink("later.txt", File());
+  ReplaceFile(File(), kNew, ScratchFolder());
+  EXPECT_TRUE(fs::is_symlink(File()));
+  EXPECT_EQ(Content(Folder() / "later.txt"), kNew);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, LinkToItselfFails) {
+  fs::create_symlink(File(), File());
+  const auto error = Replace(SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
+  EXPECT_TRUE(fs::is_symlink(File()));
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, LinkedFileIsTriedBesideItself) {
+  const fs::path elsewhere = Folder().parent_path() / "elsewhere";
+  fs::create_directory(elsewhere);
+  fs::create_symlink(elsewhere / "kept.txt", File());
+  FaultyFileCalls calls;
+  EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
+  EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), elsewhere);
+  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
+}
+
+TEST_F(ReplacingAFile, FolderIsNoFile) {
+  const auto error = FailureOfReplacing(Folder(), ScratchFolder(), SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPathFileAccess);
+  EXPECT_TRUE(fs::is_directory(Folder()));
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, NamedPipeIsNoFile) {
+  ASSERT_EQ(::mkfifo(File().c_str(), 0600), 0);
+  EXPECT_TRUE(Replace(SystemFileCalls()));
+  EXPECT_TRUE(fs::is_fifo(File()));
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, FileInAMissingFolderFails) {
+  const auto error = FailureOfReplacing(Folder() / "missing" / "Button.txt", ScratchFolder(), SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kFileNotFound);
+  EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, NameTooLongFails) {
+  const auto error = FailureOfReplacing(Folder() / std::string(5000, 'x'), ScratchFolder(), SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kBadFileName);
+  ExpectNoScratchFiles();
+}
+
+// The folder would allow the rename; the file's own permissions do not.
+TEST_F(ReplacingAFile, ProtectedFileIsNotReplaced) {
+  Put(File(), kOld);
+  FaultyFileCalls calls([this](const FaultyFileCalls::Entry& entry, int) {
+    const bool writes = entry.call == Call::kOpen && (entry.flags & O_ACCMODE) != O_RDONLY;
+    return writes && entry.path == fs::canonical(File()).string() ? std::optional(-EACCES) : std::nullopt;
+  });
+  const auto error = Replace(calls);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
+  EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
+  EXPECT_EQ(Content(File()), kOld);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(ReplacingAFile, FileProtectedByTheSystemIsNotReplaced) {
+  if (::geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
+  Put(File(), kOld);
+  fs::permissions(File(), fs::perms::owner_read);
+  const auto error = Replace(SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
+  EXPECT_EQ(Content(File()), kOld);
+  ExpectNoScratchFiles();
+}
+
+struct DiskCase {
+  const char* rule;
+  int error;
+};
+
+class ReplacingAFileOnABadDisk : public Files, public testing::WithParamInterface<DiskCase> {
+ protected:
+  // Lets each call in turn fail once, until a run makes too few calls for it. What is in the file beforehand is `old`,
+  // or no file if there is none.
+  void FailEachCallInTurn(const std::optional<std::string>& old, std::size_t largestPiece) {
+    bool reached = true;
+    for (int number = 1; reached; ++number) {
+      fs::remove(File());
+      if (old) Put(File(), *old);
+      FaultyFileCalls calls(FailOnce(number, GetParam().error), largestPiece);
+      const auto error = Replace(calls);
+      reached = calls.Made().size() >= static_cast<std::size_t>(number);
+      SCOPED_TRACE("call " + std::to_string(number));
+      ExpectOldOrNew(old, error);
+    }
+  }
+
+ private:
+  void ExpectOldOrNew(const std::optional<std::string>& old, const std::optional<RunTimeError>& error) {
+    ExpectNoScratchFiles();
+    if (!error) {
+      EXPECT_EQ(Content(File()), kNew);
+      return;
+    }
+    EXPECT_NE(GetParam().error, EINTR) << "an interruption is no failure";
+    EXPECT_EQ(fs::exists(File()), old.has_value());
+    EXPECT_EQ(Content(File()), old.value_or(""));
+    EXPECT_EQ(error->Fault(), RunTimeFaultOf(GetParam().error));
+    EXPECT_THAT(error->what(), testing::HasSubstr(File().string()));
+  }
+};
+
+TEST_P(ReplacingAFileOnABadDisk, OldOrNewContentIsWhole) {
+  FailEachCallInTurn(kOld, std::string::npos);
+}
+
+TEST_P(ReplacingAFileOnABadDisk, OldOrNewContentIsWholeWithShortWrites) {
+  FailEachCallInTurn(kOld, 5);
+}
+
+TEST_P(ReplacingAFileOnABadDisk, NewFileIsWholeOrNotThere) {
+  FailEachCallInTurn(std::nullopt, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(ByError, ReplacingAFileOnABadDisk,
+                         testing::Values(DiskCase{"Full", ENOSPC}, DiskCase{"Forbidden", EACCES},
+                                         DiskCase{"Broken", EIO}, DiskCase{"Interrupted", EINTR},
+                                         DiskCase{"OverQuota", EDQUOT}, DiskCase{"ReadOnly", EROFS}),
+                         [](const auto& disk) { return std::string(disk.param.rule); });
+
+TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
+  struct Case {
+    const char* rule;
+    Call call;
+    int error;
+    RunTimeFault fault;
+  };
+  const std::vector<Case> cases = {
+      {"no file can be opened", Call::kOpen, EACCES, RunTimeFault::kPermissionDenied},
+      {"the disk is full", Call::kWrite, ENOSPC, RunTimeFault::kDiskFull},
+      {"the disk takes nothing", Call::kWrite, 0, RunTimeFault::kDeviceError},
+      {"the disk does not sync", Call::kSync, EIO, RunTimeFault::kDeviceError},
+      {"the disk is full when the file is closed", Call::kClose, ENOSPC, RunTimeFault::kDiskFull},
+      {"no name can be changed", Call::kRename, EACCES, RunTimeFault::kPermissionDenied},
+      {"every folder is on another disk", Call::kRename, EXDEV, RunTimeFault::kDeviceError},
+  };
+  for (const Case& c : cases) {
+    Put(File(), kOld);
+    FaultyFileCalls calls(FailAlways(c.call, c.error));
+    const auto error = Replace(calls);
+    ASSERT_TRUE(error) << c.rule;
+    EXPECT_EQ(error->Fault(), c.fault) << c.rule;
+    EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt")) << c.rule;
+    EXPECT_EQ(Content(File()), kOld) << c.rule;
+    ExpectNoScratchFiles();
+  }
+}
+
+TEST_F(ReplacingAFile, NoFileStaysOpen) {
+  const auto openFiles = [] { return Listing("/proc/self/fd").size(); };
+  Put(File(), kOld);
+  const std::size_t before = openFiles();
+  for (int number = 1; number <= 12; ++number) {
+    FaultyFileCalls calls(FailOnce(number, EIO));
+    static_cast<void>(Replace(calls));
+    static_cast<void>(ReadAllBytes(File(), calls));
+  }
+  EXPECT_EQ(openFiles(), before);
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,272 @@
+#include "support/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+constexpr int kSignificantDigits = 15;
+constexpr int kMostDecimals = 15;
+
+// The longest fixed form of a double: sign, 309 digits, point, and the decimals asked for.
+constexpr std::size_t kFixedFormSize = 400;
+
+// A double holds every integer below 2^53 and every power of ten up to 10^22 exactly, so one multiplication or division
+// of the two gives the correctly rounded number (W. D. Clinger, "How to read floating point numbers accurately", 1990).
+constexpr std::uint64_t kExactIntegerLimit = std::uint64_t{1} << 53U;
+constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                                 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr std::size_t kMostFastDigits = 15;
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+struct ScientificForm {
+  bool negative;
+  std::string digits;  // significant digits without trailing zeros, at least one
+  int exponent;  // power of ten of the first digit
+};
+
+ScientificForm ToScientific(double value) {
+  std::array<char, 32> buffer{};
+  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                        std::chars_format::scientific, kSignificantDigits - 1)
+                              .ptr;
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  const std::size_t mark = text.find('e');
+
+  ScientificForm form{value < 0, std::string(1, text[0]), 0};
+  form.digits += text.substr(2, mark - 2);
+  form.digits.erase(form.digits.find_last_not_of('0') + 1);
+  const std::size_t exponentStart = text[mark + 1] == '+' ? mark + 2 : mark + 1;
+  std::from_chars(text.data() + exponentStart, text.data() + text.size(), form.exponent);
+  return form;
+}
+
+std::string ExponentText(const ScientificForm& form) {
+  std::string text(1, form.digits[0]);
+  if (form.digits.size() > 1) text.append(".").append(form.digits, 1);
+  const std::string power = std::to_string(std::abs(form.exponent));
+  text += form.exponent < 0 ? "E-" : "E+";
+  if (power.size() < 2) text += '0';
+  return text + power;
+}
+
+std::string FixedText(const ScientificForm& form) {
+  const int digitCount = static_cast<int>(form.digits.size());
+  if (form.exponent < 0) return "0." + std::string(static_cast<std::size_t>(-form.exponent - 1), '0') + form.digits;
+  if (form.exponent >= digitCount - 1) {
+    return form.digits + std::string(static_cast<std::size_t>(form.exponent - digitCount + 1), '0');
+  }
+  std::string text = form.digits;
+  text.insert(static_cast<std::size_t>(form.exponent) + 1, ".");
+  return text;
+}
+
+// Whether a number that has no double is too small for one, and not too large. It says so by the place of its first
+// digit that is not 0, moved by its exponent: digits and exponent may make up for each other.
+bool IsTooSmall(std::string_view compact) {
+  const std::size_t mark = std::min(compact.find_first_of("eE"), compact.size());
+  const std::size_t point = std::min(compact.find('.'), mark);
+  const std::size_t leading = compact.find_first_not_of("0.");
+  const auto place = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(leading);
+
+  std::string_view power = compact.substr(std::min(mark + 1, compact.size()));
+  const bool negative = power.starts_with('-');
+  if (power.starts_with('+')) power.remove_prefix(1);
+  std::int64_t exponent = 0;
+  const auto result = std::from_chars(power.data(), power.data() + power.size(), exponent);
+  if (result.ec == std::errc::result_out_of_range) return negative;
+  return exponent < -place;
+}
+
+// A number of the grammar, with blanks taken out, read with the library's correctly rounding parser.
+double ParseCompact(std::string_view compact) {
+  const bool negative = compact.front() == '-';
+  if (compact.front() == '-' || compact.front() == '+') compact.remove_prefix(1);
+  double value = 0;
+  const auto result = std::from_chars(compact.data(), compact.data() + compact.size(), value);
+  if (result.ec == std::errc::result_out_of_range) {
+    value = IsTooSmall(compact) ? 0.0 : std::numeric_limits<double>::max();
+  }
+  return negative ? -value : value;
+}
+
+// Digits with at most one point, as far as they go from the start of a text.
+struct PlainStart {
+  double value;
+  bool exact;  // there are digits, and so few that the value is correctly rounded
+  std::size_t length;
+};
+
+// Almost every text read is a short plain decimal, and reading a table entry is the program's innermost step. What this
+// does not settle is left to the scanner.
+PlainStart ReadPlainStart(std::string_view text) {
+  std::uint64_t mantissa = 0;
+  std::size_t length = 0;
+  std::size_t point = std::string_view::npos;
+  for (; length < text.size(); ++length) {
+    const char c = text[length];
+    if (IsDigit(c)) {
+      mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+    } else if (c == '.' && point == std::string_view::npos) {
+      point = length;
+    } else {
+      break;
+    }
+  }
+  const bool hasPoint = point != std::string_view::npos;
+  const std::size_t digits = hasPoint ? length - 1 : length;
+  const std::size_t decimals = hasPoint ? length - 1 - point : 0;
+  if (digits == 0 || digits > kMostFastDigits) return {0, false, length};
+  return {static_cast<double>(mantissa) / kPowersOfTen[decimals], true, length};
+}
+
+// Walks a text over its blanks and gathers what belongs to its leading number.
+class NumberScanner {
+ public:
+  explicit NumberScanner(std::string_view text) : text_(text) {}
+
+  double Read() {
+    TakeSign();
+    std::size_t digits = TakeDigits();
+    if (Peek() == '.') {
+      Take();
+      digits += TakeDigits();
+    }
+    if (digits == 0) return 0;
+    TakeExponent();
+    return ParseCompact(compact_);
+  }
+
+ private:
+  char Peek() {
+    while (position_ < text_.size() && text_[position_] == ' ')
+      ++position_;
+    return position_ < text_.size() ? text_[position_] : '\0';
+  }
+
+  void Take() { compact_ += text_[position_++]; }
+
+  void TakeSign() {
+    if (Peek() == '+' || Peek() == '-') Take();
+  }
+
+  std::size_t TakeDigits() {
+    std::size_t count = 0;
+    for (; IsDigit(Peek()); ++count)
+      Take();
+    return count;
+  }
+
+  // An exponent counts only with at least one digit: "1e" and "1e+" are the number 1.
+  void TakeExponent() {
+    if (Peek() != 'e' && Peek() != 'E') return;
+    const std::size_t mantissaLength = compact_.size();
+    Take();
+    TakeSign();
+    if (TakeDigits() == 0) compact_.resize(mantissaLength);
+  }
+
+  std::string_view text_;
+  std::size_t position_ = 0;
+  std::string compact_;
+};
+
+std::string FixedForm(double value, int digits) {
+  std::array<char, kFixedFormSize> buffer{};
+  const char* const end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, digits).ptr;
+  return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
+}
+
+// A value is an exact tie at n decimals just when value * 2^(n+1) is an odd integer: value * 10^n is then an odd
+// multiple of a half.
+bool IsTie(double value, int digits) {
+  return std::abs(std::fmod(std::ldexp(value, digits + 1), 2.0)) == 1.0;
+}
+
+// Printing takes ties to even. With one decimal more a tie is printed as it is; its last digits are 25 or 75, so the 2
+// or 7 has only to go up by one.
+std::string TieAwayFromZero(double value, int digits) {
+  std::string text = FixedForm(value, digits + 1);
+  text.pop_back();
+  ++text.back();
+  return text;
+}
+
+}  // namespace
+
+std::string NumberText(double value) {
+  if (!std::isfinite(value)) throw RunTimeError(RunTimeFault::kOverflow);
+  if (value == 0) return "0";
+
+  const ScientificForm form = ToScientific(value);
+  const int decimals = static_cast<int>(form.digits.size()) - 1 - form.exponent;
+  const bool needsExponent = decimals > kMostDecimals || form.exponent >= kSignificantDigits;
+  return (form.negative ? "-" : "") + (needsExponent ? ExponentText(form) : FixedText(form));
+}
+
+double LeadingNumber(std::string_view text) {
+  const PlainStart start = ReadPlainStart(text);
+  const char next = start.length < text.size() ? text[start.length] : '\0';
+  const bool mayGoOn = next == ' ' || next == 'e' || next == 'E';
+  return start.exact && !mayGoOn ? start.value : NumberScanner(text).Read();
+}
+
+double LeadingNumberBefore(std::string_view text, char end) {
+  const PlainStart start = ReadPlainStart(text);
+  if (start.exact && start.length < text.size() && text[start.length] == end) return start.value;
+  return LeadingNumber(text.substr(0, text.find(end)));
+}
+
+bool IsNumericText(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return false;
+  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+
+  const auto take = [&text](char wanted) {
+    if (text.empty() || text.front() != wanted) return false;
+    text.remove_prefix(1);
+    return true;
+  };
+  const auto takeDigits = [&text](bool commas) {
+    std::size_t count = 0;
+    while (!text.empty()) {
+      const bool comma = commas && count > 0 && text[0] == ',' && text.size() > 1 && IsDigit(text[1]);
+      if (!comma && !IsDigit(text[0])) break;
+      text.remove_prefix(comma ? 2 : 1);
+      ++count;
+    }
+    return count;
+  };
+
+  const bool currencySeen = take('$');
+  const bool signSeen = take('+') || take('-');
+  if (signSeen && !currencySeen) take('$');
+  std::size_t digits = takeDigits(true);
+  if (take('.')) digits += takeDigits(false);
+  if (digits == 0) return false;
+  if (take('e') || take('E')) {
+    if (!take('+')) take('-');
+    if (takeDigits(false) == 0) return false;
+  }
+  return text.empty();
+}
+
+std::string PatternText(double value, int digits) {
+  if (!std::isfinite(value)) throw RunTimeError(RunTimeFault::kOverflow);
+  if (value == 0) value = 0;  // a negative zero has no sign
+  if (digits == 0) return FixedForm(std::round(value), 0);
+  return IsTie(value, digits) ? TieAwayFromZero(value, digits) : FixedForm(value, digits);
+}
+
+}  // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+// How numbers become text and text becomes numbers, everywhere in the program. Numbers pass between routines as text
+// (range files, the results table, amount boxes), so these few routines decide what a number is. None of them looks at
+// the locale: the decimal mark is always a point.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// A number in the general form: at most 15 significant digits, no trailing zeros, no trailing point, a 0 before the
+/// point, no thousands separators, a minus sign where negative and never a plus sign. A value whose fixed form would
+/// need more than 15 decimals, or more than 15 digits before the point, takes the exponent form.
+///
+///     150 -> "150"      0.1 + 0.2 -> "0.3"      -0.5 -> "-0.5"      -0.0 -> "0"
+///     1.0 - 0.920788 -> "7.92119999999999E-02"  1e15 -> "1E+15"
+///
+/// A value that is not finite has no text: RunTimeError "Overflow".
+[[nodiscard]] std::string NumberText(double value);
+
+/// The number at the start of a text: the longest start that reads as an optional sign, digits, an optional fraction
+/// after a point and an optional exponent. Blanks (the space character) are skipped wherever they stand; anything else
+/// ends the number, and a text with no such start gives 0. Never fails: a number beyond the range of a double gives the
+/// largest finite double with its sign, one too small gives 0.
+///
+///     "12abc" -> 12      "1,000" -> 1      " 1 000" -> 1000      "1.5.2" -> 1.5
+///     "1e3" -> 1000      "1e" -> 1         "-.5" -> -0.5         "$5" -> 0      "" -> 0
+[[nodiscard]] double LeadingNumber(std::string_view text);
+
+/// The number at the start of what stands before the first `end` in a text, or of the whole text if it holds none:
+/// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there, without looking for the cut first.
+[[nodiscard]] double LeadingNumberBefore(std::string_view text, char end);
+
+/// Whether the whole of a text is a number as people write amounts: blanks at both ends, one sign, one "$" before or
+/// behind the sign, digits with single commas between them as thousands separators, a fraction after a point, and an
+/// exponent. It must hold a digit before any exponent.
+///
+///     true:  "150"  "$1,000.50"  "-5"  "+5"  "-$5"  "$-5"  ".5"  "5."  "1e3"  " 7 "
+///     false: ""  "12abc"  "$"  "."  "1 000"  "--5"  "1.5.2"  "1.5,0"  ",5"  "5,"  "5-"  "(5)"  "=5"
+[[nodiscard]] bool IsNumericText(std::string_view text);
+
+/// A number with exactly `digits` decimals, rounded half away from zero on the binary value, and at least one digit
+/// before the point: the number patterns "0.000" (digits 3) and, with the leading 0 taken off by the caller, ".00".
+///
+///     (0.0625, 3) -> "0.063"      (-1, 3) -> "-1.000"      (1234.5, 2) -> "1234.50"
+///
+/// A loss too small to show keeps its sign, (-0.001, 2) -> "-0.00", but a negative zero has none.
+///
+/// A value that is not finite has no text: RunTimeError "Overflow".
+[[nodiscard]] std::string PatternText(double value, int digits);
+
+}  // namespace quillon

@@ -1,0 +1,414 @@
+#include "support/number_text.h"
+
+#include <charconv>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <iomanip>
+#include <limits>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+constexpr double kLargest = std::numeric_limits<double>::max();
+constexpr double kSmallest = std::numeric_limits<double>::denorm_min();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+
+double LibraryNumber(const std::string& text) {
+  double value = 0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
+}
+
+struct NumberCase {
+  const char* rule;
+  double value;
+  const char* text;
+};
+
+TEST(NumberText, IsTheGeneralForm) {
+  const std::vector<NumberCase> cases = {
+      {"an integer has no point", 150, "150"},
+      {"a fraction has no zeros at its end", 12.5, "12.5"},
+      {"a fraction has a 0 before the point", 0.85, "0.85"},
+      {"what floats add wrongly is gone behind 15 digits", 0.1 + 0.2, "0.3"},
+      {"a minus sign where negative", -0.5, "-0.5"},
+      {"nothing", 0, "0"},
+      {"a negative nothing has no sign", -0.0, "0"},
+      {"zeros before the point stay", 100, "100"},
+      {"zeros within stay", 1002.003, "1002.003"},
+      {"15 digits", -12.3456789012345, "-12.3456789012345"},
+      {"a 16th digit rounds the 15th", 0.1234567890123456, "0.123456789012346"},
+      {"a 16th digit before the point goes into the exponent form", 1234567890123456, "1.23456789012346E+15"},
+      {"a rounding that runs through all digits", 0.9999999999999999, "1"},
+      {"the equity complement that has too many decimals", 1.0 - 0.920788, "7.92119999999999E-02"},
+      {"15 decimals are fixed", 1e-15, "0.000000000000001"},
+      {"16 decimals are not", 1e-16, "1E-16"},
+      {"negative with 16 decimals", -1e-16, "-1E-16"},
+      {"few digits far behind the point are fixed", 0.00012, "0.00012"},
+      {"15 decimals, several digits", 1.2e-14, "0.000000000000012"},
+      {"16 decimals, several digits", 1.2e-15, "1.2E-15"},
+      {"15 digits behind the point", 0.123456789012345, "0.123456789012345"},
+      {"15 digits behind the point and a zero", 0.0123456789012345, "1.23456789012345E-02"},
+      {"15 digits before the point are fixed", 999999999999999, "999999999999999"},
+      {"16 digits before the point are not", 1e15, "1E+15"},
+      {"rounding to 15 digits makes a 16th place", 999999999999999.9, "1E+15"},
+      {"14 zeros before the point", 1e14, "100000000000000"},
+      {"exponents have two digits", 1.5e20, "1.5E+20"},
+      {"or three", 1.5e-200, "1.5E-200"},
+      {"the largest number", kLargest, "1.79769313486232E+308"},
+      {"the lowest number", -kLargest, "-1.79769313486232E+308"},
+      {"the smallest number", kSmallest, "4.94065645841247E-324"},
+  };
+  for (const NumberCase& c : cases)
+    EXPECT_EQ(NumberText(c.value), c.text) << c.rule;
+}
+
+// 1 minus these is what the equity table holds below its diagonal in the exponent form.
+TEST(NumberText, SevenEquitiesTakeTheExponentForm) {
+  const std::vector<NumberCase> cases = {
+      {"Q8o against QQ", 1.0 - 0.920788, "7.92119999999999E-02"},
+      {"A6o against AA", 1.0 - 0.935618, "6.43820000000001E-02"},
+      {"T6o against TT", 1.0 - 0.91424, "8.57599999999999E-02"},
+      {"Q5o against QQ", 1.0 - 0.930421, "6.95789999999999E-02"},
+      {"J4o against JJ", 1.0 - 0.931726, "6.82739999999999E-02"},
+      {"K2o against KK", 1.0 - 0.946266, "5.37339999999999E-02"},
+      {"T2o against TT", 1.0 - 0.937031, "6.29690000000001E-02"},
+  };
+  for (const NumberCase& c : cases) {
+    EXPECT_EQ(NumberText(c.value), c.text) << c.rule;
+    EXPECT_EQ(NumberText(LeadingNumber(c.text)), c.text) << c.rule;
+  }
+}
+
+TEST(NumberText, WhatIsNotFiniteOverflows) {
+  for (const double value : {kInfinity, -kInfinity, kNotANumber}) {
+    try {
+      static_cast<void>(NumberText(value));
+      ADD_FAILURE() << value << " has a text";
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
+    }
+  }
+}
+
+// A number of up to 15 significant digits, written as the rules of the general form have it.
+std::string GeneralForm(const std::string& digits, int exponent, bool negative) {
+  const int count = static_cast<int>(digits.size());
+  const std::string sign = negative ? "-" : "";
+  if (exponent >= 15 || count - 1 - exponent > 15) {
+    const std::string power = (std::abs(exponent) < 10 ? "0" : "") + std::to_string(std::abs(exponent));
+    return sign + digits[0] + (count > 1 ? "." + digits.substr(1) : "") + (exponent < 0 ? "E-" : "E+") + power;
+  }
+  if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent) - 1, '0') + digits;
+  const auto whole = static_cast<std::size_t>(exponent) + 1;
+  if (digits.size() <= whole) return sign + digits + std::string(whole - digits.size(), '0');
+  return sign + digits.substr(0, whole) + "." + digits.substr(whole);
+}
+
+TEST(NumberText, EveryDecimalOf15DigitsComesBackAsItWas) {
+  std::mt19937_64 source(169);
+  const auto pick = [&source](int low, int high) { return std::uniform_int_distribution<int>(low, high)(source); };
+  for (int i = 0; i < 200000; ++i) {
+    const int count = pick(1, 15);
+    std::string digits(1, static_cast<char>('0' + pick(1, 9)));
+    for (int k = 1; k < count; ++k)
+      digits += static_cast<char>('0' + (k == count - 1 ? pick(1, 9) : pick(0, 9)));
+    const int exponent = i % 2 == 0 ? pick(-18, 18) : pick(-290, 290);
+    const std::string text = GeneralForm(digits, exponent, pick(0, 1) == 1);
+    ASSERT_EQ(NumberText(LeadingNumber(text)), text);
+  }
+}
+
+TEST(NumberText, IsTheNumberThatTheLibraryPrintsAt15Digits) {
+  std::mt19937_64 source(1326);
+  std::uniform_real_distribution<double> mantissa(-1, 1);
+  std::uniform_int_distribution<int> exponent(-1000, 1000);
+  for (int i = 0; i < 100000; ++i) {
+    const double value = std::ldexp(mantissa(source), i % 2 == 0 ? exponent(source) : exponent(source) / 50);
+    std::ostringstream printed;
+    printed << std::setprecision(15) << value;
+    ASSERT_EQ(LeadingNumber(NumberText(value)), LibraryNumber(printed.str())) << printed.str();
+  }
+}
+
+struct ParseCase {
+  const char* rule;
+  std::string text;
+  double value;
+};
+
+TEST(LeadingNumber, ReadsTheLongestStartThatIsANumber) {
+  const std::vector<ParseCase> cases = {
+      {"letters end a number", "12abc", 12},
+      {"a comma ends a number", "1,000", 1},
+      {"blanks are skipped before and within", " 1 000", 1000},
+      {"blanks are skipped between sign and digits", "- 5", -5},
+      {"blanks are skipped around the point", "1 . 5", 1.5},
+      {"blanks are skipped in the exponent", "1 e - 2", 0.01},
+      {"blanks behind do not matter", "7   ", 7},
+      {"a second point ends a number", "1.5.2", 1.5},
+      {"a second point ends a number at once", "1..2", 1},
+      {"an exponent", "1e3", 1000},
+      {"an exponent in capitals", "1E3", 1000},
+      {"an exponent with its sign", "1e+3", 1000},
+      {"a negative exponent", "5.37339999999999E-02", 0.0537339999999999},
+      {"an exponent without digits does not count", "1e", 1},
+      {"nor with its sign alone", "1e+", 1},
+      {"nor with a blank and a letter", "1e x", 1},
+      {"an exponent ends at its point", "1e2.5", 100},
+      {"an exponent needs a number before it", "e5", 0},
+      {"nor does a point make one", ".e5", 0},
+      {"no digit before the point", "-.5", -0.5},
+      {"no digit behind the point", "5.", 5},
+      {"a point behind a point's number", "5.e1", 50},
+      {"a point alone", ".", 0},
+      {"a sign alone", "-", 0},
+      {"a sign and a point", "+.", 0},
+      {"a plus sign", "+5", 5},
+      {"one sign only", "--5", 0},
+      {"one sign only, mixed", "+-5", 0},
+      {"a currency sign is no start", "$5", 0},
+      {"a bracket is no start", "(1", 0},
+      {"a tab is no blank", "\t5", 0},
+      {"a tab ends a number", "1\t5", 1},
+      {"a line end ends a number", "5\r\n", 5},
+      {"a zero byte ends a number", std::string("5\0006", 3), 5},
+      {"nothing", "", 0},
+      {"blanks alone", "   ", 0},
+      {"no hexadecimal digits", "0x10", 0},
+      {"no infinity", "inf", 0},
+      {"no infinity with a sign", "-infinity", 0},
+      {"no not-a-number", "nan", 0},
+      {"bytes above 127", "\xB2", 0},
+      {"zeros before the number", "000000000000000000007", 7},
+      {"zeros behind the number", "0.50000000000000000000", 0.5},
+      {"15 digits", "0.123456789012345", 0.123456789012345},
+      {"16 digits", "0.1234567890123456", 0.1234567890123456},
+      {"an integer beyond what a double holds exactly", "9007199254740993", 9007199254740992},
+      {"20 digits", "12345678901234567890", 12345678901234567890.0},
+      {"many decimals, the last one above a tie", "0.1000000000000000055511151231257828", 0.1},
+  };
+  for (const ParseCase& c : cases)
+    EXPECT_EQ(LeadingNumber(c.text), c.value) << c.rule << ": " << c.text;
+}
+
+TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
+  const std::string zeros(400, '0');
+  const std::vector<ParseCase> cases = {
+      {"too large by its exponent", "1e400", kLargest},
+      {"too low by its exponent", "-1e400", -kLargest},
+      {"too large by its digits", "1" + zeros, kLargest},
+      {"too large by its digits behind zeros", zeros + "1" + zeros, kLargest},
+      {"too large by its digits, with a fraction", "1" + zeros + ".5", kLargest},
+      {"too large in spite of a negative exponent", "1" + zeros + "e-50", kLargest},
+      {"too large behind a point", "0.0001e400", kLargest},
+      {"the exponent itself is beyond an integer", "1e99999999999999999999", kLargest},
+      {"the same below", "-1e99999999999999999999", -kLargest},
+      {"the next decimal above the largest number", "1.7976931348623159e308", kLargest},
+      {"the largest number itself", "1.7976931348623157e308", kLargest},
+      {"too small by its exponent", "1e-400", 0},
+      {"too small by its exponent, negative", "-1e-400", 0},
+      {"too small by its decimals", "0." + zeros + "1", 0},
+      {"too small by its decimals without a 0", "." + zeros + "1", 0},
+      {"too small in spite of an exponent", "0." + zeros + "1e50", 0},
+      {"the negative exponent itself is beyond an integer", "1e-99999999999999999999", 0},
+      {"nothing stays nothing whatever its exponent", "0e999", 0},
+      {"or its fraction", "0.000e99999999999999999999", 0},
+      {"digits and exponent make up for each other", "1" + zeros + "e-400", 1},
+      {"decimals and exponent make up for each other", "0." + zeros + "1e401", 1},
+      {"the smallest number", "4.94065645841247E-324", kSmallest},
+      {"less than half the smallest number", "2e-324", 0},
+      {"more than half the smallest number", "3e-324", kSmallest},
+      {"a number short of full precision", "1.5e-310", 1.5e-310},
+      {"zeros before a number", zeros + "1", 1},
+      {"zeros behind a number", "1." + zeros, 1},
+  };
+  for (const ParseCase& c : cases)
+    EXPECT_EQ(LeadingNumber(c.text), c.value) << c.rule;
+}
+
+TEST(LeadingNumber, EqualsTheLibraryParserToTheLastBit) {
+  std::mt19937_64 source(2023);
+  const auto pick = [&source](int low, int high) { return std::uniform_int_distribution<int>(low, high)(source); };
+  const auto digits = [&pick](int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+      text += static_cast<char>('0' + pick(0, 9));
+    return text;
+  };
+  for (int i = 0; i < 300000; ++i) {
+    std::string text = pick(0, 3) == 0 ? "-" : "";
+    text += digits(pick(1, 10));
+    if (pick(0, 1) == 1) text += "." + digits(pick(0, 12));
+    if (i % 3 == 0) text += (pick(0, 1) == 1 ? "e" : "E") + std::to_string(pick(-250, 250));
+    ASSERT_EQ(LeadingNumber(text), LibraryNumber(text)) << text;
+    ASSERT_EQ(LeadingNumber(text + "x1"), LibraryNumber(text)) << text;
+    ASSERT_EQ(LeadingNumber(text + " "), LibraryNumber(text)) << text;
+  }
+}
+
+struct NumericCase {
+  const char* rule;
+  std::string text;
+  bool numeric;
+};
+
+TEST(IsNumericText, TakesAmountsAsPeopleWriteThem) {
+  const std::vector<NumericCase> cases = {
+      {"digits", "150", true},
+      {"currency, thousands and cents", "$1,000.50", true},
+      {"a minus sign", "-5", true},
+      {"a plus sign", "+5", true},
+      {"a sign before the currency", "-$5", true},
+      {"a sign behind the currency", "$-5", true},
+      {"a plus sign before the currency", "+$5", true},
+      {"no digit before the point", ".5", true},
+      {"no digit before the point, with a sign", "-.5", true},
+      {"no digit behind the point", "5.", true},
+      {"an exponent", "1e3", true},
+      {"an exponent in capitals, with its sign", "1.5E+3", true},
+      {"a negative exponent", "1e-3", true},
+      {"blanks at both ends", " 7 ", true},
+      {"millions", "1,000,000", true},
+      {"thousands that stand anywhere between digits", "1,0", true},
+      {"many digits", std::string(400, '9'), true},
+      {"nothing", "", false},
+      {"blanks alone", "   ", false},
+      {"trailing letters", "12abc", false},
+      {"leading letters", "abc12", false},
+      {"a currency sign alone", "$", false},
+      {"a sign alone", "-", false},
+      {"a point alone", ".", false},
+      {"a currency sign and a point", "$.", false},
+      {"a blank within", "1 000", false},
+      {"a blank behind the sign", "- 5", false},
+      {"a blank behind the currency sign", "$ 5", false},
+      {"a tab at the end", "5\t", false},
+      {"a line end", "5\r\n", false},
+      {"two signs", "--5", false},
+      {"two signs around the currency", "-$-5", false},
+      {"two currency signs", "$$5", false},
+      {"two currency signs around the sign", "$-$5", false},
+      {"two points", "1.5.2", false},
+      {"a comma in the fraction", "1.5,0", false},
+      {"a comma first", ",5", false},
+      {"a comma last", "5,", false},
+      {"a comma before the point", "5,.5", false},
+      {"two commas side by side", "1,,000", false},
+      {"a comma alone", ",", false},
+      {"a trailing sign", "5-", false},
+      {"a trailing currency sign", "5$", false},
+      {"brackets", "(5)", false},
+      {"an expression", "=5", false},
+      {"an exponent without digits", "1e", false},
+      {"an exponent with its sign alone", "1e-", false},
+      {"an exponent alone", "e3", false},
+      {"a point before an exponent", ".e3", false},
+      {"an exponent with a comma", "1e1,000", false},
+      {"an exponent with a fraction", "1e1.5", false},
+      {"an exponent with two signs", "1e+-5", false},
+      {"a hexadecimal number", "0x10", false},
+      {"infinity", "inf", false},
+      {"a percentage", "5%", false},
+      {"another currency",
+       "\xC2\xA3"
+       "5",
+       false},
+      {"a zero byte", std::string("5\0", 2), false},
+  };
+  for (const NumericCase& c : cases)
+    EXPECT_EQ(IsNumericText(c.text), c.numeric) << c.rule << ": " << c.text;
+}
+
+struct PatternCase {
+  const char* rule;
+  double value;
+  int digits;
+  const char* text;
+};
+
+TEST(PatternText, RoundsTiesAwayFromZero) {
+  const std::vector<PatternCase> cases = {
+      {"a tie rises, even digit before it", 0.125, 2, "0.13"},
+      {"a tie rises, odd digit before it", 0.375, 2, "0.38"},
+      {"a negative tie falls", -0.125, 2, "-0.13"},
+      {"a tie at three decimals", 0.0625, 3, "0.063"},
+      {"a tie of an equity", 0.6875, 3, "0.688"},
+      {"a tie between integers", 2.5, 0, "3"},
+      {"the tie at a half", 0.5, 0, "1"},
+      {"a negative tie between integers", -2.5, 0, "-3"},
+      {"a tie that runs through nines", 9.5, 0, "10"},
+      {"a tie at a large number", 1234567.125, 2, "1234567.13"},
+      {"a tie whose neighbours are other ties", 1337058081636377.25, 1, "1337058081636377.3"},
+      {"a tie that becomes longer", 99.5, 0, "100"},
+      {"a negative tie that becomes longer", -99.5, 0, "-100"},
+      {"a tie of nines before the point", 999.5, 0, "1000"},
+      {"a tie at a very large number", 4503599627370495.5, 0, "4503599627370496"},
+      {"what is stored below the tie falls", 2.675, 2, "2.67"},
+      {"what is stored below the tie falls, small", 1.005, 2, "1.00"},
+      {"what is stored above the tie rises", 2.665, 2, "2.67"},
+      {"the number next below a tie", 0.12499999999999999, 2, "0.12"},
+      {"the number next above a tie", 0.12500000000000003, 2, "0.13"},
+  };
+  for (const PatternCase& c : cases)
+    EXPECT_EQ(PatternText(c.value, c.digits), c.text) << c.rule;
+}
+
+TEST(PatternText, HasAllItsDecimalsAndADigitBeforeThePoint) {
+  const std::vector<PatternCase> cases = {
+      {"an equity that is none", -1, 3, "-1.000"},
+      {"cents", 1234.5, 2, "1234.50"},
+      {"less than one", 0.5, 2, "0.50"},
+      {"less than nothing", -0.5, 2, "-0.50"},
+      {"nothing", 0, 2, "0.00"},
+      {"a negative nothing has no sign", -0.0, 3, "0.000"},
+      {"nothing without decimals", 0, 0, "0"},
+      {"no thousands separators", 1234567.891, 2, "1234567.89"},
+      {"no exponent", 1e20, 2, "100000000000000000000.00"},
+      {"no exponent for a small one", 1e-20, 3, "0.000"},
+  };
+  for (const PatternCase& c : cases)
+    EXPECT_EQ(PatternText(c.value, c.digits), c.text) << c.rule;
+  EXPECT_EQ(PatternText(kLargest, 2).size(), 309U + 3U);
+  EXPECT_EQ(PatternText(-kLargest, 3).size(), 1U + 309U + 4U);
+}
+
+// Parts of 1024 are exact in binary, so plain integers tell what rounding must give.
+TEST(PatternText, EqualsIntegerArithmeticOnExactFractions) {
+  constexpr long long kParts = 1024;
+  for (long long numerator = 1; numerator <= 5000; ++numerator) {
+    long long scale = 1;
+    for (int digits = 0; digits <= 6; ++digits, scale *= 10) {
+      const std::string rounded = std::to_string((2 * numerator * scale + kParts) / (2 * kParts));
+      const auto decimals = static_cast<std::size_t>(digits);
+      const std::string padded =
+          rounded.size() > decimals ? rounded : std::string(decimals + 1 - rounded.size(), '0') + rounded;
+      const std::size_t whole = padded.size() - decimals;
+      const std::string text = padded.substr(0, whole) + (digits > 0 ? "." + padded.substr(whole) : "");
+      ASSERT_EQ(PatternText(static_cast<double>(numerator) / kParts, digits), text) << numerator << " / " << kParts;
+      ASSERT_EQ(PatternText(-static_cast<double>(numerator) / kParts, digits), "-" + text)
+          << numerator << " / " << kParts;
+    }
+  }
+}
+
+TEST(PatternText, WhatIsNotFiniteOverflows) {
+  for (const double value : {kInfinity, -kInfinity, kNotANumber}) {
+    try {
+      static_cast<void>(PatternText(value, 2));
+      ADD_FAILURE() << value << " has a text";
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillon

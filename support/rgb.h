@@ -1,0 +1,28 @@
+#pragma once
+
+// Colours as the program speaks of them: red, green and blue from 0 to 255, and the one number that stands for all
+// three where colours are compared.
+
+#include <cstdint>
+#include <string>
+
+namespace quillon {
+
+struct Rgb {
+  std::uint8_t Red = 0;
+  std::uint8_t Green = 0;
+  std::uint8_t Blue = 0;
+
+  bool operator==(const Rgb&) const = default;
+};
+
+/// A colour from components of any size: above 255 counts as 255, below 0 as 0.
+[[nodiscard]] Rgb MakeRgb(int red, int green, int blue);
+
+/// red + 256 * green + 65536 * blue: (10, 36, 106) is 6956042.
+[[nodiscard]] std::int32_t ColorNumber(Rgb color);
+
+/// "#rrggbb" in lower-case hexadecimal digits: (200, 255, 200) is "#c8ffc8".
+[[nodiscard]] std::string ColorText(Rgb color);
+
+}  // namespace quillon

@@ -1,0 +1,25 @@
+#pragma once
+
+// Rounding and the two divisions that people read. To round means half to even on the binary value: only a double that
+// lies exactly between two decimals is a tie, so 2.675, which is stored a little lower, rounds to 2.67.
+
+#include <cstdint>
+
+namespace quillon {
+
+/// `value` rounded to `digits` decimals (0 to 15), ties to even: (62.5, 0) is 62, (0.125, 2) is 0.12. A value that is
+/// not finite comes back as it is.
+[[nodiscard]] double RoundTo(double value, int digits);
+
+/// `value` as a 16-bit integer, ties to even, as channel arithmetic needs it: 87.5 is 88, 120.5 is 120. A value outside
+/// the 16-bit range gives the nearest end of it, and what is not a number gives 0.
+[[nodiscard]] std::int16_t RoundToInt16(double value);
+
+/// numerator / denominator. A denominator of 0 has no result: RunTimeError "Division by zero", or "Overflow" where the
+/// numerator is 0 too.
+[[nodiscard]] double Divide(double numerator, double denominator);
+
+/// `value` / `base` * 100, rounded to `digits` decimals: (85, 169, 0) is 50. Fails as Divide does.
+[[nodiscard]] double PercentOf(double value, double base, int digits);
+
+}  // namespace quillon

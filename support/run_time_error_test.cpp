@@ -1,0 +1,74 @@
+#include "support/run_time_error.h"
+
+#include <cerrno>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+struct FaultCase {
+  RunTimeFault fault;
+  int number;
+  const char* text;
+};
+
+const std::vector<FaultCase> kFaults = {
+    {RunTimeFault::kInvalidProcedureCall, 5, "Invalid procedure call or argument"},
+    {RunTimeFault::kOverflow, 6, "Overflow"},
+    {RunTimeFault::kSubscriptOutOfRange, 9, "Subscript out of range"},
+    {RunTimeFault::kDivisionByZero, 11, "Division by zero"},
+    {RunTimeFault::kBadFileName, 52, "Bad file name or number"},
+    {RunTimeFault::kFileNotFound, 53, "File not found"},
+    {RunTimeFault::kDeviceError, 57, "Device I/O error"},
+    {RunTimeFault::kDiskFull, 61, "Disk full"},
+    {RunTimeFault::kPermissionDenied, 70, "Permission denied"},
+    {RunTimeFault::kPathFileAccess, 75, "Path/File access error"},
+    {RunTimeFault::kPathNotFound, 76, "Path not found"},
+};
+
+TEST(RunTimeError, TellsNumberAndText) {
+  for (const FaultCase& c : kFaults) {
+    const RunTimeError error(c.fault);
+    EXPECT_EQ(error.Fault(), c.fault) << c.text;
+    EXPECT_EQ(error.Number(), c.number) << c.text;
+    EXPECT_EQ(RunTimeFaultText(c.fault), c.text);
+    EXPECT_EQ(error.what(), "Run-time error '" + std::to_string(c.number) + "': " + c.text);
+  }
+}
+
+TEST(RunTimeError, DetailStandsInBrackets) {
+  const RunTimeError error(RunTimeFault::kFileNotFound, "Ranges/Button.txt");
+  EXPECT_STREQ(error.what(), "Run-time error '53': File not found (Ranges/Button.txt)");
+}
+
+TEST(RunTimeError, IsCaughtAsAnyRunTimeErrorOfTheLanguage) {
+  EXPECT_THROW(throw RunTimeError(RunTimeFault::kOverflow), std::runtime_error);
+}
+
+TEST(RunTimeFaultText, UnknownNumberHasATextToo) {
+  EXPECT_EQ(RunTimeFaultText(static_cast<RunTimeFault>(1)), "Application-defined or object-defined error");
+}
+
+TEST(RunTimeFaultOf, EverySystemErrorIsAFault) {
+  struct Case {
+    int systemError;
+    RunTimeFault fault;
+  };
+  const std::vector<Case> cases = {
+      {ENOENT, RunTimeFault::kFileNotFound},    {ENOSPC, RunTimeFault::kDiskFull},
+      {EDQUOT, RunTimeFault::kDiskFull},        {EACCES, RunTimeFault::kPermissionDenied},
+      {EPERM, RunTimeFault::kPermissionDenied}, {ENAMETOOLONG, RunTimeFault::kBadFileName},
+      {EINVAL, RunTimeFault::kBadFileName},     {EILSEQ, RunTimeFault::kBadFileName},
+      {ENOTDIR, RunTimeFault::kPathNotFound},   {EISDIR, RunTimeFault::kPathFileAccess},
+      {EROFS, RunTimeFault::kPathFileAccess},   {EBUSY, RunTimeFault::kPathFileAccess},
+      {EIO, RunTimeFault::kDeviceError},        {ELOOP, RunTimeFault::kDeviceError},
+      {0, RunTimeFault::kDeviceError},          {-1, RunTimeFault::kDeviceError},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(RunTimeFaultOf(c.systemError), c.fault) << "error number " << c.systemError;
+}
+
+}  // namespace
+}  // namespace quillon

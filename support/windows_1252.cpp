@@ -1,0 +1,90 @@
+#include "support/windows_1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace quillon {
+namespace {
+
+constexpr unsigned kFirstMapped = 0x80;
+constexpr std::array<char32_t, 32> kMapped = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                              0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                              0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                              0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void AppendUtf8(std::string& text, char32_t character) {
+  const auto byte = [&text](char32_t value) { text += static_cast<char>(static_cast<unsigned char>(value)); };
+  if (character < 0x80) {
+    byte(character);
+  } else if (character < 0x800) {
+    byte(0xC0U | (character >> 6U));
+    byte(0x80U | (character & 0x3FU));
+  } else {
+    byte(0xE0U | (character >> 12U));
+    byte(0x80U | ((character >> 6U) & 0x3FU));
+    byte(0x80U | (character & 0x3FU));
+  }
+}
+
+struct Decoded {
+  char32_t character;
+  std::size_t length;  // bytes taken
+};
+
+constexpr char32_t kInvalid = 0xFFFFFFFF;
+
+// One character of UTF-8 from its first byte on. Overlong forms, surrogates and values beyond 10FFFF are invalid and
+// take one byte.
+Decoded DecodeUtf8(std::string_view text) {
+  const auto at = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned lead = at(0);
+  if (lead < 0x80) return {lead, 1};
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
+  if (length == 0 || length > text.size() || lead > 0xF4) return {kInvalid, 1};
+
+  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+  char32_t character = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((at(i) & 0xC0U) != 0x80U) return {kInvalid, 1};
+    character = (character << 6U) | (at(i) & 0x3FU);
+  }
+  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+  if (character < kSmallest[length] || character > 0x10FFFF || surrogate) return {kInvalid, 1};
+  return {character, length};
+}
+
+char Windows1252Byte(char32_t character) {
+  if (character < kFirstMapped || (character >= 0xA0 && character <= 0xFF)) {
+    return static_cast<char>(static_cast<unsigned char>(character));
+  }
+  const auto* const found = std::find(kMapped.begin(), kMapped.end(), character);
+  if (found == kMapped.end()) return '?';
+  return static_cast<char>(static_cast<unsigned char>(kFirstMapped + static_cast<unsigned>(found - kMapped.begin())));
+}
+
+}  // namespace
+
+std::string Utf8FromWindows1252(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool mapped = byte >= kFirstMapped && byte < kFirstMapped + kMapped.size();
+    AppendUtf8(text, mapped ? kMapped[byte - kFirstMapped] : byte);
+  }
+  return text;
+}
+
+std::string Windows1252FromUtf8(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    const Decoded decoded = DecodeUtf8(text);
+    bytes += Windows1252Byte(decoded.character);
+    text.remove_prefix(decoded.length);
+  }
+  return bytes;
+}
+
+}  // namespace quillon

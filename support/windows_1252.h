@@ -1,0 +1,20 @@
+#pragma once
+
+// The single-byte code page in which the user's files are kept. In memory every text is UTF-8; these two routines stand
+// at the boundary. Source of the table: the Unicode Consortium's mapping of Windows code page 1252, in which the five
+// unassigned bytes (81, 8D, 8F, 90, 9D) stand for the control characters of the same number, so that every byte
+// survives the way there and back.
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// Bytes of the code page as UTF-8. Every byte has a character, so nothing can fail.
+[[nodiscard]] std::string Utf8FromWindows1252(std::string_view bytes);
+
+/// UTF-8 text as bytes of the code page. A character that the code page lacks, and each byte that is not part of valid
+/// UTF-8, becomes "?".
+[[nodiscard]] std::string Windows1252FromUtf8(std::string_view text);
+
+}  // namespace quillon

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing, and says nothing where none is.
+#
+#   tools/install_packages.sh build   what ./run and ./check need
+#   tools/install_packages.sh lint    what .ci/run needs on top of that
+#   tools/install_packages.sh fuzz    what the preset fuzz needs on top of ./check
+#
+# This is the one place that names packages.
+set -euo pipefail
+
+build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
+lint=(clang-format-14 clang-tidy-14 gcovr)
+fuzz=(clang-14 libclang-rt-14-dev)
+
+case "${1:-}" in
+  build) wanted=("${build[@]}") ;;
+  lint) wanted=("${build[@]}" "${lint[@]}") ;;
+  fuzz) wanted=("${build[@]}" "${fuzz[@]}") ;;
+  *)
+    echo "Usage: $0 build|lint|fuzz" >&2
+    exit 2
+    ;;
+esac
+
+if ! command -v apt-get >/dev/null; then
+  echo "This is not a Debian system, so nothing is installed. Needed are: ${wanted[*]}" >&2
+  exit 0
+fi
+
+missing=()
+for package in "${wanted[@]}"; do
+  status=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
+  [ "$status" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null; then
+    echo "Packages are missing and only root can install them: apt-get install ${missing[*]}" >&2
+    exit 1
+  fi
+  as_root=(sudo)
+fi
+
+echo "Installing missing packages: ${missing[*]}" >&2
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+if ! { "${as_root[@]}" apt-get update -qq &&
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } \
+  >"$log" 2>&1; then
+  cat "$log" >&2
+  echo "The packages could not be installed; apt-get says why above." >&2
+  exit 1
+fi
