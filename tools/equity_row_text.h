@@ -1,0 +1,58 @@
+#pragma once
+
+// The equity table as text: counted points become entries of six decimals, entries become rows, and rows become the
+// source file that the program carries ("hand/equity_rows.cpp").
+//
+// A row is the equities of one class against the 169 classes in class order, 169 numbers in the general number form
+// with one blank behind each, the last too. Above the diagonal stands the counted equity, rounded to six decimals; on
+// it "0.5"; below it 1 minus the mirror entry, in 64-bit floating point, so that a few of these show the float's error
+// in their fifteenth digit and need an exponent ("5.37339999999999E-02").
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/equity_enumeration.h"
+
+namespace quillon {
+
+/// `points` / `atStake` in millionths, rounded half to even, exactly: (1, 3) is 333333, (1, 400000) is 2. `points` must
+/// not be negative and at most `atStake`, which must lie between 1 and 2^62 / 10^6.
+[[nodiscard]] std::int64_t Millionths(std::int64_t points, std::int64_t atStake);
+
+/// The row of class `row`, from the points that it wins from each class and the pairs of hands that it does so with:
+///
+///     row 0 -> "0.5 0.878595 0.874609 ... 0.822167 "      row 168 -> "0.177833 0.501067 ... 0.5 "
+[[nodiscard]] std::string EquityRowText(std::size_t row, const std::array<std::int64_t, kClassCount>& points,
+                                        const std::array<std::int64_t, kClassCount>& pairs);
+
+/// The rows, one a line.
+[[nodiscard]] std::string LinesOf(std::span<const std::string> rows);
+
+/// The source file that carries these 169 rows, each as two literals: entries 0 to 85 and entries 86 to 168.
+[[nodiscard]] std::string SourceTextOf(std::span<const std::string> rows);
+
+/// What a file of rows holds, and what to call it in a complaint.
+struct RowFile {
+  std::string name;
+  std::string text;
+};
+
+/// The 169 rows in class order; or none, and what is wrong with the files.
+struct JoinedRows {
+  std::vector<std::string> rows;
+  std::string problem;
+};
+
+/// Puts together rows that were counted apart, one a line and in any order: which class a row belongs to is told by the
+/// place of its "0.5". Nothing is let through that is not the text of a whole table: every line must be a row, no row
+/// may stand twice or be missing, and each entry below the diagonal must be the one that follows from its mirror.
+///
+///     problem: "part3.txt, line 2: not a row of the table"      "part3.txt, line 2: a second row of AKs"
+///              "no row of AKs"                                  "the rows of AA and AKs do not add up to 1"
+[[nodiscard]] JoinedRows JoinRows(std::span<const RowFile> files);
+
+}  // namespace quillon

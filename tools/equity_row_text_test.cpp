@@ -1,0 +1,197 @@
+#include "tools/equity_row_text.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "hand/equity_rows.h"
+#include "hand/hand_classes.h"
+
+namespace quillon {
+namespace {
+
+struct RoundingCase {
+  const char* rule;
+  std::int64_t points;
+  std::int64_t atStake;
+  std::int64_t millionths;
+};
+
+class EachRounding : public testing::TestWithParam<RoundingCase> {};
+
+TEST_P(EachRounding, IsExact) {
+  EXPECT_EQ(Millionths(GetParam().points, GetParam().atStake), GetParam().millionths);
+}
+
+constexpr auto kRoundings = std::to_array<RoundingCase>({
+    {"Nothing", 0, 7, 0},
+    {"Everything", 7, 7, 1'000'000},
+    {"BelowHalfGoesDown", 1, 3, 333'333},
+    {"AboveHalfGoesUp", 2, 3, 666'667},
+    {"HalfGoesDownToTheEven", 5, 2'000'000, 2},
+    {"HalfGoesUpToTheEven", 3, 2'000'000, 2},
+    {"JustBelowHalf", 3'499'999, 2'000'000'000'000, 2},
+    {"JustAboveHalf", 2'500'001, 1'000'000'000'000, 3},
+    {"TheMostThatTwoClassesPlayFor", 288 * kBoardsPerPair - 1, 288 * kBoardsPerPair, 1'000'000},
+});
+
+INSTANTIATE_TEST_SUITE_P(EquityRowText, EachRounding, testing::ValuesIn(kRoundings),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+using Row = std::array<std::int64_t, kClassCount>;
+
+Row Filled(std::int64_t value) {
+  Row row{};
+  row.fill(value);
+  return row;
+}
+
+// The points that make an equity of so many millionths, to the nearest one.
+std::int64_t PointsFor(std::int64_t millionths, std::int64_t pairs) {
+  return (millionths * PointsAtStake(pairs) + 500'000) / 1'000'000;
+}
+
+std::vector<std::string> Fields(const std::string& row) {
+  std::vector<std::string> fields(1);
+  for (const char c : row) {
+    if (c == ' ') {
+      fields.emplace_back();
+    } else {
+      fields.back() += c;
+    }
+  }
+  return fields;
+}
+
+struct EntryCase {
+  const char* rule;
+  std::size_t row;
+  std::size_t column;
+  std::int64_t millionths;
+  const char* text;
+};
+
+class EachEntry : public testing::TestWithParam<EntryCase> {};
+
+TEST_P(EachEntry, IsWritten) {
+  constexpr std::int64_t kPairs = 36;
+  Row points = Filled(PointsFor(250'000, kPairs));
+  points[GetParam().column] = PointsFor(GetParam().millionths, kPairs);
+  const std::vector<std::string> fields = Fields(EquityRowText(GetParam().row, points, Filled(kPairs)));
+  ASSERT_EQ(fields.size(), kClassCount + 1);
+  EXPECT_EQ(fields[GetParam().column], GetParam().text);
+  EXPECT_EQ(fields.back(), "");
+}
+
+constexpr auto kEntries = std::to_array<EntryCase>({
+    {"SixDecimalsAboveTheDiagonal", 0, 1, 878'595, "0.878595"},
+    {"TrailingZerosAreDropped", 0, 1, 622'500, "0.6225"},
+    {"ASmallEntryAboveTheDiagonalIsPlain", 0, 1, 53'734, "0.053734"},
+    {"OneMinusTheMirrorBelowTheDiagonal", 1, 0, 121'405, "0.121405"},
+    {"TheFloatsErrorShowsBelowTheDiagonal", 1, 0, 53'734, "5.37339999999999E-02"},
+    {"HalfOnTheDiagonalWhateverWasCounted", 4, 4, 123'456, "0.5"},
+    {"TheLastColumn", 3, 168, 700'000, "0.7"},
+});
+
+INSTANTIATE_TEST_SUITE_P(EquityRowText, EachEntry, testing::ValuesIn(kEntries),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+std::vector<std::string> TableRows() {
+  std::vector<std::string> rows;
+  rows.reserve(kEquityPieces.size());
+  for (const auto& pieces : kEquityPieces)
+    rows.push_back(std::string(pieces[0]) + std::string(pieces[1]));
+  return rows;
+}
+
+TEST(EquityRowText, LinesEndEachRow) {
+  const std::vector<std::string> rows = {"0.5 0.1 ", "0.9 0.5 "};
+  EXPECT_EQ(LinesOf(rows), "0.5 0.1 \n0.9 0.5 \n");
+}
+
+TEST(EquityRowText, SourcePartsEachRowBehindItsEightySixthEntry) {
+  const std::vector<std::string> rows = TableRows();
+  const std::string source = SourceTextOf(rows);
+  std::size_t at = 0;
+  for (const auto& pieces : kEquityPieces) {
+    const std::string literals =
+        "    {\"" + std::string(pieces[0]) + "\",\n     \"" + std::string(pieces[1]) + "\"},\n";
+    at = source.find(literals, at);
+    ASSERT_NE(at, std::string::npos);
+  }
+  EXPECT_EQ(std::count(source.begin(), source.end(), '"'), 4 * 169 + 2);
+}
+
+TEST(EquityRowText, RowsInTheirOrderAreJoined) {
+  const std::vector<std::string> rows = TableRows();
+  const JoinedRows joined = JoinRows(std::vector<RowFile>{{"whole.txt", LinesOf(rows)}});
+  EXPECT_EQ(joined.problem, "");
+  EXPECT_EQ(joined.rows, rows);
+}
+
+TEST(EquityRowText, RowsInAnyOrderAreJoined) {
+  std::vector<std::string> shuffled = TableRows();
+  std::reverse(shuffled.begin(), shuffled.end());
+  const std::span<const std::string> all = shuffled;
+  const std::vector<RowFile> files = {{"b.txt", LinesOf(all.subspan(100))}, {"a.txt", LinesOf(all.first(100))}};
+  const JoinedRows joined = JoinRows(files);
+  EXPECT_EQ(joined.problem, "");
+  EXPECT_EQ(joined.rows, TableRows());
+}
+
+TEST(EquityRowText, ALastLineNeedsNoLineEnd) {
+  std::string text = LinesOf(TableRows());
+  text.pop_back();
+  EXPECT_EQ(JoinRows(std::vector<RowFile>{{"whole.txt", text}}).problem, "");
+}
+
+struct DamageCase {
+  const char* rule;
+  void (*damage)(std::vector<std::string>& rows);
+  const char* problem;
+};
+
+class EachDamage : public testing::TestWithParam<DamageCase> {};
+
+TEST_P(EachDamage, IsNamed) {
+  std::vector<std::string> rows = TableRows();
+  GetParam().damage(rows);
+  const JoinedRows joined = JoinRows(std::vector<RowFile>{{"part.txt", LinesOf(rows)}});
+  EXPECT_EQ(joined.problem, GetParam().problem);
+  EXPECT_TRUE(joined.rows.empty());
+}
+
+void Replace(std::string& row, std::string_view from, std::string_view to) {
+  row.replace(row.find(from), from.size(), to);
+}
+
+const auto kDamages = std::to_array<DamageCase>({
+    {"ARowMissing", [](auto& rows) { rows.erase(rows.begin() + 1); }, "no row of AKs"},
+    {"TheLastRowMissing", [](auto& rows) { rows.pop_back(); }, "no row of 22"},
+    {"ARowTwice", [](auto& rows) { rows.push_back(rows[1]); }, "part.txt, line 170: a second row of AKs"},
+    {"AnEmptyLine", [](auto& rows) { rows[4].clear(); }, "part.txt, line 5: not a row of the table"},
+    {"ARowCutShort", [](auto& rows) { rows[4].resize(700); }, "part.txt, line 5: not a row of the table"},
+    {"NoBlankAtTheEnd", [](auto& rows) { rows[4].pop_back(); }, "part.txt, line 5: not a row of the table"},
+    {"AnEntryTooMany", [](auto& rows) { rows[4] += "0.25 "; }, "part.txt, line 5: not a row of the table"},
+    {"TwoBlanks", [](auto& rows) { Replace(rows[4], " ", "  "); }, "part.txt, line 5: not a row of the table"},
+    {"ALineEndOfTwoCharacters", [](auto& rows) { rows[4] += '\r'; }, "part.txt, line 5: not a row of the table"},
+    {"NoHalf", [](auto& rows) { Replace(rows[0], "0.5 ", "0.4 "); }, "part.txt, line 1: not a row of the table"},
+    {"TwoHalves", [](auto& rows) { Replace(rows[0], "0.878595", "0.5"); }, "part.txt, line 1: not a row of the table"},
+    {"AWord", [](auto& rows) { Replace(rows[0], "0.878595", "0.8785nn"); }, "part.txt, line 1: not a row of the table"},
+    {"AnEntryOfOne", [](auto& rows) { Replace(rows[0], "0.878595", "1"); }, "part.txt, line 1: not a row of the table"},
+    {"TrailingZeros", [](auto& rows) { Replace(rows[0], "0.87893 ", "0.878930 "); },
+     "part.txt, line 1: not a row of the table"},
+    {"AnEntryUnlikeItsMirror", [](auto& rows) { Replace(rows[0], "0.878595", "0.878596"); },
+     "the rows of AA and AKs do not add up to 1"},
+});
+
+INSTANTIATE_TEST_SUITE_P(EquityRowText, EachDamage, testing::ValuesIn(kDamages),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+TEST(EquityRowText, NoFilesHaveNoRows) {
+  EXPECT_EQ(JoinRows({}).problem, "no row of AA");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,77 @@
+#pragma once
+
+// The hands that can be held beside a board, weakest first, in bundles: hands of one class that are worth the same.
+//
+// Without a flush a hand is worth its ranks, so all hands of a class make one bundle, and boards of the same ranks
+// order their bundles alike. Where the board has three or more cards of one suit, the hands with enough cards of it to
+// make five leave their class's bundle for one of their own.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "hand/hand_classes.h"
+#include "tools/board_classes.h"
+#include "tools/hand_ranking.h"
+
+namespace quillon {
+
+inline constexpr std::size_t kClassCount = static_cast<std::size_t>(kHandClassCount);
+
+/// Places in a table of ranks count from the ace down, as the rows and columns of the class grid do.
+struct ClassShape {
+  /// The place of the higher and of the lower rank; the same for a pair.
+  std::uint8_t high = 0;
+  std::uint8_t low = 0;
+  bool suited = false;
+
+  [[nodiscard]] constexpr bool IsPair() const { return high == low; }
+};
+
+/// The shapes of the classes, in class order.
+inline constexpr std::array<ClassShape, kClassCount> kClassShapes = [] {
+  std::array<ClassShape, kClassCount> shapes{};
+  for (std::size_t row = 0; row < kRankCount; ++row) {
+    for (std::size_t column = 0; column < kRankCount; ++column) {
+      const bool suited = column > row;
+      shapes[kRankCount * row + column] = {static_cast<std::uint8_t>(suited ? row : column),
+                                           static_cast<std::uint8_t>(suited ? column : row), suited};
+    }
+  }
+  return shapes;
+}();
+
+/// How many hands there are in a bundle, and how many of them use each card.
+struct CardUse {
+  /// By suit, the hands that hold that suit's card of the class's higher rank. A pair has both its cards here.
+  std::array<std::uint8_t, kSuitCount> high{};
+  /// The same for the lower rank; all 0 for a pair.
+  std::array<std::uint8_t, kSuitCount> low{};
+  std::uint8_t hands = 0;
+};
+
+/// Hands of one class and of equal strength. Such hands can still make two bundles; no hand is in more than one.
+struct HandBundle {
+  HandStrength strength = 0;
+  std::uint8_t handClass = 0;
+  CardUse use;
+};
+
+/// A class and the strength of its hands that make no flush.
+struct RankedClass {
+  HandStrength strength = 0;
+  std::uint8_t handClass = 0;
+};
+
+using RankedClasses = std::array<RankedClass, kClassCount>;
+
+/// The 169 classes in ascending order of what they make of a board of these ranks without a flush.
+[[nodiscard]] RankedClasses RankClasses(const RankTally& boardRanks);
+
+/// Puts the bundles of all live hands of `board` into `bundles` in ascending order of strength. What was in `bundles`
+/// goes, its memory is used again. `ranked` must be `RankClasses(board.ranks)`; it is asked for because one serves all
+/// boards of the same ranks.
+void BundleHands(const BoardClass& board, const RankedClasses& ranked, std::vector<HandBundle>& bundles);
+
+}  // namespace quillon
