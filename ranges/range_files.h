@@ -1,0 +1,43 @@
+#pragma once
+
+// A range's file. Every named range is one small text file in the folder "Ranges" of the program's own folder; the
+// range called "Button Shove" is the file "Button Shove.txt". The file is the range: nothing of it is kept in memory,
+// and it is read anew each time it is needed. It holds the range text ("ranges/range_text.h") and one line end (CR LF),
+// with no header and no name inside.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "support/files.h"
+
+namespace quillon {
+
+/// The folder that the program and its ranges live in, and the calls by which files in it are reached.
+struct ProgramFolder {
+  std::filesystem::path Path;
+  FileCalls* Calls = &SystemFileCalls();
+};
+
+/// The folder of the range files: "Ranges" in the program's folder.
+[[nodiscard]] std::filesystem::path RangeFolderPath(const ProgramFolder& folder);
+
+/// The file of the range called `name`: the range folder, a separator, the name, ".txt". The name is UTF-8, as file
+/// names on disk are, and is put in as it stands; the empty name gives the file ".txt".
+[[nodiscard]] std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name);
+
+/// The content of a range's file without its line end; if there are several line ends, without the last. A file that is
+/// missing or cannot be read gives the empty text, without a message, and so does a name that no file can have, one
+/// with a NUL character.
+[[nodiscard]] std::string LoadRangeText(const ProgramFolder& folder, std::string_view name);
+
+/// Makes or replaces a range's file: the text and one line end. The range folder must be there. The text passes through
+/// a scratch file in the program's folder, where no list of ranges shows it, and the old content stays whole until the
+/// new one is on the disk. RunTimeError, with the file and the reason, if any step fails, and "Bad file name or number"
+/// for a name with a NUL character.
+void SaveRangeText(const ProgramFolder& folder, std::string_view name, std::string_view text);
+
+/// Whether a range's file holds anything. An empty file, and one that holds a line end alone, counts as none.
+[[nodiscard]] bool RangeExists(const ProgramFolder& folder, std::string_view name);
+
+}  // namespace quillon

@@ -1,0 +1,223 @@
+#include "ranges/range_files.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+namespace {
+
+using ::testing::HasSubstr;
+
+TEST(RangeFilePath, IsTheRangeFolderTheNameAndTheExtension) {
+  struct Case {
+    const char* rule;
+    const char* name;
+    const char* path;
+  };
+  const std::vector<Case> cases = {
+      {"a name with a blank", "Button Shove", "/games/quillon/Ranges/Button Shove.txt"},
+      {"a point belongs to the name", "v1.5", "/games/quillon/Ranges/v1.5.txt"},
+      {"an extension is not taken off", "x.txt", "/games/quillon/Ranges/x.txt.txt"},
+      {"the empty name", "", "/games/quillon/Ranges/.txt"},
+      {"letters beyond ASCII", "Übermütig", "/games/quillon/Ranges/Übermütig.txt"},
+      {"a leading separator stays below the folder", "/etc/x", "/games/quillon/Ranges//etc/x.txt"},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(RangeFilePath({"/games/quillon"}, c.name).string(), c.path) << c.rule;
+  EXPECT_EQ(RangeFilePath({"/games/quillon/"}, "x").string(), "/games/quillon/Ranges/x.txt");
+}
+
+TEST(SaveRangeText, EmptyGridMakesAFileOf1510Bytes) {
+  const TemporaryProgram program;
+  const std::string text = RangeTextOf(std::array<double, kHandClassCount>{});
+  SaveRangeText(program.Folder(), "Nothing", text);
+  EXPECT_EQ(std::filesystem::file_size(program.RangeFile("Nothing.txt")), 1510);
+  EXPECT_EQ(program.Read("Nothing.txt"), text + "\r\n");
+  EXPECT_TRUE(RangeExists(program.Folder(), "Nothing")) << "although nothing is selected";
+}
+
+TEST(SaveRangeText, ReadsBackEqual) {
+  const TemporaryProgram program;
+  const std::vector<std::pair<const char*, std::string>> cases = {
+      {"a whole range with its last blank", TextWith("AA KK", "AKs")},
+      {"the empty text", ""},
+      {"a text with a line end of its own", "AA (1), \r\n"},
+      {"a text of several lines", "AA (1),\r\nKK (1),\n"},
+      {"letters beyond ASCII", "Übermütig – 50 €: AA (1), "},
+  };
+  for (const auto& [rule, text] : cases) {
+    SaveRangeText(program.Folder(), "x", text);
+    EXPECT_EQ(LoadRangeText(program.Folder(), "x"), text) << rule;
+  }
+}
+
+TEST(SaveRangeText, ReplacesALongerFileWhole) {
+  const TemporaryProgram program;
+  SaveRangeText(program.Folder(), "x", TextWith("AA"));
+  SaveRangeText(program.Folder(), "x", "AA (1), ");
+  EXPECT_EQ(program.Read("x.txt"), "AA (1), \r\n");
+}
+
+TEST(SaveRangeText, LeavesNothingButTheFile) {
+  const TemporaryProgram program;
+  SaveRangeText(program.Folder(), "x", "AA (1), ");
+  int files = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(program.Folder().Path))
+    files += entry.is_regular_file() ? 1 : 0;
+  EXPECT_EQ(files, 1);
+}
+
+TEST(SaveRangeText, NameThatNoFileCanHaveIsFatal) {
+  const TemporaryProgram program;
+  const auto faultOfName = [&](std::string_view name) {
+    return FaultOf([&] { SaveRangeText(program.Folder(), name, "AA (1), "); });
+  };
+  using namespace std::string_view_literals;
+  EXPECT_EQ(faultOfName("AA\0BB"sv), RunTimeFault::kBadFileName);
+  EXPECT_EQ(faultOfName(std::string(300, 'x')), RunTimeFault::kBadFileName);
+  EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder())));
+}
+
+TEST(SaveRangeText, WithoutItsFolderIsFatalAndNamesTheFile) {
+  const TemporaryProgram program;
+  std::filesystem::remove(RangeFolderPath(program.Folder()));
+  try {
+    SaveRangeText(program.Folder(), "Lost", "AA (1), ");
+    FAIL() << "nothing was thrown";
+  } catch (const RunTimeError& error) {
+    EXPECT_THAT(error.what(), HasSubstr("Ranges/Lost.txt"));
+  }
+}
+
+// Passes every call on until its count is used up, and then fails one.
+class FailingCalls final : public FileCalls {
+ public:
+  explicit FailingCalls(int callsUntilFailure) : left_(callsUntilFailure) {}
+
+  [[nodiscard]] bool HasFailed() const { return left_ < 0; }
+
+  int Open(const std::string& path, int flags, mode_t mode) override {
+    return Fails() ? -EIO : system_.Open(path, flags, mode);
+  }
+  ssize_t Read(int file, std::span<char> buffer) override { return Fails() ? -EIO : system_.Read(file, buffer); }
+  ssize_t Write(int file, std::string_view bytes) override { return Fails() ? -ENOSPC : system_.Write(file, bytes); }
+  int Sync(int file) override { return Fails() ? -EIO : system_.Sync(file); }
+  int Close(int file) override {
+    const int closed = system_.Close(file);
+    return Fails() ? -EIO : closed;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    return Fails() ? -EACCES : system_.Rename(from, to);
+  }
+  int Unlink(const std::string& path) override { return Fails() ? -EIO : system_.Unlink(path); }
+
+ private:
+  bool Fails() { return left_-- == 0; }
+
+  int left_;
+  FileCalls& system_ = SystemFileCalls();
+};
+
+TEST(SaveRangeText, FailureOfAnyCallLeavesTheOldOrTheNewRangeWhole) {
+  const TemporaryProgram program;
+  const std::string before = TextWith("AA");
+  const std::string after = TextWith("KK", "QQ");
+  int failures = 0;
+  bool reached = true;
+  for (int call = 0; reached; ++call) {
+    ASSERT_LT(call, 100) << "a save makes a handful of calls";
+    SaveRangeText(program.Folder(), "x", before);
+    FailingCalls calls(call);
+    const ProgramFolder failing{program.Folder().Path, &calls};
+    const bool failed = FaultOf([&] { SaveRangeText(failing, "x", after); }).has_value();
+    reached = calls.HasFailed();
+    failures += failed ? 1 : 0;
+    EXPECT_EQ(LoadRangeText(program.Folder(), "x"), failed ? before : after) << "call " << call;
+  }
+  EXPECT_GE(failures, 4) << "opening, writing, reaching the disk and renaming can each fail";
+}
+
+TEST(LoadRangeText, TakesOffOneLineEnd) {
+  struct Case {
+    const char* rule;
+    std::string bytes;
+    std::string text;
+    bool exists;
+  };
+  const std::vector<Case> cases = {
+      {"a line end", "AA (1), \r\n", "AA (1), ", true},
+      {"no line end", "AA (1), ", "AA (1), ", true},
+      {"the last of two", "AA (1), \r\n\r\n", "AA (1), \r\n", true},
+      {"a line feed alone stays", "AA (1), \n", "AA (1), \n", true},
+      {"a carriage return alone stays", "AA (1), \r", "AA (1), \r", true},
+      {"the wrong way round stays", "AA (1), \n\r", "AA (1), \n\r", true},
+      {"a line end alone", "\r\n", "", false},
+      {"two line ends alone", "\r\n\r\n", "\r\n", true},
+      {"an empty file", "", "", false},
+      {"a blank counts", " ", " ", true},
+      {"letters of the code page", "\x80: AA (1), \r\n", "€: AA (1), ", true},
+  };
+  const TemporaryProgram program;
+  for (const Case& c : cases) {
+    program.Write("x.txt", c.bytes);
+    EXPECT_EQ(LoadRangeText(program.Folder(), "x"), c.text) << c.rule;
+    EXPECT_EQ(RangeExists(program.Folder(), "x"), c.exists) << c.rule;
+  }
+}
+
+TEST(LoadRangeText, EmptyFileHasNoWeights) {
+  const TemporaryProgram program;
+  program.Write("x.txt");
+  EXPECT_FALSE(RangeExists(program.Folder(), "x"));
+  EXPECT_EQ(FaultOf([&] { return RangeWeightOf(LoadRangeText(program.Folder(), "x"), "AA"); }),
+            RunTimeFault::kInvalidProcedureCall);
+}
+
+TEST(LoadRangeText, WhatCannotBeReadIsEmpty) {
+  using namespace std::string_view_literals;
+  const TemporaryProgram program;
+  program.Write("x.txt", "AA (1), ");
+  program.Write("loud.TXT", "AA (1), ");
+  program.Write("page.html", "AA (1), ");
+  std::filesystem::create_directory(program.RangeFile("folder.txt"));
+  ASSERT_EQ(::mkfifo(program.RangeFile("pipe.txt").c_str(), 0600), 0);
+  std::filesystem::create_symlink("nowhere", program.RangeFile("link.txt"));
+
+  const std::vector<std::pair<const char*, std::string_view>> cases = {
+      {"a missing file", "y"},
+      {"a name of other case", "X"},
+      {"an extension of other case", "loud"},
+      {"another extension", "page"},
+      {"a longer extension, less its last four characters", "page."},
+      {"a folder", "folder"},
+      {"a pipe that nobody writes to", "pipe"},
+      {"a link to nowhere", "link"},
+      {"a NUL character, although the name before it would do", "x.txt\0"sv},
+      {"no name", ""},
+  };
+  for (const auto& [rule, name] : cases) {
+    EXPECT_EQ(LoadRangeText(program.Folder(), name), "") << rule;
+    EXPECT_FALSE(RangeExists(program.Folder(), name)) << rule;
+  }
+  EXPECT_EQ(LoadRangeText(program.Folder(), "x"), "AA (1), ") << "and this one reads";
+}
+
+TEST(LoadRangeText, FailureOfReadingIsSwallowed) {
+  const TemporaryProgram program;
+  program.Write("x.txt", "AA (1), ");
+  for (int call = 0; call < 3; ++call) {  // opening, reading, reading on
+    FailingCalls calls(call);
+    EXPECT_EQ(LoadRangeText({program.Folder().Path, &calls}, "x"), "") << "call " << call;
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,38 @@
+#include "ranges/range_names.h"
+
+#include <string>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+constexpr std::string_view kErrorTitle = "Error";
+
+constexpr std::string_view kForbiddenCharacters = R"(/\:*?"<>|)";
+// It is meant that the message shows nine characters and "|", the last of them, is let through.
+constexpr std::string_view kRefusedCharacters = kForbiddenCharacters.substr(0, 8);
+static_assert(kForbiddenCharacters.size() == 9 && kRefusedCharacters.ends_with('>'));
+
+bool Refuse(MessageBoxes& messages, std::string_view title, std::string text) {
+  messages.Show({std::string(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk});
+  return false;
+}
+
+}  // namespace
+
+bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages) {
+  if (name.empty()) return Refuse(messages, kErrorTitle, "You must choose a name for this range.");
+  if (name.find_first_of(kRefusedCharacters) != std::string_view::npos) {
+    return Refuse(
+        messages, kApplicationTitle,
+        "The following characters are not allowed in the range name: \r\n\r\n" + std::string(kForbiddenCharacters));
+  }
+  if (name != kScratchRangeName && RangeExists(folder, name)) {
+    return Refuse(
+        messages, kErrorTitle,
+        "A range with the name \"" + std::string(name) + "\" already exists.\r\n\r\nPlease choose another name.");
+  }
+  return true;
+}
+
+}  // namespace quillon

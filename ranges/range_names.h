@@ -1,0 +1,23 @@
+#pragma once
+
+// The names of ranges. A range's name is the name of its file less the extension, so a new name must be one that a file
+// can have and that no other range has yet.
+
+#include <string_view>
+
+#include "ranges/range_files.h"
+#include "support/message_boxes.h"
+
+namespace quillon {
+
+/// The scratch range of the program's own: the one name under which a save may replace an existing range without a
+/// word. In everything else it is a range like any other.
+inline constexpr std::string_view kScratchRangeName = "Temp Range1";
+
+/// Whether a new range may take this name. The first of these that the name fails is told to the user in one message
+/// box, and the answer is false: it must not be empty; it must hold none of the eight characters / \ : * ? " < > (the
+/// message names "|" as a ninth, which is let through); no range of that name may exist, unless it is the scratch
+/// range.
+[[nodiscard]] bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages);
+
+}  // namespace quillon

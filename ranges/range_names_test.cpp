@@ -1,0 +1,120 @@
+#include "ranges/range_names.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+
+namespace quillon {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class RecordedMessages final : public MessageBoxes {
+ public:
+  MessageAnswer Show(const Message& message) override {
+    shown_.push_back(message);
+    return MessageAnswer::kOk;
+  }
+
+  [[nodiscard]] const std::vector<Message>& Shown() const { return shown_; }
+
+ private:
+  std::vector<Message> shown_;
+};
+
+Message Stop(std::string title, std::string text) {
+  return {std::move(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
+}
+
+Message NoName() {
+  return Stop("Error", "You must choose a name for this range.");
+}
+
+Message ForbiddenCharacter() {
+  return Stop("Quillon",
+              "The following characters are not allowed in the range name: \r\n\r\n"
+              "/\\:*?\"<>|");
+}
+
+Message Exists(const std::string& name) {
+  return Stop("Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.");
+}
+
+struct NameCase {
+  const char* rule;
+  std::string name;
+  std::optional<Message> refusal;
+};
+
+TEST(ValidateRangeName, FirstFailingTestIsTold) {
+  using namespace std::string_literals;
+  const TemporaryProgram program;
+  program.Write("Button.txt", "AA (1), \r\n");
+  program.Write("Temp Range1.txt", "AA (1), \r\n");
+  program.Write("Übermut.txt", "AA (1), \r\n");
+  program.Write("Hollow.txt");
+  program.Write("Line.txt", "\r\n");
+  program.Write("Pipe|.txt", "AA (1), \r\n");
+
+  const std::vector<NameCase> cases = {
+      {"a new name passes", "Cutoff", std::nullopt},
+      {"letters beyond ASCII pass", "Größe", std::nullopt},
+      {"points and blanks pass", " v1.5 ", std::nullopt},
+      {"a lone blank passes", " ", std::nullopt},
+      {"the empty name", "", NoName()},
+      {"a slash", "a/b", ForbiddenCharacter()},
+      {"a backslash", "a\\b", ForbiddenCharacter()},
+      {"a colon", "a:b", ForbiddenCharacter()},
+      {"an asterisk", "a*b", ForbiddenCharacter()},
+      {"a question mark", "a?b", ForbiddenCharacter()},
+      {"a double quote", "a\"b", ForbiddenCharacter()},
+      {"a less sign", "a<b", ForbiddenCharacter()},
+      {"a greater sign", "a>b", ForbiddenCharacter()},
+      {"a forbidden character at the start", "/a", ForbiddenCharacter()},
+      {"a forbidden character at the end", "a>", ForbiddenCharacter()},
+      {"two forbidden characters are one message", "a/b?", ForbiddenCharacter()},
+      {"a bar passes", "a|b", std::nullopt},
+      {"a bar in an existing name", "Pipe|", Exists("Pipe|")},
+      {"an existing name", "Button", Exists("Button")},
+      {"an existing name beyond ASCII", "Übermut", Exists("Übermut")},
+      {"a name of other case is another file's", "button", std::nullopt},
+      {"an empty file is no range", "Hollow", std::nullopt},
+      {"a file with a line end alone is no range", "Line", std::nullopt},
+      {"the scratch name passes although it exists", "Temp Range1", std::nullopt},
+      {"a NUL character passes, since no range has it", "Button.txt\0"s, std::nullopt},
+  };
+  for (const NameCase& c : cases) {
+    RecordedMessages messages;
+    EXPECT_EQ(ValidateRangeName(program.Folder(), c.name, messages), !c.refusal.has_value()) << c.rule;
+    if (c.refusal) {
+      EXPECT_THAT(messages.Shown(), ElementsAre(*c.refusal)) << c.rule;
+    } else {
+      EXPECT_THAT(messages.Shown(), IsEmpty()) << c.rule;
+    }
+  }
+}
+
+TEST(ValidateRangeName, OnlyTheExactScratchNameIsFree) {
+  const TemporaryProgram program;
+  for (const std::string name : {"temp range1", "Temp Range1 ", "Temp Range2"}) {
+    program.Write(name + ".txt", "AA (1), \r\n");
+    RecordedMessages messages;
+    EXPECT_FALSE(ValidateRangeName(program.Folder(), name, messages)) << name;
+    EXPECT_THAT(messages.Shown(), ElementsAre(Exists(name)));
+  }
+}
+
+TEST(ValidateRangeName, NeedsNoRangeFolder) {
+  const TemporaryProgram program;
+  std::filesystem::remove(RangeFolderPath(program.Folder()));
+  RecordedMessages messages;
+  EXPECT_TRUE(ValidateRangeName(program.Folder(), "Cutoff", messages));
+}
+
+}  // namespace
+}  // namespace quillon

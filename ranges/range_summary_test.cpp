@@ -1,0 +1,125 @@
+#include "ranges/range_summary.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+namespace {
+
+constexpr const char* kWholeGrid =
+    "22+,A2s+,K2s+,Q2s+,J2s+,T2s+,92s+,82s+,72s+,62s+,52s+,42s+,32s,A2o+,K2o+,Q2o+,J2o+,T2o+,92o+,82o+,72o+,62o+,52o+,"
+    "42o+,32o";
+
+struct SummaryCase {
+  const char* rule;
+  const char* full;
+  const char* half;
+  const char* summary;
+};
+
+void ExpectSummaries(const std::vector<SummaryCase>& cases) {
+  for (const SummaryCase& c : cases)
+    EXPECT_EQ(RangeSummary(TextWith(c.full, c.half)), c.summary) << c.rule;
+}
+
+TEST(RangeSummary, FixedOutputsStandForNothingAndForAll) {
+  EXPECT_EQ(RangeSummary(TextWith("")), "[None]");
+  EXPECT_EQ(RangeSummary(TextWith(AllLabels())), "[Everything]");
+  EXPECT_EQ(SummarizeWeight(TextWith(""), 1), "");
+  EXPECT_EQ(SummarizeWeight(TextWith(AllLabels()), 1), kWholeGrid);
+}
+
+TEST(RangeSummary, AllAtHalfIsNotEverything) {
+  EXPECT_EQ(RangeSummary(TextWith("", AllLabels())), std::string("Full:  | Half: ") + kWholeGrid);
+}
+
+TEST(RangeSummary, FoldsRuns) {
+  ExpectSummaries({
+      {"runs from the top are open", "AA KK QQ AKs AQs AKo", "", "QQ+,AQs+,AKo"},
+      {"other runs are closed", "JJ TT 99 88 AQs AJs ATs A9s KQs 76s A2o", "", "JJ-88,AQs-A9s,KQs,76s,A2o"},
+      {"lone pairs at both ends", "AA 22", "", "AA,22"},
+      {"the lowest two pairs", "33 22", "", "33-22"},
+      {"the lowest pair alone", "22", "", "22"},
+      {"the highest pair alone", "AA", "", "AA"},
+      {"the highest two pairs", "AA KK", "", "KK+"},
+      {"all pairs", "AA KK QQ JJ TT 99 88 77 66 55 44 33 22", "", "22+"},
+      {"all pairs but aces", "KK QQ JJ TT 99 88 77 66 55 44 33 22", "", "KK-22"},
+      {"every other pair", "AA QQ TT 88", "", "AA,QQ,TT,88"},
+      {"two runs of pairs", "AA KK TT 99 22", "", "KK+,TT-99,22"},
+      {"the low end of a row is a closed run", "A3s A2s", "", "A3s-A2s"},
+      {"a whole row is an open run", "42s 43s", "", "42s+"},
+      {"the top of a row alone is one class", "KQo", "", "KQo"},
+      {"the last suited class is never a run", "32s", "", "32s"},
+      {"the last offsuit class is never a run", "32o", "", "32o"},
+      {"a run ends at its row's end", "K2s QJs", "", "K2s,QJs"},
+      {"pairs, suited, offsuit, each from the top down", "32o 22 AKo 32s AKs AA", "", "AA,22,AKs,32s,AKo,32o"},
+  });
+}
+
+TEST(RangeSummary, HalfClassesStandApart) {
+  ExpectSummaries({
+      {"full before half", "AA", "KK", "Full: AA | Half: KK"},
+      {"half alone leaves two blanks", "", "32o", "Full:  | Half: 32o"},
+      {"a half run below a full run", "AA KK", "QQ JJ", "Full: KK+ | Half: QQ-JJ"},
+      {"half classes of all kinds", "AKs", "22 A2s KQo", "Full: AKs | Half: 22,A2s,KQo"},
+      {"a half run from the top is open", "", "AKo AQo", "Full:  | Half: AQo+"},
+  });
+}
+
+TEST(RangeSummary, HalfRunIntoFullClassVanishes) {
+  ExpectSummaries({
+      {"with nothing else at half there is no half part", "KK", "AA", "KK"},
+      {"a later half run stays", "QQ", "AA KK JJ", "Full: QQ | Half: JJ"},
+      {"suited, one above another", "A2s", "A4s A3s", "A2s"},
+      {"offsuit, and another row stays", "KJo", "KQo QJo", "Full: KJo | Half: QJo"},
+      {"a gap saves the run", "QQ", "AA", "Full: QQ | Half: AA"},
+      {"the next row's full class is no neighbour", "KQs", "A2s", "Full: KQs | Half: A2s"},
+      {"all half but the last pair", "22", "AA KK QQ JJ TT 99 88 77 66 55 44 33", "22"},
+  });
+}
+
+TEST(SummarizeWeight, TakesAnyTarget) {
+  std::array<double, kHandClassCount> weights{};
+  weights[0] = 0.25;  // AA
+  weights[14] = 0.25;  // KK
+  weights[1] = 2;  // AKs
+  const std::string text = RangeTextOf(weights);
+  EXPECT_EQ(SummarizeWeight(text, 0.25), "KK+");
+  EXPECT_EQ(SummarizeWeight(text, 2), "AKs");
+  EXPECT_EQ(SummarizeWeight(text, 0.5), "");
+  EXPECT_EQ(SummarizeWeight(TextWith(""), 0), kWholeGrid);
+}
+
+TEST(RangeSummary, OtherWeightsDoNotAppear) {
+  std::array<double, kHandClassCount> weights{};
+  weights[0] = 1;  // AA
+  weights[14] = 0.75;  // KK
+  weights[28] = 0.25;  // QQ
+  EXPECT_EQ(RangeSummary(RangeTextOf(weights)), "AA");
+  weights[0] = 0.25;
+  EXPECT_EQ(RangeSummary(RangeTextOf(weights)), "[None]");
+}
+
+TEST(RangeSummary, HigherWeightBelowSwallowsARunAtFullToo) {
+  std::array<double, kHandClassCount> weights{};
+  weights[0] = 1;  // AA
+  weights[14] = 1.5;  // KK
+  EXPECT_EQ(RangeSummary(RangeTextOf(weights)), "[None]");
+}
+
+TEST(RangeSummary, MissingClassesReadByTheCommonRule) {
+  // Every missing class of three characters reads the 1 of "AA (1)", every missing pair reads nothing.
+  EXPECT_EQ(RangeSummary("AA (1), "), "AA" + std::string(kWholeGrid).substr(3));
+}
+
+TEST(RangeSummary, EmptyTextIsFatal) {
+  EXPECT_EQ(FaultOf([] { return RangeSummary(""); }), RunTimeFault::kInvalidProcedureCall);
+  EXPECT_EQ(FaultOf([] { return SummarizeWeight("", 1); }), RunTimeFault::kInvalidProcedureCall);
+}
+
+}  // namespace
+}  // namespace quillon

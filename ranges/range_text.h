@@ -1,0 +1,52 @@
+#pragma once
+
+// A range is the set of hands that an opponent may hold: a weight for each of the 169 starting-hand classes, 1 for a
+// class that he plays whenever he is dealt it, 0.5 for one that he plays half the time, 0 for one that he folds. Its
+// one form, in memory and in its file, is the range text: all 169 classes in class index order, those at 0 too, each as
+// its label, " (", the weight, "), ". The text ends with the blank of the last entry.
+//
+//     AA (1), AKs (1), AQs (0.5), AJs (0), ATs (0), ... 32o (0), 22 (0),
+//
+// A range text is never parsed from left to right. Whoever wants a weight searches the label and reads what follows it,
+// so a text edited by hand may hold its entries in any order, other weights such as 0.25, and remarks between them; of
+// two entries for one class the first counts.
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "hand/hand_classes.h"
+
+namespace quillon {
+
+/// The weight of the class `label` in a range text: the leading number of what stands between the two characters behind
+/// the label's first occurrence and the next ")". Labels are compared with case. A text without a number there reads as
+/// 0, and a weight such as 0.25, 2 or -1 is given back as it stands.
+///
+///     "AA (1), AKs (0.5), ", "AKs" -> 0.5      "AKs (0.25), AKs (1), ", "AKs" -> 0.25      "AA (x), ", "AA" -> 0
+///
+/// The label is searched everywhere, in remarks and weights too: a weight of 0.225 before the entry of "22" hides it.
+///
+/// A label that does not occur is taken to start one place before the text, so it reads what stands before the first
+/// ")": with "AA (1), " a missing "72o" reads 1, since its number starts at the fifth character, and a missing "22"
+/// reads 0, since its number starts at the fourth, and "(1" is none.
+///
+/// RunTimeError "Invalid procedure call or argument" if there is no ")" behind the label, as in the empty text, or it
+/// comes before the number's place.
+[[nodiscard]] double RangeWeightOf(std::string_view text, std::string_view label);
+
+/// The range text of 169 weights in class index order, each in the general number form. With weights of one character
+/// it has 1508 characters. RunTimeError "Overflow" for a weight that is not finite.
+[[nodiscard]] std::string RangeTextOf(std::span<const double, kHandClassCount> weights);
+
+/// How many concrete hands, 0 to 1326, a grid would show as selected for a range text: 6 for a pair, 4 for a suited and
+/// 12 for an offsuit class at exactly 1, and half as many at exactly 0.5. A class at any other weight shows as not
+/// selected and counts 0. Fails as RangeWeightOf does.
+[[nodiscard]] double SelectedCombos(std::string_view rangeText);
+
+/// The caption under a grid: the selected hands as a percentage of 1326 to one decimal.
+///
+///     0 -> "0% selected"      6 -> "0.5% selected"      663 -> "50% selected"      1326 -> "100% selected"
+[[nodiscard]] std::string SelectionCaption(double selectedCombos);
+
+}  // namespace quillon

@@ -1,0 +1,177 @@
+#include "ranges/range_text.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+
+namespace quillon {
+namespace {
+
+struct WeightCase {
+  const char* rule;
+  const char* text;
+  const char* label;
+  double weight;
+};
+
+TEST(RangeWeightOf, ReadsTheNumberBehindTheFirstOccurrence) {
+  const std::vector<WeightCase> cases = {
+      {"full", "AA (1), AKs (0.5), ", "AA", 1},
+      {"half", "AA (1), AKs (0.5), ", "AKs", 0.5},
+      {"none", "AA (0), AKs (1), ", "AA", 0},
+      {"a weight of its own reads as it stands", "AA (1), AKs (0.25), ", "AKs", 0.25},
+      {"a weight above one", "AA (2), ", "AA", 2},
+      {"a negative weight", "AA (-1), ", "AA", -1},
+      {"a weight with an exponent", "AA (7.5E-02), ", "AA", 0.075},
+      {"entries in any order", "22 (0.5), AKo (1), AA (0), ", "22", 0.5},
+      {"the first of two entries wins", "AA (0.5), KK (1), AA (1), ", "AA", 0.5},
+      {"no number reads as nothing", "AA (x), ", "AA", 0},
+      {"an empty number reads as nothing", "AA (), ", "AA", 0},
+      {"a number ends at what is none", "AA (0.5x), ", "AA", 0.5},
+      {"blanks in a number are skipped", "AA ( 0 . 5 ), ", "AA", 0.5},
+      {"any two characters may stand before the number", "AA=:1)", "AA", 1},
+      {"without the blank the number loses its first digit", "AA(0.5), ", "AA", 0.5},
+      {"without the blank a number of one digit is lost", "AA(1), ", "AA", 0},
+      {"remarks between entries", "my notes: AA (1), (loose) KK (0.5), ", "KK", 0.5},
+      {"a label inside a remark counts as the first occurrence", "AKs? (0) AKs (1), ", "AKs", 0},
+      {"labels are compared with case", "aks (1), AKs (0.5), ", "AKs", 0.5},
+      {"line ends between entries", "AA (1),\r\nKK (0.5),\r\n", "KK", 0.5},
+      {"an entry at the very end", "KK (1), AA (0.5)", "AA", 0.5},
+      {"a label inside a weight counts as the first occurrence", "AA (22.003), 22 (1), ", "22", 3},
+  };
+  for (const WeightCase& c : cases)
+    EXPECT_EQ(RangeWeightOf(c.text, c.label), c.weight) << c.rule;
+}
+
+TEST(RangeWeightOf, MissingClassReadsWhatStandsBeforeTheFirstBracket) {
+  const std::vector<WeightCase> cases = {
+      {"three characters read from the fifth on", "AA (1), AKs (1), ", "72o", 1},
+      {"two characters read from the fourth on, which is no number", "AA (1), AKs (1), ", "22", 0},
+      {"three characters, half", "AA (0.5), AKs (1), ", "AKo", 0.5},
+      {"a first entry of three characters gives no number", "AKs (1), AA (1), ", "72o", 0},
+      {"nor to two characters", "AKs (1), AA (1), ", "22", 0},
+      {"the number's place may be the bracket's own", "AKs ) AA (1), ", "72o", 0},
+  };
+  for (const WeightCase& c : cases)
+    EXPECT_EQ(RangeWeightOf(c.text, c.label), c.weight) << c.rule;
+}
+
+TEST(RangeWeightOf, EveryAbsentClassOfATwoEntryTextReadsFromTheFirstBracket) {
+  const std::string text = "AA (1), AKs (1), ";
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view label = HandLabel(index);
+    const double expected = label == "AA" || label.size() == 3 ? 1 : 0;
+    EXPECT_EQ(RangeWeightOf(text, label), expected) << label;
+  }
+}
+
+TEST(RangeWeightOf, WithoutABracketInReachIsFatal) {
+  struct Case {
+    const char* rule;
+    const char* text;
+    const char* label;
+  };
+  const std::vector<Case> cases = {
+      {"the empty text", "", "AA"},
+      {"a text without any bracket", "AA 1, KK 1", "AA"},
+      {"a missing class in a text without any bracket", "AA 1, KK 1", "72o"},
+      {"brackets only before the label", "KK (1), AA (1", "AA"},
+      {"the label alone at the end", "KK (1), AA", "AA"},
+      {"a label inside a weight and its bracket too near", "AA (0.22), 22 (1), ", "22"},
+      {"a bracket right behind the label", "AA) 1)", "AA"},
+      {"a bracket one behind the label", "AA ) 1)", "AA"},
+      {"a missing class and a bracket at the start", ")AA (1), ", "72o"},
+      {"a missing class and a bracket one too early", "AA )", "72o"},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(FaultOf([&] { return RangeWeightOf(c.text, c.label); }), RunTimeFault::kInvalidProcedureCall) << c.rule;
+  }
+}
+
+TEST(RangeWeightOf, ReadsEveryClassOfAWholeText) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string label(HandLabel(index));
+    const std::string text = TextWith(label);
+    for (std::int16_t other = 0; other < kHandClassCount; ++other) {
+      ASSERT_EQ(RangeWeightOf(text, HandLabel(other)), other == index ? 1 : 0) << label << ", " << HandLabel(other);
+    }
+  }
+}
+
+using Weights = std::array<double, kHandClassCount>;
+
+TEST(RangeTextOf, WritesEveryClassInIndexOrder) {
+  Weights weights{};
+  weights[0] = 1;
+  weights[1] = 1;
+  weights[2] = 0.5;
+  const std::string text = RangeTextOf(weights);
+  EXPECT_EQ(text, TextWith("AA AKs", "AQs"));
+  EXPECT_TRUE(text.starts_with("AA (1), AKs (1), AQs (0.5), AJs (0), ATs (0), ")) << text;
+  EXPECT_TRUE(text.ends_with("32o (0), 22 (0), ")) << text;
+}
+
+TEST(RangeTextOf, EmptyGridHas1508Characters) {
+  EXPECT_EQ(RangeTextOf(Weights{}).size(), 1508);
+}
+
+TEST(RangeTextOf, WritesWeightsInTheGeneralNumberForm) {
+  Weights weights{};
+  weights[0] = 0.25;
+  weights[1] = 1.0 / 3;
+  weights[2] = -2;
+  weights[3] = 1.0 - 0.920788;
+  EXPECT_TRUE(RangeTextOf(weights).starts_with(
+      "AA (0.25), AKs (0.333333333333333), AQs (-2), AJs (7.92119999999999E-02), ATs (0), "));
+}
+
+TEST(RangeTextOf, WeightWithoutATextIsFatal) {
+  Weights weights{};
+  weights[168] = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(FaultOf([&] { return RangeTextOf(weights); }), RunTimeFault::kOverflow);
+}
+
+struct ComboCase {
+  const char* rule;
+  std::string text;
+  double combos;
+  const char* caption;
+};
+
+TEST(SelectedCombos, CountsConcreteHandsAsTheGridShowsThem) {
+  const std::vector<ComboCase> cases = {
+      {"nothing", TextWith(""), 0, "0% selected"},
+      {"one pair", TextWith("88"), 6, "0.5% selected"},
+      {"one half pair", TextWith("", "AA"), 3, "0.2% selected"},
+      {"one suited class", TextWith("AKs"), 4, "0.3% selected"},
+      {"one offsuit class", TextWith("AKo"), 12, "0.9% selected"},
+      {"one half offsuit class", TextWith("", "AKo"), 6, "0.5% selected"},
+      {"a mixture", TextWith("AA KK AKs", "AKo 72o"), 28, "2.1% selected"},
+      {"all at full", TextWith(AllLabels()), 1326, "100% selected"},
+      {"all at half", TextWith("", AllLabels()), 663, "50% selected"},
+  };
+  for (const ComboCase& c : cases) {
+    EXPECT_EQ(SelectedCombos(c.text), c.combos) << c.rule;
+    EXPECT_EQ(SelectionCaption(c.combos), c.caption) << c.rule;
+  }
+}
+
+TEST(SelectedCombos, WeightThatTheGridCannotShowCountsNothing) {
+  Weights weights{};
+  weights[0] = 0.25;
+  weights[1] = 2;
+  weights[2] = -1;
+  weights[3] = 0.999999999999;
+  weights[13] = 0.5;
+  EXPECT_EQ(SelectedCombos(RangeTextOf(weights)), 6);
+}
+
+TEST(SelectedCombos, EmptyTextIsFatal) {
+  EXPECT_EQ(FaultOf([] { return SelectedCombos(""); }), RunTimeFault::kInvalidProcedureCall);
+}
+
+}  // namespace
+}  // namespace quillon
