@@ -1,0 +1,51 @@
+#pragma once
+
+// The analysis itself, from the click on a button to the finished results table. A run walks the 169 classes in index
+// order on the window's own thread. For each class it deals the ranges around the class's sample cards, weighs them,
+// writes three cells into the table and lets the window system run once, so that the progress bar moves and the stop
+// label can be clicked.
+//
+// Every control stays live during a run, the start buttons too, and all runs work on the same state. A run started from
+// within another ends before the other goes on; the other then finds itself stopped at its next class. Amounts are read
+// from the boxes anew for each class, so an edit is felt by the classes still to come, while the state keeps the
+// amounts that the run began with.
+
+#include <cstdint>
+#include <string_view>
+
+#include "analysis/analysis_state.h"
+#include "analysis/analysis_window.h"
+#include "ranges/range_files.h"
+
+namespace quillon {
+
+/// The caption of `lblNoResults` from the click until the run ends, when the label is a link to the Progress screen.
+inline constexpr std::string_view kWaitCaption = "Please wait...";
+
+/// Its caption at all other times.
+inline constexpr std::string_view kNoResultsCaption = "There are no results to display at this time.";
+
+/// The width of the full progress bar, in twips.
+inline constexpr double kProgressBarWidth = 7815;
+
+/// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check answers false,
+/// the click ends there, and the label goes on saying "Please wait..." although nothing runs; that is meant, the next
+/// run sets it right. Otherwise the situation is stored in the state, the Progress screen comes up and the run goes
+/// through the classes.
+///
+/// A finished run stores its table in `HandInfo`, has it presented, shows the results entries and clicks the third
+/// navigation entry, the grid. A stop, noticed at the end of the class after the yield in which it came, throws the
+/// table away: the scenario's input screen returns, and `HandInfo` is as it was.
+///
+/// Nothing is caught: a range file that vanishes after the check, or that does not exist in "Preflop Raise", ends in
+/// the failures of "analysis/dealt_range.h". `Running` is then left as it was.
+void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder);
+
+/// The click on the stop label `lblStopCalc`: clears `Running` and does nothing else.
+void StopAnalysis(AnalysisState& state);
+
+/// The click on `lblNoResults`: brings up the Progress screen if the label's caption is exactly "Please wait...", so
+/// that a user who has wandered off during a run can come back.
+void ClickNoResults(std::string_view caption, AnalysisWindow& window);
+
+}  // namespace quillon

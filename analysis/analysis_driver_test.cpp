@@ -1,0 +1,548 @@
+#include "analysis/analysis_driver.h"
+
+#include <array>
+#include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "analysis/range_folder.h"
+#include "analysis/recording_window.h"
+#include "analysis/results_table.h"
+#include "hand/equity_table.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+using Lines = std::vector<std::string>;
+
+constexpr std::int16_t kCallButton = 0;
+constexpr std::int16_t kRaiseButton = 1;
+constexpr std::int16_t kEquityButton = 2;
+
+const std::string kShoveLine =
+    "SetProgressMessage Please wait while we determine what hands you should go ALL IN with...";
+
+class AnalysisDriver : public testing::Test {
+ public:
+  void SetUp() override {
+    LoadEquityTable();
+    ranges_.Save("Full", EveryHandAt(1));
+    ranges_.Save("Aces", RangeWith({{"AA", 1}}));
+    ranges_.Save("Pairs", RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 1}, {"22", 0.5}}));
+    ranges_.Save("Nothing", EveryHandAt(0));
+  }
+
+  void Run(std::int16_t button) { RunAnalysis(state_, button, window_, ranges_.Folder()); }
+
+  // A run of its own, on its own state, beside the one under test.
+  [[nodiscard]] std::string TableOf(std::int16_t button, const Situation& situation) const {
+    AnalysisState state;
+    KeptMessages messages;
+    QuietWindow window(situation, messages);
+    RunAnalysis(state, button, window, ranges_.Folder());
+    return state.HandInfo;
+  }
+
+  // Calls `action` inside yield number `yield`, counted from 1.
+  template <class Action>
+  void AtYield(int yield, Action action) {
+    window_.OnCall = [this, yield, action](const std::string& line) {
+      if (line == "Yield" && window_.Count("Yield") == yield) action();
+    };
+  }
+
+  [[nodiscard]] int FaultNumberOfRun(std::int16_t button) {
+    try {
+      Run(button);
+    } catch (const RunTimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  }
+
+  RangeFolder ranges_;
+  KeptMessages messages_;
+  RecordingWindow window_{{"100", "50", "200", "Full", "Pairs"}, messages_};
+  AnalysisState state_;
+};
+
+// The rows of a results table without their line ends.
+Lines RowsOf(const std::string& table) {
+  Lines rows;
+  for (std::size_t start = 0; start < table.size();) {
+    const std::size_t end = table.find("\r\n", start);
+    rows.push_back(table.substr(start, end - start));
+    start = end + 2;
+  }
+  return rows;
+}
+
+TEST_F(AnalysisDriver, ARunStartsInOrder) {
+  struct Row {
+    std::int16_t button;
+    std::string message;
+  };
+  for (const Row& row :
+       {Row{kCallButton, kShoveLine}, Row{kRaiseButton, kShoveLine},
+        Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nFull"}}) {
+    window_.Log.clear();
+    Run(row.button);
+    const Lines start(window_.Log.begin(), window_.Log.begin() + 7);
+    EXPECT_THAT(start, ElementsAre("SetResultsShown false", "SetNoResultsCaption Please wait...", row.message,
+                                   "ShowFrame Progress", "SetNoResultsUnderline true", "HideGridBack", "RaiseCell 0"));
+  }
+}
+
+TEST_F(AnalysisDriver, RunningIsSetBetweenTheProgressScreenAndTheUnderline) {
+  std::vector<bool> running;
+  window_.OnCall = [&](const std::string& line) {
+    if (line == "ShowFrame Progress" || line == "SetNoResultsUnderline true") running.push_back(state_.Running);
+  };
+  Run(kCallButton);
+  EXPECT_THAT(running, ElementsAre(false, true));
+}
+
+TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
+  Run(kEquityButton);
+  Lines expected;
+  for (int index = 0; index < 169; ++index) {
+    const double width = static_cast<float>((index + 1) / 169.0 * 7815);
+    expected.push_back("RaiseCell " + std::to_string(index));
+    expected.push_back("SetProgressPercent " + NumberText(std::nearbyint((index + 1) / 169.0 * 100)) + "%");
+    expected.push_back("SetProgressBarWidth " + NumberText(width));
+    expected.push_back("Yield");
+  }
+  const Lines loop(window_.Log.begin() + 6, window_.Log.end() - 5);
+  EXPECT_THAT(loop, ElementsAreArray(expected));
+}
+
+TEST_F(AnalysisDriver, ProgressGoesFromOnePercentToAHundred) {
+  Run(kEquityButton);
+  Lines percents;
+  for (const std::string& line : window_.Log) {
+    if (line.starts_with("SetProgressPercent ")) percents.push_back(line.substr(19));
+  }
+  ASSERT_EQ(percents.size(), 169U);
+  EXPECT_EQ(percents[0], "1%");
+  EXPECT_EQ(percents[84], "50%");
+  EXPECT_EQ(percents[168], "100%");
+  EXPECT_EQ(window_.Widths[0], 46.242603F);
+  EXPECT_EQ(window_.Widths[84], 3930.6213F);
+  EXPECT_EQ(window_.Widths[168], 7815.0F);
+}
+
+TEST_F(AnalysisDriver, AFinishedRunEndsInOrder) {
+  window_.OnCall = [this](const std::string& line) {
+    if (line != "PresentResults") return;
+    EXPECT_FALSE(state_.Running);
+    EXPECT_EQ(RowsOf(state_.HandInfo).size(), 169U);
+  };
+  Run(kCallButton);
+  EXPECT_THAT(window_.LogFromLast("Yield"),
+              ElementsAre("Yield", "SetNoResultsUnderline false",
+                          "SetNoResultsCaption There are no results to display at this time.", "PresentResults",
+                          "SetResultsShown true", "ClickNav 3"));
+  EXPECT_FALSE(state_.Running);
+}
+
+TEST_F(AnalysisDriver, RowsStandInClassOrder) {
+  Run(kEquityButton);
+  const Lines rows = RowsOf(state_.HandInfo);
+  ASSERT_EQ(rows.size(), 169U);
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string& row = rows[static_cast<std::size_t>(index)];
+    EXPECT_EQ(row.substr(0, row.find('\t')), HandLabel(index));
+    EXPECT_EQ(std::count(row.begin(), row.end(), '\t'), 4) << row;
+  }
+}
+
+TEST_F(AnalysisDriver, RowsOfARangeOfAces) {
+  window_.CurrentSituation().Range = "Aces";
+  Run(kCallButton);
+  const Lines call = RowsOf(state_.HandInfo);
+  EXPECT_EQ(call[0], "AA\t25\t0.5\t1\t") << "150 * 0.5 - 50";
+  EXPECT_EQ(call[14], "KK\t-22.91915\t0.180539\t1\t") << "150 * 0.180539 - 50";
+
+  Run(kEquityButton);
+  const Lines equity = RowsOf(state_.HandInfo);
+  EXPECT_EQ(equity[0], "AA\t0\t0.5\t1\t");
+  EXPECT_EQ(equity[14], "KK\t0\t0.180539\t1\t");
+}
+
+TEST_F(AnalysisDriver, RowsOfAShoveAgainstAcesOutOfAllHands) {
+  window_.CurrentSituation().CallingRange = "Aces";
+  Run(kRaiseButton);
+  // KK blocks no ace: 6 of the 1225 other hands call, and the equity against them is that against aces.
+  const double callShare = 6.0 / 1225;
+  EXPECT_EQ(GetHandInfo(state_.HandInfo, "KK", kFoldShareColumn), LeadingNumber(NumberText(1 - callShare)));
+  EXPECT_NEAR(GetHandInfo(state_.HandInfo, "KK", kEquityColumn), 0.180539, 1e-14);
+  EXPECT_NEAR(GetHandInfo(state_.HandInfo, "KK", kExpectedValueColumn),
+              (0.180539 * 550 - 250) * callShare + (1 - callShare) * 100, 1e-12);
+  EXPECT_EQ(GetHandInfo(state_.HandInfo, "AA", kFoldShareColumn), LeadingNumber(NumberText(1 - 1.0 / 1225)));
+}
+
+TEST_F(AnalysisDriver, ACallingRangeBeyondTheCurrentOneAlwaysCalls) {
+  window_.CurrentSituation() = {"15", "0", "100", "Aces", "Pairs"};
+  Run(kRaiseButton);
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    EXPECT_EQ(GetHandInfo(state_.HandInfo, HandLabel(index), kFoldShareColumn), 0) << HandLabel(index);
+  EXPECT_EQ(state_.DroppedHands, "KK, QQ");
+}
+
+TEST_F(AnalysisDriver, AnOpponentWhoNeverCallsLeavesThePot) {
+  struct Row {
+    const char* name;
+    const char* range;
+    const char* callingRange;
+  };
+  for (const Row& row : {Row{"empty calling range", "Full", "Nothing"}, Row{"empty current range", "Nothing", "Full"},
+                         Row{"both empty", "Nothing", "Nothing"}}) {
+    window_.CurrentSituation() = {"15.5", "0", "100", row.range, row.callingRange};
+    Run(kRaiseButton);
+    for (const std::string& line : RowsOf(state_.HandInfo))
+      EXPECT_TRUE(line.ends_with("\t15.5\t-1\t1\t")) << row.name << ": " << line;
+  }
+}
+
+TEST_F(AnalysisDriver, PreflopCallStoresItsSituation) {
+  window_.CurrentSituation() = {"$100", "1,000", "", "Pairs", "Full"};
+  window_.CurrentSituation().Call = "12.5";
+  Run(kCallButton);
+  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopCall);
+  EXPECT_EQ(state_.PotSize, 100);
+  EXPECT_EQ(state_.CallAmount, 12.5);
+  EXPECT_EQ(state_.RangeName, "Pairs");
+  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Pairs"));
+  EXPECT_EQ(state_.ShoveAmount, 0);
+  EXPECT_EQ(state_.CallingRangeName, "");
+  EXPECT_EQ(state_.CallingRangeText, "");
+  EXPECT_EQ(state_.DroppedHands, "");
+}
+
+TEST_F(AnalysisDriver, PreflopRaiseStoresItsSituation) {
+  window_.CurrentSituation() = {"15", "", "100", "Pairs", "Full"};
+  Run(kRaiseButton);
+  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopRaise);
+  EXPECT_EQ(state_.PotSize, 15);
+  EXPECT_EQ(state_.CallAmount, 0);
+  EXPECT_EQ(state_.ShoveAmount, 100);
+  EXPECT_EQ(state_.RangeName, "Pairs");
+  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Pairs"));
+  EXPECT_EQ(state_.CallingRangeName, "Full");
+  EXPECT_EQ(state_.CallingRangeText, LoadRangeText(ranges_.Folder(), "Full"));
+  EXPECT_TRUE(state_.DroppedHands.starts_with("AKs, AKo, AQs,")) << state_.DroppedHands;
+  EXPECT_TRUE(state_.DroppedHands.ends_with("32s, 22 (½'d)")) << state_.DroppedHands;
+}
+
+TEST_F(AnalysisDriver, DroppedHandsAreListedWithTheLastClassOnly) {
+  state_.DroppedHands = "of an earlier run";
+  std::string before;
+  window_.CurrentSituation() = {"15", "5", "100", "Aces", "Full"};
+  AtYield(168, [&] { before = state_.DroppedHands; });
+  Run(kRaiseButton);
+  EXPECT_EQ(before, "of an earlier run");
+  EXPECT_NE(state_.DroppedHands, "of an earlier run");
+}
+
+TEST_F(AnalysisDriver, EquityOnlyLeavesAmountsAndCallingRangeAlone) {
+  window_.CurrentSituation() = {"15", "5", "100", "Pairs", "Full"};
+  Run(kRaiseButton);
+  const AnalysisState earlier = state_;
+  window_.CurrentSituation() = {"1", "2", "3", "Full", "Aces"};
+  Run(kEquityButton);
+  EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
+  EXPECT_EQ(state_.RangeName, "Full");
+  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Full"));
+  EXPECT_EQ(state_.PotSize, 15);
+  EXPECT_EQ(state_.CallAmount, 5);
+  EXPECT_EQ(state_.ShoveAmount, 100);
+  EXPECT_EQ(state_.CallingRangeName, "Full");
+  EXPECT_EQ(state_.CallingRangeText, earlier.CallingRangeText);
+  EXPECT_EQ(state_.DroppedHands, earlier.DroppedHands);
+}
+
+TEST_F(AnalysisDriver, PreflopCallLeavesWhatBelongsToAShoveAlone) {
+  window_.CurrentSituation() = {"15", "5", "100", "Aces", "Pairs"};
+  Run(kRaiseButton);
+  window_.CurrentSituation() = {"150", "50", "7", "Pairs", "Full"};
+  Run(kCallButton);
+  EXPECT_EQ(state_.PotSize, 150);
+  EXPECT_EQ(state_.CallAmount, 50);
+  EXPECT_EQ(state_.ShoveAmount, 100);
+  EXPECT_EQ(state_.CallingRangeName, "Pairs");
+  EXPECT_EQ(state_.DroppedHands, "KK, QQ");
+}
+
+TEST_F(AnalysisDriver, AFailedCheckLeavesTheWaitCaptionBehind) {
+  struct Row {
+    std::int16_t button;
+    AnalysisMode mode;
+    const char* title;
+  };
+  window_.CurrentSituation() = {"0", "0", "0", "", ""};
+  state_.HandInfo = "an earlier table";
+  state_.RangeName = "an earlier range";
+  for (const Row& row : {Row{kCallButton, AnalysisMode::kPreflopCall, "Missing Range"},
+                         Row{kRaiseButton, AnalysisMode::kPreflopRaise, "Missing Range"},
+                         Row{kEquityButton, AnalysisMode::kEquityOnly, "Select Range"}}) {
+    window_.Log.clear();
+    messages_.Shown.clear();
+    Run(row.button);
+    EXPECT_THAT(window_.Log, ElementsAre("SetResultsShown false", "SetNoResultsCaption Please wait..."));
+    ASSERT_EQ(messages_.Shown.size(), 1U);
+    EXPECT_EQ(messages_.Shown[0].title, row.title);
+    EXPECT_EQ(state_.Mode, row.mode);
+    EXPECT_FALSE(state_.Running);
+    EXPECT_EQ(state_.HandInfo, "an earlier table");
+    EXPECT_EQ(state_.RangeName, "an earlier range");
+  }
+}
+
+TEST_F(AnalysisDriver, AfterAFailedCheckTheLabelOpensAProgressScreenWithoutARun) {
+  window_.CurrentSituation().Range = "";
+  Run(kCallButton);
+  window_.Log.clear();
+  ClickNoResults(kWaitCaption, window_);
+  StopAnalysis(state_);
+  EXPECT_THAT(window_.Log, ElementsAre("ShowFrame Progress"));
+  EXPECT_FALSE(state_.Running);
+}
+
+TEST_F(AnalysisDriver, OnlyTheWaitCaptionIsALink) {
+  ClickNoResults(kNoResultsCaption, window_);
+  ClickNoResults("please wait...", window_);
+  ClickNoResults("Please wait", window_);
+  ClickNoResults("", window_);
+  EXPECT_THAT(window_.Log, ElementsAre());
+  ClickNoResults("Please wait...", window_);
+  EXPECT_THAT(window_.Log, ElementsAre("ShowFrame Progress"));
+}
+
+TEST_F(AnalysisDriver, AStopInsideTheFirstClassEndsTheRunWithIt) {
+  window_.OnCall = [this](const std::string& line) {
+    if (line == "RaiseCell 0") StopAnalysis(state_);
+  };
+  Run(kCallButton);
+  EXPECT_THAT(
+      window_.LogFromLast("RaiseCell 0"),
+      ElementsAre("RaiseCell 0", "SetProgressPercent 1%", "SetProgressBarWidth 46.242603302002",
+                  "SetNoResultsUnderline false", "SetNoResultsCaption There are no results to display at this time.",
+                  "ShowFrame Preflop Call"));
+}
+
+TEST_F(AnalysisDriver, AStopInAYieldLetsTheNextClassFinish) {
+  AtYield(1, [this] { StopAnalysis(state_); });
+  Run(kRaiseButton);
+  EXPECT_EQ(window_.Count("RaiseCell"), 2);
+  EXPECT_EQ(window_.Count("SetProgressPercent"), 2);
+  EXPECT_EQ(window_.Count("Yield"), 1);
+  EXPECT_THAT(
+      window_.LogFromLast("SetNoResultsUnderline false"),
+      ElementsAre("SetNoResultsUnderline false", "SetNoResultsCaption There are no results to display at this time.",
+                  "ShowFrame Preflop Raise"));
+}
+
+TEST_F(AnalysisDriver, AStopInTheLastYieldThrowsAllClassesAway) {
+  state_.HandInfo = "an earlier table";
+  AtYield(169, [this] { StopAnalysis(state_); });
+  Run(kEquityButton);
+  EXPECT_EQ(window_.Count("RaiseCell"), 169);
+  EXPECT_EQ(window_.Count("PresentResults"), 0);
+  EXPECT_EQ(window_.Count("SetResultsShown true"), 0);
+  EXPECT_EQ(window_.Log.back(), "ShowFrame Equity Only");
+  EXPECT_EQ(state_.HandInfo, "an earlier table");
+}
+
+TEST_F(AnalysisDriver, AStoppedRunKeepsTheOldTableBesideTheNewSituation) {
+  Run(kCallButton);
+  const std::string table = state_.HandInfo;
+  window_.Log.clear();
+  window_.CurrentSituation() = {"300", "70", "", "Pairs", ""};
+  AtYield(5, [this] { StopAnalysis(state_); });
+  Run(kCallButton);
+  EXPECT_EQ(state_.HandInfo, table);
+  EXPECT_EQ(state_.PotSize, 300);
+  EXPECT_EQ(state_.CallAmount, 70);
+  EXPECT_EQ(state_.RangeName, "Pairs");
+  EXPECT_EQ(window_.Count("SetResultsShown"), 1) << "hidden at the start, and never shown again";
+  EXPECT_EQ(window_.Count("PresentResults"), 0);
+}
+
+TEST_F(AnalysisDriver, AfterAStopTheNextRunGoesThrough) {
+  AtYield(1, [this] { StopAnalysis(state_); });
+  Run(kCallButton);
+  window_.OnCall = nullptr;
+  Run(kCallButton);
+  EXPECT_EQ(window_.Log.back(), "ClickNav 3");
+  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, window_.CurrentSituation()));
+}
+
+TEST_F(AnalysisDriver, ASecondRunStartsWithWhatTheFirstLeftOfTheProgress) {
+  Run(kCallButton);
+  window_.Log.clear();
+  Run(kCallButton);
+  const auto firstProgress = std::find_if(window_.Log.begin(), window_.Log.end(), [](const std::string& line) {
+    return line.starts_with("SetProgressPercent") || line.starts_with("SetProgressBarWidth");
+  });
+  ASSERT_NE(firstProgress, window_.Log.end());
+  EXPECT_EQ(*firstProgress, "SetProgressPercent 1%") << "nothing takes the 100% back before the first class is done";
+  EXPECT_EQ(*(firstProgress - 1), "RaiseCell 0");
+}
+
+TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
+  AtYield(3, [this] {
+    window_.OnCall = nullptr;
+    window_.CurrentSituation().Range = "Aces";
+    Run(kEquityButton);
+  });
+  Run(kRaiseButton);
+  EXPECT_THAT(
+      window_.LogFromLast("PresentResults"),
+      ElementsAre("PresentResults", "SetResultsShown true", "ClickNav 3", "RaiseCell 3", "SetProgressPercent 2%",
+                  "SetProgressBarWidth 184.970413208008", "SetNoResultsUnderline false",
+                  "SetNoResultsCaption There are no results to display at this time.", "ShowFrame Equity Only"));
+  EXPECT_EQ(window_.Count("RaiseCell"), 4 + 169);
+  EXPECT_EQ(state_.HandInfo, TableOf(kEquityButton, {"", "", "", "Aces", ""}));
+  EXPECT_FALSE(state_.Running);
+}
+
+TEST_F(AnalysisDriver, AnOuterRunWritesNoDroppedHandsAfterAnInnerOneOfAnotherScenario) {
+  state_.DroppedHands = "of an earlier run";
+  AtYield(168, [this] {
+    window_.OnCall = nullptr;
+    Run(kEquityButton);
+  });
+  Run(kRaiseButton);
+  EXPECT_EQ(state_.DroppedHands, "of an earlier run");
+}
+
+TEST_F(AnalysisDriver, AnInnerRunThatIsStoppedStopsTheOuterOneToo) {
+  AtYield(2, [this] {
+    window_.OnCall = [this](const std::string& line) {
+      if (line == "Yield") StopAnalysis(state_);
+    };
+    Run(kCallButton);
+    window_.OnCall = nullptr;
+  });
+  Run(kRaiseButton);
+  EXPECT_EQ(window_.Count("RaiseCell"), 2 + 2 + 1);
+  EXPECT_EQ(window_.Count("ShowFrame Preflop Call"), 2);
+  EXPECT_EQ(state_.HandInfo, "");
+}
+
+TEST_F(AnalysisDriver, AnInnerClickThatItsCheckTurnsAwayChangesTheScenarioOfTheRestOfTheRun) {
+  const Situation situation = window_.CurrentSituation();
+  AtYield(169, [this] {
+    window_.OnCall = nullptr;
+    window_.CurrentSituation().Range = "";
+    Run(kEquityButton);
+  });
+  Run(kCallButton);
+  EXPECT_EQ(messages_.Shown.size(), 1U);
+  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run goes on and finishes";
+  EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
+  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, situation));
+}
+
+TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
+  const Situation before{"100", "50", "200", "Pairs", "Pairs"};
+  const Situation after{"120", "40", "300", "Pairs", "Pairs"};
+  for (const std::int16_t button : {kCallButton, kRaiseButton}) {
+    window_.Log.clear();
+    window_.CurrentSituation() = before;
+    AtYield(50, [&] { window_.CurrentSituation() = after; });
+    Run(button);
+    const Lines rows = RowsOf(state_.HandInfo);
+    const Lines rowsBefore = RowsOf(TableOf(button, before));
+    const Lines rowsAfter = RowsOf(TableOf(button, after));
+    for (std::size_t index = 0; index < rows.size(); ++index)
+      EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
+    EXPECT_EQ(state_.PotSize, 100);
+    EXPECT_EQ(state_.CallAmount, 50);
+  }
+  EXPECT_EQ(state_.ShoveAmount, 200);
+}
+
+TEST_F(AnalysisDriver, ARangeFileChangedDuringARunIsNotReadAgain) {
+  window_.CurrentSituation().Range = "Pairs";
+  const std::string table = TableOf(kEquityButton, window_.CurrentSituation());
+  AtYield(1, [this] { ranges_.Save("Pairs", EveryHandAt(1)); });
+  Run(kEquityButton);
+  EXPECT_EQ(state_.HandInfo, table);
+}
+
+// A window in which a range's file goes while the run starts, after the check has read it.
+class VanishingRange : public RecordingWindow {
+ public:
+  VanishingRange(Situation situation, MessageBoxes& messages, const RangeFolder& ranges)
+      : RecordingWindow(std::move(situation), messages), ranges_(ranges) {}
+
+  [[nodiscard]] std::string SelectedRange(std::int16_t index) const override {
+    if (++asked_ == 2) ranges_.Remove("Aces");
+    return RecordingWindow::SelectedRange(index);
+  }
+
+ private:
+  const RangeFolder& ranges_;
+  mutable int asked_ = 0;
+};
+
+TEST_F(AnalysisDriver, ARangeFileThatVanishesAfterTheCheckIsFatal) {
+  VanishingRange window({"100", "50", "", "Aces", ""}, messages_, ranges_);
+  try {
+    RunAnalysis(state_, kCallButton, window, ranges_.Folder());
+    ADD_FAILURE() << "nothing failed";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.Fault(), RunTimeFault::kSubscriptOutOfRange);
+  }
+  EXPECT_EQ(window.Log.back(), "RaiseCell 0");
+}
+
+TEST_F(AnalysisDriver, ARangeFileThatComesBackBeforeTheFirstClassIsReadThenAndKept) {
+  VanishingRange window({"100", "50", "", "Aces", ""}, messages_, ranges_);
+  window.OnCall = [this](const std::string& line) {
+    if (line != "ShowFrame Progress") return;
+    EXPECT_EQ(state_.RangeText, "");
+    ranges_.Save("Aces", RangeWith({{"AA", 1}}));
+  };
+  RunAnalysis(state_, kCallButton, window, ranges_.Folder());
+  EXPECT_EQ(state_.RangeText, RangeWith({{"AA", 1}}));
+  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, {"100", "50", "", "Aces", ""}));
+}
+
+TEST_F(AnalysisDriver, AShoveWithoutARangeFileFailsOnTheFirstClass) {
+  ranges_.Save("Hollow", "");
+  struct Row {
+    const char* name;
+    const char* range;
+    const char* callingRange;
+  };
+  for (const Row& row : {Row{"no current file", "Missing", "Full"}, Row{"no calling file", "Full", "Missing"},
+                         Row{"an empty current file", "Hollow", "Full"}, Row{"an empty calling file", "Full", "Hollow"},
+                         Row{"neither file", "Missing", "Missing"}}) {
+    window_.Log.clear();
+    window_.CurrentSituation() = {"15", "5", "100", row.range, row.callingRange};
+    EXPECT_EQ(FaultNumberOfRun(kRaiseButton), 9) << row.name;
+    EXPECT_EQ(window_.Log.back(), "RaiseCell 0") << row.name;
+  }
+}
+
+TEST_F(AnalysisDriver, AnExpectedValueBeyondAllNumbersIsFatal) {
+  window_.CurrentSituation() = {"1e308", "1e308", "1e308", "Full", "Full"};
+  EXPECT_EQ(FaultNumberOfRun(kRaiseButton), 6);
+}
+
+TEST_F(AnalysisDriver, AnyOtherButtonShoves) {
+  Run(7);
+  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopRaise);
+  EXPECT_EQ(state_.HandInfo, TableOf(kRaiseButton, window_.CurrentSituation()));
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,312 @@
+#include "analysis/dealt_range.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "analysis/range_folder.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using testing::Each;
+using testing::Field;
+using testing::SizeIs;
+
+std::ptrdiff_t CountOfWeight(const HandList& list, double weight) {
+  return std::count_if(list.begin(), list.end(), [&](const HandRecord& hand) { return hand.Weight == weight; });
+}
+
+HandList Deal(std::string text, std::string_view card1, std::string_view card2) {
+  return DealRange(ProgramFolder{}, "", card1, card2, text);
+}
+
+HandList DealForClass(const std::string& text, std::string_view label) {
+  const FixedText<5> cards = HandCards(label);
+  return Deal(text, cards.View().substr(0, 2), cards.View().substr(3, 2));
+}
+
+RunTimeFault FaultOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    return error.Fault();
+  }
+  ADD_FAILURE() << "nothing failed";
+  return RunTimeFault::kDeviceError;
+}
+
+TEST(BuildCombos, PlaceholderCardsBlockNothing) {
+  const HandList hands = BuildCombos("Xx", "Yy");
+  EXPECT_THAT(hands, SizeIs(1326));
+  EXPECT_THAT(hands, Each(Field(&HandRecord::Weight, 1.0)));
+  EXPECT_THAT(hands, Each(Field(&HandRecord::WeightText, "1")));
+}
+
+TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
+  const HandRecord aceKing = BuildCombos("As", "Yy").at(4);
+  EXPECT_EQ(aceKing.Card1Rank, 'A');
+  EXPECT_EQ(aceKing.Card2Rank, 'K');
+  EXPECT_EQ(aceKing.Card1Suit, 's');
+  EXPECT_EQ(aceKing.Card2Suit, 'h');
+  EXPECT_EQ(aceKing.Card1, "As");
+  EXPECT_EQ(aceKing.Card2, "Kh");
+  EXPECT_EQ(aceKing.Cards, "As Kh");
+  EXPECT_EQ(aceKing.Label, "AKo");
+  EXPECT_EQ(aceKing.Weight, 0);
+  EXPECT_EQ(aceKing.WeightText, "0");
+}
+
+TEST(BuildCombos, HandsStandInDeckOrder) {
+  struct Row {
+    std::size_t index;
+    const char* cards;
+    const char* label;
+  };
+  const HandList hands = BuildCombos("Xx", "Yy");
+  for (const Row& row : {Row{0, "As Ah", "AA"}, Row{1, "As Ad", "AA"}, Row{2, "As Ac", "AA"}, Row{3, "As Ks", "AKs"},
+                         Row{4, "As Kh", "AKo"}, Row{50, "As 2c", "A2o"}, Row{51, "Ah Ad", "AA"},
+                         Row{1323, "2h 2d", "22"}, Row{1324, "2h 2c", "22"}, Row{1325, "2d 2c", "22"}}) {
+    EXPECT_EQ(hands.at(row.index).Cards, row.cards) << row.index;
+    EXPECT_EQ(hands.at(row.index).Label, row.label) << row.index;
+  }
+}
+
+TEST(BuildCombos, EveryClassHasItsNumberOfHands) {
+  const HandList hands = BuildCombos("Xx", "Yy");
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view label = HandLabel(index);
+    EXPECT_EQ(std::count_if(hands.begin(), hands.end(), [&](const HandRecord& hand) { return hand.Label == label; }),
+              ComboCount(label))
+        << label;
+  }
+}
+
+TEST(BuildCombos, ACardBlocksTheFiftyOneHandsThatHoldIt) {
+  const HandList hands = BuildCombos("Ah", "Yy");
+  EXPECT_EQ(CountOfWeight(hands, 0), 51);
+  for (const HandRecord& hand : hands) {
+    const bool holds = hand.Card1 == "Ah" || hand.Card2 == "Ah";
+    EXPECT_EQ(hand.Weight, holds ? 0 : 1) << hand.Cards;
+    EXPECT_EQ(hand.WeightText, holds ? "0" : "1") << hand.Cards;
+  }
+}
+
+TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
+  struct Row {
+    const char* name;
+    const char* dead1;
+    const char* dead2;
+    std::ptrdiff_t blocked;
+  };
+  for (const Row& row : {
+           Row{"two cards block 51 + 51 - 1 hands", "As", "Ac", 101},
+           Row{"the same card twice blocks it once", "As", "As", 51},
+           Row{"the empty text is found everywhere", "", "Yy", 1326},
+           Row{"the empty text counts as the second one too", "Xx", "", 1326},
+           Row{"a rank blocks all hands that hold it", "A", "Yy", 48 * 4 + 6},
+           Row{"a suit blocks all hands that hold it", "Yy", "s", 13 * 39 + 78},
+           Row{"the blank is in every hand", " ", "Yy", 1326},
+           Row{"a blank before a rank is the second card's place", " A", "Yy", 6},
+           Row{"a blank behind a suit is the first card's place", "Xx", "s ", 13 * 51 - 4 * 78},
+           Row{"a whole hand blocks itself", "As Kh", "Yy", 1},
+           Row{"the cards the other way round are in no hand", "Kh As", "Yy", 0},
+           Row{"suit, blank and rank are searched across the cards", "s K", "Yy", 4 + 3},
+           Row{"more than a hand is in no hand", "As Kh ", "Yy", 0},
+           Row{"letters are compared with case", "as", "AS", 0},
+       }) {
+    const HandList hands = BuildCombos(row.dead1, row.dead2);
+    const auto found = std::count_if(hands.begin(), hands.end(), [&](const HandRecord& hand) {
+      return hand.Cards.String().find(row.dead1) != std::string::npos ||
+             hand.Cards.String().find(row.dead2) != std::string::npos;
+    });
+    EXPECT_EQ(CountOfWeight(hands, 0), found) << row.name;
+    EXPECT_EQ(CountOfWeight(hands, 0), row.blocked) << row.name;
+  }
+}
+
+TEST(DealRange, AHandHasTheWeightOfItsClassUnlessBlocked) {
+  const std::string text = RangeWith({{"AA", 1}, {"AKs", 0.5}, {"72o", 0.25}});
+  const HandList hands = Deal(text, "As", "Kc");
+  ASSERT_THAT(hands, SizeIs(1326));
+  for (const HandRecord& hand : hands) {
+    const bool blocked = hand.Card1 == "As" || hand.Card1 == "Kc" || hand.Card2 == "As" || hand.Card2 == "Kc";
+    EXPECT_EQ(hand.Weight, blocked ? 0 : RangeWeightOf(text, hand.Label)) << hand.Cards;
+    EXPECT_EQ(hand.WeightText, blocked ? "0" : "1") << "the weight text is that of the build: " << hand.Cards;
+  }
+}
+
+TEST(DealRange, WeightsAreTakenAsTheyStand) {
+  const HandList hands = Deal(RangeWith({{"AA", 2}, {"AKs", -1}, {"AKo", 0.37}}), "Xx", "Yy");
+  EXPECT_EQ(hands.at(0).Weight, 2);
+  EXPECT_EQ(hands.at(3).Weight, -1);
+  EXPECT_EQ(hands.at(4).Weight, 0.37);
+}
+
+TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
+  // The pair "33" is found in the weight that stands before its entry, and what follows there is no weight.
+  EXPECT_EQ(FaultOf([] { (void)Deal(RangeWith({{"AA", 0.333}}), "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
+  EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "behind the entry it does no harm";
+}
+
+TEST(DealRange, AMissingClassReadsWhatStandsBeforeTheFirstBracket) {
+  const HandList hands = Deal("AA (1), AKs (0), ", "Xx", "Yy");
+  EXPECT_EQ(hands.at(4).Weight, 1) << "AKo";
+  EXPECT_EQ(hands.at(1325).Weight, 0) << "22";
+}
+
+TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
+  const RangeFolder ranges;
+  ranges.Save("Aces", RangeWith({{"AA", 1}}));
+  std::string text;
+  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 6);
+  EXPECT_EQ(text, RangeWith({{"AA", 1}}));
+}
+
+TEST(DealRange, ATextAtHandIsNotReadAgain) {
+  const RangeFolder ranges;
+  ranges.Save("Aces", RangeWith({{"AA", 1}}));
+  std::string text = RangeWith({{"AKs", 1}});
+  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4);
+  EXPECT_EQ(text, RangeWith({{"AKs", 1}}));
+}
+
+TEST(DealRange, WithoutAFileThereAreNoRecords) {
+  const RangeFolder ranges;
+  ranges.Save("Hollow", "");
+  std::string text;
+  EXPECT_THAT(DealRange(ranges.Folder(), "Missing", "Xx", "Yy", text), SizeIs(0));
+  EXPECT_THAT(DealRange(ranges.Folder(), "Hollow", "Xx", "Yy", text), SizeIs(0));
+  EXPECT_EQ(text, "");
+}
+
+TEST(DealRange, ATextWithoutBracketsFailsEvenIfEveryHandIsBlocked) {
+  EXPECT_EQ(FaultOf([] { (void)Deal("aces and kings", "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
+  EXPECT_EQ(FaultOf([] { (void)Deal("aces and kings", "", ""); }), RunTimeFault::kInvalidProcedureCall);
+}
+
+TEST(TotalWeight, CountsTheHandsThatSurvive) {
+  struct Row {
+    const char* name;
+    std::string range;
+    const char* hero;  // "" for nobody
+    double weight;
+  };
+  for (const Row& row : {
+           Row{"the full range", EveryHandAt(1), "", 1326},
+           Row{"the full range around As Ac", EveryHandAt(1), "AA", 1225},
+           Row{"the half range", EveryHandAt(0.5), "", 663},
+           Row{"the empty range", EveryHandAt(0), "", 0},
+           Row{"aces around As Ac are Ah Ad alone", RangeWith({{"AA", 1}}), "AA", 1},
+           Row{"aces around Ac Ks lose three hands", RangeWith({{"AA", 1}}), "AKo", 3},
+           Row{"aces around Ac Kc lose three hands", RangeWith({{"AA", 1}}), "AKs", 3},
+           Row{"suited ace-king around Ac Qs loses Ac Kc", RangeWith({{"AKs", 1}}), "AQo", 3},
+           Row{"offsuit ace-king around Ac Ks loses the three with Ac and the three with Ks", RangeWith({{"AKo", 1}}),
+               "AKo", 7},
+           Row{"half aces around 7c 2s weigh a half each", RangeWith({{"AA", 0.5}}), "72o", 3},
+       }) {
+    const HandList list = *row.hero == '\0' ? Deal(row.range, "Xx", "Yy") : DealForClass(row.range, row.hero);
+    EXPECT_EQ(TotalWeight(list), row.weight) << row.name;
+  }
+}
+
+TEST(TotalWeight, AListWithoutRecordsHasNoSum) {
+  EXPECT_EQ(FaultOf([] { (void)TotalWeight({}); }), RunTimeFault::kSubscriptOutOfRange);
+}
+
+TEST(TotalWeight, AddsInTheOrderOfTheList) {
+  HandList list(4);
+  list[0].Weight = 1e16;
+  list[1].Weight = 1;
+  list[2].Weight = 1;
+  list[3].Weight = -1e16;
+  EXPECT_EQ(TotalWeight(list), 0) << "each 1 is lost in the large number it is added to";
+}
+
+TEST(LimitToRange, EachHandTakesTheSmallerWeight) {
+  struct Row {
+    double current;
+    double calling;
+    double limited;
+  };
+  for (const Row& row : {Row{1, 1, 1}, Row{1, 0.5, 0.5}, Row{0.5, 1, 0.5}, Row{0, 1, 0}, Row{1, 0, 0}, Row{0, 0, 0},
+                         Row{0.25, 0.3, 0.25}, Row{-1, 0, -1}}) {
+    const HandList limited = LimitToRange(Deal(RangeWith({{"AA", row.current}}), "Xx", "Yy"),
+                                          Deal(RangeWith({{"AA", row.calling}}), "Xx", "Yy"));
+    EXPECT_EQ(limited.at(0).Weight, row.limited) << row.current << " and " << row.calling;
+  }
+}
+
+TEST(LimitToRange, OnlyWeightsChange) {
+  const HandList current = Deal(EveryHandAt(0.5), "As", "Ac");
+  const HandList calling = Deal(EveryHandAt(1), "As", "Ac");
+  EXPECT_EQ(LimitToRange(current, calling), Deal(EveryHandAt(0.5), "As", "Ac"));
+}
+
+TEST(LimitToRange, RecordsBeyondTheCurrentListStay) {
+  HandList calling(3);
+  for (HandRecord& hand : calling)
+    hand.Weight = 1;
+  const HandList limited = LimitToRange(HandList(2), calling);
+  ASSERT_THAT(limited, SizeIs(3));
+  EXPECT_EQ(limited[1].Weight, 0);
+  EXPECT_EQ(limited[2].Weight, 1);
+}
+
+TEST(LimitToRange, ListsThatDoNotMatchFail) {
+  struct Row {
+    const char* name;
+    std::size_t current;
+    std::size_t calling;
+  };
+  for (const Row& row : {Row{"both empty", 0, 0}, Row{"no current range", 0, 1326}, Row{"no calling range", 1326, 0},
+                         Row{"a calling range that ends early", 1326, 1325}}) {
+    const auto limit = [&] { (void)LimitToRange(HandList(row.current), HandList(row.calling)); };
+    const auto list = [&] { (void)ListDroppedHands(HandList(row.current), HandList(row.calling)); };
+    EXPECT_EQ(FaultOf(limit), RunTimeFault::kSubscriptOutOfRange) << row.name;
+    EXPECT_EQ(FaultOf(list), RunTimeFault::kSubscriptOutOfRange) << row.name;
+  }
+}
+
+TEST(ListDroppedHands, NamesWhatAFullCallingWeightLoses) {
+  struct Row {
+    const char* name;
+    std::string current;
+    std::string calling;
+    const char* hero;
+    const char* dropped;
+  };
+  for (const Row& row : {
+           Row{"nothing to drop", EveryHandAt(1), EveryHandAt(1), "22", ""},
+           Row{"an absent class stands by its label", EveryHandAt(0), RangeWith({{"AA", 1}}), "22", "AA"},
+           Row{"a half class is marked", RangeWith({{"AA", 0.5}}), RangeWith({{"AA", 1}}), "22", "AA (½'d)"},
+           Row{"classes come in the order of the deck, not of the grid", RangeWith({{"AKo", 0.5}}),
+               RangeWith({{"22", 1}, {"KK", 1}, {"AQs", 1}, {"AKo", 1}, {"AKs", 1}, {"AA", 1}}), "72o",
+               "AA, AKs, AKo (½'d), AQs, KK, 22"},
+           Row{"a half calling weight is cut in silence", EveryHandAt(0), RangeWith({{"AA", 0.5}}), "22", ""},
+           Row{"a calling weight above 1 is cut in silence", EveryHandAt(0), RangeWith({{"AA", 2}}), "22", ""},
+           Row{"a current weight of neither 0 nor a half is cut in silence", RangeWith({{"AA", 0.25}}),
+               RangeWith({{"AA", 1}}), "22", ""},
+           Row{"a current weight below 0 is cut in silence", RangeWith({{"AA", -1}}), RangeWith({{"AA", 1}}), "22", ""},
+           Row{"a class with some hands blocked stands once", EveryHandAt(0), RangeWith({{"KK", 1}}), "KK", "KK"},
+           Row{"a class with all hands but one blocked is found", EveryHandAt(0), RangeWith({{"22", 1}}), "22", "22"},
+           Row{"hands that are in the current range only are none", EveryHandAt(1), EveryHandAt(0), "22", ""},
+       }) {
+    EXPECT_EQ(ListDroppedHands(DealForClass(row.current, row.hero), DealForClass(row.calling, row.hero)), row.dropped)
+        << row.name;
+  }
+}
+
+TEST(ListDroppedHands, EveryClassCanBeNamed) {
+  const std::string dropped = ListDroppedHands(Deal(EveryHandAt(0), "2s", "2c"), Deal(EveryHandAt(1), "2s", "2c"));
+  EXPECT_EQ(std::count(dropped.begin(), dropped.end(), ','), 168);
+  EXPECT_EQ(dropped.substr(0, 23), "AA, AKs, AKo, AQs, AQo,");
+  EXPECT_EQ(dropped.substr(dropped.size() - 12), "32o, 32s, 22");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,45 @@
+#include "analysis/expected_value.h"
+
+#include <algorithm>
+
+#include "support/number_text.h"
+#include "support/rounding.h"
+
+namespace quillon {
+
+double BoxValue(std::string_view text) {
+  std::string amount(text);
+  std::erase(amount, '$');
+  return LeadingNumber(amount);
+}
+
+double GetBoxValue(const AmountBoxes& boxes, std::int16_t index) {
+  return BoxValue(boxes.BoxText(index));
+}
+
+double CallExpectedValue(double pot, double call, double equity) {
+  return (call + pot) * equity - call;
+}
+
+double ShoveExpectedValue(double pot, double call, double shove, double equity, double callShare) {
+  const double afterCall = (pot + call) + (shove + shove);
+  const double invested = call + shove;
+  return (equity * afterCall - invested) * callShare + (1 - callShare) * pot;
+}
+
+double PotOdds(double potSize, double callAmount) {
+  return Divide(potSize, callAmount);
+}
+
+double BreakEvenEquity(double odds) {
+  return Divide(1, odds + 1);
+}
+
+OpponentOdds OpponentOddsTexts(double pot, double call, double shove) {
+  if (shove == 0) return {"N/A", "N/A"};
+  const double hisOdds = Divide(pot + call + shove, shove);
+  const double hisBreakEven = BreakEvenEquity(hisOdds);
+  return {NumberText(RoundTo(hisOdds, 2)) + " : 1", NumberText(RoundTo(hisBreakEven * 100, 2)) + "%"};
+}
+
+}  // namespace quillon

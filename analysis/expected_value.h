@@ -1,0 +1,74 @@
+#pragma once
+
+// What a move is worth. The user either folds, which is worth 0, or puts chips in, and the expected value is what the
+// move brings on average in chips, or dollars: the unit is that of the amount boxes. Nothing here is rounded but the
+// two texts of OpponentOddsTexts.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// The boxes in which the user states the situation, by their index in `txtNumber`.
+inline constexpr std::int16_t kCallPotBox = 0;  // "Preflop Call": the pot, the opponent's bet included
+inline constexpr std::int16_t kCallCallBox = 1;  // what the user must put in
+inline constexpr std::int16_t kRaisePotBox = 2;  // "Preflop Raise": the pot
+inline constexpr std::int16_t kRaiseCallBox = 3;  // what the user must put in to stay in, 0 if he is first to act
+inline constexpr std::int16_t kRaiseShoveBox = 4;  // what the opponent must put in to call the user's shove
+
+/// The amount boxes as an analysis sees them.
+class AmountBoxes {
+ public:
+  virtual ~AmountBoxes() = default;
+
+  /// The text of `txtNumber(index)` as it stands at this moment.
+  [[nodiscard]] virtual std::string BoxText(std::int16_t index) const = 0;
+};
+
+/// The value of a box's text: every "$" is taken out, and the leading number of the rest counts. It never fails.
+///
+///     "150" -> 150      "$12.50" -> 12.5      "1,000" -> 1      "12abc" -> 12      "abc" -> 0      "" -> 0
+[[nodiscard]] double BoxValue(std::string_view text);
+
+/// The value of `txtNumber(index)`.
+[[nodiscard]] double GetBoxValue(const AmountBoxes& boxes, std::int16_t index);
+
+/// Calling a bet for all the chips: the user pays `call` and with probability `equity` takes the whole pot, his own
+/// call included.
+///
+///     (call + pot) * equity - call
+[[nodiscard]] double CallExpectedValue(double pot, double call, double equity);
+
+/// Shoving: the opponent calls with probability `callShare`, and the pot of `pot` + `call` + 2 * `shove` is played for,
+/// of which `call` + `shove` are the user's; otherwise the user takes the pot as it stands.
+///
+///     (equity * ((pot + call) + (shove + shove)) - (call + shove)) * callShare + (1 - callShare) * pot
+///
+/// With a `callShare` of 0 it is exactly the pot, whatever `equity` says: -1 stands there for "never called".
+[[nodiscard]] double ShoveExpectedValue(double pot, double call, double shove, double equity, double callShare);
+
+/// The pot odds, to one: 2 for a pot of 100 and a call of 50. Fails as Divide does for a call of 0.
+[[nodiscard]] double PotOdds(double potSize, double callAmount);
+
+/// The equity at which calling at these odds is worth just as much as folding, 1 / (odds + 1): 1/3 at odds of 2.
+/// RunTimeError "Division by zero" at odds of -1.
+[[nodiscard]] double BreakEvenEquity(double odds);
+
+/// What `lblHisOdds` and `lblHisBEP` show.
+struct OpponentOdds {
+  std::string HisOdds;
+  std::string HisBreakEven;
+
+  bool operator==(const OpponentOdds&) const = default;
+};
+
+/// The odds that a shove gives the opponent, (pot + call + shove) / shove to one, and the equity at which calling it
+/// breaks even for him, both rounded to two decimals:
+///
+///     (15, 5, 100) -> "1.2 : 1" and "45.45%"      a shove of 0 -> "N/A" and "N/A"
+///
+/// Fails as BreakEvenEquity does, where amounts below 0 make odds of -1.
+[[nodiscard]] OpponentOdds OpponentOddsTexts(double pot, double call, double shove);
+
+}  // namespace quillon

@@ -1,0 +1,108 @@
+#include "analysis/expected_value.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+class FiveBoxes : public AmountBoxes {
+ public:
+  [[nodiscard]] std::string BoxText(std::int16_t index) const override { return "$" + std::to_string(10 * index); }
+};
+
+RunTimeFault FaultOf(double (*action)()) {
+  try {
+    (void)action();
+  } catch (const RunTimeError& error) {
+    return error.Fault();
+  }
+  ADD_FAILURE() << "nothing failed";
+  return RunTimeFault::kDeviceError;
+}
+
+TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
+  struct Row {
+    const char* text;
+    double value;
+  };
+  for (const Row& row : {Row{"150", 150}, Row{"12.5", 12.5}, Row{"$100", 100}, Row{"1$0$0", 100}, Row{"-$5", -5},
+                         Row{"$-5", -5}, Row{"1,000", 1}, Row{"12abc", 12}, Row{"abc", 0}, Row{"", 0}, Row{"$", 0},
+                         Row{"1 000", 1000}, Row{"1e3", 1000}, Row{"1$e$3", 1000}, Row{"=5+5", 0}, Row{".5", 0.5}}) {
+    EXPECT_EQ(BoxValue(row.text), row.value) << row.text;
+  }
+}
+
+TEST(GetBoxValue, ReadsTheBoxOfTheIndex) {
+  EXPECT_EQ(GetBoxValue(FiveBoxes(), kCallPotBox), 0);
+  EXPECT_EQ(GetBoxValue(FiveBoxes(), kRaiseShoveBox), 40);
+}
+
+TEST(CallExpectedValue, IsTheShareOfTheWholePotLessTheCall) {
+  EXPECT_EQ(CallExpectedValue(100, 50, 0.5), 25);
+  EXPECT_EQ(CallExpectedValue(100, 50, 0), -50);
+  EXPECT_EQ(CallExpectedValue(100, 50, 1), 100);
+}
+
+TEST(CallExpectedValue, IsZeroAtTheBreakEvenPoint) {
+  EXPECT_EQ(PotOdds(100, 50), 2);
+  EXPECT_EQ(BreakEvenEquity(2), 1.0 / 3);
+  EXPECT_NEAR(CallExpectedValue(100, 50, BreakEvenEquity(PotOdds(100, 50))), 0, 1e-14);
+}
+
+TEST(ShoveExpectedValue, WeighsTheCalledAndTheFoldedCase) {
+  EXPECT_DOUBLE_EQ(ShoveExpectedValue(15, 0, 100, 0.6, 0.25), 18.5);
+}
+
+TEST(ShoveExpectedValue, WithoutFoldsThePotTermIsGone) {
+  EXPECT_EQ(ShoveExpectedValue(15, 5, 100, 0.5, 1), 0.5 * 220 - 105);
+}
+
+TEST(ShoveExpectedValue, NeverCalledItIsExactlyThePot) {
+  EXPECT_EQ(ShoveExpectedValue(15.1, 5, 100, -1, 0), 15.1);
+}
+
+TEST(ShoveExpectedValue, TheSumIsEvaluatedInItsOrder) {
+  const double afterCall = (0.3 + 0.1) + (0.7 + 0.7);
+  ASSERT_NE(afterCall, 0.3 + 0.1 + 0.7 + 0.7) << "these amounts tell the orders apart";
+  EXPECT_EQ(ShoveExpectedValue(0.3, 0.1, 0.7, 1, 1), afterCall - (0.1 + 0.7));
+}
+
+TEST(PotOdds, ACallOfNothingHasNone) {
+  EXPECT_EQ(FaultOf([] { return PotOdds(100, 0); }), RunTimeFault::kDivisionByZero);
+  EXPECT_EQ(FaultOf([] { return PotOdds(0, 0); }), RunTimeFault::kOverflow);
+  EXPECT_EQ(FaultOf([] { return BreakEvenEquity(-1); }), RunTimeFault::kDivisionByZero);
+}
+
+TEST(OpponentOddsTexts, AreRoundedToTwoDecimals) {
+  struct Row {
+    double pot = 0;
+    double call = 0;
+    double shove = 0;
+    OpponentOdds texts;
+  };
+  for (const Row& row : {
+           Row{15, 5, 100, {"1.2 : 1", "45.45%"}},
+           Row{100, 0, 100, {"2 : 1", "33.33%"}},
+           Row{100, 50, 150, {"2 : 1", "33.33%"}},
+           Row{0, 0, 100, {"1 : 1", "50%"}},
+           Row{1, 0, 8, {"1.12 : 1", "47.06%"}},  // 1.125 lies between and goes to the even neighbour
+           Row{3, 0, 8, {"1.38 : 1", "42.11%"}},  // and so does 1.375
+           Row{-20, 0, 5, {"-3 : 1", "-50%"}},
+           Row{15, 5, 0, {"N/A", "N/A"}},
+           Row{0, 0, 0, {"N/A", "N/A"}},
+       }) {
+    EXPECT_EQ(OpponentOddsTexts(row.pot, row.call, row.shove), row.texts)
+        << row.pot << ' ' << row.call << ' ' << row.shove;
+  }
+}
+
+TEST(OpponentOddsTexts, OddsOfMinusOneHaveNoBreakEvenPoint) {
+  const auto texts = [] { return static_cast<double>(OpponentOddsTexts(-20, 0, 10).HisOdds.size()); };
+  EXPECT_EQ(FaultOf(texts), RunTimeFault::kDivisionByZero);
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,75 @@
+#include "analysis/range_equity.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "analysis/range_folder.h"
+#include "hand/equity_table.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+class EquityVsRangeTest : public testing::Test {
+ public:
+  void SetUp() override { LoadEquityTable(); }
+};
+
+double Equity(std::string_view hero, std::string range) {
+  const FixedText<5> cards = HandCards(hero);
+  return EquityVsRange(hero,
+                       DealRange(ProgramFolder{}, "", cards.View().substr(0, 2), cards.View().substr(3, 2), range));
+}
+
+RunTimeFault FaultOf(std::string_view hero, const HandList& list) {
+  try {
+    (void)EquityVsRange(hero, list);
+  } catch (const RunTimeError& error) {
+    return error.Fault();
+  }
+  ADD_FAILURE() << "nothing failed";
+  return RunTimeFault::kDeviceError;
+}
+
+TEST_F(EquityVsRangeTest, AgainstOneClassItIsTheEquityOfTheTable) {
+  struct Row {
+    const char* hero;
+    const char* opponent;
+    double weight;
+    double equity;
+  };
+  for (const Row& row : {Row{"AA", "AA", 1, 0.5}, Row{"AA", "KK", 1, 0.819461}, Row{"KK", "AA", 1, 0.180539},
+                         Row{"KK", "AA", 0.5, 0.180539}, Row{"AKo", "QQ", 1, 0.432423}}) {
+    EXPECT_NEAR(Equity(row.hero, RangeWith({{row.opponent, row.weight}})), row.equity, 1e-15)
+        << row.hero << " against " << row.opponent;
+  }
+}
+
+TEST_F(EquityVsRangeTest, ClassesCountByTheHandsThatSurvive) {
+  // KK is Ks Kc: of AA all six survive, of KK Kh Kd alone, and of AKs Ah Kh and Ad Kd.
+  const double mean = (6 * HandEquity("KK", "AA") + 1 * HandEquity("KK", "KK") + 2 * HandEquity("KK", "AKs")) / 9;
+  EXPECT_NEAR(Equity("KK", RangeWith({{"AA", 1}, {"KK", 1}, {"AKs", 1}})), mean, 1e-15);
+}
+
+TEST_F(EquityVsRangeTest, AHalfWeightCountsHalf) {
+  const double mean = (3 * HandEquity("72o", "AA") + 6 * HandEquity("72o", "KK")) / 9;
+  EXPECT_NEAR(Equity("72o", RangeWith({{"AA", 0.5}, {"KK", 1}})), mean, 1e-15);
+}
+
+TEST_F(EquityVsRangeTest, HandsOfNegativeWeightAreSkipped) {
+  EXPECT_EQ(Equity("72o", RangeWith({{"AA", 1}, {"KK", -1}})), Equity("72o", RangeWith({{"AA", 1}})));
+}
+
+TEST_F(EquityVsRangeTest, ScalingAllWeightsByAPowerOfTwoChangesNothing) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    EXPECT_EQ(Equity(HandLabel(index), EveryHandAt(0.5)), Equity(HandLabel(index), EveryHandAt(1)));
+}
+
+TEST_F(EquityVsRangeTest, AListWithoutWeightHasNoMean) {
+  EXPECT_EQ(FaultOf("AA", BuildCombos("", "")), RunTimeFault::kOverflow);
+  EXPECT_EQ(FaultOf("AA", {}), RunTimeFault::kSubscriptOutOfRange);
+}
+
+}  // namespace
+}  // namespace quillon

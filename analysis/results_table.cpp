@@ -1,0 +1,128 @@
+#include "analysis/results_table.h"
+
+#include <cstddef>
+#include <limits>
+#include <optional>
+
+#include "support/number_text.h"
+#include "support/rounding.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::size_t kUsualRowSize = 64;
+
+// Takes the first row off `rest` and gives it back without its line end; nothing if no line end is left.
+std::optional<std::string_view> TakeRow(std::string_view& rest) {
+  const std::size_t length = rest.find(kLineEnd);
+  if (length == std::string_view::npos) return std::nullopt;
+  const std::string_view row = rest.substr(0, length);
+  rest.remove_prefix(length + kLineEnd.size());
+  return row;
+}
+
+std::string_view KeyOf(std::string_view row) {
+  return row.substr(0, row.find('\t'));
+}
+
+std::string_view CellOf(std::string_view row, std::int16_t column) {
+  for (std::int16_t i = 0; i < column; ++i) {
+    const std::size_t tab = row.find('\t');
+    if (tab == std::string_view::npos) return {};
+    row.remove_prefix(tab + 1);
+  }
+  return row.substr(0, row.find('\t'));
+}
+
+double ValueOf(std::string_view row, std::int16_t column) {
+  return LeadingNumber(CellOf(row, column));
+}
+
+void AppendTabs(std::string& table, int count) {
+  if (count > 0) table.append(static_cast<std::size_t>(count), '\t');
+}
+
+void AppendChangedRow(std::string& table, std::string_view row, std::int16_t column, double value,
+                      std::int16_t lastColumn) {
+  for (std::int16_t i = 0; i <= lastColumn; ++i) {
+    const std::string_view cell = CellOf(row, i);
+    if (i == column)
+      table += NumberText(LeadingNumber(cell) + value);
+    else
+      table += cell;
+    table += '\t';
+  }
+  table += kLineEnd;
+}
+
+void AppendNewRow(std::string& table, std::string_view label, std::int16_t column, double value,
+                  std::int16_t lastColumn) {
+  table += label;
+  AppendTabs(table, column);
+  table += NumberText(value);
+  AppendTabs(table, lastColumn - column);
+  table += kLineEnd;
+}
+
+double RoundToWhole(double value) {
+  const double whole = RoundTo(value, 0);
+  if (whole > std::numeric_limits<std::int32_t>::max()) throw RunTimeError(RunTimeFault::kOverflow);
+  return whole;
+}
+
+}  // namespace
+
+std::string SetHandInfo(std::string_view table, std::string_view label, std::int16_t column, double value,
+                        std::int16_t lastColumn) {
+  std::string result;
+  result.reserve(table.size() + kUsualRowSize);
+  bool found = false;
+  std::string_view rest = table;
+  while (const auto row = TakeRow(rest)) {
+    if (KeyOf(*row) == label) {
+      AppendChangedRow(result, *row, column, value, lastColumn);
+      found = true;
+    } else {
+      result.append(*row).append(kLineEnd);
+    }
+  }
+  if (!found) AppendNewRow(result, label, column, value, lastColumn);
+  return result;
+}
+
+double GetHandInfo(std::string_view table, std::string_view label, std::int16_t column) {
+  std::string_view rest = table;
+  while (const auto row = TakeRow(rest)) {
+    if (!row->empty() && KeyOf(*row) == label) return ValueOf(*row, column);
+  }
+  if (!rest.empty() && KeyOf(rest) == label) return ValueOf(rest, column);
+  return 0;
+}
+
+std::string BestHand(std::string_view table, std::int16_t column) {
+  double best = -10000;
+  std::string_view label;
+  while (const auto row = TakeRow(table)) {
+    const double value = ValueOf(*row, column);
+    if (value <= best) continue;
+    best = RoundToWhole(value);
+    label = CellOf(*row, 0);
+  }
+  return std::string(label);
+}
+
+std::string WorstHand(std::string_view table, std::int16_t column) {
+  double best = 10000;
+  std::string_view label;
+  while (const auto row = TakeRow(table)) {
+    const double value = ValueOf(*row, column);
+    if (value >= best) continue;
+    best = value;
+    label = CellOf(*row, 0);
+  }
+  return std::string(label);
+}
+
+}  // namespace quillon

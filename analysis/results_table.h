@@ -1,0 +1,58 @@
+#pragma once
+
+// The results table: everything an analysis finds out, as one text. There are no numbers beside it. Each class has one
+// row, each row ends in CR LF, and its cells are parted by tabs:
+//
+//     AKs <tab> -12.3456789012345 <tab> 0.67 <tab> 0.25 <tab> <CR LF>
+//
+//     cell 0   the class label, the row's key
+//     cell 1   the expected value, in the unit of the amount boxes; 0 where only equity was asked for
+//     cell 2   the equity, 0 to 1; -1 if the opponent never calls
+//     cell 3   the share of the opponent's hands that fold, 0 to 1; 1 where he has no choice
+//
+// Rows stand in class index order, 169 of them in a finished table. Numbers have the general form, so a value loses
+// what lies beyond 15 significant digits on its way through. A row of other making may have any number of cells: one
+// that is missing reads as empty, and a row without a tab is its own key.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+inline constexpr std::int16_t kExpectedValueColumn = 1;
+inline constexpr std::int16_t kEquityColumn = 2;
+inline constexpr std::int16_t kFoldShareColumn = 3;
+inline constexpr std::int16_t kLastColumn = 3;
+
+/// The table with `value` added to cell `column` of the row that has the key `label`; an empty cell counts as 0, so
+/// what is written twice adds up. The row comes out with the cells 0 to `lastColumn`, each followed by a tab, and cells
+/// beyond are dropped. If there is no such row, one with that cell alone is put at the end:
+///
+///     ("", "AA", 1, 1.5, 3)                              -> "AA\t1.5\t\t\r\n"
+///     ("AA\t1.5\t\t\r\n", "AA", 2, 0.85, 3)              -> "AA\t1.5\t0.85\t\t\r\n"
+///     ("AA\t1.5\t0.85\t\t\r\n", "AA", 3, 0.25, 3)        -> "AA\t1.5\t0.85\t0.25\t\r\n"
+///
+/// What stands behind the last line end is no row and is dropped. A value that is not finite has no text: RunTimeError
+/// "Overflow".
+[[nodiscard]] std::string SetHandInfo(std::string_view table, std::string_view label, std::int16_t column, double value,
+                                      std::int16_t lastColumn);
+
+/// The leading number of cell `column` in the first row with the key `label`, a last row without line end included; 0
+/// if there is no such row.
+[[nodiscard]] double GetHandInfo(std::string_view table, std::string_view label, std::int16_t column);
+
+/// The label of a row with a high value in `column`, the empty text if no value is above -10000. It is not always the
+/// highest: the best value so far is kept rounded to a whole number, ties to even, so a later row that is a little
+/// better need not pass it, and a later one that is worse may. That is meant; colours and captions go by it.
+///
+///     12.3, 12.6, 12.1 -> the second      12.6, 12.4, 12.7 -> the first, as nothing later passes 13
+///
+/// In a column of fractions it is the first row above 0.5, or else the last above 0. A value that passes, but is too
+/// large for a 32-bit integer, is a RunTimeError "Overflow".
+[[nodiscard]] std::string BestHand(std::string_view table, std::int16_t column);
+
+/// The label of the first row with the lowest value in `column`, the empty text if no value is below 10000.
+[[nodiscard]] std::string WorstHand(std::string_view table, std::int16_t column);
+
+}  // namespace quillon
