@@ -1,0 +1,66 @@
+#include "results/formula_texts.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+TEST(RoundedText, RoundsHalfToEvenAndDropsTrailingZeros) {
+  struct Case {
+    const char* rule;
+    double value;
+    int digits;
+    const char* text;
+  };
+  const std::vector<Case> cases = {
+      {"a whole number has no point", 150, 2, "150"},
+      {"no trailing zeros", 12.5, 2, "12.5"},
+      {"a tie goes to the even neighbour below", 62.5, 0, "62"},
+      {"a tie goes to the even neighbour above", 63.5, 0, "64"},
+      {"ties at a decimal too", 0.0625, 3, "0.062"},
+      {"a 0 before the point", -0.255, 1, "-0.3"},
+      {"what rounds to nothing has no sign", -0.001, 2, "0"},
+      {"seven decimals", 0.123456789, 7, "0.1234568"},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(RoundedText(c.value, c.digits), c.text) << c.rule;
+}
+
+TEST(RoundedText, ANumberThatIsNotFiniteHasNoText) {
+  EXPECT_THROW(static_cast<void>(RoundedText(std::numeric_limits<double>::infinity(), 2)), RunTimeError);
+}
+
+TEST(ShoveFormulaText, RoundsEachTermToItsOwnDecimals) {
+  struct Case {
+    const char* rule;
+    double pot;
+    double call;
+    double shove;
+    double foldShare;
+    double equity;
+    const char* text;
+  };
+  const std::vector<Case> cases = {
+      {"whole amounts", 150, 50, 100, 0.4, 0.55, "(0.4*150)+(1-0.4)*(0.55*(150+50+2*100)-(50+100))"},
+      {"the doubled shove has no decimals and its half goes to even", 150, 50, 62.5, 0.4, 0.55,
+       "(0.4*150)+(1-0.4)*(0.55*(150+50+2*62)-(50+62.5))"},
+      {"the first pot has four decimals and the second two", 12.34567, 1.23456, 7.65432, 0.987654321, 0.123456789,
+       "(0.9877*12.3457)+(1-0.9877)*(0.1234568*(12.35+1.23+2*8)-(1.23+7.65))"},
+      {"an opponent who never calls", 150, 0, 100, 1, -1, "(1*150)+(1-1)*(-1*(150+0+2*100)-(0+100))"},
+  };
+  for (const Case& c : cases) {
+    AnalysisState state;
+    state.PotSize = c.pot;
+    state.CallAmount = c.call;
+    state.ShoveAmount = c.shove;
+    EXPECT_EQ(ShoveFormulaText(state, c.foldShare, c.equity), c.text) << c.rule;
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,47 @@
+#include "results/report_box.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "support/number_text.h"
+
+namespace quillon {
+namespace {
+
+// Every byte of UTF-8 starts a character but for those of the form 10xxxxxx.
+std::int64_t CharacterCount(std::string_view text) {
+  return std::count_if(text.begin(), text.end(),
+                       [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
+}
+
+std::string Blanks(std::int64_t count) {
+  return std::string(static_cast<std::size_t>(std::max(count, std::int64_t{0})), ' ');
+}
+
+}  // namespace
+
+void SetReportFont(ReportBox& box, std::int32_t fontCode, std::int16_t size, std::int32_t color) {
+  constexpr std::array<std::string_view, 3> kFontNames = {"Arial", "Verdana", "Courier New"};
+  if (fontCode >= 1 && fontCode <= 3) box.SetFontName(kFontNames[static_cast<std::size_t>(fontCode - 1)]);
+  box.SetFontSize(size);
+  box.SetFontColor(color);
+}
+
+void AppendReportLine(ReportBox& box, std::string& text, std::int16_t padWidth) {
+  const std::size_t colon = text.find(':');
+  if (padWidth != kNoPadding && colon != std::string::npos) {
+    const std::int64_t leftLength = CharacterCount(std::string_view(text).substr(0, colon + 1));
+    text.insert(colon + 1, Blanks(padWidth - leftLength) + "\t");
+  }
+  box.InsertText(text + "\r");
+}
+
+std::string MoneyColumn(double value, std::int16_t width) {
+  std::string amount = PatternText(value, 2);
+  const std::size_t firstDigit = amount.front() == '-' ? 1 : 0;
+  if (amount[firstDigit] == '0') amount.erase(firstDigit, 1);  // a whole part never starts with a 0 of its own
+  return Blanks(width - static_cast<std::int64_t>(amount.size())) + amount;
+}
+
+}  // namespace quillon

@@ -1,0 +1,428 @@
+#include "results/report.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "results/hand_line.h"
+#include "results/recording_report_screen.h"
+#include "results/sample_analysis.h"
+#include "results/web_addresses.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+std::string Report(AnalysisState state, ReportForm form) {
+  RecordingReportScreen screen;
+  screen.Form = form;
+  BuildReport(screen, state);
+  return screen.Text;
+}
+
+std::string_view Combos(std::string_view hand) {
+  if (hand.size() == 2) return "6";
+  return hand[2] == 's' ? "4" : "12";
+}
+
+// The rows of a plain report's table: hand, combos, and what stands behind them by hand.
+std::string Rows(const sample::TextsByHand& cells, std::string_view otherwise) {
+  std::string rows;
+  for (const std::string_view hand : sample::kAllHands) {
+    rows.append(hand).append("\t").append(Combos(hand)).append("\t");
+    rows.append(sample::TextFor(cells, hand, otherwise)).append("\r");
+  }
+  return rows;
+}
+
+std::string Title(const std::string& title) {
+  return "[URL=\"" + HomeAddress() + "\"]Quillon[/URL] - " + title + ":\r\n\r";
+}
+
+TEST(Report, PlainPreflopCall) {
+  const std::string expected =
+      "Situation\r"
+      "Type:               \t Preflop Call ALL IN\r"
+      "Total Pot Size:     \t 150\r"
+      "Amount To Call:     \t 50\r"
+      "\r\n\r\nRange\r"
+      "Opponent Range Name:\t Tight\r"
+      "Range:              \t Full: AA | Half: KK\r"
+      "\r\n\r"
+      "Details\r"
+      "Pot Odds:           \t 3 : 1\r"
+      "BEP:                \t 25%\r"
+      "\r\n\r"
+      "Calculations\r"
+      "Hand\tCombs\tEquity\tEV      \tFormula\r" +
+      Rows({{"AA", "0.850\t       120.00\t=0.85*(150+50)-50"},
+            {"AKs", "0.250\t          .00\t=0.25*(150+50)-50"},
+            {"72o", "0.123\t       -25.32\t=0.123*(150+50)-50"},
+            {"22", "0.063\t         -.50\t=0.062*(150+50)-50"}},
+           "0.000\t          .00\t=0*(150+50)-50");
+  EXPECT_EQ(Report(sample::CallState(), ReportForm::kPlainText), expected);
+}
+
+TEST(Report, PlainPreflopRaise) {
+  const std::string expected =
+      "Situation\r"
+      "Type:               \t Preflop Raise ALL IN\r"
+      "Total Pot Size:     \t 150\r"
+      "Amount To Call:     \t 50\r"
+      "Amount Behind:      \t 62.5\r"
+      "\r\n\r\nRange\r"
+      "Current Range:      \t Wide\r"
+      "Range:              \t QQ+,AKs\r"
+      "Calling Range:      \t Tight\r"
+      "Range:              \t AA\r"
+      "\r\n\r"
+      "Calculations\r"
+      "Hand\tCombs\t    Equity\t        EV\tFormula\r" +
+      Rows({{"AA", "    -1.000\t    150.00\t=(1*150)+(1-1)*(-1*(150+50+2*62)-(50+62.5))"},
+            {"AKs", "    0.550\t     98.20\t=(0.4*150)+(1-0.4)*(0.55*(150+50+2*62)-(50+62.5))"},
+            {"KK", "    0.123\t   1234.57\t=(0.1235*150)+(1-0.1235)*(0.1234568*(150+50+2*62)-(50+62.5))"},
+            {"22", "    0.300\t    -12.50\t=(0*150)+(1-0)*(0.3*(150+50+2*62)-(50+62.5))"}},
+           "    0.000\t       .00\t=(0*150)+(1-0)*(0*(150+50+2*62)-(50+62.5))");
+  EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kPlainText), expected);
+}
+
+TEST(Report, PlainEquityOnly) {
+  const std::string expected =
+      "Range\r"
+      "Current Range:      \t Wide\r"
+      "Range:              \t KK+\r"
+      "\r\n\r\nCalculations\r"
+      "Hand\tCombs\tEquity\r" +
+      Rows({{"AA", "0.8523"}, {"AKs", "0.123456789012345"}, {"72o", "-1"}, {"22", "0.5"}}, "0");
+  EXPECT_EQ(Report(sample::EquityState(), ReportForm::kPlainText), expected);
+}
+
+TEST(Report, ForumPreflopCall) {
+  const std::string expected = Title("Hand Analysis") +
+                               "[b]Situation:[/b]\r"
+                               "Pot Size: 150 | To Call: 50\r"
+                               "[COLOR=\"GRAY\"](Pot Odds: 3:1, BEP: 0.25)[/COLOR]\r"
+                               "Villain Range: Full: AA | Half: KK\r\n\r"
+                               "[b][COLOR=\"DarkGreen\"]Profitable Hands:[/COLOR][/b]\r"
+                               "33+,A2s+,K2s+,Q2s+,J2s+,T2s+,92s+,82s+,72s+,62s+,52s+,42s+,32s,"
+                               "A2o+,K2o+,Q2o+,J2o+,T2o+,92o+,82o+,73o+,62o+,52o+,42o+,32o\r";
+  EXPECT_EQ(Report(sample::CallState(), ReportForm::kForum), expected);
+}
+
+TEST(Report, ForumPreflopRaise) {
+  const std::string expected = Title("Hand Analysis") +
+                               "[b]Situation:[/b]\r"
+                               "Pot Size: 150 | To Call: 50 | Shove Amount: 62.5\r"
+                               "Villain Current Range: QQ+,AKs\r"
+                               "Villain Calling Range: AA\r\n\r"
+                               "[b][COLOR=\"DarkGreen\"]Profitable Hands:[/COLOR][/b]\r"
+                               "33+,A2s+,K2s+,Q2s+,J2s+,T2s+,92s+,82s+,72s+,62s+,52s+,42s+,32s,"
+                               "A2o+,K2o+,Q2o+,J2o+,T2o+,92o+,82o+,72o+,62o+,52o+,42o+,32o\r";
+  EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kForum), expected);
+}
+
+TEST(Report, ForumEquityOnly) {
+  const std::string expected = Title("Equity Analysis") +
+                               "Villain Range: KK+\r"
+                               "[COLOR=\"BLUE\"]\r"
+                               "AA: 0.8523, AKs: 0.1235, AQs: 0, AJs: 0, ATs: 0\r\n"
+                               "A9s: 0, A8s: 0, A7s: 0, A6s: 0, A5s: 0\r\n"
+                               "A4s: 0, A3s: 0, A2s: 0, AKo: 0, KK: 0\r\n"
+                               "KQs: 0, KJs: 0, KTs: 0, K9s: 0, K8s: 0\r\n"
+                               "K7s: 0, K6s: 0, K5s: 0, K4s: 0, K3s: 0\r\n"
+                               "K2s: 0, AQo: 0, KQo: 0, QQ: 0, QJs: 0\r\n"
+                               "QTs: 0, Q9s: 0, Q8s: 0, Q7s: 0, Q6s: 0\r\n"
+                               "Q5s: 0, Q4s: 0, Q3s: 0, Q2s: 0, AJo: 0\r\n"
+                               "KJo: 0, QJo: 0, JJ: 0, JTs: 0, J9s: 0\r\n"
+                               "J8s: 0, J7s: 0, J6s: 0, J5s: 0, J4s: 0\r\n"
+                               "J3s: 0, J2s: 0, ATo: 0, KTo: 0, QTo: 0\r\n"
+                               "JTo: 0, TT: 0, T9s: 0, T8s: 0, T7s: 0\r\n"
+                               "T6s: 0, T5s: 0, T4s: 0, T3s: 0, T2s: 0\r\n"
+                               "A9o: 0, K9o: 0, Q9o: 0, J9o: 0, T9o: 0\r\n"
+                               "99: 0, 98s: 0, 97s: 0, 96s: 0, 95s: 0\r\n"
+                               "94s: 0, 93s: 0, 92s: 0, A8o: 0, K8o: 0\r\n"
+                               "Q8o: 0, J8o: 0, T8o: 0, 98o: 0, 88: 0\r\n"
+                               "87s: 0, 86s: 0, 85s: 0, 84s: 0, 83s: 0\r\n"
+                               "82s: 0, A7o: 0, K7o: 0, Q7o: 0, J7o: 0\r\n"
+                               "T7o: 0, 97o: 0, 87o: 0, 77: 0, 76s: 0\r\n"
+                               "75s: 0, 74s: 0, 73s: 0, 72s: 0, A6o: 0\r\n"
+                               "K6o: 0, Q6o: 0, J6o: 0, T6o: 0, 96o: 0\r\n"
+                               "86o: 0, 76o: 0, 66: 0, 65s: 0, 64s: 0\r\n"
+                               "63s: 0, 62s: 0, A5o: 0, K5o: 0, Q5o: 0\r\n"
+                               "J5o: 0, T5o: 0, 95o: 0, 85o: 0, 75o: 0\r\n"
+                               "65o: 0, 55: 0, 54s: 0, 53s: 0, 52s: 0\r\n"
+                               "A4o: 0, K4o: 0, Q4o: 0, J4o: 0, T4o: 0\r\n"
+                               "94o: 0, 84o: 0, 74o: 0, 64o: 0, 54o: 0\r\n"
+                               "44: 0, 43s: 0, 42s: 0, A3o: 0, K3o: 0\r\n"
+                               "Q3o: 0, J3o: 0, T3o: 0, 93o: 0, 83o: 0\r\n"
+                               "73o: 0, 63o: 0, 53o: 0, 43o: 0, 33: 0\r\n"
+                               "32s: 0, A2o: 0, K2o: 0, Q2o: 0, J2o: 0\r\n"
+                               "T2o: 0, 92o: 0, 82o: 0, 72o: -1, 62o: 0\r\n"
+                               "52o: 0, 42o: 0, 32o: 0, 22: 0.5\r"
+                               "[/COLOR]\r";
+  EXPECT_EQ(Report(sample::EquityState(), ReportForm::kForum), expected);
+}
+
+TEST(Report, TheEquityBlockIsThirtyThreeLinesOfFiveAndOneOfFour) {
+  AnalysisState state = sample::EquityState();
+  RecordingReportScreen screen;
+  screen.Form = ReportForm::kForum;
+  BuildReport(screen, state);
+
+  const auto block = std::find_if(screen.Calls.begin(), screen.Calls.end(),
+                                  [](const std::string& call) { return call.starts_with("insert AA: "); });
+  ASSERT_NE(block, screen.Calls.end()) << "the block goes out in one call";
+  EXPECT_EQ(std::count(block->begin(), block->end(), '\n'), 33);
+  EXPECT_EQ(std::count(block->begin(), block->end(), ','), 33 * 4 + 3);
+  EXPECT_THAT(*block, EndsWith("\r\n52o: 0, 42o: 0, 32o: 0, 22: 0.5\r"));
+}
+
+// Every call up to the heading of the table, texts cut short.
+std::vector<std::string> CallsBeforeRows(AnalysisState state) {
+  RecordingReportScreen screen;
+  BuildReport(screen, state);
+  const auto firstRow = std::find_if(screen.Calls.begin(), screen.Calls.end(),
+                                     [](const std::string& call) { return call.starts_with("insert AA\t"); });
+  return {screen.Calls.begin(), firstRow};
+}
+
+TEST(Report, PlainPreflopCallSetsAFontForEachHeadingAndTheLineUnderIt) {
+  EXPECT_THAT(
+      CallsBeforeRows(sample::CallState()),
+      ElementsAre("text ", "hands hidden",  //
+                  "font Arial", "size 14", "colour 0", "insert Situation\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Type:               \t Preflop Call ALL IN\r",
+                  "insert Total Pot Size:     \t 150\r", "insert Amount To Call:     \t 50\r",  //
+                  "font Arial", "size 14", "colour 0", "insert \r\n\r\nRange\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Opponent Range Name:\t Tight\r",
+                  "insert Range:              \t Full: AA | Half: KK\r", "insert \r\n\r",  //
+                  "font Arial", "size 14", "colour 0", "insert Details\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Pot Odds:           \t 3 : 1\r",
+                  "insert BEP:                \t 25%\r", "insert \r\n\r",  //
+                  "font Arial", "size 14", "colour 0", "insert Calculations\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Hand\tCombs\tEquity\tEV      \tFormula\r"));
+}
+
+TEST(Report, PlainPreflopRaiseSetsTheBodyFontAgainForDroppedHands) {
+  AnalysisState state = sample::RaiseState();
+  state.DroppedHands = "QQ, JJ";
+  EXPECT_THAT(
+      CallsBeforeRows(state),
+      ElementsAre("text ", "hands hidden",  //
+                  "font Arial", "size 14", "colour 0", "insert Situation\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Type:               \t Preflop Raise ALL IN\r",
+                  "insert Total Pot Size:     \t 150\r", "insert Amount To Call:     \t 50\r",
+                  "insert Amount Behind:      \t 62.5\r",  //
+                  "font Arial", "size 14", "colour 0", "insert \r\n\r\nRange\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Current Range:      \t Wide\r",
+                  "insert Range:              \t QQ+,AKs\r", "insert Calling Range:      \t Tight\r",
+                  "insert Range:              \t AA\r", "insert \r\n\r",  //
+                  "font Courier New", "size 10", "colour 0",
+                  "insert Some hands were dropped because they do not appear in the current range:\t\r",
+                  "insert QQ, JJ\r", "insert \r\n\r",  //
+                  "font Arial", "size 14", "colour 0", "insert Calculations\r",  //
+                  "font Courier New", "size 10", "colour 0", "insert Hand\tCombs\t    Equity\t        EV\tFormula\r"));
+}
+
+TEST(Report, PlainEquityOnlySetsAFontForEachHeadingAndTheLineUnderIt) {
+  EXPECT_THAT(CallsBeforeRows(sample::EquityState()),
+              ElementsAre("text ", "hands hidden",  //
+                          "font Arial", "size 14", "colour 0", "insert Range\r",  //
+                          "font Courier New", "size 10", "colour 0", "insert Current Range:      \t Wide\r",
+                          "insert Range:              \t KK+\r",  //
+                          "font Arial", "size 14", "colour 0", "insert \r\n\r\nCalculations\r",  //
+                          "font Courier New", "size 10", "colour 0", "insert Hand\tCombs\tEquity\r"));
+}
+
+TEST(Report, TheRowsSetNoFont) {
+  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+    RecordingReportScreen screen;
+    BuildReport(screen, state);
+    const std::vector<std::string> rows(screen.Calls.end() - 169, screen.Calls.end());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+      EXPECT_THAT(rows[i], ::testing::StartsWith("insert " + std::string(sample::kAllHands[i]) + "\t"));
+  }
+}
+
+TEST(Report, TheForumFormSetsNoFont) {
+  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+    RecordingReportScreen screen;
+    screen.Form = ReportForm::kForum;
+    BuildReport(screen, state);
+    for (const std::string& call : screen.Calls) {
+      EXPECT_FALSE(call.starts_with("font ") || call.starts_with("size ") || call.starts_with("colour ")) << call;
+    }
+  }
+}
+
+TEST(Report, TheListOfHandsIsShownWithTheForumFormAlone) {
+  AnalysisState state = sample::CallState();
+  RecordingReportScreen screen;
+  screen.Form = ReportForm::kForum;
+  BuildReport(screen, state);
+  EXPECT_TRUE(screen.SpecificHandVisible);
+
+  screen.Form = ReportForm::kPlainText;
+  BuildReport(screen, state);
+  EXPECT_FALSE(screen.SpecificHandVisible);
+}
+
+TEST(Report, BuildingTwiceGivesTheSameText) {
+  for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
+    AnalysisState state = sample::RaiseState();
+    state.DroppedHands = "QQ, JJ";
+    RecordingReportScreen screen;
+    screen.Form = form;
+    BuildReport(screen, state);
+    const std::string once = screen.Text;
+    BuildReport(screen, state);
+    EXPECT_EQ(screen.Text, once);
+  }
+}
+
+TEST(Report, BeforeAnyAnalysisItOnlyEmptiesTheBox) {
+  AnalysisState state;
+  RecordingReportScreen screen;
+  BuildReport(screen, state);
+  EXPECT_THAT(screen.Calls, ElementsAre("text ", "hands hidden"));
+
+  screen.Calls.clear();
+  screen.Form = ReportForm::kForum;
+  BuildReport(screen, state);
+  EXPECT_THAT(screen.Calls, ElementsAre("text ", "hands shown"));
+}
+
+TEST(Report, TheFormsStandInTheListUnderTheirTexts) {
+  EXPECT_EQ(kReportFormTexts[static_cast<std::size_t>(ReportForm::kPlainText)], "Plain Text");
+  EXPECT_EQ(kReportFormTexts[static_cast<std::size_t>(ReportForm::kForum)], "2+2");
+}
+
+TEST(Report, AColonInARangeNameDoesNotMoveTheSplit) {
+  AnalysisState state = sample::CallState();
+  state.RangeName = "Villain: tight";
+  EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("\rOpponent Range Name:\t Villain: tight\r"));
+}
+
+TEST(Report, AColonInTheDroppedHandsIsSplitInTheStateToo) {
+  AnalysisState state = sample::RaiseState();
+  state.DroppedHands = "QQ: 6";
+  RecordingReportScreen screen;
+  BuildReport(screen, state);
+  EXPECT_THAT(screen.Text, HasSubstr("\rQQ:                 \t 6\r\r\n\rCalculations\r"));
+  EXPECT_EQ(state.DroppedHands, "QQ:                 \t 6");
+}
+
+TEST(Report, NoOtherFormOrScenarioTouchesTheDroppedHands) {
+  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+    for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
+      if (state.Mode == AnalysisMode::kPreflopRaise && form == ReportForm::kPlainText) continue;
+      state.DroppedHands = "QQ: 6";
+      RecordingReportScreen screen;
+      screen.Form = form;
+      BuildReport(screen, state);
+      EXPECT_EQ(state.DroppedHands, "QQ: 6");
+      EXPECT_THAT(screen.Text, Not(HasSubstr("QQ: 6")));
+    }
+  }
+}
+
+TEST(Report, ProfitableHandsAreThoseAtZeroOrAbove) {
+  struct Case {
+    const char* rule;
+    std::string table;
+    const char* hands;
+  };
+  const std::vector<Case> cases = {
+      {"nobody wins", sample::ResultsTable({}, "-1\t0.1\t1"), "[None]"},
+      {"everybody wins", sample::ResultsTable({}, "1\t0.9\t1"), "[Everything]"},
+      {"a value of exactly 0 is profitable", sample::ResultsTable({}, "0\t0.5\t1"), "[Everything]"},
+      {"one of exactly 0 among losers", sample::ResultsTable({{"AKo", "0\t0.5\t1"}}, "-1\t0.1\t1"), "AKo"},
+      {"a loss too small to be seen is a loss", sample::ResultsTable({{"AA", "-1E-15\t0.5\t1"}}, "-1\t0.1\t1"),
+       "[None]"},
+      {"a run", sample::ResultsTable({{"AA", "9\t0\t1"}, {"KK", "8\t0\t1"}, {"QQ", "7\t0\t1"}}, "-1\t0.1\t1"), "QQ+"},
+  };
+  for (const Case& c : cases) {
+    for (AnalysisState state : {sample::CallState(), sample::RaiseState()}) {
+      state.HandInfo = c.table;
+      EXPECT_THAT(Report(state, ReportForm::kForum),
+                  EndsWith(std::string("Profitable Hands:[/COLOR][/b]\r") + c.hands + "\r"))
+          << c.rule;
+    }
+  }
+}
+
+TEST(Report, RangesAtTheirEndsAreWordsInBrackets) {
+  std::string everything;
+  for (const std::string_view hand : sample::kAllHands)
+    everything.append(hand).append(" (1), ");
+
+  AnalysisState state = sample::RaiseState();
+  state.RangeText = everything;
+  state.CallingRangeText = sample::RangeText({});
+  const std::string plain = Report(state, ReportForm::kPlainText);
+  EXPECT_THAT(plain, HasSubstr("Current Range:      \t Wide\rRange:              \t [Everything]\r"));
+  EXPECT_THAT(plain, HasSubstr("Calling Range:      \t Tight\rRange:              \t [None]\r"));
+}
+
+TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
+  AnalysisState call = sample::CallState();
+  call.PotSize = 12.345;
+  call.CallAmount = 7.001;
+  EXPECT_THAT(Report(call, ReportForm::kPlainText),
+              HasSubstr("Total Pot Size:     \t 12.35\rAmount To Call:     \t 7\r"));
+  EXPECT_THAT(Report(call, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001\r"));
+
+  AnalysisState raise = sample::RaiseState();
+  raise.ShoveAmount = 100.0625;
+  EXPECT_THAT(Report(raise, ReportForm::kPlainText), HasSubstr("\rAmount Behind:      \t 100.06\r"));
+  EXPECT_THAT(Report(raise, ReportForm::kForum), HasSubstr(" | Shove Amount: 100.0625\r"));
+}
+
+TEST(Report, TheBreakEvenPointIsAPercentageInThePlainFormAndAFractionInTheForumForm) {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 100;
+  state.CallAmount = 50;
+  EXPECT_THAT(Report(state, ReportForm::kPlainText),
+              HasSubstr("Pot Odds:           \t 2 : 1\rBEP:                \t 33.33%\r"));
+  EXPECT_THAT(Report(state, ReportForm::kForum), HasSubstr("(Pot Odds: 2:1, BEP: 0.33)"));
+}
+
+TEST(Report, PotOddsHaveThreeDecimalsInThePlainFormAndTwoInTheForumForm) {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 100;
+  state.CallAmount = 30;
+  EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("\t 3.333 : 1\r"));
+  EXPECT_THAT(Report(state, ReportForm::kForum), HasSubstr("(Pot Odds: 3.33:1,"));
+}
+
+TEST(Report, TheEquityColumnRoundsTiesAwayFromZeroAndTheFormulaToEven) {
+  AnalysisState state = sample::CallState();
+  state.HandInfo = sample::ResultsTable({{"AA", "0\t0.0625\t1"}, {"KK", "0\t0.6875\t1"}, {"QQ", "0\t-1\t1"}});
+  const std::string report = Report(state, ReportForm::kPlainText);
+  EXPECT_THAT(report, HasSubstr("\rAA\t6\t0.063\t          .00\t=0.062*(150+50)-50\r"));
+  EXPECT_THAT(report, HasSubstr("\rKK\t6\t0.688\t          .00\t=0.688*(150+50)-50\r"));
+  EXPECT_THAT(report, HasSubstr("\rQQ\t6\t-1.000\t          .00\t=-1*(150+50)-50\r"));
+}
+
+TEST(Report, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
+  for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
+    AnalysisState call = sample::CallState();
+    call.CallAmount = 0;
+    EXPECT_THROW(Report(call, form), RunTimeError);
+
+    AnalysisState raise = sample::RaiseState();
+    raise.CallAmount = 0;
+    EXPECT_NO_THROW(Report(raise, form));
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,52 @@
+#pragma once
+
+// The results grid of a finished analysis: the colour of each of the 169 cells, the situation under the grid, the
+// explanation beside it, and the links that lead there. A hand is profitable when its expected value is 0 or more: it
+// is painted green and counted in the percentage.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "analysis/analysis_state.h"
+#include "results/results_window.h"
+#include "support/rgb.h"
+
+namespace quillon {
+
+/// The first link of the side panel that leads to results, the grid's; those before it lead to the input screens.
+inline constexpr std::int16_t kFirstResultsNav = 3;
+
+/// The texts round the grid; as they are here before any analysis.
+struct GridTexts {
+  std::string Title = "ALL IN Grid";
+  std::string HandInfo;  // the situation, lines parted by CR LF
+  std::string Results = "No analysis has been performed.";  // the explanation, lines parted by CR LF
+  bool LegendVisible = true;
+
+  bool operator==(const GridTexts&) const = default;
+};
+
+/// The texts for the last finished analysis. A Preflop Call needs a call amount that is not 0: its pot odds fail as
+/// Divide does.
+[[nodiscard]] GridTexts MakeGridTexts(const AnalysisState& state);
+
+/// The colours of the cells, in class index order. High and Low are the values of the rows that BestHand and WorstHand
+/// name, in the equity column for Equity Only and the expected value column for the others. High can fall short of the
+/// true maximum, so a cell can come out darker than the darkest green.
+///
+/// A value of 0 measured against a High of 0, or any value where in Equity Only High equals Low, has no shade:
+/// RunTimeError as told at Divide. It fails as BestHand does, too.
+[[nodiscard]] std::array<Rgb, 169> GridColors(const AnalysisState& state);
+
+/// Puts the texts and the legend on the screen.
+void FillResults(ResultsWindow& window, const AnalysisState& state);
+
+/// Shows or hides the links that lead to results, and shows the note that there are none in their stead. The links go
+/// back to their own colour.
+void SetResultsShown(ResultsWindow& window, bool shown);
+
+/// Paints the cells in index order, then fills in the texts. If a colour cannot be worked out nothing is painted.
+void PresentResults(const AnalysisState& state, ResultsWindow& window);
+
+}  // namespace quillon

@@ -1,0 +1,337 @@
+#include "results/results_grid.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "results/grid_colors.h"
+#include "results/sample_analysis.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+
+class RecordingResultsWindow final : public ResultsWindow {
+ public:
+  std::int16_t Links = 5;
+  std::vector<std::string> Calls;
+
+  void SetCellColor(std::int16_t index, Rgb color) override {
+    Calls.push_back("cell " + std::to_string(index) + " " + ColorText(color));
+  }
+  void SetHandInfoText(std::string_view text) override { Calls.push_back("info " + std::string(text)); }
+  void SetResultsCaption(std::string_view caption) override { Calls.push_back("results " + std::string(caption)); }
+  void SetGridTitle(std::string_view caption) override { Calls.push_back("title " + std::string(caption)); }
+  void SetLegendVisible(bool visible) override { Calls.emplace_back(visible ? "legend shown" : "legend hidden"); }
+  [[nodiscard]] std::int16_t NavCount() const override { return Links; }
+  void SetNavColor(std::int16_t index, Rgb color) override {
+    Calls.push_back("link " + std::to_string(index) + " " + ColorText(color));
+  }
+  void SetNavVisible(std::int16_t index, bool visible) override {
+    Calls.push_back("link " + std::to_string(index) + (visible ? " shown" : " hidden"));
+  }
+  void SetNoResultsVisible(bool visible) override { Calls.emplace_back(visible ? "note shown" : "note hidden"); }
+  void SetNoResultsCaption(std::string_view caption) override { Calls.push_back("note " + std::string(caption)); }
+};
+
+std::size_t IndexOf(std::string_view hand) {
+  const auto* const found = std::find(sample::kAllHands.begin(), sample::kAllHands.end(), hand);
+  return static_cast<std::size_t>(found - sample::kAllHands.begin());
+}
+
+std::string CellOf(const AnalysisState& state, std::string_view hand) {
+  const Rgb color = GridColors(state)[IndexOf(hand)];
+  return std::to_string(color.Red) + ", " + std::to_string(color.Green) + ", " + std::to_string(color.Blue);
+}
+
+AnalysisState WithTable(AnalysisMode mode, std::string table) {
+  AnalysisState state = mode == AnalysisMode::kPreflopRaise ? sample::RaiseState() : sample::CallState();
+  state.Mode = mode;
+  state.HandInfo = std::move(table);
+  return state;
+}
+
+TEST(GridTexts, OfAPreflopCall) {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 100.126;
+  state.CallAmount = 50;
+  EXPECT_EQ(MakeGridTexts(state),
+            (GridTexts{.Title = "ALL IN Grid",
+                       .HandInfo = "Pot Size: 100.13 | Call Amount: 50 | Odds: 2:1\r\n"
+                                   "His Range: Full: AA | Half: KK",
+                       .Results = "If you call with all of the hands in green you will profit in the long run. You "
+                                  "should fold everything else.\r\n\r\n"
+                                  "Since you are getting 2:1 odds, you need 33.31% equity in order to call.\r\n\r\n"
+                                  "In this situation, 99% of hands are profitable.",
+                       .LegendVisible = true}));
+}
+
+TEST(GridTexts, OfAPreflopRaise) {
+  EXPECT_EQ(MakeGridTexts(sample::RaiseState()),
+            (GridTexts{.Title = "ALL IN Grid",
+                       .HandInfo = "Pot Size: 150 | Call Amount: 50 | Shove Amount: 62.5\r\n"
+                                   "His Calling Range: AA",
+                       .Results = "If you raise with all of the hands in green you will profit in the long run. For "
+                                  "any hand, you should also consider how well you and your opponent play after the "
+                                  "flop to decide whether or not calling is an option.\r\n\r\n"
+                                  "In this situation, 100% of hands are profitable.",
+                       .LegendVisible = true}));
+}
+
+TEST(GridTexts, OfEquityOnlyHaveNoLegendAndNoProfit) {
+  EXPECT_EQ(MakeGridTexts(sample::EquityState()),
+            (GridTexts{.Title = "Equity Grid",
+                       .HandInfo = "His Range: KK+",
+                       .Results = "Equity is a meausrement of how much value you have in the current hand. In other "
+                                  "words, it is what percentage you will win against your opponent's range.",
+                       .LegendVisible = false}));
+}
+
+TEST(GridTexts, BeforeAnyAnalysisSaySo) {
+  EXPECT_EQ(MakeGridTexts(AnalysisState{}), (GridTexts{.Title = "ALL IN Grid",
+                                                       .HandInfo = "",
+                                                       .Results = "No analysis has been performed.",
+                                                       .LegendVisible = true}));
+}
+
+TEST(GridTexts, RangesAtTheirEndsAreWordsInBrackets) {
+  AnalysisState state = sample::EquityState();
+  state.RangeText = sample::RangeText({});
+  EXPECT_EQ(MakeGridTexts(state).HandInfo, "His Range: [None]");
+
+  state.RangeText.clear();
+  for (const std::string_view hand : sample::kAllHands)
+    state.RangeText.append(hand).append(" (1), ");
+  EXPECT_EQ(MakeGridTexts(state).HandInfo, "His Range: [Everything]");
+}
+
+TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 10.125;
+  state.CallAmount = 3;
+  EXPECT_THAT(MakeGridTexts(state).HandInfo,
+              ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3 | Odds: 3.38:1\r\n"))
+      << "10.125 is a tie, 3.375 too";
+}
+
+// A table in which AA and the first `offsuit` offsuit hands win.
+std::string TableWithOffsuitWinners(std::size_t offsuit) {
+  std::string table;
+  for (const std::string_view hand : sample::kAllHands) {
+    const bool wins = hand == "AA" || (hand.ends_with('o') && offsuit > 0);
+    if (hand.ends_with('o') && offsuit > 0) --offsuit;
+    table.append(hand).append(wins ? "\t1\t0.5\t1\t\r\n" : "\t-1\t0.5\t1\t\r\n");
+  }
+  return table;
+}
+
+TEST(GridTexts, TheShareOfProfitableHandsCountsCombosAgainst1325) {
+  struct Case {
+    const char* rule;
+    std::string table;
+    const char* percent;
+  };
+  const std::vector<Case> cases = {
+      {"nobody wins", sample::ResultsTable({}, "-1\t0.1\t1"), "0%"},
+      {"everybody wins: 1326 of 1325 rounds to 100", sample::ResultsTable({}, "1\t0.9\t1"), "100%"},
+      {"a value of exactly 0 counts as profitable", sample::ResultsTable({}, "0\t0.5\t1"), "100%"},
+      {"a pair is 6 hands", sample::ResultsTable({{"AA", "0\t0.5\t1"}}, "-1\t0.5\t1"), "0%"},
+      {"an offsuit class is 12", sample::ResultsTable({{"72o", "0\t0.5\t1"}}, "-1\t0.5\t1"), "1%"},
+      {"two suited classes are 8", sample::ResultsTable({{"AKs", "0\t0\t1"}, {"32s", "0\t0\t1"}}, "-1\t0\t1"), "1%"},
+      {"one suited class is 4", sample::ResultsTable({{"AKs", "0\t0\t1"}}, "-1\t0\t1"), "0%"},
+      {"762 hands would be 57% of 1326", TableWithOffsuitWinners(63), "58%"},
+  };
+  for (const Case& c : cases) {
+    for (const AnalysisMode mode : {AnalysisMode::kPreflopCall, AnalysisMode::kPreflopRaise}) {
+      EXPECT_THAT(MakeGridTexts(WithTable(mode, c.table)).Results,
+                  EndsWith(std::string("\r\n\r\nIn this situation, ") + c.percent + " of hands are profitable."))
+          << c.rule;
+    }
+  }
+}
+
+TEST(GridTexts, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
+  AnalysisState call = sample::CallState();
+  call.CallAmount = 0;
+  EXPECT_THROW(static_cast<void>(MakeGridTexts(call)), RunTimeError);
+
+  AnalysisState raise = sample::RaiseState();
+  raise.CallAmount = 0;
+  EXPECT_EQ(MakeGridTexts(raise).HandInfo,
+            "Pot Size: 150 | Call Amount: 0 | Shove Amount: 62.5\r\nHis Calling Range: AA");
+}
+
+struct CellCase {
+  const char* rule;
+  AnalysisMode mode;
+  std::string table;
+  const char* hand;
+  const char* color;
+};
+
+TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
+  using enum AnalysisMode;
+  const std::string plain = sample::ResultsTable({{"AA", "100\t0.85\t1"},
+                                                  {"KK", "75\t0.8\t1"},
+                                                  {"QQ", "50\t0.75\t1"},
+                                                  {"AKs", "4\t0.6\t1"},
+                                                  {"72o", "-20\t0.1\t1"},
+                                                  {"22", "-10\t0.2\t1"},
+                                                  {"32o", "-0.5\t0.3\t1"}});
+  const std::string losing = sample::ResultsTable({{"AA", "-10\t0.4\t1"}}, "-20\t0.2\t1");
+  // The first value rounds to a best of 1, so the later and higher ones do not take over.
+  const std::string shortOfTheBest =
+      sample::ResultsTable({{"AA", "0.625\t0.1\t1"}, {"AKs", "0.65625\t0.2\t1"}, {"AQs", "0.9375\t0.3\t1"}}, "0\t0\t1");
+  // No value rounds above 0, so the last above 0 counts as the best.
+  const std::string lastAboveZero = sample::ResultsTable({{"AA", "0.4\t0.4\t1"}, {"22", "0.0001\t0.1\t1"}}, "0\t0\t1");
+  const std::string equities =
+      sample::ResultsTable({{"AA", "0\t0.9\t1"}, {"KK", "0\t0.5\t1"}, {"22", "0\t-1\t1"}}, "0\t0.1\t1");
+
+  const std::vector<CellCase> cases = {
+      {"the best is dark green", kPreflopCall, plain, "AA", "0, 120, 0"},
+      {"three quarters of the best", kPreflopCall, plain, "KK", "0, 204, 0"},
+      {"half of the best", kPreflopRaise, plain, "QQ", "33, 255, 33"},
+      {"a small win is pale green", kPreflopCall, plain, "AKs", "200, 255, 200"},
+      {"exactly 0 is the palest green", kPreflopCall, plain, "AKo", "200, 255, 200"},
+      {"the worst is dark red", kPreflopCall, plain, "72o", "120, 0, 0"},
+      {"half of the worst", kPreflopRaise, plain, "22", "255, 33, 33"},
+      {"a small loss is pale red", kPreflopCall, plain, "32o", "255, 200, 200"},
+      {"among losers the best is red as well", kPreflopCall, losing, "AA", "255, 33, 33"},
+      {"5% above High is darker than the darkest green", kPreflopCall, shortOfTheBest, "AKs", "0, 103, 0"},
+      {"half above High is black", kPreflopCall, shortOfTheBest, "AQs", "0, 0, 0"},
+      {"4000 times High is black", kPreflopRaise, lastAboveZero, "AA", "0, 0, 0"},
+      {"the highest equity is dark blue", kEquityOnly, equities, "AA", "0, 65, 129"},
+      {"the lowest equity is white, also at -1", kEquityOnly, equities, "22", "255, 255, 255"},
+      {"1.5 of 1.9 is beyond the scale's end", kEquityOnly, equities, "KK", "0, 65, 129"},
+      {"1.1 of 1.9 is in the step of 0.55", kEquityOnly, equities, "AKo", "0, 116, 231"},
+      {"an equity of 4 times High is dark blue", kEquityOnly, lastAboveZero, "AA", "0, 65, 129"},
+  };
+  for (const CellCase& c : cases)
+    EXPECT_EQ(CellOf(WithTable(c.mode, c.table), c.hand), c.color) << c.rule;
+}
+
+TEST(GridColors, WithNothingButLossesNoGreenShows) {
+  const AnalysisState state =
+      WithTable(AnalysisMode::kPreflopCall, sample::ResultsTable({{"72o", "-20\t0.1\t1"}}, "-1\t0.2\t1"));
+  for (const Rgb color : GridColors(state))
+    EXPECT_LE(color.Green, color.Red);
+  EXPECT_EQ(CellOf(state, "72o"), "120, 0, 0");
+  EXPECT_THAT(MakeGridTexts(state).Results, EndsWith("In this situation, 0% of hands are profitable."));
+}
+
+TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
+  const AnalysisState state = sample::CallState();
+  const std::array<Rgb, 169> colors = GridColors(state);
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    const std::string_view hand = sample::kAllHands[i];
+    Rgb expected = EVColor(0, "+");
+    if (hand == "AA" || hand == "72o") expected = EVColor(1, hand == "AA" ? "+" : "-");
+    if (hand == "22") expected = EVColor(0.5 / 25.32, "-");
+    EXPECT_EQ(colors[i], expected) << hand;
+  }
+}
+
+TEST(GridColors, DivisionsWithoutAResultFail) {
+  struct Case {
+    const char* rule;
+    AnalysisMode mode;
+    std::string table;
+    RunTimeFault fault;
+  };
+  using enum AnalysisMode;
+  const std::vector<Case> cases = {
+      {"every value 0", kPreflopCall, sample::ResultsTable({}, "0\t0.5\t1"), RunTimeFault::kOverflow},
+      {"0 the best of the losers", kPreflopRaise, sample::ResultsTable({{"AA", "0\t0.5\t1"}}, "-1\t0.1\t1"),
+       RunTimeFault::kOverflow},
+      {"no results", kPreflopCall, "", RunTimeFault::kOverflow},
+      {"every equity alike", kEquityOnly, sample::ResultsTable({}, "0\t0.5\t1"), RunTimeFault::kOverflow},
+      {"nobody ever calls", kEquityOnly, sample::ResultsTable({}, "0\t-1\t1"), RunTimeFault::kOverflow},
+      {"the last equity above 0 is the lowest and counts as High", kEquityOnly,
+       sample::ResultsTable({{"22", "0\t0.2\t1"}}, "0\t0.4\t1"), RunTimeFault::kDivisionByZero},
+  };
+  for (const Case& c : cases) {
+    try {
+      static_cast<void>(GridColors(WithTable(c.mode, c.table)));
+      ADD_FAILURE() << c.rule;
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.Fault(), c.fault) << c.rule;
+    }
+  }
+}
+
+TEST(ResultsGrid, TextsAreSetInOrder) {
+  RecordingResultsWindow window;
+  FillResults(window, sample::EquityState());
+  EXPECT_THAT(window.Calls, ElementsAre("info His Range: KK+", ::testing::StartsWith("results Equity is a "),
+                                        "title Equity Grid", "legend hidden"));
+}
+
+TEST(ResultsGrid, TheLegendComesBackWithTheTwoColourGrids) {
+  for (const AnalysisState& state : {sample::CallState(), sample::RaiseState()}) {
+    RecordingResultsWindow window;
+    FillResults(window, state);
+    EXPECT_THAT(window.Calls,
+                ElementsAre(::testing::StartsWith("info Pot Size: "), ::testing::StartsWith("results If you "),
+                            "title ALL IN Grid", "legend shown"));
+  }
+}
+
+TEST(ResultsGrid, ShowingResultsShowsTheirLinksAndHidesTheNote) {
+  RecordingResultsWindow window;
+  SetResultsShown(window, true);
+  EXPECT_THAT(window.Calls, ElementsAre("link 3 #ffffc0", "link 3 shown", "link 4 #ffffc0", "link 4 shown",
+                                        "note hidden", "note There are no results to display at this time."));
+}
+
+TEST(ResultsGrid, HidingResultsHidesTheirLinksAndShowsTheNote) {
+  RecordingResultsWindow window;
+  SetResultsShown(window, false);
+  EXPECT_THAT(window.Calls, ElementsAre("link 3 #ffffc0", "link 3 hidden", "link 4 #ffffc0", "link 4 hidden",
+                                        "note shown", "note There are no results to display at this time."));
+}
+
+TEST(ResultsGrid, EveryLinkFromTheGridsOnLeadsToResults) {
+  struct Case {
+    std::int16_t links;
+    std::size_t calls;
+  };
+  for (const Case& c : {Case{3, 2}, Case{4, 4}, Case{7, 10}}) {
+    RecordingResultsWindow window;
+    window.Links = c.links;
+    SetResultsShown(window, true);
+    EXPECT_EQ(window.Calls.size(), c.calls) << c.links;
+  }
+}
+
+TEST(ResultsGrid, PresentingPaintsTheCellsInOrderAndThenFillsInTheTexts) {
+  const AnalysisState state = sample::CallState();
+  RecordingResultsWindow window;
+  PresentResults(state, window);
+
+  ASSERT_EQ(window.Calls.size(), 173U);
+  const std::array<Rgb, 169> colors = GridColors(state);
+  for (std::size_t i = 0; i < colors.size(); ++i)
+    EXPECT_EQ(window.Calls[i], "cell " + std::to_string(i) + " " + ColorText(colors[i]));
+
+  RecordingResultsWindow texts;
+  FillResults(texts, state);
+  EXPECT_TRUE(std::equal(texts.Calls.begin(), texts.Calls.end(), window.Calls.begin() + 169));
+}
+
+TEST(ResultsGrid, WhereAColourFailsNothingIsPainted) {
+  RecordingResultsWindow window;
+  EXPECT_THROW(PresentResults(AnalysisState{}, window), RunTimeError);
+  EXPECT_TRUE(window.Calls.empty());
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,33 @@
+#pragma once
+
+// The small sums that an amount box takes: "=735+220-178" becomes 777 when the user leaves the box. The grammar is "="
+// and a run of signed numbers, the first sign optional; a number is digits and points, and an empty one counts 0. There
+// is no blank, "$", thousands separator, bracket, product or quotient: each of these gives the error text.
+
+#include <string>
+#include <string_view>
+
+#include "support/message_boxes.h"
+
+namespace quillon {
+
+/// What EvalExpression gives for a text that is no sum.
+inline constexpr std::string_view kExpressionErrorText = "Only addition (+) and subtract (-) are supported";
+
+/// The digits and points at the start of a text, as they stand: "12+3" gives "12", "1.5.2" the whole, "-5" nothing.
+[[nodiscard]] std::string GetNumber(std::string_view text);
+
+/// The value of a sum in the general number form, or kExpressionErrorText. The first character is taken for the "="
+/// unlooked at. Of a number with two points the leading one counts. RunTimeError "Overflow" for a sum beyond the range
+/// of a double.
+///
+///     "=735+220-178" -> "777"      "=.5+.5" -> "1"      "=5+" -> "5"      "=--3" -> "-3"
+///     "=1.5.2" -> "1.5"            "=" -> "0"           "=1 + 2", "=$5", "=2*3" -> the error text
+[[nodiscard]] std::string EvalExpression(std::string_view text);
+
+/// The text that an amount box is left with when its user is done with it: the value of a text that starts with "=",
+/// any other text as it is. A sum that cannot be worked out stays as well, after a message. Fails as EvalExpression
+/// does.
+[[nodiscard]] std::string EvalTextBox(std::string text, MessageBoxes& messages);
+
+}  // namespace quillon
