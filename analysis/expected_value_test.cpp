@@ -91,6 +91,8 @@ TEST(OpponentOddsTexts, AreRoundedToTwoDecimals) {
            Row{1, 0, 8, {"1.12 : 1", "47.06%"}},  // 1.125 lies between and goes to the even neighbour
            Row{3, 0, 8, {"1.38 : 1", "42.11%"}},  // and so does 1.375
            Row{-20, 0, 5, {"-3 : 1", "-50%"}},
+           Row{100, 0, 50, {"3 : 1", "25%"}},
+           Row{100, 0, -20, {"-4 : 1", "-33.33%"}},  // a negative amount is not refused here
            Row{15, 5, 0, {"N/A", "N/A"}},
            Row{0, 0, 0, {"N/A", "N/A"}},
        }) {

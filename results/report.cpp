@@ -146,7 +146,7 @@ void WriteForumLine(ReportBox& box, std::string text) {
 
 // The hands with an expected value of 0 or more, in the notation of a range.
 std::string ProfitableHandsText(const AnalysisState& state) {
-  std::array<double, 169> weights{};
+  std::array<double, kHandClassCount> weights{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const bool profitable = GetHandInfo(state.HandInfo, HandLabel(index), kExpectedValueColumn) >= 0;
     weights[static_cast<std::size_t>(index)] = profitable ? 1 : 0;

@@ -378,12 +378,17 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
   call.CallAmount = 7.001;
   EXPECT_THAT(Report(call, ReportForm::kPlainText),
               HasSubstr("Total Pot Size:     \t 12.35\rAmount To Call:     \t 7\r"));
+  EXPECT_THAT(Report(call, ReportForm::kPlainText), HasSubstr("*(12.35+7)-7\r"));
   EXPECT_THAT(Report(call, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001\r"));
 
   AnalysisState raise = sample::RaiseState();
+  raise.PotSize = 12.345;
+  raise.CallAmount = 7.001;
   raise.ShoveAmount = 100.0625;
+  EXPECT_THAT(Report(raise, ReportForm::kPlainText),
+              HasSubstr("Total Pot Size:     \t 12.35\rAmount To Call:     \t 7\r"));
   EXPECT_THAT(Report(raise, ReportForm::kPlainText), HasSubstr("\rAmount Behind:      \t 100.06\r"));
-  EXPECT_THAT(Report(raise, ReportForm::kForum), HasSubstr(" | Shove Amount: 100.0625\r"));
+  EXPECT_THAT(Report(raise, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001 | Shove Amount: 100.0625\r"));
 }
 
 TEST(Report, TheBreakEvenPointIsAPercentageInThePlainFormAndAFractionInTheForumForm) {

@@ -102,13 +102,13 @@ GridTexts MakeGridTexts(const AnalysisState& state) {
   return {};
 }
 
-std::array<Rgb, 169> GridColors(const AnalysisState& state) {
+std::array<Rgb, kHandClassCount> GridColors(const AnalysisState& state) {
   const std::string_view table = state.HandInfo;
   const std::int16_t column = state.Mode == AnalysisMode::kEquityOnly ? kEquityColumn : kExpectedValueColumn;
   const double high = GetHandInfo(table, BestHand(table, column), column);
   const double low = GetHandInfo(table, WorstHand(table, column), column);
 
-  std::array<Rgb, 169> colors;
+  std::array<Rgb, kHandClassCount> colors;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const double value = GetHandInfo(table, HandLabel(index), column);
     colors[static_cast<std::size_t>(index)] = CellColor(state.Mode, value, high, low);
@@ -134,7 +134,7 @@ void SetResultsShown(ResultsWindow& window, bool shown) {
 }
 
 void PresentResults(const AnalysisState& state, ResultsWindow& window) {
-  const std::array<Rgb, 169> colors = GridColors(state);
+  const std::array<Rgb, kHandClassCount> colors = GridColors(state);
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     window.SetCellColor(index, colors[static_cast<std::size_t>(index)]);
   FillResults(window, state);

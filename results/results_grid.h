@@ -9,6 +9,7 @@
 #include <string>
 
 #include "analysis/analysis_state.h"
+#include "hand/hand_classes.h"
 #include "results/results_window.h"
 #include "support/rgb.h"
 
@@ -37,7 +38,7 @@ struct GridTexts {
 ///
 /// A value of 0 measured against a High of 0, or any value where in Equity Only High equals Low, has no shade:
 /// RunTimeError as told at Divide. It fails as BestHand does, too.
-[[nodiscard]] std::array<Rgb, 169> GridColors(const AnalysisState& state);
+[[nodiscard]] std::array<Rgb, kHandClassCount> GridColors(const AnalysisState& state);
 
 /// Puts the texts and the legend on the screen.
 void FillResults(ResultsWindow& window, const AnalysisState& state);

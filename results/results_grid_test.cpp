@@ -121,6 +121,15 @@ TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
   EXPECT_THAT(MakeGridTexts(state).HandInfo,
               ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3 | Odds: 3.38:1\r\n"))
       << "10.125 is a tie, 3.375 too";
+  state.CallAmount = 3.125;
+  EXPECT_THAT(MakeGridTexts(state).HandInfo, ::testing::HasSubstr("Call Amount: 3.12 |"));
+
+  AnalysisState raise = sample::RaiseState();
+  raise.PotSize = 10.125;
+  raise.CallAmount = 3.125;
+  raise.ShoveAmount = 62.125;
+  EXPECT_THAT(MakeGridTexts(raise).HandInfo,
+              ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3.12 | Shove Amount: 62.12\r\n"));
 }
 
 // A table in which AA and the first `offsuit` offsuit hands win.

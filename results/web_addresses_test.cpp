@@ -1,7 +1,7 @@
 #include "results/web_addresses.h"
 
 #include <gtest/gtest.h>
-#include <string>
+#include <string_view>
 
 namespace quillon {
 namespace {
@@ -12,7 +12,7 @@ TEST(WebAddresses, TheHostIsAHostAndNothingElse) {
 }
 
 TEST(WebAddresses, TheHomePageIsAFolderOnTheHost) {
-  EXPECT_EQ(HomeAddress(), "http://" + std::string(WebHost()) + "/quillon/");
+  EXPECT_EQ(HomeAddress(), "http://" QUILLON_WEB_HOST "/quillon/");
 }
 
 }  // namespace
