@@ -28,14 +28,21 @@ constexpr std::int16_t kEquityButton = 2;
 const std::string kShoveLine =
     "SetProgressMessage Please wait while we determine what hands you should go ALL IN with...";
 
+// Ranges as short as they can be written, so that a run is quick where the run is what matters. A class that a text
+// does not name reads the number before the first bracket.
+const std::string kEveryHand = "all 1)";
+const std::string kNoHand = "all 0)";
+const std::string kAces = "all 0), AA (1)";
+const std::string kPairs = "all 0), AA (1), KK (1), QQ (1), 22 (0.5)";
+
 class AnalysisDriver : public testing::Test {
  public:
   void SetUp() override {
     LoadEquityTable();
-    ranges_.Save("Full", EveryHandAt(1));
-    ranges_.Save("Aces", RangeWith({{"AA", 1}}));
-    ranges_.Save("Pairs", RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 1}, {"22", 0.5}}));
-    ranges_.Save("Nothing", EveryHandAt(0));
+    ranges_.Save("Full", kEveryHand);
+    ranges_.Save("Aces", kAces);
+    ranges_.Save("Pairs", kPairs);
+    ranges_.Save("Nothing", kNoHand);
   }
 
   void Run(std::int16_t button) { RunAnalysis(state_, button, window_, ranges_.Folder()); }
@@ -68,7 +75,7 @@ class AnalysisDriver : public testing::Test {
 
   RangeFolder ranges_;
   KeptMessages messages_;
-  RecordingWindow window_{{"100", "50", "200", "Full", "Pairs"}, messages_};
+  RecordingWindow window_{{"100", "50", "200", "Pairs", "Aces"}, messages_};
   AnalysisState state_;
 };
 
@@ -90,7 +97,7 @@ TEST_F(AnalysisDriver, ARunStartsInOrder) {
   };
   for (const Row& row :
        {Row{kCallButton, kShoveLine}, Row{kRaiseButton, kShoveLine},
-        Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nFull"}}) {
+        Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nPairs"}}) {
     window_.Log.clear();
     Run(row.button);
     const Lines start(window_.Log.begin(), window_.Log.begin() + 7);
@@ -176,7 +183,7 @@ TEST_F(AnalysisDriver, RowsOfARangeOfAces) {
 }
 
 TEST_F(AnalysisDriver, RowsOfAShoveAgainstAcesOutOfAllHands) {
-  window_.CurrentSituation().CallingRange = "Aces";
+  window_.CurrentSituation() = {"100", "50", "200", "Full", "Aces"};
   Run(kRaiseButton);
   // KK blocks no ace: 6 of the 1225 other hands call, and the equity against them is that against aces.
   const double callShare = 6.0 / 1225;
@@ -218,7 +225,7 @@ TEST_F(AnalysisDriver, PreflopCallStoresItsSituation) {
   EXPECT_EQ(state_.PotSize, 100);
   EXPECT_EQ(state_.CallAmount, 12.5);
   EXPECT_EQ(state_.RangeName, "Pairs");
-  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Pairs"));
+  EXPECT_EQ(state_.RangeText, kPairs);
   EXPECT_EQ(state_.ShoveAmount, 0);
   EXPECT_EQ(state_.CallingRangeName, "");
   EXPECT_EQ(state_.CallingRangeText, "");
@@ -233,9 +240,9 @@ TEST_F(AnalysisDriver, PreflopRaiseStoresItsSituation) {
   EXPECT_EQ(state_.CallAmount, 0);
   EXPECT_EQ(state_.ShoveAmount, 100);
   EXPECT_EQ(state_.RangeName, "Pairs");
-  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Pairs"));
+  EXPECT_EQ(state_.RangeText, kPairs);
   EXPECT_EQ(state_.CallingRangeName, "Full");
-  EXPECT_EQ(state_.CallingRangeText, LoadRangeText(ranges_.Folder(), "Full"));
+  EXPECT_EQ(state_.CallingRangeText, kEveryHand);
   EXPECT_TRUE(state_.DroppedHands.starts_with("AKs, AKo, AQs,")) << state_.DroppedHands;
   EXPECT_TRUE(state_.DroppedHands.ends_with("32s, 22 (½'d)")) << state_.DroppedHands;
 }
@@ -258,7 +265,7 @@ TEST_F(AnalysisDriver, EquityOnlyLeavesAmountsAndCallingRangeAlone) {
   Run(kEquityButton);
   EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
   EXPECT_EQ(state_.RangeName, "Full");
-  EXPECT_EQ(state_.RangeText, LoadRangeText(ranges_.Folder(), "Full"));
+  EXPECT_EQ(state_.RangeText, kEveryHand);
   EXPECT_EQ(state_.PotSize, 15);
   EXPECT_EQ(state_.CallAmount, 5);
   EXPECT_EQ(state_.ShoveAmount, 100);
@@ -363,13 +370,13 @@ TEST_F(AnalysisDriver, AStoppedRunKeepsTheOldTableBesideTheNewSituation) {
   Run(kCallButton);
   const std::string table = state_.HandInfo;
   window_.Log.clear();
-  window_.CurrentSituation() = {"300", "70", "", "Pairs", ""};
+  window_.CurrentSituation() = {"300", "70", "", "Aces", ""};
   AtYield(5, [this] { StopAnalysis(state_); });
   Run(kCallButton);
   EXPECT_EQ(state_.HandInfo, table);
   EXPECT_EQ(state_.PotSize, 300);
   EXPECT_EQ(state_.CallAmount, 70);
-  EXPECT_EQ(state_.RangeName, "Pairs");
+  EXPECT_EQ(state_.RangeName, "Aces");
   EXPECT_EQ(window_.Count("SetResultsShown"), 1) << "hidden at the start, and never shown again";
   EXPECT_EQ(window_.Count("PresentResults"), 0);
 }
@@ -472,7 +479,7 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
 TEST_F(AnalysisDriver, ARangeFileChangedDuringARunIsNotReadAgain) {
   window_.CurrentSituation().Range = "Pairs";
   const std::string table = TableOf(kEquityButton, window_.CurrentSituation());
-  AtYield(1, [this] { ranges_.Save("Pairs", EveryHandAt(1)); });
+  AtYield(1, [this] { ranges_.Save("Pairs", kEveryHand); });
   Run(kEquityButton);
   EXPECT_EQ(state_.HandInfo, table);
 }
@@ -509,10 +516,10 @@ TEST_F(AnalysisDriver, ARangeFileThatComesBackBeforeTheFirstClassIsReadThenAndKe
   window.OnCall = [this](const std::string& line) {
     if (line != "ShowFrame Progress") return;
     EXPECT_EQ(state_.RangeText, "");
-    ranges_.Save("Aces", RangeWith({{"AA", 1}}));
+    ranges_.Save("Aces", kAces);
   };
   RunAnalysis(state_, kCallButton, window, ranges_.Folder());
-  EXPECT_EQ(state_.RangeText, RangeWith({{"AA", 1}}));
+  EXPECT_EQ(state_.RangeText, kAces);
   EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, {"100", "50", "", "Aces", ""}));
 }
 

@@ -15,14 +15,13 @@ constexpr std::string_view kRanks = "AKQJT98765432";
 constexpr std::string_view kSuits = "shdc";
 
 std::vector<std::string> Split(const std::string& text, char separator) {
-  std::vector<std::string> fields(1);
-  for (const char c : text) {
-    if (c == separator) {
-      fields.emplace_back();
-    } else {
-      fields.back() += c;
-    }
+  std::vector<std::string> fields;
+  std::size_t start = 0;
+  for (std::size_t end = text.find(separator); end != std::string::npos; end = text.find(separator, start)) {
+    fields.push_back(text.substr(start, end - start));
+    start = end + 1;
   }
+  fields.push_back(text.substr(start));
   return fields;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 #include "support/byte_scan.h"
 #include "support/number_text.h"
@@ -17,6 +18,20 @@ constexpr std::size_t kLongestUsualEntry = 11;  // "AKs (0.5), "
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "the range text holds no weight for " + std::string(label));
 }
 
+// The weight of an entry like "AKs (1)", one digit between brackets, as nearly all are; of any other, nothing. A label
+// with a bracket of its own is left alone, since that would end the number's place before it has begun.
+std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t found, std::string_view label) {
+  constexpr std::size_t kBehindLabel = 4;  // " (1)"
+  const bool isLabel = (label.size() == 2 || label.size() == 3) && label[1] != ')' && label.back() != ')';
+  if (!isLabel || found == std::string_view::npos) return std::nullopt;
+  const std::size_t behind = found + label.size();
+  if (text.size() - behind < kBehindLabel) return std::nullopt;
+  const char* const entry = text.data() + behind;
+  const int digit = entry[2] - '0';
+  if (entry[0] != ' ' || entry[1] != '(' || entry[3] != ')' || digit < 0 || digit > 9) return std::nullopt;
+  return digit;
+}
+
 double WeightShownOnGrid(double weight) {
   return weight == 1 || weight == 0.5 ? weight : 0;
 }
@@ -25,15 +40,13 @@ double WeightShownOnGrid(double weight) {
 
 double RangeWeightOf(std::string_view text, std::string_view label) {
   const std::size_t found = FindText(text, label);
+  if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;
+
   // A position counted from 1, 0 for a label that is missing: the fallback for missing classes rests on it.
   const std::size_t position = found == std::string_view::npos ? 0 : found + 1;
   const std::size_t start = position + label.size() + 1;
-
-  // The bracket is a few characters away; a plain loop is there before a library search has begun.
-  std::size_t end = position;
-  while (end < text.size() && text[end] != ')')
-    ++end;
-  if (end >= text.size() || end < start) FailWithoutWeight(label);
+  const std::size_t end = text.find(')', position);
+  if (end == std::string_view::npos || end < start) FailWithoutWeight(label);
   return LeadingNumber(text.substr(start, end - start));
 }
 

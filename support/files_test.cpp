@@ -327,6 +327,15 @@ TEST_F(ReplacingAFile, ScratchFileStandsInItsFolderUnderANameOfItsOwn) {
     EXPECT_EQ(fs::path(path).parent_path(), ScratchFolder());
 }
 
+TEST_F(ReplacingAFile, ScratchFileIsNeverOneThatIsThereAlready) {
+  FaultyFileCalls calls;
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  for (const auto& entry : calls.Made()) {
+    if (entry.call != Call::kOpen || (entry.flags & O_CREAT) == 0) continue;
+    EXPECT_NE(entry.flags & O_EXCL, 0) << entry.path;
+  }
+}
+
 TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
   Put(File(), kOld);
   struct Case {

@@ -254,6 +254,67 @@ TEST(LeadingNumber, EqualsTheLibraryParserToTheLastBit) {
   }
 }
 
+TEST(LeadingNumberBefore, ReadsNothingBehindTheEnd) {
+  struct Case {
+    const char* rule;
+    std::string text;
+    char end;
+    double value;
+  };
+  const std::vector<Case> cases = {
+      {"a blank ends the number that it would be skipped in", "0.5 0.7 ", ' ', 0.5},
+      {"an exponent form", "5.37339999999999E-02 0.5 ", ' ', 0.0537339999999999},
+      {"many digits", "0.1234567890123456 1", ' ', 0.1234567890123456},
+      {"the end at once", " 5", ' ', 0},
+      {"no end", "12abc", ')', 12},
+      {"no end and blanks", "1 000", ')', 1000},
+      {"blanks before the end", " 0 . 5 )", ')', 0.5},
+      {"letters before the end", "1x5)", ')', 1},
+      {"the first of two ends", "1)2)", ')', 1},
+      {"a sign before the end", "-1)", ')', -1},
+      {"nothing before the end", ")5", ')', 0},
+      {"an empty text", "", ')', 0},
+      {"an end within an exponent", "1e5", '5', 1},
+      {"an end that is a digit", "1250", '5', 12},
+      {"an end that is the sign", "1e-2", '-', 1},
+      {"an end that is the number's own point", "1.5.2", '.', 1},
+      {"an end that is a letter of the exponent", "1e5", 'e', 1},
+      {"a zero byte", std::string("1\0005", 3), '\0', 1},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(LeadingNumberBefore(c.text, c.end), c.value) << c.rule;
+}
+
+TEST(LeadingNumberBefore, EqualsTheLeadingNumberOfTheTextCutThere) {
+  constexpr std::string_view kLetters = "0123456789012345....  eE+-)x,";
+  std::mt19937 source(14196);
+  const auto pick = [&source](std::size_t count) {
+    return std::uniform_int_distribution<std::size_t>(0, count - 1)(source);
+  };
+  for (int i = 0; i < 300000; ++i) {
+    std::string text;
+    for (std::size_t k = pick(30); k > 0; --k)
+      text += kLetters[pick(kLetters.size())];
+    const char end = pick(2) == 0 ? ')' : kLetters[pick(kLetters.size())];
+    ASSERT_EQ(LeadingNumberBefore(text, end), LeadingNumber(text.substr(0, text.find(end)))) << text << " / " << end;
+  }
+}
+
+// The table's own form, one digit before the point, with every byte as the end and as a character that is none.
+TEST(LeadingNumberBefore, TellsEveryByteFromADigit) {
+  constexpr std::string_view kDigits = "8785953902";
+  for (std::size_t count = 0; count <= kDigits.size(); ++count) {
+    for (int i = 0; i < 256; ++i) {
+      const char byte = static_cast<char>(i);
+      const std::string text = "0." + std::string(kDigits.substr(0, count)) + byte + "7 0.5 0.25 ";
+      for (const char end : {byte, ' '}) {
+        const std::string cut = text.substr(0, text.find(end));
+        ASSERT_EQ(LeadingNumberBefore(text, end), LeadingNumber(cut)) << count << " digits, byte " << i;
+      }
+    }
+  }
+}
+
 struct NumericCase {
   const char* rule;
   std::string text;
