@@ -1,0 +1,395 @@
+// Whole runs of the companion as its user sees them: the real program, put into a folder with the example ranges as
+// ./run does it, started from somewhere else.
+//
+// The reports in tests/golden are what it must print, to the last character. After a change that is meant to change
+// them, write them anew, and look at the difference before it is committed:
+//
+//     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "results/web_addresses.h"
+#include "support/files.h"
+#include "tests/program_run.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+using Arguments = std::vector<std::string>;
+
+const Arguments kCall = {"call", "--pot", "110", "--call", "90", "--range", "Button Shove"};
+const Arguments kRaise = {"raise",        "--pot",           "150",           "--call",
+                          "50",           "--shove",         "400",           "--range",
+                          "Button Shove", "--calling-range", "Big Blind Call"};
+const Arguments kEquity = {"equity", "--range", "Tight Open"};
+
+Arguments With(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+// A user's home with the program in one folder of it, and another folder from which it is started.
+class Household {
+ public:
+  Household() {
+    std::string pattern = (fs::temp_directory_path() / "quillon journey ½ XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::system_error(errno, std::generic_category(), pattern);
+    home_ = pattern;
+    fs::create_directories(ProgramFolder());
+    fs::create_directories(Elsewhere());
+    fs::copy_file(QUILLON_CLI_PROGRAM, Program());
+    fs::copy(QUILLON_EXAMPLES_FOLDER "/Ranges", RangeFolder());
+  }
+  Household(const Household&) = delete;
+  Household(Household&&) = delete;
+  Household& operator=(const Household&) = delete;
+  Household& operator=(Household&&) = delete;
+  ~Household() {
+    std::error_code ignored;
+    fs::remove_all(home_, ignored);
+  }
+
+  [[nodiscard]] fs::path ProgramFolder() const { return home_ / "Quillon"; }
+  [[nodiscard]] fs::path RangeFolder() const { return ProgramFolder() / "Ranges"; }
+  [[nodiscard]] fs::path Program() const { return ProgramFolder() / "quillon-cli"; }
+  [[nodiscard]] fs::path Elsewhere() const { return home_ / "Elsewhere"; }
+
+  /// A run of the program with everything that it could be tempted to write to within the home.
+  [[nodiscard]] ProgramRun Prepare(const Arguments& arguments) const {
+    ProgramRun run;
+    run.Program = Program();
+    run.Arguments = arguments;
+    run.CurrentFolder = Elsewhere();
+    run.Environment = {{"HOME", home_.string()},
+                       {"TMPDIR", home_.string()},
+                       {"XDG_CONFIG_HOME", home_.string()},
+                       {"XDG_CACHE_HOME", home_.string()},
+                       {"XDG_DATA_HOME", home_.string()}};
+    return run;
+  }
+  [[nodiscard]] ProgramOutcome Run(const Arguments& arguments) const { return RunProgram(Prepare(arguments)); }
+
+  /// Every file and folder of the home, with its time of change, and each file's bytes.
+  [[nodiscard]] std::map<std::string, std::string> Inventory() const {
+    std::map<std::string, std::string> inventory;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(home_)) {
+      std::string& state = inventory[entry.path().string()];
+      state = std::to_string(entry.last_write_time().time_since_epoch().count());
+      if (entry.is_regular_file()) state += " " + ReadAllBytes(entry.path());
+    }
+    return inventory;
+  }
+
+ private:
+  fs::path home_;
+};
+
+// ---- golden reports
+
+struct GoldenCase {
+  const char* name;
+  const Arguments* command;
+  const char* format;
+  const char* file;
+};
+
+class GoldenReport : public testing::TestWithParam<GoldenCase> {};
+
+// The files hold the web host that is built in unless another one is chosen.
+std::string WithHomeAddress(std::string text) {
+  constexpr std::string_view kUsual = "http://www.quillon.example/quillon/";
+  const std::size_t at = text.find(kUsual);
+  if (at != std::string::npos) text.replace(at, kUsual.size(), HomeAddress());
+  return text;
+}
+
+TEST_P(GoldenReport, IsPrintedToTheLastCharacter) {
+  const Household household;
+  const ProgramOutcome outcome = household.Run(With(*GetParam().command, {"--format", GetParam().format}));
+  ASSERT_EQ(outcome.Status, 0) << outcome.Errors;
+  EXPECT_EQ(outcome.Errors, "");
+
+  const fs::path golden = fs::path(QUILLON_GOLDEN_FOLDER) / GetParam().file;
+  if (std::getenv("QUILLON_WRITE_GOLDEN") != nullptr) {  // NOLINT(concurrency-mt-unsafe): there is one thread
+    std::ofstream(golden, std::ios::binary) << outcome.Output;
+    GTEST_SKIP() << "written, not compared: " << golden;
+  }
+  EXPECT_EQ(outcome.Output, WithHomeAddress(ReadAllBytes(golden)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, GoldenReport,
+                         testing::Values(GoldenCase{"PlainCall", &kCall, "plain", "call_plain.txt"},
+                                         GoldenCase{"ForumCall", &kCall, "2+2", "call_forum.txt"},
+                                         GoldenCase{"PlainRaise", &kRaise, "plain", "raise_plain.txt"},
+                                         GoldenCase{"ForumRaise", &kRaise, "2+2", "raise_forum.txt"},
+                                         GoldenCase{"PlainEquity", &kEquity, "plain", "equity_plain.txt"},
+                                         GoldenCase{"ForumEquity", &kEquity, "2+2", "equity_forum.txt"}),
+                         [](const auto& entry) { return std::string(entry.param.name); });
+
+// ---- where ranges are looked for
+
+TEST(CompanionJourney, ListsTheRangesBesideTheProgram) {
+  const Household household;
+  std::ofstream(household.RangeFolder() / "Überfall.txt") << "AA (1), KK (0)";
+  const ProgramOutcome outcome = household.Run({"ranges"});
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Errors, "");
+  EXPECT_THAT(outcome.Output, HasSubstr("Everything\t100% selected\t[Everything]\n"));
+  EXPECT_THAT(outcome.Output, HasSubstr("\nÜberfall\t"));
+}
+
+TEST(CompanionJourney, LooksBesideTheProgramThatALinkLeadsTo) {
+  const Household household;
+  ProgramRun run = household.Prepare({"summary", "--range", "Everything"});
+  run.Program = household.Elsewhere() / "quillon";
+  fs::create_symlink(household.Program(), run.Program);
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+  EXPECT_EQ(outcome.Output, "[Everything]\n");
+}
+
+TEST(CompanionJourney, LooksInAFolderNamedFromTheCurrentOne) {
+  const Household household;
+  fs::create_directory(household.Elsewhere() / "Mine");
+  fs::rename(household.RangeFolder(), household.Elsewhere() / "Mine" / "Ranges");
+  EXPECT_EQ(household.Run({"summary", "--range", "Everything"}).Status, 1);
+  const ProgramOutcome outcome = household.Run({"summary", "--range", "Everything", "--folder", "Mine"});
+  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+  EXPECT_EQ(outcome.Output, "[Everything]\n");
+}
+
+TEST(CompanionJourney, NamesAFolderThatCannotBeRead) {
+  const Household household;
+  fs::remove_all(household.RangeFolder());
+  fs::create_symlink("Ranges", household.RangeFolder());  // in a circle, which not even root can follow
+  const ProgramOutcome outcome = household.Run({"ranges"});
+  EXPECT_EQ(outcome.Status, 1);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_THAT(outcome.Errors, StartsWith("Run-time error '"));
+  EXPECT_THAT(outcome.Errors, HasSubstr(household.RangeFolder().string()));
+}
+
+// ---- exit statuses
+
+struct StatusCase {
+  const char* rule;
+  Arguments arguments;
+  int status;
+  const char* errors;  // how standard error begins
+};
+
+class CompanionStatus : public testing::TestWithParam<StatusCase> {};
+
+TEST_P(CompanionStatus, GoesWithAMessage) {
+  const Household household;
+  const ProgramOutcome outcome = household.Run(GetParam().arguments);
+  EXPECT_EQ(outcome.Status, GetParam().status);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_THAT(outcome.Errors, StartsWith(GetParam().errors));
+  EXPECT_THAT(outcome.Errors, EndsWith("\n"));
+}
+
+std::vector<StatusCase> Statuses() {
+  return {
+      {"MissingRange", {"equity", "--range", "Nobody"}, 1, "The range \"Nobody\" cannot be read: "},
+      {"MissingFolder", {"ranges", "--folder", "/nowhere"}, 1, "Run-time error '76': Path not found (/nowhere/Ranges"},
+      {"SumTooLarge",
+       {"call", "--pot", "=" + std::string(400, '9') + "+" + std::string(400, '9'), "--call", "1", "--range",
+        "Everything"},
+       1,
+       "Run-time error '6': Overflow"},
+      {"NoCommand", {}, 2, "Say what to do"},
+      {"UnknownOption", With(kCall, {"--quick"}), 2, "The following argument was not expected: --quick"},
+      {"MissingOption", {"equity"}, 2, "--range is required"},
+      {"CallOfNothing",
+       {"call", "--pot", "150", "--call", "-5", "--range", "Everything"},
+       3,
+       "Call Size Error: The amount to call must be greater than zero.\n"},
+      {"BadSum",
+       {"call", "--pot", "=1 + 2", "--call", "1", "--range", "Everything"},
+       3,
+       "Problem: There was a problem processing your expression: \n\nOnly addition"},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(CompanionJourney, CompanionStatus, testing::ValuesIn(Statuses()),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+// ---- nothing is written
+
+TEST(CompanionJourney, LeavesEveryFileAlone) {
+  const Household household;
+  const auto before = household.Inventory();
+  ASSERT_GE(before.size(), 8U);  // the two folders, the program, the range folder and what is in it
+  for (const Arguments* const command : {&kCall, &kRaise, &kEquity})
+    EXPECT_EQ(household.Run(*command).Status, 0);
+  for (const char* format : {"2+2", "table", "json", "csv"})
+    EXPECT_EQ(household.Run(With(kEquity, {"--format", format})).Status, 0);
+  EXPECT_EQ(household.Run({"summary", "--range", "Everything"}).Status, 0);
+  EXPECT_EQ(household.Run({"ranges"}).Status, 0);
+  EXPECT_EQ(household.Run({"--help"}).Status, 0);
+  for (const StatusCase& failing : Statuses())
+    EXPECT_EQ(household.Run(failing.arguments).Status, failing.status);
+  EXPECT_TRUE(household.Inventory() == before);
+}
+
+// ---- streams that are not as usual
+
+TEST(CompanionJourney, AnAnswerThatFindsTheDiskFullIsAFailure) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
+  const Household household;
+  for (const Arguments& arguments : {kCall, Arguments{"ranges"}, Arguments{"summary", "--range", "Everything"},
+                                     Arguments{"--help"}, With(kRaise, {"--format", "json"})}) {
+    ProgramRun run = household.Prepare(arguments);
+    run.Output = StreamEnd::kFullDisk;
+    const ProgramOutcome outcome = RunProgram(run);
+    EXPECT_EQ(outcome.Status, 1) << arguments[0];
+    EXPECT_EQ(outcome.Errors, "Run-time error '57': Device I/O error (standard output)\n") << arguments[0];
+  }
+}
+
+TEST(CompanionJourney, AnAnswerWithoutStandardOutputIsAFailure) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.Output = StreamEnd::kClosed;
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 1);
+  EXPECT_THAT(outcome.Errors, HasSubstr("standard output"));
+}
+
+TEST(CompanionJourney, NeedsNoStandardInput) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.InputClosed = true;
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+  EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
+}
+
+TEST(CompanionJourney, KeepsItsStatusWithoutStandardError) {
+  const Household household;
+  for (const StatusCase& failing : Statuses()) {
+    for (const StreamEnd end : {StreamEnd::kClosed, StreamEnd::kFullDisk}) {
+      ProgramRun run = household.Prepare(failing.arguments);
+      run.Errors = end;
+      const ProgramOutcome outcome = RunProgram(run);
+      EXPECT_EQ(outcome.Status, failing.status) << failing.rule;
+      EXPECT_EQ(outcome.Output, "") << failing.rule;
+    }
+  }
+}
+
+// ---- on a terminal
+
+constexpr const char* kFirstFrame = "\r[                                        ] 1%\r[";
+constexpr const char* kLastFrame = "\r[########################################] 100%\r\x1b[K";
+constexpr const char* kAnyFrame = "\r[";
+constexpr const char* kCellColor = "\x1b[48;2;";
+
+TEST(CompanionJourney, ShowsProgressAndThenGridAndReportOnATerminalWithColors) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.Output = StreamEnd::kTerminal;
+  run.Errors = StreamEnd::kTerminal;
+  run.Environment["COLORTERM"] = "truecolor";
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_THAT(outcome.Terminal, StartsWith(kFirstFrame));
+  EXPECT_THAT(outcome.Terminal, HasSubstr(std::string(kLastFrame) + kCellColor));
+  EXPECT_THAT(outcome.Terminal, EndsWith("\x1b[0m\n\n" + household.Run(kCall).Output));
+}
+
+TEST(CompanionJourney, ShowsProgressWhereStandardErrorAloneIsATerminal) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.Errors = StreamEnd::kTerminal;
+  run.Environment["COLORTERM"] = "truecolor";
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_THAT(outcome.Terminal, StartsWith(kFirstFrame));
+  EXPECT_THAT(outcome.Terminal, EndsWith(kLastFrame));
+  EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
+}
+
+struct ColorCase {
+  const char* rule;
+  const char* promise;  // COLORTERM
+  bool grid;
+};
+
+class ColorPromise : public testing::TestWithParam<ColorCase> {};
+
+TEST_P(ColorPromise, DecidesWhetherATerminalGetsTheGrid) {
+  const Household household;
+  ProgramRun run = household.Prepare(kEquity);
+  run.Output = StreamEnd::kTerminal;
+  run.Environment["COLORTERM"] = GetParam().promise;
+  const ProgramOutcome outcome = RunProgram(run);
+  const std::string report = household.Run(kEquity).Output;
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Errors, "");
+  EXPECT_THAT(outcome.Terminal, EndsWith(report));
+  EXPECT_THAT(outcome.Terminal, Not(HasSubstr(kAnyFrame)));
+  EXPECT_EQ(outcome.Terminal.starts_with(kCellColor), GetParam().grid);
+  EXPECT_EQ(outcome.Terminal == report, !GetParam().grid);
+}
+
+constexpr auto kColorCases = std::to_array<ColorCase>({
+    {"TrueColor", "truecolor", true},
+    {"Named24Bit", "24bit", true},
+    {"SomethingElse", "yes", false},
+    {"Empty", "", false},
+});
+
+INSTANTIATE_TEST_SUITE_P(CompanionJourney, ColorPromise, testing::ValuesIn(kColorCases),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+TEST(CompanionJourney, ShowsNoGridOnATerminalThatPromisesNothing) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.Output = StreamEnd::kTerminal;
+  EXPECT_EQ(RunProgram(run).Terminal, household.Run(kCall).Output);
+}
+
+TEST(CompanionJourney, ShowsNeitherGridNorProgressWithoutATerminal) {
+  const Household household;
+  ProgramRun run = household.Prepare(kCall);
+  run.Environment["COLORTERM"] = "truecolor";
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Errors, "");
+  EXPECT_THAT(outcome.Output, StartsWith("Situation\n"));
+  EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b")));
+}
+
+// ---- for other programs
+
+TEST(CompanionJourney, AnswersOtherProgramsInJson) {
+  const Household household;
+  const ProgramOutcome outcome = household.Run(With(kRaise, {"--format", "json"}));
+  ASSERT_EQ(outcome.Status, 0) << outcome.Errors;
+  const nlohmann::json object = nlohmann::json::parse(outcome.Output);
+  EXPECT_EQ(object["mode"], "raise");
+  EXPECT_EQ(object["dropped_hands"], "A3o (½'d), A2o");
+  EXPECT_EQ(object["hands"].size(), 169U);
+}
+
+}  // namespace
+}  // namespace quillon

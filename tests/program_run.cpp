@@ -1,0 +1,212 @@
+#include "tests/program_run.h"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <optional>
+#include <pty.h>
+#include <spawn.h>
+#include <string_view>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <termios.h>
+#include <unistd.h>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+void Demand(bool success, const char* call, int error = errno) {
+  if (!success) throw std::system_error(error, std::generic_category(), call);
+}
+
+// An open file, closed with the object.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) { Demand(number >= 0, "open"); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor(Descriptor&&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&&) = delete;
+  ~Descriptor() { Close(); }
+
+  [[nodiscard]] int Number() const { return number_; }
+  void Close() {
+    if (number_ >= 0) close(number_);
+    number_ = -1;
+  }
+
+ private:
+  int number_;
+};
+
+// A pseudo terminal that passes bytes on as they are: no carriage returns are added to line feeds.
+class PseudoTerminal {
+ public:
+  PseudoTerminal() : PseudoTerminal(Open()) {}
+
+  [[nodiscard]] int ProgramSide() const { return programSide_.Number(); }
+
+  /// Everything that arrives until no process has the program's side open any more.
+  [[nodiscard]] std::string ReadToEnd() {
+    programSide_.Close();
+    std::string text;
+    std::array<char, 4096> buffer{};
+    // The end shows as a failure (EIO), not as an end of file.
+    for (ssize_t size = 0; (size = read(ownSide_.Number(), buffer.data(), buffer.size())) > 0;)
+      text.append(buffer.data(), static_cast<std::size_t>(size));
+    return text;
+  }
+
+ private:
+  explicit PseudoTerminal(std::pair<int, int> sides) : ownSide_(sides.first), programSide_(sides.second) {}
+
+  static std::pair<int, int> Open() {
+    termios settings{};
+    cfmakeraw(&settings);
+    std::pair<int, int> sides;
+    Demand(openpty(&sides.first, &sides.second, nullptr, &settings, nullptr) == 0, "openpty");
+    // A copy of either side in the program would keep the terminal open for good.
+    for (const int side : {sides.first, sides.second})
+      Demand(fcntl(side, F_SETFD, FD_CLOEXEC) == 0, "fcntl");  // NOLINT(*-vararg): so the call is declared
+    return sides;
+  }
+
+  Descriptor ownSide_;
+  Descriptor programSide_;
+};
+
+// A file in memory that takes what a stream is given.
+class KeptText {
+ public:
+  KeptText() : file_(memfd_create("kept", MFD_CLOEXEC)) {}
+
+  [[nodiscard]] int Number() const { return file_.Number(); }
+  [[nodiscard]] std::string Text() const {
+    std::string text(static_cast<std::size_t>(lseek(file_.Number(), 0, SEEK_END)), '\0');
+    Demand(pread(file_.Number(), text.data(), text.size(), 0) == static_cast<ssize_t>(text.size()), "pread");
+    return text;
+  }
+
+ private:
+  Descriptor file_;
+};
+
+// What happens to the new process before its program starts.
+class Preparation {
+ public:
+  Preparation() { Demand(posix_spawn_file_actions_init(&actions_) == 0, "posix_spawn_file_actions_init"); }
+  Preparation(const Preparation&) = delete;
+  Preparation(Preparation&&) = delete;
+  Preparation& operator=(const Preparation&) = delete;
+  Preparation& operator=(Preparation&&) = delete;
+  ~Preparation() { posix_spawn_file_actions_destroy(&actions_); }
+
+  [[nodiscard]] const posix_spawn_file_actions_t& Actions() const { return actions_; }
+
+  void EnterFolder(const std::filesystem::path& folder) {
+    Check(posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()));
+  }
+  void Open(int stream, const char* path, int flags) {
+    Check(posix_spawn_file_actions_addopen(&actions_, stream, path, flags, 0));
+  }
+  void Lead(int stream, int target) { Check(posix_spawn_file_actions_adddup2(&actions_, target, stream)); }
+  void Close(int stream) { Check(posix_spawn_file_actions_addclose(&actions_, stream)); }
+
+ private:
+  static void Check(int error) { Demand(error == 0, "posix_spawn_file_actions", error); }
+
+  posix_spawn_file_actions_t actions_{};
+};
+
+void Connect(Preparation& preparation, int stream, StreamEnd end, const KeptText& kept,
+             const std::optional<PseudoTerminal>& terminal) {
+  switch (end) {
+    case StreamEnd::kKept:
+      return preparation.Lead(stream, kept.Number());
+    case StreamEnd::kTerminal:
+      return preparation.Lead(stream, terminal.value().ProgramSide());
+    case StreamEnd::kFullDisk:
+      return preparation.Open(stream, "/dev/full", O_WRONLY);
+    case StreamEnd::kClosed:
+      return preparation.Close(stream);
+  }
+}
+
+std::vector<std::string> EnvironmentOf(const ProgramRun& run) {
+  std::map<std::string, std::string> variables;
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    const std::string_view text = *entry;
+    const std::size_t sign = text.find('=');
+    if (sign != std::string_view::npos) variables.emplace(text.substr(0, sign), text.substr(sign + 1));
+  }
+  variables.erase("COLORTERM");
+  for (const auto& [name, value] : run.Environment)
+    variables[name] = value;
+
+  std::vector<std::string> entries;
+  entries.reserve(variables.size());
+  for (const auto& [name, value] : variables)
+    entries.emplace_back(name).append("=").append(value);
+  return entries;
+}
+
+// The form in which the system takes a list of texts.
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+  std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
+  for (std::string& text : texts)
+    pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+pid_t Start(const ProgramRun& run, const Preparation& preparation) {
+  std::vector<std::string> arguments = {run.Program.string()};
+  arguments.insert(arguments.end(), run.Arguments.begin(), run.Arguments.end());
+  std::vector<std::string> environment = EnvironmentOf(run);
+  pid_t process = 0;
+  const int error = posix_spawn(&process, run.Program.c_str(), &preparation.Actions(), nullptr,
+                                Pointers(arguments).data(), Pointers(environment).data());
+  Demand(error == 0, run.Program.c_str(), error);
+  return process;
+}
+
+int WaitForEnd(pid_t process) {
+  constexpr int kSignalled = 128;
+  int status = 0;
+  Demand(waitpid(process, &status, 0) == process, "waitpid");
+  return WIFEXITED(status) ? WEXITSTATUS(status) : kSignalled + WTERMSIG(status);
+}
+
+}  // namespace
+
+ProgramOutcome RunProgram(const ProgramRun& run) {
+  const KeptText output;
+  const KeptText errors;
+  std::optional<PseudoTerminal> terminal;
+  if (run.Output == StreamEnd::kTerminal || run.Errors == StreamEnd::kTerminal) terminal.emplace();
+
+  Preparation preparation;
+  preparation.EnterFolder(run.CurrentFolder);
+  if (run.InputClosed) {
+    preparation.Close(STDIN_FILENO);
+  } else {
+    preparation.Open(STDIN_FILENO, "/dev/null", O_RDONLY);
+  }
+  Connect(preparation, STDOUT_FILENO, run.Output, output, terminal);
+  Connect(preparation, STDERR_FILENO, run.Errors, errors, terminal);
+
+  ProgramOutcome outcome;
+  const pid_t process = Start(run, preparation);
+  // Read while it runs: a terminal that nobody reads holds the program up.
+  if (terminal) outcome.Terminal = terminal->ReadToEnd();
+  outcome.Status = WaitForEnd(process);
+  outcome.Output = output.Text();
+  outcome.Errors = errors.Text();
+  return outcome;
+}
+
+}  // namespace quillon

@@ -1,0 +1,40 @@
+#pragma once
+
+// A finished analysis as text for a terminal, a file or another program, in the forms that the companion offers.
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "analysis/analysis_state.h"
+#include "support/rgb.h"
+
+namespace quillon {
+
+enum class OutputFormat { kPlain, kForum, kTable, kJson, kCsv };
+
+/// The names by which the formats are asked for, in the order of OutputFormat.
+inline constexpr std::array<std::string_view, 5> kOutputFormatNames = {"plain", "2+2", "table", "json", "csv"};
+
+/// The format of that name; kPlain for a text that names none.
+[[nodiscard]] OutputFormat OutputFormatOf(std::string_view name);
+
+/// A text of the report with each of its line ends (CR, CR LF) as one LF.
+///
+///     "Situation\r" -> "Situation\n"      "Hand\r\n\r" -> "Hand\n\n"
+[[nodiscard]] std::string UnixLineEnds(std::string_view text);
+
+/// The analysis in one format, the last line end included.
+///
+/// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
+/// (class labels). kTable is the results table byte for byte. kCsv has a header row, then hand, combos, ev, equity,
+/// fold and colour for each class. kJson is one object; what the scenario does not have is null, and all numbers carry
+/// the digits of the results table. Fails as BuildReport and GridColors do.
+[[nodiscard]] std::string AnalysisOutput(OutputFormat format, AnalysisState& state, std::span<const std::string> hands);
+
+/// The 13 by 13 grid in its colours, for a terminal that takes 24-bit colour sequences: one line for each row, with
+/// class labels in black or white, whichever reads better.
+[[nodiscard]] std::string TerminalGrid(const std::array<Rgb, 169>& colors);
+
+}  // namespace quillon

@@ -1,0 +1,495 @@
+#include "tools/analysis_output.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iomanip>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/analysis_driver.h"
+#include "analysis/quiet_window.h"
+#include "analysis/recording_window.h"
+#include "analysis/results_table.h"
+#include "hand/equity_table.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_fixtures.h"
+#include "ranges/range_summary.h"
+#include "results/hand_line.h"
+#include "results/recording_report_screen.h"
+#include "results/results_grid.h"
+
+namespace quillon {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Json = nlohmann::ordered_json;
+
+// ---- what the tests compare with, written without the routines under test
+
+std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+    text.replace(at, from.size(), to);
+  return text;
+}
+
+// First the pairs, then what is left: another road than a walk through the characters.
+std::string WithUnixLineEnds(const std::string& text) {
+  return Replaced(Replaced(text, "\r\n", "\n"), "\r", "\n");
+}
+
+std::vector<std::string> Split(const std::string& text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  std::size_t start = 0;
+  for (std::size_t at = 0; (at = text.find(separator, start)) != std::string::npos; start = at + separator.size())
+    pieces.push_back(text.substr(start, at - start));
+  pieces.push_back(text.substr(start));
+  return pieces;
+}
+
+// The cells of each row of a results table.
+std::vector<std::vector<std::string>> Cells(const std::string& table) {
+  std::vector<std::vector<std::string>> rows;
+  for (const std::string& row : Split(table, "\r\n")) {
+    if (!row.empty()) rows.push_back(Split(row, "\t"));
+  }
+  return rows;
+}
+
+std::string CombosOf(const std::string& hand) {
+  if (hand.size() == 2) return "6";
+  return hand.back() == 's' ? "4" : "12";
+}
+
+std::string HexColor(Rgb color) {
+  std::ostringstream text;
+  text << '#' << std::hex << std::setfill('0');
+  for (const unsigned channel : {color.Red, color.Green, color.Blue})
+    text << std::setw(2) << channel;
+  return text.str();
+}
+
+// ---- one finished run of each scenario
+
+AnalysisState FinishedRun(std::int16_t button, const Situation& situation) {
+  const TemporaryProgram program;
+  program.Write("Now.txt", TextWith("AA KK QQ AKs AKo", "JJ ATs"));
+  program.Write("Calls.txt", TextWith("AA KK JJ 77", "AKs"));
+  program.Write("Nothing.txt", TextWith(""));
+  LoadEquityTable();
+  KeptMessages messages;
+  QuietWindow window(situation, messages);
+  AnalysisState state;
+  RunAnalysis(state, button, window, program.Folder());
+  EXPECT_THAT(messages.Shown, IsEmpty());
+  return state;
+}
+
+AnalysisState CallRun() {
+  return FinishedRun(0, {.Pot = "150.125", .Call = "50", .Shove = "", .Range = "Now", .CallingRange = ""});
+}
+
+AnalysisState RaiseRun() {
+  return FinishedRun(1, {.Pot = "150", .Call = "50", .Shove = "400", .Range = "Now", .CallingRange = "Calls"});
+}
+
+AnalysisState EquityRun() {
+  return FinishedRun(2, {.Pot = "", .Call = "", .Shove = "", .Range = "Now", .CallingRange = ""});
+}
+
+struct Scenario {
+  const char* name;
+  AnalysisState (*run)();
+};
+
+class EachScenario : public testing::TestWithParam<Scenario> {};
+
+INSTANTIATE_TEST_SUITE_P(AnalysisOutput, EachScenario,
+                         testing::Values(Scenario{"Call", CallRun}, Scenario{"Raise", RaiseRun},
+                                         Scenario{"Equity", EquityRun}),
+                         [](const auto& entry) { return std::string(entry.param.name); });
+
+std::string BoxText(ReportForm form, AnalysisState& state, const std::vector<std::string>& hands) {
+  RecordingReportScreen screen;
+  screen.Form = form;
+  BuildReport(screen, state);
+  for (const std::string& hand : hands)
+    AddSpecificHand(screen, state, hand);
+  return screen.Text;
+}
+
+// ---- names of the formats
+
+TEST(OutputFormat, IsFoundByItsName) {
+  EXPECT_EQ(OutputFormatOf("plain"), OutputFormat::kPlain);
+  EXPECT_EQ(OutputFormatOf("2+2"), OutputFormat::kForum);
+  EXPECT_EQ(OutputFormatOf("table"), OutputFormat::kTable);
+  EXPECT_EQ(OutputFormatOf("json"), OutputFormat::kJson);
+  EXPECT_EQ(OutputFormatOf("csv"), OutputFormat::kCsv);
+}
+
+TEST(OutputFormat, IsPlainForANameThatIsNone) {
+  EXPECT_EQ(OutputFormatOf(""), OutputFormat::kPlain);
+  EXPECT_EQ(OutputFormatOf("JSON"), OutputFormat::kPlain);
+}
+
+// ---- line ends
+
+struct LineEndCase {
+  const char* rule;
+  const char* text;
+  const char* expected;
+};
+
+class LineEnds : public testing::TestWithParam<LineEndCase> {};
+
+TEST_P(LineEnds, BecomeSingleLineFeeds) {
+  EXPECT_EQ(UnixLineEnds(GetParam().text), GetParam().expected);
+}
+
+constexpr auto kLineEndCases = std::to_array<LineEndCase>({
+    {"NothingStaysNothing", "", ""},
+    {"TextWithoutLineEndStays", "Hand\tCombs", "Hand\tCombs"},
+    {"ReturnIsALineEnd", "Situation\rType\r", "Situation\nType\n"},
+    {"ReturnAndFeedAreOneLineEnd", "a\r\nb", "a\nb"},
+    {"FeedStays", "a\nb\n", "a\nb\n"},
+    {"PairBeforeTheLinesOwnReturnIsTwo", "Hand\r\n\r", "Hand\n\n"},
+    {"TwoPairsAreTwo", "\r\n\r\nRange\r", "\n\nRange\n"},
+    {"TwoReturnsAreTwo", "\r\r", "\n\n"},
+    {"ReturnBeforeAPairIsItsOwn", "\r\r\n", "\n\n"},
+    {"FeedBeforeAReturnIsItsOwn", "\n\r", "\n\n"},
+});
+
+INSTANTIATE_TEST_SUITE_P(UnixLineEnds, LineEnds, testing::ValuesIn(kLineEndCases),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+// ---- the two reports and the table
+
+TEST_P(EachScenario, PrintsThePlainReportOfTheWindow) {
+  AnalysisState state = GetParam().run();
+  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), expected);
+  EXPECT_EQ(expected.find('\r'), std::string::npos);
+  EXPECT_TRUE(expected.ends_with('\n'));
+}
+
+TEST_P(EachScenario, PrintsTheForumReportOfTheWindow) {
+  AnalysisState state = GetParam().run();
+  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), expected);
+  EXPECT_TRUE(expected.starts_with("[URL="));
+}
+
+TEST_P(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
+  AnalysisState state = GetParam().run();
+  const std::vector<std::string> hands = {"72o", "AA", "72o"};
+  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, hands));
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, hands), expected);
+  EXPECT_THAT(Split(expected, "for 72o"), SizeIs(3));
+  EXPECT_LT(expected.find("for 72o"), expected.find("for AA"));
+}
+
+TEST_P(EachScenario, PrintsTheTableByteForByte) {
+  AnalysisState state = GetParam().run();
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kTable, state, {}), state.HandInfo);
+  EXPECT_THAT(Cells(state.HandInfo), SizeIs(169));
+}
+
+TEST_P(EachScenario, AddsNoWorkingToOtherFormats) {
+  AnalysisState state = GetParam().run();
+  const std::vector<std::string> hands = {"AA"};
+  for (const OutputFormat format :
+       {OutputFormat::kPlain, OutputFormat::kTable, OutputFormat::kJson, OutputFormat::kCsv})
+    EXPECT_EQ(AnalysisOutput(format, state, hands), AnalysisOutput(format, state, {}));
+}
+
+// ---- csv
+
+TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
+  AnalysisState state = GetParam().run();
+  const std::array<Rgb, 169> colors = GridColors(state);
+  std::string expected = "hand,combos,ev,equity,fold,colour\n";
+  const auto rows = Cells(state.HandInfo);
+  ASSERT_THAT(rows, SizeIs(169));
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const std::vector<std::string>& cells = rows[i];
+    expected += cells[0] + "," + CombosOf(cells[0]) + "," + cells[1] + "," + cells[2] + "," + cells[3] + "," +
+                HexColor(colors[i]) + "\n";
+  }
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
+}
+
+TEST(CsvOutput, HoldsEachClassOnceInIndexOrder) {
+  AnalysisState state = CallRun();
+  const auto lines = Split(AnalysisOutput(OutputFormat::kCsv, state, {}), "\n");
+  ASSERT_THAT(lines, SizeIs(171));  // the header, 169 rows, and nothing behind the last line end
+  EXPECT_EQ(lines[0], "hand,combos,ev,equity,fold,colour");
+  EXPECT_EQ(lines[170], "");
+  int combos = 0;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const auto cells = Split(lines[static_cast<std::size_t>(index) + 1], ",");
+    ASSERT_THAT(cells, SizeIs(6));
+    EXPECT_EQ(cells[0], HandLabel(index));
+    combos += std::atoi(cells[1].c_str());  // NOLINT(cert-err34-c): what is no number adds 0 and fails below
+  }
+  EXPECT_EQ(combos, 1326);
+}
+
+// ---- json
+
+std::vector<std::string> Keys(const Json& object) {
+  std::vector<std::string> keys;
+  for (const auto& [key, value] : object.items())
+    keys.push_back(key);
+  return keys;
+}
+
+std::vector<std::string> NullKeys(const Json& object) {
+  std::vector<std::string> keys;
+  for (const auto& [key, value] : object.items()) {
+    if (value.is_null()) keys.push_back(key);
+  }
+  return keys;
+}
+
+TEST_P(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
+  AnalysisState state = GetParam().run();
+  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  EXPECT_TRUE(text.ends_with("}\n"));
+  const Json object = Json::parse(text);
+  EXPECT_THAT(Keys(object), ElementsAre("mode", "pot", "call", "shove", "range", "calling_range", "range_summary",
+                                        "calling_range_summary", "dropped_hands", "title", "situation", "explanation",
+                                        "best", "worst", "hands"));
+  ASSERT_THAT(object["hands"], SizeIs(169));
+  for (const Json& hand : object["hands"])
+    EXPECT_THAT(Keys(hand), ElementsAre("hand", "combos", "ev", "equity", "fold", "colour"));
+}
+
+TEST_P(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
+  AnalysisState state = GetParam().run();
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const std::array<Rgb, 169> colors = GridColors(state);
+  const auto rows = Cells(state.HandInfo);
+  ASSERT_THAT(rows, SizeIs(169));
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const Json& hand = object["hands"][i];
+    const std::vector<std::string>& cells = rows[i];
+    EXPECT_EQ(hand["hand"], cells[0]);
+    EXPECT_EQ(std::to_string(hand["combos"].get<int>()), CombosOf(cells[0]));
+    EXPECT_EQ(hand["ev"].get<double>(), std::strtod(cells[1].c_str(), nullptr)) << cells[0];
+    EXPECT_EQ(hand["equity"].get<double>(), std::strtod(cells[2].c_str(), nullptr)) << cells[0];
+    EXPECT_EQ(hand["fold"].get<double>(), std::strtod(cells[3].c_str(), nullptr)) << cells[0];
+    EXPECT_EQ(hand["colour"], HexColor(colors[i])) << cells[0];
+  }
+}
+
+TEST_P(EachScenario, WritesJsonNumbersWithTheDigitsOfTheTable) {
+  AnalysisState state = GetParam().run();
+  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  for (const std::vector<std::string>& cells : Cells(state.HandInfo)) {
+    const std::string numbers = R"("ev": )" + cells[1] + R"(, "equity": )" + cells[2] + R"(, "fold": )" + cells[3];
+    EXPECT_NE(text.find(R"({"hand": ")" + cells[0] + R"(", "combos": )" + CombosOf(cells[0]) + ", " + numbers),
+              std::string::npos)
+        << cells[0];
+  }
+}
+
+TEST(JsonOutput, WritesAmountsInTheGeneralForm) {
+  AnalysisState state = CallRun();
+  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  EXPECT_NE(text.find("\n  \"pot\": 150.125,\n  \"call\": 50,\n  \"shove\": null,\n"), std::string::npos);
+}
+
+TEST(JsonOutput, TakesTheExponentFormForJson) {
+  AnalysisState state = EquityRun();
+  const std::size_t cell = state.HandInfo.find("0\t", state.HandInfo.find("72o"));
+  ASSERT_NE(cell, std::string::npos);
+  state.HandInfo.replace(cell, 2, "7.92119999999999E-02\t");
+  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  EXPECT_NE(text.find(R"("hand": "72o", "combos": 12, "ev": 7.92119999999999E-02,)"), std::string::npos);
+  EXPECT_EQ(Json::parse(text)["hands"][static_cast<std::size_t>(HandIndex("72o"))]["ev"], 7.92119999999999E-02);
+}
+
+TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
+  AnalysisState state = CallRun();
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_THAT(NullKeys(object), ElementsAre("shove", "calling_range", "calling_range_summary", "dropped_hands"));
+  EXPECT_EQ(object["mode"], "call");
+  EXPECT_EQ(object["pot"], 150.125);
+  EXPECT_EQ(object["call"], 50);
+  EXPECT_EQ(object["range"], "Now");
+  EXPECT_EQ(object["range_summary"], "Full: QQ+,AKs,AKo | Half: JJ,ATs");
+  EXPECT_EQ(object["title"], "ALL IN Grid");
+  EXPECT_EQ(object["situation"],
+            "Pot Size: 150.12 | Call Amount: 50 | Odds: 3:1\r\nHis Range: Full: QQ+,AKs,AKo | Half: JJ,ATs");
+  EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("If you call with all of the hands in green"));
+  EXPECT_EQ(object["best"], BestHand(state.HandInfo, kExpectedValueColumn));
+  EXPECT_EQ(object["worst"], WorstHand(state.HandInfo, kExpectedValueColumn));
+}
+
+TEST(JsonOutput, OfARaiseHasEverything) {
+  AnalysisState state = RaiseRun();
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_THAT(NullKeys(object), IsEmpty());
+  EXPECT_EQ(object["mode"], "raise");
+  EXPECT_EQ(object["pot"], 150);
+  EXPECT_EQ(object["call"], 50);
+  EXPECT_EQ(object["shove"], 400);
+  EXPECT_EQ(object["range"], "Now");
+  EXPECT_EQ(object["calling_range"], "Calls");
+  EXPECT_EQ(object["calling_range_summary"], "Full: KK+,JJ,77 | Half: AKs");
+  EXPECT_EQ(object["dropped_hands"], "JJ (½'d), 77");
+  EXPECT_EQ(object["situation"],
+            "Pot Size: 150 | Call Amount: 50 | Shove Amount: 400\r\n"
+            "His Calling Range: Full: KK+,JJ,77 | Half: AKs");
+  EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("If you raise with all of the hands in green"));
+  EXPECT_EQ(object["best"], BestHand(state.HandInfo, kExpectedValueColumn));
+  EXPECT_EQ(object["worst"], WorstHand(state.HandInfo, kExpectedValueColumn));
+}
+
+TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
+  AnalysisState state = EquityRun();
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_THAT(NullKeys(object),
+              ElementsAre("pot", "call", "shove", "calling_range", "calling_range_summary", "dropped_hands"));
+  EXPECT_EQ(object["mode"], "equity");
+  EXPECT_EQ(object["range"], "Now");
+  EXPECT_EQ(object["title"], "Equity Grid");
+  EXPECT_EQ(object["situation"], "His Range: Full: QQ+,AKs,AKo | Half: JJ,ATs");
+  EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("Equity is a meausrement"));
+  EXPECT_EQ(object["best"], BestHand(state.HandInfo, kEquityColumn));
+  EXPECT_EQ(object["worst"], WorstHand(state.HandInfo, kEquityColumn));
+  for (const Json& hand : object["hands"]) {
+    EXPECT_EQ(hand["ev"], 0);
+    EXPECT_EQ(hand["fold"], 1);
+  }
+}
+
+TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyText) {
+  AnalysisState state =
+      FinishedRun(1, {.Pot = "3", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_EQ(object["dropped_hands"], "");
+  EXPECT_EQ(object["call"], 0);
+  for (const Json& hand : object["hands"]) {
+    EXPECT_EQ(hand["equity"], -1);
+    EXPECT_EQ(hand["fold"], 1);
+  }
+}
+
+TEST(JsonOutput, HasNoWorstHandWhereNoneIsBelowTenThousand) {
+  AnalysisState state =
+      FinishedRun(1, {.Pot = "20000", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_EQ(object["best"], "AA");
+  EXPECT_THAT(NullKeys(object), ElementsAre("worst"));
+}
+
+TEST(JsonOutput, HasNoBestHandWhereNoneIsAboveMinusTenThousand) {
+  AnalysisState state = CallRun();
+  state.HandInfo.clear();
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    state.HandInfo.append(HandLabel(index)).append("\t-20000\t0\t1\t\r\n");
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_TRUE(object["best"].is_null());
+  EXPECT_EQ(object["worst"], "AA");
+}
+
+TEST(JsonOutput, IsValidWhateverBytesARangeNameHolds) {
+  AnalysisState state = EquityRun();
+  state.RangeName =
+      "Gr\xfc\xdf"
+      "e \"\\\x01";
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  EXPECT_EQ(object["range"], "Gr\uFFFD\uFFFDe \"\\\x01");
+}
+
+TEST(JsonOutput, KeepsANameInUtf8) {
+  AnalysisState state = EquityRun();
+  state.RangeName = "Überfall ½";
+  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  EXPECT_NE(text.find(R"("range": "Überfall ½")"), std::string::npos);
+}
+
+// ---- the grid on a terminal
+
+std::array<Rgb, 169> AllOf(Rgb color) {
+  std::array<Rgb, 169> colors{};
+  colors.fill(color);
+  return colors;
+}
+
+TEST(TerminalGrid, HasOneLineForEachRow) {
+  const auto lines = Split(TerminalGrid(AllOf({0, 0, 0})), "\n");
+  ASSERT_THAT(lines, SizeIs(14));
+  EXPECT_EQ(lines.back(), "");
+  for (std::size_t row = 0; row < 13; ++row) {
+    EXPECT_TRUE(lines[row].starts_with("\x1b[48;2;")) << row;
+    EXPECT_TRUE(lines[row].ends_with("\x1b[0m")) << row;  // no colour runs into what is printed next
+  }
+}
+
+TEST(TerminalGrid, ShowsTheClassesInCellsOfOneWidth) {
+  std::string text = TerminalGrid(AllOf({0, 0, 0}));
+  for (const char* sequence : {"\x1b[48;2;0;0;0m", "\x1b[38;2;255;255;255m", "\x1b[0m"})
+    text = Replaced(text, sequence, "");
+  const auto lines = Split(text, "\n");
+  ASSERT_THAT(lines, SizeIs(14));
+  EXPECT_EQ(lines[0], " AA   AKs  AQs  AJs  ATs  A9s  A8s  A7s  A6s  A5s  A4s  A3s  A2s ");
+  EXPECT_EQ(lines[1], " AKo  KK   KQs  KJs  KTs  K9s  K8s  K7s  K6s  K5s  K4s  K3s  K2s ");
+  EXPECT_EQ(lines[12], " A2o  K2o  Q2o  J2o  T2o  92o  82o  72o  62o  52o  42o  32o  22  ");
+  EXPECT_THAT(std::vector<std::string>(lines.begin(), lines.end() - 1), Each(SizeIs(13 * 5)));
+}
+
+TEST(TerminalGrid, PaintsEachCellInItsColor) {
+  std::array<Rgb, 169> colors{};
+  for (std::size_t i = 0; i < colors.size(); ++i)
+    colors[i] = {static_cast<std::uint8_t>(i), static_cast<std::uint8_t>(200 - i), 7};
+  const auto cells = Split(TerminalGrid(colors), "\x1b[48;2;");
+  ASSERT_THAT(cells, SizeIs(170));
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    const std::string color = std::to_string(i) + ";" + std::to_string(200 - i) + ";7m";
+    EXPECT_TRUE(cells[i + 1].starts_with(color)) << cells[i + 1];
+  }
+}
+
+struct LabelColorCase {
+  const char* rule;
+  Rgb cell;
+  bool white;
+};
+
+class LabelColor : public testing::TestWithParam<LabelColorCase> {};
+
+TEST_P(LabelColor, IsTheOneThatReadsBetter) {
+  const std::string first = Split(TerminalGrid(AllOf(GetParam().cell)), "AA")[0];
+  EXPECT_TRUE(first.ends_with(GetParam().white ? "\x1b[38;2;255;255;255m " : "\x1b[38;2;0;0;0m ")) << first.substr(1);
+}
+
+constexpr auto kLabelColorCases = std::to_array<LabelColorCase>({
+    {"BlackOnWhite", {255, 255, 255}, false},
+    {"WhiteOnBlack", {0, 0, 0}, true},
+    {"BlackOnTheSmallestWin", {200, 255, 200}, false},
+    {"WhiteOnTheBiggestWin", {0, 120, 0}, true},
+    {"WhiteOnTheBiggestLoss", {120, 0, 0}, true},
+    {"WhiteOnFullBlue", {0, 0, 255}, true},
+    {"BlackOnFullGreen", {0, 255, 0}, false},
+    {"WhiteOnFullRed", {255, 0, 0}, true},
+    {"BlackOnTheMiddleGrey", {128, 128, 128}, false},
+    {"WhiteJustBelowTheMiddleGrey", {127, 127, 127}, true},
+});
+
+INSTANTIATE_TEST_SUITE_P(TerminalGrid, LabelColor, testing::ValuesIn(kLabelColorCases),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,267 @@
+#include "tools/companion.h"
+
+#include <CLI/CLI.hpp>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "analysis/analysis_driver.h"
+#include "analysis/quiet_window.h"
+#include "hand/equity_table.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_files.h"
+#include "ranges/range_lists.h"
+#include "ranges/range_summary.h"
+#include "ranges/range_text.h"
+#include "results/results_grid.h"
+#include "shell/expressions.h"
+#include "support/message_boxes.h"
+#include "support/run_time_error.h"
+#include "tools/analysis_output.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::int16_t kCallButton = 0;
+constexpr std::int16_t kRaiseButton = 1;
+constexpr std::int16_t kEquityButton = 2;
+
+// Message boxes on standard error. A message has one button there, and nobody to press it.
+class PrintedMessages final : public MessageBoxes {
+ public:
+  explicit PrintedMessages(std::ostream& errors) : errors_(errors) {}
+
+  MessageAnswer Show(const Message& message) override {
+    errors_ << message.title << ": " << UnixLineEnds(message.text) << '\n';
+    shown_ = true;
+    return message.buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kCancel;
+  }
+
+  [[nodiscard]] bool Shown() const { return shown_; }
+
+ private:
+  std::ostream& errors_;
+  bool shown_ = false;
+};
+
+// The window of a run that has none: only its progress bar is to be seen, drawn over and over on one line.
+class CompanionWindow final : public QuietWindow {
+ public:
+  CompanionWindow(Situation situation, MessageBoxes& messages, const Surroundings& surroundings)
+      : QuietWindow(std::move(situation), messages), surroundings_(surroundings) {}
+  CompanionWindow(const CompanionWindow&) = delete;
+  CompanionWindow(CompanionWindow&&) = delete;
+  CompanionWindow& operator=(const CompanionWindow&) = delete;
+  CompanionWindow& operator=(CompanionWindow&&) = delete;
+  // A run that fails half-way leaves its bar, and the failure's text must not stand behind it.
+  ~CompanionWindow() override { ClearProgress(); }
+
+  void SetProgressPercent(std::string_view caption) override { percent_ = caption; }
+
+  void SetProgressBarWidth(float twips) override {
+    if (!surroundings_.ShowProgress) return;
+    constexpr std::size_t kCharacters = 40;
+    const auto filled = static_cast<std::size_t>(kCharacters * static_cast<double>(twips) / kProgressBarWidth);
+    const std::string bar = std::string(filled, '#') + std::string(kCharacters - filled, ' ');
+    surroundings_.Errors << "\r[" << bar << "] " << percent_ << std::flush;
+    barShows_ = true;
+  }
+
+  void PresentResults(const AnalysisState& /*state*/) override { ClearProgress(); }
+
+ private:
+  void ClearProgress() {
+    if (barShows_) surroundings_.Errors << "\r\x1b[K" << std::flush;
+    barShows_ = false;
+  }
+
+  const Surroundings& surroundings_;
+  std::string percent_;
+  bool barShows_ = false;
+};
+
+struct Request {
+  Situation situation;
+  std::string folder;
+  std::string format{kOutputFormatNames[0]};
+  std::vector<std::string> hands;
+};
+
+ProgramFolder FolderOf(const Request& request, const Surroundings& surroundings) {
+  if (request.folder.empty()) return {surroundings.ProgramFolder};
+  return {request.folder};
+}
+
+// What `read` gives back, nothing where it ends in a run-time error.
+template <typename Read>
+auto Attempt(Read read) -> std::optional<decltype(read())> {
+  try {
+    return read();
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
+// The failure over such a range comes later, and does not know which file it is about.
+void PointOutUnreadable(const std::string& name, const ProgramFolder& folder, std::ostream& errors) {
+  if (Attempt([&] { return SelectedCombos(LoadRangeText(folder, name)); })) return;
+  errors << "The range \"" << name << "\" cannot be read: " << RangeFilePath(folder, name).string()
+         << " is missing, empty or no range file.\n";
+}
+
+int Analyze(std::int16_t button, Request request, const Surroundings& surroundings) {
+  PrintedMessages messages(surroundings.Errors);
+  Situation& situation = request.situation;
+  for (std::string* const amount : {&situation.Pot, &situation.Call, &situation.Shove}) {
+    *amount = EvalTextBox(*amount, messages);
+    if (messages.Shown()) return kRefused;
+  }
+  const ProgramFolder folder = FolderOf(request, surroundings);
+  for (const std::string& name : {situation.Range, situation.CallingRange}) {
+    if (!name.empty()) PointOutUnreadable(name, folder, surroundings.Errors);
+  }
+
+  LoadEquityTable();
+  AnalysisState state;
+  CompanionWindow window(situation, messages, surroundings);
+  RunAnalysis(state, button, window, folder);
+  if (messages.Shown()) return kRefused;
+
+  const OutputFormat format = OutputFormatOf(request.format);
+  const std::string text = AnalysisOutput(format, state, request.hands);
+  if (format == OutputFormat::kPlain && surroundings.ShowColors) {
+    surroundings.Output << TerminalGrid(GridColors(state)) << '\n';
+  }
+  surroundings.Output << text;
+  return kDone;
+}
+
+int Summarize(const Request& request, const Surroundings& surroundings) {
+  const ProgramFolder folder = FolderOf(request, surroundings);
+  PointOutUnreadable(request.situation.Range, folder, surroundings.Errors);
+  surroundings.Output << RangeSummary(LoadRangeText(folder, request.situation.Range)) << '\n';
+  return kDone;
+}
+
+std::string ListingLine(const std::string& file, const ProgramFolder& folder) {
+  const std::string name = RangeNameOfFile(file);
+  const std::string text = LoadRangeText(folder, name);
+  return name + '\t' + SelectionCaption(SelectedCombos(text)) + '\t' + RangeSummary(text) + '\n';
+}
+
+// One file that is no range must not hide the others.
+int ListRanges(const Request& request, const Surroundings& surroundings) {
+  const ProgramFolder folder = FolderOf(request, surroundings);
+  int status = kDone;
+  for (const std::string& file : RangeFolderEntries(folder)) {
+    if (const auto line = Attempt([&] { return ListingLine(file, folder); })) {
+      surroundings.Output << *line;
+      continue;
+    }
+    surroundings.Errors << (RangeFolderPath(folder) / file).string() << " cannot be read, is empty or no range file.\n";
+    status = kFailed;
+  }
+  return status;
+}
+
+std::string CheckLabel(const std::string& label) {
+  if (HandLabel(HandIndex(label)) == label) return {};
+  return "\"" + label + "\" is no starting hand; hands are written as AA, AKs or AKo";
+}
+
+// The command line, with the request that it fills in.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.require_subcommand(0, 1);
+    Situation& situation = request_.situation;
+    AddText(call_, "--pot", situation.Pot, "Everything in the pot, his bet included");
+    AddText(call_, "--call", situation.Call, "What you must put in to call");
+    AddText(call_, "--range", situation.Range, "His range");
+    AddText(raise_, "--pot", situation.Pot, "Everything in the pot");
+    AddText(raise_, "--call", situation.Call, "What you must put in to call, 0 if you are first to act");
+    AddText(raise_, "--shove", situation.Shove, "What he must put in to call your shove");
+    AddText(raise_, "--range", situation.Range, "His range now");
+    AddText(raise_, "--calling-range", situation.CallingRange, "The range he calls your shove with");
+    AddText(equity_, "--range", situation.Range, "His range");
+    AddText(summary_, "--range", situation.Range, "The range");
+    for (CLI::App* const command : {call_, raise_, equity_})
+      AddOutputOptions(command);
+    for (CLI::App* const command : {call_, raise_, equity_, summary_, ranges_}) {
+      command->add_option("--folder", request_.folder, "The program folder that holds \"Ranges\"")->type_name("DIR");
+    }
+  }
+
+  /// kDone, or the exit status with which the program is to end after what has been printed.
+  int Parse(std::span<const std::string> arguments, const Surroundings& surroundings, bool& goOn) {
+    goOn = false;
+    try {
+      app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+      CheckTogether();
+    } catch (const CLI::ParseError& error) {
+      const int status = app_.exit(error, surroundings.Output, surroundings.Errors);
+      return status == 0 ? kDone : kWrongUsage;
+    }
+    goOn = true;
+    return kDone;
+  }
+
+  int Run(const Surroundings& surroundings) {
+    if (call_->parsed()) return Analyze(kCallButton, request_, surroundings);
+    if (raise_->parsed()) return Analyze(kRaiseButton, request_, surroundings);
+    if (equity_->parsed()) return Analyze(kEquityButton, request_, surroundings);
+    if (summary_->parsed()) return Summarize(request_, surroundings);
+    return ListRanges(request_, surroundings);
+  }
+
+ private:
+  static void AddText(CLI::App* command, const char* option, std::string& text, const char* description) {
+    const bool name = std::string_view(option).ends_with("range");
+    command->add_option(option, text, description)->required()->type_name(name ? "NAME" : "TEXT");
+  }
+
+  void AddOutputOptions(CLI::App* command) {
+    const std::vector<std::string> formats(kOutputFormatNames.begin(), kOutputFormatNames.end());
+    command->add_option("--format", request_.format, "plain (default), 2+2, table, json or csv")
+        ->type_name("F")
+        ->check(CLI::IsMember(formats));
+    command->add_option("--hand", request_.hands, "With 2+2: adds the working of one hand; may be repeated")
+        ->type_name("LABEL")
+        ->allow_extra_args(false)
+        ->check(CLI::Validator(CheckLabel, ""));
+  }
+
+  void CheckTogether() const {
+    if (app_.get_subcommands().empty()) {
+      throw CLI::ValidationError("Say what to do: call, raise, equity, summary or ranges");
+    }
+    if (!request_.hands.empty() && OutputFormatOf(request_.format) != OutputFormat::kForum) {
+      throw CLI::ValidationError("--hand goes with --format 2+2 only");
+    }
+  }
+
+  Request request_;
+  CLI::App app_{"Call the all-in, or shove yourself? The answer for all 169 starting hands.", "quillon-cli"};
+  CLI::App* call_ = app_.add_subcommand("call", "What each hand wins or loses by calling an all-in");
+  CLI::App* raise_ = app_.add_subcommand("raise", "What each hand wins or loses by going all in");
+  CLI::App* equity_ = app_.add_subcommand("equity", "The equity of each hand against a range");
+  CLI::App* summary_ = app_.add_subcommand("summary", "The short notation of one range");
+  CLI::App* ranges_ = app_.add_subcommand("ranges", "Every range: name, percent selected, short notation");
+};
+
+}  // namespace
+
+int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings) {
+  CommandLine commandLine;
+  bool goOn = false;
+  const int status = commandLine.Parse(arguments, surroundings, goOn);
+  return goOn ? commandLine.Run(surroundings) : status;
+}
+
+}  // namespace quillon

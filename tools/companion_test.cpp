@@ -1,0 +1,658 @@
+#include "tools/companion.h"
+
+#include <array>
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/analysis_driver.h"
+#include "analysis/quiet_window.h"
+#include "analysis/recording_window.h"
+#include "hand/equity_table.h"
+#include "ranges/range_fixtures.h"
+#include "support/run_time_error.h"
+#include "tools/analysis_output.h"
+
+namespace quillon {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+using testing::StartsWith;
+using Arguments = std::vector<std::string>;
+using Json = nlohmann::json;
+
+struct Outcome {
+  int Status = -1;
+  std::string Output;
+  std::string Errors;
+};
+
+struct Terminal {
+  bool ShowProgress = false;
+  bool ShowColors = false;
+};
+
+// As the program's outermost frame does it: a run-time error ends the run with its text and the status for it.
+Outcome RunIn(const std::filesystem::path& folder, const Arguments& arguments, Terminal terminal = {}) {
+  std::ostringstream output;
+  std::ostringstream errors;
+  Outcome outcome;
+  try {
+    outcome.Status = RunCompanion(arguments, {output, errors, folder, terminal.ShowProgress, terminal.ShowColors});
+  } catch (const RunTimeError& error) {
+    outcome.Status = kFailed;
+    errors << error.what() << '\n';
+  }
+  outcome.Output = output.str();
+  outcome.Errors = errors.str();
+  return outcome;
+}
+
+std::vector<std::string> Split(const std::string& text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  std::size_t start = 0;
+  for (std::size_t at = 0; (at = text.find(separator, start)) != std::string::npos; start = at + separator.size())
+    pieces.push_back(text.substr(start, at - start));
+  pieces.push_back(text.substr(start));
+  return pieces;
+}
+
+// A program's folder with the ranges that the tests play against.
+class CompanionProgram {
+ public:
+  CompanionProgram() {
+    program_.Write("Tight.txt", TextWith("AA KK QQ AKs AKo") + "\r\n");
+    program_.Write("Loose.txt", TextWith("AA KK QQ JJ TT 99 AKs AQs AKo AQo KQs", "88 AJs") + "\r\n");
+    program_.Write("Nothing.txt", TextWith("") + "\r\n");
+  }
+
+  [[nodiscard]] const TemporaryProgram& Files() const { return program_; }
+  [[nodiscard]] const ProgramFolder& Folder() const { return program_.Folder(); }
+  [[nodiscard]] Outcome Run(const Arguments& arguments, Terminal terminal = {}) const {
+    return RunIn(Folder().Path, arguments, terminal);
+  }
+
+ private:
+  TemporaryProgram program_;
+};
+
+// ---- the commands
+
+const Arguments kCall = {"call", "--pot", "150", "--call", "50", "--range", "Tight"};
+const Arguments kRaise = {"raise", "--pot",   "150",   "--call",          "50",   "--shove",
+                          "400",   "--range", "Loose", "--calling-range", "Tight"};
+const Arguments kEquity = {"equity", "--range", "Loose"};
+
+Arguments With(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+struct CommandCase {
+  const char* name;
+  const Arguments* arguments;
+  std::int16_t button;
+  Situation situation;
+};
+
+class EachCommand : public testing::TestWithParam<CommandCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Companion, EachCommand,
+                         testing::Values(CommandCase{"Call", &kCall, 0, {"150", "50", "", "Tight", ""}},
+                                         CommandCase{"Raise", &kRaise, 1, {"150", "50", "400", "Loose", "Tight"}},
+                                         CommandCase{"Equity", &kEquity, 2, {"", "", "", "Loose", ""}}),
+                         [](const auto& entry) { return std::string(entry.param.name); });
+
+// The same run behind the window's button.
+AnalysisState ClickButton(const CommandCase& command, const ProgramFolder& folder) {
+  LoadEquityTable();
+  KeptMessages messages;
+  QuietWindow window(command.situation, messages);
+  AnalysisState state;
+  RunAnalysis(state, command.button, window, folder);
+  return state;
+}
+
+TEST_P(EachCommand, PrintsItsRunInEveryFormat) {
+  const CompanionProgram program;
+  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  for (const std::string_view name : kOutputFormatNames) {
+    const Outcome outcome = program.Run(With(*GetParam().arguments, {"--format", std::string(name)}));
+    EXPECT_EQ(outcome.Status, kDone) << name;
+    EXPECT_EQ(outcome.Errors, "") << name;
+    EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormatOf(name), state, {})) << name;
+  }
+}
+
+TEST_P(EachCommand, PrintsThePlainReportUnlessToldOtherwise) {
+  const CompanionProgram program;
+  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  const Outcome outcome = program.Run(*GetParam().arguments);
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormat::kPlain, state, {}));
+}
+
+TEST_P(EachCommand, AddsTheWorkingOfEachHand) {
+  const CompanionProgram program;
+  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  const std::vector<std::string> hands = {"AKo", "22", "AKo"};
+  const Outcome outcome =
+      program.Run(With(*GetParam().arguments, {"--hand", "AKo", "--format", "2+2", "--hand", "22", "--hand", "AKo"}));
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormat::kForum, state, hands));
+}
+
+TEST_P(EachCommand, TakesTheFolderThatIsNamed) {
+  const TemporaryProgram other;
+  const CompanionProgram program;
+  const Outcome own = program.Run(*GetParam().arguments);
+  const Outcome named = RunIn(other.Folder().Path, With(*GetParam().arguments, {"--folder", program.Folder().Path}));
+  EXPECT_EQ(own.Status, kDone);
+  EXPECT_EQ(named.Status, kDone);
+  EXPECT_EQ(named.Output, own.Output);
+}
+
+TEST(Summary, IsTheShortNotation) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run({"summary", "--range", "Loose"});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Output, "Full: 99+,AQs+,KQs,AQo+ | Half: 88,AJs\n");
+  EXPECT_EQ(outcome.Errors, "");
+}
+
+TEST(Summary, OfAnEmptyRangeIsNone) {
+  const CompanionProgram program;
+  EXPECT_EQ(program.Run({"summary", "--range", "Nothing"}).Output, "[None]\n");
+}
+
+TEST(Help, IsPrintedOnStandardOutput) {
+  for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"-h"}}) {
+    const Outcome outcome = RunIn("", arguments);
+    EXPECT_EQ(outcome.Status, kDone);
+    EXPECT_EQ(outcome.Errors, "");
+    for (const char* command : {"call", "raise", "equity", "summary", "ranges"})
+      EXPECT_THAT(outcome.Output, HasSubstr(command));
+  }
+}
+
+TEST(Help, OfACommandNamesItsOptions) {
+  const Outcome outcome = RunIn("", {"raise", "--help"});
+  EXPECT_EQ(outcome.Status, kDone);
+  for (const char* option :
+       {"--pot", "--call", "--shove", "--range", "--calling-range", "--folder", "--format", "--hand"})
+    EXPECT_THAT(outcome.Output, HasSubstr(option));
+}
+
+// ---- the list of ranges
+
+TEST(Ranges, AreListedByNameWithPercentAndNotation) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run({"ranges"});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Errors, "");
+  EXPECT_EQ(outcome.Output,
+            "Loose\t5.8% selected\tFull: 99+,AQs+,KQs,AQo+ | Half: 88,AJs\n"
+            "Nothing\t0% selected\t[None]\n"
+            "Tight\t2.6% selected\tQQ+,AKs,AKo\n");
+}
+
+TEST(Ranges, OfAnEmptyFolderAreNone) {
+  const TemporaryProgram program;
+  const Outcome outcome = RunIn(program.Folder().Path, {"ranges"});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Output + outcome.Errors, "");
+}
+
+TEST(Ranges, WithoutTheirFolderAreARunTimeError) {
+  const Outcome outcome = RunIn("/nowhere", {"ranges"});
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_EQ(outcome.Errors, "Run-time error '76': Path not found (/nowhere/Ranges: No such file or directory)\n");
+}
+
+TEST(Ranges, BehindAFileInPlaceOfTheirFolderAreARunTimeError) {
+  const TemporaryProgram program;
+  std::filesystem::remove(RangeFolderPath(program.Folder()));
+  std::ofstream(RangeFolderPath(program.Folder())) << "no folder";
+  const Outcome outcome = RunIn(program.Folder().Path, {"ranges"});
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_THAT(outcome.Errors, HasSubstr((program.Folder().Path / "Ranges").string()));
+}
+
+TEST(Ranges, InUtf8AreListedAsTheyAreWritten) {
+  const TemporaryProgram program;
+  program.Write("Überfall am Fluß.txt", TextWith("AA"));
+  EXPECT_EQ(RunIn(program.Folder().Path, {"ranges"}).Output, "Überfall am Fluß\t0.5% selected\tAA\n");
+}
+
+struct BadFileCase {
+  const char* rule;
+  const char* file;
+  const char* content;
+};
+
+class BadFile : public testing::TestWithParam<BadFileCase> {};
+
+TEST_P(BadFile, IsPointedOutAndTheOthersAreListed) {
+  const TemporaryProgram program;
+  program.Write("Aces.txt", TextWith("AA"));
+  program.Write(GetParam().file, GetParam().content);
+  program.Write("Kings.txt", TextWith("KK"));
+  const Outcome outcome = RunIn(program.Folder().Path, {"ranges"});
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_EQ(outcome.Output, "Aces\t0.5% selected\tAA\nKings\t0.5% selected\tKK\n");
+  EXPECT_EQ(outcome.Errors,
+            program.RangeFile(GetParam().file).string() + " cannot be read, is empty or no range file.\n");
+}
+
+constexpr auto kBadFiles = std::to_array<BadFileCase>({
+    {"Empty", "Bad.txt", ""},
+    {"LineEndAlone", "Bad.txt", "\r\n"},
+    {"NoiseWithoutABracket", "Bad.txt", "\x01\xff\x80 no range at all"},
+    {"NoiseWithABracket", "Bad.txt", "a) no range at all"},
+    {"LabelWithoutAWeight", "Bad.txt", "KK (1), AA"},
+    {"NameTooShortForAnExtension", "bad", "AA (1), "},
+    {"OtherExtension", "Bad.html", "AA (1), "},
+});
+
+INSTANTIATE_TEST_SUITE_P(Ranges, BadFile, testing::ValuesIn(kBadFiles),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+// ---- ranges that cannot be read
+
+struct UnreadableCase {
+  const char* rule;
+  const char* content;  // null where there is no file
+};
+
+class Unreadable : public testing::TestWithParam<UnreadableCase> {};
+
+TEST_P(Unreadable, IsNamedBeforeTheRunFailsOverIt) {
+  const CompanionProgram program;
+  if (GetParam().content != nullptr) program.Files().Write("Bad one.txt", GetParam().content);
+  const std::string complaint =
+      "The range \"Bad one\" cannot be read: " + program.Files().RangeFile("Bad one.txt").string() +
+      " is missing, empty or no range file.\n";
+  for (const Arguments& arguments :
+       {Arguments{"call", "--pot", "150", "--call", "50", "--range", "Bad one"},
+        Arguments{"raise", "--pot", "9", "--call", "", "--shove", "9", "--range", "Bad one", "--calling-range",
+                  "Tight"},
+        Arguments{"raise", "--pot", "9", "--call", "", "--shove", "9", "--range", "Tight", "--calling-range",
+                  "Bad one"},
+        Arguments{"equity", "--range", "Bad one"}, Arguments{"summary", "--range", "Bad one"}}) {
+    const Outcome outcome = program.Run(arguments);
+    EXPECT_EQ(outcome.Status, kFailed) << arguments[0];
+    EXPECT_EQ(outcome.Output, "") << arguments[0];
+    EXPECT_THAT(outcome.Errors, StartsWith(complaint + "Run-time error '")) << arguments[0];
+  }
+}
+
+constexpr auto kUnreadable = std::to_array<UnreadableCase>({
+    {"Missing", nullptr},
+    {"Empty", ""},
+    {"LineEndAlone", "\r\n"},
+    {"Noise", "\x01\xff\x80 no range at all"},
+    {"NoiseWithABracket", "a) no range at all"},
+    {"LabelWithoutAWeight", "KK (1), AA"},
+});
+
+INSTANTIATE_TEST_SUITE_P(Companion, Unreadable, testing::ValuesIn(kUnreadable),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+TEST(UnreadableRange, BothRangesOfAShoveArePointedOut) {
+  const CompanionProgram program;
+  const Outcome outcome =
+      program.Run({"raise", "--pot", "9", "--call", "", "--shove", "9", "--range", "This", "--calling-range", "That"});
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_THAT(outcome.Errors, HasSubstr("The range \"This\" cannot be read"));
+  EXPECT_THAT(outcome.Errors, HasSubstr("The range \"That\" cannot be read"));
+}
+
+// A class that a text does not mention reads the number before the first bracket, which here is none.
+TEST(UnreadableRange, NoiseWithALateBracketReadsAsAnEmptyRange) {
+  const CompanionProgram program;
+  program.Files().Write("Noise.txt", "some noise ) and more of it");
+  const Outcome equity = program.Run({"equity", "--range", "Noise"});
+  EXPECT_EQ(equity.Status, kRefused);
+  EXPECT_EQ(equity.Errors, "Empty Range: Your opponent's range is empty. Please select another range.\n");
+  const Outcome summary = program.Run({"summary", "--range", "Noise"});
+  EXPECT_EQ(summary.Status, kDone);
+  EXPECT_EQ(summary.Output, "[None]\n");
+}
+
+TEST(UnreadableRange, RangeInAFolderWithoutRangesNamesItsFile) {
+  const Outcome outcome = RunIn("/nowhere", kCall);
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_THAT(outcome.Errors, HasSubstr("/nowhere/Ranges/Tight.txt is missing"));
+}
+
+// ---- refusals
+
+struct RefusalCase {
+  const char* rule;
+  Arguments arguments;
+  const char* message;
+};
+
+class Refusal : public testing::TestWithParam<RefusalCase> {};
+
+TEST_P(Refusal, PrintsTitleAndMessageAndNothingElse) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(GetParam().arguments, {.ShowProgress = true, .ShowColors = true});
+  EXPECT_EQ(outcome.Status, kRefused);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_EQ(outcome.Errors, std::string(GetParam().message) + "\n");
+}
+
+Arguments Call(const char* pot, const char* call, const char* range = "Tight") {
+  return {"call", "--pot", pot, "--call", call, "--range", range};
+}
+
+Arguments Raise(const char* pot, const char* call, const char* shove, const char* range = "Loose",
+                const char* callingRange = "Tight") {
+  return {"raise", "--pot", pot, "--call", call, "--shove", shove, "--range", range, "--calling-range", callingRange};
+}
+
+constexpr const char* kBadSum =
+    "Problem: There was a problem processing your expression: \n\n"
+    "Only addition (+) and subtract (-) are supported";
+
+std::vector<RefusalCase> Refusals() {
+  return {
+      {"CallWithoutRange", Call("150", "50", ""), "Missing Range: Please choose a range for your opponent."},
+      {"CallAgainstNoHands", Call("150", "50", "Nothing"),
+       "No Hands in Range: No hands in your opponent's current range."},
+      {"CallOfThePot", Call("100", "100"),
+       "Pot Size Error: The pot size must be greater than the amount you have to call."},
+      {"CallOfNothingIntoNothing", Call("0", "0"),
+       "Pot Size Error: The pot size must be greater than the amount you have to call."},
+      {"CallIntoAWord", Call("abc", "50"),
+       "Pot Size Error: The pot size must be greater than the amount you have to call."},
+      {"CallIntoNoPot", Call("0", "-5"), "Pot Size Error: The pot size must be greater than zero."},
+      {"CallOfNothing", Call("150", "0"), "Call Size Error: The amount to call must be greater than zero."},
+      {"CallOfLessThanNothing", Call("150", "-5"), "Call Size Error: The amount to call must be greater than zero."},
+      {"CallOfAWord", Call("150", "abc"), "Call Size Error: The amount to call must be greater than zero."},
+      {"CallIntoAPotWithLetters", Call("150x", "50"), "Pot Size Error: The pot size contains non-numeric characters"},
+      {"CallWithLetters", Call("150", "50x"), "Call Size Error: The call size contains non-numeric characters"},
+
+      {"RaiseWithoutRange", Raise("150", "50", "400", ""),
+       "Missing Range: You must assign or create a range of hands for your opponent."},
+      {"RaiseWithoutCallingRange", Raise("150", "50", "400", "Loose", ""),
+       "Missing Range: You must assign or create a range of hands for your opponent to call with."},
+      {"RaiseOfNoPot", Raise("0", "50", "400"), "Pot Size: The pot size must be greater than zero."},
+      {"RaiseAfterANegativeCall", Raise("150", "-1", "400"),
+       "Call Amount: The amount you must call cannot be a negative number."},
+      {"ShoveOfNothing", Raise("150", "50", "0"),
+       "Pot Size: The amount your opponent must call must be greater than zero."},
+      {"ShoveOfLessThanNothing", Raise("150", "50", "-400"),
+       "Pot Size: The amount your opponent must call must be greater than zero."},
+      {"RaiseOfAPotWithLetters", Raise("150x", "50", "400"), "Pot Size: The pot size contains non-numeric characters"},
+      {"RaiseAfterACallWithLetters", Raise("150", "50x", "400"),
+       "Call Size: The call size contains illegal characters"},
+      {"ShoveWithLetters", Raise("150", "50", "400x"),
+       "Shove Size: The amount your opponent must call when you shove contains illegal characters."},
+
+      {"EquityWithoutRange", {"equity", "--range", ""}, "Select Range: Please select a range for your opponent."},
+      {"EquityAgainstNoHands",
+       {"equity", "--range", "Nothing"},
+       "Empty Range: Your opponent's range is empty. Please select another range."},
+
+      {"SumWithBlanks", Call("=1 + 2", "1"), kBadSum},
+      {"SumWithDollars", Call("150", "=$5"), kBadSum},
+      {"Product", Raise("150", "50", "=2*200"), kBadSum},
+      {"FirstOfSeveralBadSums", Raise("=a", "=b", "=c"), kBadSum},
+      {"SumThatComesToTooLittle", Call("150", "=5-5"),
+       "Call Size Error: The amount to call must be greater than zero."},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, Refusal, testing::ValuesIn(Refusals()),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+// ---- amounts
+
+struct AmountCase {
+  const char* rule;
+  const char* text;
+  double value;
+};
+
+class Amount : public testing::TestWithParam<AmountCase> {};
+
+TEST_P(Amount, IsTakenAsItsBoxTakesIt) {
+  const CompanionProgram program;
+  const char* const text = GetParam().text;
+  const Outcome outcome = program.Run(With(Raise(text, text, text), {"--format", "json"}));
+  ASSERT_EQ(outcome.Status, kDone) << outcome.Errors;
+  const Json object = Json::parse(outcome.Output);
+  for (const char* amount : {"pot", "call", "shove"})
+    EXPECT_EQ(object[amount].get<double>(), GetParam().value) << amount;
+}
+
+constexpr auto kAmounts = std::to_array<AmountCase>({
+    {"WholeNumber", "150", 150},
+    {"Fraction", "12.5", 12.5},
+    {"Dollars", "$35", 35},
+    {"Sum", "=735+220-178", 777},
+    {"SumOfFractions", "=.5+.5", 1},
+    {"SumWithASignInFront", "=+5", 5},
+    {"SumThatEndsInASign", "=5+", 5},
+    {"CommaEndsTheNumber", "1,000", 1},
+    {"Exponent", "1e3", 1000},
+    {"Blanks", " 7 ", 7},
+});
+
+INSTANTIATE_TEST_SUITE_P(Companion, Amount, testing::ValuesIn(kAmounts),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+TEST(Amounts, GoToTheirOwnPlaces) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(With(Raise("=100+50", "$25", "=400"), {"--format", "json"}));
+  ASSERT_EQ(outcome.Status, kDone) << outcome.Errors;
+  const Json object = Json::parse(outcome.Output);
+  EXPECT_EQ(object["pot"], 150);
+  EXPECT_EQ(object["call"], 25);
+  EXPECT_EQ(object["shove"], 400);
+}
+
+TEST(Amounts, OfNoCallBeforeAShoveAreZero) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(With(Raise("150", "", "400"), {"--format", "json"}));
+  ASSERT_EQ(outcome.Status, kDone) << outcome.Errors;
+  EXPECT_EQ(Json::parse(outcome.Output)["call"], 0);
+}
+
+TEST(Amounts, BelowZeroMayFollowTheirOptionOrStickToIt) {
+  const CompanionProgram program;
+  const Arguments apart = {"call", "--pot", "150", "--call", "-5", "--range", "Tight"};
+  const Arguments joined = {"call", "--pot=150", "--call=-5", "--range=Tight"};
+  for (const Arguments& arguments : {apart, joined}) {
+    const Outcome outcome = program.Run(arguments);
+    EXPECT_EQ(outcome.Status, kRefused);
+    EXPECT_EQ(outcome.Errors, "Call Size Error: The amount to call must be greater than zero.\n");
+  }
+}
+
+TEST(Amounts, TooLargeForTheBestHandAreARunTimeError) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(With(Call("4e9", "3e9"), {"--format", "csv"}));
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_EQ(outcome.Errors, "Run-time error '6': Overflow\n");
+}
+
+// ---- names of ranges
+
+class RangeName : public testing::TestWithParam<const char*> {};
+
+TEST_P(RangeName, IsTakenAsItStands) {
+  const std::string name = GetParam();
+  const TemporaryProgram program;
+  program.Write(name + ".txt", TextWith("AA"));
+  const Outcome summary = RunIn(program.Folder().Path, {"summary", "--range", name});
+  EXPECT_EQ(summary.Status, kDone) << summary.Errors;
+  EXPECT_EQ(summary.Output, "AA\n");
+  const Outcome equity = RunIn(program.Folder().Path, {"equity", "--range", name, "--format", "json"});
+  ASSERT_EQ(equity.Status, kDone) << equity.Errors;
+  EXPECT_EQ(Json::parse(equity.Output)["range"], name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, RangeName,
+                         testing::Values("Aces", "-", "-5", "-tight", "--range", "--", "[Aces, Kings]", "{A}", "a=b",
+                                         "\"quoted\"", "'single'", "100% %s", "two  blanks", " blank in front",
+                                         "Überfall ½", "call", "#1", "x:y", "100,000"));
+
+// ---- wrong usage
+
+struct UsageCase {
+  const char* rule;
+  Arguments arguments;
+  const char* complaint;
+};
+
+class WrongUsage : public testing::TestWithParam<UsageCase> {};
+
+TEST_P(WrongUsage, IsToldWithItsStatus) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(GetParam().arguments);
+  EXPECT_EQ(outcome.Status, kWrongUsage);
+  EXPECT_EQ(outcome.Output, "");
+  EXPECT_THAT(outcome.Errors, HasSubstr(GetParam().complaint));
+  EXPECT_THAT(outcome.Errors, HasSubstr("--help"));
+}
+
+std::vector<UsageCase> WrongUsages() {
+  return {
+      {"NoCommand", {}, "Say what to do: call, raise, equity, summary or ranges"},
+      {"UnknownCommand", {"fold"}, "fold"},
+      {"TwoCommands", With(kEquity, {"ranges"}), "ranges"},
+      {"UnknownOption", With(kEquity, {"--quick"}), "--quick"},
+      {"OptionBeforeTheCommand", {"--range", "Loose", "equity"}, "--range"},
+      {"StrayWord", With(kEquity, {"Tight"}), "Tight"},
+      {"CallWithoutPot", {"call", "--call", "50", "--range", "Tight"}, "--pot is required"},
+      {"CallWithoutCall", {"call", "--pot", "150", "--range", "Tight"}, "--call is required"},
+      {"CallWithoutRange", {"call", "--pot", "150", "--call", "50"}, "--range is required"},
+      {"RaiseWithoutShove",
+       {"raise", "--pot", "150", "--call", "50", "--range", "Loose", "--calling-range", "Tight"},
+       "--shove is required"},
+      {"RaiseWithoutCallingRange",
+       {"raise", "--pot", "150", "--call", "50", "--shove", "400", "--range", "Loose"},
+       "--calling-range is required"},
+      {"EquityWithoutRange", {"equity"}, "--range is required"},
+      {"SummaryWithoutRange", {"summary"}, "--range is required"},
+      {"EquityTakesNoPot", With(kEquity, {"--pot", "150"}), "--pot"},
+      {"CallTakesNoShove", With(kCall, {"--shove", "400"}), "--shove"},
+      {"SummaryTakesNoFormat", {"summary", "--range", "Tight", "--format", "csv"}, "--format"},
+      {"RangesTakeNoRange", {"ranges", "--range", "Tight"}, "--range"},
+      {"RangeWithoutItsName", {"equity", "--range"}, "--range"},
+      {"RangeGivenTwice", With(kEquity, {"--range", "Tight"}), "--range"},
+      {"UnknownFormat", With(kEquity, {"--format", "xml"}), "--format: xml not in {plain,2+2,table,json,csv}"},
+      {"FormatInCapitals", With(kEquity, {"--format", "JSON"}), "--format: JSON not in"},
+      {"FormatWithoutItsName", With(kEquity, {"--format"}), "--format"},
+      {"HandThatIsNone", With(kEquity, {"--format", "2+2", "--hand", "AAs"}), "\"AAs\" is no starting hand"},
+      {"HandWithRanksTurned", With(kEquity, {"--format", "2+2", "--hand", "KAs"}), "\"KAs\" is no starting hand"},
+      {"HandInSmallLetters", With(kEquity, {"--format", "2+2", "--hand", "aa"}), "\"aa\" is no starting hand"},
+      {"HandWithoutSuitedness", With(kEquity, {"--format", "2+2", "--hand", "AK"}), "\"AK\" is no starting hand"},
+      {"HandWithoutLabel", With(kEquity, {"--format", "2+2", "--hand", ""}), "\"\" is no starting hand"},
+      {"SecondHandThatIsNone", With(kEquity, {"--format", "2+2", "--hand", "AA", "--hand", "None"}),
+       "\"None\" is no starting hand"},
+      {"TwoHandsBehindOneOption", With(kEquity, {"--format", "2+2", "--hand", "AA", "KK"}), "KK"},
+      {"HandInThePlainReport", With(kEquity, {"--hand", "AA"}), "--hand goes with --format 2+2 only"},
+      {"HandInJson", With(kEquity, {"--format", "json", "--hand", "AA"}), "--hand goes with --format 2+2 only"},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, WrongUsage, testing::ValuesIn(WrongUsages()),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+// ---- on a terminal
+
+constexpr std::string_view kClearLine = "\r\x1b[K";
+
+TEST_P(EachCommand, ShowsItsProgressWhenAsked) {
+  const CompanionProgram program;
+  const Outcome quiet = program.Run(*GetParam().arguments);
+  const Outcome outcome = program.Run(*GetParam().arguments, {.ShowProgress = true});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Output, quiet.Output);
+  EXPECT_EQ(quiet.Errors, "");
+
+  const auto frames = Split(outcome.Errors, "\r[");
+  ASSERT_THAT(frames, SizeIs(170));  // nothing before the first of the 169
+  EXPECT_EQ(frames[0], "");
+  EXPECT_EQ(frames[1], std::string(40, ' ') + "] 1%");
+  EXPECT_EQ(frames[85], std::string(20, '#') + std::string(20, ' ') + "] 50%");
+  EXPECT_EQ(frames[169], std::string(40, '#') + "] 100%" + std::string(kClearLine));
+}
+
+// At AKs, the second class, the negative weights cancel out to nothing, and a share of nothing is a division by zero.
+TEST(Progress, IsClearedBeforeTheTextOfAFailureHalfWay) {
+  const TemporaryProgram program;
+  std::string now = TextWith("AA");
+  std::string calls = now;
+  now.replace(now.find("KK (0)"), 6, "KK (-1)");
+  calls.replace(calls.find("KK (0)"), 6, "KK (-2)");
+  program.Write("Now.txt", now);
+  program.Write("Calls.txt", calls);
+  const Outcome outcome =
+      RunIn(program.Folder().Path, Raise("150", "50", "400", "Now", "Calls"), {.ShowProgress = true});
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_EQ(outcome.Errors, "\r[" + std::string(40, ' ') + "] 1%" + std::string(kClearLine) +
+                                "Run-time error '11': Division by zero\n");
+}
+
+TEST_P(EachCommand, ShowsThePlainReportBelowTheGridInColors) {
+  const CompanionProgram program;
+  const Arguments& arguments = *GetParam().arguments;
+  const std::string report = program.Run(arguments).Output;
+  const Outcome outcome = program.Run(arguments, {.ShowColors = true});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Errors, "");
+  ASSERT_THAT(outcome.Output, EndsWith("\x1b[0m\n\n" + report));
+
+  const std::string grid = outcome.Output.substr(0, outcome.Output.size() - report.size());
+  EXPECT_THAT(Split(grid, "\n"), SizeIs(15));  // 13 rows, a blank line, and nothing behind the last line end
+  const auto cells = Split(grid, "\x1b[48;2;");
+  const auto rows = Split(program.Run(With(arguments, {"--format", "csv"})).Output, "\n");
+  ASSERT_THAT(cells, SizeIs(170));
+  for (std::size_t i = 1; i < cells.size(); ++i) {
+    const auto columns = Split(rows[i], ",");
+    const auto color = static_cast<unsigned>(std::stoul(columns[5].substr(1), nullptr, 16));
+    const std::string channels = std::to_string(color >> 16U) + ";" + std::to_string(color >> 8U & 0xFFU) + ";" +
+                                 std::to_string(color & 0xFFU) + "m";
+    EXPECT_THAT(cells[i], StartsWith(channels)) << columns[0];
+    EXPECT_THAT(cells[i], HasSubstr(" " + columns[0] + " ")) << columns[0];
+  }
+}
+
+TEST(Terminal, GetsNoGridInOtherFormatsThanThePlainOne) {
+  const CompanionProgram program;
+  for (const char* format : {"2+2", "table", "json", "csv"}) {
+    const Outcome outcome = program.Run(With(kEquity, {"--format", format}), {.ShowColors = true});
+    EXPECT_EQ(outcome.Status, kDone) << format;
+    EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b"))) << format;
+  }
+}
+
+TEST(Terminal, GetsNoGridAndNoProgressWithAListOrASummary) {
+  const CompanionProgram program;
+  for (const Arguments& arguments : {Arguments{"ranges"}, Arguments{"summary", "--range", "Tight"}}) {
+    const Outcome outcome = program.Run(arguments, {.ShowProgress = true, .ShowColors = true});
+    EXPECT_EQ(outcome.Status, kDone);
+    EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b")));
+    EXPECT_EQ(outcome.Errors, "");
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,42 @@
+// quillon-cli: the command-line companion's outermost frame.
+
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+#include <vector>
+
+#include "support/run_time_error.h"
+#include "tools/companion.h"
+
+namespace {
+
+bool TerminalTakesColors() {
+  const char* const promise = std::getenv("COLORTERM");  // NOLINT(concurrency-mt-unsafe): there is one thread
+  const std::string_view name = promise == nullptr ? "" : promise;
+  return isatty(STDOUT_FILENO) != 0 && (name == "truecolor" || name == "24bit");
+}
+
+int Run(const std::vector<std::string>& arguments) {
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
+  const quillon::Surroundings surroundings{std::cout, std::cerr, program.parent_path(), isatty(STDERR_FILENO) != 0,
+                                           TerminalTakesColors()};
+  const int status = quillon::RunCompanion(arguments, surroundings);
+  // An answer that did not get out is no answer.
+  if (!std::cout.flush()) throw quillon::RunTimeError(quillon::RunTimeFault::kDeviceError, "standard output");
+  return status;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  try {
+    return Run(std::vector<std::string>(arguments + 1, arguments + count));
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return quillon::kFailed;
+  }
+}
