@@ -1,0 +1,67 @@
+#pragma once
+
+// What a fuzz target is made of. A target is one function that takes any bytes and ends the process if a rule does not
+// hold for them. libFuzzer calls it with bytes that it makes up; "fuzz/replay_main.cpp" calls it with the files of the
+// target's corpus, so that what has been found once is tried again with every compiler.
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+/// The target: the one function of this name in each program. Gives back 0.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace quillon {
+
+/// Ends the process, with the rule on standard error, if it does not hold.
+inline void Require(bool holds, const char* rule) {
+  if (holds) return;
+  static_cast<void>(std::fputs("broken rule: ", stderr));
+  static_cast<void>(std::fputs(rule, stderr));
+  static_cast<void>(std::fputs("\n", stderr));
+  std::abort();
+}
+
+/// The bytes of one run, taken from the front. What is used up reads as 0.
+class FuzzInput {
+ public:
+  FuzzInput(const std::uint8_t* data, std::size_t size)
+      : rest_(reinterpret_cast<const char*>(data), size) {}  // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+
+  /// The next byte, brought below `limit`.
+  std::size_t TakeBelow(std::size_t limit) {
+    if (rest_.empty()) return 0;
+    const auto byte = static_cast<unsigned char>(rest_.front());
+    rest_.remove_prefix(1);
+    return byte % limit;
+  }
+
+  /// The next eight bytes as they lie in memory, or as many as there are.
+  double TakeDouble() {
+    double value = 0;
+    if (rest_.empty()) return value;
+    const std::size_t count = std::min(sizeof value, rest_.size());
+    std::memcpy(&value, rest_.data(), count);
+    rest_.remove_prefix(count);
+    return value;
+  }
+
+  /// At most the next `count` bytes.
+  std::string_view TakeText(std::size_t count) {
+    const std::string_view text = rest_.substr(0, count);
+    rest_.remove_prefix(text.size());
+    return text;
+  }
+
+  /// All bytes that are left.
+  [[nodiscard]] std::string_view Rest() const { return rest_; }
+
+ private:
+  std::string_view rest_;
+};
+
+}  // namespace quillon

@@ -1,0 +1,64 @@
+// Runs a fuzz target over the files of the folders named on the command line. A run over no file at all is a failure:
+// it would say nothing.
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <span>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "fuzz/fuzz_target.h"
+
+namespace quillon {
+namespace {
+
+std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& folder) {
+  std::vector<std::filesystem::path> files;
+  for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.is_regular_file()) files.push_back(entry.path());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+void Replay(const std::filesystem::path& file) {
+  std::ostringstream content;
+  content << std::ifstream(file, std::ios::binary).rdbuf();
+  const std::string text = content.str();
+  std::vector<std::uint8_t> bytes;  // of the very size, so that a read beyond the end is seen
+  bytes.reserve(text.size());
+  for (const char c : text)
+    bytes.push_back(static_cast<std::uint8_t>(c));
+  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+}
+
+// Gives back the number of files.
+std::size_t ReplayFolders(std::span<char*> folders) {
+  std::size_t count = 0;
+  for (const char* const folder : folders) {
+    for (const std::filesystem::path& file : FilesOf(folder)) {
+      std::puts(file.c_str());
+      Replay(file);
+      ++count;
+    }
+  }
+  return count;
+}
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argumentCount, char** arguments) {
+  try {
+    const std::span<char*> all(arguments, static_cast<std::size_t>(argumentCount));
+    if (quillon::ReplayFolders(all.subspan(1)) > 0) return 0;
+    static_cast<void>(std::fputs("no corpus files\n", stderr));
+  } catch (const std::exception& error) {
+    static_cast<void>(std::fputs(error.what(), stderr));
+  }
+  return 1;
+}
