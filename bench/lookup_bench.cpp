@@ -1,0 +1,100 @@
+// The single steps: one lookup in the equity table beside a bare scan of the bytes that it has to pass, one weight read
+// from a range text, one dealt range, and the loading of the table. Each lookup benchmark walks all pairs of classes,
+// so that a figure is the mean over near and far columns.
+
+#include <array>
+#include <benchmark/benchmark.h>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "analysis/dealt_range.h"
+#include "analysis/plain_reference.h"
+#include "hand/equity_table.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+#include "support/byte_scan.h"
+
+namespace quillon {
+namespace {
+
+// The table is loaded once in a program's life, so this comes first and is timed once.
+void EquityTableLoading(benchmark::State& timing) {
+  for (auto step : timing) {
+    LoadEquityTable();
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(EquityTableLoading)->Unit(benchmark::kMicrosecond)->Iterations(1);
+
+constexpr std::size_t kPairs = std::size_t{kHandClassCount} * kHandClassCount;
+
+template <typename Lookup>
+void ForEachPair(benchmark::State& timing, Lookup lookup) {
+  LoadEquityTable();
+  for (auto step : timing) {
+    for (std::int16_t i = 0; i < kHandClassCount; ++i) {
+      for (std::int16_t j = 0; j < kHandClassCount; ++j)
+        benchmark::DoNotOptimize(lookup(i, j));
+    }
+  }
+  timing.counters["each"] = benchmark::Counter(
+      static_cast<double>(kPairs), benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void HandEquityLookup(benchmark::State& timing) {
+  ForEachPair(timing, [](std::int16_t i, std::int16_t j) { return HandEquity(HandLabel(i), HandLabel(j)); });
+}
+BENCHMARK(HandEquityLookup);
+
+// The floor under a lookup: every byte before the field is looked at once, 128 at a time, and nothing else is done.
+void BareScan(benchmark::State& timing) {
+  LoadEquityTable();
+  std::vector<std::array<std::size_t, kHandClassCount>> starts(kHandClassCount);
+  for (std::size_t i = 0; i < kHandClassCount; ++i) {
+    for (std::size_t j = 1; j < kHandClassCount; ++j)
+      starts[i][j] = FindNthByte(EquityRows()[i], ' ', j - 1) + 1;
+  }
+  ForEachPair(timing, [&starts](std::int16_t i, std::int16_t j) {
+    const auto row = static_cast<std::size_t>(i);
+    const std::string_view passed =
+        std::string_view(EquityRows()[row]).substr(0, starts[row][static_cast<std::size_t>(j)]);
+    return FindNthByte(passed, '#', 0);
+  });
+}
+BENCHMARK(BareScan);
+
+void HandEquityPlain(benchmark::State& timing) {
+  ForEachPair(timing, [](std::int16_t i, std::int16_t j) {
+    return plain::HandEquity(plain::Labels()[static_cast<std::size_t>(i)],
+                             plain::Labels()[static_cast<std::size_t>(j)]);
+  });
+}
+BENCHMARK(HandEquityPlain)->Iterations(1);
+
+std::string FullRangeText() {
+  std::array<double, kHandClassCount> weights{};
+  weights.fill(1);
+  return RangeTextOf(weights);
+}
+
+void WeightRead(benchmark::State& timing) {
+  const std::string text = FullRangeText();
+  for (auto step : timing) {
+    for (std::int16_t i = 0; i < kHandClassCount; ++i)
+      benchmark::DoNotOptimize(RangeWeightOf(text, HandLabel(i)));
+  }
+  timing.counters["each"] =
+      benchmark::Counter(kHandClassCount, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(WeightRead);
+
+void DealtRange(benchmark::State& timing) {
+  std::string text = FullRangeText();
+  for (auto step : timing)
+    benchmark::DoNotOptimize(DealRange({}, "Everything", "As", "Ac", text));
+}
+BENCHMARK(DealtRange)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace quillon
