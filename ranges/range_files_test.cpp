@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <span>
+#include <string>
 #include <sys/stat.h>
 #include <vector>
 
@@ -73,6 +75,29 @@ TEST(SaveRangeText, LeavesNothingButTheFile) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(program.Folder().Path))
     files += entry.is_regular_file() ? 1 : 0;
   EXPECT_EQ(files, 1);
+}
+
+TEST(SaveRangeText, WritesItsScratchFileWhereNoListShowsIt) {
+  class Watching : public FileCalls {
+   public:
+    int Open(const std::string& path, int flags, mode_t mode) override {
+      if ((flags & O_CREAT) != 0) made.emplace_back(path);
+      return SystemFileCalls().Open(path, flags, mode);
+    }
+    ssize_t Read(int file, std::span<char> buffer) override { return SystemFileCalls().Read(file, buffer); }
+    ssize_t Write(int file, std::string_view bytes) override { return SystemFileCalls().Write(file, bytes); }
+    int Sync(int file) override { return SystemFileCalls().Sync(file); }
+    int Close(int file) override { return SystemFileCalls().Close(file); }
+    int Rename(const std::string& from, const std::string& to) override { return SystemFileCalls().Rename(from, to); }
+    int Unlink(const std::string& path) override { return SystemFileCalls().Unlink(path); }
+
+    std::vector<std::filesystem::path> made;
+  };
+  const TemporaryProgram program;
+  Watching calls;
+  SaveRangeText({program.Folder().Path, &calls}, "x", "AA (1), ");
+  ASSERT_EQ(calls.made.size(), 1U);
+  EXPECT_EQ(calls.made[0].parent_path(), program.Folder().Path);
 }
 
 TEST(SaveRangeText, NameThatNoFileCanHaveIsFatal) {

@@ -1,9 +1,9 @@
 #pragma once
 
 // The shades of the results grid: one look shows which starting hands make money and how much. A cell's fraction is its
-// value measured against the best (or, for a loss, the worst) value of the grid; where equity alone was asked for, it is
-// the place of the cell's equity between the lowest and the highest. So it runs from 0 to about 1, and the shades move in
-// steps of 0.05 of it: twenty for wins and losses, fifteen for equity, whose ramp ends at three quarters.
+// value measured against the best (or, for a loss, the worst) value of the grid; where equity alone was asked for, it
+// is the place of the cell's equity between the lowest and the highest. So it runs from 0 to about 1, and the shades
+// move in steps of 0.05 of it: twenty for wins and losses, fifteen for equity, whose ramp ends at three quarters.
 //
 // The step is floor(fraction / 0.05) in 64-bit floats, taken as the division gives it: 0.15 / 0.05 is a little below 3,
 // so 0.15 still has the shade of 0.10. Nothing here fails: a component that comes out beyond 0 to 255 counts as the end

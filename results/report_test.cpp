@@ -388,7 +388,8 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
   EXPECT_THAT(Report(raise, ReportForm::kPlainText),
               HasSubstr("Total Pot Size:     \t 12.35\rAmount To Call:     \t 7\r"));
   EXPECT_THAT(Report(raise, ReportForm::kPlainText), HasSubstr("\rAmount Behind:      \t 100.06\r"));
-  EXPECT_THAT(Report(raise, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001 | Shove Amount: 100.0625\r"));
+  EXPECT_THAT(Report(raise, ReportForm::kForum),
+              HasSubstr("\rPot Size: 12.345 | To Call: 7.001 | Shove Amount: 100.0625\r"));
 }
 
 TEST(Report, TheBreakEvenPointIsAPercentageInThePlainFormAndAFractionInTheForumForm) {

@@ -314,6 +314,15 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
     if (entry.call == Call::kRename) break;
   }
   EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
+
+  // The new name itself must last too: the folder is synced behind the rename.
+  order.clear();
+  bool renamed = false;
+  for (const auto& entry : calls.Made()) {
+    if (renamed) order.push_back(entry.call);
+    renamed = renamed || entry.call == Call::kRename;
+  }
+  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kSync, Call::kClose));
 }
 
 TEST_F(ReplacingAFile, ScratchFileStandsInItsFolderUnderANameOfItsOwn) {
@@ -458,10 +467,16 @@ TEST_F(ReplacingAFile, ProtectedFileIsNotReplaced) {
 }
 
 TEST_F(ReplacingAFile, FileProtectedByTheSystemIsNotReplaced) {
-  if (::geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
   Put(File(), kOld);
-  fs::permissions(File(), fs::perms::owner_read);
+  fs::permissions(File(), fs::perms::owner_read | fs::perms::others_read);
+  for (const fs::path& folder : {File().parent_path(), ScratchFolder()})
+    fs::permissions(folder, fs::perms::all);
+  // Permissions do not bind the superuser, so he becomes somebody else meanwhile.
+  constexpr uid_t kNobody = 65534;
+  const bool superuser = ::geteuid() == 0;
+  ASSERT_TRUE(!superuser || ::seteuid(kNobody) == 0);
   const auto error = Replace(SystemFileCalls());
+  ASSERT_TRUE(!superuser || ::seteuid(0) == 0);
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
   EXPECT_EQ(Content(File()), kOld);
