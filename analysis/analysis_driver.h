@@ -38,7 +38,7 @@ inline constexpr double kProgressBarWidth = 7815;
 /// table away: the scenario's input screen returns, and `HandInfo` is as it was.
 ///
 /// Nothing is caught: a range file that vanishes after the check, or that does not exist in "Preflop Raise", ends in
-/// the failures of "analysis/dealt_range.h". `Running` is then left as it was.
+/// the failures of "analysis/dealt_range.h". `Running` is then left true, for the program ends.
 void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder);
 
 /// The click on the stop label `lblStopCalc`: clears `Running` and does nothing else.

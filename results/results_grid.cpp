@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "analysis/analysis_driver.h"
 #include "analysis/expected_value.h"
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
@@ -16,7 +17,6 @@ namespace quillon {
 namespace {
 
 constexpr Rgb kResultsNavColor = {255, 255, 192};
-constexpr std::string_view kNoResultsCaption = "There are no results to display at this time.";
 
 std::string ProfitablePercentText(const AnalysisState& state) {
   // One less than the number of concrete hands; it is meant, and even with all of them profitable the text says 100.

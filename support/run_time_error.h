@@ -1,9 +1,9 @@
 #pragma once
 
 // The fatal failure. A fault that nothing can put right (a file that will not be written, a division that has no
-// result) is thrown as a RunTimeError and passes through everything: only a program's outermost frame catches it,
-// shows its text, writes it to standard error and ends the process with exit status 1. Whatever must not be lost is
-// therefore whole before a routine that can fail is called.
+// result) is thrown as a RunTimeError and passes through everything: only a program's outermost frame catches it (and a
+// listing that must not end over one bad file), shows its text, writes it to standard error and ends the process with
+// exit status 1. Whatever must not be lost is therefore whole before a routine that can fail is called.
 
 #include <stdexcept>
 #include <string>

@@ -1,6 +1,7 @@
 #include "tools/companion.h"
 
 #include <CLI/CLI.hpp>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -73,7 +74,13 @@ class CompanionWindow final : public QuietWindow {
     barShows_ = true;
   }
 
-  void PresentResults(const AnalysisState& /*state*/) override { ClearProgress(); }
+  // Colours are worked out at the end of every run, as in the window: a run that has none ends whatever is printed.
+  void PresentResults(const AnalysisState& state) override {
+    colors_ = GridColors(state);
+    ClearProgress();
+  }
+
+  [[nodiscard]] const std::array<Rgb, kHandClassCount>& Colors() const { return colors_; }
 
  private:
   void ClearProgress() {
@@ -84,6 +91,7 @@ class CompanionWindow final : public QuietWindow {
   const Surroundings& surroundings_;
   std::string percent_;
   bool barShows_ = false;
+  std::array<Rgb, kHandClassCount> colors_{};
 };
 
 struct Request {
@@ -108,9 +116,22 @@ auto Attempt(Read read) -> std::optional<decltype(read())> {
   }
 }
 
+// A text may be read as a range and still be none: a letter, a picture. A range has at least one class with a weight.
+bool HoldsAnEntry(std::string_view text) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    if (text.find(std::string(HandLabel(index)) + " (") != std::string_view::npos) return true;
+  }
+  return false;
+}
+
+bool IsReadable(const std::string& name, const ProgramFolder& folder) {
+  const std::string text = LoadRangeText(folder, name);
+  return HoldsAnEntry(text) && Attempt([&] { return SelectedCombos(text); });
+}
+
 // The failure over such a range comes later, and does not know which file it is about.
 void PointOutUnreadable(const std::string& name, const ProgramFolder& folder, std::ostream& errors) {
-  if (Attempt([&] { return SelectedCombos(LoadRangeText(folder, name)); })) return;
+  if (IsReadable(name, folder)) return;
   errors << "The range \"" << name << "\" cannot be read: " << RangeFilePath(folder, name).string()
          << " is missing, empty or no range file.\n";
 }
@@ -136,7 +157,7 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
   const OutputFormat format = OutputFormatOf(request.format);
   const std::string text = AnalysisOutput(format, state, request.hands);
   if (format == OutputFormat::kPlain && surroundings.ShowColors) {
-    surroundings.Output << TerminalGrid(GridColors(state)) << '\n';
+    surroundings.Output << TerminalGrid(window.Colors()) << '\n';
   }
   surroundings.Output << text;
   return kDone;
@@ -144,8 +165,11 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
 
 int Summarize(const Request& request, const Surroundings& surroundings) {
   const ProgramFolder folder = FolderOf(request, surroundings);
-  PointOutUnreadable(request.situation.Range, folder, surroundings.Errors);
-  surroundings.Output << RangeSummary(LoadRangeText(folder, request.situation.Range)) << '\n';
+  const std::string& name = request.situation.Range;
+  PointOutUnreadable(name, folder, surroundings.Errors);
+  const std::string summary = RangeSummary(LoadRangeText(folder, name));
+  if (!IsReadable(name, folder)) return kFailed;
+  surroundings.Output << summary << '\n';
   return kDone;
 }
 
@@ -160,7 +184,8 @@ int ListRanges(const Request& request, const Surroundings& surroundings) {
   const ProgramFolder folder = FolderOf(request, surroundings);
   int status = kDone;
   for (const std::string& file : RangeFolderEntries(folder)) {
-    if (const auto line = Attempt([&] { return ListingLine(file, folder); })) {
+    const auto line = Attempt([&] { return ListingLine(file, folder); });
+    if (line && IsReadable(RangeNameOfFile(file), folder)) {
       surroundings.Output << *line;
       continue;
     }
@@ -194,7 +219,10 @@ class CommandLine {
     for (CLI::App* const command : {call_, raise_, equity_})
       AddOutputOptions(command);
     for (CLI::App* const command : {call_, raise_, equity_, summary_, ranges_}) {
-      command->add_option("--folder", request_.folder, "The program folder that holds \"Ranges\"")->type_name("DIR");
+      command
+          ->add_option("--folder", request_.folder,
+                       "The program folder that holds \"Ranges\" (default: the executable's own)")
+          ->type_name("DIR");
     }
   }
 

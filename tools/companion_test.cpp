@@ -319,15 +319,20 @@ TEST(UnreadableRange, BothRangesOfAShoveArePointedOut) {
 }
 
 // A class that a text does not mention reads the number before the first bracket, which here is none.
-TEST(UnreadableRange, NoiseWithALateBracketReadsAsAnEmptyRange) {
+TEST(UnreadableRange, NoiseWithALateBracketIsPointedOut) {
   const CompanionProgram program;
   program.Files().Write("Noise.txt", "some noise ) and more of it");
   const Outcome equity = program.Run({"equity", "--range", "Noise"});
   EXPECT_EQ(equity.Status, kRefused);
-  EXPECT_EQ(equity.Errors, "Empty Range: Your opponent's range is empty. Please select another range.\n");
+  EXPECT_THAT(equity.Errors, HasSubstr("Noise.txt is missing, empty or no range file.\n"));
+  EXPECT_THAT(equity.Errors, HasSubstr("Empty Range: Your opponent's range is empty. Please select another range.\n"));
   const Outcome summary = program.Run({"summary", "--range", "Noise"});
-  EXPECT_EQ(summary.Status, kDone);
-  EXPECT_EQ(summary.Output, "[None]\n");
+  EXPECT_EQ(summary.Status, kFailed);
+  EXPECT_EQ(summary.Output, "");
+  EXPECT_THAT(summary.Errors, HasSubstr("Noise.txt is missing, empty or no range file.\n"));
+  const Outcome listing = program.Run({"ranges"});
+  EXPECT_EQ(listing.Status, kFailed);
+  EXPECT_THAT(listing.Errors, HasSubstr("Noise.txt cannot be read, is empty or no range file.\n"));
 }
 
 TEST(UnreadableRange, RangeInAFolderWithoutRangesNamesItsFile) {
@@ -485,10 +490,12 @@ TEST(Amounts, BelowZeroMayFollowTheirOptionOrStickToIt) {
 
 TEST(Amounts, TooLargeForTheBestHandAreARunTimeError) {
   const CompanionProgram program;
-  const Outcome outcome = program.Run(With(Call("4e9", "3e9"), {"--format", "csv"}));
-  EXPECT_EQ(outcome.Status, kFailed);
-  EXPECT_EQ(outcome.Output, "");
-  EXPECT_EQ(outcome.Errors, "Run-time error '6': Overflow\n");
+  for (const std::string_view format : kOutputFormatNames) {
+    const Outcome outcome = program.Run(With(Call("4e9", "3e9"), {"--format", std::string(format)}));
+    EXPECT_EQ(outcome.Status, kFailed) << format;
+    EXPECT_EQ(outcome.Output, "") << format;
+    EXPECT_EQ(outcome.Errors, "Run-time error '6': Overflow\n") << format;
+  }
 }
 
 // ---- names of ranges

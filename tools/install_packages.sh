@@ -9,7 +9,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
-lint=(clang-format-14 clang-tidy-14 gcovr)
+lint=(git clang-format-14 clang-tidy-14 gcovr)
 fuzz=(clang-14 libclang-rt-14-dev)
 
 case "${1:-}" in
