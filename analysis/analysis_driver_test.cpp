@@ -50,7 +50,7 @@ class AnalysisDriver : public testing::Test {
   // A run of its own, on its own state, beside the one under test.
   [[nodiscard]] std::string TableOf(std::int16_t button, const Situation& situation) const {
     AnalysisState state;
-    KeptMessages messages;
+    RecordedMessages messages;
     QuietWindow window(situation, messages);
     RunAnalysis(state, button, window, ranges_.Folder());
     return state.HandInfo;
@@ -74,7 +74,7 @@ class AnalysisDriver : public testing::Test {
   }
 
   RangeFolder ranges_;
-  KeptMessages messages_;
+  RecordedMessages messages_;
   RecordingWindow window_{{"100", "50", "200", "Pairs", "Aces"}, messages_};
   AnalysisState state_;
 };
@@ -119,7 +119,7 @@ TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
   Run(kEquityButton);
   Lines expected;
   for (int index = 0; index < 169; ++index) {
-    const double width = static_cast<float>((index + 1) / 169.0 * 7815);
+    const double width = static_cast<double>(static_cast<float>((index + 1) / 169.0 * 7815));
     expected.push_back("RaiseCell " + std::to_string(index));
     expected.push_back("SetProgressPercent " + NumberText(std::nearbyint((index + 1) / 169.0 * 100)) + "%");
     expected.push_back("SetProgressBarWidth " + NumberText(width));
@@ -455,6 +455,37 @@ TEST_F(AnalysisDriver, AnInnerClickThatItsCheckTurnsAwayChangesTheScenarioOfTheR
   EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run goes on and finishes";
   EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
   EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, situation));
+}
+
+TEST_F(AnalysisDriver, TheCallShareOfTheLastRaisedClassStaysWhereItIsNoLongerWorkedOut) {
+  constexpr std::int16_t kRaised = 50;
+  AtYield(kRaised, [this] {
+    window_.OnCall = nullptr;
+    window_.CurrentSituation().Range = "";
+    Run(kEquityButton);
+  });
+  Run(kRaiseButton);
+  EXPECT_EQ(messages_.Shown.size(), 1U) << "the inner click is refused";
+  const double share = GetHandInfo(state_.HandInfo, HandLabel(kRaised - 1), kFoldShareColumn);
+  EXPECT_NE(share, 1);
+  for (std::int16_t index = kRaised; index < kHandClassCount; ++index) {
+    EXPECT_EQ(GetHandInfo(state_.HandInfo, HandLabel(index), kExpectedValueColumn), 0) << HandLabel(index);
+    EXPECT_EQ(GetHandInfo(state_.HandInfo, HandLabel(index), kFoldShareColumn), share) << HandLabel(index);
+  }
+}
+
+TEST_F(AnalysisDriver, TheSituationIsStoredBehindTheMessageAndBeforeTheProgressScreen) {
+  double potAtMessage = -1;
+  double potAtScreen = -1;
+  state_.PotSize = 7;
+  const std::string pot = window_.CurrentSituation().Pot;
+  window_.OnCall = [&](std::string_view call) {
+    if (call.starts_with("SetProgressMessage")) potAtMessage = state_.PotSize;
+    if (call == "ShowFrame Progress") potAtScreen = state_.PotSize;
+  };
+  Run(kCallButton);
+  EXPECT_EQ(potAtMessage, 7);
+  EXPECT_EQ(potAtScreen, BoxValue(pot));
 }
 
 TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {

@@ -37,7 +37,7 @@ class InputChecks : public testing::Test {
 
   template <class Check>
   void ExpectRow(const Row& row, Check check) const {
-    KeptMessages messages;
+    RecordedMessages messages;
     RecordingWindow window(row.situation, messages);
     EXPECT_EQ(check(window), row.complaint.title.empty()) << row.name;
     std::vector<Message> expected;
@@ -60,7 +60,7 @@ class InputChecks : public testing::Test {
 
   template <class Check>
   [[nodiscard]] int FaultNumberOf(const std::string& range, Check check) const {
-    KeptMessages messages;
+    RecordedMessages messages;
     QuietWindow window({"100", "50", "", range, ""}, messages);
     try {
       (void)check(window, ranges_.Folder());
@@ -197,7 +197,7 @@ TEST_F(InputChecks, EachScenarioReadsItsOwnBoxesAndLists) {
     mutable std::string boxes;
     mutable std::string lists;
   };
-  KeptMessages messages;
+  RecordedMessages messages;
   const Situation situation{"15", "5", "100", "Full", "Full"};
 
   Indexes call(situation, messages);

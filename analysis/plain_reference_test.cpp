@@ -77,7 +77,7 @@ class PlainReference : public testing::Test {
     situation.Range = "Range";
     situation.CallingRange = "Calling Range";
     AnalysisState state;
-    KeptMessages messages;
+    RecordedMessages messages;
     QuietWindow window(situation, messages);
     RunAnalysis(state, button, window, ranges_.Folder());
     EXPECT_TRUE(messages.Shown.empty());

@@ -8,7 +8,7 @@ namespace quillon {
 namespace {
 
 TEST(QuietWindow, AnswersTheBoxesAndListsOfAllScenarios) {
-  KeptMessages messages;
+  RecordedMessages messages;
   const QuietWindow window({"100", "50", "300", "Full", "Tight"}, messages);
   EXPECT_EQ(window.BoxText(0), "100");
   EXPECT_EQ(window.BoxText(1), "50");
@@ -24,7 +24,7 @@ TEST(QuietWindow, AnswersTheBoxesAndListsOfAllScenarios) {
 }
 
 TEST(QuietWindow, PassesMessagesOn) {
-  KeptMessages messages;
+  RecordedMessages messages;
   QuietWindow window({}, messages);
   window.Messages().Show({"Title", "Text"});
   ASSERT_EQ(messages.Shown.size(), 1U);

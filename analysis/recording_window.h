@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: a window that writes down what an analysis does with it, one line a call, and messages that are kept.
+// For tests: a window that writes down what an analysis does with it, one line a call.
 
 #include <algorithm>
 #include <cstddef>
@@ -12,19 +12,9 @@
 
 #include "analysis/quiet_window.h"
 #include "support/number_text.h"
+#include "support/recorded_messages.h"
 
 namespace quillon {
-
-/// Message boxes that nobody has to click.
-class KeptMessages : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message& message) override {
-    Shown.push_back(message);
-    return MessageAnswer::kOk;
-  }
-
-  std::vector<Message> Shown;
-};
 
 /// Every call is a line of the log, its name and its arguments: "ShowFrame Progress", "RaiseCell 0". Whatever the test
 /// wants to happen at a call is done by `OnCall`, after its line is written.

@@ -31,7 +31,7 @@ TEST(SetHandInfo, TheRowGrowsByOneCellAWrite) {
   EXPECT_EQ(table, "AA\t1.5\t0.85\t0.25\t\r\n");
 }
 
-TEST(SetHandInfo, WritesAsTold) {
+TEST(SetHandInfo, ChangesOneCellOfOneRow) {
   struct Row {
     const char* name;
     const char* table;

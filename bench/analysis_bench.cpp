@@ -58,7 +58,7 @@ void RunFullRange(benchmark::State& timing, std::int16_t button) {
   const BenchFolder folder;
   NoMessages messages;
   QuietWindow window({"150", "50", "400", std::string(kFullRange), std::string(kFullRange)}, messages);
-  for (auto step : timing) {
+  while (timing.KeepRunning()) {
     AnalysisState state;
     RunAnalysis(state, button, window, folder.Folder());
     benchmark::DoNotOptimize(state.HandInfo);
@@ -81,13 +81,13 @@ BENCHMARK(EquityOnly)->Unit(benchmark::kMillisecond);
 
 void PreflopCallPlain(benchmark::State& timing) {
   const std::string range = FullRangeText();
-  for (auto step : timing)
+  while (timing.KeepRunning())
     benchmark::DoNotOptimize(plain::PreflopCallTable(150, 50, range));
 }
 
 void PreflopRaisePlain(benchmark::State& timing) {
   const std::string range = FullRangeText();
-  for (auto step : timing)
+  while (timing.KeepRunning())
     benchmark::DoNotOptimize(plain::PreflopRaiseTable(150, 50, 400, range, range));
 }
 BENCHMARK(PreflopCallPlain)->Unit(benchmark::kMillisecond)->Iterations(1);

@@ -21,7 +21,7 @@ namespace {
 
 // The table is loaded once in a program's life, so this comes first and is timed once.
 void EquityTableLoading(benchmark::State& timing) {
-  for (auto step : timing) {
+  while (timing.KeepRunning()) {
     LoadEquityTable();
     benchmark::ClobberMemory();
   }
@@ -34,7 +34,7 @@ constexpr std::size_t kPairs = std::size_t{kHandClassCount} * kHandClassCount;
 template <typename Lookup>
 void ForEachPair(benchmark::State& timing, Lookup lookup) {
   LoadEquityTable();
-  for (auto step : timing) {
+  while (timing.KeepRunning()) {
     for (std::int16_t i = 0; i < kHandClassCount; ++i) {
       for (std::int16_t j = 0; j < kHandClassCount; ++j)
         benchmark::DoNotOptimize(lookup(i, j));
@@ -100,7 +100,7 @@ std::string FullRangeText() {
 
 void WeightRead(benchmark::State& timing) {
   const std::string text = FullRangeText();
-  for (auto step : timing) {
+  while (timing.KeepRunning()) {
     for (std::int16_t i = 0; i < kHandClassCount; ++i)
       benchmark::DoNotOptimize(RangeWeightOf(text, HandLabel(i)));
   }
@@ -111,7 +111,7 @@ BENCHMARK(WeightRead);
 
 void DealtRange(benchmark::State& timing) {
   std::string text = FullRangeText();
-  for (auto step : timing)
+  while (timing.KeepRunning())
     benchmark::DoNotOptimize(DealRange({}, "Everything", "As", "Ac", text));
 }
 BENCHMARK(DealtRange)->Unit(benchmark::kMicrosecond);

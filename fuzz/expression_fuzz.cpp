@@ -7,22 +7,11 @@
 #include "fuzz/fuzz_target.h"
 #include "shell/expressions.h"
 #include "support/number_text.h"
+#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
 namespace {
-
-class RecordedMessages final : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message& message) override {
-    shown_.push_back(message);
-    return MessageAnswer::kOk;
-  }
-  [[nodiscard]] const std::vector<Message>& Shown() const { return shown_; }
-
- private:
-  std::vector<Message> shown_;
-};
 
 std::string Overflow() {
   return RunTimeError(RunTimeFault::kOverflow).what();
@@ -61,7 +50,7 @@ void CheckBox(const std::string& text, const std::string& value) {
   const bool sum = text.starts_with('=');
   const bool bad = value == kExpressionErrorText;
   Require(after == (sum && !bad ? value : text), "a box takes the value of a sum and keeps any other text");
-  Require(messages.Shown().size() == (sum && bad ? 1U : 0U), "only a sum that is none has a message");
+  Require(messages.Shown.size() == (sum && bad ? 1U : 0U), "only a sum that is none has a message");
 }
 
 }  // namespace

@@ -7,25 +7,13 @@
 #include <vector>
 
 #include "ranges/range_fixtures.h"
+#include "support/recorded_messages.h"
 
 namespace quillon {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class RecordedMessages final : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message& message) override {
-    shown_.push_back(message);
-    return MessageAnswer::kOk;
-  }
-
-  [[nodiscard]] const std::vector<Message>& Shown() const { return shown_; }
-
- private:
-  std::vector<Message> shown_;
-};
 
 Message Stop(std::string title, std::string text) {
   return {std::move(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
@@ -92,9 +80,9 @@ TEST(ValidateRangeName, FirstFailingTestIsTold) {
     RecordedMessages messages;
     EXPECT_EQ(ValidateRangeName(program.Folder(), c.name, messages), !c.refusal.has_value()) << c.rule;
     if (c.refusal) {
-      EXPECT_THAT(messages.Shown(), ElementsAre(*c.refusal)) << c.rule;
+      EXPECT_THAT(messages.Shown, ElementsAre(*c.refusal)) << c.rule;
     } else {
-      EXPECT_THAT(messages.Shown(), IsEmpty()) << c.rule;
+      EXPECT_THAT(messages.Shown, IsEmpty()) << c.rule;
     }
   }
 }
@@ -105,7 +93,7 @@ TEST(ValidateRangeName, OnlyTheExactScratchNameIsFree) {
     program.Write(name + ".txt", "AA (1), \r\n");
     RecordedMessages messages;
     EXPECT_FALSE(ValidateRangeName(program.Folder(), name, messages)) << name;
-    EXPECT_THAT(messages.Shown(), ElementsAre(Exists(name)));
+    EXPECT_THAT(messages.Shown, ElementsAre(Exists(name)));
   }
 }
 

@@ -237,6 +237,13 @@ TEST(GridColors, WithNothingButLossesNoGreenShows) {
   EXPECT_THAT(MakeGridTexts(state).Results, EndsWith("In this situation, 0% of hands are profitable."));
 }
 
+TEST(GridColors, WithNoValueAboveTheSearchsStartLossesAreMeasuredAsEver) {
+  const AnalysisState state =
+      WithTable(AnalysisMode::kPreflopRaise, sample::ResultsTable({{"72o", "-40000\t0.1\t1"}}, "-20000\t0.2\t1"));
+  EXPECT_EQ(CellOf(state, "72o"), "120, 0, 0");
+  EXPECT_EQ(CellOf(state, "AA"), "255, 33, 33");
+}
+
 TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
   const AnalysisState state = sample::CallState();
   const std::array<Rgb, 169> colors = GridColors(state);

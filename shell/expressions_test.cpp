@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "analysis/expected_value.h"
+#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
@@ -13,16 +14,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class RecordingMessageBoxes final : public MessageBoxes {
- public:
-  std::vector<Message> Shown;
-
-  MessageAnswer Show(const Message& message) override {
-    Shown.push_back(message);
-    return MessageAnswer::kOk;
-  }
-};
 
 struct TextCase {
   const char* rule;
@@ -120,7 +111,7 @@ TEST(GetNumber, TakesDigitsAndPoints) {
 
 TEST(EvalTextBox, ASumBecomesItsValue) {
   for (const TextCase& c : kSums) {
-    RecordingMessageBoxes messages;
+    RecordedMessages messages;
     EXPECT_EQ(EvalTextBox(c.text, messages), c.result) << c.rule;
     EXPECT_THAT(messages.Shown, IsEmpty()) << c.rule;
   }
@@ -134,7 +125,7 @@ TEST(EvalTextBox, ABadSumStaysAfterAMessage) {
                            .icon = MessageIcon::kInformation,
                            .buttons = MessageButtons::kOk};
   for (const TextCase& c : kNoSums) {
-    RecordingMessageBoxes messages;
+    RecordedMessages messages;
     EXPECT_EQ(EvalTextBox(c.text, messages), c.text) << c.rule;
     EXPECT_THAT(messages.Shown, ElementsAre(problem)) << c.rule;
   }
@@ -142,14 +133,14 @@ TEST(EvalTextBox, ABadSumStaysAfterAMessage) {
 
 TEST(EvalTextBox, WithoutAnEqualsSignInFrontTheTextStays) {
   for (const char* text : {"", "150", "$35", "35 dollars", " =1+2", "1+2", "1=2", "x"}) {
-    RecordingMessageBoxes messages;
+    RecordedMessages messages;
     EXPECT_EQ(EvalTextBox(text, messages), text);
     EXPECT_THAT(messages.Shown, IsEmpty()) << text;
   }
 }
 
 TEST(EvalTextBox, UntilThenASumCountsAsNothing) {
-  RecordingMessageBoxes messages;
+  RecordedMessages messages;
   const OpponentOdds none = {.HisOdds = "N/A", .HisBreakEven = "N/A"};
   const OpponentOdds evaluated = {.HisOdds = "2 : 1", .HisBreakEven = "33.33%"};
   EXPECT_EQ(OpponentOddsTexts(100, 0, BoxValue("=100")), none);

@@ -86,7 +86,7 @@ AnalysisState FinishedRun(std::int16_t button, const Situation& situation) {
   program.Write("Calls.txt", TextWith("AA KK JJ 77", "AKs"));
   program.Write("Nothing.txt", TextWith(""));
   LoadEquityTable();
-  KeptMessages messages;
+  RecordedMessages messages;
   QuietWindow window(situation, messages);
   AnalysisState state;
   RunAnalysis(state, button, window, program.Folder());

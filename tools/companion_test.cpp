@@ -116,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Companion, EachCommand,
 // The same run behind the window's button.
 AnalysisState ClickButton(const CommandCase& command, const ProgramFolder& folder) {
   LoadEquityTable();
-  KeptMessages messages;
+  RecordedMessages messages;
   QuietWindow window(command.situation, messages);
   AnalysisState state;
   RunAnalysis(state, command.button, window, folder);
