@@ -119,7 +119,7 @@ TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
   Run(kEquityButton);
   Lines expected;
   for (int index = 0; index < 169; ++index) {
-    const double width = static_cast<double>(static_cast<float>((index + 1) / 169.0 * 7815));
+    const auto width = static_cast<double>(static_cast<float>((index + 1) / 169.0 * 7815));
     expected.push_back("RaiseCell " + std::to_string(index));
     expected.push_back("SetProgressPercent " + NumberText(std::nearbyint((index + 1) / 169.0 * 100)) + "%");
     expected.push_back("SetProgressBarWidth " + NumberText(width));
