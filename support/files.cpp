@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -17,6 +18,7 @@ namespace {
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 constexpr int kMostLinks = 40;  // as many as the system follows
 constexpr mode_t kFileMode = 0666;  // less what the user's umask takes off
+constexpr mode_t kFolderMode = 0777;
 
 template <typename Result>
 Result OrError(Result result) {
@@ -40,6 +42,7 @@ class RealFileCalls final : public FileCalls {
     return OrError(std::rename(from.c_str(), to.c_str()));
   }
   int Unlink(const std::string& path) override { return OrError(::unlink(path.c_str())); }
+  int MakeFolder(const std::string& path) override { return OrError(::mkdir(path.c_str(), kFolderMode)); }
 };
 
 [[noreturn]] void Fail(int negatedError, const std::filesystem::path& path) {
@@ -128,10 +131,11 @@ FileCalls& SystemFileCalls() {
   return calls;
 }
 
-std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
+std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
   // Not to block: a named pipe in the user's folder must not hold the program.
   const int file = Uninterrupted([&] { return calls.Open(path.string(), O_RDONLY | O_NONBLOCK | O_CLOEXEC, 0); });
-  if (file < 0) return {};
+  if (file == -ENOENT) return std::string();
+  if (file < 0) return std::nullopt;
 
   std::string bytes;
   std::array<char, 4096> buffer{};
@@ -142,7 +146,12 @@ std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
     if (count < 0) break;
   }
   calls.Close(file);
-  return count < 0 ? std::string() : bytes;
+  if (count < 0) return std::nullopt;
+  return bytes;
+}
+
+std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
+  return TryReadAllBytes(path, calls).value_or(std::string());
 }
 
 std::string ReadAllText(const std::filesystem::path& path, FileCalls& calls) {
@@ -163,6 +172,10 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
   }
   if (result < 0) Fail(result, path);
   SyncFolder(target.parent_path(), calls);
+}
+
+void DeleteFile(const std::filesystem::path& path, FileCalls& calls) {
+  if (const int result = calls.Unlink(path.string()); result < 0) Fail(result, path);
 }
 
 void WriteAllText(std::string_view text, const std::filesystem::path& path, const std::filesystem::path& scratchFolder,

@@ -1,11 +1,12 @@
 #pragma once
 
-// Reading and replacing files. A file of the user's is never written in place: its new content goes to a scratch file,
-// reaches the disk there, and takes the old file's name in one step, so that a crash or a full disk leaves the old
-// content whole. In memory text is UTF-8; on disk it is the code page of "support/windows_1252.h".
+// Reading, replacing and deleting files. A file of the user's is never written in place: its new content goes to a
+// scratch file, reaches the disk there, and takes the old file's name in one step, so that a crash or a full disk
+// leaves the old content whole. In memory text is UTF-8; on disk it is the code page of "support/windows_1252.h".
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,8 +14,8 @@
 
 namespace quillon {
 
-/// The system calls that files are reached with, gathered so that a test can make each of them fail. Every call gives
-/// back what the system call of that name does, or the negated error number.
+/// The system calls that files and folders are reached with, gathered so that a test can make each of them fail. Every
+/// call gives back what the system's own does, or the negated error number.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
@@ -26,6 +27,7 @@ class FileCalls {
   virtual int Close(int file) = 0;
   virtual int Rename(const std::string& from, const std::string& to) = 0;
   virtual int Unlink(const std::string& path) = 0;
+  virtual int MakeFolder(const std::string& path) = 0;
 };
 
 /// The system's own calls.
@@ -34,6 +36,11 @@ class FileCalls {
 /// The whole file as bytes, the empty text if it cannot be read for whatever reason. A file of more than 64 MiB is none
 /// of ours and counts as unreadable; so does a folder.
 [[nodiscard]] std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// The whole file as bytes, for whoever means to write it back: a missing file is the empty text, and one that is there
+/// but cannot be read is nothing, so that nobody takes it for empty.
+[[nodiscard]] std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path,
+                                                         FileCalls& calls = SystemFileCalls());
 
 /// The whole file as text, the empty text if it cannot be read. A missing file reads as an empty one, without a
 /// message.
@@ -46,6 +53,10 @@ class FileCalls {
 /// there and the scratch file is gone. A file that its permissions protect from writing is such a failure.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
                  FileCalls& calls = SystemFileCalls());
+
+/// Deletes the file. Of a link only the link goes, and the file it names stays. Failure is a RunTimeError that names
+/// the file and the reason: "File not found" where there is none.
+void DeleteFile(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
 /// Overwrites the file with the text and one line end (CR LF). Fails as ReplaceFile does.
 void WriteAllText(std::string_view text, const std::filesystem::path& path, const std::filesystem::path& scratchFolder,

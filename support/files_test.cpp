@@ -43,7 +43,7 @@ std::vector<std::string> Listing(const fs::path& folder) {
   return names;
 }
 
-enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink };
+enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFolder };
 
 // Passes every call on to the system, keeps a record of it, and makes the chosen ones fail. A failing close has closed
 // the file all the same, as the system's own does.
@@ -89,6 +89,10 @@ class FaultyFileCalls : public FileCalls {
   int Unlink(const std::string& path) override {
     if (const auto error = Record({Call::kUnlink, path})) return *error;
     return SystemFileCalls().Unlink(path);
+  }
+  int MakeFolder(const std::string& path) override {
+    if (const auto error = Record({Call::kMakeFolder, path})) return *error;
+    return SystemFileCalls().MakeFolder(path);
   }
 
   [[nodiscard]] const std::vector<Entry>& Made() const { return made_; }
@@ -194,6 +198,21 @@ TEST_F(ReadingBytes, WhatCannotBeReadIsEmpty) {
   EXPECT_EQ(ReadAllBytes(File()), "") << "an empty file";
   fs::create_symlink(Folder() / "missing.txt", Folder() / "dangling.txt");
   EXPECT_EQ(ReadAllBytes(Folder() / "dangling.txt"), "") << "a link to nothing";
+}
+
+TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
+  EXPECT_EQ(TryReadAllBytes(Folder() / "missing.txt"), "") << "a missing file";
+  Put(File(), "");
+  EXPECT_EQ(TryReadAllBytes(File()), "") << "an empty file";
+  Put(File(), kOld);
+  EXPECT_EQ(TryReadAllBytes(File()), kOld) << "a file";
+  EXPECT_EQ(TryReadAllBytes(Folder()), std::nullopt) << "a folder";
+  for (const Call call : {Call::kOpen, Call::kRead}) {
+    FaultyFileCalls calls(FailAlways(call, EACCES));
+    EXPECT_EQ(TryReadAllBytes(File(), calls), std::nullopt) << "call " << static_cast<int>(call);
+  }
+  fs::resize_file(File(), (std::uintmax_t{64} << 20U) + 1);
+  EXPECT_EQ(TryReadAllBytes(File()), std::nullopt) << "a file beyond the limit";
 }
 
 TEST_F(ReadingBytes, NamedPipeDoesNotHoldTheProgram) {
@@ -576,6 +595,51 @@ TEST_F(ReplacingAFile, NoFileStaysOpen) {
     static_cast<void>(ReadAllBytes(File(), calls));
   }
   EXPECT_EQ(openFiles(), before);
+}
+
+using DeletingAFile = Files;
+
+std::optional<RunTimeError> FailureOfDeleting(const fs::path& path, FileCalls& calls = SystemFileCalls()) {
+  try {
+    DeleteFile(path, calls);
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return std::nullopt;
+}
+
+TEST_F(DeletingAFile, ThatFileGoesAndNoOther) {
+  Put(Folder() / "Button.txt", kOld);
+  Put(Folder() / "Button.txt.bak", kOld);
+  DeleteFile(Folder() / "Button.txt");
+  EXPECT_THAT(Listing(Folder()), testing::ElementsAre("Button.txt.bak"));
+}
+
+TEST_F(DeletingAFile, OfALinkOnlyTheLinkGoes) {
+  Put(Folder() / "far.txt", kOld);
+  fs::create_symlink("far.txt", Folder() / "near.txt");
+  fs::create_symlink("nowhere", Folder() / "lost.txt");
+  DeleteFile(Folder() / "near.txt");
+  DeleteFile(Folder() / "lost.txt");
+  EXPECT_THAT(Listing(Folder()), testing::ElementsAre("far.txt"));
+}
+
+TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
+  const auto missing = FailureOfDeleting(Folder() / "Button.txt");
+  ASSERT_TRUE(missing);
+  EXPECT_EQ(missing->Fault(), RunTimeFault::kFileNotFound);
+  EXPECT_THAT(missing->what(), testing::HasSubstr("Button.txt: No such file or directory"));
+
+  const auto folder = FailureOfDeleting(Folder());
+  ASSERT_TRUE(folder);
+  EXPECT_EQ(folder->Fault(), RunTimeFault::kPathFileAccess);
+
+  Put(Folder() / "Button.txt", kOld);
+  FaultyFileCalls calls(FailAlways(Call::kUnlink, EACCES));
+  const auto forbidden = FailureOfDeleting(Folder() / "Button.txt", calls);
+  ASSERT_TRUE(forbidden);
+  EXPECT_EQ(forbidden->Fault(), RunTimeFault::kPermissionDenied);
+  EXPECT_EQ(Content(Folder() / "Button.txt"), kOld);
 }
 
 }  // namespace

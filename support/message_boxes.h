@@ -12,7 +12,7 @@ namespace quillon {
 inline constexpr std::string_view kApplicationTitle = "Quillon";
 
 enum class MessageIcon { kInformation, kExclamation, kQuestion, kStop };
-enum class MessageButtons { kOk, kYesNoCancel };
+enum class MessageButtons { kOk, kYesNo, kYesNoCancel };
 enum class MessageAnswer { kOk, kYes, kNo, kCancel };
 
 struct Message {
@@ -28,8 +28,8 @@ class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows one message, waits for the user, and gives back the button pressed; a box that is closed answers kOk where
-  /// that is its only button, otherwise kCancel.
+  /// Shows one message, waits for the user, and gives back the button pressed. A box that is closed answers with the
+  /// button that does the least: kOk where that is its only button, kNo beside a lone kYes, otherwise kCancel.
   virtual MessageAnswer Show(const Message& message) = 0;
 };
 

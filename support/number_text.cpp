@@ -14,8 +14,8 @@
 namespace quillon {
 namespace {
 
-constexpr int kSignificantDigits = 15;
-constexpr int kMostDecimals = 15;
+constexpr int kDoubleDigits = 15;
+constexpr int kFloatDigits = 7;
 
 // The longest fixed form of a double: sign, 309 digits, point, and the decimals asked for.
 constexpr std::size_t kFixedFormSize = 400;
@@ -40,10 +40,10 @@ struct ScientificForm {
   int exponent;  // power of ten of the first digit
 };
 
-ScientificForm ToScientific(double value) {
+ScientificForm ToScientific(double value, int significantDigits) {
   std::array<char, 32> buffer{};
   const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                        std::chars_format::scientific, kSignificantDigits - 1)
+                                        std::chars_format::scientific, significantDigits - 1)
                               .ptr;
   const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
   const std::size_t mark = text.find('e');
@@ -231,16 +231,24 @@ std::string TieAwayFromZero(double value, int digits) {
   return text;
 }
 
-}  // namespace
-
-std::string NumberText(double value) {
+std::string GeneralForm(double value, int significantDigits) {
   if (!std::isfinite(value)) throw RunTimeError(RunTimeFault::kOverflow);
   if (value == 0) return "0";
 
-  const ScientificForm form = ToScientific(value);
+  const ScientificForm form = ToScientific(value, significantDigits);
   const int decimals = static_cast<int>(form.digits.size()) - 1 - form.exponent;
-  const bool needsExponent = decimals > kMostDecimals || form.exponent >= kSignificantDigits;
+  const bool needsExponent = decimals > significantDigits || form.exponent >= significantDigits;
   return (form.negative ? "-" : "") + (needsExponent ? ExponentText(form) : FixedText(form));
+}
+
+}  // namespace
+
+std::string NumberText(double value) {
+  return GeneralForm(value, kDoubleDigits);
+}
+
+std::string FloatNumberText(float value) {
+  return GeneralForm(static_cast<double>(value), kFloatDigits);
 }
 
 double LeadingNumber(std::string_view text) {

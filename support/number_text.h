@@ -20,6 +20,12 @@ namespace quillon {
 /// A value that is not finite has no text: RunTimeError "Overflow".
 [[nodiscard]] std::string NumberText(double value);
 
+/// The same form for a 32-bit float, which holds 7 digits and shows no more: a value whose fixed form would need more
+/// than 7 decimals, or more than 7 digits before the point, takes the exponent form. Fails as NumberText does.
+///
+///     150 -> "150"      0.1f -> "0.1"      857.142857f -> "857.1429"      1e7f -> "1E+07"
+[[nodiscard]] std::string FloatNumberText(float value);
+
 /// The number at the start of a text: the longest start that reads as an optional sign, digits, an optional fraction
 /// after a point and an optional exponent. Blanks (the space character) are skipped wherever they stand; anything else
 /// ends the number, and a text with no such start gives 0. Never fails: a number beyond the range of a double gives the

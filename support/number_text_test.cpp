@@ -70,6 +70,36 @@ TEST(NumberText, IsTheGeneralForm) {
     EXPECT_EQ(NumberText(c.value), c.text) << c.rule;
 }
 
+struct FloatCase {
+  const char* rule;
+  float value;
+  const char* text;
+};
+
+TEST(FloatNumberText, IsTheGeneralFormOfSevenDigits) {
+  const std::vector<FloatCase> cases = {
+      {"an integer has no point", 15300, "15300"},
+      {"nothing", 0, "0"},
+      {"a negative nothing has no sign", -0.0F, "0"},
+      {"a minus sign where negative", -67.5F, "-67.5"},
+      {"what a float adds to a decimal does not show", 0.1F, "0.1"},
+      {"seven digits", 857.142857F, "857.1429"},
+      {"seven digits before the point are fixed", 9999999, "9999999"},
+      {"eight are not", 10000000, "1E+07"},
+      {"an eighth digit rounds the seventh", 12345678, "1.234568E+07"},
+      {"7 decimals are fixed", 1e-7F, "0.0000001"},
+      {"8 decimals are not", 1e-8F, "1E-08"},
+      {"the largest number", std::numeric_limits<float>::max(), "3.402823E+38"},
+  };
+  for (const FloatCase& c : cases)
+    EXPECT_EQ(FloatNumberText(c.value), c.text) << c.rule;
+}
+
+TEST(FloatNumberText, WhatIsNotFiniteOverflows) {
+  EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::infinity())), RunTimeError);
+  EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::quiet_NaN())), RunTimeError);
+}
+
 // 1 minus these is what the equity table holds below its diagonal in the exponent form.
 TEST(NumberText, SevenEquitiesTakeTheExponentForm) {
   const std::vector<NumberCase> cases = {

@@ -2,6 +2,7 @@
 
 // For tests: message boxes that nobody has to click, and that keep what they showed.
 
+#include <deque>
 #include <vector>
 
 #include "support/message_boxes.h"
@@ -12,10 +13,14 @@ class RecordedMessages : public MessageBoxes {
  public:
   MessageAnswer Show(const Message& message) override {
     Shown.push_back(message);
-    return MessageAnswer::kOk;
+    if (Answers.empty()) return MessageAnswer::kOk;
+    const MessageAnswer answer = Answers.front();
+    Answers.pop_front();
+    return answer;
   }
 
   std::vector<Message> Shown;
+  std::deque<MessageAnswer> Answers;  // to the boxes to come, the first first; kOk once they are used up
 };
 
 }  // namespace quillon

@@ -20,10 +20,14 @@ std::string_view RunTimeFaultText(RunTimeFault fault) {
       return "Invalid procedure call or argument";
     case RunTimeFault::kOverflow:
       return "Overflow";
+    case RunTimeFault::kOutOfMemory:
+      return "Out of memory";
     case RunTimeFault::kSubscriptOutOfRange:
       return "Subscript out of range";
     case RunTimeFault::kDivisionByZero:
       return "Division by zero";
+    case RunTimeFault::kInternalError:
+      return "Internal error";
     case RunTimeFault::kBadFileName:
       return "Bad file name or number";
     case RunTimeFault::kFileNotFound:
@@ -38,6 +42,8 @@ std::string_view RunTimeFaultText(RunTimeFault fault) {
       return "Path/File access error";
     case RunTimeFault::kPathNotFound:
       return "Path not found";
+    case RunTimeFault::kInvalidPropertyValue:
+      return "Invalid property value";
   }
   return "Application-defined or object-defined error";
 }
@@ -58,6 +64,7 @@ RunTimeFault RunTimeFaultOf(int systemError) {
       return RunTimeFault::kBadFileName;
     case ENOTDIR:
       return RunTimeFault::kPathNotFound;
+    case EEXIST:
     case EISDIR:
     case EROFS:
     case EBUSY:

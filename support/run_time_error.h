@@ -15,8 +15,10 @@ namespace quillon {
 enum class RunTimeFault {
   kInvalidProcedureCall = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kSubscriptOutOfRange = 9,
   kDivisionByZero = 11,
+  kInternalError = 51,
   kBadFileName = 52,
   kFileNotFound = 53,
   kDeviceError = 57,
@@ -24,6 +26,7 @@ enum class RunTimeFault {
   kPermissionDenied = 70,
   kPathFileAccess = 75,
   kPathNotFound = 76,
+  kInvalidPropertyValue = 380,
 };
 
 /// The fixed text of a fault, such as "File not found".
@@ -31,7 +34,7 @@ enum class RunTimeFault {
 
 /// The fault that a system error number stands for: ENOENT is kFileNotFound, ENOSPC and EDQUOT are kDiskFull, EACCES
 /// and EPERM are kPermissionDenied, ENAMETOOLONG, EINVAL and EILSEQ are kBadFileName, ENOTDIR is kPathNotFound,
-/// EISDIR, EROFS and EBUSY are kPathFileAccess, and every other number is kDeviceError.
+/// EEXIST, EISDIR, EROFS and EBUSY are kPathFileAccess, and every other number is kDeviceError.
 [[nodiscard]] RunTimeFault RunTimeFaultOf(int systemError);
 
 /// One fatal failure: what() is "Run-time error '53': File not found", followed by the detail in brackets where one is

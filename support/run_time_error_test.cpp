@@ -26,6 +26,7 @@ const std::vector<FaultCase> kFaults = {
     {RunTimeFault::kPermissionDenied, 70, "Permission denied"},
     {RunTimeFault::kPathFileAccess, 75, "Path/File access error"},
     {RunTimeFault::kPathNotFound, 76, "Path not found"},
+    {RunTimeFault::kInvalidPropertyValue, 380, "Invalid property value"},
 };
 
 TEST(RunTimeError, TellsNumberAndText) {
@@ -64,7 +65,8 @@ TEST(RunTimeFaultOf, EverySystemErrorIsAFault) {
       {ENOTDIR, RunTimeFault::kPathNotFound},   {EISDIR, RunTimeFault::kPathFileAccess},
       {EROFS, RunTimeFault::kPathFileAccess},   {EBUSY, RunTimeFault::kPathFileAccess},
       {EIO, RunTimeFault::kDeviceError},        {ELOOP, RunTimeFault::kDeviceError},
-      {0, RunTimeFault::kDeviceError},          {-1, RunTimeFault::kDeviceError},
+      {EEXIST, RunTimeFault::kPathFileAccess},  {0, RunTimeFault::kDeviceError},
+      {-1, RunTimeFault::kDeviceError},
   };
   for (const Case& c : cases)
     EXPECT_EQ(RunTimeFaultOf(c.systemError), c.fault) << "error number " << c.systemError;

@@ -1,0 +1,25 @@
+#pragma once
+
+// The folders that the program keeps its files in. They are made when the program starts, and made anew where one has
+// gone since.
+
+#include <filesystem>
+
+#include "support/files.h"
+
+namespace quillon {
+
+/// Whether a folder is there and can be listed. It is asked for with a separator at its end, added where there is none,
+/// so a file of that name is no folder, while a link to a folder is one and the empty path is the root. Whatever goes
+/// wrong in asking counts as not being there.
+[[nodiscard]] bool FolderExists(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// Makes a folder in one that is there. RunTimeError, with the path and the reason, if it cannot be made: "Path not
+/// found" where the outer folder is missing, "Path/File access error" where anything of that name is there already.
+void MakeFolder(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// Makes a folder if it is not there. Fails as MakeFolder does, so a folder that is there but may not be listed is a
+/// failure too.
+void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+}  // namespace quillon

@@ -1,0 +1,175 @@
+#include "support/folders.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/passing_calls.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+
+// A folder that is gone after the test.
+class Folders : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = (fs::temp_directory_path() / "quillon-folders-XXXXXX").string();
+    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+    home_ = pattern;
+  }
+  void TearDown() override { fs::remove_all(home_); }
+
+  [[nodiscard]] const fs::path& Home() const { return home_; }
+
+ private:
+  fs::path home_;
+};
+
+// Fails to open, so many times, and to make a folder, each with the error given.
+class RefusingCalls final : public PassingCalls {
+ public:
+  int OpenError = 0;
+  int OpenErrorCount = 1000;
+  int MakeError = 0;
+
+  int Open(const std::string& path, int flags, mode_t mode) override {
+    return OpenError != 0 && OpenErrorCount-- > 0 ? -OpenError : PassingCalls::Open(path, flags, mode);
+  }
+  int MakeFolder(const std::string& path) override {
+    return MakeError != 0 ? -MakeError : PassingCalls::MakeFolder(path);
+  }
+};
+
+std::optional<RunTimeError> FailureOfMaking(const fs::path& path, FileCalls& calls = SystemFileCalls()) {
+  try {
+    MakeFolder(path, calls);
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return std::nullopt;
+}
+
+TEST_F(Folders, ExistWhereTheyCanBeListed) {
+  fs::create_directory(Home() / "empty");
+  fs::create_directories(Home() / "full" / "inner");
+  fs::create_directory(Home() / "Grüße €");
+  std::ofstream(Home() / "file") << "x";
+  fs::create_directory_symlink(Home() / "full", Home() / "link");
+  fs::create_symlink(Home() / "nowhere", Home() / "dangling");
+  fs::create_symlink(Home() / "file", Home() / "link to file");
+
+  struct Case {
+    const char* rule;
+    fs::path path;
+    bool exists;
+  };
+  const std::vector<Case> cases = {
+      {"a folder with something in it", Home() / "full", true},
+      {"a folder with nothing in it", Home() / "empty", true},
+      {"a folder with a separator at its end", Home() / "empty/", true},
+      {"a name beyond ASCII", Home() / "Grüße €", true},
+      {"a link to a folder", Home() / "link", true},
+      {"the root", "/", true},
+      {"nothing, which gets the root's separator", "", true},
+      {"what is not there", Home() / "missing", false},
+      {"what is not there, with a separator", Home() / "missing/", false},
+      {"what is not there in a folder that is not there", Home() / "missing" / "inner", false},
+      {"a file", Home() / "file", false},
+      {"something in a file", Home() / "file" / "inner", false},
+      {"a link to a file", Home() / "link to file", false},
+      {"a link to nowhere", Home() / "dangling", false},
+      {"a name that no folder can have", Home() / std::string(300, 'x'), false},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(FolderExists(c.path), c.exists) << c.rule;
+}
+
+TEST_F(Folders, AnyErrorCountsAsNotExisting) {
+  for (const int error : {EACCES, EIO, ELOOP, EMFILE, ENOMEM, ENOTDIR}) {
+    RefusingCalls calls;
+    calls.OpenError = error;
+    EXPECT_FALSE(FolderExists(Home(), calls)) << "error number " << error;
+  }
+}
+
+TEST_F(Folders, AnInterruptedLookIsTakenAgain) {
+  RefusingCalls calls;
+  calls.OpenError = EINTR;
+  calls.OpenErrorCount = 3;
+  EXPECT_TRUE(FolderExists(Home(), calls));
+}
+
+TEST_F(Folders, AreMade) {
+  EXPECT_FALSE(FailureOfMaking(Home() / "Saved Grids").has_value());
+  EXPECT_TRUE(fs::is_directory(Home() / "Saved Grids"));
+}
+
+TEST_F(Folders, ThatCannotBeMadeAreFatal) {
+  std::ofstream(Home() / "file") << "x";
+  struct Case {
+    const char* rule;
+    fs::path path;
+    RunTimeFault fault;
+    const char* reason;
+  };
+  const std::vector<Case> cases = {
+      {"one that is there", Home(), RunTimeFault::kPathFileAccess, "File exists"},
+      {"a file's name", Home() / "file", RunTimeFault::kPathFileAccess, "File exists"},
+      {"no outer folder", Home() / "a" / "b", RunTimeFault::kPathNotFound, "No such file or directory"},
+      {"a file for an outer folder", Home() / "file" / "b", RunTimeFault::kPathNotFound, "Not a directory"},
+      {"too long a name", Home() / std::string(300, 'x'), RunTimeFault::kBadFileName, "File name too long"},
+  };
+  for (const Case& c : cases) {
+    const std::optional<RunTimeError> failure = FailureOfMaking(c.path);
+    ASSERT_TRUE(failure.has_value()) << c.rule;
+    EXPECT_EQ(failure->Fault(), c.fault) << c.rule;
+    EXPECT_THAT(failure->what(), AllOf(HasSubstr(c.path.string()), HasSubstr(c.reason))) << c.rule;
+  }
+}
+
+TEST_F(Folders, AFaultOfTheSystemsIsToldWithPathAndReason) {
+  const std::vector<std::pair<int, RunTimeFault>> cases = {
+      {ENOSPC, RunTimeFault::kDiskFull},
+      {EACCES, RunTimeFault::kPermissionDenied},
+      {EROFS, RunTimeFault::kPathFileAccess},
+      {EIO, RunTimeFault::kDeviceError},
+  };
+  for (const auto& [error, fault] : cases) {
+    RefusingCalls calls;
+    calls.MakeError = error;
+    const std::optional<RunTimeError> failure = FailureOfMaking(Home() / "Ranges", calls);
+    ASSERT_TRUE(failure.has_value()) << "error number " << error;
+    EXPECT_EQ(failure->Fault(), fault) << "error number " << error;
+    EXPECT_THAT(failure->what(), HasSubstr((Home() / "Ranges").string())) << "error number " << error;
+  }
+}
+
+TEST_F(Folders, AreMadeIfMissingAndElseLeftAlone) {
+  const fs::path ranges = Home() / "Ranges";
+  MakeFolderIfMissing(ranges);
+  ASSERT_TRUE(fs::is_directory(ranges));
+  std::ofstream(ranges / "x.txt") << "AA (1), ";
+  MakeFolderIfMissing(ranges);
+  EXPECT_TRUE(fs::exists(ranges / "x.txt"));
+}
+
+TEST_F(Folders, OneThatMayNotBeListedIsFatalWhereItIsNeeded) {
+  RefusingCalls calls;
+  calls.OpenError = EACCES;
+  EXPECT_THROW(MakeFolderIfMissing(Home(), calls), RunTimeError);
+}
+
+}  // namespace
+}  // namespace quillon
