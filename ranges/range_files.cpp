@@ -1,5 +1,7 @@
 #include "ranges/range_files.h"
 
+#include <system_error>
+
 #include "support/run_time_error.h"
 
 namespace quillon {
@@ -10,6 +12,26 @@ constexpr std::string_view kLineEnd = "\r\n";
 // The system would take a path up to its first NUL character and so reach the file of another range.
 bool CanNameFile(std::string_view name) {
   return name.find('\0') == std::string_view::npos;
+}
+
+void RequireFileName(std::string_view name) {
+  if (CanNameFile(name)) return;
+  throw RunTimeError(RunTimeFault::kBadFileName, "a NUL character in the name of a range");
+}
+
+// A link to nowhere is a file too: it stands in the list, and it can be deleted.
+void RequireFile(const std::filesystem::path& file) {
+  std::error_code error;
+  static_cast<void>(std::filesystem::symlink_status(file, error));
+  if (error) throw RunTimeError(RunTimeFaultOf(error.value()), file.string() + ": " + error.message());
+}
+
+// Whether deleting `oldFile` would take what was saved as `newFile` with it. Names that differ in case may be one file
+// to the file system, and the new name may be a link to the old file. An old name that is a link itself only goes.
+bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem::path& newFile) {
+  if (oldFile == newFile) return true;
+  std::error_code unknown;
+  return !std::filesystem::is_symlink(oldFile, unknown) && std::filesystem::equivalent(oldFile, newFile, unknown);
 }
 
 }  // namespace
@@ -31,10 +53,23 @@ std::string LoadRangeText(const ProgramFolder& folder, std::string_view name) {
 }
 
 void SaveRangeText(const ProgramFolder& folder, std::string_view name, std::string_view text) {
-  if (!CanNameFile(name)) {
-    throw RunTimeError(RunTimeFault::kBadFileName, "a NUL character in the name of a range");
-  }
+  RequireFileName(name);
   WriteAllText(text, RangeFilePath(folder, name), folder.Path, *folder.Calls);
+}
+
+void DeleteRange(const ProgramFolder& folder, std::string_view name) {
+  RequireFileName(name);
+  DeleteFile(RangeFilePath(folder, name), *folder.Calls);
+}
+
+void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::string_view newName,
+                 std::string_view text) {
+  RequireFileName(oldName);
+  const std::filesystem::path oldFile = RangeFilePath(folder, oldName);
+  RequireFile(oldFile);
+
+  SaveRangeText(folder, newName, text);
+  if (!HoldsContentOf(oldFile, RangeFilePath(folder, newName))) DeleteRange(folder, oldName);
 }
 
 bool RangeExists(const ProgramFolder& folder, std::string_view name) {

@@ -39,6 +39,17 @@ struct ProgramFolder {
 /// for a name with a NUL character.
 void SaveRangeText(const ProgramFolder& folder, std::string_view name, std::string_view text);
 
+/// Deletes a range's file. RunTimeError, with the file and the reason, if that fails, as it does where there is none.
+void DeleteRange(const ProgramFolder& folder, std::string_view name);
+
+/// Saves `text` as the range `newName`, as SaveRangeText does, and then deletes the range `oldName`; what its file held
+/// does not matter. Two names of one file, or the same name twice, leave that file with the new text.
+///
+/// RunTimeError, with the file and the reason, if any step fails: before anything is written where the old file is
+/// missing, and otherwise with the old range still there, beside the new one if only the deletion failed.
+void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::string_view newName,
+                 std::string_view text);
+
 /// Whether a range's file holds anything. An empty file, and one that holds a line end alone, counts as none.
 [[nodiscard]] bool RangeExists(const ProgramFolder& folder, std::string_view name);
 

@@ -12,10 +12,12 @@
 
 #include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
+#include "support/passing_calls.h"
 
 namespace quillon {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 TEST(RangeFilePath, IsTheRangeFolderTheNameAndTheExtension) {
@@ -78,18 +80,12 @@ TEST(SaveRangeText, LeavesNothingButTheFile) {
 }
 
 TEST(SaveRangeText, WritesItsScratchFileWhereNoListShowsIt) {
-  class Watching : public FileCalls {
+  class Watching : public PassingCalls {
    public:
     int Open(const std::string& path, int flags, mode_t mode) override {
       if ((flags & O_CREAT) != 0) made.emplace_back(path);
-      return SystemFileCalls().Open(path, flags, mode);
+      return PassingCalls::Open(path, flags, mode);
     }
-    ssize_t Read(int file, std::span<char> buffer) override { return SystemFileCalls().Read(file, buffer); }
-    ssize_t Write(int file, std::string_view bytes) override { return SystemFileCalls().Write(file, bytes); }
-    int Sync(int file) override { return SystemFileCalls().Sync(file); }
-    int Close(int file) override { return SystemFileCalls().Close(file); }
-    int Rename(const std::string& from, const std::string& to) override { return SystemFileCalls().Rename(from, to); }
-    int Unlink(const std::string& path) override { return SystemFileCalls().Unlink(path); }
 
     std::vector<std::filesystem::path> made;
   };
@@ -143,6 +139,7 @@ class FailingCalls final : public FileCalls {
     return Fails() ? -EACCES : system_.Rename(from, to);
   }
   int Unlink(const std::string& path) override { return Fails() ? -EIO : system_.Unlink(path); }
+  int MakeFolder(const std::string& path) override { return Fails() ? -EIO : system_.MakeFolder(path); }
 
  private:
   bool Fails() { return left_-- == 0; }
@@ -242,6 +239,124 @@ TEST(LoadRangeText, FailureOfReadingIsSwallowed) {
     FailingCalls calls(call);
     EXPECT_EQ(LoadRangeText({program.Folder().Path, &calls}, "x"), "") << "call " << call;
   }
+}
+
+TEST(DeleteRange, ItsFileGoesAndNoOther) {
+  const TemporaryProgram program;
+  program.Write("x.txt", "AA (1), ");
+  program.Write("x.TXT", "AA (1), ");
+  DeleteRange(program.Folder(), "x");
+  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("x.txt")));
+  EXPECT_TRUE(std::filesystem::exists(program.RangeFile("x.TXT")));
+}
+
+// The text of the failure of `call`, empty if it does not fail.
+template <typename Call>
+std::string FailureOf(Call call) {
+  try {
+    call();
+  } catch (const RunTimeError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+TEST(DeleteRange, FailureIsFatalAndNamed) {
+  using namespace std::string_view_literals;
+  const TemporaryProgram program;
+  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), "x"); }),
+              AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/x.txt")));
+  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), ""); }),
+              AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/.txt")));
+
+  program.Write("x.txt", "AA (1), ");
+  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), "x.txt\0"sv); }), HasSubstr("'52'"));
+  FailingCalls calls(0);
+  EXPECT_THAT(FailureOf([&] { DeleteRange({program.Folder().Path, &calls}, "x"); }), HasSubstr("Ranges/x.txt"));
+  EXPECT_EQ(program.Read("x.txt"), "AA (1), ");
+}
+
+TEST(RenameRange, NewRangeTakesTheTextAndTheOldOneGoes) {
+  const TemporaryProgram program;
+  program.Write("old.txt", "AA (1), ");
+  RenameRange(program.Folder(), "old", "new", "KK (1), ");
+  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
+  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("old.txt")));
+}
+
+TEST(RenameRange, NewRangeThatIsThereIsReplaced) {
+  const TemporaryProgram program;
+  program.Write("old.txt", "AA (1), ");
+  program.Write("new.txt", "QQ (1), and more than will be there");
+  RenameRange(program.Folder(), "old", "new", "KK (1), ");
+  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
+  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("old.txt")));
+}
+
+TEST(RenameRange, RangeOfThatVeryNameStaysWithTheNewText) {
+  const TemporaryProgram program;
+  program.Write("x.txt", "AA (1), ");
+  RenameRange(program.Folder(), "x", "x", "KK (1), ");
+  EXPECT_EQ(program.Read("x.txt"), "KK (1), \r\n");
+}
+
+TEST(RenameRange, LinkOfThatVeryNameStaysToo) {
+  const TemporaryProgram program;
+  program.Write("far.txt", "AA (1), ");
+  std::filesystem::create_symlink("far.txt", program.RangeFile("x.txt"));
+  RenameRange(program.Folder(), "x", "x", "KK (1), ");
+  EXPECT_EQ(program.Read("x.txt"), "KK (1), \r\n");
+}
+
+TEST(RenameRange, FileThatHasBothNamesStaysWithTheNewText) {
+  const TemporaryProgram program;
+  program.Write("old.txt", "AA (1), ");
+  std::filesystem::create_symlink("old.txt", program.RangeFile("new.txt"));
+  RenameRange(program.Folder(), "old", "new", "KK (1), ");
+  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
+}
+
+TEST(RenameRange, OldNameThatIsALinkGoes) {
+  const TemporaryProgram program;
+  program.Write("new.txt", "AA (1), ");
+  for (const char* target : {"new.txt", "nowhere"}) {
+    std::filesystem::create_symlink(target, program.RangeFile("old.txt"));
+    RenameRange(program.Folder(), "old", "new", "KK (1), ");
+    EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n") << target;
+    EXPECT_FALSE(std::filesystem::is_symlink(program.RangeFile("old.txt"))) << target;
+  }
+}
+
+TEST(RenameRange, OldFileThatIsMissingIsFatalBeforeAnythingIsWritten) {
+  const TemporaryProgram program;
+  for (const char* name : {"old", "", "new"}) {
+    EXPECT_THAT(FailureOf([&] { RenameRange(program.Folder(), name, "new", "KK (1), "); }),
+                AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/" + std::string(name) + ".txt")));
+    EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder()))) << name;
+  }
+}
+
+TEST(RenameRange, FailureOfAnyCallLosesNothing) {
+  const TemporaryProgram program;
+  const std::string before = TextWith("AA");
+  const std::string after = TextWith("KK", "QQ");
+  int failures = 0;
+  bool reached = true;
+  for (int call = 0; reached; ++call) {
+    ASSERT_LT(call, 100) << "a rename makes a handful of calls";
+    SaveRangeText(program.Folder(), "old", before);
+    std::filesystem::remove(program.RangeFile("new.txt"));
+    FailingCalls calls(call);
+    const ProgramFolder failing{program.Folder().Path, &calls};
+    const bool failed = FaultOf([&] { RenameRange(failing, "old", "new", after); }).has_value();
+    reached = calls.HasFailed();
+    failures += failed ? 1 : 0;
+    const std::string oldText = LoadRangeText(program.Folder(), "old");
+    const std::string newText = LoadRangeText(program.Folder(), "new");
+    EXPECT_EQ(oldText, failed ? before : "") << "call " << call;
+    EXPECT_TRUE(newText == after || (failed && newText.empty())) << "call " << call;
+  }
+  EXPECT_GE(failures, 5) << "opening, writing, reaching the disk, renaming and deleting can each fail";
 }
 
 }  // namespace

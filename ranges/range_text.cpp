@@ -50,6 +50,13 @@ double RangeWeightOf(std::string_view text, std::string_view label) {
   return LeadingNumber(text.substr(start, end - start));
 }
 
+ClassWeights RangeWeightsOf(std::string_view text) {
+  ClassWeights weights{};
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    weights[static_cast<std::size_t>(index)] = RangeWeightOf(text, HandLabel(index));
+  return weights;
+}
+
 std::string RangeTextOf(std::span<const double, kHandClassCount> weights) {
   std::string text;
   text.reserve(kLongestUsualEntry * weights.size());
@@ -61,11 +68,13 @@ std::string RangeTextOf(std::span<const double, kHandClassCount> weights) {
 }
 
 double SelectedCombos(std::string_view rangeText) {
+  return SelectedCombos(RangeWeightsOf(rangeText));
+}
+
+double SelectedCombos(std::span<const double, kHandClassCount> weights) {
   double combos = 0;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const std::string_view label = HandLabel(index);
-    combos += WeightShownOnGrid(RangeWeightOf(rangeText, label)) * ComboCount(label);
-  }
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    combos += WeightShownOnGrid(weights[static_cast<std::size_t>(index)]) * ComboCount(HandLabel(index));
   return combos;
 }
 

@@ -11,6 +11,7 @@
 // so a text edited by hand may hold its entries in any order, other weights such as 0.25, and remarks between them; of
 // two entries for one class the first counts.
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,6 +19,9 @@
 #include "hand/hand_classes.h"
 
 namespace quillon {
+
+/// A weight for each class, in class index order.
+using ClassWeights = std::array<double, kHandClassCount>;
 
 /// The weight of the class `label` in a range text: the leading number of what stands between the two characters behind
 /// the label's first occurrence and the next ")". Labels are compared with case. A text without a number there reads as
@@ -35,6 +39,9 @@ namespace quillon {
 /// comes before the number's place.
 [[nodiscard]] double RangeWeightOf(std::string_view text, std::string_view label);
 
+/// The weights of all classes in a range text, each as RangeWeightOf reads it. Fails as that does.
+[[nodiscard]] ClassWeights RangeWeightsOf(std::string_view text);
+
 /// The range text of 169 weights in class index order, each in the general number form. With weights of one character
 /// it has 1508 characters. RunTimeError "Overflow" for a weight that is not finite.
 [[nodiscard]] std::string RangeTextOf(std::span<const double, kHandClassCount> weights);
@@ -43,6 +50,9 @@ namespace quillon {
 /// 12 for an offsuit class at exactly 1, and half as many at exactly 0.5. A class at any other weight shows as not
 /// selected and counts 0. Fails as RangeWeightOf does.
 [[nodiscard]] double SelectedCombos(std::string_view rangeText);
+
+/// The same of weights in class index order. Nothing fails.
+[[nodiscard]] double SelectedCombos(std::span<const double, kHandClassCount> weights);
 
 /// The caption under a grid: the selected hands as a percentage of 1326 to one decimal.
 ///

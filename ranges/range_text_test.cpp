@@ -1,6 +1,5 @@
 #include "ranges/range_text.h"
 
-#include <array>
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -101,10 +100,21 @@ TEST(RangeWeightOf, ReadsEveryClassOfAWholeText) {
   }
 }
 
-using Weights = std::array<double, kHandClassCount>;
+TEST(RangeWeightsOf, ReadsEveryClassByItself) {
+  const ClassWeights weights = RangeWeightsOf("AKs (0.25), AA (1), 22 (0.5), ");
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view label = HandLabel(index);
+    const double expected = label == "AA" ? 1 : label == "AKs" ? 0.25 : label == "22" ? 0.5 : 0;
+    EXPECT_EQ(weights.at(static_cast<std::size_t>(index)), expected) << label;
+  }
+}
+
+TEST(RangeWeightsOf, EmptyTextIsFatal) {
+  EXPECT_EQ(FaultOf([] { return RangeWeightsOf(""); }), RunTimeFault::kInvalidProcedureCall);
+}
 
 TEST(RangeTextOf, WritesEveryClassInIndexOrder) {
-  Weights weights{};
+  ClassWeights weights{};
   weights[0] = 1;
   weights[1] = 1;
   weights[2] = 0.5;
@@ -115,11 +125,11 @@ TEST(RangeTextOf, WritesEveryClassInIndexOrder) {
 }
 
 TEST(RangeTextOf, EmptyGridHas1508Characters) {
-  EXPECT_EQ(RangeTextOf(Weights{}).size(), 1508);
+  EXPECT_EQ(RangeTextOf(ClassWeights{}).size(), 1508);
 }
 
 TEST(RangeTextOf, WritesWeightsInTheGeneralNumberForm) {
-  Weights weights{};
+  ClassWeights weights{};
   weights[0] = 0.25;
   weights[1] = 1.0 / 3;
   weights[2] = -2;
@@ -129,7 +139,7 @@ TEST(RangeTextOf, WritesWeightsInTheGeneralNumberForm) {
 }
 
 TEST(RangeTextOf, WeightWithoutATextIsFatal) {
-  Weights weights{};
+  ClassWeights weights{};
   weights[168] = std::numeric_limits<double>::infinity();
   EXPECT_EQ(FaultOf([&] { return RangeTextOf(weights); }), RunTimeFault::kOverflow);
 }
@@ -160,13 +170,14 @@ TEST(SelectedCombos, CountsConcreteHandsAsTheGridShowsThem) {
 }
 
 TEST(SelectedCombos, WeightThatTheGridCannotShowCountsNothing) {
-  Weights weights{};
+  ClassWeights weights{};
   weights[0] = 0.25;
   weights[1] = 2;
   weights[2] = -1;
   weights[3] = 0.999999999999;
   weights[13] = 0.5;
   EXPECT_EQ(SelectedCombos(RangeTextOf(weights)), 6);
+  EXPECT_EQ(SelectedCombos(weights), 6);
 }
 
 TEST(SelectedCombos, EmptyTextIsFatal) {
