@@ -10,4 +10,16 @@ std::string HomeAddress() {
   return "http://" + std::string(WebHost()) + "/quillon/";
 }
 
+std::string VersionFileAddress() {
+  return HomeAddress() + "register/ver.html";
+}
+
+std::string DownloadAddress() {
+  return HomeAddress() + "download.html";
+}
+
+std::string FeedbackScriptAddress() {
+  return HomeAddress() + "register/benice.php";
+}
+
 }  // namespace quillon

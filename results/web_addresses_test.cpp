@@ -15,5 +15,11 @@ TEST(WebAddresses, TheHomePageIsAFolderOnTheHost) {
   EXPECT_EQ(HomeAddress(), "http://" QUILLON_WEB_HOST "/quillon/");
 }
 
+TEST(WebAddresses, WhatIsAskedForStandsBelowTheHomePage) {
+  EXPECT_EQ(VersionFileAddress(), "http://" QUILLON_WEB_HOST "/quillon/register/ver.html");
+  EXPECT_EQ(DownloadAddress(), "http://" QUILLON_WEB_HOST "/quillon/download.html");
+  EXPECT_EQ(FeedbackScriptAddress(), "http://" QUILLON_WEB_HOST "/quillon/register/benice.php");
+}
+
 }  // namespace
 }  // namespace quillon

@@ -1,0 +1,395 @@
+#include "results/hover_panel.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/analysis_driver.h"
+#include "analysis/quiet_window.h"
+#include "analysis/range_folder.h"
+#include "analysis/results_table.h"
+#include "hand/equity_table.h"
+#include "hand/hand_classes.h"
+#include "results/sample_analysis.h"
+#include "support/recorded_messages.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// A panel without a window, on a grid of cells of 405 that stand 25 apart. What it shows is in the fields, and every
+// call that changes something is a line of the log.
+class RecordedHover final : public HoverWindow {
+ public:
+  void SetHoverPicture(HoverPicture picture) override {
+    Picture = picture == HoverPicture::kGreen ? "green" : picture == HoverPicture::kRed ? "red" : "blue";
+    Calls.push_back("picture " + Picture);
+  }
+  [[nodiscard]] std::string HoverHand() const override { return Hand; }
+  void SetHoverHand(std::string_view caption) override { Set("hand", Hand, caption); }
+  void SetHoverEquityTitle(std::string_view caption) override { Set("equity title", EquityTitle, caption); }
+  void SetHoverEquity(std::string_view caption) override { Set("equity", Equity, caption); }
+  void SetHoverValue(std::string_view caption) override { Set("value", Value, caption); }
+  void SetHoverReturn(std::string_view caption) override { Set("return", Return, caption); }
+  void SetHoverValueLinesVisible(bool visible) override { Show("value lines", ValueLines, visible); }
+  void SetHoverFoldShare(std::string_view caption) override { Set("fold share", FoldShare, caption); }
+  void SetHoverFoldLineVisible(bool visible) override { Show("fold line", FoldLine, visible); }
+  void SetHoverAdvice(std::string_view caption) override { Set("advice", Advice, caption); }
+  [[nodiscard]] TwipRect HoverRect() const override { return Panel; }
+  void SetHoverRect(const TwipRect& rect) override {
+    Panel = rect;
+    Calls.emplace_back("place");
+  }
+  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override {
+    const int row = index / 13;
+    const int column = index % 13;
+    return {.Left = static_cast<float>(520 + 430 * column),
+            .Top = static_cast<float>(940 + 430 * row),
+            .Width = 405,
+            .Height = 405};
+  }
+  [[nodiscard]] TwipRect GridScreenRect() const override { return Screen; }
+  void ShowHover() override { Calls.emplace_back("show"); }
+
+  std::string Picture;
+  std::string Hand;
+  std::string EquityTitle = "Equity (Win %):";
+  std::string Equity = "0.50";
+  std::string Value = "+200";
+  std::string Return = "20%";
+  std::string FoldShare = "50%";
+  std::string Advice = "You should go ALLIN";
+  bool ValueLines = true;
+  bool FoldLine = true;
+  TwipRect Panel = {.Left = 7620, .Top = 1740, .Width = 3780, .Height = 3315};
+  TwipRect Screen = {.Left = 3300, .Top = 0, .Width = 12000, .Height = 9045};
+  std::vector<std::string> Calls;
+
+ private:
+  void Set(const std::string& name, std::string& field, std::string_view caption) {
+    field = caption;
+    Calls.push_back(name + " " + field);
+  }
+  void Show(const std::string& name, bool& field, bool visible) {
+    field = visible;
+    Calls.push_back(name + (visible ? " shown" : " hidden"));
+  }
+};
+
+void Hover(std::string_view hand, const AnalysisState& state, RecordedHover& window) {
+  ShowHandHover(HandIndex(hand), state, window);
+}
+
+RecordedHover HoverOver(std::string_view hand, const AnalysisState& state) {
+  RecordedHover window;
+  Hover(hand, state, window);
+  return window;
+}
+
+// The state of one scenario with the row of KQs as given: "value, tab, equity, tab, fold share".
+AnalysisState WithCells(AnalysisState state, std::string_view cells) {
+  state.HandInfo = sample::ResultsTable({{"KQs", cells}}, "7\t0.7\t0.7");
+  return state;
+}
+
+TEST(HoverPanel, BeforeAnyAnalysisNothingHappens) {
+  for (const AnalysisMode mode : {AnalysisMode::kNone, AnalysisMode::kPreflopCall, AnalysisMode::kEquityOnly}) {
+    AnalysisState state;
+    state.Mode = mode;
+    EXPECT_THAT(HoverOver("KQs", state).Calls, IsEmpty());
+  }
+}
+
+TEST(HoverPanel, CallShowsValueReturnAndVerdict) {
+  RecordedHover window;
+  Hover("AA", sample::CallState(), window);
+  EXPECT_THAT(window.Calls, ElementsAre("value lines shown", "picture green", "hand AA", "fold line hidden",
+                                        "equity title Equity:", "equity 85%", "value +120", "return 240%",
+                                        "advice You should go ALL IN", "place", "show"));
+}
+
+TEST(HoverPanel, RaiseShowsTheFoldShareToo) {
+  RecordedHover window;
+  Hover("AKs", sample::RaiseState(), window);
+  EXPECT_THAT(window.Calls,
+              ElementsAre("value lines shown", "picture green", "hand AKs", "fold line shown", "fold share 40%",
+                          "equity title Equity when Called:", "equity 55%", "value +98.2", "return 196.4%",
+                          "advice You should go ALL IN", "place", "show"));
+}
+
+TEST(HoverPanel, EquityOnlyShowsEquityAndASmiley) {
+  RecordedHover window;
+  Hover("AA", sample::EquityState(), window);
+  EXPECT_THAT(window.Calls, ElementsAre("value lines hidden", "fold line hidden", "hand AA", "picture blue",
+                                        "equity title Equity:", "equity 85.23%", "advice :)", "place", "show"));
+  EXPECT_EQ(window.Value, "+200") << "hidden lines keep their texts";
+  EXPECT_EQ(window.Return, "20%");
+}
+
+struct MoveCase {
+  const char* rule;
+  const char* cells;
+  const char* picture;
+  const char* equity;
+  const char* value;
+  const char* back;
+  const char* advice;
+};
+
+TEST(HoverPanel, NumbersAndVerdictFollowTheTable) {
+  // 50 to call
+  const std::vector<MoveCase> cases = {
+      {"a profit", "12.5\t0.55\t1", "green", "55%", "+12.5", "25%", "You should go ALL IN"},
+      {"a loss", "-25.32\t0.1234\t1", "red", "12.34%", "-25.32", "-50.6%", "You should FOLD"},
+      {"a value of 0 is red, has no sign and leaves the choice", "0\t0.25\t1", "red", "25%", "0", "0%",
+       "FOLD or ALL IN"},
+      {"no cells at all read as 0", "", "red", "0%", "0", "0%", "FOLD or ALL IN"},
+      {"nobody calls", "150\t-1\t1", "green", "N/A", "+150", "300%", "You should go ALL IN"},
+      {"an equity that is nearly -1 is a number", "150\t-0.999999\t1", "green", "-100%", "+150", "300%",
+       "You should go ALL IN"},
+      {"equity to two decimals of percent", "1\t0.123456789\t1", "green", "12.35%", "+1", "2%", "You should go ALL IN"},
+      {"an equity tie goes to even", "1\t0.50125\t1", "green", "50.12%", "+1", "2%", "You should go ALL IN"},
+      {"and the other way", "1\t0.50375\t1", "green", "50.38%", "+1", "2%", "You should go ALL IN"},
+      {"the multiplied value is what is rounded", "1\t0.30125\t1", "green", "30.12%", "+1", "2%",
+       "You should go ALL IN"},
+      {"and the other way", "1\t0.30195\t1", "green", "30.2%", "+1", "2%", "You should go ALL IN"},
+      {"value to eight decimals", "12.123456789012\t0.5\t1", "green", "50%", "+12.12345679", "24.2%",
+       "You should go ALL IN"},
+      {"a profit too small to show keeps its sign", "0.000000001\t0.5\t1", "green", "50%", "+0", "0%",
+       "You should go ALL IN"},
+      {"a loss too small to show does not", "-0.000000001\t0.5\t1", "red", "50%", "0", "0%", "You should FOLD"},
+      {"a value in the exponent form", "0.00000001\t0.5\t1", "green", "50%", "+0.00000001", "0%",
+       "You should go ALL IN"},
+      {"no thousands separators", "1234567.5\t0.5\t1", "green", "50%", "+1234567.5", "2469135%",
+       "You should go ALL IN"},
+      {"a return tie goes to even", "0.125\t0.5\t1", "green", "50%", "+0.125", "0.2%", "You should go ALL IN"},
+      {"and the other way", "0.375\t0.5\t1", "green", "50%", "+0.375", "0.8%", "You should go ALL IN"},
+  };
+  for (const MoveCase& c : cases) {
+    for (const AnalysisState& state : {sample::CallState(), sample::RaiseState()}) {
+      const RecordedHover window = HoverOver("KQs", WithCells(state, c.cells));
+      EXPECT_EQ(window.Hand, "KQs") << c.rule;
+      EXPECT_EQ(window.Picture, c.picture) << c.rule;
+      EXPECT_EQ(window.Equity, c.equity) << c.rule;
+      EXPECT_EQ(window.Value, c.value) << c.rule;
+      EXPECT_EQ(window.Return, c.back) << c.rule;
+      EXPECT_EQ(window.Advice, c.advice) << c.rule;
+    }
+  }
+}
+
+TEST(HoverPanel, FoldShareIsRoundedToTwoDecimalsOfPercent) {
+  struct Case {
+    const char* cells;
+    const char* text;
+  };
+  const std::vector<Case> cases = {
+      {"1\t0.5\t0", "0%"},           {"1\t0.5\t1", "100%"},
+      {"1\t0.5\t0.4", "40%"},        {"1\t0.5\t0.123456789", "12.35%"},
+      {"1\t0.5\t0.50125", "50.12%"}, {"1\t0.5\t0.333333333333333", "33.33%"},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(HoverOver("KQs", WithCells(sample::RaiseState(), c.cells)).FoldShare, c.text);
+}
+
+TEST(HoverPanel, ReturnIsMeasuredByTheCallAmountAlone) {
+  AnalysisState state = WithCells(sample::RaiseState(), "100\t0.5\t0.5");
+  state.CallAmount = 80;
+  state.ShoveAmount = 1000;
+  EXPECT_EQ(HoverOver("KQs", state).Return, "125%");
+}
+
+TEST(HoverPanel, ReturnThatIsNoNumberReadsAsSuch) {
+  struct Case {
+    const char* rule;
+    const char* cells;
+    double call;
+    const char* value;
+    const char* back;
+  };
+  const std::vector<Case> cases = {
+      {"a profit on nothing", "150\t0.5\t0.5", 0, "+150", "N/A"},
+      {"a loss on nothing", "-150\t0.5\t0.5", 0, "-150", "N/A"},
+      {"nothing on nothing", "0\t0.5\t0.5", 0, "0", "N/A"},
+      {"a profit on so little that the quotient has no double", "150\t0.5\t0.5", 1e-310, "+150", "N/A"},
+      {"or that only the percentage has none", "150\t0.5\t0.5", 1e-305, "+150", "N/A"},
+      {"a negative amount is one", "150\t0.5\t0.5", -100, "+150", "-150%"},
+  };
+  for (const Case& c : cases) {
+    AnalysisState state = WithCells(sample::RaiseState(), c.cells);
+    state.CallAmount = c.call;
+    const RecordedHover window = HoverOver("KQs", state);
+    EXPECT_EQ(window.Value, c.value) << c.rule;
+    EXPECT_EQ(window.Return, c.back) << c.rule;
+    EXPECT_EQ(window.FoldShare, "50%") << c.rule;
+    EXPECT_EQ(window.Calls.back(), "show") << c.rule;
+  }
+}
+
+TEST(HoverPanel, EquityOnlyRoundsBeforeItMultiplies) {
+  struct Case {
+    const char* rule;
+    const char* cells;
+    const char* equity;
+    const char* advice;
+  };
+  const std::vector<Case> cases = {
+      {"a quarter is good", "0\t0.25\t1", "25%", ":)"},
+      {"less is not", "0\t0.2499\t1", "24.99%", ":("},
+      {"not even when it rounds to a quarter", "0\t0.249999\t1", "25%", ":("},
+      {"four decimals", "0\t0.123456789\t1", "12.35%", ":("},
+      {"what is a tie only once multiplied is rounded as it is stored", "0\t0.30125\t1", "30.13%", ":)"},
+      {"and the other way", "0\t0.30195\t1", "30.19%", ":)"},
+      {"a product just off its decimals", "0\t0.5787\t1", "57.87%", ":)"},
+      {"certain", "0\t1\t1", "100%", ":)"},
+      {"nothing", "0\t0\t1", "0%", ":("},
+      {"-1 is a number here", "0\t-1\t1", "-100%", ":("},
+  };
+  for (const Case& c : cases) {
+    const RecordedHover window = HoverOver("KQs", WithCells(sample::EquityState(), c.cells));
+    EXPECT_EQ(window.Equity, c.equity) << c.rule;
+    EXPECT_EQ(window.Advice, c.advice) << c.rule;
+    EXPECT_EQ(window.Picture, "blue") << c.rule;
+  }
+}
+
+TEST(HoverPanel, SameHandIsPlacedAndNotFilledAgain) {
+  RecordedHover window;
+  Hover("AA", sample::CallState(), window);
+  window.Calls.clear();
+  Hover("AA", sample::CallState(), window);
+  EXPECT_THAT(window.Calls, ElementsAre("value lines shown", "place", "show"));
+
+  window = HoverOver("AA", sample::EquityState());
+  window.Calls.clear();
+  Hover("AA", sample::EquityState(), window);
+  EXPECT_THAT(window.Calls, ElementsAre("value lines hidden", "fold line hidden", "place", "show"));
+}
+
+TEST(HoverPanel, OldNumbersOfAHandStayUntilAnotherIsHovered) {
+  RecordedHover window;
+  Hover("AA", sample::CallState(), window);
+  Hover("AA", sample::RaiseState(), window);
+  EXPECT_EQ(window.Value, "+120");
+  EXPECT_EQ(window.EquityTitle, "Equity:");
+  EXPECT_FALSE(window.FoldLine);
+
+  Hover("KK", sample::RaiseState(), window);
+  Hover("AA", sample::RaiseState(), window);
+  EXPECT_EQ(window.Value, "+150");
+  EXPECT_EQ(window.Equity, "N/A");
+  EXPECT_TRUE(window.FoldLine);
+}
+
+TEST(HoverPanel, NewScenarioOverTheSameHandShowsOldTextsInItsOwnLines) {
+  RecordedHover window;
+  Hover("AA", sample::RaiseState(), window);
+  Hover("AA", sample::EquityState(), window);
+  EXPECT_EQ(window.Picture, "green");
+  EXPECT_EQ(window.Advice, "You should go ALL IN");
+  EXPECT_FALSE(window.ValueLines);
+  EXPECT_FALSE(window.FoldLine);
+
+  Hover("AA", sample::CallState(), window);
+  EXPECT_TRUE(window.ValueLines);
+  EXPECT_FALSE(window.FoldLine);
+}
+
+TEST(HoverPanel, CallAfterRaiseHidesTheFoldLineWithTheNextHand) {
+  RecordedHover window;
+  Hover("AKs", sample::RaiseState(), window);
+  EXPECT_TRUE(window.FoldLine);
+  Hover("AKs", sample::CallState(), window);
+  EXPECT_TRUE(window.FoldLine);
+  Hover("22", sample::CallState(), window);
+  EXPECT_FALSE(window.FoldLine);
+  EXPECT_EQ(window.EquityTitle, "Equity:");
+}
+
+TEST(HoverPanel, EveryCellFillsInItsOwnHand) {
+  RecordedHover window;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    ShowHandHover(index, sample::CallState(), window);
+    EXPECT_EQ(window.Hand, HandLabel(index));
+    EXPECT_EQ(window.Panel.Top < window.SquareRect(index).Top, index >= 11 * 13) << index;
+  }
+}
+
+TEST(HoverPlace, HangsBelowTheCellAndFlipsWhereItWouldLeaveTheScreen) {
+  struct Case {
+    const char* rule;
+    TwipRect square;
+    float left;
+    float top;
+  };
+  // The panel takes 3780 by 3315 of 12000 by 9045: it fits from left 8220 and, below a square of 405, from top 5300.
+  const std::vector<Case> cases = {
+      {"below, left edge on left edge", {625, 1045, 405, 405}, 625, 1475},
+      {"fitting exactly to the right", {8220, 1045, 405, 405}, 8220, 1475},
+      {"one too far to the right", {8221, 1045, 405, 405}, 4441, 1475},
+      {"fitting exactly at the bottom", {625, 5300, 405, 405}, 625, 5730},
+      {"one too far down", {625, 5301, 405, 405}, 625, 1961},
+      {"too far both ways", {11000, 8000, 405, 405}, 7220, 4660},
+      {"a taller square fits less far down", {625, 5300, 405, 406}, 625, 1960},
+      {"half a twip too far", {8220.5F, 5300.5F, 405, 405}, 4440.5F, 1960.5F},
+  };
+  for (const Case& c : cases) {
+    const RecordedHover window;
+    const TwipRect expected = {.Left = c.left, .Top = c.top, .Width = 3780, .Height = 3315};
+    EXPECT_EQ(HoverPlace(window.Panel, c.square, window.Screen), expected) << c.rule;
+  }
+}
+
+TEST(HoverPlace, FlippedPanelTouchesTheCellAtItsLeftAndLeavesAGapAbove) {
+  const RecordedHover window;
+  const TwipRect square = {.Left = 10000, .Top = 7000, .Width = 405, .Height = 405};
+  const TwipRect place = HoverPlace(window.Panel, square, window.Screen);
+  EXPECT_EQ(place.Left + place.Width, square.Left);
+  EXPECT_EQ(place.Top + place.Height + 25, square.Top);
+}
+
+TEST(HoverPlace, SumsHaveThePrecisionOfA32BitFloat) {
+  // A ten thousandth of a twip is lost beside 3780.
+  const TwipRect panel = {.Left = 0, .Top = 0, .Width = 3780, .Height = 3315};
+  const TwipRect square = {.Left = 0.0001F, .Top = 0, .Width = 405, .Height = 405};
+  const TwipRect screen = {.Left = 0, .Top = 0, .Width = 3780, .Height = 9000};
+  EXPECT_EQ(HoverPlace(panel, square, screen).Left, 0.0001F);
+}
+
+TEST(PlaceHover, MovesThePanelToItsCellAndBringsItUp) {
+  RecordedHover window;
+  PlaceHover(HandIndex("22"), window);
+  EXPECT_THAT(window.Calls, ElementsAre("place", "show"));
+  EXPECT_EQ(window.Panel, (TwipRect{.Left = 5680, .Top = 2760, .Width = 3780, .Height = 3315}));
+}
+
+// Shoves with nothing to call pass the input checks, and each of their hands can be hovered.
+TEST(HoverPanel, RealShoveWithNothingToCallHoversEveryHand) {
+  LoadEquityTable();
+  const RangeFolder ranges;
+  ranges.Save("Tight", RangeWith({{"AA", 1}, {"KK", 1}, {"AKs", 0.5}}));
+  RecordedMessages messages;
+  QuietWindow situation({.Pot = "150", .Call = "0", .Shove = "62.5", .Range = "Tight", .CallingRange = "Tight"},
+                        messages);
+  AnalysisState state;
+  RunAnalysis(state, 1, situation, ranges.Folder());
+  ASSERT_FALSE(state.HandInfo.empty());
+
+  RecordedHover window;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    ShowHandHover(index, state, window);
+    const double value = GetHandInfo(state.HandInfo, HandLabel(index), kExpectedValueColumn);
+    EXPECT_EQ(window.Return, "N/A") << HandLabel(index);
+    EXPECT_EQ(window.Picture, value > 0 ? "green" : "red") << HandLabel(index);
+    EXPECT_EQ(window.Value.front() == '+', value > 0) << window.Value;
+    EXPECT_EQ(window.FoldShare, "0%") << HandLabel(index);
+  }
+}
+
+}  // namespace
+}  // namespace quillon
