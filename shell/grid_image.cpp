@@ -1,0 +1,45 @@
+#include "shell/grid_image.h"
+
+#include "support/files.h"
+#include "support/folders.h"
+#include "support/rounding.h"
+
+namespace quillon {
+namespace {
+
+std::int32_t Whole(double value) {
+  return static_cast<std::int32_t>(RoundTo(value, 0));
+}
+
+bool WantsToSeeIt(MessageBoxes& messages) {
+  return messages.Show({"Open Now?", "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
+                        MessageIcon::kQuestion, MessageButtons::kYesNo}) == MessageAnswer::kYes;
+}
+
+}  // namespace
+
+CaptureRect CaptureRectOf(const TwipRect& rect) {
+  return {Whole(rect.Left), Whole(rect.Top), Whole(rect.Left + rect.Width), Whole(rect.Top + rect.Height)};
+}
+
+PixelRect PixelsOf(const CaptureRect& rect, double twipsPerPixelX, double twipsPerPixelY) {
+  return {Whole(rect.Left / twipsPerPixelX), Whole(rect.Top / twipsPerPixelY),
+          Whole((rect.Right - rect.Left) / twipsPerPixelX), Whole((rect.Bottom - rect.Top) / twipsPerPixelY)};
+}
+
+std::string SaveGridImage(const std::string& earlierName, GridImageWindow& window, const ProgramFolder& folder) {
+  const std::filesystem::path savedGrids = folder.Path / "Saved Grids";
+  MakeFolderIfMissing(savedGrids, *folder.Calls);
+
+  std::string fileName =
+      window.AskSaveName({"24-bit Bitmap | *.bmp", "Save Expected Value Grid", savedGrids, earlierName});
+  if (fileName.empty()) fileName = earlierName;
+  if (fileName.empty()) return {};
+
+  const std::string bitmap = window.CaptureRegion(CaptureRectOf(window.GridContainer()));
+  ReplaceFile(fileName, bitmap, folder.Path, *folder.Calls);
+  if (WantsToSeeIt(window.Messages())) window.OpenImage(fileName);
+  return fileName;
+}
+
+}  // namespace quillon

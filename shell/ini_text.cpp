@@ -1,0 +1,125 @@
+#include "shell/ini_text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+namespace quillon {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r";  // a stray CR is no part of a name or value either
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return text.substr(0, 0);
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+char LowerCase(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool IsSameName(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return LowerCase(x) == LowerCase(y); });
+}
+
+bool IsInQuotes(std::string_view value) {
+  return value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
+}
+
+std::optional<std::string_view> SectionName(std::string_view line) {
+  line = Trimmed(line);
+  const std::size_t end = line.find(']');
+  if (!line.starts_with('[') || end == std::string_view::npos) return std::nullopt;
+  return Trimmed(line.substr(1, end - 1));
+}
+
+struct KeyLine {
+  std::string_view key;
+  std::string_view value;  // stands in the line, also where it is empty
+};
+
+std::optional<KeyLine> ReadKeyLine(std::string_view line) {
+  const std::size_t equals = line.find('=');
+  if (equals == std::string_view::npos || Trimmed(line).starts_with(';')) return std::nullopt;
+  return KeyLine{Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1))};
+}
+
+struct KeyPlace {
+  bool sectionFound = false;
+  std::size_t newLine = 0;  // where a line for the key would go in, if the section was found
+  std::optional<std::string_view> value;  // a part of the text
+};
+
+std::size_t StartOfLines(std::string_view text) {
+  return text.starts_with(kUtf8Mark) ? kUtf8Mark.size() : 0;
+}
+
+KeyPlace FindKey(std::string_view text, std::string_view section, std::string_view key) {
+  KeyPlace place;
+  std::size_t begin = StartOfLines(text);
+  while (begin < text.size()) {
+    const std::size_t lineFeed = std::min(text.find('\n', begin), text.size());
+    const std::size_t next = std::min(lineFeed + 1, text.size());
+    const std::string_view line = text.substr(begin, lineFeed - begin);
+    begin = next;
+
+    if (const auto name = SectionName(line)) {
+      if (place.sectionFound) return place;
+      place.sectionFound = IsSameName(*name, section);
+      place.newLine = next;
+    } else if (const auto keyLine = ReadKeyLine(line); keyLine && place.sectionFound) {
+      // A comment above the next heading belongs to that heading, so new keys go in behind the last key.
+      place.newLine = next;
+      if (IsSameName(keyLine->key, key)) {
+        place.value = keyLine->value;
+        return place;
+      }
+    }
+  }
+  return place;
+}
+
+std::string_view LineEndOf(std::string_view text) {
+  const std::size_t lineFeed = text.find('\n');
+  const bool bare = lineFeed != std::string_view::npos && (lineFeed == 0 || text[lineFeed - 1] != '\r');
+  return bare ? "\n" : "\r\n";
+}
+
+std::string StoredForm(std::string_view value) {
+  value = value.substr(0, value.find_first_of("\r\n"));
+  const bool needsQuotes = Trimmed(value) != value || IsInQuotes(value);
+  const std::string_view quote = needsQuotes ? "\"" : "";
+  return std::string(quote).append(value).append(quote);
+}
+
+}  // namespace
+
+std::string IniValue(std::string_view text, std::string_view section, std::string_view key) {
+  std::string_view value = FindKey(text, section, key).value.value_or("");
+  if (IsInQuotes(value)) value = value.substr(1, value.size() - 2);
+  return std::string(value);
+}
+
+std::string WithIniValue(std::string_view text, std::string_view section, std::string_view key,
+                         std::string_view value) {
+  const KeyPlace place = FindKey(text, section, key);
+  const std::string stored = StoredForm(value);
+  std::string result(text);
+  if (place.value) {
+    const auto offset = static_cast<std::size_t>(place.value->data() - text.data());
+    return result.replace(offset, place.value->size(), stored);
+  }
+
+  const std::string_view lineEnd = LineEndOf(text);
+  const std::size_t newLine = place.sectionFound ? place.newLine : text.size();
+  std::string added;
+  if (newLine > StartOfLines(text) && text[newLine - 1] != '\n') added += lineEnd;
+  if (!place.sectionFound) added.append("[").append(section).append("]").append(lineEnd);
+  added.append(key).append("=").append(stored).append(lineEnd);
+  return result.insert(newLine, added);
+}
+
+}  // namespace quillon

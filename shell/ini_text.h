@@ -1,0 +1,39 @@
+#pragma once
+
+// The text of a settings file, as bytes. It is the old profile text that people edit by hand: lines of `key=value`
+// under headings in square brackets.
+//
+//     [Main]
+//     Left=1500
+//     ; a comment
+//     [Values]
+//     0=150
+//
+// Sections and keys are found whatever the case of their letters A to Z, and blanks (space and tab) round a section's
+// name, a key and a value do not count. A line that starts with ";" is a comment. Where a section, or a key in it,
+// stands more than once the first counts, and a key before any heading is in no section. A line ends with LF or CR LF.
+// The three bytes with which some editors mark UTF-8 may stand in front of all.
+//
+// Writing changes the one value, or adds a line for it, and leaves every other byte as it is.
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// The value of a key, the empty text where there is none. One pair of quotes, double or single, that encloses the
+/// value is taken off.
+///
+///     "Left = 5 " -> "5"      "0=\" 5 \"" -> " 5 "      "0='a'b'" -> "a'b"      "0=\"" -> "\""      "0=a=b" -> "a=b"
+[[nodiscard]] std::string IniValue(std::string_view text, std::string_view section, std::string_view key);
+
+/// The text with the key's value changed. The value is put in so that IniValue gives it back: in double quotes if a
+/// blank stands at either end of it or if it stands in quotes itself, else as it is. It ends at its first line end, for
+/// a value is one line.
+///
+/// A new key goes behind the last one of its section, and a new section to the end of the text. Their lines end as the
+/// first line of the text does, with CR LF where it has none.
+[[nodiscard]] std::string WithIniValue(std::string_view text, std::string_view section, std::string_view key,
+                                       std::string_view value);
+
+}  // namespace quillon

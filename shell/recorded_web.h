@@ -1,0 +1,33 @@
+#pragma once
+
+// For tests: a web that answers what it is told to, and keeps what it was asked for.
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "shell/web_client.h"
+
+namespace quillon {
+
+class RecordedWeb : public WebClient {
+ public:
+  explicit RecordedWeb(std::deque<std::string> replies = {}) : Replies(std::move(replies)) {}
+
+  std::string Get(std::string_view address) override {
+    Asked.emplace_back(address);
+    if (WhileAsked) WhileAsked();
+    if (Replies.empty()) return {};
+    std::string reply = Replies.front();
+    Replies.pop_front();
+    return reply;
+  }
+
+  std::vector<std::string> Asked;
+  std::deque<std::string> Replies;  // to the requests to come, the first first; they fail once these are used up
+  std::function<void()> WhileAsked;  // looks at things while a request is on its way
+};
+
+}  // namespace quillon

@@ -1,0 +1,38 @@
+#include "shell/settings_file.h"
+
+#include <optional>
+
+#include "shell/ini_text.h"
+#include "support/files.h"
+#include "support/run_time_error.h"
+#include "support/windows_1252.h"
+
+namespace quillon {
+
+std::filesystem::path SettingsFilePath(const ProgramFolder& folder) {
+  return folder.Path / "settings.ini";
+}
+
+std::string ReadIniValue(std::string_view section, std::string_view key, const ProgramFolder& folder) {
+  const std::string value = IniValue(ReadAllBytes(SettingsFilePath(folder), *folder.Calls), section, key);
+  return Utf8FromWindows1252(std::string_view(value).substr(0, kLongestSetting));
+}
+
+void WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
+                   const ProgramFolder& folder) {
+  const std::filesystem::path path = SettingsFilePath(folder);
+  const std::optional<std::string> before = TryReadAllBytes(path, *folder.Calls);
+  if (!before) return;
+  const std::string after = WithIniValue(*before, section, key, Windows1252FromUtf8(value));
+  if (after == *before) return;
+
+  try {
+    ReplaceFile(path, after, folder.Path, *folder.Calls);
+  } catch (const RunTimeError&) {
+    // The one failure that is let go: a window position is not worth stopping a user for who is just closing the
+    // program, and the old file is whole.
+    return;
+  }
+}
+
+}  // namespace quillon

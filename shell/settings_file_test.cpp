@@ -1,0 +1,208 @@
+#include "shell/settings_file.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <span>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <utility>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+#include "support/passing_calls.h"
+
+namespace quillon {
+namespace {
+
+void Put(const ProgramFolder& folder, std::string_view bytes) {
+  std::ofstream(SettingsFilePath(folder), std::ios::binary) << bytes;
+}
+
+std::string Content(const ProgramFolder& folder) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(SettingsFilePath(folder), std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+std::ptrdiff_t EntriesOf(const ProgramFolder& folder) {
+  return std::distance(std::filesystem::directory_iterator(folder.Path), std::filesystem::directory_iterator());
+}
+
+// Counts the calls, and makes the one of a number fail.
+class FailingCalls final : public PassingCalls {
+ public:
+  explicit FailingCalls(int callsUntilFailure) : left_(callsUntilFailure) {}
+
+  [[nodiscard]] bool HasFailed() const { return left_ < 0; }
+
+  int Open(const std::string& path, int flags, mode_t mode) override {
+    return Fails() ? -EACCES : PassingCalls::Open(path, flags, mode);
+  }
+  ssize_t Read(int file, std::span<char> buffer) override { return Fails() ? -EIO : PassingCalls::Read(file, buffer); }
+  ssize_t Write(int file, std::string_view bytes) override {
+    return Fails() ? -ENOSPC : PassingCalls::Write(file, bytes);
+  }
+  int Sync(int file) override { return Fails() ? -EIO : PassingCalls::Sync(file); }
+  int Close(int file) override {
+    const int closed = PassingCalls::Close(file);
+    return Fails() ? -EIO : closed;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    return Fails() ? -EACCES : PassingCalls::Rename(from, to);
+  }
+  int Unlink(const std::string& path) override { return Fails() ? -EIO : PassingCalls::Unlink(path); }
+
+ private:
+  bool Fails() { return left_-- == 0; }
+
+  int left_;
+};
+
+TEST(SettingsFile, StandsInTheProgramsFolder) {
+  EXPECT_EQ(SettingsFilePath({"/opt/quillon"}), "/opt/quillon/settings.ini");
+}
+
+TEST(SettingsFile, MissingFileSectionOrKeyIsTheEmptyText) {
+  const TemporaryProgram program;
+  EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "");
+  EXPECT_EQ(EntriesOf(program.Folder()), 1) << "reading makes no file; the range folder is there";
+  Put(program.Folder(), "[Main]\r\nLeft=5\r\n");
+  EXPECT_EQ(ReadIniValue("Main", "Top", program.Folder()), "");
+  EXPECT_EQ(ReadIniValue("New", "Left", program.Folder()), "");
+  EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "5");
+}
+
+TEST(SettingsFile, IsMadeByTheFirstWrite) {
+  const TemporaryProgram program;
+  WriteIniValue("Upgrade", "Auto", "1", program.Folder());
+  EXPECT_EQ(Content(program.Folder()), "[Upgrade]\r\nAuto=1\r\n");
+  EXPECT_EQ(EntriesOf(program.Folder()), 2) << "no scratch file stays";
+}
+
+TEST(SettingsFile, KeepsTheOtherLines) {
+  const TemporaryProgram program;
+  Put(program.Folder(), "; mine\r\n[Main]\r\nLeft=5\r\nHello\r\n[Other]\r\nLeft=6\r\n");
+  WriteIniValue("Main", "Left", "7", program.Folder());
+  WriteIniValue("Main", "Top", "8", program.Folder());
+  EXPECT_EQ(Content(program.Folder()), "; mine\r\n[Main]\r\nLeft=7\r\nTop=8\r\nHello\r\n[Other]\r\nLeft=6\r\n");
+}
+
+TEST(SettingsFile, GivesEveryTextBackAsItStood) {
+  const TemporaryProgram program;
+  for (const char* text : {"", "150", "=735+220-178", "abc", "  35 dollars ", "\"5\"", "'5'", "\"", "5 €", "Grüße",
+                           "; no comment", "[Main]", "a=b", "\t", " \" "}) {
+    WriteIniValue("Values", "0", text, program.Folder());
+    EXPECT_EQ(ReadIniValue("Values", "0", program.Folder()), text);
+  }
+}
+
+TEST(SettingsFile, IsInTheCodePage) {
+  const TemporaryProgram program;
+  WriteIniValue("Values", "0", "5 € ♠", program.Folder());
+  EXPECT_EQ(Content(program.Folder()), "[Values]\r\n0=5 \x80 ?\r\n");
+  EXPECT_EQ(ReadIniValue("Values", "0", program.Folder()), "5 € ?");
+}
+
+TEST(SettingsFile, IsReadUpTo2999Characters) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {std::string(2999, 'x'), std::string(2999, 'x')},
+      {std::string(3000, 'x'), std::string(2999, 'x')},
+      {std::string(100000, 'x'), std::string(2999, 'x')},
+      {" " + std::string(2999, 'x'), " " + std::string(2998, 'x')},
+  };
+  const TemporaryProgram program;
+  for (const auto& [text, read] : cases) {
+    WriteIniValue("Values", "0", text, program.Folder());
+    EXPECT_EQ(ReadIniValue("Values", "0", program.Folder()), read) << "length " << text.size();
+  }
+  std::string euros;
+  for (int i = 0; i < 3500; ++i)
+    euros += "€";
+  WriteIniValue("Values", "0", euros, program.Folder());
+  EXPECT_EQ(ReadIniValue("Values", "0", program.Folder()), euros.substr(0, 2999 * std::string_view("€").size()))
+      << "characters count, not bytes";
+}
+
+TEST(SettingsFile, ThatCannotBeReadIsNotOverwritten) {
+  const TemporaryProgram program;
+  Put(program.Folder(), "[Main]\r\nLeft=5\r\n");
+  for (const int call : {0, 1}) {  // opening it, reading it
+    FailingCalls calls(call);
+    WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls});
+    EXPECT_TRUE(calls.HasFailed());
+    EXPECT_EQ(Content(program.Folder()), "[Main]\r\nLeft=5\r\n") << "call " << call;
+    EXPECT_EQ(EntriesOf(program.Folder()), 2) << "call " << call;
+  }
+}
+
+TEST(SettingsFile, WriteThatFailsAnywhereStopsNobodyAndLosesNothing) {
+  const TemporaryProgram program;
+  const std::string before = "[Main]\r\nLeft=5\r\n";
+  const std::string after = "[Main]\r\nLeft=7\r\n";
+  int failures = 0;
+  bool reached = true;
+  for (int call = 0; reached; ++call) {
+    ASSERT_LT(call, 100) << "a write makes a handful of calls";
+    Put(program.Folder(), before);
+    FailingCalls calls(call);
+    EXPECT_NO_THROW(WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls})) << "call " << call;
+    reached = calls.HasFailed();
+    const std::string content = Content(program.Folder());
+    failures += content == before ? 1 : 0;
+    EXPECT_TRUE(content == before || content == after) << "call " << call << ": " << content;
+    EXPECT_EQ(EntriesOf(program.Folder()), 2) << "call " << call;
+  }
+  EXPECT_GE(failures, 5) << "reading, opening, writing, reaching the disk and renaming can each fail";
+}
+
+TEST(SettingsFile, InAFolderThatIsNotThereIsNeitherReadNorWritten) {
+  const ProgramFolder nowhere{"/no/such/folder"};
+  EXPECT_NO_THROW(WriteIniValue("Main", "Left", "7", nowhere));
+  EXPECT_EQ(ReadIniValue("Main", "Left", nowhere), "");
+}
+
+TEST(SettingsFile, ThatIsAFolderStays) {
+  const TemporaryProgram program;
+  std::filesystem::create_directory(SettingsFilePath(program.Folder()));
+  EXPECT_NO_THROW(WriteIniValue("Main", "Left", "7", program.Folder()));
+  EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "");
+  EXPECT_TRUE(std::filesystem::is_directory(SettingsFilePath(program.Folder())));
+}
+
+TEST(SettingsFile, IsNotTouchedByTheValueItHas) {
+  class Watching final : public PassingCalls {
+   public:
+    int Open(const std::string& path, int flags, mode_t mode) override {
+      writes += (flags & (O_WRONLY | O_RDWR)) != 0 ? 1 : 0;
+      return PassingCalls::Open(path, flags, mode);
+    }
+    int writes = 0;
+  };
+  const TemporaryProgram program;
+  Put(program.Folder(), "[Main]\nLeft = 7\n");
+  Watching calls;
+  WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls});
+  EXPECT_EQ(calls.writes, 0);
+  WriteIniValue("Main", "Left", "8", {program.Folder().Path, &calls});
+  EXPECT_GT(calls.writes, 0);
+}
+
+TEST(SettingsFile, ALinkToItStaysALink) {
+  const TemporaryProgram program;
+  const std::filesystem::path real = program.Folder().Path / "real.ini";
+  std::ofstream(real) << "[Main]\nLeft=5\n";
+  std::filesystem::create_symlink("real.ini", SettingsFilePath(program.Folder()));
+  WriteIniValue("Main", "Left", "7", program.Folder());
+  EXPECT_TRUE(std::filesystem::is_symlink(SettingsFilePath(program.Folder())));
+  EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "7");
+}
+
+}  // namespace
+}  // namespace quillon
