@@ -4,7 +4,7 @@
 // test says, which need not be as the rules of HTTP say.
 
 #include <arpa/inet.h>
-#include <atomic>
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <mutex>
@@ -23,15 +23,20 @@ namespace quillon {
 class LoopbackConnection {
  public:
   explicit LoopbackConnection(int socket) : socket_(socket) {
-    while (Request.find("\r\n\r\n") == std::string::npos && Receive(&Request)) {
+    while (request_.find("\r\n\r\n") == std::string::npos && Receive(&request_)) {
     }
   }
   ~LoopbackConnection() { close(socket_); }
   LoopbackConnection(const LoopbackConnection&) = delete;
   LoopbackConnection& operator=(const LoopbackConnection&) = delete;
+  LoopbackConnection(LoopbackConnection&&) = delete;
+  LoopbackConnection& operator=(LoopbackConnection&&) = delete;
+
+  /// The head of the request, with its empty line.
+  [[nodiscard]] const std::string& Request() const { return request_; }
 
   /// False once the other end is gone.
-  bool Send(std::string_view bytes) {
+  bool Send(std::string_view bytes) const {
     while (!bytes.empty()) {
       const ssize_t sent = send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
       if (sent <= 0) return false;
@@ -40,29 +45,28 @@ class LoopbackConnection {
     return true;
   }
 
-  void WaitUntilTheOtherEndIsGone() {
+  void WaitUntilTheOtherEndIsGone() const {
     while (Receive(nullptr)) {
     }
   }
 
   /// Ends the connection as a crash would, not as a host does that has said all.
-  void Break() {
+  void Break() const {
     const linger atOnce = {.l_onoff = 1, .l_linger = 0};
     setsockopt(socket_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
   }
 
-  std::string Request;  // up to the empty line
-
  private:
-  bool Receive(std::string* text) {
-    char block[4096];
-    const ssize_t count = recv(socket_, block, sizeof block, 0);
+  bool Receive(std::string* text) const {
+    std::array<char, 4096> block{};
+    const ssize_t count = recv(socket_, block.data(), block.size(), 0);
     if (count <= 0) return false;
-    if (text != nullptr) text->append(block, static_cast<std::size_t>(count));
+    if (text != nullptr) text->append(block.data(), static_cast<std::size_t>(count));
     return true;
   }
 
   int socket_;
+  std::string request_;
 };
 
 class LoopbackHost {
@@ -74,11 +78,11 @@ class LoopbackHost {
     place.sin_family = AF_INET;
     place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof place;
-    auto* generalPlace = reinterpret_cast<sockaddr*>(&place);
-    bind(socket_, generalPlace, size);
-    listen(socket_, 16);
-    getsockname(socket_, generalPlace, &size);
-    port_ = ntohs(place.sin_port);
+    void* anyPlace = &place;
+    auto* address = static_cast<sockaddr*>(anyPlace);
+    const bool listens =
+        bind(socket_, address, size) == 0 && listen(socket_, 16) == 0 && getsockname(socket_, address, &size) == 0;
+    if (listens) port_ = ntohs(place.sin_port);
     thread_ = std::thread([this] { Run(); });
   }
 
@@ -93,6 +97,8 @@ class LoopbackHost {
   }
   LoopbackHost(const LoopbackHost&) = delete;
   LoopbackHost& operator=(const LoopbackHost&) = delete;
+  LoopbackHost(LoopbackHost&&) = delete;
+  LoopbackHost& operator=(LoopbackHost&&) = delete;
 
   [[nodiscard]] std::uint16_t Port() const { return port_; }
 
@@ -114,7 +120,7 @@ class LoopbackHost {
       LoopbackConnection connection(accepted);
       {
         const std::lock_guard lock(mutex_);
-        requests_.push_back(connection.Request);
+        requests_.push_back(connection.Request());
       }
       serve_(connection);
     }

@@ -1,0 +1,13 @@
+#pragma once
+
+// The pictures of the window, compiled into the program as SVG sources. A picture is found among Qt's resources by the
+// name of its file, as in ":/artwork/logo.svg", and its default size is the one that it has on a screen of 96 dots to
+// the inch. README.md beside this header tells what makes them one family.
+
+namespace quillon {
+
+/// Makes the pictures findable. To be called once before the first of them is opened; calling it again changes nothing
+/// that can be seen. Without the call a picture's name may lead nowhere: a linker may drop data that nobody asks for.
+void InitArtwork();
+
+}  // namespace quillon

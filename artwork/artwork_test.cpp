@@ -1,0 +1,104 @@
+#include "artwork/artwork.h"
+
+#include <QtCore/QDir>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtSvg/QSvgRenderer>
+#include <array>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <ostream>
+
+namespace quillon {
+namespace {
+
+struct Picture {
+  const char* Name;
+  int Width;
+  int Height;
+};
+
+void PrintTo(const Picture& picture, std::ostream* out) {
+  *out << picture.Name;
+}
+
+constexpr std::array kPictures = {
+    Picture{"about_header.svg", 319, 60},  Picture{"analyze.svg", 201, 53},
+    Picture{"analyze_hover.svg", 201, 53}, Picture{"analyze_pressed.svg", 201, 53},
+    Picture{"grid_back.svg", 371, 371},    Picture{"hover_blue.svg", 280, 250},
+    Picture{"hover_green.svg", 280, 250},  Picture{"hover_red.svg", 280, 250},
+    Picture{"icon.svg", 64, 64},           Picture{"legend_green.svg", 21, 21},
+    Picture{"legend_red.svg", 21, 21},     Picture{"logo.svg", 193, 92},
+    Picture{"manager_image.svg", 64, 64},  Picture{"new_range_image.svg", 64, 64},
+    Picture{"panel_footer.svg", 182, 29},  Picture{"progress_mark.svg", 28, 22},
+    Picture{"range_delete.svg", 48, 48},   Picture{"range_new.svg", 48, 48},
+    Picture{"range_rename.svg", 48, 48},   Picture{"range_save.svg", 48, 48},
+    Picture{"range_save_as.svg", 48, 48},  Picture{"save_as_range.svg", 36, 36},
+    Picture{"save_image.svg", 32, 32},     Picture{"side_panel.svg", 220, 600},
+};
+
+class ArtworkPicture : public testing::TestWithParam<Picture> {
+ protected:
+  void SetUp() override { InitArtwork(); }
+
+  [[nodiscard]] static QString Path(const char* name) { return QStringLiteral(":/artwork/") + QLatin1String(name); }
+
+  [[nodiscard]] static QImage Drawn(const char* name) {
+    QSvgRenderer renderer(Path(name));
+    QImage image(renderer.defaultSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
+  }
+};
+
+TEST_P(ArtworkPicture, HasTheSizeOfItsPlaceInTheWindow) {
+  const QSvgRenderer renderer(Path(GetParam().Name));
+
+  ASSERT_TRUE(renderer.isValid());
+  EXPECT_EQ(renderer.defaultSize(), QSize(GetParam().Width, GetParam().Height));
+}
+
+TEST_P(ArtworkPicture, DrawsSomething) {
+  const QImage image = Drawn(GetParam().Name);
+  QImage nothing(image.size(), image.format());
+  nothing.fill(Qt::transparent);
+
+  EXPECT_NE(image, nothing);
+}
+
+INSTANTIATE_TEST_SUITE_P(Artwork, ArtworkPicture, testing::ValuesIn(kPictures));
+
+TEST_F(ArtworkPicture, HasARowHereForEachFile) {
+  QStringList expected;
+  for (const Picture& picture : kPictures)
+    expected << QLatin1String(picture.Name);
+
+  EXPECT_EQ(QDir(QStringLiteral(":/artwork")).entryList(QDir::Files, QDir::Name), expected);
+}
+
+TEST_F(ArtworkPicture, HoverBackgroundsRunFromTheirColourToNearlyWhite) {
+  struct Background {
+    const char* Name = nullptr;
+    QColor Top;
+    QColor Bottom;
+  };
+  const std::array backgrounds = {
+      Background{"hover_green.svg", QColor(229, 254, 224), QColor(253, 255, 252)},
+      Background{"hover_red.svg", QColor(251, 63, 62), QColor(255, 247, 245)},
+      Background{"hover_blue.svg", QColor(214, 231, 251), QColor(251, 253, 255)},
+  };
+  const auto isNear = [](const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) <= 3;
+  };
+
+  for (const Background& background : backgrounds) {
+    const QImage image = Drawn(background.Name);
+    EXPECT_TRUE(isNear(image.pixelColor(0, 0), background.Top)) << background.Name;
+    EXPECT_TRUE(isNear(image.pixelColor(0, image.height() - 1), background.Bottom)) << background.Name;
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,175 @@
+// What a player waits for in the window: from a click on Analyze to the painted grid, from a move of the mouse to the
+// painted hover panel, from a click on Details to the written report, and the making of the whole window. The window is
+// a real one on whatever platform Qt is told; bench/window.sh runs this on a virtual screen.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "ranges/dialogs/range_dialogs.h"
+#include "ranges/range_fixtures.h"
+#include "shell/screens/main_form.h"
+#include "toolkit/application.h"
+
+namespace quillon {
+namespace {
+
+class NoBoxes : public MessageBoxes, public InputBoxes {
+ public:
+  MessageAnswer Show(const Message& message) override {
+    std::cerr << message.title << ": " << message.text << "\n";
+    std::exit(EXIT_FAILURE);
+  }
+  std::string Ask(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view /*defaultText*/) override {
+    return {};
+  }
+};
+
+class NoWeb : public WebClient {
+ public:
+  std::string Get(std::string_view /*address*/) override { return {}; }
+};
+
+// Counts how often a widget is painted.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count_;
+    return false;
+  }
+  void WaitForNext() const {
+    for (const int before = count_; count_ == before;)
+      QCoreApplication::processEvents();
+  }
+  [[nodiscard]] int Count() const { return count_; }
+
+ private:
+  int count_ = 0;
+};
+
+struct Program {
+  TemporaryProgram Files;
+  NoBoxes Boxes;
+  NoWeb Web;
+  ShiftWatch Shift;
+  RangeDialogs Dialogs{Files.Folder(), Boxes, Boxes, Shift};
+  std::unique_ptr<MainForm> Window;
+
+  Program() {
+    SaveRangeText(Files.Folder(), "Everything", TextWith(AllLabels()));
+    Window = std::make_unique<MainForm>(MainForm::Surroundings{
+        .Folder = Files.Folder(), .Messages = Boxes, .Inputs = Boxes, .Web = Web, .Shift = Shift, .EndProcess = [] {}});
+    Dialogs.Attach(*Window);
+    Window->Start(Dialogs);
+    QCoreApplication::processEvents();
+  }
+
+  FormControls& Controls() { return Window->Controls(); }
+
+  void FillInRaise() {
+    Controls().LabelAt("lblNav", 1).Click();
+    Controls().Get<QLineEdit>("txtNumber", 2).setText(QStringLiteral("150"));
+    Controls().Get<QLineEdit>("txtNumber", 3).setText(QStringLiteral("50"));
+    Controls().Get<QLineEdit>("txtNumber", 4).setText(QStringLiteral("400"));
+    for (const std::int16_t chooser : {std::int16_t{1}, std::int16_t{2}}) {
+      SelectListEntry(Window->Chooser(chooser), "Everything");
+    }
+    QCoreApplication::processEvents();
+  }
+};
+
+// One program serves all benchmarks but that of making it. It ends before the application does.
+std::unique_ptr<Program>& TheProgramPlace() {
+  static std::unique_ptr<Program> place;
+  return place;
+}
+
+Program& TheProgram() {
+  std::unique_ptr<Program>& place = TheProgramPlace();
+  if (!place) place = std::make_unique<Program>();
+  return *place;
+}
+
+double ResidentMegabytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    if (word != "VmRSS:") continue;
+    double kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes / 1024;
+  }
+  return 0;
+}
+
+void ClickAnalyzeToPaintedGrid(benchmark::State& state) {
+  Program& program = TheProgram();
+  program.FillInRaise();
+  PaintWatch bar(program.Controls().ShapeAt("picProgBar"));
+  PaintWatch grid(program.Controls().LabelAt("lblCards", 168));
+  int bars = 0;
+  for (auto _ : state) {
+    bars = bar.Count();
+    program.Controls().PictureAt("cmdPreflopEV", 1).Click();
+    bars = bar.Count() - bars;
+    grid.WaitForNext();
+  }
+  state.counters["bar_paints"] = bars;
+  state.counters["RSS_MB"] = ResidentMegabytes();
+}
+BENCHMARK(ClickAnalyzeToPaintedGrid)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+void MouseMoveToPaintedPanel(benchmark::State& state) {
+  Program& program = TheProgram();
+  if (program.Window->State().HandInfo.empty()) {
+    program.FillInRaise();
+    program.Controls().PictureAt("cmdPreflopEV", 1).Click();
+  }
+  program.Controls().LabelAt("lblNav", 3).Click();
+  QCoreApplication::processEvents();
+  PaintWatch panel(program.Controls().FrameAt("frameHover"));
+  static std::int16_t index = 0;  // never the same hand twice, which would paint nothing
+  for (auto _ : state) {
+    Label& cell = program.Controls().LabelAt("lblCards", index);
+    const QPointF at(5, 5);
+    QMouseEvent move(QEvent::MouseMove, at, cell.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&cell, &move);
+    panel.WaitForNext();
+    index = static_cast<std::int16_t>((index + 7) % kHandClassCount);
+  }
+}
+BENCHMARK(MouseMoveToPaintedPanel)->Unit(benchmark::kMillisecond);
+
+void ClickDetailsToReport(benchmark::State& state) {
+  Program& program = TheProgram();
+  for (auto _ : state) {
+    program.Controls().LabelAt("lblNav", 4).Click();
+  }
+}
+BENCHMARK(ClickDetailsToReport)->Unit(benchmark::kMillisecond);
+
+void MakeTheWindow(benchmark::State& state) {
+  for (auto _ : state) {
+    const Program program;
+    benchmark::DoNotOptimize(program.Window.get());
+  }
+}
+BENCHMARK(MakeTheWindow)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  quillon::Application application(argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  quillon::TheProgramPlace().reset();
+}

@@ -1,0 +1,8 @@
+# Qt, for the folders of the window. What does not link quillon_qt cannot include a header of Qt's.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Network Svg Test)
+
+add_library(quillon_qt INTERFACE)
+target_link_libraries(quillon_qt INTERFACE Qt6::Widgets Qt6::Svg)
+target_compile_definitions(quillon_qt INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -1,0 +1,175 @@
+#include "ranges/dialogs/form_card_grid.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "ranges/dialogs/dialog_fixtures.h"
+#include "ranges/range_text.h"
+#include "toolkit/colors.h"
+
+namespace quillon {
+namespace {
+
+class FormCardGridTest : public testing::Test {
+ public:
+  void Press(Qt::Key key) const { QTest::keyClick(Form.windowHandle(), key); }
+  void ShiftDown() {
+    Stage.ShiftHeld = true;
+    QTest::keyPress(Form.windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
+  }
+  void ShiftUp() {
+    Stage.ShiftHeld = false;
+    QTest::keyRelease(Form.windowHandle(), Qt::Key_Shift);
+  }
+  void Click(std::string_view label) const { ClickCell(Form.Controls(), label); }
+  void CheckHalf() const { ClickOn(Form.Controls(), "chkHalf"); }
+  [[nodiscard]] std::string Text() const { return RangeTextFromGrid(Form.Grid()); }
+  [[nodiscard]] Rgb CaptionColor(std::string_view label) const {
+    return FromColor(Form.Controls().LabelAt("lblCards", HandIndex(label)).TextColor());
+  }
+  [[nodiscard]] QString State(std::string_view label) const {
+    Label& cell = Form.Controls().LabelAt("lblCards", HandIndex(label));
+    return QAccessible::queryAccessibleInterface(&cell)->text(QAccessible::Description);
+  }
+
+  DialogStage Stage;
+  NewRangeForm& Form = Stage.OpenNewRange();
+};
+
+TEST_F(FormCardGridTest, CellsStandBesideEachOtherInsideTheFittedFrame) {
+  const CardGridForm& grid = Form.Grid();
+  EXPECT_EQ(grid.SquareRect(0), (TwipRect{1360, 940, 405, 405}));
+  EXPECT_EQ(grid.SquareRect(14), (TwipRect{1790, 1370, 405, 405}));
+  EXPECT_EQ(grid.FrameRect(), (TwipRect{1260, 840, 5765, 5765}));
+  EXPECT_FALSE(Form.Controls().ShapeAt("shapeBlue").isVisible());
+}
+
+TEST_F(FormCardGridTest, EveryCellCanBeClickedOnItsCaptionAndOnItsEdge) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const QRect square = Form.Controls().ShapeAt("shapeCardBack", index).geometry();
+    QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, square.center() + QPoint(0, 4));
+  }
+  EXPECT_EQ(Text(), TextWith(AllLabels()));
+}
+
+TEST_F(FormCardGridTest, AClickSelectsAndAFurtherOneClears) {
+  Click("AKs");
+  EXPECT_EQ(Text(), TextWith("AKs"));
+  EXPECT_EQ(CaptionColor("AKs"), kCaptionOnFullColor);
+  Click("AKs");
+  EXPECT_EQ(Text(), TextWith(""));
+  EXPECT_EQ(CaptionColor("AKs"), kCaptionColor);
+}
+
+TEST_F(FormCardGridTest, AQuickSecondClickIsAClickToo) {
+  Label& cell = Form.Controls().LabelAt("lblCards", HandIndex("AKs"));
+  ClickOn(cell);
+  QTest::mouseDClick(&cell, Qt::LeftButton);
+  EXPECT_EQ(Text(), TextWith("AKs"));
+}
+
+TEST_F(FormCardGridTest, HalfWeightFollowsTheCheckBoxAndNeverTurnsToFull) {
+  Click("KK");
+  CheckHalf();
+  Click("AA");
+  EXPECT_EQ(Text(), TextWith("KK", "AA"));
+  EXPECT_EQ(CaptionColor("AA"), kCaptionColor);
+  Click("AA");
+  Click("KK");
+  EXPECT_EQ(Text(), TextWith(""));
+}
+
+TEST_F(FormCardGridTest, DraggingSelectsNothing) {
+  const auto at = [this](std::string_view label) {
+    return Form.Controls().ShapeAt("shapeCardBack", HandIndex(label)).geometry().center();
+  };
+  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, at("AA"));
+  QTest::mouseMove(Form.windowHandle(), at("AKs"));
+  QTest::mouseMove(Form.windowHandle(), at("AQs"));
+  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, at("AQs"));
+  EXPECT_EQ(Text(), TextWith(""));
+}
+
+TEST_F(FormCardGridTest, TheRightButtonSelectsNothing) {
+  QTest::mouseClick(&Form.Controls().LabelAt("lblCards", 0), Qt::RightButton);
+  EXPECT_EQ(Text(), TextWith(""));
+}
+
+TEST_F(FormCardGridTest, TheFirstClickUnderAShiftPressSweepsAndTheSecondDoesNot) {
+  ShiftDown();
+  Click("AJs");
+  EXPECT_EQ(Text(), TextWith("AKs AQs AJs"));
+  Click("88");
+  EXPECT_EQ(Text(), TextWith("AKs AQs AJs 88"));
+  ShiftUp();
+  ShiftDown();
+  Click("AJs");
+  EXPECT_EQ(Text(), TextWith("88"));
+  ShiftUp();
+}
+
+TEST_F(FormCardGridTest, ARepeatOfAHeldShiftKeyIsNoNewPress) {
+  ShiftDown();
+  Click("AJs");
+  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier, QString(), true);
+  QCoreApplication::sendEvent(&Form, &repeat);
+  Click("A5s");
+  EXPECT_EQ(Text(), TextWith("AKs AQs AJs A5s"));
+  ShiftUp();
+}
+
+TEST_F(FormCardGridTest, AShiftPressThatEndedBeforeTheClickIsNone) {
+  ShiftDown();
+  ShiftUp();
+  Click("88");
+  EXPECT_EQ(Text(), TextWith("88"));
+}
+
+TEST_F(FormCardGridTest, ArrowKeysGoFromCellToCellAndEnterOrSpacePressesIt) {
+  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Text(), TextWith("KK"));
+  Press(Qt::Key_Left);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Text(), TextWith("KK AKo"));
+  Press(Qt::Key_Up);
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(Text(), TextWith("AA KK AKo"));
+}
+
+TEST_F(FormCardGridTest, ArrowKeysStopAtTheEdges) {
+  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Up);
+  Press(Qt::Key_Left);
+  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(0)"));
+  for (int step = 0; step < 20; ++step) {
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Right);
+  }
+  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(168)"));
+}
+
+TEST_F(FormCardGridTest, TabComesBackToTheCellItLeft) {
+  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("txtRangeAbbr"));
+  Press(Qt::Key_Backtab);
+  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(1)"));
+}
+
+TEST_F(FormCardGridTest, AScreenReaderLearnsWhatTheColourTells) {
+  EXPECT_EQ(State("AA"), QStringLiteral("not selected"));
+  Click("AA");
+  CheckHalf();
+  Click("KK");
+  EXPECT_EQ(State("AA"), QStringLiteral("selected"));
+  EXPECT_EQ(State("KK"), QStringLiteral("half as likely"));
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,75 @@
+#include "ranges/dialogs/form_list.h"
+
+#include <QMouseEvent>
+#include <utility>
+
+namespace quillon {
+
+FormChooser::FormChooser(QComboBox& box) : box_(box) {
+  connect(&box_, &QComboBox::activated, this, &FormChooser::Clicked);
+}
+
+void FormChooser::Clear() {
+  const QSignalBlocker quiet(box_);
+  box_.clear();
+}
+
+void FormChooser::Add(std::string_view text) {
+  const QSignalBlocker quiet(box_);
+  box_.addItem(ToQt(text));
+  // A drop-down list of Qt's selects its first entry by itself; nothing is selected until somebody does.
+  if (box_.count() == 1) box_.setCurrentIndex(-1);
+}
+
+void FormChooser::Select(int index) {
+  {
+    const QSignalBlocker quiet(box_);
+    box_.setCurrentIndex(index);
+  }
+  Q_EMIT Clicked();
+}
+
+FormListBox::FormListBox(QListWidget& list) : list_(list) {
+  connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) Q_EMIT Clicked();
+  });
+  // A press on the selected entry changes nothing that the list would tell of, and is a click all the same.
+  list_.viewport()->installEventFilter(this);
+  connect(&list_, &QListWidget::itemPressed, this, [this](const QListWidgetItem* item) {
+    if (list_.row(item) == std::exchange(rowBeforePress_, -1)) Q_EMIT Clicked();
+  });
+}
+
+bool FormListBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+    const auto* press = dynamic_cast<QMouseEvent*>(event);
+    const bool left = press != nullptr && press->button() == Qt::LeftButton;
+    rowBeforePress_ = left ? list_.currentRow() : -1;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+std::string FormListBox::CurrentText() const {
+  const QListWidgetItem* item = list_.currentItem();
+  return item == nullptr ? std::string() : FromQt(item->text());
+}
+
+void FormListBox::Clear() {
+  const QSignalBlocker quiet(list_);
+  list_.clear();
+}
+
+void FormListBox::Add(std::string_view text) {
+  const QSignalBlocker quiet(list_);
+  list_.addItem(ToQt(text));
+}
+
+void FormListBox::Select(int index) {
+  {
+    const QSignalBlocker quiet(list_);
+    list_.setCurrentRow(index);
+  }
+  Q_EMIT Clicked();
+}
+
+}  // namespace quillon

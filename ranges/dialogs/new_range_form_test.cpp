@@ -1,0 +1,243 @@
+#include "ranges/dialogs/new_range_form.h"
+
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <gtest/gtest.h>
+
+#include "ranges/dialogs/dialog_fixtures.h"
+#include "shell/settings_file.h"
+#include "toolkit/text_box.h"
+
+namespace quillon {
+namespace {
+
+const Message kNoName = {"Error", "You must choose a name for this range.", MessageIcon::kStop};
+
+Message Saved(const std::string& name) {
+  return {"Quillon", "The range \"" + name + "\" was saved successfully!"};
+}
+
+class NewRangeFormTest : public testing::Test {
+ public:
+  NewRangeFormTest() {
+    Stage.Main.RefreshLists();
+    Stage.OpenNewRange();
+  }
+
+  [[nodiscard]] NewRangeForm& Form() const { return *Stage.Dialogs.LoadedNewRange(); }
+  [[nodiscard]] const FormControls& Controls() const { return Form().Controls(); }
+  [[nodiscard]] TextBox& Name() const { return Controls().Get<TextBox>("txtRangeName"); }
+  void Click(std::string_view name) const { ClickOn(Controls(), name); }
+  void Cell(std::string_view label) const { ClickCell(Controls(), label); }
+  void Type(const char* text) const { QTest::keyClicks(&Name(), QString::fromUtf8(text)); }
+  // The middle of the check box's place is beside its caption.
+  void ToggleSave() const {
+    QTest::mouseClick(&Controls().Get<QCheckBox>("chkSaveRange"), Qt::LeftButton, {}, QPoint(8, 12));
+  }
+  [[nodiscard]] std::string Share() const { return FromQt(Controls().LabelAt("lblPercSelected").Text()); }
+  [[nodiscard]] std::string Summary() const {
+    return FromQt(Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
+  }
+  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid()); }
+  [[nodiscard]] bool IsClosed() const { return Stage.Dialogs.LoadedNewRange() == nullptr; }
+  [[nodiscard]] std::string FileText(std::string_view name) const {
+    return LoadRangeText(Stage.Program.Folder(), name);
+  }
+  [[nodiscard]] std::string Chosen(std::int16_t index) { return Stage.Main.List(index).CurrentText(); }
+
+  DialogStage Stage;
+};
+
+TEST_F(NewRangeFormTest, StartsEmptyAndReadyToBeSaved) {
+  EXPECT_EQ(Share(), "0% Selected");
+  EXPECT_EQ(Summary(), "None\n");
+  EXPECT_EQ(GridText(), TextWith(""));
+  EXPECT_EQ(Form().RangeName(), "");
+  EXPECT_TRUE(Name().isEnabled());
+  EXPECT_TRUE(Form().SaveRangeChecked());
+  EXPECT_FALSE(Controls().Get<QCheckBox>("chkHalf").isChecked());
+}
+
+TEST_F(NewRangeFormTest, ItsLoadRefreshesNoList) {
+  Form().close();
+  Stage.Main.Refreshes = 0;
+  Stage.OpenNewRange();
+  EXPECT_EQ(Stage.Main.Refreshes, 0);
+}
+
+TEST_F(NewRangeFormTest, ACellIsSummedUp) {
+  Cell("AA");
+  EXPECT_EQ(Share(), "0.5% selected");
+  EXPECT_EQ(Summary(), "AA");
+  Cell("AA");
+  EXPECT_EQ(Share(), "0% selected");
+  Click("chkHalf");
+  Cell("AA");
+  EXPECT_EQ(Share(), "0.2% selected");
+}
+
+TEST_F(NewRangeFormTest, UncheckedTheNameIsTheScratchNameAndCannotBeTyped) {
+  Type("Mine");
+  ToggleSave();
+  EXPECT_EQ(Form().RangeName(), "Temp Range1");
+  EXPECT_FALSE(Name().isEnabled());
+}
+
+TEST_F(NewRangeFormTest, CheckedAgainTheScratchNameStandsReadyToBeTypedOver) {
+  Type("Mine");
+  ToggleSave();
+  ToggleSave();
+  EXPECT_EQ(Form().RangeName(), "Temp Range1");
+  EXPECT_TRUE(Name().isEnabled());
+  EXPECT_EQ(Form().focusWidget(), &Name());
+  EXPECT_EQ(Name().selectedText(), QStringLiteral("Temp Range1"));
+  QTest::keyClick(Form().windowHandle(), Qt::Key_X);
+  EXPECT_EQ(Form().RangeName(), "x");
+}
+
+TEST_F(NewRangeFormTest, TheFocusMayBeAskedForWhileTheNameIsDisabled) {
+  ToggleSave();
+  Form().FocusRangeName();
+  EXPECT_NE(Form().focusWidget(), &Name());
+}
+
+TEST_F(NewRangeFormTest, OkSavesChoosesTheRangeAndCloses) {
+  Cell("AA");
+  Type("Mine");
+  ExpectMessageBox(Saved("Mine"));
+  Click("cmdOK");
+  EXPECT_TRUE(IsClosed());
+  EXPECT_EQ(FileText("Mine"), TextWith("AA"));
+  EXPECT_EQ(Chosen(0), "Mine");
+}
+
+TEST_F(NewRangeFormTest, EnterInTheNameIsAClickOnOk) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    Stage.OpenNewRange();
+    const std::string name = key == Qt::Key_Return ? "one" : "two";
+    Name().setText(ToQt(name));
+    Name().setFocus();
+    ExpectMessageBox(Saved(name));
+    QTest::keyClick(Form().windowHandle(), key);
+    EXPECT_TRUE(IsClosed());
+  }
+}
+
+TEST_F(NewRangeFormTest, EnterWithARefusedNameLeavesTheDialogOpen) {
+  Cell("AA");
+  ExpectMessageBox(kNoName);
+  QTest::keyClick(&Name(), Qt::Key_Return);
+  EXPECT_TRUE(Form().isVisible());
+  EXPECT_EQ(GridText(), TextWith("AA"));
+}
+
+TEST_F(NewRangeFormTest, OkWithoutANameLeavesTheDialogOpen) {
+  ExpectMessageBox(kNoName);
+  Click("cmdOK");
+  EXPECT_TRUE(Form().isVisible());
+}
+
+TEST_F(NewRangeFormTest, ATakenNameLeavesTheDialogOpen) {
+  Type("Tight");
+  ExpectMessageBox({"Error", "A range with the name \"Tight\" already exists.\r\n\r\nPlease choose another name.",
+                    MessageIcon::kStop});
+  Click("cmdOK");
+  EXPECT_TRUE(Form().isVisible());
+  EXPECT_EQ(FileText("Tight"), TextWith("AA KK QQ"));
+}
+
+TEST_F(NewRangeFormTest, TheScratchRangeIsOverwrittenEachTime) {
+  for (const std::string_view label : {"AA", "KK"}) {
+    Stage.OpenNewRange();
+    Cell(label);
+    ToggleSave();
+    ExpectMessageBox(Saved("Temp Range1"));
+    Click("cmdOK");
+    EXPECT_EQ(FileText("Temp Range1"), TextWith(std::string(label)));
+    EXPECT_EQ(Chosen(0), "Temp Range1");
+  }
+}
+
+TEST_F(NewRangeFormTest, OnlyTheChooserItWasOpenedFromTakesTheRange) {
+  Stage.Main.List(1).Select(1);
+  Stage.OpenNewRange(2);
+  Type("Mine");
+  ExpectMessageBox(Saved("Mine"));
+  Click("cmdOK");
+  EXPECT_EQ(Chosen(0), "");
+  EXPECT_EQ(Chosen(1), "Button Shove");
+  EXPECT_EQ(Chosen(2), "Mine");
+  EXPECT_EQ(Chosen(3), "");
+  EXPECT_EQ(Stage.Main.List(3).Count(), 4);
+}
+
+TEST_F(NewRangeFormTest, OpenedFromASecondChooserTheRangeGoesThere) {
+  Cell("AA");
+  NewRangeForm* const before = &Form();
+  Stage.OpenNewRange(3);
+  EXPECT_EQ(&Form(), before);
+  EXPECT_EQ(GridText(), TextWith("AA"));
+  Type("Mine");
+  ExpectMessageBox(Saved("Mine"));
+  Click("cmdOK");
+  EXPECT_EQ(Chosen(0), "");
+  EXPECT_EQ(Chosen(3), "Mine");
+}
+
+TEST_F(NewRangeFormTest, CancelHidesAndReopeningBringsAllBack) {
+  Cell("AA");
+  Type("Mine");
+  Click("chkHalf");
+  Click("cmdCancel");
+  EXPECT_FALSE(Form().isVisible());
+  EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "");
+  EXPECT_EQ(Stage.Main.PointerResets, 0);
+
+  Stage.OpenNewRange(1);
+  EXPECT_TRUE(Form().isVisible());
+  EXPECT_EQ(GridText(), TextWith("AA"));
+  EXPECT_EQ(Share(), "0.5% selected");
+  EXPECT_EQ(Form().RangeName(), "Mine");
+  EXPECT_TRUE(Controls().Get<QCheckBox>("chkHalf").isChecked());
+}
+
+TEST_F(NewRangeFormTest, TheCloseBoxClosesAndReopeningIsFresh) {
+  Cell("AA");
+  Type("Mine");
+  Form().move(75, 32);
+  Form().close();
+  EXPECT_TRUE(IsClosed());
+  EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
+  EXPECT_EQ(ReadIniValue("New", "Top", Stage.Program.Folder()), "480");
+  EXPECT_EQ(Stage.Main.PointerResets, 1);
+
+  Stage.OpenNewRange();
+  EXPECT_EQ(GridText(), TextWith(""));
+  EXPECT_EQ(Form().RangeName(), "");
+  EXPECT_EQ(Form().pos(), QPoint(75, 32));
+}
+
+TEST_F(NewRangeFormTest, OkKeepsThePlaceToo) {
+  Form().move(75, 32);
+  Type("Mine");
+  ExpectMessageBox(Saved("Mine"));
+  Click("cmdOK");
+  EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
+  EXPECT_EQ(Stage.Main.PointerResets, 1);
+}
+
+TEST(NewRangeFormDeathTest, AFileThatCannotBeWrittenStopsTheProgram) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(
+      {
+        DialogStage stage;
+        NewRangeForm& form = stage.OpenNewRange();
+        std::filesystem::remove_all(RangeFolderPath(stage.Program.Folder()));
+        form.SetRangeName("Mine");
+        ClickOn(form.Controls(), "cmdOK");
+      },
+      testing::ExitedWithCode(1), "Mine");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,152 @@
+// The two dialogs together, as the main window has them.
+
+#include "ranges/dialogs/range_dialogs.h"
+
+#include <QCloseEvent>
+#include <QPointer>
+#include <gtest/gtest.h>
+
+#include "ranges/dialogs/dialog_fixtures.h"
+
+namespace quillon {
+namespace {
+
+void LetGo() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST(RangeDialogs, NothingIsLoadedBeforeItIsTouched) {
+  const DialogStage stage;
+  EXPECT_EQ(stage.Dialogs.LoadedManager(), nullptr);
+  EXPECT_EQ(stage.Dialogs.LoadedNewRange(), nullptr);
+}
+
+TEST(RangeDialogs, ARefreshLoadsTheManagerHiddenAndFilled) {
+  DialogStage stage;
+  stage.Main.RefreshLists();
+  ASSERT_NE(stage.Dialogs.LoadedManager(), nullptr);
+  EXPECT_FALSE(stage.Dialogs.LoadedManager()->isVisible());
+  EXPECT_EQ(stage.Dialogs.ManagerList().Count(), 2);
+  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Button Shove");
+  // Its own load is a second one, within the first.
+  EXPECT_EQ(stage.Main.Refreshes, 2);
+}
+
+TEST(RangeDialogs, TheManagerIsShownAsItStands) {
+  DialogStage stage;
+  stage.Main.RefreshLists();
+  SelectListEntry(stage.Dialogs.ManagerList(), "Tight");
+  const ManagerForm& form = stage.OpenManager();
+  EXPECT_TRUE(form.isVisible());
+  EXPECT_EQ(form.Controls().LabelAt("lblRangeName").Text(), QStringLiteral("Tight"));
+}
+
+TEST(RangeDialogs, EditingOpensTheManagerOnTheChosenRange) {
+  DialogStage stage;
+  stage.Main.RefreshLists();
+  SelectChooserEntry(stage.Main, 2, "Tight");
+  EXPECT_TRUE(stage.Main.EditRangeVisible[2]);
+  ClickEditRange(stage.Main, 2);
+  EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
+  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Tight");
+}
+
+TEST(RangeDialogs, EditingLoadsAManagerThatWasClosed) {
+  DialogStage stage;
+  stage.Main.RefreshLists();
+  SelectChooserEntry(stage.Main, 2, "Tight");
+  stage.OpenManager().close();
+  ClickEditRange(stage.Main, 2);
+  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Tight");
+  EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
+}
+
+TEST(RangeDialogs, AManagerThatWasClosedGoesAndTheNextTouchLoadsAFreshOneHidden) {
+  DialogStage stage;
+  const QPointer<ManagerForm> before = &stage.OpenManager();
+  ClickCell(before->Controls(), "22");
+  before->close();
+  EXPECT_EQ(stage.Dialogs.LoadedManager(), nullptr);
+
+  stage.Main.RefreshLists();
+  ManagerForm* const after = stage.Dialogs.LoadedManager();
+  ASSERT_NE(after, nullptr);
+  EXPECT_FALSE(after->isVisible());
+  EXPECT_EQ(RangeTextFromGrid(after->Grid()), TextWith("AA", "AKs"));
+  LetGo();
+  EXPECT_TRUE(before.isNull());
+  EXPECT_EQ(stage.Dialogs.LoadedManager(), after);
+}
+
+TEST(RangeDialogs, ALateCloseEventOfAFormThatWasClosedTouchesNoOther) {
+  DialogStage stage;
+  ManagerForm& before = stage.OpenManager();
+  before.close();
+  const ManagerForm& after = stage.OpenManager();
+  QCloseEvent late;
+  QCoreApplication::sendEvent(&before, &late);
+  EXPECT_EQ(stage.Dialogs.LoadedManager(), &after);
+  EXPECT_TRUE(after.isVisible());
+}
+
+TEST(RangeDialogs, AManagerThatIsMinimisedComesBack) {
+  DialogStage stage;
+  ManagerForm& form = stage.OpenManager();
+  form.showMinimized();
+  stage.OpenManager();
+  EXPECT_FALSE(form.isMinimized());
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST(RangeDialogs, AChosenRangeThatIsDeletedLeavesTheBlankEntry) {
+  DialogStage stage;
+  const ManagerForm& form = stage.OpenManager();
+  SelectChooserEntry(stage.Main, 1, "Button Shove");
+  EXPECT_TRUE(stage.Main.OrVisible[1]);
+  ExpectMessageBox({"Delete?", "Do you really want to delete \"Button Shove\"?", MessageIcon::kQuestion,
+                    MessageButtons::kYesNoCancel},
+                   MessageAnswer::kYes);
+  ClickOn(form.Controls(), "imgDelete");
+  EXPECT_EQ(stage.Main.List(1).CurrentText(), "");
+  EXPECT_FALSE(stage.Main.OrVisible[1]);
+  EXPECT_FALSE(stage.Main.EditRangeVisible[1]);
+}
+
+TEST(RangeDialogs, ANewRangeStandsInTheManagersListAtOnceAndDropsItsChanges) {
+  DialogStage stage;
+  ManagerForm& manager = stage.OpenManager();
+  ClickCell(manager.Controls(), "22");
+  NewRangeForm& form = stage.OpenNewRange();
+  form.SetRangeName("Mine");
+  ExpectMessageBox({"Quillon", "The range \"Mine\" was saved successfully!"});
+  ClickOn(form.Controls(), "cmdOK");
+  EXPECT_EQ(manager.RangeList().Count(), 3);
+  EXPECT_EQ(manager.RangeList().CurrentText(), "Button Shove");
+  EXPECT_EQ(RangeTextFromGrid(manager.Grid()), TextWith("AA", "AKs"));
+}
+
+TEST(RangeDialogs, AShiftPressIsUsedUpForBothDialogs) {
+  DialogStage stage;
+  ManagerForm& manager = stage.OpenManager();
+  NewRangeForm& form = stage.OpenNewRange();
+  stage.ShiftHeld = true;
+  QTest::keyPress(form.windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
+  ClickCell(form.Controls(), "QQ");
+  ClickCell(manager.Controls(), "QQ");
+  EXPECT_EQ(RangeTextFromGrid(form.Grid()), TextWith("AA KK QQ"));
+  EXPECT_EQ(RangeTextFromGrid(manager.Grid()), TextWith("AA QQ", "AKs"));
+  QTest::keyRelease(form.windowHandle(), Qt::Key_Shift);
+}
+
+TEST(RangeDialogs, AnEmptyFolderGivesAnEmptyManager) {
+  DialogStage stage;
+  std::filesystem::remove(stage.Program.RangeFile("Button Shove.txt"));
+  std::filesystem::remove(stage.Program.RangeFile("Tight.txt"));
+  ManagerForm& form = stage.OpenManager();
+  EXPECT_EQ(form.RangeList().Count(), 0);
+  EXPECT_EQ(form.Controls().LabelAt("lblRangeName").Text(), QStringLiteral("Title"));
+  EXPECT_EQ(RangeTextFromGrid(form.Grid()), TextWith(""));
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,40 @@
+#include "ranges/dialogs/shift_watch.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+// The X window system's name for the right Shift key; where none is told, a Shift key counts as the left one.
+constexpr quint32 kRightShiftSymbol = 0xFFE2;
+
+bool WindowSystemHasShiftDown() {
+  return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+}  // namespace
+
+ShiftWatch::ShiftWatch(std::function<bool()> isHeld, QObject* parent)
+    : QObject(parent), isHeld_(isHeld ? std::move(isHeld) : WindowSystemHasShiftDown) {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool ShiftWatch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ApplicationStateChange) keys_.PutRight(isHeld_());
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
+  if (key != nullptr && key->key() == Qt::Key_Shift && !key->isAutoRepeat()) {
+    const ShiftKey side = key->nativeVirtualKey() == kRightShiftSymbol ? ShiftKey::kRight : ShiftKey::kLeft;
+    if (event->type() == QEvent::KeyPress) {
+      keys_.KeyDown(side);
+    } else {
+      keys_.KeyUp(side);
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace quillon

@@ -1,0 +1,73 @@
+#include "shell/screens/analysis_view.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+
+#include "results/results_grid.h"
+#include "shell/screens/results_view.h"
+#include "toolkit/text.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+
+std::string AnalysisView::BoxText(std::int16_t index) const {
+  return FromQt(parts_.Controls.Get<QLineEdit>("txtNumber", index).text());
+}
+
+std::string AnalysisView::SelectedRange(std::int16_t index) const {
+  return parts_.Choosers[static_cast<std::size_t>(index)]->CurrentText();
+}
+
+void AnalysisView::ShowFrame(std::string_view name) {
+  quillon::ShowFrame(name, parts_.Screens);
+}
+
+void AnalysisView::ClickNav(std::int16_t index) {
+  quillon::ClickNav(index, parts_.Navigation, parts_.Screens);
+}
+
+void AnalysisView::SetResultsShown(bool shown) {
+  quillon::SetResultsShown(parts_.Results, shown);
+}
+
+void AnalysisView::SetNoResultsCaption(std::string_view caption) {
+  ShowNoResultsCaption(parts_.Controls, caption);
+}
+
+void AnalysisView::SetNoResultsUnderline(bool underline) {
+  parts_.Controls.LabelAt("lblNoResults").SetUnderline(underline);
+}
+
+void AnalysisView::SetProgressMessage(std::string_view caption) {
+  parts_.Controls.LabelAt("lblProgressMsg").SetText(ToQt(caption));
+}
+
+void AnalysisView::SetProgressPercent(std::string_view caption) {
+  parts_.Controls.LabelAt("lblProgressPerc").SetText(ToQt(caption));
+}
+
+void AnalysisView::SetProgressBarWidth(float twips) {
+  Shape& bar = parts_.Controls.ShapeAt("picProgBar");
+  TwipRect place = TwipsOf(bar.geometry());
+  place.Width = twips;
+  bar.setGeometry(PixelPlace(place));
+}
+
+void AnalysisView::RaiseCell(std::int16_t index) {
+  parts_.Grid.ShowSquare(index);
+  parts_.Grid.ShowLabel(index);
+}
+
+void AnalysisView::HideGridBack() {
+  parts_.Controls.PictureAt("imgGridBack").hide();
+}
+
+void AnalysisView::Yield() {
+  QCoreApplication::processEvents();
+}
+
+void AnalysisView::PresentResults(const AnalysisState& state) {
+  quillon::PresentResults(state, parts_.Results);
+}
+
+}  // namespace quillon

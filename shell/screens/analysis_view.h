@@ -1,0 +1,50 @@
+#pragma once
+
+// The main window as an analysis sees it.
+
+#include <span>
+
+#include "analysis/analysis_window.h"
+#include "ranges/card_grid.h"
+#include "ranges/range_lists.h"
+#include "results/results_window.h"
+#include "shell/navigation.h"
+#include "toolkit/form_builder.h"
+
+namespace quillon {
+
+class AnalysisView : public AnalysisWindow {
+ public:
+  struct Parts {
+    FormControls& Controls;
+    std::span<ChooserList* const> Choosers;  // cmboRanges, by index
+    CardGridForm& Grid;
+    NavigationState& Navigation;
+    NavigationWindow& Screens;
+    ResultsWindow& Results;
+    MessageBoxes& Boxes;
+  };
+
+  explicit AnalysisView(const Parts& parts) : parts_(parts) {}
+
+  [[nodiscard]] std::string BoxText(std::int16_t index) const override;
+  [[nodiscard]] std::string SelectedRange(std::int16_t index) const override;
+  [[nodiscard]] MessageBoxes& Messages() override { return parts_.Boxes; }
+  void ShowFrame(std::string_view name) override;
+  void ClickNav(std::int16_t index) override;
+  void SetResultsShown(bool shown) override;
+  void SetNoResultsCaption(std::string_view caption) override;
+  void SetNoResultsUnderline(bool underline) override;
+  void SetProgressMessage(std::string_view caption) override;
+  void SetProgressPercent(std::string_view caption) override;
+  void SetProgressBarWidth(float twips) override;
+  void RaiseCell(std::int16_t index) override;
+  void HideGridBack() override;
+  void Yield() override;
+  void PresentResults(const AnalysisState& state) override;
+
+ private:
+  Parts parts_;
+};
+
+}  // namespace quillon

@@ -1,0 +1,228 @@
+#include "shell/screens/main_form.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QKeySequence>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "analysis/analysis_driver.h"
+#include "artwork/artwork.h"
+#include "results/hand_line.h"
+#include "results/results_as_range.h"
+#include "results/results_grid.h"
+#include "shell/field_help.h"
+#include "shell/screens/main_layout.h"
+#include "toolkit/text.h"
+#include "toolkit/text_box.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::int16_t kGridScreen = 1;
+
+// The design's own size is there from the start: the screens are fitted to the window as they come up.
+FormControls BuildMainControls(QWidget& form) {
+  form.setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight}).size());
+  form.setPalette(QPalette(Qt::white));
+  InitArtwork();
+  return BuildForm(form, MainLayout());
+}
+
+std::int16_t ToIndex(qint16 index) {
+  return static_cast<std::int16_t>(index);
+}
+
+}  // namespace
+
+MainForm::MainForm(Surroundings surroundings)
+    : around_(std::move(surroundings)),
+      controls_(BuildMainControls(*this)),
+      grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
+      results_(controls_, grid_),
+      hover_(controls_, grid_),
+      boxes_(controls_, results_, around_.Messages),
+      report_(controls_),
+      about_(controls_, around_.Messages, around_.Inputs, around_.Clock),
+      image_(*this, controls_, around_.Messages),
+      start_(*this, controls_, grid_,
+             {.RefreshRangeLists = [this] { RefreshLists(); },
+              .BuildReport = [this] { BuildReport(report_, state_); },
+              .SetResultsShown = [this](bool shown) { SetResultsShown(results_, shown); },
+              .CheckForUpgrade = [this] { CheckForUpgrade(about_, around_.Web, around_.Folder); },
+              .EndProcess = around_.EndProcess}),
+      analysis_({.Controls = controls_,
+                 .Choosers = chooserLists_,
+                 .Grid = grid_,
+                 .Navigation = navigation_,
+                 .Screens = start_,
+                 .Results = results_,
+                 .Boxes = around_.Messages}) {
+  setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
+  BindSidePanel();
+  BindScreens();
+  BindNumberBoxes();
+  BindChoosers();
+  BindGrid();
+  BindDetails();
+  BindAbout();
+  BindShortcuts();
+}
+
+void MainForm::Start(RangeForms& dialogs) {
+  dialogs_ = &dialogs;
+  // The first hand that is hovered must be a new one to the panel, AA too.
+  hover_.SetHoverHand({});
+  StartUp(navigation_, start_, around_.Folder);
+  OrderTabs();
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+  event->accept();
+  CloseMainWindow(start_, around_.Folder);
+}
+
+void MainForm::RefreshLists() {
+  const std::array<ChooserList*, kChooserCount + 1> lists = {chooserLists_[0], chooserLists_[1], chooserLists_[2],
+                                                             chooserLists_[3], &ManagerList()};
+  RefreshRangeLists(lists, around_.Folder);
+}
+
+ChooserList& MainForm::Chooser(std::int16_t index) {
+  return *chooserLists_.at(static_cast<std::size_t>(index));
+}
+
+void MainForm::SetOrVisible(std::int16_t index, bool visible) {
+  controls_.LabelAt("lblOr", index).setVisible(visible);
+}
+
+void MainForm::SetEditRangeVisible(std::int16_t index, bool visible) {
+  controls_.LabelAt("lblEditRange", index).setVisible(visible);
+}
+
+std::string MainForm::LastEdit() const {
+  return FromQt(controls_.LabelAt("lblLastEdit").Text());
+}
+
+void MainForm::SetLastEdit(std::string_view caption) {
+  controls_.LabelAt("lblLastEdit").SetText(ToQt(caption));
+}
+
+void MainForm::OnClick(std::string_view name, std::int16_t index, std::function<void()> action) {
+  connect(&controls_.Get<Control>(name, index), &Control::Clicked, this, std::move(action));
+}
+
+void MainForm::BindSidePanel() {
+  for (std::int16_t i = 0; i < controls_.CountOf("lblNav"); ++i) {
+    OnClick("lblNav", i, [this, i] { ClickNav(i, navigation_, start_); });
+    connect(&controls_.LabelAt("lblNav", i), &Control::MouseMoved, this,
+            [this, i] { HoverNav(i, navigation_, start_); });
+  }
+  connect(&controls_.PictureAt("imgBack"), &Control::MouseMoved, this,
+          [this] { ResetLinkColors(navigation_, start_); });
+  OnClick("picLogo", kNoIndex, [this] { ClickLogo(navigation_, start_); });
+  OnClick("lblNoResults", kNoIndex,
+          [this] { ClickNoResults(FromQt(controls_.LabelAt("lblNoResults").Text()), analysis_); });
+
+  OnClick("lblRangeManager", kNoIndex, [this] { ShowManager(); });
+  const Label& manager = controls_.LabelAt("lblRangeManager");
+  Shape& border = controls_.ShapeAt("shapeRangeManager");
+  connect(&manager, &Control::Pressed, &border, [&border] { border.SetLineStyle(LineStyle::kDotted); });
+  connect(&manager, &Control::Released, &border, [&border] { border.SetLineStyle(LineStyle::kSolid); });
+}
+
+void MainForm::BindScreens() {
+  for (std::int16_t i = 0; i < controls_.CountOf("frameContent"); ++i) {
+    connect(&controls_.FrameAt("frameContent", i), &Control::MouseMoved, this, [this] { hover_.Hide(); });
+  }
+  for (std::int16_t i = 0; i < controls_.CountOf("cmdPreflopEV"); ++i) {
+    OnClick("cmdPreflopEV", i, [this, i] { RunAnalysis(state_, i, analysis_, around_.Folder); });
+  }
+  for (std::int16_t i = 0; i < controls_.CountOf("lblWhatsThis"); ++i) {
+    OnClick("lblWhatsThis", i,
+            [this, i] { ShowFieldHelp(FromQt(controls_.LabelAt("lblWhatsThis", i).toolTip()), around_.Messages); });
+  }
+  OnClick("lblStopCalc", kNoIndex, [this] { StopAnalysis(state_); });
+}
+
+void MainForm::BindNumberBoxes() {
+  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i) {
+    const auto& box = controls_.Get<TextBox>("txtNumber", i);
+    connect(&box, &TextBox::textChanged, this, [this, i] { ChangeNumberBox(i, boxes_); });
+    connect(&box, &TextBox::FocusGot, this, [this, i] { EnterNumberBox(i, boxes_); });
+    connect(&box, &TextBox::FocusLost, this, [this, i] { LeaveNumberBox(i, boxes_); });
+    connect(&box, &TextBox::EnterPressed, this, [this, i] { PressKeyInNumberBox(i, kEnterKey, boxes_); });
+  }
+}
+
+void MainForm::BindChoosers() {
+  for (std::int16_t i = 0; i < kChooserCount; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    choosers_.at(at) = std::make_unique<FormChooser>(controls_.Get<QComboBox>("cmboRanges", i));
+    chooserLists_.at(at) = choosers_.at(at).get();
+    connect(choosers_.at(at).get(), &FormChooser::Clicked, this, [this, i] { ClickChooser(*this, i); });
+    OnClick("lblEditRange", i, [this, i] { ClickEditRange(*this, i); });
+    OnClick("lblNewRange", i, [this, i] { ClickNewRange(*this, i); });
+  }
+}
+
+void MainForm::BindGrid() {
+  connect(&grid_, &FormCardGrid::CellReached, this,
+          [this](qint16 index) { ShowHandHover(ToIndex(index), state_, hover_); });
+  OnClick("imgSave", kNoIndex, [this] { imageName_ = SaveGridImage(imageName_, image_, around_.Folder); });
+  OnClick("imgSaveAsRange", kNoIndex, [this] { SaveResultsAsRange(state_, *this); });
+}
+
+void MainForm::BindDetails() {
+  connect(&controls_.Get<QComboBox>("cmboOutputType"), &QComboBox::activated, this,
+          [this] { BuildReport(report_, state_); });
+  const auto& hands = controls_.Get<QComboBox>("cmbo169");
+  connect(&hands, &QComboBox::activated, this, [this, &hands] {
+    AddSpecificHand(report_, state_, FromQt(hands.currentText()));
+    controls_.Get<RichTextBox>("rtfSummary").ensureCursorVisible();
+  });
+}
+
+void MainForm::BindAbout() {
+  for (const std::int16_t i : {std::int16_t{0}, std::int16_t{3}}) {
+    OnClick("lblLink", i, [this, i] { ClickLink(FromQt(controls_.LabelAt("lblLink", i).Text()), about_); });
+  }
+  auto& upgrade = controls_.Get<QCheckBox>("chkUpgrade");
+  // A click leads out of the third state, and never into it.
+  connect(&upgrade, &QCheckBox::pressed, &upgrade, [&upgrade] { upgrade.setTristate(false); });
+  connect(&upgrade, &QCheckBox::stateChanged, this, [this] { ClickUpgrade(about_, around_.Web, around_.Folder); });
+  connect(&controls_.Get<QPushButton>("cmdSendFeedback"), &QPushButton::clicked, this,
+          [this] { SendFeedback(about_, around_.Web); });
+}
+
+void MainForm::BindShortcuts() {
+  for (std::int16_t i = 0; i < kFirstResultsNav; ++i) {
+    auto* shortcut = new QShortcut(QKeySequence(static_cast<int>(Qt::CTRL) | (Qt::Key_1 + i)), this);
+    connect(shortcut, &QShortcut::activated, this, [this, i] { ClickNav(i, navigation_, start_); });
+  }
+}
+
+// Each screen is read from top to bottom, and a line of it from left to right; the side panel comes first.
+void MainForm::OrderTabs() {
+  QWidget* before = nullptr;
+  for (const ControlTable& table : MainLayout()) {
+    std::vector<QWidget*> reached;
+    for (const ControlRow& row : table.Rows) {
+      QWidget* control = controls_.Find(ObjectName(row.Name, row.Index));
+      if (control->focusPolicy() != Qt::NoFocus) reached.push_back(control);
+    }
+    std::ranges::sort(reached, {}, [](const QWidget* control) { return std::pair(control->y(), control->x()); });
+    for (QWidget* control : reached) {
+      if (before != nullptr) setTabOrder(before, control);
+      before = control;
+    }
+  }
+}
+
+}  // namespace quillon

@@ -1,0 +1,52 @@
+// The desktop program. It takes no arguments and keeps everything in the folder of its executable.
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "ranges/dialogs/range_dialogs.h"
+#include "shell/screens/http_client.h"
+#include "shell/screens/main_form.h"
+#include "toolkit/application.h"
+#include "toolkit/message_dialogs.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+constexpr int kWrongUsage = 2;
+
+int RunWindow() {
+  const ProgramFolder folder{FromQt(QCoreApplication::applicationDirPath())};
+  MessageDialogs boxes;
+  HttpClient web;
+  ShiftWatch shift;
+  RangeDialogs dialogs(folder, boxes, boxes, shift);
+  MainForm window({.Folder = folder, .Messages = boxes, .Inputs = boxes, .Web = web, .Shift = shift, .EndProcess = [] {
+                     std::_Exit(EXIT_SUCCESS);
+                   }});
+  dialogs.Attach(window);
+  window.Start(dialogs);
+  return QApplication::exec();
+}
+
+int RunProgram(int argc, char** argv) {
+  if (argc > 1) {
+    std::fputs("Quillon takes no arguments. quillon-cli works out a situation given on the command line.\n", stderr);
+    return kWrongUsage;
+  }
+
+  Application application(argc, argv);
+  // Caught in here: only as long as the application stands can a failed start be shown.
+  try {
+    return RunWindow();
+  } catch (...) {
+    EndWithFault(CurrentFaultText());
+  }
+}
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argc, char** argv) {
+  return quillon::RunProgram(argc, argv);
+}

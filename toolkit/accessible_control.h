@@ -1,0 +1,16 @@
+#pragma once
+
+// What a screen reader learns of labels and pictures: a piece of text or a picture, and a link where it can be clicked,
+// with the click as its action.
+
+#include "toolkit/control.h"
+
+namespace quillon {
+
+/// Makes every control known to the accessibility interface. Called once, before the first form is built.
+void InstallAccessibleControls();
+
+/// Tells a screen reader that is listening that the control's spoken text has changed.
+void TellNameChanged(Control& control);
+
+}  // namespace quillon

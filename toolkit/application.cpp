@@ -1,0 +1,55 @@
+#include "toolkit/application.h"
+
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+#include "support/run_time_error.h"
+#include "toolkit/accessible_control.h"
+#include "toolkit/light_look.h"
+#include "toolkit/message_dialogs.h"
+
+namespace quillon {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  setApplicationName(QStringLiteral("Quillon"));
+  UseLightLook();
+  InstallAccessibleControls();
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (...) {
+    EndWithFault(CurrentFaultText());
+  }
+}
+
+void EndWithFault(const std::string& text) {
+  std::fprintf(stderr, "%s\n", text.c_str());
+  std::fflush(stderr);
+  if (qApp != nullptr) {
+    QMessageBox box(QApplication::activeWindow());
+    FillMessageBox(box, {.title = std::string(kApplicationTitle), .text = text, .icon = MessageIcon::kStop});
+    box.exec();
+  }
+  // At once: handlers further out, and what they hold, belong to a program that is no more.
+  std::_Exit(EXIT_FAILURE);
+}
+
+std::string CurrentFaultText() {
+  try {
+    throw;
+  } catch (const RunTimeError& error) {
+    return error.what();
+  } catch (const std::bad_alloc&) {
+    return RunTimeError(RunTimeFault::kOutOfMemory).what();
+  } catch (const std::exception& error) {
+    return RunTimeError(RunTimeFault::kInternalError, error.what()).what();
+  } catch (...) {
+    return RunTimeError(RunTimeFault::kInternalError).what();
+  }
+}
+
+}  // namespace quillon

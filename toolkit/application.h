@@ -1,0 +1,29 @@
+#pragma once
+
+// The program's outermost frame. A fault that nothing has caught on its way ends here: its text is written to standard
+// error, shown in a message box with the stop icon, and the process ends with exit status 1.
+
+#include <QApplication>
+#include <functional>
+#include <string>
+
+#include "support/message_boxes.h"
+
+namespace quillon {
+
+class Application : public QApplication {
+ public:
+  Application(int& argc, char** argv);
+
+  /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
+  bool notify(QObject* receiver, QEvent* event) override;
+};
+
+/// Tells of the fault and ends the process. With no window system to show it in, the text on standard error is all.
+[[noreturn]] void EndWithFault(const std::string& text);
+
+/// The text of the exception being handled: that of a RunTimeError as it stands; of another, the run-time error that
+/// comes nearest. Called inside a catch clause only.
+[[nodiscard]] std::string CurrentFaultText();
+
+}  // namespace quillon

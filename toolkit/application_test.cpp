@@ -1,0 +1,99 @@
+#include "toolkit/application.h"
+
+#include <QMessageBox>
+#include <QStyle>
+#include <QTest>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <new>
+#include <stdexcept>
+
+#include "support/run_time_error.h"
+#include "toolkit/control.h"
+#include "toolkit/expected_boxes.h"
+
+namespace quillon {
+namespace {
+
+using testing::AllOf;
+using testing::ExitedWithCode;
+using testing::HasSubstr;
+using testing::Not;
+
+template <typename Thrown>
+std::string TextOf(const Thrown& thrown) {
+  try {
+    throw thrown;
+  } catch (...) {
+    return CurrentFaultText();
+  }
+}
+
+TEST(ApplicationFault, HasTheTextOfTheErrorThatComesNearest) {
+  EXPECT_EQ(TextOf(RunTimeError(RunTimeFault::kFileNotFound, "Ranges/Button.txt")),
+            "Run-time error '53': File not found (Ranges/Button.txt)");
+  EXPECT_EQ(TextOf(std::bad_alloc()), "Run-time error '7': Out of memory");
+  EXPECT_EQ(TextOf(std::logic_error("no such control")), "Run-time error '51': Internal error (no such control)");
+  EXPECT_EQ(TextOf(42), "Run-time error '51': Internal error");
+}
+
+// What is on the screen when the process ends can be told by that process alone, so it writes it to standard error.
+void TellOfTheBox() {
+  ExpectDialog([](QDialog& dialog) {
+    const auto& box = dynamic_cast<QMessageBox&>(dialog);
+    std::cerr << "[" << box.windowTitle().toStdString() << "|" << box.icon() << "|" << box.text().toStdString()
+              << "]\n";
+    dialog.accept();
+  });
+}
+
+// A handler fails within two others, which must not go on.
+void FailInAHandler() {
+  TellOfTheBox();
+  std::atexit([] { std::cerr << "at exit\n"; });
+  Control outer(nullptr);
+  Control inner(nullptr);
+  QObject::connect(&inner, &Control::Clicked, &inner, [] { throw RunTimeError(RunTimeFault::kDiskFull, "a.txt"); });
+  QObject::connect(&outer, &Control::Clicked, &outer, [&] {
+    try {
+      QTest::mouseClick(&inner, Qt::LeftButton);
+    } catch (...) {
+      std::cerr << "caught outside\n";
+    }
+    std::cerr << "went on\n";
+  });
+  QTest::mouseClick(&outer, Qt::LeftButton);
+}
+
+// The test program starts itself anew for these.
+class ApplicationEnd : public testing::Test {
+ protected:
+  ApplicationEnd() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+TEST_F(ApplicationEnd, OfAFaultInAHandlerIsABoxAndStatusOne) {
+  EXPECT_EXIT(FailInAHandler(), ExitedWithCode(1),
+              AllOf(HasSubstr("Run-time error '61': Disk full (a.txt)\n"),
+                    HasSubstr("[Quillon|3|Run-time error '61': Disk full (a.txt)]\n"), Not(HasSubstr("went on")),
+                    Not(HasSubstr("caught outside")), Not(HasSubstr("at exit"))));
+}
+
+TEST_F(ApplicationEnd, OfAFaultOutsideAHandlerIsTheSame) {
+  const auto end = [] {
+    TellOfTheBox();
+    EndWithFault("It is over.");
+  };
+  EXPECT_EXIT(end(), ExitedWithCode(1), AllOf(HasSubstr("It is over.\n"), HasSubstr("[Quillon|3|It is over.]\n")));
+}
+
+TEST(Application, LooksTheSameOnEveryDesktop) {
+  EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
+  EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
+  EXPECT_EQ(QApplication::palette().color(QPalette::Text), QColor(Qt::black));
+  EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Quillon"));
+}
+
+}  // namespace
+}  // namespace quillon

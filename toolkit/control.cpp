@@ -1,0 +1,103 @@
+#include "toolkit/control.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace quillon {
+
+Control::Control(QWidget* parent) : QWidget(parent) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void Control::SetUse(ControlUse use) {
+  use_ = use;
+  const bool hand = use == ControlUse::kLink || use == ControlUse::kFocusLink;
+  if (hand) {
+    setCursor(Qt::PointingHandCursor);
+  } else {
+    unsetCursor();
+  }
+  if (use == ControlUse::kPassive) {
+    setFocusPolicy(Qt::NoFocus);
+  } else {
+    setFocusPolicy(use == ControlUse::kFocusLink ? Qt::StrongFocus : Qt::TabFocus);
+  }
+}
+
+void Control::Click() {
+  Q_EMIT Clicked();
+}
+
+void Control::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  held_ = true;
+  update();
+  Q_EMIT Pressed();
+}
+
+void Control::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+}
+
+void Control::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !held_) return;
+  held_ = false;
+  update();
+  Q_EMIT Released();
+  if (rect().contains(event->position().toPoint())) Q_EMIT Clicked();
+}
+
+// Accepted as it is, so that a move over a control never counts as one over the frame behind it.
+void Control::mouseMoveEvent(QMouseEvent* /*event*/) {
+  Q_EMIT MouseMoved();
+}
+
+void Control::keyPressEvent(QKeyEvent* event) {
+  const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  if (!CanBeClicked() || !presses || event->isAutoRepeat()) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  Q_EMIT Clicked();
+}
+
+void Control::focusInEvent(QFocusEvent* event) {
+  // The keyboard brings the mark, and it comes back with the window; a mouse, or a window's first show, brings none.
+  const Qt::FocusReason reason = event->reason();
+  const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+  focusMark_ = back ? markBefore_ : reason != Qt::MouseFocusReason;
+  update();
+  if (focusMark_) Q_EMIT FocusReached();
+}
+
+void Control::focusOutEvent(QFocusEvent* /*event*/) {
+  markBefore_ = focusMark_;
+  focusMark_ = false;
+  update();
+}
+
+void Control::enterEvent(QEnterEvent* /*event*/) {
+  update();
+}
+
+void Control::leaveEvent(QEvent* /*event*/) {
+  update();
+}
+
+// A control that went away with its screen is not told that the mouse has left it.
+void Control::hideEvent(QHideEvent* /*event*/) {
+  held_ = false;
+  setAttribute(Qt::WA_UnderMouse, false);
+}
+
+void Control::PaintFocusMark(const QColor& color) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, 1.5));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), 3, 3);
+}
+
+}  // namespace quillon

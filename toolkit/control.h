@@ -1,0 +1,65 @@
+#pragma once
+
+// What labels, pictures and frames have in common: they hear the mouse, and those that can be clicked hear the keyboard
+// as well. The mouse gives the focus to none of them, unless it is asked to, so a box that is being typed into keeps it
+// while a link is clicked. A click is a press and a release of the left button over the control, or Enter or Space
+// while the control has the focus; a second quick click is another click.
+
+#include <QRect>
+#include <QString>
+#include <QWidget>
+
+#include "toolkit/control_row.h"
+
+namespace quillon {
+
+class Control : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Control(QWidget* parent);
+
+  /// Makes the control a link or plain again: the cursor over it, and whether Tab reaches it.
+  void SetUse(ControlUse use);
+  [[nodiscard]] ControlUse Use() const { return use_; }
+  [[nodiscard]] bool CanBeClicked() const { return use_ != ControlUse::kPassive; }
+
+  /// Does what a click does.
+  void Click();
+
+  /// What the control says of itself to somebody who cannot see it.
+  [[nodiscard]] virtual QString SpokenText() const { return accessibleName(); }
+
+ Q_SIGNALS:
+  void Clicked();
+  void Pressed();  // the left mouse button went down on it
+  void Released();  // and up again, wherever that was
+  void MouseMoved();  // over it, with or without a button
+  void FocusReached();  // by the keyboard
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+  [[nodiscard]] bool IsHeld() const { return held_; }
+  [[nodiscard]] bool HasFocusMark() const { return focusMark_; }
+
+  /// A thin frame just inside the edge, in a colour that stands out from what is under it.
+  void PaintFocusMark(const QColor& color);
+
+ private:
+  ControlUse use_ = ControlUse::kPassive;
+  bool held_ = false;
+  bool focusMark_ = false;
+  bool markBefore_ = false;  // when the focus was last lost
+};
+
+}  // namespace quillon

@@ -1,0 +1,133 @@
+#include "toolkit/expected_boxes.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <array>
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+#include <string_view>
+
+#include "toolkit/message_dialogs.h"
+
+namespace quillon {
+namespace {
+
+const Message kQuestion = {.title = "Delete?",
+                           .text = "Do you really want to delete \"Button\"?",
+                           .icon = MessageIcon::kQuestion,
+                           .buttons = MessageButtons::kYesNoCancel};
+const Message kNote = {.title = "Quillon", .text = "First line.\r\nSecond line."};
+
+// Statements that have to fail may reach no local variable, so all of them are here.
+MessageAnswer Show(const Message& message) {
+  return MessageDialogs().Show(message);
+}
+
+TEST(ExpectedBoxes, AnswerWithTheButtonAskedForInTheirOrder) {
+  ExpectMessageBox(kQuestion, MessageAnswer::kNo);
+  ExpectMessageBox(kNote);
+  ExpectMessageBox(kQuestion, MessageAnswer::kYes);
+
+  EXPECT_EQ(Show(kQuestion), MessageAnswer::kNo);
+  EXPECT_EQ(Show(kNote), MessageAnswer::kOk);
+  EXPECT_EQ(Show(kQuestion), MessageAnswer::kYes);
+}
+
+TEST(ExpectedBoxes, AnswerABoxThatOpensWhileAnotherOneIsAnswered) {
+  QMessageBox outer;
+  FillMessageBox(outer, kNote);
+  QObject::connect(&outer, &QMessageBox::buttonClicked, &outer, [] { Show(kQuestion); });
+  ExpectMessageBox(kNote);
+  ExpectMessageBox(kQuestion, MessageAnswer::kCancel);
+
+  outer.exec();
+}
+
+TEST(ExpectedBoxes, FailTheTestAtABoxThatNobodyExpected) {
+  EXPECT_NONFATAL_FAILURE(Show(kQuestion),
+                          "Nobody expected this box: message box \"Delete?\" (question, Yes No Cancel)");
+  EXPECT_NONFATAL_FAILURE(MessageDialogs().Ask("Name?", "New", "Button"),
+                          "Nobody expected this box: input box \"New\": Name? [Button]");
+  EXPECT_NONFATAL_FAILURE(QFileDialog(nullptr, QStringLiteral("Save As")).exec(), "QFileDialog \"Save As\"");
+}
+
+TEST(ExpectedBoxes, FailTheTestAtABoxWithNoWayOut) {
+  EXPECT_NONFATAL_FAILURE(
+      QMessageBox(QMessageBox::NoIcon, QStringLiteral("Trap"), QStringLiteral("?"), QMessageBox::Yes | QMessageBox::No)
+          .exec(),
+      "\"Trap\" (no icon, Yes No): ?");
+}
+
+TEST(ExpectedBoxes, FailTheTestWhereTheBoxDiffersInAnything) {
+  struct Row {
+    std::string_view Difference;
+    Message Shown;
+  };
+  const std::array rows = {
+      Row{"title", {"Delete", kQuestion.text, kQuestion.icon, kQuestion.buttons}},
+      Row{"text", {kQuestion.title, "Do you really?", kQuestion.icon, kQuestion.buttons}},
+      Row{"icon", {kQuestion.title, kQuestion.text, MessageIcon::kStop, kQuestion.buttons}},
+      Row{"buttons", {kQuestion.title, kQuestion.text, kQuestion.icon, MessageButtons::kYesNo}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.Difference);
+    static const Message* shown = nullptr;
+    shown = &row.Shown;
+    ExpectMessageBox(kQuestion);
+    EXPECT_NONFATAL_FAILURE(Show(*shown), "Not the box that was expected.");
+  }
+}
+
+TEST(ExpectedBoxes, FailTheTestAtAMessageBoxInTheInputBoxsPlace) {
+  ExpectInputBox({"Name?", "New", ""}, "Button");
+  EXPECT_NONFATAL_FAILURE(Show(kNote), "input box \"New\": Name? []");
+}
+
+TEST(ExpectedBoxes, FailTheTestWhereTheButtonIsNotThere) {
+  ExpectMessageBox(kNote, MessageAnswer::kCancel);
+  EXPECT_NONFATAL_FAILURE(Show(kNote), "This box was answered and is still there: message box \"Quillon\"");
+}
+
+TEST(ExpectedBoxes, FailTheTestWhereABoxDoesNotCome) {
+  EXPECT_NONFATAL_FAILURE(
+      {
+        ExpectMessageBox(kNote);
+        VerifyExpectedBoxes();
+      },
+      "This box has not come: message box \"Quillon\" (information, OK): First line.");
+
+  VerifyExpectedBoxes();  // it is not expected any longer
+}
+
+TEST(ExpectedBoxes, TypeIntoAnInputBoxOrCancelIt) {
+  MessageDialogs dialogs;
+  ExpectInputBox({"Name?", "New", "Button"}, "Big Blind");
+  ExpectInputBoxCancelled({"Name?", "New", "Button"});
+
+  EXPECT_EQ(dialogs.Ask("Name?", "New", "Button"), "Big Blind");
+  EXPECT_EQ(dialogs.Ask("Name?", "New", "Button"), "");
+}
+
+TEST(ExpectedBoxes, HandOverADialogOfAnyKind) {
+  ExpectDialog([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Save As"));
+    dialog.accept();
+  });
+  QDialog dialog;
+  dialog.setWindowTitle(QStringLiteral("Save As"));
+
+  EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+}
+
+TEST(ExpectedBoxes, LeaveWindowsThatAreNotModalAlone) {
+  QDialog dialog;
+  dialog.show();
+  QCoreApplication::processEvents();
+
+  EXPECT_TRUE(dialog.isVisible());
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,72 @@
+#include "toolkit/fonts.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <array>
+#include <gtest/gtest.h>
+
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+TEST(Fonts, PointsAreThoseOf96DotsToTheInch) {
+  struct Row {
+    float Points;
+    int Pixels;
+  };
+  constexpr std::array kRows = {
+      Row{6.75F, 9},  Row{8, 11},  Row{8.25F, 11},  Row{9, 12},
+      Row{9.75F, 13}, Row{12, 16}, Row{15.75F, 21}, Row{20.25F, 27},
+  };
+  for (const Row& row : kRows) {
+    EXPECT_EQ(FontPixels(row.Points), row.Pixels) << row.Points;
+    EXPECT_EQ(QFontInfo(FormFont({.Family = "Arial", .Points = row.Points}, {})).pixelSize(), row.Pixels) << row.Points;
+  }
+}
+
+TEST(Fonts, OfAnotherPlatformHaveAFreeOneBehindThem) {
+  struct Row {
+    std::string_view Family;
+    std::string_view StandIn;
+  };
+  constexpr std::array kRows = {
+      Row{"Arial", "Liberation Sans"}, Row{"MS Sans Serif", "Liberation Sans"}, Row{"Tahoma", "DejaVu Sans Condensed"},
+      Row{"Verdana", "DejaVu Sans"},   Row{"Courier New", "Liberation Mono"},
+  };
+  for (const Row& row : kRows) {
+    EXPECT_EQ(FontFamilies(row.Family), QStringList({ToQt(row.Family), ToQt(row.StandIn)}));
+    const std::string shown = QFontInfo(FormFont({.Family = row.Family, .Points = 8.25F}, {})).family().toStdString();
+    EXPECT_TRUE(shown == row.Family || shown == row.StandIn) << row.Family << " is shown as " << shown;
+  }
+}
+
+TEST(Fonts, OfAnUnknownNameStandAlone) {
+  EXPECT_EQ(FontFamilies("Wingdings"), QStringList({QStringLiteral("Wingdings")}));
+}
+
+TEST(Fonts, OfTheFixedPitchHaveOneWidth) {
+  const QFontMetrics metrics(FormFont({.Family = "Courier New", .Points = 9}, {}));
+
+  EXPECT_EQ(metrics.horizontalAdvance(QStringLiteral("iiii")), metrics.horizontalAdvance(QStringLiteral("WWWW")));
+}
+
+TEST(Fonts, OfARowWithoutOneAreThoseOfItsFrame) {
+  const FontSpec frame = {.Family = "Verdana", .Points = 12, .Bold = true, .Underlined = true};
+
+  EXPECT_EQ(FormFont({}, frame), FormFont(frame, {}));
+  EXPECT_TRUE(FormFont({}, frame).bold());
+  EXPECT_TRUE(FormFont({}, frame).underline());
+}
+
+TEST(Fonts, OfARowThatNamesOneTakeNothingFromItsFrame) {
+  const FontSpec frame = {.Family = "Verdana", .Points = 12, .Bold = true, .Underlined = true};
+  const QFont font = FormFont({.Family = "Arial", .Points = 8.25F}, frame);
+
+  EXPECT_EQ(font.pixelSize(), 11);
+  EXPECT_FALSE(font.bold());
+  EXPECT_FALSE(font.underline());
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,164 @@
+#include "toolkit/form_builder.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <ranges>
+#include <stdexcept>
+
+#include "toolkit/colors.h"
+#include "toolkit/fonts.h"
+#include "toolkit/rich_text_box.h"
+#include "toolkit/text.h"
+#include "toolkit/text_box.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+namespace {
+
+Label* MakeLabel(QWidget* container, const ControlRow& row, const QFont& font) {
+  auto* label = new Label(container);
+  label->setFont(font);
+  label->SetAlignment(row.Alignment);
+  label->SetPlace(PixelPlace(row.Place));
+  label->SetText(ToQt(row.Text));
+  label->SetBackColor(ToColor(row.Back));
+  if (row.Fore != kNoColor) label->SetTextColor(ToColor(row.Fore));
+  label->SetUse(row.Use);
+  return label;
+}
+
+Picture* MakePicture(QWidget* container, const ControlRow& row) {
+  auto* picture = new Picture(container);
+  picture->SetArtwork(ToQt(row.Picture));
+  picture->SetUse(row.Use);
+  return picture;
+}
+
+Shape* MakeShape(QWidget* container, const ControlRow& row) {
+  auto* shape = new Shape(row.Kind, container);
+  shape->SetFill(ToColor(row.Back));
+  if (row.Fore != kNoColor) shape->SetLineColor(ToColor(row.Fore));
+  shape->SetLineStyle(row.Style);
+  shape->SetLineWidth(row.LineWidth);
+  return shape;
+}
+
+TextBox* MakeTextBox(QWidget* container, const ControlRow& row) {
+  auto* box = new TextBox(container);
+  box->setText(ToQt(row.Text));
+  if (row.Alignment == TextAlignment::kCentered) box->setAlignment(Qt::AlignCenter);
+  return box;
+}
+
+QPlainTextEdit* MakeMemo(QWidget* container, const ControlRow& row) {
+  auto* memo = new QPlainTextEdit(container);
+  memo->setPlainText(ToQt(row.Text));
+  memo->setReadOnly(row.Kind == ControlKind::kReadOnlyMemo);
+  if (memo->isReadOnly()) memo->setFrameShape(QFrame::NoFrame);
+  memo->setTabChangesFocus(true);
+  if (row.Fore != kNoColor) {
+    QPalette palette = memo->palette();
+    palette.setColor(QPalette::Text, ToColor(row.Fore));
+    memo->setPalette(palette);
+  }
+  return memo;
+}
+
+Frame* MakeFrame(QWidget* container, const ControlRow& row) {
+  auto* frame = new Frame(container);
+  frame->SetCaption(ToQt(row.Text));
+  frame->SetBackColor(ToColor(row.Back == kNoColor ? 0xFFFFFF : row.Back));
+  return frame;
+}
+
+QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& font) {
+  switch (row.Kind) {
+    case ControlKind::kLabel:
+      return MakeLabel(container, row, font);
+    case ControlKind::kPicture:
+      return MakePicture(container, row);
+    case ControlKind::kShape:
+    case ControlKind::kRoundedShape:
+    case ControlKind::kLine:
+      return MakeShape(container, row);
+    case ControlKind::kTextBox:
+      return MakeTextBox(container, row);
+    case ControlKind::kMemo:
+    case ControlKind::kReadOnlyMemo:
+      return MakeMemo(container, row);
+    case ControlKind::kChooser:
+      return new QComboBox(container);
+    case ControlKind::kListBox:
+      return new QListWidget(container);
+    case ControlKind::kCheckBox:
+      return new QCheckBox(ToQt(row.Text), container);
+    case ControlKind::kButton:
+      return new QPushButton(ToQt(row.Text), container);
+    case ControlKind::kFrame:
+      return MakeFrame(container, row);
+    case ControlKind::kRichTextBox:
+      return new RichTextBox(container);
+  }
+  return nullptr;
+}
+
+// A line has no height or no width of its own, and still has to be seen.
+QRect PlaceOf(const ControlRow& row) {
+  QRect place = PixelPlace(row.Place);
+  if (row.Kind == ControlKind::kLine) place.setSize(place.size().expandedTo({1, 1}));
+  return place;
+}
+
+}  // namespace
+
+void FormControls::Add(QWidget* control) {
+  controls_[control->objectName().toStdString()] = control;
+}
+
+QWidget* FormControls::Find(const std::string& objectName) const {
+  const auto found = controls_.find(objectName);
+  return found == controls_.end() ? nullptr : found->second;
+}
+
+std::int16_t FormControls::CountOf(std::string_view name) const {
+  std::int16_t count = 0;
+  while (Find(ObjectName(name, count)) != nullptr)
+    ++count;
+  return count;
+}
+
+void ControlMissing(const std::string& objectName) {
+  throw std::logic_error("The form has no control of this kind: " + objectName);
+}
+
+QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited) {
+  const QFont font = FormFont(row.Font, inherited);
+  QWidget* control = MakeControl(&container, row, font);
+  control->setObjectName(ToQt(ObjectName(row.Name, row.Index)));
+  if (row.Kind != ControlKind::kLabel) {
+    control->setFont(font);
+    control->setGeometry(PlaceOf(row));
+  }
+  if (!row.Spoken.empty()) control->setAccessibleName(ToQt(row.Spoken));
+  if (!row.ToolTip.empty()) control->setToolTip(ToQt(row.ToolTip));
+  control->setVisible(!row.Hidden);
+  return control;
+}
+
+FormControls BuildForm(QWidget& form, std::span<const ControlTable> tables) {
+  FormControls controls;
+  for (const ControlTable& table : tables) {
+    const std::string containerName(table.Container);
+    QWidget* container = containerName.empty() ? &form : controls.Find(containerName);
+    if (container == nullptr) ControlMissing(containerName);
+    for (const ControlRow& row : std::views::reverse(table.Rows)) {
+      controls.Add(BuildControl(*container, row, table.Font));
+    }
+  }
+  return controls;
+}
+
+}  // namespace quillon

@@ -1,0 +1,206 @@
+#include "toolkit/form_builder.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <array>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include "toolkit/colors.h"
+#include "toolkit/rich_text_box.h"
+#include "toolkit/text_box.h"
+
+namespace quillon {
+namespace {
+
+constexpr TwipRect kPlace = {150, 300, 1500, 600};
+constexpr FontSpec kFont = {.Family = "Arial", .Points = 8.25F};
+
+FormControls Build(QWidget& form, std::span<const ControlRow> rows) {
+  const std::array tables = {ControlTable{.Container = "", .Font = kFont, .Rows = rows}};
+  return BuildForm(form, tables);
+}
+
+TEST(FormBuilder, MakesOfEachKindTheControlThatItNames) {
+  constexpr std::array kRows = {
+      ControlRow{.Name = "label", .Kind = ControlKind::kLabel, .Place = kPlace},
+      ControlRow{.Name = "picture", .Kind = ControlKind::kPicture, .Place = kPlace},
+      ControlRow{.Name = "shape", .Kind = ControlKind::kShape, .Place = kPlace},
+      ControlRow{.Name = "rounded", .Kind = ControlKind::kRoundedShape, .Place = kPlace},
+      ControlRow{.Name = "line", .Kind = ControlKind::kLine, .Place = kPlace},
+      ControlRow{.Name = "text", .Kind = ControlKind::kTextBox, .Place = kPlace},
+      ControlRow{.Name = "memo", .Kind = ControlKind::kMemo, .Place = kPlace},
+      ControlRow{.Name = "readOnly", .Kind = ControlKind::kReadOnlyMemo, .Place = kPlace},
+      ControlRow{.Name = "chooser", .Kind = ControlKind::kChooser, .Place = kPlace},
+      ControlRow{.Name = "list", .Kind = ControlKind::kListBox, .Place = kPlace},
+      ControlRow{.Name = "check", .Kind = ControlKind::kCheckBox, .Place = kPlace},
+      ControlRow{.Name = "button", .Kind = ControlKind::kButton, .Place = kPlace},
+      ControlRow{.Name = "frame", .Kind = ControlKind::kFrame, .Place = kPlace},
+      ControlRow{.Name = "rich", .Kind = ControlKind::kRichTextBox, .Place = kPlace},
+  };
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  EXPECT_NO_THROW({
+    std::ignore = controls.LabelAt("label");
+    std::ignore = controls.PictureAt("picture");
+    std::ignore = controls.ShapeAt("shape");
+    std::ignore = controls.ShapeAt("rounded");
+    std::ignore = controls.ShapeAt("line");
+    std::ignore = controls.Get<TextBox>("text");
+    EXPECT_FALSE(controls.Get<QPlainTextEdit>("memo").isReadOnly());
+    EXPECT_TRUE(controls.Get<QPlainTextEdit>("readOnly").isReadOnly());
+    std::ignore = controls.Get<QComboBox>("chooser");
+    std::ignore = controls.Get<QListWidget>("list");
+    std::ignore = controls.Get<QCheckBox>("check");
+    std::ignore = controls.Get<QPushButton>("button");
+    std::ignore = controls.FrameAt("frame");
+    std::ignore = controls.Get<RichTextBox>("rich");
+  });
+  for (const ControlRow& row : kRows)
+    EXPECT_EQ(controls.Find(std::string(row.Name))->geometry(), QRect(10, 20, 100, 40)) << row.Name;
+}
+
+TEST(FormBuilder, PutsTheFirstOfTwoRowsInFront) {
+  constexpr std::array kRows = {
+      ControlRow{.Name = "front", .Place = kPlace},
+      ControlRow{.Name = "middle", .Place = kPlace},
+      ControlRow{.Name = "back", .Place = kPlace},
+  };
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  EXPECT_EQ(form.childAt(20, 30), controls.Find("front"));
+  controls.LabelAt("front").hide();
+  EXPECT_EQ(form.childAt(20, 30), controls.Find("middle"));
+}
+
+TEST(FormBuilder, FindsControlsByNameAndIndex) {
+  constexpr std::array kRows = {
+      ControlRow{.Name = "txtNumber", .Index = 0, .Kind = ControlKind::kTextBox, .Text = "zero", .Place = kPlace},
+      ControlRow{.Name = "txtNumber", .Index = 1, .Kind = ControlKind::kTextBox, .Text = "one", .Place = kPlace},
+      ControlRow{.Name = "txtNumber", .Index = 3, .Kind = ControlKind::kTextBox, .Text = "three", .Place = kPlace},
+      ControlRow{.Name = "picLogo", .Kind = ControlKind::kPicture, .Place = kPlace},
+  };
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  EXPECT_EQ(controls.Get<TextBox>("txtNumber", 1).text(), QStringLiteral("one"));
+  EXPECT_EQ(controls.Get<TextBox>("txtNumber", 1).objectName(), QStringLiteral("txtNumber(1)"));
+  EXPECT_EQ(form.findChild<Picture*>(QStringLiteral("picLogo")), &controls.PictureAt("picLogo"));
+  EXPECT_EQ(controls.CountOf("txtNumber"), 2);
+  EXPECT_EQ(controls.CountOf("picLogo"), 0);
+  EXPECT_EQ(controls.Find("txtNumber(2)"), nullptr);
+}
+
+TEST(FormBuilder, FailsWhereAControlIsNotThereOrOfAnotherKind) {
+  constexpr std::array kRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  EXPECT_THROW(std::ignore = controls.LabelAt("lblPot", 0), std::logic_error);
+  EXPECT_THROW(std::ignore = controls.LabelAt("lblpot"), std::logic_error);
+  EXPECT_THROW(std::ignore = controls.PictureAt("lblPot"), std::logic_error);
+}
+
+TEST(FormBuilder, PutsEachTableIntoItsContainer) {
+  constexpr std::array kFormRows = {ControlRow{.Name = "frameContent",
+                                               .Index = 0,
+                                               .Kind = ControlKind::kFrame,
+                                               .Text = "Progress",
+                                               .Place = {3300, 0, 12000, 9045}}};
+  constexpr std::array kScreenRows = {
+      ControlRow{.Name = "pane", .Kind = ControlKind::kFrame, .Place = {1500, 1500, 3000, 3000}}};
+  constexpr std::array kPaneRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
+  const std::array tables = {
+      ControlTable{.Container = "", .Font = kFont, .Rows = kFormRows},
+      ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = kScreenRows},
+      ControlTable{.Container = "pane", .Font = {.Family = "Verdana", .Points = 12}, .Rows = kPaneRows},
+  };
+  QWidget form;
+  const FormControls controls = BuildForm(form, tables);
+
+  const Label& label = controls.LabelAt("lblPot");
+  EXPECT_EQ(controls.FrameAt("frameContent", 0).Caption(), QStringLiteral("Progress"));
+  EXPECT_EQ(label.mapTo(&form, QPoint(0, 0)), QPoint(220 + 100 + 10, 100 + 20));
+  EXPECT_EQ(label.font().pixelSize(), 16);
+}
+
+TEST(FormBuilder, FailsAtATableWithoutItsContainer) {
+  const std::array tables = {ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = {}}};
+  QWidget form;
+
+  EXPECT_THROW(std::ignore = BuildForm(form, tables), std::logic_error);
+}
+
+TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
+  constexpr std::array kRows = {
+      ControlRow{.Name = "lblLink",
+                 .Text = "First\r\nSecond",
+                 .Place = kPlace,
+                 .Back = 0xC0C0C0,
+                 .Fore = 0x336699,
+                 .Font = {.Family = "Arial", .Points = 9.75F, .Bold = true, .Underlined = true},
+                 .Use = ControlUse::kLink,
+                 .ToolTip = "Pot Size",
+                 .Spoken = "Help for the pot size"},
+      ControlRow{.Name = "hidden", .Place = kPlace, .Hidden = true},
+      ControlRow{.Name = "plain", .Place = kPlace},
+      ControlRow{.Name = "shape",
+                 .Kind = ControlKind::kShape,
+                 .Place = kPlace,
+                 .Back = 0xFF0000,
+                 .Fore = 0x00FF00,
+                 .Style = LineStyle::kDotted,
+                 .LineWidth = 2},
+  };
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  const Label& label = controls.LabelAt("lblLink");
+  EXPECT_EQ(label.Text(), QStringLiteral("First\nSecond"));
+  EXPECT_EQ(label.BackColor(), QColor(0xC0, 0xC0, 0xC0));
+  EXPECT_EQ(label.TextColor(), QColor(0x33, 0x66, 0x99));
+  EXPECT_EQ(label.font().pixelSize(), 13);
+  EXPECT_TRUE(label.font().bold());
+  EXPECT_TRUE(label.HasUnderline());
+  EXPECT_EQ(label.Use(), ControlUse::kLink);
+  EXPECT_EQ(label.toolTip(), QStringLiteral("Pot Size"));
+  EXPECT_EQ(label.accessibleName(), QStringLiteral("Help for the pot size"));
+  EXPECT_FALSE(label.isHidden());
+  EXPECT_TRUE(controls.LabelAt("hidden").isHidden());
+  EXPECT_EQ(controls.LabelAt("plain").TextColor(), QColor(Qt::black));
+  EXPECT_EQ(controls.LabelAt("plain").BackColor().alpha(), 0);
+  EXPECT_EQ(controls.LabelAt("plain").font().pixelSize(), 11);
+  EXPECT_EQ(controls.ShapeAt("shape").Fill(), QColor(Qt::red));
+  EXPECT_EQ(controls.ShapeAt("shape").LineColor(), QColor(Qt::green));
+  EXPECT_EQ(controls.ShapeAt("shape").Style(), LineStyle::kDotted);
+  EXPECT_EQ(controls.ShapeAt("shape").LineWidth(), 2);
+}
+
+TEST(FormBuilder, GivesALineOfNoHeightAPixelToBeSeenBy) {
+  constexpr std::array kRows = {
+      ControlRow{.Name = "across", .Kind = ControlKind::kLine, .Place = {150, 300, 1500, 0}},
+      ControlRow{.Name = "down", .Kind = ControlKind::kLine, .Place = {150, 300, 0, 1500}},
+  };
+  QWidget form;
+  const FormControls controls = Build(form, kRows);
+
+  EXPECT_EQ(controls.ShapeAt("across").geometry(), QRect(10, 20, 100, 1));
+  EXPECT_EQ(controls.ShapeAt("down").geometry(), QRect(10, 20, 1, 100));
+}
+
+TEST(FormBuilder, BuildsOneControlMore) {
+  QWidget form;
+  FormControls controls;
+  controls.Add(BuildControl(form, {.Name = "lblCards", .Index = 168, .Text = "22", .Place = kPlace}, kFont));
+
+  EXPECT_EQ(controls.LabelAt("lblCards", 168).Text(), QStringLiteral("22"));
+  EXPECT_EQ(controls.LabelAt("lblCards", 168).parentWidget(), &form);
+}
+
+}  // namespace
+}  // namespace quillon

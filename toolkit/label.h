@@ -1,0 +1,62 @@
+#pragma once
+
+// A piece of text on a form. A label whose place has room for one line is one line: its text is never cut off or
+// wrapped, the label grows with it instead, to the right, or to where its alignment leaves room: to both sides where
+// the text is centred, to the left where it ends at the right edge. A label with room for more wraps its text at its
+// edges. The text is shown as it stands and never read as mark-up.
+
+#include <QColor>
+#include <QString>
+
+#include "toolkit/control.h"
+
+namespace quillon {
+
+class Label : public Control {
+  Q_OBJECT
+
+ public:
+  explicit Label(QWidget* parent);
+
+  /// The place in the layout, which is the least that the label takes up.
+  void SetPlace(const QRect& place);
+
+  void SetText(const QString& text);
+  [[nodiscard]] const QString& Text() const { return text_; }
+
+  void SetTextColor(const QColor& color);
+  [[nodiscard]] const QColor& TextColor() const { return textColor_; }
+
+  void SetUnderline(bool underline);
+  [[nodiscard]] bool HasUnderline() const { return font().underline(); }
+
+  /// Qt::transparent for none.
+  void SetBackColor(const QColor& color);
+  [[nodiscard]] const QColor& BackColor() const { return backColor_; }
+
+  void SetAlignment(TextAlignment alignment);
+
+  /// Whether the text wraps within the label's place.
+  [[nodiscard]] bool Wraps() const;
+
+  /// The room that the whole text takes as it is shown; more than the label's size where something is cut off.
+  [[nodiscard]] QSize TextSize() const;
+
+  [[nodiscard]] QString SpokenText() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Grow();
+  [[nodiscard]] int Flags() const;
+
+  QRect place_;
+  QString text_;
+  QColor textColor_ = Qt::black;
+  QColor backColor_ = Qt::transparent;
+  TextAlignment alignment_ = TextAlignment::kLeft;
+};
+
+}  // namespace quillon

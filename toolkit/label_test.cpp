@@ -1,0 +1,165 @@
+#include "toolkit/label.h"
+
+#include <QImage>
+#include <array>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "toolkit/fonts.h"
+
+namespace quillon {
+namespace {
+
+const QRect kOneLine(100, 50, 60, 16);
+const QRect kSeveralLines(100, 50, 60, 48);
+const QString kShort = QStringLiteral("Pot");
+const QString kLong = QStringLiteral("The amount your opponent must call");
+
+class LabelTest : public testing::Test {
+ public:
+  LabelTest() {
+    form.resize(400, 200);
+    label.setFont(FormFont({.Family = "Arial", .Points = 8.25F}, {}));
+  }
+
+  QWidget form;
+  Label label{&form};
+};
+
+TEST_F(LabelTest, KeepsItsPlaceWhereTheTextFits) {
+  for (const TextAlignment alignment : {TextAlignment::kLeft, TextAlignment::kCentered, TextAlignment::kRight}) {
+    label.SetAlignment(alignment);
+    label.SetPlace(kOneLine);
+    label.SetText(kShort);
+    EXPECT_EQ(label.geometry(), kOneLine);
+  }
+}
+
+TEST_F(LabelTest, OfOneLineGrowsToWhereItsAlignmentLeavesRoom) {
+  label.SetPlace(kOneLine);
+  label.SetText(kLong);
+  const int width = label.TextSize().width();
+  ASSERT_GT(width, kOneLine.width());
+
+  label.SetAlignment(TextAlignment::kLeft);
+  EXPECT_EQ(label.geometry(), QRect(100, 50, width, 16));
+
+  label.SetAlignment(TextAlignment::kRight);
+  EXPECT_EQ(label.geometry(), QRect(160 - width, 50, width, 16));
+
+  label.SetAlignment(TextAlignment::kCentered);
+  EXPECT_EQ(label.width(), label.TextSize().width());
+  EXPECT_EQ(label.height(), kOneLine.height());
+  EXPECT_NEAR(label.geometry().center().x(), kOneLine.center().x(), 1);
+}
+
+TEST_F(LabelTest, GoesBackToItsPlaceWithAShorterText) {
+  label.SetPlace(kOneLine);
+  label.SetText(kLong);
+  label.SetText(kShort);
+
+  EXPECT_EQ(label.geometry(), kOneLine);
+}
+
+TEST_F(LabelTest, OfOneLineIsNeverTooLowForItsFont) {
+  label.SetPlace(QRect(100, 50, 60, 5));
+  label.SetText(kShort);
+
+  EXPECT_EQ(label.geometry().topLeft(), QPoint(100, 50));
+  EXPECT_GE(label.height(), label.fontMetrics().height());
+}
+
+TEST_F(LabelTest, OfOneLineGrowsWithItsFont) {
+  label.SetPlace(kOneLine);
+  label.SetText(kShort);
+  label.setFont(FormFont({.Family = "Arial", .Points = 20.25F, .Bold = true}, {}));
+
+  EXPECT_GE(label.width(), label.TextSize().width());
+  EXPECT_GE(label.height(), 27);
+}
+
+TEST_F(LabelTest, OfSeveralLinesWrapsAtItsEdges) {
+  label.SetPlace(kSeveralLines);
+  label.SetText(kLong);
+
+  EXPECT_TRUE(label.Wraps());
+  EXPECT_EQ(label.geometry(), kSeveralLines);
+  EXPECT_LE(label.TextSize().width(), kSeveralLines.width());
+  EXPECT_GT(label.TextSize().height(), label.fontMetrics().height());
+}
+
+TEST_F(LabelTest, HasTheRoomOfTwoLinesForWrapping) {
+  const int pixels = label.fontInfo().pixelSize();
+  label.SetPlace(QRect(0, 0, 60, 2 * pixels - 1));
+  EXPECT_FALSE(label.Wraps());
+  label.SetPlace(QRect(0, 0, 60, 2 * pixels));
+  EXPECT_TRUE(label.Wraps());
+}
+
+TEST_F(LabelTest, ShowsEveryCharacterAsItStands) {
+  label.SetPlace(kOneLine);
+  const std::array<QString, 3> texts = {QStringLiteral("<b>AA</b>"), QStringLiteral("Q&A"), QStringLiteral("&lt;")};
+  for (const QString& text : texts) {
+    label.SetText(text);
+    EXPECT_EQ(label.TextSize().width(), label.fontMetrics().boundingRect({}, Qt::AlignLeft, text).width());
+    EXPECT_EQ(label.Text(), text);
+  }
+}
+
+TEST_F(LabelTest, ShowsAnAmpersandAndNoUnderscoredLetter) {
+  label.SetPlace(kOneLine);
+  label.SetText(QStringLiteral("&A"));
+  const QImage ampersand = label.grab().toImage();
+  label.SetText(QStringLiteral("A"));
+
+  EXPECT_NE(label.grab().toImage(), ampersand);
+}
+
+TEST_F(LabelTest, UnderlinesAndTakesTheLineAwayAgain) {
+  label.SetPlace(kOneLine);
+  label.SetText(kShort);
+  const QImage plain = label.grab().toImage();
+
+  label.SetUnderline(true);
+  EXPECT_TRUE(label.HasUnderline());
+  EXPECT_NE(label.grab().toImage(), plain);
+
+  label.SetUnderline(false);
+  EXPECT_FALSE(label.HasUnderline());
+  EXPECT_EQ(label.grab().toImage(), plain);
+}
+
+TEST_F(LabelTest, LetsWhatLiesUnderItShowThroughUnlessItHasABackColour) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, Qt::green);
+  form.setPalette(palette);
+  label.SetPlace(kOneLine);
+  EXPECT_EQ(form.grab().toImage().pixelColor(kOneLine.center()), QColor(Qt::green));
+
+  label.SetBackColor(Qt::red);
+  EXPECT_EQ(form.grab().toImage().pixelColor(kOneLine.center()), QColor(Qt::red));
+}
+
+TEST_F(LabelTest, IsDrawnInItsTextColour) {
+  label.SetPlace(kSeveralLines);
+  label.SetBackColor(Qt::white);
+  label.SetTextColor(Qt::blue);
+  label.setFont(FormFont({.Family = "Arial", .Points = 36, .Bold = true}, {}));
+  label.SetText(QStringLiteral("I"));
+  const QImage image = label.grab().toImage();
+
+  bool found = false;
+  for (int x = 0; x < image.width(); ++x)
+    found = found || image.pixelColor(x, image.height() / 2) == QColor(Qt::blue);
+  EXPECT_TRUE(found);
+}
+
+TEST_F(LabelTest, SpeaksItsTextUnlessItHasAnotherNameForIt) {
+  label.SetText(kShort);
+  EXPECT_EQ(label.SpokenText(), kShort);
+  label.setAccessibleName(QStringLiteral("Size of the pot"));
+  EXPECT_EQ(label.SpokenText(), QStringLiteral("Size of the pot"));
+}
+
+}  // namespace
+}  // namespace quillon

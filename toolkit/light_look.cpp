@@ -1,0 +1,30 @@
+#include "toolkit/light_look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace quillon {
+
+void UseLightLook() {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
+  const QColor heading(0x33, 0x66, 0x99);
+  QPalette palette(QColor(0xF0, 0xF0, 0xF0));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(0xFA, 0xFA, 0xFA));
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::Highlight, heading);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x80, 0x80, 0x80));
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
+  QApplication::setPalette(palette);
+  QToolTip::setPalette(palette);
+}
+
+}  // namespace quillon

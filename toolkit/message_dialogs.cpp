@@ -1,0 +1,78 @@
+#include "toolkit/message_dialogs.h"
+
+#include <QApplication>
+#include <QInputDialog>
+
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kStop:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kOk:
+      return QMessageBox::Ok;
+    case MessageButtons::kYesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::kYesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+MessageAnswer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return MessageAnswer::kYes;
+    case QMessageBox::No:
+      return MessageAnswer::kNo;
+    case QMessageBox::Cancel:
+      return MessageAnswer::kCancel;
+    default:
+      return MessageAnswer::kOk;
+  }
+}
+
+}  // namespace
+
+void FillMessageBox(QMessageBox& box, const Message& message) {
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  box.setWindowTitle(ToQt(message.title));
+  box.setText(ToQt(message.text));
+  box.setIcon(IconOf(message.icon));
+  box.setStandardButtons(ButtonsOf(message.buttons));
+  box.setDefaultButton(message.buttons == MessageButtons::kOk ? QMessageBox::Ok : QMessageBox::Yes);
+  // Escape and the close box answer what changes nothing.
+  if (message.buttons == MessageButtons::kYesNo) box.setEscapeButton(QMessageBox::No);
+}
+
+MessageAnswer MessageDialogs::Show(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  FillMessageBox(box, message);
+  return AnswerOf(box.exec());
+}
+
+std::string MessageDialogs::Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) {
+  QInputDialog box(QApplication::activeWindow());
+  box.setWindowTitle(ToQt(title));
+  box.setLabelText(ToQt(prompt));
+  box.setTextValue(ToQt(defaultText));
+  return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
+}
+
+}  // namespace quillon

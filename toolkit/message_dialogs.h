@@ -1,0 +1,22 @@
+#pragma once
+
+// Message boxes and input boxes on the screen. Each is modal: it takes the mouse and the keyboard of the whole program
+// until it is answered, and stands over the window that was in front.
+
+#include <QMessageBox>
+
+#include "support/input_boxes.h"
+#include "support/message_boxes.h"
+
+namespace quillon {
+
+class MessageDialogs : public MessageBoxes, public InputBoxes {
+ public:
+  MessageAnswer Show(const Message& message) override;
+  std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override;
+};
+
+/// Dresses a box: its text stands as it is and is never read as mark-up, and can be selected with the mouse.
+void FillMessageBox(QMessageBox& box, const Message& message);
+
+}  // namespace quillon

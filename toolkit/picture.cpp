@@ -1,0 +1,58 @@
+#include "toolkit/picture.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+namespace quillon {
+namespace {
+
+QString ArtworkFile(const QString& name) {
+  return QStringLiteral(":/artwork/%1.svg").arg(name);
+}
+
+}  // namespace
+
+Picture::Picture(QWidget* parent) : Control(parent) {}
+
+void Picture::SetArtwork(const QString& name) {
+  if (name == name_) return;
+  name_ = name;
+  hasLooks_ = QFile::exists(ArtworkFile(name + QStringLiteral("_hover")));
+  update();
+}
+
+QString Picture::NameForNow() const {
+  if (!hasLooks_) return name_;
+  if (IsHeld()) return name_ + QStringLiteral("_pressed");
+  return underMouse() ? name_ + QStringLiteral("_hover") : name_;
+}
+
+void Picture::paintEvent(QPaintEvent* /*event*/) {
+  if (!name_.isEmpty()) {
+    QPainter painter(this);
+    painter.drawPixmap(0, 0,
+                       ArtworkPixmap(NameForNow(), drawnSize_.isValid() ? drawnSize_ : size(), devicePixelRatioF()));
+  }
+  if (HasFocusMark()) PaintFocusMark(QColor(0x33, 0x66, 0x99));
+}
+
+QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale) {
+  const QString key = QStringLiteral("%1 %2x%3 %4").arg(name).arg(size.width()).arg(size.height()).arg(scale);
+  QPixmap pixmap;
+  if (QPixmapCache::find(key, &pixmap)) return pixmap;
+
+  QSvgRenderer renderer(ArtworkFile(name));
+  if (!renderer.isValid()) return {};
+  pixmap = QPixmap((QSizeF(size) * scale).toSize());
+  pixmap.setDevicePixelRatio(scale);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+  painter.end();
+  QPixmapCache::insert(key, pixmap);
+  return pixmap;
+}
+
+}  // namespace quillon

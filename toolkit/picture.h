@@ -1,0 +1,41 @@
+#pragma once
+
+// A picture from "artwork/", drawn anew for every size and scale, so that it is as sharp on a screen of 200% as on one
+// of 100%. One that can be clicked may have a look of its own for the mouse over it and for being pressed: files of its
+// name with "_hover" and "_pressed" behind it.
+
+#include <QPixmap>
+#include <QString>
+
+#include "toolkit/control.h"
+
+namespace quillon {
+
+class Picture : public Control {
+  Q_OBJECT
+
+ public:
+  explicit Picture(QWidget* parent);
+
+  /// Takes the file ":/artwork/NAME.svg"; the empty name shows nothing.
+  void SetArtwork(const QString& name);
+  [[nodiscard]] const QString& Artwork() const { return name_; }
+
+  /// The size at which it is drawn, from the upper left corner; by default the control's own.
+  void SetDrawnSize(const QSize& size) { drawnSize_ = size; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  [[nodiscard]] QString NameForNow() const;
+
+  QString name_;
+  bool hasLooks_ = false;
+  QSize drawnSize_;
+};
+
+/// The picture ":/artwork/NAME.svg" for a widget of that size and scale. Drawn once and kept; empty if there is none.
+[[nodiscard]] QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale);
+
+}  // namespace quillon

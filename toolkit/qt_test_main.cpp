@@ -1,0 +1,51 @@
+// The main of every test program whose tests build windows. They run without a screen, in a temporary folder, with the
+// program's own style and a font that is always the same, whatever desktop the machine has. A warning of Qt's is a
+// failure: it tells of a connection that was not made or of something drawn nowhere.
+
+#include <QDir>
+#include <QFont>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <iostream>
+
+#include "toolkit/application.h"
+#include "toolkit/expected_boxes.h"
+#include "toolkit/fonts.h"
+
+namespace {
+
+void ForgetTheDesktop(const QTemporaryDir& folder) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_STYLE_OVERRIDE",
+                           "QT_QPA_PLATFORMTHEME", "SESSION_MANAGER"}) {
+    qunsetenv(name);
+  }
+  for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+    qputenv(name, QFile::encodeName(folder.path()));
+}
+
+void FailAtWarning(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (text.startsWith(QStringLiteral("This plugin does not support"))) return;  // there is no screen
+  const bool warns = type == QtWarningMsg || type == QtCriticalMsg;
+  if (warns && testing::UnitTest::GetInstance()->current_test_info() != nullptr) {
+    ADD_FAILURE() << "Qt warns: " << text.toStdString();
+  } else {
+    std::cerr << text.toStdString() << '\n';
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  const QTemporaryDir folder;
+  if (!folder.isValid()) return EXIT_FAILURE;
+  ForgetTheDesktop(folder);
+  QDir::setCurrent(folder.path());
+
+  quillon::Application application(argc, argv);
+  QApplication::setFont(quillon::FormFont({.Family = "Arial", .Points = 9}, {}));
+  qInstallMessageHandler(FailAtWarning);
+  quillon::StartWatchingBoxes();
+  return RUN_ALL_TESTS();
+}

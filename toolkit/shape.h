@@ -1,0 +1,44 @@
+#pragma once
+
+// A rectangle, with square or rounded corners, or a straight line. Shapes take no part in what the mouse does: what
+// lies under one hears the mouse as if it were not there.
+
+#include <QColor>
+#include <QWidget>
+
+#include "toolkit/control_row.h"
+
+namespace quillon {
+
+class Shape : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `kind` is one of the two shapes or the line.
+  Shape(ControlKind kind, QWidget* parent);
+
+  void SetFill(const QColor& color);
+  [[nodiscard]] const QColor& Fill() const { return fill_; }
+
+  void SetLineColor(const QColor& color);
+  [[nodiscard]] const QColor& LineColor() const { return lineColor_; }
+
+  void SetLineStyle(LineStyle style);
+  [[nodiscard]] LineStyle Style() const { return style_; }
+
+  /// In pixels.
+  void SetLineWidth(int width);
+  [[nodiscard]] int LineWidth() const { return lineWidth_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  ControlKind kind_;
+  QColor fill_ = Qt::transparent;
+  QColor lineColor_ = Qt::black;
+  LineStyle style_ = LineStyle::kSolid;
+  int lineWidth_ = 1;
+};
+
+}  // namespace quillon

@@ -1,0 +1,20 @@
+#pragma once
+
+// The border between the program's text (UTF-8, lines parted by CR LF) and Qt's (UTF-16, lines parted by LF).
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// CR LF becomes LF. Bytes that are no UTF-8 become the replacement character.
+[[nodiscard]] QString ToQt(std::string_view text);
+
+/// UTF-8, with each line end as it stands.
+[[nodiscard]] std::string FromQt(const QString& text);
+
+/// UTF-8, with LF as CR LF: the text of a box of several lines.
+[[nodiscard]] std::string LinesFromQt(const QString& text);
+
+}  // namespace quillon

@@ -1,0 +1,39 @@
+#include "toolkit/text_box.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+
+namespace quillon {
+namespace {
+
+// The window going to the background, or a menu over the box, leaves the box in the middle of its work.
+bool LeavesTheBox(const QFocusEvent& event) {
+  return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason;
+}
+
+}  // namespace
+
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+  setFrame(false);
+}
+
+void TextBox::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (busy_) return;
+  busy_ = true;
+  Q_EMIT FocusGot();
+}
+
+void TextBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (!LeavesTheBox(*event)) return;
+  busy_ = false;
+  Q_EMIT FocusLost();
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Q_EMIT EnterPressed();
+  QLineEdit::keyPressEvent(event);
+}
+
+}  // namespace quillon

@@ -1,0 +1,34 @@
+#include "toolkit/text.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+TEST(Text, LinesArePartedByOneCharacterInQt) {
+  EXPECT_EQ(ToQt("a\r\nb\r\n\r\nc"), QStringLiteral("a\nb\n\nc"));
+  EXPECT_EQ(ToQt("a\nb"), QStringLiteral("a\nb"));
+  EXPECT_EQ(ToQt("a\rb"), QStringLiteral("a\rb"));
+}
+
+TEST(Text, LinesOfABoxArePartedByTwo) {
+  EXPECT_EQ(LinesFromQt(QStringLiteral("a\nb\n")), "a\r\nb\r\n");
+  EXPECT_EQ(FromQt(QStringLiteral("a\nb")), "a\nb");
+}
+
+TEST(Text, GoesThereAndBackWhateverItsCharacters) {
+  for (const char* text : {"", "A\u2660 2\u00A2 \u20AC", "\U0001F0A1", " blanks  stay "}) {
+    EXPECT_EQ(FromQt(ToQt(text)), text);
+    EXPECT_EQ(LinesFromQt(ToQt(text)), text);
+  }
+}
+
+TEST(Text, BytesThatAreNoTextBecomeTheReplacementCharacter) {
+  EXPECT_EQ(FromQt(ToQt("a\xFF"
+                        "b")),
+            "a\uFFFD"
+            "b");
+}
+
+}  // namespace
+}  // namespace quillon
