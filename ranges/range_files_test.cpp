@@ -12,6 +12,7 @@
 
 #include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
+#include "support/failing_calls.h"
 #include "support/passing_calls.h"
 
 namespace quillon {
@@ -117,36 +118,6 @@ TEST(SaveRangeText, WithoutItsFolderIsFatalAndNamesTheFile) {
     EXPECT_THAT(error.what(), HasSubstr("Ranges/Lost.txt"));
   }
 }
-
-// Passes every call on until its count is used up, and then fails one.
-class FailingCalls final : public FileCalls {
- public:
-  explicit FailingCalls(int callsUntilFailure) : left_(callsUntilFailure) {}
-
-  [[nodiscard]] bool HasFailed() const { return left_ < 0; }
-
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    return Fails() ? -EIO : system_.Open(path, flags, mode);
-  }
-  ssize_t Read(int file, std::span<char> buffer) override { return Fails() ? -EIO : system_.Read(file, buffer); }
-  ssize_t Write(int file, std::string_view bytes) override { return Fails() ? -ENOSPC : system_.Write(file, bytes); }
-  int Sync(int file) override { return Fails() ? -EIO : system_.Sync(file); }
-  int Close(int file) override {
-    const int closed = system_.Close(file);
-    return Fails() ? -EIO : closed;
-  }
-  int Rename(const std::string& from, const std::string& to) override {
-    return Fails() ? -EACCES : system_.Rename(from, to);
-  }
-  int Unlink(const std::string& path) override { return Fails() ? -EIO : system_.Unlink(path); }
-  int MakeFolder(const std::string& path) override { return Fails() ? -EIO : system_.MakeFolder(path); }
-
- private:
-  bool Fails() { return left_-- == 0; }
-
-  int left_;
-  FileCalls& system_ = SystemFileCalls();
-};
 
 TEST(SaveRangeText, FailureOfAnyCallLeavesTheOldOrTheNewRangeWhole) {
   const TemporaryProgram program;

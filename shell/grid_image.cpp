@@ -11,6 +11,10 @@ std::int32_t Whole(double value) {
   return static_cast<std::int32_t>(RoundTo(value, 0));
 }
 
+std::int32_t WholeTwips(float twips) {
+  return Whole(static_cast<double>(twips));
+}
+
 bool WantsToSeeIt(MessageBoxes& messages) {
   return messages.Show({"Open Now?", "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
                         MessageIcon::kQuestion, MessageButtons::kYesNo}) == MessageAnswer::kYes;
@@ -19,7 +23,8 @@ bool WantsToSeeIt(MessageBoxes& messages) {
 }  // namespace
 
 CaptureRect CaptureRectOf(const TwipRect& rect) {
-  return {Whole(rect.Left), Whole(rect.Top), Whole(rect.Left + rect.Width), Whole(rect.Top + rect.Height)};
+  return {WholeTwips(rect.Left), WholeTwips(rect.Top), WholeTwips(rect.Left + rect.Width),
+          WholeTwips(rect.Top + rect.Height)};
 }
 
 PixelRect PixelsOf(const CaptureRect& rect, double twipsPerPixelX, double twipsPerPixelY) {

@@ -3,18 +3,10 @@
 #include <algorithm>
 #include <charconv>
 
+#include "support/ascii_text.h"
+
 namespace quillon {
 namespace {
-
-char LowerCase(char character) {
-  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  std::ranges::transform(lower, lower.begin(), [](char character) { return LowerCase(character); });
-  return lower;
-}
 
 // A line end in an address would let whoever wrote it write the rest of the request as well.
 bool IsPlain(std::string_view text) {
@@ -63,7 +55,7 @@ std::string TargetBeside(std::string_view target, std::string_view location) {
 std::optional<HttpAddress> ParseHttpAddress(std::string_view address) {
   constexpr std::string_view kScheme = "http://";
   address = WithoutFragment(address);
-  if (!IsPlain(address) || LowerCase(address.substr(0, kScheme.size())) != kScheme) return std::nullopt;
+  if (!IsPlain(address) || AsciiLower(address.substr(0, kScheme.size())) != kScheme) return std::nullopt;
   address.remove_prefix(kScheme.size());
 
   const std::string_view authority = address.substr(0, address.find_first_of("/?"));
@@ -74,7 +66,7 @@ std::optional<HttpAddress> ParseHttpAddress(std::string_view address) {
 
   std::string target(address.substr(authority.size()));
   if (!target.starts_with('/')) target.insert(0, "/");
-  return HttpAddress{LowerCase(host), port, std::move(target)};
+  return HttpAddress{AsciiLower(host), port, std::move(target)};
 }
 
 std::optional<HttpAddress> RedirectedAddress(const HttpAddress& from, std::string_view location) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "support/ascii_text.h"
+
 namespace quillon {
 namespace {
 
@@ -17,18 +19,6 @@ std::string_view TakeLine(std::string_view& text) {
   text.remove_prefix(std::min(end + 1, text.size()));
   if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
-}
-
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
-
-bool IsField(std::string_view name, std::string_view wantedInLowerCase) {
-  return std::ranges::equal(name, wantedInLowerCase,
-                            [](char a, char b) { return a == b || (a >= 'A' && a <= 'Z' && a - 'A' + 'a' == b); });
 }
 
 // The position behind the empty line that ends a head, or npos.
@@ -115,11 +105,11 @@ bool HttpReplyReader::ReadHead(std::string_view head) {
 bool HttpReplyReader::ReadField(std::string_view line) {
   const std::size_t colon = std::min(line.find(':'), line.size());
   const std::string_view name = line.substr(0, colon);
-  const std::string_view value = Trimmed(line.substr(std::min(colon + 1, line.size())));
-  if (IsField(name, "location")) reply_.Location = value;
+  const std::string_view value = Trimmed(line.substr(std::min(colon + 1, line.size())), " \t");
+  if (EqualButForCase(name, "location")) reply_.Location = value;
   // A body in chunks is not for a reader of HTTP 1.0; to take it as it stands would be to take the chunks' sizes, too.
-  if (IsField(name, "transfer-encoding")) return IsField(value, "identity");
-  if (!IsField(name, "content-length")) return true;
+  if (EqualButForCase(name, "transfer-encoding")) return EqualButForCase(value, "identity");
+  if (!EqualButForCase(name, "content-length")) return true;
 
   const std::optional<std::uint64_t> length = LengthOf(value);
   if (!length || (bodyLength_ && bodyLength_ != length)) return false;

@@ -4,25 +4,16 @@
 #include <cstddef>
 #include <optional>
 
+#include "support/ascii_text.h"
+
 namespace quillon {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r";  // a stray CR is no part of a name or value either
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return text.substr(0, 0);
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-char LowerCase(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool IsSameName(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return LowerCase(x) == LowerCase(y); });
+std::string_view WithoutBlanks(std::string_view text) {
+  return Trimmed(text, kBlanks);
 }
 
 bool IsInQuotes(std::string_view value) {
@@ -30,10 +21,10 @@ bool IsInQuotes(std::string_view value) {
 }
 
 std::optional<std::string_view> SectionName(std::string_view line) {
-  line = Trimmed(line);
+  line = WithoutBlanks(line);
   const std::size_t end = line.find(']');
   if (!line.starts_with('[') || end == std::string_view::npos) return std::nullopt;
-  return Trimmed(line.substr(1, end - 1));
+  return WithoutBlanks(line.substr(1, end - 1));
 }
 
 struct KeyLine {
@@ -43,8 +34,8 @@ struct KeyLine {
 
 std::optional<KeyLine> ReadKeyLine(std::string_view line) {
   const std::size_t equals = line.find('=');
-  if (equals == std::string_view::npos || Trimmed(line).starts_with(';')) return std::nullopt;
-  return KeyLine{Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1))};
+  if (equals == std::string_view::npos || WithoutBlanks(line).starts_with(';')) return std::nullopt;
+  return KeyLine{WithoutBlanks(line.substr(0, equals)), WithoutBlanks(line.substr(equals + 1))};
 }
 
 struct KeyPlace {
@@ -68,12 +59,12 @@ KeyPlace FindKey(std::string_view text, std::string_view section, std::string_vi
 
     if (const auto name = SectionName(line)) {
       if (place.sectionFound) return place;
-      place.sectionFound = IsSameName(*name, section);
+      place.sectionFound = EqualButForCase(*name, section);
       place.newLine = next;
     } else if (const auto keyLine = ReadKeyLine(line); keyLine && place.sectionFound) {
       // A comment above the next heading belongs to that heading, so new keys go in behind the last key.
       place.newLine = next;
-      if (IsSameName(keyLine->key, key)) {
+      if (EqualButForCase(keyLine->key, key)) {
         place.value = keyLine->value;
         return place;
       }
@@ -90,7 +81,7 @@ std::string_view LineEndOf(std::string_view text) {
 
 std::string StoredForm(std::string_view value) {
   value = value.substr(0, value.find_first_of("\r\n"));
-  const bool needsQuotes = Trimmed(value) != value || IsInQuotes(value);
+  const bool needsQuotes = WithoutBlanks(value) != value || IsInQuotes(value);
   const std::string_view quote = needsQuotes ? "\"" : "";
   return std::string(quote).append(value).append(quote);
 }

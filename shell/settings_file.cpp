@@ -4,6 +4,7 @@
 
 #include "shell/ini_text.h"
 #include "support/files.h"
+#include "support/folder_lock.h"
 #include "support/run_time_error.h"
 #include "support/windows_1252.h"
 
@@ -20,6 +21,8 @@ std::string ReadIniValue(std::string_view section, std::string_view key, const P
 
 void WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
                    const ProgramFolder& folder) {
+  // Another copy of the program may be storing its own values: each must see what the other has written.
+  const FolderLock lock(folder.Path, *folder.Calls);
   const std::filesystem::path path = SettingsFilePath(folder);
   const std::optional<std::string> before = TryReadAllBytes(path, *folder.Calls);
   if (!before) return;

@@ -28,6 +28,8 @@ inline constexpr std::size_t kLongestSetting = 2999;
 /// what the code page lacks ("?" stands for such a character) and to its length. The file is replaced as a whole
 /// ("support/files.h"), and not touched where the value is there already.
 ///
+/// Copies of the program in one folder may store at once ("support/folder_lock.h"): no value of either is lost.
+///
 /// It never fails: a file that cannot be written keeps the values it has, and so does one that cannot be read, since
 /// nobody knows then what would be lost.
 void WriteIniValue(std::string_view section, std::string_view key, std::string_view value, const ProgramFolder& folder);

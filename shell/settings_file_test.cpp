@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "ranges/range_fixtures.h"
+#include "support/failing_calls.h"
 #include "support/passing_calls.h"
 
 namespace quillon {
@@ -34,36 +35,6 @@ std::string Content(const ProgramFolder& folder) {
 std::ptrdiff_t EntriesOf(const ProgramFolder& folder) {
   return std::distance(std::filesystem::directory_iterator(folder.Path), std::filesystem::directory_iterator());
 }
-
-// Counts the calls, and makes the one of a number fail.
-class FailingCalls final : public PassingCalls {
- public:
-  explicit FailingCalls(int callsUntilFailure) : left_(callsUntilFailure) {}
-
-  [[nodiscard]] bool HasFailed() const { return left_ < 0; }
-
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    return Fails() ? -EACCES : PassingCalls::Open(path, flags, mode);
-  }
-  ssize_t Read(int file, std::span<char> buffer) override { return Fails() ? -EIO : PassingCalls::Read(file, buffer); }
-  ssize_t Write(int file, std::string_view bytes) override {
-    return Fails() ? -ENOSPC : PassingCalls::Write(file, bytes);
-  }
-  int Sync(int file) override { return Fails() ? -EIO : PassingCalls::Sync(file); }
-  int Close(int file) override {
-    const int closed = PassingCalls::Close(file);
-    return Fails() ? -EIO : closed;
-  }
-  int Rename(const std::string& from, const std::string& to) override {
-    return Fails() ? -EACCES : PassingCalls::Rename(from, to);
-  }
-  int Unlink(const std::string& path) override { return Fails() ? -EIO : PassingCalls::Unlink(path); }
-
- private:
-  bool Fails() { return left_-- == 0; }
-
-  int left_;
-};
 
 TEST(SettingsFile, StandsInTheProgramsFolder) {
   EXPECT_EQ(SettingsFilePath({"/opt/quillon"}), "/opt/quillon/settings.ini");
@@ -133,7 +104,7 @@ TEST(SettingsFile, IsReadUpTo2999Characters) {
 TEST(SettingsFile, ThatCannotBeReadIsNotOverwritten) {
   const TemporaryProgram program;
   Put(program.Folder(), "[Main]\r\nLeft=5\r\n");
-  for (const int call : {0, 1}) {  // opening it, reading it
+  for (const int call : {2, 3}) {  // behind the lock of its folder: opening it, reading it
     FailingCalls calls(call);
     WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls});
     EXPECT_TRUE(calls.HasFailed());

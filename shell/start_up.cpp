@@ -4,6 +4,7 @@
 #include "results/report.h"
 #include "shell/settings_file.h"
 #include "shell/version.h"
+#include "support/files.h"
 #include "support/folders.h"
 #include "support/message_boxes.h"
 
@@ -51,6 +52,9 @@ std::filesystem::path SavedGridsFolderPath(const ProgramFolder& folder) {
 void StartUp(NavigationState& state, StartWindow& window, const ProgramFolder& folder) {
   MakeFolderIfMissing(RangeFolderPath(folder), *folder.Calls);
   MakeFolderIfMissing(SavedGridsFolderPath(folder), *folder.Calls);
+  // Among the ranges there are scratch files only where the program's own folder cannot hold them.
+  RemoveStaleScratchFiles(folder.Path, *folder.Calls);
+  RemoveStaleScratchFiles(RangeFolderPath(folder), *folder.Calls);
   SetAboutView(window);
   state.SelectedNav = -1;
   LoadStartupState(state, window, folder);

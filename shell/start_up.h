@@ -71,7 +71,8 @@ class StartWindow : public NavigationWindow, public PlacedWindow {
   virtual void EndProcess() = 0;
 };
 
-/// Everything from the start of the program until its window can be used. A folder that cannot be made is a
+/// Everything from the start of the program until its window can be used. What a killed process left of a save is
+/// cleared away, before the lists show it. A folder that cannot be made is a
 /// RunTimeError, before anything shows; so is a range folder that cannot be listed ("ranges/range_lists.h").
 void StartUp(NavigationState& state, StartWindow& window, const ProgramFolder& folder);
 

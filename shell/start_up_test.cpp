@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +14,7 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_fixtures.h"
+#include "ranges/range_lists.h"
 #include "shell/recorded_navigation.h"
 #include "shell/settings_file.h"
 #include "shell/version.h"
@@ -281,6 +283,25 @@ TEST(StartUp, RangesAreMadeBeforeSavedGridsAndBothBeforeTheRest) {
   window.OnCall = [&](const std::string&) { EXPECT_EQ(calls.made.size(), 2U); };
   StartUp(state, window, {program.Folder().Path, &calls});
   EXPECT_THAT(calls.made, ElementsAre("Ranges", "Saved Grids"));
+}
+
+TEST(StartUp, WhatAKilledProgramLeftOfASaveIsGoneBeforeTheListsShowIt) {
+  const TemporaryProgram program;
+  const std::filesystem::path left = program.Folder().Path / ".quillon-1-0.tmp";
+  std::ofstream(left) << "half";
+  program.Write(".quillon-1-1.tmp", "half");
+  program.Write("Tight.txt", "AA (1), ");
+  const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
+  std::filesystem::last_write_time(left, longAgo);
+  std::filesystem::last_write_time(program.RangeFile(".quillon-1-1.tmp"), longAgo);
+
+  RecordedStart window;
+  NavigationState state;
+  window.OnCall = [&](const std::string&) {
+    EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre("Tight.txt"));
+  };
+  StartUp(state, window, program.Folder());
+  EXPECT_FALSE(std::filesystem::exists(left));
 }
 
 TEST(CloseMainWindow, TakesItsStepsInOrder) {

@@ -3,11 +3,14 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 #include "support/run_time_error.h"
 #include "support/windows_1252.h"
@@ -19,6 +22,12 @@ constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 constexpr int kMostLinks = 40;  // as many as the system follows
 constexpr mode_t kFileMode = 0666;  // less what the user's umask takes off
 constexpr mode_t kFolderMode = 0777;
+constexpr mode_t kPermissions = 0777;  // what of a file's mode is its permissions
+
+constexpr std::string_view kScratchStart = ".quillon-";
+constexpr std::string_view kScratchEnd = ".tmp";
+constexpr std::chrono::hours kStaleAge{1};
+constexpr int kMostScratchNames = 100;  // that are tried in one folder
 
 template <typename Result>
 Result OrError(Result result) {
@@ -43,6 +52,13 @@ class RealFileCalls final : public FileCalls {
   }
   int Unlink(const std::string& path) override { return OrError(::unlink(path.c_str())); }
   int MakeFolder(const std::string& path) override { return OrError(::mkdir(path.c_str(), kFolderMode)); }
+  int Mode(int file) override {
+    struct stat status {};
+    const int result = OrError(::fstat(file, &status));
+    return result < 0 ? result : static_cast<int>(status.st_mode & kPermissions);
+  }
+  int SetMode(int file, mode_t mode) override { return OrError(::fchmod(file, mode)); }
+  int TryLock(int file) override { return OrError(::flock(file, LOCK_EX | LOCK_NB)); }
 };
 
 [[noreturn]] void Fail(int negatedError, const std::filesystem::path& path) {
@@ -72,7 +88,22 @@ int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
 // Two programs, or two saves of one, must never share a scratch file.
 std::string ScratchName() {
   static std::atomic<unsigned> count{0};
-  return ".quillon-" + std::to_string(::getpid()) + "-" + std::to_string(count.fetch_add(1)) + ".tmp";
+  return std::string(kScratchStart) + std::to_string(::getpid()) + "-" + std::to_string(count.fetch_add(1)) +
+         std::string(kScratchEnd);
+}
+
+bool IsScratchName(const std::string& name) {
+  if (!name.starts_with(kScratchStart) || !name.ends_with(kScratchEnd)) return false;
+  const std::string_view numbers = std::string_view(name).substr(kScratchStart.size());
+  return numbers.find_first_not_of("0123456789-") == numbers.size() - kScratchEnd.size();
+}
+
+bool IsStaleScratch(const std::filesystem::directory_entry& entry) {
+  std::error_code unknown;
+  if (!IsScratchName(entry.path().filename().string())) return false;
+  if (entry.is_symlink(unknown) || !entry.is_regular_file(unknown)) return false;
+  const std::filesystem::file_time_type written = entry.last_write_time(unknown);
+  return !unknown && std::filesystem::file_time_type::clock::now() - written > kStaleAge;
 }
 
 struct Scratch {
@@ -80,31 +111,49 @@ struct Scratch {
   std::string path;
 };
 
-Scratch OpenScratch(const std::filesystem::path& folder, FileCalls& calls) {
-  std::string path = (folder / ScratchName()).string();
-  const int file = Uninterrupted([&] { return calls.Open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kFileMode); });
-  return {file, std::move(path)};
+// A process that was killed may have had this one's number and left its scratch files, so there may be names to pass
+// over.
+Scratch OpenScratch(const std::filesystem::path& folder, mode_t mode, FileCalls& calls) {
+  Scratch scratch{-EEXIST, {}};
+  for (int attempt = 0; scratch.file == -EEXIST && attempt < kMostScratchNames; ++attempt) {
+    scratch.path = (folder / ScratchName()).string();
+    scratch.file =
+        Uninterrupted([&] { return calls.Open(scratch.path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
+  }
+  return scratch;
 }
 
 // Writes the scratch file and gives it the target's name: 0, or the negated error number with the scratch file gone.
-int ReplaceThrough(const Scratch& scratch, const std::string& target, std::string_view bytes, FileCalls& calls) {
+int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<mode_t> mode,
+                   std::string_view bytes, FileCalls& calls) {
+  // The umask may have taken bits off that the old file had. A disk that knows no permissions refuses this and has none
+  // to keep; that is no reason to lose a save.
+  if (mode) static_cast<void>(Uninterrupted([&] { return calls.SetMode(scratch.file, *mode); }));
   int result = WriteWhole(scratch.file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Sync(scratch.file); });
   const int closed = calls.Close(scratch.file);
   // An interrupted close has closed the file all the same, and the content was on the disk before it.
   if (result >= 0 && closed < 0 && closed != -EINTR) result = closed;
   if (result >= 0) result = Uninterrupted([&] { return calls.Rename(scratch.path, target); });
-  if (result < 0) calls.Unlink(scratch.path);
+  if (result < 0) Uninterrupted([&] { return calls.Unlink(scratch.path); });
   return result;
 }
 
-// A file that may not be written must not be replaced either, although the folder's permissions would allow it: 0, or
-// the negated error number. A file that is not there may be made.
-int MayBeWritten(const std::string& path, FileCalls& calls) {
+// The file that is to be replaced.
+struct OldFile {
+  int refusal = 0;  // the negated error number where it must stay
+  std::optional<mode_t> mode;  // nothing where there is no such file
+};
+
+// A file that may not be written must not be replaced either, although the folder's permissions would allow it. A file
+// that is not there may be made.
+OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   const int file = Uninterrupted([&] { return calls.Open(path, O_WRONLY | O_NONBLOCK | O_CLOEXEC, 0); });
-  if (file < 0) return file == -ENOENT ? 0 : file;
+  if (file < 0) return {file == -ENOENT ? 0 : file, std::nullopt};
+  const int mode = Uninterrupted([&] { return calls.Mode(file); });
   calls.Close(file);
-  return 0;
+  if (mode < 0) return {mode, std::nullopt};
+  return {0, static_cast<mode_t>(mode)};
 }
 
 // Where a chain of links ends, whether or not a file is there. Links that go in a circle end at one of them.
@@ -118,9 +167,9 @@ std::filesystem::path EndOfLinks(std::filesystem::path path) {
 // Makes the new name itself last through a power failure. The content is whole either way, so a system that cannot sync
 // a folder stops nobody.
 void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
-  const int file = calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+  const int file = Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
   if (file < 0) return;
-  calls.Sync(file);
+  static_cast<void>(Uninterrupted([&] { return calls.Sync(file); }));
   calls.Close(file);
 }
 
@@ -161,21 +210,35 @@ std::string ReadAllText(const std::filesystem::path& path, FileCalls& calls) {
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
                  FileCalls& calls) {
   const std::filesystem::path target = EndOfLinks(path);
-  if (const int refused = MayBeWritten(target.string(), calls); refused < 0) Fail(refused, path);
+  const OldFile old = LookAtOldFile(target.string(), calls);
+  if (old.refusal < 0) Fail(old.refusal, path);
+  const mode_t mode = old.mode.value_or(kFileMode);
 
   int result = -EXDEV;
-  const Scratch apart = OpenScratch(scratchFolder, calls);
-  if (apart.file >= 0) result = ReplaceThrough(apart, target.string(), bytes, calls);
+  const Scratch apart = OpenScratch(scratchFolder, mode, calls);
+  if (apart.file >= 0) result = ReplaceThrough(apart, target.string(), old.mode, bytes, calls);
   if (apart.file < 0 || result == -EXDEV) {
-    const Scratch beside = OpenScratch(target.parent_path(), calls);
-    result = beside.file < 0 ? beside.file : ReplaceThrough(beside, target.string(), bytes, calls);
+    const Scratch beside = OpenScratch(target.parent_path(), mode, calls);
+    result = beside.file < 0 ? beside.file : ReplaceThrough(beside, target.string(), old.mode, bytes, calls);
   }
   if (result < 0) Fail(result, path);
   SyncFolder(target.parent_path(), calls);
 }
 
+void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls) {
+  std::error_code error;
+  std::vector<std::string> stale;  // gathered first: a folder that changes while it is listed may skip names
+  std::filesystem::directory_iterator entry(folder, error);
+  for (const std::filesystem::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    if (IsStaleScratch(*entry)) stale.push_back(entry->path().string());
+  }
+  for (const std::string& path : stale)
+    Uninterrupted([&] { return calls.Unlink(path); });
+}
+
 void DeleteFile(const std::filesystem::path& path, FileCalls& calls) {
-  if (const int result = calls.Unlink(path.string()); result < 0) Fail(result, path);
+  const int result = Uninterrupted([&] { return calls.Unlink(path.string()); });
+  if (result < 0) Fail(result, path);
 }
 
 void WriteAllText(std::string_view text, const std::filesystem::path& path, const std::filesystem::path& scratchFolder,

@@ -28,6 +28,14 @@ class FileCalls {
   virtual int Rename(const std::string& from, const std::string& to) = 0;
   virtual int Unlink(const std::string& path) = 0;
   virtual int MakeFolder(const std::string& path) = 0;
+
+  /// The permissions of an open file, and new ones for it: the nine bits that Open takes as `mode`.
+  virtual int Mode(int file) = 0;
+  virtual int SetMode(int file, mode_t mode) = 0;
+
+  /// Takes the lock of an open file or folder, or fails where it is taken already. It is given back by Close, and by
+  /// the system where the process ends otherwise.
+  virtual int TryLock(int file) = 0;
 };
 
 /// The system's own calls.
@@ -49,10 +57,16 @@ class FileCalls {
 /// Puts `bytes` in the place of the file's content, or makes the file. The scratch file stands in `scratchFolder`,
 /// which should be on the same disk and not be a folder that the user sees listed; where it is on another disk or
 /// cannot be written, the scratch file stands beside the target. A link is followed, so that the file it names is
-/// replaced. Failure of any step is a RunTimeError that names the file and the reason; the old content is then still
-/// there and the scratch file is gone. A file that its permissions protect from writing is such a failure.
+/// replaced. The new file has the permissions of the old one. Failure of any step is a RunTimeError that names the file
+/// and the reason; the old content is then still there and the scratch file is gone. A file that its permissions
+/// protect from writing is such a failure.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
                  FileCalls& calls = SystemFileCalls());
+
+/// Deletes the scratch files that processes have left in the folder by being killed in the middle of ReplaceFile. They
+/// are told by their name and by their age, an hour, since a scratch file in use is there for moments only. Never
+/// fails: what cannot be listed or deleted stays.
+void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());
 
 /// Deletes the file. Of a link only the link goes, and the file it names stays. Failure is a RunTimeError that names
 /// the file and the reason: "File not found" where there is none.

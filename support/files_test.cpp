@@ -1,7 +1,9 @@
 #include "support/files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
@@ -43,7 +45,7 @@ std::vector<std::string> Listing(const fs::path& folder) {
   return names;
 }
 
-enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFolder };
+enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFolder, kMode, kSetMode, kTryLock };
 
 // Passes every call on to the system, keeps a record of it, and makes the chosen ones fail. A failing close has closed
 // the file all the same, as the system's own does.
@@ -93,6 +95,18 @@ class FaultyFileCalls : public FileCalls {
   int MakeFolder(const std::string& path) override {
     if (const auto error = Record({Call::kMakeFolder, path})) return *error;
     return SystemFileCalls().MakeFolder(path);
+  }
+  int Mode(int file) override {
+    if (const auto error = Record({Call::kMode, {}})) return *error;
+    return SystemFileCalls().Mode(file);
+  }
+  int SetMode(int file, mode_t mode) override {
+    if (const auto error = Record({Call::kSetMode, {}})) return *error;
+    return SystemFileCalls().SetMode(file, mode);
+  }
+  int TryLock(int file) override {
+    if (const auto error = Record({Call::kTryLock, {}})) return *error;
+    return SystemFileCalls().TryLock(file);
   }
 
   [[nodiscard]] const std::vector<Entry>& Made() const { return made_; }
@@ -332,7 +346,8 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
     if (scratch) order.push_back(entry.call);
     if (entry.call == Call::kRename) break;
   }
-  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
+  EXPECT_THAT(
+      order, testing::ElementsAre(Call::kOpen, Call::kSetMode, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
 
   // The new name itself must last too: the folder is synced behind the rename.
   order.clear();
@@ -597,6 +612,124 @@ TEST_F(ReplacingAFile, NoFileStaysOpen) {
   EXPECT_EQ(openFiles(), before);
 }
 
+mode_t ModeOf(const fs::path& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+}
+
+// The process's umask while a test runs.
+class Umask {
+ public:
+  explicit Umask(mode_t mask) : before_(::umask(mask)) {}
+  Umask(const Umask&) = delete;
+  Umask(Umask&&) = delete;
+  Umask& operator=(const Umask&) = delete;
+  Umask& operator=(Umask&&) = delete;
+  ~Umask() { ::umask(before_); }
+
+ private:
+  mode_t before_;
+};
+
+TEST_F(ReplacingAFile, NewFileHasThePermissionsOfTheOldOne) {
+  const Umask umask(022);
+  for (const mode_t mode : {0600U, 0644U, 0664U, 0666U, 0777U, 0200U, 0604U}) {
+    Put(File(), kOld);
+    ASSERT_EQ(::chmod(File().c_str(), mode), 0);
+    ReplaceFile(File(), kNew, ScratchFolder());
+    EXPECT_EQ(ModeOf(File()), mode);
+    fs::remove(File());
+  }
+}
+
+TEST_F(ReplacingAFile, FileThatWasNotThereHasTheUsersUsualPermissions) {
+  const Umask umask(027);
+  ReplaceFile(File(), kNew, ScratchFolder());
+  EXPECT_EQ(ModeOf(File()), 0640U);
+}
+
+// What may be read by its owner alone must not lie open for the moments of a save either.
+TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
+  const Umask umask(0);
+  Put(File(), kOld);
+  ASSERT_EQ(::chmod(File().c_str(), 0600), 0);
+  FaultyFileCalls calls(FailAlways(Call::kSetMode, EPERM));
+  EXPECT_FALSE(Replace(calls)) << "a disk without permissions is written all the same";
+  EXPECT_EQ(Content(File()), kNew);
+  EXPECT_EQ(ModeOf(File()), 0600U);
+}
+
+TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
+  FaultyFileCalls calls;
+  ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  const std::string used = fs::path(calls.ScratchFiles().at(0)).filename().string();
+  const std::size_t numberStart = used.rfind('-') + 1;
+  const unsigned long next = std::stoul(used.substr(numberStart)) + 1;
+  std::vector<std::string> left;
+  for (unsigned long number = next; number < next + 3; ++number) {
+    left.push_back(used.substr(0, numberStart) + std::to_string(number) + ".tmp");
+    Put(ScratchFolder() / left.back(), "left");
+  }
+
+  FaultyFileCalls later;
+  ReplaceFile(File(), kOld, ScratchFolder(), later);
+  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(fs::path(later.ScratchFiles().back()).parent_path(), ScratchFolder());
+  for (const std::string& name : left)
+    EXPECT_EQ(Content(ScratchFolder() / name), "left");
+}
+
+TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {
+  FaultyFileCalls calls(FailAlways(Call::kOpen, EEXIST));
+  EXPECT_TRUE(Replace(calls));
+  EXPECT_LT(calls.Made().size(), 1000U);
+}
+
+using RemovingStaleScratchFiles = Files;
+
+TEST_F(RemovingStaleScratchFiles, OnlyOldFilesWithSuchANameGo) {
+  struct Case {
+    const char* name;
+    int minutes;
+    bool goes;
+  };
+  constexpr std::array kCases = {
+      Case{".quillon-1-0.tmp", 61, true},        Case{".quillon-4194304-123.tmp", 6000, true},
+      Case{".quillon-2-0.tmp", 59, false},  // may be in use
+      Case{".quillon-3-0.tmp", -6000, false},  // a clock that was put back
+      Case{"quillon-1-0.tmp", 6000, false},      Case{".quillon-notes.tmp", 6000, false},
+      Case{".quillon-1-0.tmp.txt", 6000, false}, Case{".quillon-1-0x.tmp", 6000, false},
+      Case{".quillon-1-0", 6000, false},         Case{"settings.ini", 6000, false},
+  };
+  const auto now = fs::file_time_type::clock::now();
+  for (const Case& c : kCases) {
+    Put(Folder() / c.name, kOld);
+    fs::last_write_time(Folder() / c.name, now - std::chrono::minutes(c.minutes));
+  }
+  fs::create_directory(Folder() / ".quillon-5-0.tmp");
+  fs::last_write_time(Folder() / ".quillon-5-0.tmp", now - std::chrono::hours(2));
+  fs::create_symlink(".quillon-1-0", Folder() / ".quillon-6-0.tmp");
+
+  RemoveStaleScratchFiles(Folder());
+  for (const Case& c : kCases)
+    EXPECT_EQ(fs::exists(Folder() / c.name), !c.goes) << c.name << ", " << c.minutes << " minutes";
+  EXPECT_TRUE(fs::is_directory(Folder() / ".quillon-5-0.tmp")) << "a folder";
+  EXPECT_TRUE(fs::is_symlink(Folder() / ".quillon-6-0.tmp")) << "a link";
+}
+
+TEST_F(RemovingStaleScratchFiles, NeverFails) {
+  RemoveStaleScratchFiles(Folder() / "missing");
+  const fs::path scratch = Folder() / ".quillon-1-0.tmp";
+  Put(scratch, kOld);
+  fs::last_write_time(scratch, fs::file_time_type::clock::now() - std::chrono::hours(2));
+  FaultyFileCalls refusing(FailAlways(Call::kUnlink, EACCES));
+  RemoveStaleScratchFiles(Folder(), refusing);
+  EXPECT_TRUE(fs::exists(scratch));
+  FaultyFileCalls interrupted(FailOnce(1, EINTR));
+  RemoveStaleScratchFiles(Folder(), interrupted);
+  EXPECT_FALSE(fs::exists(scratch)) << "an interruption is no failure";
+}
+
 using DeletingAFile = Files;
 
 std::optional<RunTimeError> FailureOfDeleting(const fs::path& path, FileCalls& calls = SystemFileCalls()) {
@@ -640,6 +773,10 @@ TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
   ASSERT_TRUE(forbidden);
   EXPECT_EQ(forbidden->Fault(), RunTimeFault::kPermissionDenied);
   EXPECT_EQ(Content(Folder() / "Button.txt"), kOld);
+
+  FaultyFileCalls interrupted(FailOnce(1, EINTR));
+  EXPECT_FALSE(FailureOfDeleting(Folder() / "Button.txt", interrupted)) << "an interruption is no failure";
+  EXPECT_FALSE(fs::exists(Folder() / "Button.txt"));
 }
 
 }  // namespace

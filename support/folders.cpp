@@ -32,7 +32,9 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 }
 
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
-  const int made = calls.MakeFolder(path.string());
+  int made = -EINTR;
+  while (made == -EINTR)
+    made = calls.MakeFolder(path.string());
   if (made >= 0) return;
   throw RunTimeError(FaultOfMaking(-made), path.string() + ": " + std::generic_category().message(-made));
 }

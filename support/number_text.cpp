@@ -26,9 +26,9 @@ constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1
                                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr std::size_t kMostFastDigits = 15;  // below 10^15, so below 2^53
 
-constexpr std::size_t kWord = sizeof(std::uint64_t);
-constexpr std::array<std::int64_t, kWord + 1> kWholePowersOfTen = {1,      10,      100,      1000,     10000,
-                                                                   100000, 1000000, 10000000, 100000000};
+constexpr std::size_t kDigitGroup = sizeof(std::uint64_t);
+constexpr std::array<std::int64_t, kDigitGroup + 1> kWholePowersOfTen = {1,      10,      100,      1000,     10000,
+                                                                         100000, 1000000, 10000000, 100000000};
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -122,13 +122,13 @@ struct DigitRun {
 // parsing eight digits", 2018).
 DigitRun ReadDigits(const char* eight) {
   std::uint64_t word = 0;
-  std::memcpy(&word, eight, kWord);
+  std::memcpy(&word, eight, kDigitGroup);
   word ^= 0x3030303030303030;  // a digit becomes its value, and any other character more than 9
   // Adding 0x76 carries 10 and more into a byte's high bit. A carry out of a byte spoils only what stands behind it.
   const std::uint64_t others = (word | (word + 0x7676767676767676)) & 0x8080808080808080;
-  const auto count = static_cast<std::size_t>(std::countr_zero(others)) / kWord;
+  const auto count = static_cast<std::size_t>(std::countr_zero(others)) / kDigitGroup;
   if (count == 0) return {0, 0};
-  word <<= (kWord - count) * kWord;  // zeros in front take the place of what is no digit behind
+  word <<= (kDigitGroup - count) * kDigitGroup;  // zeros in front take the place of what is no digit behind
   word = word * 10 + (word >> 8U);
   word = (((word & 0x000000FF000000FF) * 0x000F424000000064) +
           (((word >> 16U) & 0x000000FF000000FF) * 0x0000271000000001)) >>
@@ -261,9 +261,9 @@ double LeadingNumber(std::string_view text) {
 double LeadingNumberBefore(std::string_view text, char end) {
   // One digit, a point and at most seven digits: nearly every entry of the equity table is that, and reading one is the
   // program's innermost step.
-  if (text.size() >= 2 + kWord && IsDigit(text[0]) && text[1] == '.' && end != '.') {
+  if (text.size() >= 2 + kDigitGroup && IsDigit(text[0]) && text[1] == '.' && end != '.') {
     const DigitRun run = ReadDigits(text.data() + 2);
-    if (run.count < kWord && text[2 + run.count] == end) {
+    if (run.count < kDigitGroup && text[2 + run.count] == end) {
       const std::int64_t mantissa = (text[0] - '0') * kWholePowersOfTen[run.count] + run.value;
       return static_cast<double>(mantissa) / kPowersOfTen[run.count];
     }

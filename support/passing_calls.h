@@ -24,6 +24,9 @@ class PassingCalls : public FileCalls {
   int Rename(const std::string& from, const std::string& to) override { return SystemFileCalls().Rename(from, to); }
   int Unlink(const std::string& path) override { return SystemFileCalls().Unlink(path); }
   int MakeFolder(const std::string& path) override { return SystemFileCalls().MakeFolder(path); }
+  int Mode(int file) override { return SystemFileCalls().Mode(file); }
+  int SetMode(int file, mode_t mode) override { return SystemFileCalls().SetMode(file, mode); }
+  int TryLock(int file) override { return SystemFileCalls().TryLock(file); }
 };
 
 }  // namespace quillon

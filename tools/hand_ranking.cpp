@@ -7,7 +7,7 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kRankMaskCount = std::size_t{1} << kRankCount;
-constexpr int kCardsInHand = 5;
+constexpr int kRankedCards = 5;
 
 // For each set of ranks its place among the sets of the same size, in ascending order of mask.
 constexpr std::array<std::uint16_t, kRankMaskCount> kPlaceAmongEquals = [] {
@@ -93,14 +93,14 @@ HandStrength StrengthOfRanks(const RankTally& tally) {
   if (tally.twice != 0) {
     return StrengthOfPairs(tally);
   }
-  return Strength(HandCategory::kHighCard, Place(HighestFew(tally.once, kCardsInHand)));
+  return Strength(HandCategory::kHighCard, Place(HighestFew(tally.once, kRankedCards)));
 }
 
 HandStrength StrengthOfFlush(RankMask ranks) {
   if (const int straight = HighestStraight(ranks); straight != 0) {
     return Strength(HandCategory::kStraightFlush, straight - 1);
   }
-  return Strength(HandCategory::kFlush, Place(HighestFew(ranks, kCardsInHand)));
+  return Strength(HandCategory::kFlush, Place(HighestFew(ranks, kRankedCards)));
 }
 
 HandStrength StrengthOfCards(std::span<const int> cards) {
@@ -113,7 +113,7 @@ HandStrength StrengthOfCards(std::span<const int> cards) {
     tally = WithRanks(tally, rank);
   }
   for (const RankMask suit : suits) {
-    if (std::popcount(suit) >= kCardsInHand) {
+    if (std::popcount(suit) >= kRankedCards) {
       return StrengthOfFlush(suit);
     }
   }

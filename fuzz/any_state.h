@@ -1,0 +1,75 @@
+#pragma once
+
+// An analysis that never ran, made of the bytes of a fuzz input: any scenario, any amounts, names, ranges and results.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "analysis/analysis_state.h"
+#include "analysis/results_table.h"
+#include "fuzz/fuzz_target.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+
+/// A range text: one of whole weights, or any bytes at all.
+inline std::string AnyRangeText(FuzzInput& input) {
+  constexpr std::array<double, 4> kWeights = {0, 0.5, 1, 0.25};
+  constexpr std::size_t kBytes = 43;  // two bits a class
+  if (input.TakeBelow(4) == 3) return std::string(input.TakeText(input.TakeBelow(200)));
+  const std::string_view bits = input.TakeText(input.TakeBelow(kBytes + 1));
+  ClassWeights weights{};
+  for (std::size_t i = 0; i < weights.size(); ++i) {
+    const unsigned byte = i / 4 < bits.size() ? static_cast<unsigned char>(bits[i / 4]) : 0;
+    weights[i] = kWeights[(byte >> (2 * (i % 4))) & 3U];
+  }
+  return RangeTextOf(weights);
+}
+
+/// An amount: a whole number, hundredths, or any double.
+inline double AnyAmount(FuzzInput& input) {
+  const std::size_t kind = input.TakeBelow(4);
+  if (kind == 0) return input.TakeDouble();
+  const double whole = static_cast<double>(input.TakeBelow(256)) - 64;
+  return kind == 1 ? whole / 100 : whole;
+}
+
+/// A results table: a whole one with any cells, a part of one, or any bytes at all.
+inline std::string AnyResults(FuzzInput& input) {
+  if (input.TakeBelow(4) == 3) return std::string(input.Rest());
+  const auto rows = static_cast<std::int16_t>(input.TakeBelow(kHandClassCount + 1));
+  std::string table;
+  for (std::int16_t index = 0; index < rows; ++index) {
+    const std::string cell(input.TakeText(input.TakeBelow(12)));
+    const std::string share = "0." + std::to_string(input.TakeBelow(100));
+    table.append(HandLabel(index)).append("\t").append(cell).append("\t").append(share).append("\t").append(share);
+    table += "\t\r\n";
+  }
+  return table;
+}
+
+inline AnalysisState AnyState(FuzzInput& input) {
+  AnalysisState state;
+  state.Mode = static_cast<AnalysisMode>(input.TakeBelow(4));
+  state.PotSize = AnyAmount(input);
+  state.CallAmount = AnyAmount(input);
+  state.ShoveAmount = AnyAmount(input);
+  state.RangeName = input.TakeText(input.TakeBelow(16));
+  state.CallingRangeName = input.TakeText(input.TakeBelow(16));
+  state.RangeText = AnyRangeText(input);
+  state.CallingRangeText = AnyRangeText(input);
+  state.DroppedHands = input.TakeText(input.TakeBelow(32));
+  state.HandInfo = AnyResults(input);
+  return state;
+}
+
+/// Whether a fault is one of those that amounts, ranges and results can lead to.
+inline bool IsFaultOfAnalysis(RunTimeFault fault) {
+  return fault == RunTimeFault::kOverflow || fault == RunTimeFault::kDivisionByZero ||
+         fault == RunTimeFault::kInvalidProcedureCall;
+}
+
+}  // namespace quillon

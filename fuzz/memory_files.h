@@ -1,0 +1,73 @@
+#pragma once
+
+// Files that are in memory only, for targets that would otherwise write to the disk a million times. Folders are not
+// told apart: every path can be opened, and names are all there is.
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <fcntl.h>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "support/files.h"
+
+namespace quillon {
+
+class MemoryFiles final : public FileCalls {
+ public:
+  std::map<std::string, std::string> Contents;  // by path
+
+  int Open(const std::string& path, int flags, mode_t /*mode*/) override {
+    const bool isThere = Contents.contains(path);
+    if ((flags & O_DIRECTORY) == 0) {
+      if (!isThere && (flags & O_CREAT) == 0) return -ENOENT;
+      if (isThere && (flags & O_EXCL) != 0) return -EEXIST;
+      Contents.try_emplace(path);
+    }
+    open_[next_] = {path, 0};
+    return next_++;
+  }
+  ssize_t Read(int file, std::span<char> buffer) override {
+    OpenFile& from = open_.at(file);
+    const std::string_view rest = std::string_view(Contents[from.path]).substr(from.place);
+    const std::size_t count = std::min(rest.size(), buffer.size());
+    std::memcpy(buffer.data(), rest.data(), count);
+    from.place += count;
+    return static_cast<ssize_t>(count);
+  }
+  ssize_t Write(int file, std::string_view bytes) override {
+    Contents[open_.at(file).path] += bytes;
+    return static_cast<ssize_t>(bytes.size());
+  }
+  int Sync(int /*file*/) override { return 0; }
+  int Close(int file) override { return open_.erase(file) == 1 ? 0 : -EBADF; }
+  int Rename(const std::string& from, const std::string& to) override {
+    auto moved = Contents.extract(from);
+    if (moved.empty()) return -ENOENT;
+    Contents.insert_or_assign(to, std::move(moved.mapped()));
+    return 0;
+  }
+  int Unlink(const std::string& path) override { return Contents.erase(path) == 1 ? 0 : -ENOENT; }
+  int MakeFolder(const std::string& /*path*/) override { return 0; }
+  int Mode(int /*file*/) override { return 0644; }
+  int SetMode(int /*file*/, mode_t /*mode*/) override { return 0; }
+  int TryLock(int /*file*/) override { return 0; }
+
+  /// Whether every file that was opened has been closed.
+  [[nodiscard]] bool AllClosed() const { return open_.empty(); }
+
+ private:
+  struct OpenFile {
+    std::string path;
+    std::size_t place = 0;
+  };
+
+  std::map<int, OpenFile> open_;
+  int next_ = 3;
+};
+
+}  // namespace quillon

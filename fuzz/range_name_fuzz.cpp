@@ -1,0 +1,84 @@
+// Names of ranges and of files, of any bytes: a name that is let through stays in the range folder and comes back from
+// its file's name.
+
+#include <set>
+#include <string>
+
+#include "fuzz/fuzz_target.h"
+#include "fuzz/memory_files.h"
+#include "ranges/range_files.h"
+#include "ranges/range_lists.h"
+#include "ranges/range_names.h"
+#include "support/recorded_messages.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+std::size_t PlainLength(std::string_view text) {
+  std::size_t length = 0;
+  for (const char c : text)
+    length += (static_cast<unsigned char>(c) & 0xC0U) == 0x80U ? 0 : 1;
+  return length;
+}
+
+bool PlainAllows(const std::string& name, bool isTaken) {
+  const std::set<char> refused = {'/', '\\', ':', '*', '?', '"', '<', '>'};
+  for (const char c : name) {
+    if (refused.contains(c)) return false;
+  }
+  return !name.empty() && (!isTaken || name == "Temp Range1");
+}
+
+void CheckName(const std::string& name, bool isTaken) {
+  MemoryFiles files;
+  const ProgramFolder folder{"/quillon-fuzz", &files};
+  const std::string path = RangeFilePath(folder, name).string();
+  Require(path == "/quillon-fuzz/Ranges/" + name + ".txt", "a path is put together as it stands");
+  const bool canNameFile = name.find('\0') == std::string::npos;
+  if (isTaken && canNameFile) files.Contents[path] = "AA (1), \r\n";
+
+  RecordedMessages messages;
+  const bool allowed = ValidateRangeName(folder, name, messages);
+  Require(allowed == PlainAllows(name, isTaken && canNameFile), "a name is judged in the plain way");
+  Require(messages.Shown.size() == (allowed ? 0U : 1U), "a name that is refused has one message");
+  if (!allowed) return;
+
+  Require(name.find('/') == std::string::npos, "a new range stands in the range folder");
+  try {
+    SaveRangeText(folder, name, "KK (1), ");
+    Require(files.Contents.size() == 1 && files.Contents.contains(path), "a range is one file");
+    Require(LoadRangeText(folder, name) == "KK (1), ", "a range reads back");
+    DeleteRange(folder, name);
+    Require(files.Contents.empty(), "a deleted range is gone");
+  } catch (const RunTimeError& error) {
+    Require(error.Fault() == RunTimeFault::kBadFileName && !canNameFile, "only a NUL character stops a save");
+  }
+  Require(files.AllClosed(), "no file stays open");
+}
+
+void CheckFileName(const std::string& fileName) {
+  try {
+    const std::string name = RangeNameOfFile(fileName);
+    Require(fileName.starts_with(name), "a range's name is the start of its file's");
+    const std::size_t length = PlainLength(fileName);
+    Require(length < 4 || PlainLength(name) + 4 >= length, "four characters are taken off at most");
+  } catch (const RunTimeError& error) {
+    Require(error.Fault() == RunTimeFault::kInvalidProcedureCall, "a file name too short is a bad call");
+    Require(PlainLength(fileName) <= 4, "only a short file name has no range's name");
+  }
+  Require(RangeNameOfFile(fileName + ".txt") == fileName, "a range is listed under its name");
+}
+
+}  // namespace
+}  // namespace quillon
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
+  FuzzInput input(data, size);
+  const bool isTaken = input.TakeBelow(2) == 1;
+  const std::string name(input.Rest());
+  CheckName(name, isTaken);
+  CheckFileName(name);
+  return 0;
+}

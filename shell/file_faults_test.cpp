@@ -1,0 +1,231 @@
+// What the user's files look like after each thing that writes them, with every call to the system failing in turn:
+// each file is as it was or as it was to be, never neither, and the user is told.
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+#include "ranges/range_manager.h"
+#include "ranges/recorded_dialogs.h"
+#include "shell/grid_image.h"
+#include "shell/settings_file.h"
+#include "support/failing_calls.h"
+#include "support/recorded_messages.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Every file below the program's folder with its content.
+using Files = std::map<std::string, std::string>;
+
+Files FilesOf(const ProgramFolder& folder) {
+  Files files;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder.Path)) {
+    if (!entry.is_regular_file()) continue;
+    std::ostringstream bytes;
+    bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+    files[entry.path().lexically_relative(folder.Path).string()] = bytes.str();
+  }
+  return files;
+}
+
+bool IsScratch(const std::string& name) {
+  return name.find(".quillon-") != std::string::npos;
+}
+
+void RemoveScratch(Files& files) {
+  std::erase_if(files, [](const auto& file) { return IsScratch(file.first) && !file.first.starts_with("Ranges/"); });
+}
+
+// The grid's screen, on which every picture is the same.
+class ImageScreen final : public GridImageWindow {
+ public:
+  explicit ImageScreen(std::string name) : name_(std::move(name)) {}
+
+  [[nodiscard]] TwipRect GridContainer() const override { return {240, 180, 6135, 7815}; }
+  std::string AskSaveName(const SaveDialog&) override { return name_; }
+  [[nodiscard]] std::string CaptureRegion(const CaptureRect&) override { return "BM new picture"; }
+  [[nodiscard]] MessageBoxes& Messages() override { return boxes_; }
+  void OpenImage(const std::string&) override {}
+
+ private:
+  std::string name_;
+  RecordedMessages boxes_;
+};
+
+// Selects "Old" in the Range Manager and changes the grid, then clicks, with that answer to an input box. The lists
+// read from a sound disk all the while: what a list does where a file cannot be read is not the matter here.
+template <typename Click>
+void InManager(const ProgramFolder& folder, const char* answer, Click click) {
+  RecordedMain main({folder.Path});
+  RecordedManager manager(main);
+  SelectListEntry(manager.RangeList(), "Old");
+  ClickManagerCell(manager, 5);
+  manager.Questions.Answers.emplace_back(answer);
+  manager.Boxes.Answers.assign(3, MessageAnswer::kYes);
+  click(manager, folder);
+}
+
+struct Action {
+  const char* Name;
+  std::function<void(const ProgramFolder&)> Do;
+  // One of these is always there.
+  std::vector<std::string> NeverAllGone;
+  bool MaySwallow = false;  // a failure may go untold, since the file is not worth stopping for
+};
+
+const std::vector<Action>& Actions() {
+  static const std::vector<Action> actions = {
+      {"Save", [](const ProgramFolder& folder) { InManager(folder, "", ClickSave); }, {"Ranges/Old.txt"}},
+      {"SaveAs", [](const ProgramFolder& folder) { InManager(folder, "New", ClickSaveAs); }, {"Ranges/Old.txt"}},
+      {"SaveAsScratchRange",
+       [](const ProgramFolder& folder) { InManager(folder, "Temp Range1", ClickSaveAs); },
+       {"Ranges/Temp Range1.txt"}},
+      {"New", [](const ProgramFolder& folder) { InManager(folder, "New", ClickNew); }, {"Ranges/Old.txt"}},
+      {"Rename",
+       [](const ProgramFolder& folder) { InManager(folder, "New", ClickRename); },
+       {"Ranges/Old.txt", "Ranges/New.txt"}},
+      {"Delete", [](const ProgramFolder& folder) { InManager(folder, "", ClickDelete); }, {}},
+      {"Settings",
+       [](const ProgramFolder& folder) { WriteIniValue("Values", "0", "735", folder); },
+       {"settings.ini"},
+       true},
+      {"NewImage",
+       [](const ProgramFolder& folder) {
+         ImageScreen screen((folder.Path / "Saved Grids" / "new.bmp").string());
+         static_cast<void>(SaveGridImage("", screen, folder));
+       },
+       {}},
+      {"ImageOverAnother",
+       [](const ProgramFolder& folder) {
+         ImageScreen screen((folder.Path / "old.bmp").string());
+         static_cast<void>(SaveGridImage("", screen, folder));
+       },
+       {"old.bmp"}},
+  };
+  return actions;
+}
+
+struct Disk {
+  const char* Name;
+  int Error;
+  FailingCalls::Lasting Lasting = FailingCalls::Lasting::kOnce;
+  std::size_t LargestPiece = std::string_view::npos;
+};
+
+constexpr std::array kDisks = {
+    Disk{"Full", ENOSPC},
+    Disk{"Forbidden", EACCES},
+    Disk{"Broken", EIO},
+    Disk{"Interrupted", EINTR},
+    Disk{"FullFromThenOn", ENOSPC, FailingCalls::Lasting::kForGood},
+    Disk{"BrokenFromThenOn", EIO, FailingCalls::Lasting::kForGood},
+    Disk{"BrokenInSmallPieces", EIO, FailingCalls::Lasting::kOnce, 400},
+    Disk{"InterruptedInSmallPieces", EINTR, FailingCalls::Lasting::kOnce, 400},
+};
+
+class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
+ protected:
+  // What an action leaves of fresh files when the disk does what `calls` does.
+  struct Outcome {
+    Files Left;
+    std::optional<RunTimeError> Failure;
+  };
+
+  static Outcome Run(FileCalls& calls) {
+    const TemporaryProgram program;
+    program.Write("Old.txt", TextWith("AA", "KK") + "\r\n");
+    program.Write("Temp Range1.txt", TextWith("22") + "\r\n");
+    program.Write("zzz.txt", TextWith("72o") + "\r\n");
+    std::ofstream(SettingsFilePath(program.Folder()), std::ios::binary) << "[Values]\r\n0=150\r\n1=50\r\n";
+    std::ofstream(program.Folder().Path / "old.bmp", std::ios::binary) << "BM old picture, which is longer";
+
+    Outcome outcome;
+    try {
+      std::get<1>(GetParam()).Do({program.Folder().Path, &calls});
+    } catch (const RunTimeError& error) {
+      outcome.Failure = error;
+    }
+    outcome.Left = FilesOf(program.Folder());
+    return outcome;
+  }
+};
+
+// The files before any of the actions.
+Files FilesBefore() {
+  return {{"Ranges/Old.txt", TextWith("AA", "KK") + "\r\n"},
+          {"Ranges/Temp Range1.txt", TextWith("22") + "\r\n"},
+          {"Ranges/zzz.txt", TextWith("72o") + "\r\n"},
+          {"old.bmp", "BM old picture, which is longer"},
+          {"settings.ini", "[Values]\r\n0=150\r\n1=50\r\n"}};
+}
+
+// Nothing where a file is missing.
+std::optional<std::string> ContentIn(const Files& files, const std::string& name) {
+  const auto found = files.find(name);
+  return found == files.end() ? std::nullopt : std::optional(found->second);
+}
+
+void ExpectOldOrNew(const Files& left, const Files& before, const Files& after, const Action& action) {
+  Files names = before;
+  names.insert(after.begin(), after.end());
+  names.insert(left.begin(), left.end());
+  for (const auto& [name, ignored] : names) {
+    const std::optional<std::string> content = ContentIn(left, name);
+    EXPECT_TRUE(content == ContentIn(before, name) || content == ContentIn(after, name)) << name;
+  }
+  const bool someLeft = std::any_of(action.NeverAllGone.begin(), action.NeverAllGone.end(),
+                                    [&](const std::string& name) { return left.contains(name); });
+  EXPECT_TRUE(someLeft || action.NeverAllGone.empty());
+}
+
+TEST_P(FileFaults, LeaveEachFileAsItWasOrAsItWasToBe) {
+  const auto& [disk, action] = GetParam();
+  const Files before = FilesBefore();
+  const Files after = Run(SystemFileCalls()).Left;
+  ASSERT_NE(before, after);
+
+  int failures = 0;
+  bool reached = true;
+  for (int call = 0; reached; ++call) {
+    ASSERT_LT(call, 300);
+    SCOPED_TRACE("call " + std::to_string(call));
+    FailingCalls calls(call, disk.Error, disk.Lasting, disk.LargestPiece);
+    Outcome outcome = Run(calls);
+    reached = calls.HasFailed();
+    if (disk.Lasting == FailingCalls::Lasting::kForGood) RemoveScratch(outcome.Left);
+    ExpectOldOrNew(outcome.Left, before, after, action);
+
+    failures += outcome.Left != after ? 1 : 0;
+    const bool wasDone = outcome.Left == after && !outcome.Failure;
+    const bool wasTold = outcome.Failure && !action.MaySwallow;
+    const bool wasLetGo = !outcome.Failure && action.MaySwallow;
+    EXPECT_TRUE(wasDone || wasTold || wasLetGo) << "a failure that nobody was told of, or was told in vain";
+    EXPECT_TRUE(wasDone || disk.Error != EINTR) << "an interruption is no failure";
+  }
+  EXPECT_EQ(failures > 0, disk.Error != EINTR);
+}
+
+INSTANTIATE_TEST_SUITE_P(ByDiskAndAction, FileFaults,
+                         testing::Combine(testing::ValuesIn(kDisks), testing::ValuesIn(Actions())),
+                         [](const auto& row) {
+                           return std::string(std::get<0>(row.param).Name) + std::get<1>(row.param).Name;
+                         });
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,130 @@
+#include "support/folder_lock.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+#include "support/passing_calls.h"
+
+namespace quillon {
+namespace {
+
+using std::chrono::steady_clock;
+
+class LockingAFolder : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = (std::filesystem::temp_directory_path() / "quillon-lock-XXXXXX").string();
+    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+    folder_ = pattern;
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+  }
+
+  [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+TEST_F(LockingAFolder, OneHasItAtATime) {
+  constexpr int kTurns = 200;
+  int inside = 0;
+  std::atomic<bool> met = false;
+  const auto takeTurns = [&] {
+    for (int turn = 0; turn < kTurns; ++turn) {
+      const FolderLock lock(Folder());
+      if (!lock.Held()) continue;
+      const int before = ++inside;
+      std::this_thread::yield();
+      if (before != 1) met = true;
+      --inside;
+    }
+  };
+  std::thread other(takeTurns);
+  takeTurns();
+  other.join();
+  EXPECT_FALSE(met);
+}
+
+TEST_F(LockingAFolder, LeavesNothingInTheFolder) {
+  { const FolderLock lock(Folder()); }
+  EXPECT_TRUE(std::filesystem::is_empty(Folder()));
+}
+
+TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {
+  {
+    const FolderLock first(Folder());
+    EXPECT_TRUE(first.Held());
+  }
+  const FolderLock second(Folder());
+  EXPECT_TRUE(second.Held());
+}
+
+TEST_F(LockingAFolder, IsOverWhenItsProcessDies) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const FolderLock lock(Folder());
+    ::_exit(lock.Held() ? 0 : 1);
+  }
+  int status = -1;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  const FolderLock lock(Folder());
+  EXPECT_TRUE(lock.Held());
+}
+
+TEST_F(LockingAFolder, WaitForOneWhoHangsHasAnEnd) {
+  const FolderLock hanging(Folder());
+  const auto start = steady_clock::now();
+  const FolderLock lock(Folder());
+  EXPECT_FALSE(lock.Held());
+  EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+// Answers a lock with errors first.
+class ReluctantCalls final : public PassingCalls {
+ public:
+  ReluctantCalls(int error, int times) : error_(error), left_(times) {}
+
+  int TryLock(int file) override { return left_-- > 0 ? -error_ : PassingCalls::TryLock(file); }
+
+ private:
+  int error_;
+  int left_;
+};
+
+TEST_F(LockingAFolder, IsTriedAgainWhereThatHelps) {
+  struct Case {
+    const char* rule;
+    int error;
+    bool held;
+  };
+  constexpr std::array kCases = {
+      Case{"somebody else has it", EWOULDBLOCK, true},
+      Case{"interrupted", EINTR, true},
+      Case{"a disk without locks", ENOLCK, false},
+      Case{"a disk that wants more than a look", EBADF, false},
+  };
+  for (const Case& c : kCases) {
+    ReluctantCalls calls(c.error, 3);
+    const FolderLock lock(Folder(), calls);
+    EXPECT_EQ(lock.Held(), c.held) << c.rule;
+  }
+}
+
+TEST_F(LockingAFolder, FolderThatIsNotThereHasNone) {
+  const FolderLock lock(Folder() / "missing");
+  EXPECT_FALSE(lock.Held());
+}
+
+}  // namespace
+}  // namespace quillon
