@@ -29,6 +29,7 @@ function(quillon_test NAME)
   endif()
 
   add_executable(${NAME} ${ARG_SOURCES})
+  set_target_properties(${NAME} PROPERTIES UNITY_BUILD OFF)  # each test file has its own Case and its own fixtures
   target_link_libraries(${NAME} PRIVATE quillon_flags ${ARG_LINKS} GTest::gmock ${ARG_MAIN})
   # Tests are compiled more often than they are waited for: twice as fast this way. What they test keeps its own level.
   target_compile_options(${NAME} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-O1>)
