@@ -27,7 +27,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void EndWithFault(const std::string& text) {
-  std::fprintf(stderr, "%s\n", text.c_str());
+  std::fputs((text + "\n").c_str(), stderr);
   std::fflush(stderr);
   if (qApp != nullptr) {
     QMessageBox box(QApplication::activeWindow());

@@ -1,6 +1,7 @@
 #include "toolkit/control.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,11 +21,7 @@ void Control::SetUse(ControlUse use) {
   } else {
     unsetCursor();
   }
-  if (use == ControlUse::kPassive) {
-    setFocusPolicy(Qt::NoFocus);
-  } else {
-    setFocusPolicy(use == ControlUse::kFocusLink ? Qt::StrongFocus : Qt::TabFocus);
-  }
+  setFocusPolicy(use == ControlUse::kPassive ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void Control::Click() {
@@ -33,9 +30,17 @@ void Control::Click() {
 
 void Control::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
+  if (use_ == ControlUse::kFocusLink && !TakeFocusFromMouse()) return;
   held_ = true;
   update();
   Q_EMIT Pressed();
+}
+
+// Whoever loses the focus may have a message box to show, and then the button comes up over that.
+bool Control::TakeFocusFromMouse() {
+  const Qt::MouseButtons down = QGuiApplication::mouseButtons();
+  setFocus(Qt::MouseFocusReason);
+  return QGuiApplication::mouseButtons() == down;
 }
 
 void Control::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -56,6 +56,9 @@ class Control : public QWidget {
   void PaintFocusMark(const QColor& color);
 
  private:
+  /// Whether the mouse button is still down afterwards.
+  bool TakeFocusFromMouse();
+
   ControlUse use_ = ControlUse::kPassive;
   bool held_ = false;
   bool focusMark_ = false;

@@ -1,11 +1,13 @@
 #include "toolkit/control.h"
 
+#include <QDialog>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include "toolkit/expected_boxes.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/shape.h"
@@ -32,12 +34,12 @@ class ControlTest : public testing::Test {
     box.setFocus();
   }
 
-  void Press(const QWidget& control) { QTest::mousePress(Window(), Qt::LeftButton, {}, MiddleOf(control)); }
-  void Release(const QPoint& point) { QTest::mouseRelease(Window(), Qt::LeftButton, {}, point); }
-  void Click(const QWidget& control, Qt::MouseButton button = Qt::LeftButton) {
+  void Press(const QWidget& control) const { QTest::mousePress(Window(), Qt::LeftButton, {}, MiddleOf(control)); }
+  void Release(const QPoint& point) const { QTest::mouseRelease(Window(), Qt::LeftButton, {}, point); }
+  void Click(const QWidget& control, Qt::MouseButton button = Qt::LeftButton) const {
     QTest::mouseClick(Window(), button, {}, MiddleOf(control));
   }
-  void Key(Qt::Key key) { QTest::keyClick(Window(), key); }
+  void Key(Qt::Key key) const { QTest::keyClick(Window(), key); }
   [[nodiscard]] QWindow* Window() const { return form.windowHandle(); }
   [[nodiscard]] QPoint MiddleOf(const QWidget& control) const { return control.mapTo(&form, control.rect().center()); }
 
@@ -221,6 +223,31 @@ TEST_F(ControlTest, WearsNoMarkForTheMouse) {
   Click(focusLink);
 
   EXPECT_EQ(focusLink.grab().toImage(), plain);
+}
+
+// Whoever has the focus may have something to say when it goes, and the button then comes up over that.
+TEST_F(ControlTest, IsNotPressedWhereABoxComesUpInBetween) {
+  const QSignalSpy presses(&focusLink, &Control::Pressed);
+  QObject::connect(&box, &TextBox::FocusLost, &form, [] { QDialog().exec(); });
+  ExpectDialog([this](QDialog& dialog) {
+    Release(MiddleOf(focusLink));
+    dialog.accept();
+  });
+
+  Press(focusLink);
+
+  EXPECT_EQ(presses.count(), 0);
+  EXPECT_EQ(form.focusWidget(), &focusLink);
+}
+
+TEST_F(ControlTest, IsNotUnderTheMouseOnceItsScreenIsGone) {
+  QTest::mouseMove(Window(), QPoint(300, 200));
+  QTest::mouseMove(Window(), MiddleOf(link));
+  EXPECT_TRUE(link.underMouse());
+
+  frame.hide();
+
+  EXPECT_FALSE(link.underMouse());
 }
 
 TEST_F(ControlTest, HasItsMarkAgainWhenTheWindowComesBackToTheFront) {

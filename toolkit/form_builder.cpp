@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <ranges>
 #include <stdexcept>
 
 #include "toolkit/colors.h"
@@ -67,6 +66,12 @@ QPlainTextEdit* MakeMemo(QWidget* container, const ControlRow& row) {
   return memo;
 }
 
+QPushButton* MakeButton(QWidget* container, const ControlRow& row) {
+  auto* button = new QPushButton(ToQt(row.Text), container);
+  button->setAutoDefault(true);  // Enter presses it, as Space does
+  return button;
+}
+
 Frame* MakeFrame(QWidget* container, const ControlRow& row) {
   auto* frame = new Frame(container);
   frame->SetCaption(ToQt(row.Text));
@@ -96,7 +101,7 @@ QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& fon
     case ControlKind::kCheckBox:
       return new QCheckBox(ToQt(row.Text), container);
     case ControlKind::kButton:
-      return new QPushButton(ToQt(row.Text), container);
+      return MakeButton(container, row);
     case ControlKind::kFrame:
       return MakeFrame(container, row);
     case ControlKind::kRichTextBox:
@@ -154,8 +159,8 @@ FormControls BuildForm(QWidget& form, std::span<const ControlTable> tables) {
     const std::string containerName(table.Container);
     QWidget* container = containerName.empty() ? &form : controls.Find(containerName);
     if (container == nullptr) ControlMissing(containerName);
-    for (const ControlRow& row : std::views::reverse(table.Rows)) {
-      controls.Add(BuildControl(*container, row, table.Font));
+    for (auto row = table.Rows.rbegin(); row != table.Rows.rend(); ++row) {
+      controls.Add(BuildControl(*container, *row, table.Font));
     }
   }
   return controls;

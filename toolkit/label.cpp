@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
+#include <algorithm>
 
 #include "toolkit/accessible_control.h"
 
@@ -60,12 +61,24 @@ void Label::SetAlignment(TextAlignment alignment) {
   update();
 }
 
+QRect Label::WithinContainer(QRect grown) const {
+  constexpr int kEdge = 4;  // left free, lest the text touch the container's border
+  if (parentWidget() == nullptr) return grown;
+  const int over = grown.right() + kEdge - parentWidget()->rect().right();
+  if (over > 0) grown.moveLeft(std::max(0, grown.left() - over));
+  return grown;
+}
+
 bool Label::Wraps() const {
   return place_.height() >= 2 * fontInfo().pixelSize();
 }
 
 QSize Label::TextSize() const {
-  return fontMetrics().boundingRect(QRect(0, 0, Wraps() ? place_.width() : 0, 0), Flags(), text_).size();
+  return SizeWith(Flags());
+}
+
+QSize Label::SizeWith(int flags) const {
+  return fontMetrics().boundingRect(QRect(0, 0, Wraps() ? place_.width() : 0, 0), flags, text_).size();
 }
 
 QString Label::SpokenText() const {
@@ -73,20 +86,21 @@ QString Label::SpokenText() const {
 }
 
 void Label::Grow() {
+  const QSize needed = TextSize();
   QRect grown = place_;
-  if (!Wraps()) {
-    const QSize needed = TextSize();
-    grown.setHeight(std::max(grown.height(), needed.height()));
-    const int missing = std::max(0, needed.width() - grown.width());
-    grown.setRight(grown.right() + missing);
-    if (alignment_ == TextAlignment::kCentered) grown.translate(-missing / 2, 0);
-    if (alignment_ == TextAlignment::kRight) grown.translate(-missing, 0);
-  }
-  setGeometry(grown);
+  grown.setHeight(std::max(grown.height(), needed.height()));
+  const int missing = Wraps() ? 0 : std::max(0, needed.width() - grown.width());
+  grown.setRight(grown.right() + missing);
+  if (alignment_ == TextAlignment::kCentered) grown.translate(-missing / 2, 0);
+  if (alignment_ == TextAlignment::kRight) grown.translate(-missing, 0);
+  setGeometry(missing > 0 ? WithinContainer(grown) : grown);
 }
 
 int Label::Flags() const {
-  return SideOf(alignment_) | Qt::AlignTop | (Wraps() ? Qt::TextWordWrap : 0);
+  const int plain = SideOf(alignment_) | Qt::AlignTop;
+  if (!Wraps()) return plain;
+  const int betweenWords = plain | Qt::TextWordWrap;
+  return SizeWith(betweenWords).width() <= place_.width() ? betweenWords : plain | Qt::TextWrapAnywhere;
 }
 
 void Label::paintEvent(QPaintEvent* /*event*/) {

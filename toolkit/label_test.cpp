@@ -53,6 +53,17 @@ TEST_F(LabelTest, OfOneLineGrowsToWhereItsAlignmentLeavesRoom) {
   EXPECT_NEAR(label.geometry().center().x(), kOneLine.center().x(), 1);
 }
 
+TEST_F(LabelTest, OfOneLineGrowsBackFromItsContainersEdge) {
+  label.SetPlace(QRect(350, 50, 40, 16));
+  label.SetText(kLong);
+
+  EXPECT_EQ(label.width(), label.TextSize().width());
+  EXPECT_LT(label.geometry().right(), form.rect().right());
+
+  label.SetText(kShort);
+  EXPECT_EQ(label.geometry(), QRect(350, 50, 40, 16));
+}
+
 TEST_F(LabelTest, GoesBackToItsPlaceWithAShorterText) {
   label.SetPlace(kOneLine);
   label.SetText(kLong);
@@ -83,9 +94,19 @@ TEST_F(LabelTest, OfSeveralLinesWrapsAtItsEdges) {
   label.SetText(kLong);
 
   EXPECT_TRUE(label.Wraps());
-  EXPECT_EQ(label.geometry(), kSeveralLines);
   EXPECT_LE(label.TextSize().width(), kSeveralLines.width());
-  EXPECT_GT(label.TextSize().height(), label.fontMetrics().height());
+  EXPECT_GT(label.TextSize().height(), kSeveralLines.height());
+  EXPECT_EQ(label.geometry(), QRect(kSeveralLines.topLeft(), QSize(60, label.TextSize().height())));
+  label.SetText(kShort);
+  EXPECT_EQ(label.geometry(), kSeveralLines);
+}
+
+TEST_F(LabelTest, OfSeveralLinesBreaksAWordThatIsTooLong) {
+  label.SetPlace(kSeveralLines);
+  label.SetText(QString(40, QLatin1Char('W')));
+
+  EXPECT_LE(label.TextSize().width(), kSeveralLines.width());
+  EXPECT_EQ(label.width(), kSeveralLines.width());
 }
 
 TEST_F(LabelTest, HasTheRoomOfTwoLinesForWrapping) {

@@ -2,7 +2,6 @@
 
 #include <QIcon>
 #include <QPlainTextEdit>
-#include <QPushButton>
 
 #include "artwork/artwork.h"
 #include "toolkit/text.h"
@@ -21,9 +20,6 @@ FormControls BuildDialog(QWidget& form, const DialogDesign& design) {
   form.setAutoFillBackground(true);
 
   FormControls controls = BuildForm(form, design.Tables);
-  // Enter presses the button that has the focus, as Space does.
-  for (QPushButton* button : form.findChildren<QPushButton*>())
-    button->setAutoDefault(true);
   // No shapes are drawn round the boxes here.
   for (TextBox* box : form.findChildren<TextBox*>())
     box->setFrame(true);

@@ -33,6 +33,7 @@ FormCardGrid::FormCardGrid(FormControls& controls, QWidget& container, ShiftWatc
   labels_[0] = &controls.LabelAt("lblCards", 0);
   squareRects_[0] = TwipsOf(squares_[0]->geometry());
   Listen(0);
+  MakeTabStop(0);
 }
 
 void FormCardGrid::SetFrameRect(const TwipRect& rect) {

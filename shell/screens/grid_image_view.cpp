@@ -10,14 +10,13 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "shell/screens/main_layout.h"
 #include "support/run_time_error.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
-
-constexpr std::int16_t kGridScreen = 1;
 
 // How long a window that has closed may still be seen.
 constexpr int kSettleMilliseconds = 250;
@@ -32,7 +31,10 @@ QString NameFilter(std::string_view filter) {
 // The save dialog has just closed; what lay under it is drawn again before the screen is copied.
 void WaitForTheScreen() {
   QEventLoop loop;
-  QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+  timer.start(kSettleMilliseconds);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -59,8 +61,9 @@ std::string GridImageView::CaptureRegion(const CaptureRect& rect) {
   const PixelRect place = PixelsOf(rect, kTwipsPerPixel, kTwipsPerPixel);
   const QRect area(place.Left, place.Top, place.Width, place.Height);
 
-  const QRect onScreen(grid.mapToGlobal(area.topLeft()) - form_.screen()->geometry().topLeft(), area.size());
-  QPixmap copy = form_.screen()->grabWindow(0, onScreen.x(), onScreen.y(), onScreen.width(), onScreen.height());
+  // Counted from the window, whose corner can stand between two device-independent pixels of the screen.
+  const QPoint corner = grid.mapTo(&form_, area.topLeft());
+  QPixmap copy = form_.screen()->grabWindow(form_.winId(), corner.x(), corner.y(), area.width(), area.height());
   if (copy.isNull()) copy = controls_.FrameAt("frameContent", kGridScreen).grab(area);
 
   QBuffer file;

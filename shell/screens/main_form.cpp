@@ -25,8 +25,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::int16_t kGridScreen = 1;
-
 // The design's own size is there from the start: the screens are fitted to the window as they come up.
 FormControls BuildMainControls(QWidget& form) {
   form.setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight}).size());

@@ -10,6 +10,9 @@
 
 namespace quillon {
 
+/// The screen "ALL IN Grid" among the frames frameContent.
+inline constexpr std::int16_t kGridScreen = 1;
+
 /// The tables of the main window, each behind the one that holds its container.
 [[nodiscard]] std::span<const ControlTable> MainLayout();
 

@@ -2,7 +2,10 @@
 
 #include <QComboBox>
 #include <QFontMetricsF>
+#include <QTextBlockFormat>
 #include <QTextCursor>
+#include <QTextOption>
+#include <array>
 
 #include "toolkit/fonts.h"
 #include "toolkit/text.h"
@@ -10,11 +13,24 @@
 namespace quillon {
 namespace {
 
-// Half an inch beside a ten point fixed-width letter of its standard width. In letters it stays the same whatever width
-// the font comes out at, so that the columns of the plain form stand one above the other.
-constexpr double kTabLetters = 48 / 7.8;
+// Where the columns of the plain form begin, in letters of its fixed-width font. Each is wide enough for whatever it
+// may hold (names of 20 letters; amounts of 13 letters, or of 11 behind the wide equities of a shove), so that headers
+// and rows stand one above the other, at whatever width the font comes out.
+constexpr std::array kColumnLetters = {7, 14, 22, 36, 48};
 
 constexpr std::int16_t kTableFontPoints = 10;
+
+// For an empty box: each line that is added takes over the columns of the one before.
+void SetColumns(const RichTextBox& box) {
+  const QFont table = FormFont({.Family = "Courier New", .Points = kTableFontPoints}, {});
+  const double letter = QFontMetricsF(table).horizontalAdvance(QLatin1Char('0'));
+  QList<QTextOption::Tab> columns;
+  for (const int letters : kColumnLetters)
+    columns << QTextOption::Tab(letters * letter, QTextOption::LeftTab);
+  QTextBlockFormat lines;
+  lines.setTabPositions(columns);
+  box.textCursor().setBlockFormat(lines);
+}
 
 }  // namespace
 
@@ -26,8 +42,7 @@ void ReportView::SetText(std::string_view text) {
 
   // A table whose rows were broken would be none; marked-up prose is broken like any other.
   box.setLineWrapMode(SelectedForm() == ReportForm::kPlainText ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
-  const QFont table = FormFont({.Family = "Courier New", .Points = kTableFontPoints}, {});
-  box.setTabStopDistance(kTabLetters * QFontMetricsF(table).horizontalAdvance(QLatin1Char('0')));
+  SetColumns(box);
 }
 
 void ReportView::SetFontName(std::string_view name) {

@@ -12,9 +12,9 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kScreen = "frameContent";
-constexpr std::string_view kLink = "lblNav";
-constexpr std::string_view kBox = "txtNumber";
+constexpr std::string_view kScreenName = "frameContent";
+constexpr std::string_view kNavName = "lblNav";
+constexpr std::string_view kBoxName = "txtNumber";
 
 }  // namespace
 
@@ -26,19 +26,19 @@ TwipRect StartView::PanelRect() const {
 }
 
 std::int16_t StartView::FrameCount() const {
-  return controls_.CountOf(kScreen);
+  return controls_.CountOf(kScreenName);
 }
 
 std::string StartView::FrameCaption(std::int16_t index) const {
-  return FromQt(controls_.FrameAt(kScreen, index).Caption());
+  return FromQt(controls_.FrameAt(kScreenName, index).Caption());
 }
 
 TwipRect StartView::FrameRect(std::int16_t index) const {
-  return TwipsOf(controls_.FrameAt(kScreen, index).geometry());
+  return TwipsOf(controls_.FrameAt(kScreenName, index).geometry());
 }
 
 void StartView::SetFrameVisible(std::int16_t index, bool visible) {
-  Frame& screen = controls_.FrameAt(kScreen, index);
+  Frame& screen = controls_.FrameAt(kScreenName, index);
   // Whoever was busy on a screen that goes away is done there; left to itself, the focus would go to a neighbour.
   QWidget* busy = form_.focusWidget();
   if (!visible && busy != nullptr && screen.isAncestorOf(busy)) busy->clearFocus();
@@ -46,43 +46,43 @@ void StartView::SetFrameVisible(std::int16_t index, bool visible) {
 }
 
 void StartView::SetFrameRect(std::int16_t index, TwipRect rect) {
-  controls_.FrameAt(kScreen, index).setGeometry(PixelPlace(rect));
+  controls_.FrameAt(kScreenName, index).setGeometry(PixelPlace(rect));
 }
 
 void StartView::SetFrameColor(std::int16_t index, Rgb color) {
-  controls_.FrameAt(kScreen, index).SetBackColor(ToColor(color));
+  controls_.FrameAt(kScreenName, index).SetBackColor(ToColor(color));
 }
 
 void StartView::RaiseFrame(std::int16_t index) {
-  controls_.FrameAt(kScreen, index).raise();
+  controls_.FrameAt(kScreenName, index).raise();
 }
 
 std::int16_t StartView::NavCount() const {
-  return controls_.CountOf(kLink);
+  return controls_.CountOf(kNavName);
 }
 
 std::string StartView::NavCaption(std::int16_t index) const {
-  return FromQt(controls_.LabelAt(kLink, index).Text());
+  return FromQt(controls_.LabelAt(kNavName, index).Text());
 }
 
 float StartView::NavTop(std::int16_t index) const {
-  return TwipsOf(controls_.LabelAt(kLink, index).geometry()).Top;
+  return TwipsOf(controls_.LabelAt(kNavName, index).geometry()).Top;
 }
 
 bool StartView::IsNavVisible(std::int16_t index) const {
-  return !controls_.LabelAt(kLink, index).isHidden();
+  return !controls_.LabelAt(kNavName, index).isHidden();
 }
 
 bool StartView::IsNavUnderlined(std::int16_t index) const {
-  return controls_.LabelAt(kLink, index).HasUnderline();
+  return controls_.LabelAt(kNavName, index).HasUnderline();
 }
 
 void StartView::SetNavColor(std::int16_t index, Rgb color) {
-  controls_.LabelAt(kLink, index).SetTextColor(ToColor(color));
+  controls_.LabelAt(kNavName, index).SetTextColor(ToColor(color));
 }
 
 void StartView::SetNavUnderline(std::int16_t index, bool underline) {
-  controls_.LabelAt(kLink, index).SetUnderline(underline);
+  controls_.LabelAt(kNavName, index).SetUnderline(underline);
 }
 
 void StartView::SetSelectionBarRect(TwipRect rect) {
@@ -130,15 +130,15 @@ void StartView::ShowAboutContent() {
 }
 
 std::int16_t StartView::BoxCount() const {
-  return controls_.CountOf(kBox);
+  return controls_.CountOf(kBoxName);
 }
 
 std::string StartView::BoxText(std::int16_t index) const {
-  return FromQt(controls_.Get<QLineEdit>(kBox, index).text());
+  return FromQt(controls_.Get<QLineEdit>(kBoxName, index).text());
 }
 
 void StartView::SetBoxText(std::int16_t index, std::string_view text) {
-  controls_.Get<QLineEdit>(kBox, index).setText(ToQt(text));
+  controls_.Get<QLineEdit>(kBoxName, index).setText(ToQt(text));
 }
 
 TwipSize StartView::HoverBorderSize() const {

@@ -1,0 +1,370 @@
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <set>
+#include <vector>
+
+#include "results/sample_analysis.h"
+#include "shell/screens/main_form_fixture.h"
+#include "tools/analysis_output.h"
+
+namespace quillon {
+namespace {
+
+class DetailsInWindow : public MainFormTest {
+ protected:
+  RichTextBox& Report() { return Get<RichTextBox>("rtfSummary"); }
+  std::string ReportText() { return FromQt(Report().toPlainText()); }
+
+  /// The Details screen of a made-up analysis.
+  void ShowDetailsOf(const AnalysisState& state) {
+    if (!Shows("lblNav", kDetailsNavIndex)) RunEquity("Tight");
+    Form.State() = state;
+    Open(kDetailsNavIndex);
+  }
+
+  /// Picks an entry with the keyboard.
+  void Pick(std::string_view list, const std::string& text) {
+    auto& box = Get<QComboBox>(list);
+    const int wanted = box.findText(ToQt(text));
+    ASSERT_GE(wanted, 0);
+    const bool up = wanted < box.currentIndex();
+    while (box.currentIndex() != wanted)
+      QTest::keyClick(&box, up ? Qt::Key_Up : Qt::Key_Down);
+  }
+  void PickForum() { Pick("cmboOutputType", "2+2"); }
+  void PickPlain() { Pick("cmboOutputType", "Plain Text"); }
+
+  /// Picks a hand with one step of the list, so that no hand between is picked on the way.
+  void PickHand(std::string_view hand) {
+    auto& box = Get<QComboBox>("cmbo169");
+    const int wanted = box.findText(ToQt(hand));
+    box.setCurrentIndex(wanted - 1);
+    QTest::keyClick(&box, Qt::Key_Down);
+  }
+
+  /// Where on the line the text goes on behind each tab.
+  std::vector<int> EdgesBehindTabs(const QTextBlock& line) {
+    const QString text = line.text();
+    std::vector<int> edges;
+    for (int i = 0; i < text.size(); ++i) {
+      if (text.at(i) != QLatin1Char('\t')) continue;
+      QTextCursor behind(line);
+      behind.setPosition(line.position() + i + 1);
+      edges.push_back(Report().cursorRect(behind).left());
+    }
+    return edges;
+  }
+
+  QTextCharFormat FormatAt(const QString& text) {
+    QTextCursor found = Report().document()->find(text);
+    EXPECT_FALSE(found.isNull()) << text.toStdString();
+    return found.charFormat();
+  }
+};
+
+struct ReportCase {
+  const char* Name;
+  AnalysisState (*State)();
+};
+
+AnalysisState ShoveWithDroppedHands() {
+  AnalysisState state = sample::RaiseState();
+  state.DroppedHands = "QQ, AKs";
+  return state;
+}
+
+AnalysisState CallWithOddDigits() {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 12.345;
+  state.CallAmount = 0.125;
+  state.RangeName = "Über: \"alles\"";
+  return state;
+}
+
+class ReportInWindow : public DetailsInWindow, public testing::WithParamInterface<ReportCase> {};
+
+TEST_P(ReportInWindow, IsTheCompanionsCharacterForCharacter) {
+  ShowDetailsOf(GetParam().State());
+  AnalysisState state = GetParam().State();
+  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+  PickForum();
+  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, {}));
+  PickPlain();
+  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+}
+
+TEST_P(ReportInWindow, OfAPickedHandIsTheCompanionsToo) {
+  ShowDetailsOf(GetParam().State());
+  PickForum();
+  PickHand("72o");
+  PickHand("AKs");
+  AnalysisState state = GetParam().State();
+  const std::array<std::string, 2> hands = {"72o", "AKs"};
+  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
+}
+
+INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportInWindow,
+                         testing::Values(ReportCase{"Call", sample::CallState}, ReportCase{"Raise", sample::RaiseState},
+                                         ReportCase{"Equity", sample::EquityState},
+                                         ReportCase{"DroppedHands", ShoveWithDroppedHands},
+                                         ReportCase{"OddDigits", CallWithOddDigits}),
+                         CaseName<ReportCase>);
+
+TEST_F(DetailsInWindow, OneRunFeedsWindowAndCompanion) {
+  RunRaise("150", "50", "62.5", "Pairs", "Tight");
+  Open(kDetailsNavIndex);
+  AnalysisState state = Form.State();
+  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+}
+
+TEST_F(DetailsInWindow, ThePlainReportReadsAsDesigned) {
+  ShowDetailsOf(sample::CallState());
+  const QStringList lines = Report().toPlainText().split(QLatin1Char('\n'));
+  ASSERT_GT(lines.size(), 20);
+  EXPECT_EQ(lines[0], QStringLiteral("Situation"));
+  EXPECT_EQ(lines[1], QStringLiteral("Type:               \t Preflop Call ALL IN"));
+  EXPECT_EQ(lines[2], QStringLiteral("Total Pot Size:     \t 150"));
+  EXPECT_TRUE(lines.contains(QStringLiteral("Opponent Range Name:\t Tight")));
+  EXPECT_TRUE(lines.contains(QStringLiteral("BEP:                \t 25%")));
+  EXPECT_TRUE(lines.contains(QStringLiteral("AA\t6\t0.850\t       120.00\t=0.85*(150+50)-50")));
+  EXPECT_TRUE(lines.contains(QStringLiteral("72o\t12\t0.123\t       -25.32\t=0.123*(150+50)-50")));
+}
+
+TEST_F(DetailsInWindow, HeadingsAreArialAndTheBodyIsFixedWidth) {
+  ShowDetailsOf(sample::CallState());
+  for (const char* heading : {"Situation", "Details", "Calculations"}) {
+    const QTextCharFormat format = FormatAt(QLatin1String(heading));
+    EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Arial")) << heading;
+    EXPECT_EQ(format.property(QTextFormat::FontPixelSize).toInt(), 19) << "14 points";
+  }
+  for (const char* body : {"Total Pot Size", "Pot Odds", "72o"}) {
+    const QTextCharFormat format = FormatAt(QLatin1String(body));
+    EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Courier New")) << body;
+    EXPECT_EQ(format.property(QTextFormat::FontPixelSize).toInt(), 13) << "10 points";
+    EXPECT_EQ(format.foreground().color(), QColor(Qt::black));
+  }
+}
+
+TEST_F(DetailsInWindow, TheForumReportHasTheBoxsOwnFont) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const QTextCharFormat format = FormatAt(QStringLiteral("Villain Range"));
+  EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Verdana"));
+  PickHand("AA");
+  EXPECT_EQ(FormatAt(QStringLiteral("EV for AA")).fontFamilies().toStringList().constFirst(),
+            QStringLiteral("Courier New"));
+}
+
+AnalysisState LargestCall() {
+  AnalysisState state = sample::CallState();
+  state.PotSize = 9999999.99;
+  state.HandInfo = sample::ResultsTable({{"AA", "9999999.99\t0.85\t1"}, {"72o", "-9999999.99\t0.1234\t1"}});
+  return state;
+}
+
+AnalysisState LargestRaise() {
+  AnalysisState state = sample::RaiseState();
+  state.HandInfo =
+      sample::ResultsTable({{"AA", "9999999.99\t-1\t1"}, {"72o", "-9999999.99\t0.1234\t1"}}, "0.5\t0.5\t0.5");
+  return state;
+}
+
+AnalysisState SmallestCall() {
+  return sample::CallState();
+}
+
+using ReportColumns = ReportInWindow;
+
+TEST_P(ReportColumns, StandOneAboveTheOther) {
+  ShowDetailsOf(GetParam().State());
+  const QTextBlock header = Report().document()->find(QStringLiteral("Hand\t")).block();
+  ASSERT_TRUE(header.isValid());
+  const std::vector<int> columns = EdgesBehindTabs(header);
+  EXPECT_GE(columns.size(), 2U);
+  int rows = 0;
+  for (QTextBlock row = header.next(); !row.text().isEmpty(); row = row.next(), ++rows)
+    EXPECT_EQ(EdgesBehindTabs(row), columns) << row.text().toStdString();
+  EXPECT_EQ(rows, 169);
+
+  std::set<std::vector<int>> names;  // above the table, what follows the names stands in one column
+  for (QTextBlock line = Report().document()->begin(); line != header; line = line.next()) {
+    if (!EdgesBehindTabs(line).empty()) names.insert(EdgesBehindTabs(line));
+  }
+  EXPECT_EQ(names.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportColumns,
+                         testing::Values(ReportCase{"UsualCall", SmallestCall}, ReportCase{"LargestCall", LargestCall},
+                                         ReportCase{"UsualRaise", sample::RaiseState},
+                                         ReportCase{"LargestRaise", LargestRaise},
+                                         ReportCase{"Equity", sample::EquityState}),
+                         CaseName<ReportCase>);
+
+TEST_F(DetailsInWindow, HandsCanBePickedForTheForumAlone) {
+  ShowDetailsOf(sample::CallState());
+  const auto expectPick = [this](bool shown) {
+    EXPECT_EQ(Shows("cmbo169"), shown);
+    EXPECT_EQ(Shows("lblSpecificHand"), shown);
+  };
+  expectPick(false);
+  PickForum();
+  expectPick(true);
+  PickPlain();
+  expectPick(false);
+  PickForum();
+  Open(kDetailsNavIndex);
+  EXPECT_EQ(Get<QComboBox>("cmboOutputType").currentIndex(), 0);
+  expectPick(false);
+  EXPECT_TRUE(ReportText().starts_with("Situation\n"));
+}
+
+TEST_F(DetailsInWindow, NoneAddsNothing) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const std::string before = ReportText();
+  QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
+  EXPECT_EQ(ReportText(), before);
+  PickHand("AA");
+  const std::string after = ReportText();
+  EXPECT_EQ(after, before + "\n[COLOR=\"DimGray\"]EV for AA = 0.85 * (200) - 50 = +120[/COLOR]\n");
+  QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
+  EXPECT_EQ(ReportText(), after) << "and takes nothing away";
+}
+
+struct LineCase {
+  const char* Name;
+  AnalysisState (*State)();
+  std::string_view Hand;
+  std::string_view Line;
+};
+
+class HandLineInWindow : public DetailsInWindow, public testing::WithParamInterface<LineCase> {};
+
+TEST_P(HandLineInWindow, StandsUnderTheReport) {
+  ShowDetailsOf(GetParam().State());
+  PickForum();
+  const std::string before = ReportText();
+  PickHand(GetParam().Hand);
+  EXPECT_EQ(ReportText(), before + "\n[COLOR=\"DimGray\"]" + std::string(GetParam().Line) + "[/COLOR]\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DetailsInWindow, HandLineInWindow,
+    testing::Values(LineCase{"Zero", sample::CallState, "AKs", "EV for AKs = 0.25 * (200) - 50 = 0"},
+                    LineCase{"Loss", sample::CallState, "72o", "EV for 72o = 0.1234 * (200) - 50 = -25.32"},
+                    LineCase{"Shove", sample::RaiseState, "AKs",
+                             "EV for AKs = (0.4*150)+(1-0.4)*(0.55*(150+50+2*62)-(50+62.5)) = +98.2"},
+                    LineCase{"NeverCalled", sample::RaiseState, "AA",
+                             "EV for AA = (1*150)+(1-1)*(-1*(150+50+2*62)-(50+62.5)) = +150"},
+                    LineCase{"Equity", sample::EquityState, "AA", "Equity for AA :\t 0.8523"}),
+    CaseName<LineCase>);
+
+TEST_F(DetailsInWindow, TheLineGoesInAtTheCaret) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const std::string before = ReportText();
+  const std::size_t villain = before.find("Villain Range");
+  QTextCursor caret = Report().textCursor();
+  caret.setPosition(static_cast<int>(villain));
+  Report().setTextCursor(caret);
+  PickHand("AA");
+  PickHand("AKs");
+  EXPECT_EQ(ReportText(), before.substr(0, villain) +
+                              "\n[COLOR=\"DimGray\"]EV for AA = 0.85 * (200) - 50 = +120[/COLOR]\n"
+                              "\n[COLOR=\"DimGray\"]EV for AKs = 0.25 * (200) - 50 = 0[/COLOR]\n" +
+                              before.substr(villain));
+}
+
+TEST_F(DetailsInWindow, AClickMovesTheCaret) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const QPoint start =
+      Report().viewport()->mapTo(&Form, Report().cursorRect(QTextCursor(Report().document())).center());
+  ClickAt(start);
+  EXPECT_EQ(Report().textCursor().position(), 0);
+  PickHand("AA");
+  EXPECT_TRUE(ReportText().starts_with("\n[COLOR=\"DimGray\"]EV for AA"));
+}
+
+TEST_F(DetailsInWindow, WhatIsSelectedStays) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const std::string before = ReportText();
+  QTest::keyClick(&Report(), Qt::Key_A, Qt::ControlModifier);
+  PickHand("AA");
+  EXPECT_EQ(ReportText(), before + "\n[COLOR=\"DimGray\"]EV for AA = 0.85 * (200) - 50 = +120[/COLOR]\n");
+}
+
+TEST_F(DetailsInWindow, ANewReportHoldsNoTraceOfThePick) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const std::string before = ReportText();
+  PickHand("AA");
+  PickPlain();
+  PickForum();
+  EXPECT_EQ(ReportText(), before);
+  EXPECT_EQ(FromQt(Get<QComboBox>("cmbo169").currentText()), "AA") << "the list stays where it was";
+}
+
+TEST_F(DetailsInWindow, PickingTheSameHandAgainAddsItAgain) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  PickHand("AA");
+  const std::size_t once = ReportText().size();
+  auto& hands = Get<QComboBox>("cmbo169");
+  hands.showPopup();
+  QTest::keyClick(hands.view(), Qt::Key_Return);
+  EXPECT_GT(ReportText().size(), once);
+}
+
+TEST_F(DetailsInWindow, ANewRunLeavesTheReportUntilItIsOpened) {
+  ShowDetailsOf(sample::CallState());
+  const std::string before = ReportText();
+  RunEquity("Tight");
+  EXPECT_EQ(ReportText(), before);
+  Open(kDetailsNavIndex);
+  EXPECT_TRUE(ReportText().starts_with("Range\n"));
+}
+
+TEST_F(DetailsInWindow, ProfitsAreAllOrNone) {
+  AnalysisState state = sample::CallState();
+  state.HandInfo = sample::ResultsTable({}, "-1\t0.1\t1");
+  ShowDetailsOf(state);
+  PickForum();
+  EXPECT_TRUE(ReportText().ends_with("Profitable Hands:[/COLOR][/b]\n[None]\n"));
+  state.HandInfo = sample::ResultsTable({}, "0\t0.1\t1");
+  ShowDetailsOf(state);
+  PickForum();
+  EXPECT_TRUE(ReportText().ends_with("Profitable Hands:[/COLOR][/b]\n[Everything]\n"));
+}
+
+TEST_F(DetailsInWindow, TheReportIsReadFromItsStart) {
+  ShowDetailsOf(sample::CallState());
+  EXPECT_EQ(Report().verticalScrollBar()->value(), 0);
+  EXPECT_GT(Report().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(DetailsInWindow, CopyingTakesPlainTextAlone) {
+  ShowDetailsOf(sample::CallState());
+  const std::string report = ReportText();
+  Report().setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+  EXPECT_EQ(FromQt(copied->text()), report);
+  EXPECT_FALSE(copied->hasHtml());
+  EXPECT_EQ(copied->formats(), QStringList{QStringLiteral("text/plain")});
+}
+
+TEST_F(DetailsInWindow, BeforeAnyRunTheReportIsEmpty) {
+  EXPECT_EQ(ReportText(), "");
+  EXPECT_TRUE(Get("cmbo169").isHidden());
+  EXPECT_TRUE(Get("lblSpecificHand").isHidden());
+}
+
+}  // namespace
+}  // namespace quillon

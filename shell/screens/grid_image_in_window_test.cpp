@@ -1,0 +1,166 @@
+#include <QFileDialog>
+#include <QImage>
+#include <QImageReader>
+#include <QScreen>
+
+#include "shell/screens/main_form_fixture.h"
+#include "shell/screens/opened_addresses.h"
+
+namespace quillon {
+namespace {
+
+const Message kSaved = {.title = "Open Now?",
+                        .text = "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
+                        .icon = MessageIcon::kQuestion,
+                        .buttons = MessageButtons::kYesNo};
+
+class GridImageInWindow : public MainFormTest {
+ protected:
+  void SetUp() override {
+    MainFormTest::SetUp();
+    Form.move(0, 0);  // the whole region is on the screen
+    RunEquity("Tight");
+  }
+
+  [[nodiscard]] std::filesystem::path SavedGrids() const { return Program.Folder().Path / "Saved Grids"; }
+
+  /// The save dialog comes, and the user types a name.
+  static void ExpectName(const std::string& typed) {
+    ExpectDialog([typed](QDialog& dialog) {
+      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(ToQt(typed));
+      dialog.accept();
+    });
+  }
+  static void ExpectCancel() {
+    ExpectDialog([](QDialog& dialog) { dialog.reject(); });
+  }
+
+  [[nodiscard]] static QImage ImageOf(const std::filesystem::path& file) {
+    QImageReader reader(ToQt(file.string()));
+    reader.setFormat("BMP");
+    reader.setDecideFormatFromContent(false);
+    return reader.read();
+  }
+};
+
+TEST_F(GridImageInWindow, IsABitmapOfTheRegionUnderTheNameTyped) {
+  ExpectName("Shove grid");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  VerifyExpectedBoxes();
+
+  EXPECT_FALSE(std::filesystem::exists(SavedGrids() / "Shove grid.bmp")) << "no extension is added";
+  const QImage image = ImageOf(SavedGrids() / "Shove grid");
+  EXPECT_EQ(image.size(), QSize(409, 521));
+  const QImage shown = Get("frameContent", kGridScreenIndex).grab(QRect(16, 12, 409, 521)).toImage();
+  EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32), shown.convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(GridImageInWindow, IsUncompressed) {
+  ExpectName("grid.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  const std::string bytes = BytesOf(SavedGrids() / "grid.bmp");
+  ASSERT_GT(bytes.size(), 54U);
+  EXPECT_EQ(bytes.substr(0, 2), "BM");
+  EXPECT_EQ(bytes.substr(30, 4), std::string(4, '\0')) << "the kind of compression";
+}
+
+TEST_F(GridImageInWindow, TheDialogIsAsDesigned) {
+  ExpectDialog([this](QDialog& dialog) {
+    const auto& box = dynamic_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(FromQt(box.windowTitle()), "Save Expected Value Grid");
+    EXPECT_EQ(FromQt(box.directory().absolutePath()), SavedGrids().string());
+    EXPECT_EQ(box.nameFilters().join(QLatin1Char(';')), QStringLiteral("24-bit Bitmap (*.bmp)"));
+    EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_TRUE(box.testOption(QFileDialog::DontConfirmOverwrite));
+    EXPECT_EQ(box.defaultSuffix(), QString());
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QString());
+    dialog.reject();
+  });
+  Click("imgSave");
+}
+
+TEST_F(GridImageInWindow, ACancelBeforeTheFirstSaveDoesNothing) {
+  ExpectCancel();
+  Click("imgSave");
+  EXPECT_TRUE(std::filesystem::is_empty(SavedGrids()));
+}
+
+TEST_F(GridImageInWindow, ACancelAfterASaveSavesOntoTheEarlierFile) {
+  ExpectName("grid.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  VerifyExpectedBoxes();
+  std::ofstream(SavedGrids() / "grid.bmp") << "gone";
+
+  ComeToFront();
+  ExpectCancel();
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_EQ(ImageOf(SavedGrids() / "grid.bmp").size(), QSize(409, 521));
+}
+
+TEST_F(GridImageInWindow, AnExistingFileIsReplacedWithoutAQuestion) {
+  std::ofstream(SavedGrids() / "old.bmp") << "old";
+  ExpectName("old.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_EQ(ImageOf(SavedGrids() / "old.bmp").size(), QSize(409, 521));
+}
+
+TEST_F(GridImageInWindow, TheFolderIsMadeAgain) {
+  std::filesystem::remove_all(SavedGrids());
+  ExpectDialog([this](QDialog& dialog) {
+    EXPECT_TRUE(std::filesystem::is_directory(SavedGrids())) << "before the dialog";
+    dialog.reject();
+  });
+  Click("imgSave");
+}
+
+TEST_F(GridImageInWindow, YesOpensItInTheDesktopsProgram) {
+  OpenedAddresses desktop;
+  ExpectName("My best grid (2).bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kYes);
+  Click("imgSave");
+  ASSERT_EQ(desktop.Opened.size(), 1U);
+  EXPECT_EQ(FromQt(QUrl(ToQt(desktop.Opened[0])).toLocalFile()), (SavedGrids() / "My best grid (2).bmp").string());
+}
+
+TEST_F(GridImageInWindow, NoOpensNothing) {
+  OpenedAddresses desktop;
+  ExpectName("grid.bmp");
+  ExpectMessageBoxClosed(kSaved);
+  Click("imgSave");
+  EXPECT_TRUE(desktop.Opened.empty());
+}
+
+TEST_F(GridImageInWindow, WhatLiesOverTheGridIsInIt) {
+  MoveOver("lblCards", HandIndex("AA"));
+  ASSERT_TRUE(Shows("frameHover"));
+  const QImage shown = Get("frameContent", kGridScreenIndex).grab(QRect(16, 12, 409, 521)).toImage();
+  ExpectName("grid.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_TRUE(Shows("frameHover"));
+  EXPECT_EQ(ImageOf(SavedGrids() / "grid.bmp").convertToFormat(QImage::Format_RGB32),
+            shown.convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(GridImageInWindow, ItsPictureStandsBelowTheRegion) {
+  EXPECT_FALSE(Get("GridContainer").geometry().intersects(Get("imgSave").geometry()));
+  EXPECT_EQ(FromQt(Get("imgSave").toolTip()), "Save this grid!");
+  EXPECT_EQ(FromQt(Get("imgSaveAsRange").toolTip()), "Save this grid!");
+}
+
+TEST_F(GridImageInWindow, AFileThatCannotBeWrittenEndsTheProgram) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto save = [this] {
+    ExpectName((Program.Folder().Path / "missing" / "grid.bmp").string());
+    Click("imgSave");
+  };
+  EXPECT_EXIT(save(), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '53': File not found .*missing/grid.bmp");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,242 @@
+#include "results/sample_analysis.h"
+#include "shell/screens/main_form_fixture.h"
+
+namespace quillon {
+namespace {
+
+class HoverInWindow : public MainFormTest {
+ protected:
+  /// The grid screen, with a made-up analysis behind it.
+  void ShowGridOf(const AnalysisState& state) {
+    RunEquity("Tight");
+    Form.State() = state;
+  }
+
+  QPoint CellOf(std::string_view hand) { return MiddleOf("lblCards", HandIndex(hand)); }
+  void Hover(std::string_view hand) {
+    MoveTo(CellOf(hand) + QPoint(2, 2));  // where the mouse stands there already, it has to move
+    MoveTo(CellOf(hand));
+  }
+
+  /// A point of the bare screen.
+  void MoveOffTheGrid() { MoveTo({230, 565}); }
+
+  [[nodiscard]] bool PanelShows() { return Shows("frameHover"); }
+};
+
+TEST_F(HoverInWindow, WithoutResultsNothingShows) {
+  ShowGridOf({});
+  Hover("AA");
+  EXPECT_FALSE(PanelShows());
+}
+
+struct HoverCase {
+  const char* Name;
+  AnalysisState (*State)();
+  std::string_view Hand;
+  std::string_view Picture;
+  std::string_view EquityTitle;
+  std::string_view Equity;
+  std::string_view Value;
+  std::string_view Return;
+  std::string_view FoldShare;  // empty: the line is hidden
+  std::string_view Advice;
+};
+
+class HoverTexts : public HoverInWindow, public testing::WithParamInterface<HoverCase> {};
+
+TEST_P(HoverTexts, TellWhatTheRunFound) {
+  const HoverCase& row = GetParam();
+  ShowGridOf(row.State());
+  Hover(row.Hand);
+
+  ASSERT_TRUE(PanelShows());
+  EXPECT_EQ(Caption("lblHov_Cards"), row.Hand);
+  EXPECT_EQ(FromQt(Get<Picture>("imgHover").Artwork()), row.Picture);
+  EXPECT_EQ(Caption("lblHovDesc_Eq"), row.EquityTitle);
+  EXPECT_EQ(Caption("lblHov_Eq"), row.Equity);
+  for (const char* name : {"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"})
+    EXPECT_EQ(Shows(name), !row.Value.empty()) << name;
+  if (!row.Value.empty()) {
+    EXPECT_EQ(Caption("lblHovDesc_EV"), "EV:");
+    EXPECT_EQ(Caption("lblHov_EV"), row.Value);
+    EXPECT_EQ(Caption("lblHovDesc_ROI"), "ROI:");
+    EXPECT_EQ(Caption("lblHov_ROI"), row.Return);
+  }
+  for (const char* name : {"lblHovDesc_FoldPerc", "lblHov_FoldPerc"})
+    EXPECT_EQ(Shows(name), !row.FoldShare.empty()) << name;
+  if (!row.FoldShare.empty()) {
+    EXPECT_EQ(Caption("lblHov_FoldPerc"), row.FoldShare);
+  }
+  EXPECT_EQ(Caption("lblHov_Advice"), row.Advice);
+}
+
+AnalysisState NothingToCall() {
+  AnalysisState state = sample::RaiseState();
+  state.CallAmount = 0;
+  return state;
+}
+
+AnalysisState QuarterEquity() {
+  AnalysisState state = sample::EquityState();
+  state.HandInfo = sample::ResultsTable({{"AA", "0\t0.25\t1"}, {"22", "0\t0.2499\t1"}});
+  return state;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    HoverInWindow, HoverTexts,
+    testing::Values(
+        HoverCase{"CallThatWins", sample::CallState, "AA", "hover_green", "Equity:", "85%", "+120", "240%", "",
+                  "You should go ALL IN"},
+        HoverCase{"CallThatLoses", sample::CallState, "72o", "hover_red", "Equity:", "12.34%", "-25.32", "-50.6%", "",
+                  "You should FOLD"},
+        HoverCase{"CallThatBreaksEven", sample::CallState, "AKs", "hover_red", "Equity:", "25%", "0", "0%", "",
+                  "FOLD or ALL IN"},
+        HoverCase{"ShoveThatWins", sample::RaiseState, "AKs", "hover_green", "Equity when Called:", "55%", "+98.2",
+                  "196.4%", "40%", "You should go ALL IN"},
+        HoverCase{"ShoveThatNobodyCalls", sample::RaiseState, "AA", "hover_green", "Equity when Called:", "N/A", "+150",
+                  "300%", "100%", "You should go ALL IN"},
+        HoverCase{"ShoveThatLoses", sample::RaiseState, "22", "hover_red", "Equity when Called:", "30%", "-12.5",
+                  "-25%", "0%", "You should FOLD"},
+        HoverCase{"ShoveWithLongDigits", sample::RaiseState, "KK", "hover_green", "Equity when Called:", "12.35%",
+                  "+1234.565", "2469.1%", "12.35%", "You should go ALL IN"},
+        HoverCase{"ShoveWithNothingToCall", NothingToCall, "AKs", "hover_green", "Equity when Called:", "55%", "+98.2",
+                  "N/A", "40%", "You should go ALL IN"},
+        HoverCase{"EquityOfAQuarter", QuarterEquity, "AA", "hover_blue", "Equity:", "25%", "", "", "", ":)"},
+        HoverCase{"EquityBelowAQuarter", QuarterEquity, "22", "hover_blue", "Equity:", "24.99%", "", "", "", ":("},
+        HoverCase{"EquityOfMinusOneIsANumber", sample::EquityState, "72o", "hover_blue", "Equity:", "-100%", "", "", "",
+                  ":("}),
+    CaseName<HoverCase>);
+
+TEST_F(HoverInWindow, ThePanelHangsBelowItsCellOrStandsAboveIt) {
+  ShowGridOf(sample::CallState());
+  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
+    MoveOffTheGrid();
+    Hover(HandLabel(i));
+    const int row = i / 13;
+    const int column = i % 13;
+    const auto left = static_cast<float>(520 + column * 430);
+    const auto top = static_cast<float>(940 + row * 430);
+    const bool above = row >= 10;
+    ASSERT_TRUE(PanelShows());
+    const QRect place = PixelPlace({left, above ? top - 3315 - 25 : top + 405 + 25, 3780, 3315});
+    EXPECT_EQ(Get("frameHover").geometry(), place) << HandLabel(i);
+  }
+}
+
+TEST_F(HoverInWindow, ThePanelLiesInFront) {
+  ShowGridOf(sample::CallState());
+  Hover("AA");
+  QWidget& screen = Get("frameContent", kGridScreenIndex);
+  const QRect place = Get("frameHover").geometry();
+  for (const QPoint& point : {place.topLeft(), place.center(), place.bottomRight()}) {
+    const QWidget* there = screen.childAt(point);
+    ASSERT_NE(there, nullptr);
+    EXPECT_TRUE(there == &Get("frameHover") || Get("frameHover").isAncestorOf(there));
+  }
+}
+
+TEST_F(HoverInWindow, TheBareScreenClosesThePanel) {
+  ShowGridOf(sample::CallState());
+  Hover("AA");
+  ASSERT_TRUE(PanelShows());
+  MoveOffTheGrid();
+  EXPECT_FALSE(PanelShows());
+  Hover("AA");
+  EXPECT_TRUE(PanelShows());
+}
+
+TEST_F(HoverInWindow, StripAndGapBelongToTheScreen) {
+  ShowGridOf(sample::CallState());
+  const QRect square = Get("shapeCardBack", 14).geometry();
+  const QRect label = Get("lblCards", 14).geometry();
+  EXPECT_EQ(label.top() - square.top(), 7) << "100 twips";
+  const QPoint corner = Get("frameContent", kGridScreenIndex).mapTo(&Form, QPoint(0, 0));
+  const std::array<QPoint, 4> outside = {
+      QPoint(square.center().x(), square.top() + 3),  // the strip above the label
+      QPoint(label.left() - 1, square.center().y()),  // at its left
+      QPoint(label.right() + 1, square.center().y()),  // at its right
+      QPoint(square.center().x(), square.bottom() + 1),  // the gap below the cell
+  };
+  for (const QPoint& point : outside) {
+    Hover("KK");
+    ASSERT_TRUE(PanelShows());
+    MoveTo(corner + point);
+    EXPECT_FALSE(PanelShows()) << point.x() << "," << point.y();
+  }
+}
+
+TEST_F(HoverInWindow, OtherControlsLeaveThePanelOpen) {
+  ShowGridOf(sample::CallState());
+  Hover("AA");
+  MoveOver("lblNav", kCallNav);
+  EXPECT_TRUE(PanelShows());
+  MoveOver("lblResults");
+  EXPECT_TRUE(PanelShows());
+  MoveTo(MiddleOf("frameHover"));
+  EXPECT_TRUE(PanelShows());
+}
+
+TEST_F(HoverInWindow, TheSameHandKeepsItsOldNumbersAfterANewRun) {
+  ShowGridOf(sample::CallState());
+  Hover("AA");
+  Form.State() = sample::RaiseState();
+  Hover("AA");
+  EXPECT_EQ(Caption("lblHov_EV"), "+120");
+  EXPECT_FALSE(Shows("lblHov_FoldPerc"));
+  Hover("AKs");
+  Hover("AA");
+  EXPECT_EQ(Caption("lblHov_EV"), "+150");
+  EXPECT_TRUE(Shows("lblHov_FoldPerc"));
+}
+
+TEST_F(HoverInWindow, ACallAfterARaiseHidesTheFoldLine) {
+  ShowGridOf(sample::RaiseState());
+  Hover("AA");
+  EXPECT_TRUE(Shows("lblHov_FoldPerc"));
+  Form.State() = sample::CallState();
+  Hover("AKs");
+  EXPECT_FALSE(Shows("lblHov_FoldPerc"));
+  EXPECT_FALSE(Shows("lblHovDesc_FoldPerc"));
+}
+
+TEST_F(HoverInWindow, EquityHidesTheOtherLinesAlsoForTheSameHand) {
+  ShowGridOf(sample::RaiseState());
+  Hover("AA");
+  Form.State() = sample::EquityState();
+  Hover("AA");
+  for (const char* name : {"lblHov_EV", "lblHov_ROI", "lblHov_FoldPerc", "lblHovDesc_FoldPerc"})
+    EXPECT_FALSE(Shows(name)) << name;
+  Form.State() = sample::CallState();
+  Hover("AKs");
+  EXPECT_TRUE(Shows("lblHov_EV"));
+}
+
+TEST_F(HoverInWindow, NoTextOfARealRunIsCutOff) {
+  RunRaise("1234567.89", "345678.91", "4567891.23", "Everything", "Tight");
+  const QRect panel = Get("frameHover").rect();
+  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
+    Hover(HandLabel(i));
+    for (const Label* label : Get("frameHover").findChildren<Label*>()) {
+      if (!label->isVisible()) continue;
+      EXPECT_GE(label->width(), label->TextSize().width()) << label->objectName().toStdString();
+      // The verdict is centred over the whole panel, and its place a pixel wider.
+      EXPECT_TRUE(panel.contains(label->geometry()) || label == &LabelAt("lblHov_Advice"))
+          << HandLabel(i) << " " << label->objectName().toStdString() << ": " << label->Text().toStdString();
+    }
+  }
+}
+
+TEST_F(HoverInWindow, ThePanelIsTheOneThatWasDesigned) {
+  ShowGridOf(sample::CallState());
+  Hover("72o");
+  const QImage shown = Get("frameHover").grab().toImage();
+  EXPECT_EQ(shown.size(), QSize(252, 221));
+  EXPECT_EQ(ColorName(shown.pixelColor(20, 198)), "#404040") << "the bar under the verdict";
+  EXPECT_EQ(ColorName(LabelAt("lblHov_Advice").TextColor()), "#ffffff");
+  const QColor top = shown.pixelColor(200, 5);
+  EXPECT_GT(top.red(), top.green()) << "red behind a hand that loses";
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,342 @@
+#include <QAccessible>
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <set>
+#include <vector>
+
+#include "shell/screens/main_form_fixture.h"
+#include "shell/screens/main_layout.h"
+
+namespace quillon {
+namespace {
+
+bool CanBeWorkedWith(const QWidget& control) {
+  const auto* ours = qobject_cast<const Control*>(&control);
+  if (ours != nullptr) return ours->CanBeClicked();
+  return qobject_cast<const Shape*>(&control) == nullptr;
+}
+
+class KeyboardInWindow : public MainFormTest {
+ protected:
+  /// Every screen, with the link or the picture that leads there.
+  void OpenScreen(std::string_view name) {
+    if (name == "About") {
+      Click("picLogo");
+    } else if (name == "Progress") {
+      Open(kEquityNav);
+      Choose(3, "");
+      ExpectMessageBox({.title = "Select Range",
+                        .text = "Please select a range for your opponent.",
+                        .icon = MessageIcon::kExclamation});
+      Click("cmdPreflopEV", 2);
+      VerifyExpectedBoxes();
+      ComeToFront();
+      Click("lblNoResults");
+    } else {
+      for (std::int16_t i = 0; i < 5; ++i) {
+        if (Caption("lblNav", i) == name) Open(i);
+      }
+    }
+    ASSERT_EQ(Screen(), name);
+  }
+
+  /// The names of all controls that show and that a user can do something with.
+  std::set<std::string> Workable() {
+    std::set<std::string> names;
+    for (const ControlTable& table : MainLayout()) {
+      for (const ControlRow& row : table.Rows) {
+        const QWidget& control = Get(row.Name, row.Index);
+        if (control.isVisible() && CanBeWorkedWith(control)) names.insert(FromQt(control.objectName()));
+      }
+    }
+    return names;
+  }
+
+  /// The names of what Tab goes to, until it comes round again.
+  std::vector<std::string> TabRound() {
+    std::vector<std::string> names;
+    Get("picLogo").setFocus(Qt::TabFocusReason);
+    do {
+      names.push_back(FromQt(Form.focusWidget()->objectName()));
+      Press(Qt::Key_Tab);
+    } while (Form.focusWidget() != &Get("picLogo") && names.size() < 100);
+    return names;
+  }
+
+  void Focus(std::string_view name, std::int16_t index = kNoIndex) {
+    Get(name, index).setFocus(Qt::TabFocusReason);
+    ASSERT_EQ(Form.focusWidget(), &Get(name, index));
+  }
+
+  /// What the window shows there.
+  QImage Look(std::string_view name, std::int16_t index = kNoIndex) {
+    QWidget& control = Get(name, index);
+    return Form.grab(QRect(control.mapTo(&Form, QPoint(0, 0)), control.size())).toImage();
+  }
+};
+
+constexpr std::array<std::string_view, 7> kScreens = {"Preflop Call", "Preflop Raise", "Equity Only", "ALL IN Grid",
+                                                      "Details",      "Progress",      "About"};
+
+TEST_F(KeyboardInWindow, TabReachesEverythingThatCanBeClickedOrTypedInto) {
+  RunEquity("Tight");
+  for (const std::string_view screen : kScreens) {
+    SCOPED_TRACE(screen);
+    OpenScreen(screen);
+    if (screen == "Preflop Raise" || screen == "Preflop Call") {
+      Choose(screen == "Preflop Call" ? 0 : 1, "Tight");  // so that its link to edit shows
+    }
+    const std::vector<std::string> round = TabRound();
+    std::set<std::string> reached(round.begin(), round.end());
+    EXPECT_EQ(reached.size(), round.size()) << "each is reached once";
+    EXPECT_EQ(reached.erase("lblCards(0)"), screen == "ALL IN Grid" ? 1U : 0U) << "the grid counts as one";
+    EXPECT_EQ(reached, Workable());
+  }
+}
+
+TEST_F(KeyboardInWindow, TabGoesFromTopToBottom) {
+  OpenScreen("Preflop Call");
+  const std::vector<std::string> expected = {"picLogo",         "lblNav(0)",       "lblNav(1)",     "lblNav(2)",
+                                             "lblRangeManager", "lblWhatsThis(5)", "txtNumber(0)",  "lblWhatsThis(6)",
+                                             "txtNumber(1)",    "lblWhatsThis(7)", "cmboRanges(0)", "lblNewRange(0)",
+                                             "cmdPreflopEV(0)"};
+  EXPECT_EQ(TabRound(), expected);
+}
+
+TEST_F(KeyboardInWindow, ShiftTabGoesBack) {
+  OpenScreen("Preflop Call");
+  Focus("txtNumber", 1);
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(Form.focusWidget(), &Get("lblWhatsThis", 6));
+}
+
+TEST_F(KeyboardInWindow, EnterAndSpacePressALink) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    Focus("lblNav", kCallNav);
+    Press(key);
+    EXPECT_EQ(Screen(), "Preflop Call");
+    EXPECT_EQ(Form.focusWidget(), &Get("lblNav", kCallNav));
+    Focus("picLogo");
+    Press(key);
+    EXPECT_EQ(Screen(), "About");
+  }
+}
+
+TEST_F(KeyboardInWindow, OtherKeysPressNothing) {
+  Focus("lblNav", kCallNav);
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Escape, Qt::Key_Down})
+    Press(key);
+  EXPECT_EQ(Screen(), "About");
+}
+
+TEST_F(KeyboardInWindow, AnalyzeRunsFromTheKeyboard) {
+  OpenScreen("Equity Only");
+  Choose(3, "Tight");
+  Focus("cmdPreflopEV", 2);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+}
+
+TEST_F(KeyboardInWindow, AWholeSituationIsEnteredWithoutTheMouse) {
+  Press(Qt::Key_1, Qt::ControlModifier);
+  Focus("lblWhatsThis", 5);
+  Press(Qt::Key_Tab);
+  TypeKeys("=100+50");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Tab);
+  TypeKeys("50");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_End);
+  ASSERT_EQ(FromQt(Get<QComboBox>("cmboRanges", 0).currentText()), "Tight");
+  Focus("cmdPreflopEV", 0);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_EQ(Form.State().PotSize, 150);
+}
+
+TEST_F(KeyboardInWindow, EachKindOfControlIsPressed) {
+  OpenScreen("Preflop Call");
+  Choose(0, "Tight");
+  Focus("lblEditRange", 0);
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(Dialogs.LoadedManager()->isVisible());
+  ComeToFront();
+  Focus("lblNewRange", 0);
+  Press(Qt::Key_Space);
+  EXPECT_TRUE(Dialogs.LoadedNewRange()->isVisible());
+  ComeToFront();
+  Focus("lblWhatsThis", 7);
+  ExpectMessageBox({.title = "Call ALL IN - Current Range",
+                    .text = "Your opponent's range contains all the possible hands that you think he can currently "
+                            "have."});
+  Press(Qt::Key_Return);
+  VerifyExpectedBoxes();
+  ComeToFront();
+
+  OpenScreen("About");
+  Focus("chkUpgrade");
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Caption("lblCurrentVersion"), "Error Connecting");
+  Focus("cmdSendFeedback");
+  ExpectMessageBox(
+      {.title = "Quillon", .text = "Please fill out the feedback before sending.", .icon = MessageIcon::kExclamation});
+  Press(Qt::Key_Space);
+}
+
+TEST_F(KeyboardInWindow, EnterPressesTheSendButton) {
+  Focus("cmdSendFeedback");
+  ExpectMessageBox(
+      {.title = "Quillon", .text = "Please fill out the feedback before sending.", .icon = MessageIcon::kExclamation});
+  Press(Qt::Key_Return);
+}
+
+TEST_F(KeyboardInWindow, ControlAndADigitOpenTheInputScreens) {
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Preflop Raise");
+  EXPECT_TRUE(LabelAt("lblNav", kRaiseNav).HasUnderline()) << "as a click on the link does";
+  Press(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Equity Only");
+  Press(Qt::Key_1, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Preflop Call");
+  Click("txtNumber", 0);
+  TypeKeys("5");
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Preflop Raise") << "also from within a box";
+  EXPECT_EQ(BoxText(0), "5");
+}
+
+TEST_F(KeyboardInWindow, TheFocusMarkComesFromTheKeyboardAlone) {
+  OpenScreen("Equity Only");
+  MoveTo({600, 560});
+  const QImage resting = Look("cmdPreflopEV", 2);
+  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, MiddleOf("cmdPreflopEV", 2));
+  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, QPoint(600, 560));
+  ASSERT_EQ(Form.focusWidget(), &Get("cmdPreflopEV", 2));
+  EXPECT_EQ(Look("cmdPreflopEV", 2), resting);
+
+  Focus("picLogo");
+  Focus("cmdPreflopEV", 2);
+  EXPECT_NE(Look("cmdPreflopEV", 2), resting);
+  Focus("picLogo");
+  EXPECT_EQ(Look("cmdPreflopEV", 2), resting);
+
+  const QImage link = Look("lblNav", kCallNav);
+  Focus("lblNav", kCallNav);
+  EXPECT_NE(Look("lblNav", kCallNav), link);
+}
+
+TEST_F(KeyboardInWindow, NoMarkShowsAtTheStart) {
+  const QImage atStart = Form.grab().toImage();
+  if (Form.focusWidget() != nullptr) Form.focusWidget()->clearFocus();
+  EXPECT_EQ(Form.grab().toImage(), atStart);
+}
+
+TEST_F(KeyboardInWindow, ArrowsGoThroughTheGridAndShowEachHand) {
+  RunEquity("Tight");
+  Focus("lblCards", 0);
+  EXPECT_TRUE(Shows("frameHover"));
+  EXPECT_EQ(Caption("lblHov_Cards"), "AA");
+  Press(Qt::Key_Right);
+  EXPECT_EQ(Caption("lblHov_Cards"), "AKs");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Caption("lblHov_Cards"), "KK");
+  Press(Qt::Key_Left);
+  EXPECT_EQ(Caption("lblHov_Cards"), "AKo");
+  Press(Qt::Key_Left);
+  EXPECT_EQ(Caption("lblHov_Cards"), "AKo") << "the edge is the end";
+  Press(Qt::Key_Up);
+  EXPECT_EQ(Caption("lblHov_Cards"), "AA");
+  for (int i = 0; i < 20; ++i) {
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Right);
+  }
+  EXPECT_EQ(Caption("lblHov_Cards"), "22");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to press";
+
+  Press(Qt::Key_Tab);
+  EXPECT_FALSE(Form.focusWidget()->objectName().startsWith(QStringLiteral("lblCards")));
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 168)) << "back to where one was";
+}
+
+TEST_F(KeyboardInWindow, TheMouseTakesNoFocusToTheGrid) {
+  RunEquity("Tight");
+  Click("lblCards", 5);
+  EXPECT_NE(Form.focusWidget(), &Get("lblCards", 5));
+}
+
+struct RoleCase {
+  std::string_view Name;
+  std::int16_t Index;
+  QAccessible::Role Role;
+  std::string_view Says;
+};
+
+class SpokenWindow : public KeyboardInWindow {
+ protected:
+  static std::string NameOf(QWidget& control) {
+    return FromQt(QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name));
+  }
+};
+
+TEST_F(SpokenWindow, EverythingHasANameAndARole) {
+  RunEquity("Tight");
+  for (const std::string_view screen : kScreens) {
+    OpenScreen(screen);
+    for (const std::string& name : Workable()) {
+      QWidget& control = *Form.Controls().Find(name);
+      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
+      ASSERT_NE(spoken, nullptr) << name;
+      EXPECT_FALSE(spoken->text(QAccessible::Name).trimmed().isEmpty()) << name;
+      EXPECT_NE(spoken->role(), QAccessible::NoRole) << name;
+      EXPECT_NE(spoken->role(), QAccessible::Client) << name;
+    }
+  }
+}
+
+TEST_F(SpokenWindow, NamesAndRolesTellWhatAControlIs) {
+  constexpr auto kRoles = std::to_array<RoleCase>({
+      {"picLogo", kNoIndex, QAccessible::Button, "About Quillon"},
+      {"lblNav", 1, QAccessible::Link, "Preflop Raise"},
+      {"lblRangeManager", kNoIndex, QAccessible::Link, "Range Manager"},
+      {"cmdPreflopEV", 0, QAccessible::Button, "Analyze"},
+      {"txtNumber", 0, QAccessible::EditableText, "How much is the current pot?"},
+      {"txtNumber", 4, QAccessible::EditableText, "How much will your opponent have to call if you go ALL IN?"},
+      {"cmboRanges", 2, QAccessible::ComboBox, "What range will he call with?"},
+      {"lblWhatsThis", 4, QAccessible::Link, "What's this? Calling Range"},
+      {"lblHisOdds", kNoIndex, QAccessible::StaticText, "X:1"},
+      {"Label", 17, QAccessible::StaticText, "Preflop Calling ALL IN"},
+      {"lblCards", 14, QAccessible::StaticText, "KK"},
+      {"rtfSummary", kNoIndex, QAccessible::EditableText, "Analysis details"},
+      {"chkUpgrade", kNoIndex, QAccessible::CheckBox, "Automatically check for upgrades"},
+      {"cmdSendFeedback", kNoIndex, QAccessible::Button, "Send"},
+      {"txtFeedback", kNoIndex, QAccessible::EditableText, "Feedback"},
+  });
+  for (const RoleCase& row : kRoles) {
+    QWidget& control = Get(row.Name, row.Index);
+    EXPECT_EQ(NameOf(control), row.Says) << ObjectName(row.Name, row.Index);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&control)->role(), row.Role) << ObjectName(row.Name, row.Index);
+  }
+}
+
+TEST_F(SpokenWindow, ALabelSaysWhatItShowsNow) {
+  Open(kRaiseNav);
+  Type(2, "100");
+  Type(4, "50");
+  EXPECT_EQ(NameOf(Get("lblHisOdds")), "3 : 1");
+}
+
+TEST_F(SpokenWindow, AScreenReaderPresses) {
+  QAccessibleInterface* link = QAccessible::queryAccessibleInterface(&Get("lblNav", kRaiseNav));
+  ASSERT_TRUE(link->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+  link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Screen(), "Preflop Raise");
+  QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(&Get("Label", 23));
+  EXPECT_FALSE(plain->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+}
+
+}  // namespace
+}  // namespace quillon

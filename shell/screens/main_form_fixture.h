@@ -1,0 +1,234 @@
+#pragma once
+
+// For tests: the main window with its dialogs on a program folder of its own. It speaks in real boxes
+// ("toolkit/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web.
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "hand/hand_classes.h"
+#include "ranges/dialogs/dialog_fixtures.h"
+#include "ranges/dialogs/range_dialogs.h"
+#include "ranges/range_fixtures.h"
+#include "shell/recorded_web.h"
+#include "shell/screens/main_form.h"
+#include "toolkit/expected_boxes.h"
+#include "toolkit/message_dialogs.h"
+#include "toolkit/text.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+
+/// The screens, frameContent, by index.
+inline constexpr std::int16_t kCallScreen = 0;
+inline constexpr std::int16_t kGridScreenIndex = 1;
+inline constexpr std::int16_t kDetailsScreen = 2;
+inline constexpr std::int16_t kProgressScreenIndex = 3;
+inline constexpr std::int16_t kRaiseScreen = 4;
+inline constexpr std::int16_t kAboutScreenIndex = 5;
+inline constexpr std::int16_t kEquityScreen = 6;
+
+/// The links, lblNav, by index.
+inline constexpr std::int16_t kCallNav = 0;
+inline constexpr std::int16_t kRaiseNav = 1;
+inline constexpr std::int16_t kEquityNav = 2;
+inline constexpr std::int16_t kGridNavIndex = 3;
+inline constexpr std::int16_t kDetailsNavIndex = 4;
+
+/// The ranges are "Everything", with each hand in full, "Nothing", with none, "Pairs", with AA and KK in full and QQ at
+/// half, and "Tight", with AA, KK, AKs and AKo. The window is not started yet, so that a test can change the folder
+/// before.
+class MainStage {
+ public:
+  MainStage() {
+    Program.Write("Everything.txt", TextWith(AllLabels()));
+    Program.Write("Nothing.txt", TextWith(""));
+    Program.Write("Pairs.txt", TextWith("AA KK", "QQ"));
+    Program.Write("Tight.txt", TextWith("AA KK AKs AKo"));
+    Dialogs.Attach(Form);
+  }
+
+  void Start() {
+    Form.Start(Dialogs);
+    ComeToFront();
+    // Where the mouse stood in the test before, a move to the same point would be none.
+    MoveTo({5, 598});
+  }
+
+  /// What the user does when another window was in front.
+  void ComeToFront() {
+    Form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
+  }
+
+  template <typename Kind = QWidget>
+  [[nodiscard]] Kind& Get(std::string_view name, std::int16_t index = kNoIndex) {
+    return Form.Controls().Get<Kind>(name, index);
+  }
+  [[nodiscard]] Label& LabelAt(std::string_view name, std::int16_t index = kNoIndex) { return Get<Label>(name, index); }
+  [[nodiscard]] std::string Caption(std::string_view name, std::int16_t index = kNoIndex) {
+    return LinesFromQt(LabelAt(name, index).Text());
+  }
+  [[nodiscard]] std::string BoxText(std::int16_t index) { return FromQt(Get<QLineEdit>("txtNumber", index).text()); }
+  [[nodiscard]] bool Shows(std::string_view name, std::int16_t index = kNoIndex) {
+    return Get(name, index).isVisible();
+  }
+
+  /// The caption of the one screen that shows; a test fails where none or more than one does.
+  [[nodiscard]] std::string Screen() {
+    std::string shown;
+    for (std::int16_t i = 0; i < Form.Controls().CountOf("frameContent"); ++i) {
+      if (Shows("frameContent", i)) shown += FromQt(Get<Frame>("frameContent", i).Caption()) + ";";
+    }
+    EXPECT_FALSE(shown.empty()) << "no screen shows";
+    return shown.substr(0, shown.empty() ? 0 : shown.size() - 1);
+  }
+
+  /// The mouse, sent the way of the window's own events, so that what lies in front hears it.
+  void ClickAt(const QPoint& point) { QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, point); }
+  void MoveTo(const QPoint& point) { QTest::mouseMove(Form.windowHandle(), point); }
+  [[nodiscard]] QPoint MiddleOf(std::string_view name, std::int16_t index = kNoIndex) {
+    QWidget& control = Get(name, index);
+    EXPECT_TRUE(control.isVisible()) << name << "(" << index << ") cannot be reached";
+    return control.mapTo(&Form, control.rect().center());
+  }
+  void Click(std::string_view name, std::int16_t index = kNoIndex) { ClickAt(MiddleOf(name, index)); }
+  void MoveOver(std::string_view name, std::int16_t index = kNoIndex) { MoveTo(MiddleOf(name, index)); }
+  void Open(std::int16_t nav) { Click("lblNav", nav); }
+
+  /// Keys go to whatever has the focus, as from the keyboard.
+  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
+  void TypeKeys(std::string_view text) {
+    for (const char key : text)
+      QTest::keyClick(Form.windowHandle(), key);
+  }
+
+  /// Clicks into an amount box and puts `text` in place of its own, by keys. The box keeps the focus.
+  void Type(std::int16_t box, std::string_view text) {
+    Click("txtNumber", box);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Delete);
+    TypeKeys(text);
+  }
+
+  /// Selects an entry of a range list with the keyboard, the blank one for the empty name.
+  void Choose(std::int16_t chooser, std::string_view name) {
+    auto& box = Get<QComboBox>("cmboRanges", chooser);
+    const int wanted = box.findText(ToQt(name));
+    ASSERT_GE(wanted, 0) << name << " is not in the list";
+    box.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&box, Qt::Key_Home);
+    for (int i = 0; i < wanted; ++i)
+      QTest::keyClick(&box, Qt::Key_Down);
+    ASSERT_EQ(FromQt(box.currentText()), name);
+  }
+
+  /// Fills in an input screen and leaves it open.
+  void EnterCall(std::string_view pot, std::string_view call, std::string_view range) {
+    Open(kCallNav);
+    Type(0, pot);
+    Type(1, call);
+    Choose(0, range);
+  }
+  void EnterRaise(std::string_view pot, std::string_view call, std::string_view shove, std::string_view range,
+                  std::string_view callingRange) {
+    Open(kRaiseNav);
+    Type(2, pot);
+    Type(3, call);
+    Type(4, shove);
+    Choose(1, range);
+    Choose(2, callingRange);
+  }
+  void EnterEquity(std::string_view range) {
+    Open(kEquityNav);
+    Choose(3, range);
+  }
+
+  /// Runs to the end.
+  void RunCall(std::string_view pot, std::string_view call, std::string_view range) {
+    EnterCall(pot, call, range);
+    Click("cmdPreflopEV", 0);
+  }
+  void RunRaise(std::string_view pot, std::string_view call, std::string_view shove, std::string_view range,
+                std::string_view callingRange) {
+    EnterRaise(pot, call, shove, range, callingRange);
+    Click("cmdPreflopEV", 1);
+  }
+  void RunEquity(std::string_view range) {
+    EnterEquity(range);
+    Click("cmdPreflopEV", 2);
+  }
+
+  /// Does `act` once, between two classes of a run, as soon as the percentage reads so. A test fails where that never
+  /// happens.
+  void DuringRun(std::string_view percent, std::function<void()> act) {
+    ++ActsToCome;
+    auto* timer = new QTimer(&Form);
+    QObject::connect(timer, &QTimer::timeout, &Form,
+                     [this, timer, wanted = std::string(percent), action = std::move(act)] {
+                       if (!Form.State().Running || Caption("lblProgressPerc") != wanted) return;
+                       timer->stop();
+                       --ActsToCome;
+                       action();
+                     });
+    timer->start(0);
+  }
+
+  [[nodiscard]] static std::string BytesOf(const std::filesystem::path& file) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  [[nodiscard]] std::string Settings() const { return BytesOf(Program.Folder().Path / "settings.ini"); }
+  void WriteSettings(std::string_view text) const {
+    std::ofstream(Program.Folder().Path / "settings.ini", std::ios::binary) << text;
+  }
+
+  TemporaryProgram Program;
+  bool ShiftHeld = false;
+  int Ends = 0;
+  int ActsToCome = 0;
+  std::int32_t Now = 0;  // the clock, which goes on by 700 milliseconds whenever it is looked at
+  MessageDialogs Boxes;
+  RecordedWeb Web;
+  ShiftWatch Shift{[this] { return ShiftHeld; }};
+  RangeDialogs Dialogs{Program.Folder(), Boxes, Boxes, Shift};
+  MainForm Form{{.Folder = Program.Folder(),
+                 .Messages = Boxes,
+                 .Inputs = Boxes,
+                 .Web = Web,
+                 .Shift = Shift,
+                 .EndProcess = [this] { ++Ends; },
+                 .Clock = [this] { return Now += 700; }}};
+};
+
+/// A test on a window that has started.
+class MainFormTest : public testing::Test, public MainStage {
+ protected:
+  void SetUp() override { Start(); }
+  void TearDown() override { EXPECT_EQ(ActsToCome, 0) << "something was to be done during a run"; }
+};
+
+/// Names each test of a table after its row.
+template <typename Case>
+std::string CaseName(const testing::TestParamInfo<Case>& info) {
+  return std::string(info.param.Name);
+}
+
+/// A colour as "#rrggbb".
+inline std::string ColorName(const QColor& color) {
+  return FromQt(color.name());
+}
+
+}  // namespace quillon

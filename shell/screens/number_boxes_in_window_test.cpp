@@ -1,0 +1,225 @@
+#include <array>
+
+#include "shell/screens/main_form_fixture.h"
+
+namespace quillon {
+namespace {
+
+const Message kProblem = {.title = "Problem",
+                          .text =
+                              "There was a problem processing your expression: \r\n\r\n"
+                              "Only addition (+) and subtract (-) are supported",
+                          .icon = MessageIcon::kInformation};
+
+using NumberBoxesInWindow = MainFormTest;
+
+struct SumCase {
+  const char* Name;
+  std::string_view Typed;
+  std::string_view Becomes;
+};
+
+class SumInWindow : public NumberBoxesInWindow, public testing::WithParamInterface<SumCase> {};
+
+TEST_P(SumInWindow, IsWorkedOutAtEnterAndWhenTheBoxIsLeft) {
+  Open(kCallNav);
+  Type(0, GetParam().Typed);
+  EXPECT_EQ(BoxText(0), GetParam().Typed) << "it stands while it is typed";
+  Press(Qt::Key_Return);
+  EXPECT_EQ(BoxText(0), GetParam().Becomes);
+  Type(1, GetParam().Typed);
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(BoxText(1), GetParam().Becomes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    NumberBoxesInWindow, SumInWindow,
+    testing::Values(SumCase{"AddsAndSubtracts", "=735+220-178", "777"}, SumCase{"NothingIsZero", "=", "0"},
+                    SumCase{"SignAloneIsZero", "=+", "0"}, SumCase{"SignAtTheEndAddsNothing", "=5+", "5"},
+                    SumCase{"FirstSignMayBeMinus", "=-5", "-5"}, SumCase{"TwoSignsHoldAnEmptyNumber", "=--3", "-3"},
+                    SumCase{"SecondPointEndsTheValue", "=1.5.2", "1.5"}, SumCase{"PointsMayLead", "=.5+.5", "1"},
+                    SumCase{"NoTailOfBinaryDigits", "=0.1+0.2", "0.3"}, SumCase{"PlainNumberStays", "12.50", "12.50"},
+                    SumCase{"WordsStay", "35 dollars", "35 dollars"}, SumCase{"CurrencyStays", "$35", "$35"},
+                    SumCase{"SignElsewhereIsNone", "1=2", "1=2"}, SumCase{"BlankBeforeTheSignIsText", " =1+2", " =1+2"},
+                    SumCase{"EmptyStays", "", ""}),
+    CaseName<SumCase>);
+
+class BadSumInWindow : public NumberBoxesInWindow, public testing::WithParamInterface<std::string_view> {};
+
+TEST_P(BadSumInWindow, IsToldAndStays) {
+  Open(kRaiseNav);
+  Type(2, GetParam());
+  ExpectMessageBox(kProblem);
+  Press(Qt::Key_Enter);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(BoxText(2), GetParam());
+
+  ComeToFront();
+  ExpectMessageBox(kProblem);
+  Press(Qt::Key_Tab);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(BoxText(2), GetParam());
+  EXPECT_EQ(Form.focusWidget(), &Get("lblWhatsThis", 1)) << "the focus has moved on";
+}
+
+INSTANTIATE_TEST_SUITE_P(NumberBoxesInWindow, BadSumInWindow,
+                         testing::Values("=1 + 2", "=$5", "=1,000", "=2*3", "=(1+2)"));
+
+TEST_F(NumberBoxesInWindow, EnterPutsTheCaretBehindTheText) {
+  Open(kCallNav);
+  Type(0, "=735+220-178");
+  Press(Qt::Key_Home);
+  Press(Qt::Key_Return);
+  const auto& box = Get<QLineEdit>("txtNumber", 0);
+  EXPECT_EQ(box.cursorPosition(), 3);
+  EXPECT_FALSE(box.hasSelectedText());
+  EXPECT_EQ(Form.focusWidget(), &box);
+}
+
+TEST_F(NumberBoxesInWindow, TheBorderIsThickWhileTheUserIsIn) {
+  for (const std::int16_t link : {kCallNav, kRaiseNav}) {
+    Open(link);
+    const std::int16_t first = link == kCallNav ? 0 : 2;
+    const std::int16_t last = link == kCallNav ? 1 : 4;
+    for (std::int16_t i = first; i <= last; ++i) {
+      const auto& border = Get<Shape>("ShapeBorder", i);
+      EXPECT_EQ(border.LineWidth(), 1);
+      Click("txtNumber", i);
+      EXPECT_EQ(border.LineWidth(), 3) << i;
+      Press(Qt::Key_Tab);
+      EXPECT_EQ(border.LineWidth(), 1) << i;
+    }
+  }
+}
+
+TEST_F(NumberBoxesInWindow, TheMouseLeavesABoxByAnotherBoxOrList) {
+  Open(kCallNav);
+  Type(0, "=1+1");
+  Click("txtNumber", 1);
+  EXPECT_EQ(BoxText(0), "2");
+  Type(1, "=2+2");
+  Get<QComboBox>("cmboRanges", 0).setFocus(Qt::MouseFocusReason);
+  EXPECT_EQ(BoxText(1), "4");
+}
+
+TEST_F(NumberBoxesInWindow, AnotherWindowInFrontLeavesTheBoxAsItIs) {
+  Open(kCallNav);
+  Type(0, "=1+1");
+  Click("lblRangeManager");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  EXPECT_EQ(BoxText(0), "=1+1");
+  EXPECT_EQ(Get<Shape>("ShapeBorder", 0).LineWidth(), 3);
+}
+
+TEST_F(NumberBoxesInWindow, TextIsCentredInABoxWithoutABorder) {
+  for (std::int16_t i = 0; i < 5; ++i) {
+    const auto& box = Get<QLineEdit>("txtNumber", i);
+    EXPECT_TRUE(box.alignment().testFlag(Qt::AlignHCenter));
+    EXPECT_FALSE(box.hasFrame());
+    EXPECT_EQ(ColorName(Get<Shape>("ShapeBorder", i).LineColor()), "#336699");
+    EXPECT_EQ(ColorName(Get<Shape>("ShapeBorder", i).Fill()), "#ffffff");
+  }
+}
+
+TEST_F(NumberBoxesInWindow, AnyKeyGoesIntoTheText) {
+  Open(kCallNav);
+  Type(0, "a$=(%,.;Z9 ");
+  EXPECT_EQ(BoxText(0), "a$=(%,.;Z9 ");
+}
+
+TEST_F(NumberBoxesInWindow, AnyChangeHidesTheResults) {
+  for (std::int16_t i = 0; i < 5; ++i) {
+    SCOPED_TRACE(i);
+    RunEquity("Tight");
+    ASSERT_TRUE(Shows("lblNav", kGridNavIndex));
+    Open(i < 2 ? kCallNav : kRaiseNav);
+    Click("txtNumber", i);
+    TypeKeys("7");
+    EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+    EXPECT_TRUE(Shows("lblNoResults"));
+    EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.");
+  }
+}
+
+TEST_F(NumberBoxesInWindow, AnEvaluationIsAChangeToo) {
+  Open(kCallNav);
+  Type(0, "=1+1");
+  RunEquity("Tight");
+  ASSERT_TRUE(Shows("lblNav", kGridNavIndex));
+  Open(kCallNav);
+  Get<QLineEdit>("txtNumber", 0).setText(QStringLiteral("=1+1"));
+  RunEquity("Tight");
+  Open(kCallNav);
+  Click("txtNumber", 0);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(BoxText(0), "2");
+  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+}
+
+TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
+  EXPECT_EQ(Caption("lblHisOdds"), "X:1");
+  EXPECT_EQ(Caption("lblHisBEP"), "0%");
+  Open(kRaiseNav);
+  Type(2, "100");
+  Type(3, "0");
+  EXPECT_EQ(Caption("lblHisOdds"), "X:1");
+
+  Type(4, "50");
+  EXPECT_EQ(Caption("lblHisOdds"), "3 : 1");
+  EXPECT_EQ(Caption("lblHisBEP"), "25%");
+
+  Type(2, "400");
+  EXPECT_EQ(Caption("lblHisOdds"), "3 : 1") << "stale until the third changes";
+  Type(4, "50");
+  EXPECT_EQ(Caption("lblHisOdds"), "9 : 1");
+  EXPECT_EQ(Caption("lblHisBEP"), "10%");
+
+  Type(4, "30");
+  EXPECT_EQ(Caption("lblHisOdds"), "14.33 : 1");
+  EXPECT_EQ(Caption("lblHisBEP"), "6.52%");
+}
+
+TEST_F(NumberBoxesInWindow, NoThirdAmountHasNoOdds) {
+  Open(kRaiseNav);
+  Type(2, "100");
+  Type(4, "=100");
+  EXPECT_EQ(Caption("lblHisOdds"), "N/A") << "a sum that is not worked out yet counts as 0";
+  EXPECT_EQ(Caption("lblHisBEP"), "N/A");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(BoxText(4), "100");
+  EXPECT_EQ(Caption("lblHisOdds"), "2 : 1");
+  EXPECT_EQ(Caption("lblHisBEP"), "33.33%");
+  Type(4, "abc");
+  EXPECT_EQ(Caption("lblHisOdds"), "N/A");
+}
+
+TEST_F(NumberBoxesInWindow, ANegativeThirdAmountIsCalculatedWith) {
+  Open(kRaiseNav);
+  Type(2, "100");
+  Type(4, "-20");
+  EXPECT_EQ(Caption("lblHisOdds"), "-4 : 1");
+  EXPECT_EQ(Caption("lblHisBEP"), "-33.33%");
+}
+
+TEST_F(NumberBoxesInWindow, TheOddsLabelsGrowWithTheirText) {
+  Open(kRaiseNav);
+  Type(2, "9999999");
+  Type(4, "7");
+  for (const char* name : {"lblHisOdds", "lblHisBEP"}) {
+    const Label& label = LabelAt(name);
+    EXPECT_GE(label.width(), label.TextSize().width()) << name;
+    EXPECT_FALSE(label.Wraps());
+  }
+  EXPECT_EQ(Caption("lblHisOdds"), "1428572.29 : 1");
+}
+
+// P + C + 2H = 0 has odds of -1, by which nothing can be divided.
+TEST_F(NumberBoxesInWindow, OddsOfMinusOneEndTheProgram) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  Open(kRaiseNav);
+  Type(2, "100");
+  EXPECT_EXIT(Type(4, "-50"), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '11': Division by zero");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,229 @@
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "shell/screens/main_form_fixture.h"
+
+namespace quillon {
+namespace {
+
+// In twips, and then to the nearest pixel.
+QPoint Centred(const QWidget& form) {
+  const QSize room = QGuiApplication::primaryScreen()->size() - form.size();
+  const auto half = [](int pixels) { return PixelEdge(static_cast<float>(pixels) * kTwipsPerPixel / 2); };
+  return {half(room.width()), half(room.height())};
+}
+
+class StartInWindow : public testing::Test, public MainStage {};
+
+TEST_F(StartInWindow, MakesBothFoldersInAnEmptyOne) {
+  std::filesystem::remove_all(Program.Folder().Path / "Ranges");
+
+  Start();
+
+  EXPECT_TRUE(std::filesystem::is_directory(Program.Folder().Path / "Ranges"));
+  EXPECT_TRUE(std::filesystem::is_directory(Program.Folder().Path / "Saved Grids"));
+  EXPECT_TRUE(std::filesystem::is_empty(Program.Folder().Path / "Ranges"));
+  EXPECT_FALSE(std::filesystem::exists(Program.Folder().Path / "settings.ini")) << "made by the first value written";
+  for (std::int16_t i = 0; i < kChooserCount; ++i) {
+    EXPECT_EQ(Get<QComboBox>("cmboRanges", i).count(), 1);
+    EXPECT_EQ(Get<QComboBox>("cmboRanges", i).currentText(), QString());
+  }
+}
+
+TEST_F(StartInWindow, KeepsTheFoldersThatAreThere) {
+  std::filesystem::create_directory(Program.Folder().Path / "Saved Grids");
+  Start();
+  EXPECT_EQ(Get<QComboBox>("cmboRanges", 0).count(), 5);
+  EXPECT_EQ(Program.Read("Tight.txt"), TextWith("AA KK AKs AKo"));
+}
+
+TEST_F(StartInWindow, ShowsTheAboutScreenWithNoLinkSelected) {
+  Start();
+
+  EXPECT_TRUE(Form.isVisible());
+  EXPECT_EQ(FromQt(Form.windowTitle()), "Quillon 0.9");
+  EXPECT_EQ(Form.size(), QSize(1020, 603));
+  EXPECT_EQ(Form.minimumSize(), Form.maximumSize());
+  EXPECT_EQ(Form.pos(), Centred(Form));
+  EXPECT_EQ(Screen(), "About");
+  EXPECT_TRUE(Shows("frameAboutContent"));
+  EXPECT_EQ(Get("frameAboutContent").geometry(), PixelPlace({0, 300, 12000, 8645}));
+  EXPECT_EQ(Caption("lblNumRanges"), "0") << "the lists are filled later";
+  for (std::int16_t i = 0; i < 5; ++i) {
+    EXPECT_EQ(BoxText(i), "");
+    EXPECT_FALSE(LabelAt("lblNav", i).HasUnderline());
+  }
+  EXPECT_TRUE(Shows("lblNav", kCallNav));
+  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+  EXPECT_FALSE(Shows("lblNav", kDetailsNavIndex));
+  EXPECT_TRUE(Shows("lblNoResults"));
+  EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.");
+  EXPECT_FALSE(Form.rect().intersects(Get("shapeBack").geometry())) << "the selection bar waits out of sight";
+}
+
+TEST_F(StartInWindow, FillsTheListsOfTheDetailsScreen) {
+  Start();
+
+  const auto& types = Get<QComboBox>("cmboOutputType");
+  ASSERT_EQ(types.count(), 2);
+  EXPECT_EQ(FromQt(types.itemText(0)), "Plain Text");
+  EXPECT_EQ(FromQt(types.itemText(1)), "2+2");
+  EXPECT_EQ(types.currentIndex(), 0);
+
+  const auto& hands = Get<QComboBox>("cmbo169");
+  ASSERT_EQ(hands.count(), 1 + kHandClassCount);
+  EXPECT_EQ(FromQt(hands.itemText(0)), "None");
+  for (std::int16_t i = 0; i < kHandClassCount; ++i)
+    EXPECT_EQ(FromQt(hands.itemText(i + 1)), HandLabel(i));
+}
+
+TEST_F(StartInWindow, BuildsTheGridAndTheHoverPanel) {
+  Start();
+
+  EXPECT_EQ(Form.Controls().CountOf("shapeCardBack"), kHandClassCount);
+  EXPECT_EQ(Form.Controls().CountOf("lblCards"), kHandClassCount);
+  for (std::int16_t i = 0; i < kHandClassCount; ++i)
+    EXPECT_EQ(Caption("lblCards", i), HandLabel(i));
+  EXPECT_EQ(Get("frameHover").size(), PixelPlace({0, 0, 3780, 3315}).size());
+  EXPECT_TRUE(Get("frameHover").isHidden());
+}
+
+TEST_F(StartInWindow, ShowsTheWindowBeforeItLooksForUpgrades) {
+  WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+  Web.WhileAsked = [this] {
+    EXPECT_TRUE(Form.isVisible());
+    EXPECT_EQ(Screen(), "About");
+    EXPECT_EQ(Caption("lblCurrentVersion"), "Checking website...");
+  };
+  Start();
+  EXPECT_EQ(Web.Asked.size(), 2U);
+}
+
+struct PlaceCase {
+  const char* Name;
+  std::string Settings;
+  std::optional<QPoint> Expected;  // nothing: in the middle of the screen
+};
+
+class StartPlace : public StartInWindow, public testing::WithParamInterface<PlaceCase> {};
+
+TEST_P(StartPlace, IsTheStoredOneWithinTheScreen) {
+  WriteSettings(GetParam().Settings);
+  Start();
+  EXPECT_EQ(Form.pos(), GetParam().Expected.value_or(Centred(Form)));
+}
+
+std::string MainSection(std::string_view left, std::string_view top) {
+  return "[Main]\r\nLeft=" + std::string(left) + "\r\nTop=" + std::string(top) + "\r\n";
+}
+
+// The screen of the tests is 800 by 800 pixels, 12000 twips each way.
+INSTANTIATE_TEST_SUITE_P(
+    StartInWindow, StartPlace,
+    testing::Values(PlaceCase{"AsStored", MainSection("1500", "750"), QPoint(100, 50)},
+                    PlaceCase{"LeftAloneCountsForNothing", "[Main]\r\nLeft=150\r\n", std::nullopt},
+                    PlaceCase{"TopAloneCountsForNothing", "[Main]\r\nTop=150\r\n", std::nullopt},
+                    PlaceCase{"EmptyLeftIsNone", MainSection("", "150"), std::nullopt},
+                    PlaceCase{"NegativeLeftIsTheEdge", MainSection("-5", "150"), QPoint(0, 10)},
+                    PlaceCase{"NegativeTopIsTheEdge", MainSection("150", "-5"), QPoint(10, 0)},
+                    PlaceCase{"WordsAreZero", MainSection("left", "top"), QPoint(0, 0)},
+                    PlaceCase{"LeadingNumberCounts", MainSection("150 twips", "300x"), QPoint(10, 20)},
+                    PlaceCase{"BeyondTheScreenIsTheEdge", MainSection("12001", "12001"), QPoint(0, 0)},
+                    PlaceCase{"JustTheScreensSizeStays", MainSection("12000", "12000"), QPoint(800, 800)},
+                    PlaceCase{"KeysAreFoundInAnyCase", "[main]\r\n left = 300\r\nTOP=150", QPoint(20, 10)}),
+    CaseName<PlaceCase>);
+
+TEST_F(StartInWindow, RestoresTheBoxTextsAsTheyStood) {
+  WriteSettings("[Values]\r\n0=abc\r\n1==735+220-178\r\n2=100\r\n4=50\r\n");
+  Start();
+  EXPECT_EQ(BoxText(0), "abc");
+  EXPECT_EQ(BoxText(1), "=735+220-178") << "unevaluated";
+  EXPECT_EQ(BoxText(2), "100");
+  EXPECT_EQ(BoxText(3), "");
+  EXPECT_EQ(BoxText(4), "50");
+  EXPECT_EQ(Caption("lblHisOdds"), "3 : 1") << "a text that is restored is a change like any other";
+  EXPECT_EQ(Caption("lblHisBEP"), "25%");
+}
+
+TEST_F(StartInWindow, ClosingStoresPlaceAndAllBoxes) {
+  Start();
+  Form.move(30, 40);
+  Open(kRaiseNav);
+  Type(2, "=1+2");
+
+  EXPECT_TRUE(Form.close());
+
+  EXPECT_EQ(Ends, 1);
+  EXPECT_FALSE(Form.isVisible());
+  EXPECT_EQ(Settings(), "[Main]\r\nLeft=450\r\nTop=600\r\n[Values]\r\n0=\r\n1=\r\n2==1+2\r\n3=\r\n4=\r\n");
+}
+
+TEST_F(StartInWindow, ClosingAsksNoOtherWindow) {
+  Start();
+  Click("lblRangeManager");
+  ClickCell(Dialogs.LoadedManager()->Controls(), "72o");  // a change that is not saved
+  Open(kCallNav);
+  Click("lblNewRange", 0);
+
+  EXPECT_TRUE(Form.close());
+
+  EXPECT_EQ(Ends, 1);
+  EXPECT_EQ(Settings().find("[Manager]"), std::string::npos);
+  EXPECT_EQ(Settings().find("[New]"), std::string::npos);
+}
+
+TEST_F(StartInWindow, ClosingDuringARunEndsTheProgram) {
+  Start();
+  EnterEquity("Tight");
+  DuringRun("10%", [this] { Form.close(); });
+  Click("cmdPreflopEV", 2);
+  EXPECT_EQ(ActsToCome, 0);
+  EXPECT_EQ(Ends, 1);
+}
+
+TEST_F(StartInWindow, ClosingNeedsNoSettingsFile) {
+  std::filesystem::create_directory(Program.Folder().Path / "settings.ini");
+  Start();
+  EXPECT_TRUE(Form.close());
+  EXPECT_EQ(Ends, 1);
+}
+
+TEST_F(StartInWindow, OnlyPlaceAndBoxesComeBack) {
+  Start();
+  Form.move(75, 60);
+  EnterCall("$100", "=20+5", "Tight");
+  Form.close();
+
+  MainStage next;
+  next.WriteSettings(Settings());
+  next.Start();
+  EXPECT_EQ(next.Form.pos(), QPoint(75, 60));
+  EXPECT_EQ(next.BoxText(0), "$100");
+  EXPECT_EQ(next.BoxText(1), "25") << "left for the list, and so evaluated";
+  EXPECT_EQ(next.Get<QComboBox>("cmboRanges", 0).currentText(), QString());
+  EXPECT_EQ(next.Screen(), "About");
+}
+
+TEST_F(StartInWindow, FailsWhereAFolderCannotBeMade) {
+  std::filesystem::remove_all(Program.Folder().Path / "Ranges");
+  std::ofstream(Program.Folder().Path / "Ranges") << "a file";
+  EXPECT_EQ(FaultOf([this] {
+              Form.Start(Dialogs);
+              return 0;
+            }),
+            RunTimeFault::kPathFileAccess);
+  EXPECT_FALSE(Form.isVisible());
+}
+
+TEST_F(StartInWindow, FailsAtAFileNameTooShortForARange) {
+  Program.Write("a");
+  EXPECT_EQ(FaultOf([this] {
+              Form.Start(Dialogs);
+              return 0;
+            }),
+            RunTimeFault::kInvalidProcedureCall);
+  EXPECT_FALSE(Form.isVisible());
+}
+
+}  // namespace
+}  // namespace quillon
