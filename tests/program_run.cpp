@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <fcntl.h>
 #include <optional>
@@ -9,6 +10,7 @@
 #include <spawn.h>
 #include <string_view>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <termios.h>
@@ -85,7 +87,9 @@ class KeptText {
 
   [[nodiscard]] int Number() const { return file_.Number(); }
   [[nodiscard]] std::string Text() const {
-    std::string text(static_cast<std::size_t>(lseek(file_.Number(), 0, SEEK_END)), '\0');
+    struct stat state {};
+    Demand(fstat(file_.Number(), &state) == 0, "fstat");
+    std::string text(static_cast<std::size_t>(state.st_size), '\0');
     Demand(pread(file_.Number(), text.data(), text.size(), 0) == static_cast<ssize_t>(text.size()), "pread");
     return text;
   }
@@ -174,11 +178,27 @@ pid_t Start(const ProgramRun& run, const Preparation& preparation) {
   return process;
 }
 
-int WaitForEnd(pid_t process) {
+int ExitStatus(int status) {
   constexpr int kSignalled = 128;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : kSignalled + WTERMSIG(status);
+}
+
+int WaitForEnd(pid_t process) {
   int status = 0;
   Demand(waitpid(process, &status, 0) == process, "waitpid");
-  return WIFEXITED(status) ? WEXITSTATUS(status) : kSignalled + WTERMSIG(status);
+  return ExitStatus(status);
+}
+
+void PrepareStreams(Preparation& preparation, const ProgramRun& run, const KeptText& output, const KeptText& errors,
+                    const std::optional<PseudoTerminal>& terminal) {
+  preparation.EnterFolder(run.CurrentFolder);
+  if (run.InputClosed) {
+    preparation.Close(STDIN_FILENO);
+  } else {
+    preparation.Open(STDIN_FILENO, "/dev/null", O_RDONLY);
+  }
+  Connect(preparation, STDOUT_FILENO, run.Output, output, terminal);
+  Connect(preparation, STDERR_FILENO, run.Errors, errors, terminal);
 }
 
 }  // namespace
@@ -190,14 +210,7 @@ ProgramOutcome RunProgram(const ProgramRun& run) {
   if (run.Output == StreamEnd::kTerminal || run.Errors == StreamEnd::kTerminal) terminal.emplace();
 
   Preparation preparation;
-  preparation.EnterFolder(run.CurrentFolder);
-  if (run.InputClosed) {
-    preparation.Close(STDIN_FILENO);
-  } else {
-    preparation.Open(STDIN_FILENO, "/dev/null", O_RDONLY);
-  }
-  Connect(preparation, STDOUT_FILENO, run.Output, output, terminal);
-  Connect(preparation, STDERR_FILENO, run.Errors, errors, terminal);
+  PrepareStreams(preparation, run, output, errors, terminal);
 
   ProgramOutcome outcome;
   const pid_t process = Start(run, preparation);
@@ -207,6 +220,53 @@ ProgramOutcome RunProgram(const ProgramRun& run) {
   outcome.Output = output.Text();
   outcome.Errors = errors.Text();
   return outcome;
+}
+
+struct RunningProgram::Streams {
+  KeptText Output;
+  KeptText Errors;
+};
+
+RunningProgram::RunningProgram(const ProgramRun& run) : streams_(std::make_unique<Streams>()) {
+  Preparation preparation;
+  PrepareStreams(preparation, run, streams_->Output, streams_->Errors, std::nullopt);
+  process_ = Start(run, preparation);
+}
+
+RunningProgram::~RunningProgram() {
+  if (status_) return;
+  kill(process_, SIGKILL);
+  waitpid(process_, nullptr, 0);
+}
+
+std::string RunningProgram::Output() const {
+  return streams_->Output.Text();
+}
+
+std::string RunningProgram::Errors() const {
+  return streams_->Errors.Text();
+}
+
+std::optional<int> RunningProgram::Status() {
+  if (status_) return status_;
+  int status = 0;
+  const pid_t ended = waitpid(process_, &status, WNOHANG);
+  Demand(ended >= 0, "waitpid");
+  if (ended == process_) status_ = ExitStatus(status);
+  return status_;
+}
+
+void RunningProgram::HoldUp() {
+  if (Status()) return;
+  Demand(kill(process_, SIGSTOP) == 0, "kill");
+  int status = 0;
+  Demand(waitpid(process_, &status, WUNTRACED) == process_, "waitpid");
+  if (!WIFSTOPPED(status)) status_ = ExitStatus(status);
+}
+
+void RunningProgram::LetGoOn() {
+  if (status_) return;
+  Demand(kill(process_, SIGCONT) == 0, "kill");
 }
 
 }  // namespace quillon

@@ -3,9 +3,13 @@
 // For journeys: starts a real program in a process of its own, waits for its end, and keeps what it said. Each of its
 // standard streams can be kept, led to a terminal, to a disk that is full, or not be there at all.
 
+#include <chrono>
 #include <filesystem>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace quillon {
@@ -35,5 +39,38 @@ struct ProgramOutcome {
 /// Runs the program to its end. std::system_error if it cannot be started. Not for runs that fill a terminal and a
 /// kept stream without end: nothing limits what is kept.
 [[nodiscard]] ProgramOutcome RunProgram(const ProgramRun& run);
+
+/// A program that runs beside the test, and is killed with this object if it still does. Its streams are no terminals.
+class RunningProgram {
+ public:
+  /// std::system_error if it cannot be started.
+  explicit RunningProgram(const ProgramRun& run);
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram(RunningProgram&&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+  RunningProgram& operator=(RunningProgram&&) = delete;
+  ~RunningProgram();
+
+  [[nodiscard]] pid_t Id() const { return process_; }
+
+  /// What it has said so far.
+  [[nodiscard]] std::string Output() const;
+  [[nodiscard]] std::string Errors() const;
+
+  /// As ProgramOutcome::Status, nothing while it runs.
+  [[nodiscard]] std::optional<int> Status();
+
+  /// Holds it up, and lets it go on. What it is sent meanwhile reaches it then. It has come to a halt when this is
+  /// back.
+  void HoldUp();
+  void LetGoOn();
+
+ private:
+  struct Streams;
+
+  std::unique_ptr<Streams> streams_;
+  pid_t process_ = 0;
+  std::optional<int> status_;
+};
 
 }  // namespace quillon

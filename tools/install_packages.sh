@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and says nothing where none is.
 #
-#   tools/install_packages.sh build   what ./run and ./check need
-#   tools/install_packages.sh lint    what .ci/run needs on top of that
-#   tools/install_packages.sh fuzz    what the preset fuzz needs on top of ./check
+#   tools/install_packages.sh build    what ./run and ./check need
+#   tools/install_packages.sh lint     what .ci/run needs on top of that
+#   tools/install_packages.sh fuzz     what the preset fuzz needs on top of ./check
+#   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #
 # This is the one place that names packages.
 set -euo pipefail
@@ -11,16 +12,18 @@ set -euo pipefail
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
 # The window, the fonts that stand in for those of its layouts, and a screen in memory for the tests that use it.
 build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
-build+=(xvfb xauth openbox xdotool x11-utils dbus imagemagick)
+build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 lint=(git clang-format-14 clang-tidy-14 gcovr)
 fuzz=(clang-14 libclang-rt-14-dev)
+screens=(optipng)
 
 case "${1:-}" in
   build) wanted=("${build[@]}") ;;
   lint) wanted=("${build[@]}" "${lint[@]}") ;;
   fuzz) wanted=("${build[@]}" "${fuzz[@]}") ;;
+  screens) wanted=("${build[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 build|lint|fuzz" >&2
+    echo "Usage: $0 build|lint|fuzz|screens" >&2
     exit 2
     ;;
 esac

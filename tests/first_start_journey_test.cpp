@@ -1,0 +1,112 @@
+// From the first start in an empty folder to the next one, and starts that go wrong.
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "shell/settings_file.h"
+#include "support/files.h"
+#include "tests/window_journey.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class StartJourney : public WindowJourney {};
+
+constexpr int kTwipsInAPixel = 15;
+
+int StoredPixels(const ProgramFolder& folder, std::string_view key) {
+  return std::stoi(ReadIniValue("Main", key, folder)) / kTwipsInAPixel;
+}
+
+TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFoldersAndShowsTheAboutScreen) {
+  StartProgram();
+  const fs::path folder = Session().Program().Path;
+  EXPECT_TRUE(fs::is_directory(folder / "Ranges"));
+  EXPECT_TRUE(fs::is_directory(folder / "Saved Grids"));
+  EXPECT_TRUE(fs::is_empty(folder / "Ranges"));
+  EXPECT_FALSE(fs::exists(folder / "settings.ini"));
+
+  EXPECT_EQ(Main().Place.size(), QSize(1020, 603));
+  const QPoint corner = Session().CornerOf(Main());
+  EXPECT_EQ(corner.x(), (Session().Screen().Width - 1020) / 2);
+  EXPECT_NEAR(corner.y(), (Session().Screen().Height - 603) / 2.0, 1);
+
+  // The About screen comes from any other one with a click on the logo, and is what was there first.
+  Session().PutMouseAside();
+  const QImage about = Session().StillPicture(OnScreen("frameContent(5)"));
+  Click("lblNav(0)");
+  Session().WaitUntil("another screen is there", [&] { return Look("frameContent(5)") != about; });
+  Click("picLogo");
+  Session().PutMouseAside();
+  Session().WaitUntil("the About screen is back", [&] { return Look("frameContent(5)") == about; });
+
+  EXPECT_EQ(CloseProgram(), 0);
+  for (const char* const key : {"0=", "1=", "2=", "3=", "4="})
+    EXPECT_THAT(ReadAllBytes(folder / "settings.ini"), HasSubstr(std::string("\r\n") + key + "\r\n"));
+  EXPECT_EQ(StoredPixels(Session().Program(), "Left"), corner.x());
+  EXPECT_EQ(StoredPixels(Session().Program(), "Top"), corner.y());
+}
+
+TEST_F(StartJourney, NextStartFindsTheBoxesAndThePlaceAsTheyWere) {
+  StartProgramWithRanges();
+  Click("lblNav(0)");
+  Fill(0, "735");
+  Fill(1, "abc");
+  Click("lblNav(1)");
+  Fill(2, "=735+220-178");
+  Session().MoveWindow(Main(), {75, 120});
+  const QPoint place = Session().FindWindow(kMainTitle).value().Place.topLeft();
+  EXPECT_EQ(CloseProgram(), 0);
+
+  StartProgram();
+  EXPECT_EQ(Session().CornerOf(Main()), QPoint(75, 120));
+  EXPECT_EQ(Main().Place.topLeft(), place);
+  Click("lblNav(0)");
+  EXPECT_EQ(BoxText(0), "735");
+  EXPECT_EQ(BoxText(1), "abc");
+  Click("lblNav(1)");
+  EXPECT_EQ(BoxText(2), "=735+220-178");
+}
+
+TEST_F(StartJourney, TwoStartsAreTwoPrograms) {
+  StartProgramWithRanges();
+  RunningProgram& first = Session().Running();
+  Click("lblNav(0)");
+  Fill(0, "100");
+  StartProgram();
+  RunningProgram& second = Session().Running();
+  EXPECT_NE(first.Id(), second.Id());
+  Click("lblNav(0)");
+  Fill(0, "200");
+  EXPECT_EQ(CloseProgram(), 0);
+  EXPECT_EQ(first.Status(), std::nullopt);
+  EXPECT_EQ(ReadIniValue("Values", "0", Session().Program()), "200");
+}
+
+TEST_F(StartJourney, ArgumentIsRefused) {
+  Session().Start({"--help"});
+  EXPECT_EQ(Session().WaitForEnd(), 2);
+  EXPECT_THAT(Session().Running().Errors(), HasSubstr("Quillon takes no arguments."));
+  EXPECT_FALSE(fs::exists(Session().Program().Path / "Ranges"));
+}
+
+TEST_F(StartJourney, NameTooShortForARangeFileEndsTheProgram) {
+  Session().AddExampleRanges();
+  std::ofstream(Session().Program().Path / "Ranges" / "a") << "AA (1)";
+  Session().Start();
+  const Window box = Session().WaitForWindow("Quillon");
+  const std::string text = MessageText(box);
+  EXPECT_THAT(text, testing::StartsWith("Run-time error '5': Invalid procedure call or argument"));
+  Session().Press({"Return"});
+  EXPECT_EQ(Session().WaitForEnd(), 1);
+  EXPECT_EQ(Session().Running().Errors(), text + "\n");
+}
+
+}  // namespace
+}  // namespace quillon

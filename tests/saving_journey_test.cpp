@@ -1,0 +1,136 @@
+// Saving while processes are killed, and while several save at once. QUILLON_KILLS in the environment makes the first
+// longer than it is in everyday checks.
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <map>
+#include <random>
+#include <sstream>
+#include <string>
+#include <thread>
+
+#include "ranges/range_fixtures.h"
+#include "ranges/range_lists.h"
+#include "shell/settings_file.h"
+#include "support/files.h"
+#include "tests/program_run.h"
+#include "tests/saving_loop.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+ProgramRun LoopRun(const ProgramFolder& folder, const std::string& name, int rounds) {
+  ProgramRun run;
+  run.Program = QUILLON_SAVING_LOOP_PROGRAM;
+  run.Arguments = {folder.Path.string(), name, std::to_string(rounds)};
+  return run;
+}
+
+int KillCount() {
+  const char* const wanted = std::getenv("QUILLON_KILLS");
+  return wanted == nullptr ? 40 : std::atoi(wanted);
+}
+
+enum class Loops { kRunning, kEnded };
+
+void ExpectWholeRanges(const ProgramFolder& folder, Loops loops) {
+  for (const std::string& fileName : RangeFolderEntries(folder)) {
+    const std::string name = RangeNameOfFile(fileName);
+    EXPECT_TRUE(name == "A" || name == "A moved" || name == "B" || name == "B moved" || name == kSharedRange)
+        << fileName << " is none of the ranges";
+    const std::string text = LoadRangeText(folder, name);
+    if (text.empty() && loops == Loops::kRunning) continue;  // renamed since the folder was listed
+    ASSERT_FALSE(text.empty()) << name;
+    EXPECT_EQ(text, EvenRangeText(RangeWeightOf(text, "AA"))) << name;
+  }
+}
+
+// Every line is whole, and the keys are those of the loops.
+void ExpectWholeSettings(const ProgramFolder& folder) {
+  std::ifstream file(SettingsFilePath(folder), std::ios::binary);
+  std::string line;
+  if (!std::getline(file, line)) return;
+  EXPECT_EQ(line, "[Values]\r");
+  while (std::getline(file, line)) {
+    const std::size_t equals = std::min(line.find('='), line.size());
+    const int round = std::atoi(line.c_str() + std::min(equals + 1, line.size()));
+    EXPECT_EQ(line.substr(equals), "=" + LongSetting(round) + "\r");
+    EXPECT_EQ(equals, 2U) << line;
+  }
+}
+
+std::size_t ScratchFilesIn(const fs::path& folder) {
+  std::size_t count = 0;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+    count += entry.path().extension() == ".tmp" ? 1U : 0U;
+  return count;
+}
+
+void MakeOld(const fs::path& folder) {
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    if (entry.is_regular_file()) fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::hours(2));
+  }
+}
+
+TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
+  const TemporaryProgram program;
+  std::mt19937 random(20240501);  // NOLINT(cert-msc51-cpp): the same moments at every run, as near as a clock can tell
+  std::uniform_int_distribution<int> moment(1'000, 30'000);
+  SaveRangeText(program.Folder(), "A", EvenRangeText(1));
+
+  const int kills = KillCount();
+  for (int kill = 0; kill < kills && !testing::Test::HasFailure(); ++kill) {
+    {
+      RunningProgram loop(LoopRun(program.Folder(), "A", 0));
+      std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
+      EXPECT_EQ(loop.Status(), std::nullopt) << loop.Errors();
+    }
+    SCOPED_TRACE("kill " + std::to_string(kill));
+    ExpectWholeRanges(program.Folder(), Loops::kEnded);
+    ExpectWholeSettings(program.Folder());
+    EXPECT_TRUE(RangeExists(program.Folder(), "A") || RangeExists(program.Folder(), "A moved"));
+    EXPECT_EQ(ScratchFilesIn(RangeFolderPath(program.Folder())), 0U);
+  }
+
+  const std::size_t left = ScratchFilesIn(program.Folder().Path);
+  std::cout << kills << " kills, of which " << left << " left a scratch file behind\n";
+  MakeOld(program.Folder().Path);
+  RemoveStaleScratchFiles(program.Folder().Path);
+  EXPECT_EQ(ScratchFilesIn(program.Folder().Path), 0U) << "the next start clears them away";
+  EXPECT_TRUE(fs::exists(SettingsFilePath(program.Folder())) || kills < 10);
+}
+
+TEST(Saving, TwoProgramsAtOnceLoseNothing) {
+  constexpr int kRounds = 100;
+  const TemporaryProgram program;
+  RunningProgram first(LoopRun(program.Folder(), "A", kRounds));
+  RunningProgram second(LoopRun(program.Folder(), "B", kRounds));
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(120);
+  while ((!first.Status() || !second.Status()) && std::chrono::steady_clock::now() < end) {
+    ExpectWholeRanges(program.Folder(), Loops::kRunning);
+    ExpectWholeSettings(program.Folder());
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  ASSERT_EQ(first.Status(), 0) << first.Errors();
+  ASSERT_EQ(second.Status(), 0) << second.Errors();
+
+  for (const std::string name : {"A", "B"}) {
+    EXPECT_EQ(LoadRangeText(program.Folder(), name), EvenRangeText(kRounds - 1 + 0.75));
+    EXPECT_FALSE(RangeExists(program.Folder(), name + std::string(kMovedEnd)));
+    for (int index = 0; index < kKeysOfALoop; ++index) {
+      EXPECT_EQ(ReadIniValue("Values", LoopKey(name, index), program.Folder()),
+                LongSetting(kRounds - kKeysOfALoop + index))
+          << name << index;
+    }
+  }
+  EXPECT_EQ(ScratchFilesIn(program.Folder().Path), 0U);
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,61 @@
+// Saves and renames ranges and stores settings, round upon round, in the manner of the program and with its own
+// routines:
+//
+//   saving_loop FOLDER NAME ROUNDS
+//
+// ROUNDS 0 goes on until it is killed. A failure is told on standard error, with exit status 1.
+
+#include "tests/saving_loop.h"
+
+#include <cstdio>
+#include <exception>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+#include "ranges/range_files.h"
+#include "shell/settings_file.h"
+#include "support/files.h"
+
+namespace quillon {
+namespace {
+
+// What this loop has stored in the round before must be there whatever others have stored since.
+void RequireEarlierSetting(const ProgramFolder& folder, const std::string& name, int round) {
+  if (round == 0) return;
+  const std::string key = LoopKey(name, (round - 1) % kKeysOfALoop);
+  if (ReadIniValue("Values", key, folder) == LongSetting(round - 1)) return;
+  throw std::runtime_error("lost: the setting " + key + " of round " + std::to_string(round - 1));
+}
+
+void RunRound(const ProgramFolder& folder, const std::string& name, int round) {
+  RequireEarlierSetting(folder, name, round);
+  const std::string moved = name + std::string(kMovedEnd);
+  SaveRangeText(folder, name, EvenRangeText(round));
+  RenameRange(folder, name, moved, EvenRangeText(round + 0.25));
+  SaveRangeText(folder, kSharedRange, EvenRangeText(round + 0.5));
+  WriteIniValue("Values", LoopKey(name, round % kKeysOfALoop), LongSetting(round), folder);
+  RenameRange(folder, moved, name, EvenRangeText(round + 0.75));
+}
+
+int Main(std::span<char*> arguments) {
+  if (arguments.size() != 4) return 2;
+  const ProgramFolder folder{arguments[1]};
+  const std::string name = arguments[2];
+  const int rounds = std::stoi(arguments[3]);
+  try {
+    for (int round = 0; rounds == 0 || round < rounds; ++round)
+      RunRound(folder, name, round);
+  } catch (const std::exception& error) {
+    static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
+    return 1;
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argumentCount, char** arguments) {
+  return quillon::Main(std::span(arguments, static_cast<std::size_t>(argumentCount)));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+// What "tests/saving_loop.cpp" writes, so that "tests/saving_journey_test.cpp" can tell whether it is whole. Each
+// content is made of one number over and over, so a part of one and a part of another never make a third.
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+#include "support/number_text.h"
+
+namespace quillon {
+
+/// The settings that each of several loops keeps for itself.
+inline constexpr int kKeysOfALoop = 5;
+
+/// The range that all loops save, beside one of their own under the loop's name, which moves to and fro between that
+/// and the name with this end.
+inline constexpr std::string_view kSharedRange = "Shared";
+inline constexpr std::string_view kMovedEnd = " moved";
+
+/// A range with the same weight for every class.
+inline std::string EvenRangeText(double weight) {
+  ClassWeights weights{};
+  weights.fill(weight);
+  return RangeTextOf(weights);
+}
+
+/// A setting of some length.
+inline std::string LongSetting(int round) {
+  std::string text = std::to_string(round);
+  for (int repeat = 0; repeat < 100; ++repeat)
+    text += ":" + std::to_string(round);
+  return text;
+}
+
+/// The settings' key of a loop.
+inline std::string LoopKey(std::string_view loop, int index) {
+  return std::string(loop) + std::to_string(index);
+}
+
+}  // namespace quillon

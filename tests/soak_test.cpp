@@ -1,0 +1,147 @@
+// The main window in use for a long time: no memory is lost and nothing becomes slower. The everyday form is short;
+// QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of "docs/reliability.md".
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPixmapCache>
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <malloc.h>
+#include <numeric>
+#include <unistd.h>
+#include <vector>
+
+#include "shell/screens/main_form_fixture.h"
+
+namespace quillon {
+namespace {
+
+int Times(int everyday) {
+  const char* const factor = std::getenv("QUILLON_SOAK");
+  return everyday * (factor == nullptr ? 1 : std::max(std::atoi(factor), 1));
+}
+
+/// Bytes that the process has asked for and not given back, but for Qt's store of drawn pictures: that fills up to its
+/// limit of 10 MiB, and empties when nothing is drawn for a while, which never happens here.
+double BytesInUse() {
+  QPixmapCache::clear();
+  return static_cast<double>(mallinfo2().uordblks) + static_cast<double>(mallinfo2().hblkhd);
+}
+
+/// Bytes of the process that are in the machine's memory, likewise.
+double BytesResident() {
+  QPixmapCache::clear();
+  ::malloc_trim(0);
+  long pages = 0;
+  std::ifstream file("/proc/self/statm");
+  file >> pages >> pages;
+  return static_cast<double>(pages) * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+double Seconds() {
+  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;  // of this process, whatever else the machine does
+}
+
+/// The middle one of some durations.
+double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+class Soak : public MainFormTest {
+ protected:
+  void SetUp() override {
+    MainFormTest::SetUp();
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "a sanitizer keeps what was freed";
+#endif
+  }
+
+  /// Does `act` so many times. The first tenth is left out of account: caches fill, and so do the pools of fonts.
+  void Repeat(const char* name, int times, const std::function<void(int)>& act) {
+    const int settled = std::min(std::max(times / 10, 10), 100);
+    std::vector<double> durations;
+    double bytesBefore = 0;
+    double residentBefore = 0;
+    for (int turn = 0; turn < times; ++turn) {
+      if (turn == settled) {
+        bytesBefore = BytesInUse();
+        residentBefore = BytesResident();
+      }
+      const double start = Seconds();
+      act(turn);
+      // What was closed is let go from the event loop, which a test has to run itself.
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      durations.push_back(Seconds() - start);
+    }
+    Report(name, times, BytesInUse() / bytesBefore, BytesResident() / residentBefore, durations, settled);
+  }
+
+ private:
+  static void Report(const char* name, int times, double bytes, double resident, const std::vector<double>& durations,
+                     int settled) {
+    const auto first = durations.begin() + settled;
+    const std::ptrdiff_t part = std::max<std::ptrdiff_t>((durations.end() - first) / 4, 1);
+    const double early = Median({first, first + part});
+    const double late = Median({durations.end() - part, durations.end()});
+    std::cout << times << " " << name << ": bytes in use " << bytes * 100 << "%, memory " << resident * 100
+              << "%, a turn took " << early * 1000 << " ms of the processor's time early and " << late * 1000
+              << " ms late\n";
+    EXPECT_LT(bytes, 1.05) << "bytes in use grow";
+    EXPECT_LT(resident, 1.05) << "memory grows";
+    // The clock counts whole microseconds at best, and other programs share the processor's caches.
+    EXPECT_LT(late, early * 1.5 + 0.0002) << "it becomes slower";
+  }
+};
+
+TEST_F(Soak, Analyses) {
+  EnterCall("150", "50", "Pairs");
+  EnterRaise("150", "50", "62.5", "Pairs", "Tight");
+  EnterEquity("Tight");
+  Repeat("analyses", Times(60), [this](int turn) {
+    const auto button = static_cast<std::int16_t>(turn % 3);
+    Open(button);
+    Click("cmdPreflopEV", button);
+    ASSERT_FALSE(Form.State().HandInfo.empty());
+  });
+}
+
+TEST_F(Soak, Hovers) {
+  RunRaise("150", "50", "62.5", "Pairs", "Tight");
+  Repeat("hovers", Times(600), [this](int turn) {
+    MoveTo({230, 565});
+    const auto index = static_cast<std::int16_t>(turn * 31 % 169);
+    MoveOver("lblCards", index);
+    ASSERT_EQ(Caption("lblHov_Cards"), HandLabel(index));
+  });
+}
+
+TEST_F(Soak, Dialogs) {
+  Open(kCallNav);
+  Repeat("openings of dialogs", Times(20), [this](int turn) {
+    const bool manager = turn % 2 == 0;
+    Click(manager ? "lblRangeManager" : "lblNewRange", manager ? kNoIndex : kCallNav);
+    if (manager) {
+      ASSERT_NE(Dialogs.LoadedManager(), nullptr);
+      Dialogs.LoadedManager()->close();
+    } else {
+      ASSERT_NE(Dialogs.LoadedNewRange(), nullptr);
+      Dialogs.LoadedNewRange()->close();
+    }
+    ComeToFront();
+  });
+}
+
+TEST_F(Soak, Reports) {
+  RunRaise("150", "50", "62.5", "Pairs", "Tight");
+  Repeat("openings of the report", Times(30),
+         [this](int turn) { Open(turn % 2 == 0 ? kDetailsNavIndex : kGridNavIndex); });
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,111 @@
+#pragma once
+
+// What the journeys through the window share: a session with the main window in it, hands that find the controls of the
+// three forms by their names, and eyes that know the card grid. A journey that fails leaves a picture of its screen.
+
+#include <QImage>
+#include <array>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/analysis_state.h"
+#include "analysis/quiet_window.h"
+#include "hand/hand_classes.h"
+#include "support/rgb.h"
+#include "tests/form_plan.h"
+#include "tests/window_session.h"
+
+namespace quillon {
+
+inline constexpr std::string_view kMainTitle = "Quillon 0.9";
+
+using GridColorTable = std::array<Rgb, kHandClassCount>;
+
+/// The three forms, as their tables have them.
+[[nodiscard]] const FormPlan& MainPlan();
+[[nodiscard]] const FormPlan& ManagerPlan();
+[[nodiscard]] const FormPlan& NewRangePlan();
+
+/// The buttons that start an analysis, by their index.
+inline constexpr std::int16_t kCallRun = 0;
+inline constexpr std::int16_t kRaiseRun = 1;
+inline constexpr std::int16_t kEquityRun = 2;
+
+/// The state after an analysis without a window.
+[[nodiscard]] AnalysisState StateAfter(std::int16_t button, const Situation& situation, const ProgramFolder& folder);
+
+class WindowJourney : public testing::Test {
+ protected:
+  WindowJourney() : WindowJourney(Desk{}) {}
+  explicit WindowJourney(Desk desk) : session_(desk) {}
+
+  void TearDown() override;
+
+  [[nodiscard]] WindowSession& Session() { return session_; }
+  [[nodiscard]] const WindowSession& Session() const { return session_; }
+
+  /// Starts the program and waits for its main window.
+  void StartProgram();
+  /// The same, with the example ranges in its folder.
+  void StartProgramWithRanges();
+  /// Closes the main window as the window manager's user does, and waits for the end. Gives back the exit status.
+  int CloseProgram();
+
+  [[nodiscard]] const Window& Main() const { return main_; }
+
+  // ---- controls of a window, by their names
+
+  /// The place of a control on the screen.
+  [[nodiscard]] QRect OnScreen(const Window& window, const FormPlan& plan, std::string_view control) const;
+  [[nodiscard]] QRect OnScreen(std::string_view control) const { return OnScreen(main_, MainPlan(), control); }
+  void Click(std::string_view control) const { Session().ClickAt(OnScreen(control).center()); }
+  void Click(const Window& window, const FormPlan& plan, std::string_view control) const {
+    Session().ClickAt(OnScreen(window, plan, control).center());
+  }
+  [[nodiscard]] QImage Look(std::string_view control) const { return Session().Picture(OnScreen(control)); }
+
+  /// Puts a text in the place of what stands in a number box.
+  void Fill(std::int16_t box, std::string_view text) const;
+  /// Opens a list and takes the entry that the keys lead to.
+  void TakeFromList(std::string_view control, const std::vector<std::string>& keys) const;
+  /// Opens a list and takes the range of that name out of it, by the keyboard.
+  void Choose(std::int16_t list, std::string_view range) const;
+  /// What stands in a number box.
+  [[nodiscard]] std::string BoxText(std::int16_t box) const;
+
+  // ---- whole actions
+
+  /// Fills in the input screen of a scenario, from the link in the side panel on.
+  void FillIn(std::int16_t button, const Situation& situation) const;
+  /// The same, with the click on Analyze, up to the painted grid, which must be that of the situation `meant`.
+  void Analyze(std::int16_t button, const Situation& typed, const Situation& meant) const;
+  void Analyze(std::int16_t button, const Situation& situation) const { Analyze(button, situation, situation); }
+
+  /// Clicks on Analyze on the input screen, and holds the program up between two classes, with the Progress screen
+  /// showing and its bar between a third and nine tenths of its length. Where a run was over before that, it is done
+  /// again.
+  void AnalyzeAndHoldUp(std::int16_t button);
+
+  /// A message box: its text, read by selecting and copying it, and the keys that answer it.
+  [[nodiscard]] std::string MessageText(const Window& box) const;
+  void Answer(const Window& box, const std::vector<std::string>& keys) const;
+
+  // ---- the card grid
+
+  /// The colours of the cells, read from the upper edge of each, where its label has no text.
+  [[nodiscard]] GridColorTable CellColors(const Window& window, const FormPlan& plan) const;
+  [[nodiscard]] GridColorTable CellColors() const { return CellColors(main_, MainPlan()); }
+
+ private:
+  [[nodiscard]] bool IsSelected(std::string_view link) const;
+  [[nodiscard]] bool HoldUpOneRun(std::int16_t button);
+  [[nodiscard]] bool BarReaches(int percent) const;
+
+  WindowSession session_;
+  Window main_;
+};
+
+}  // namespace quillon

@@ -1,0 +1,351 @@
+#include "tests/window_session.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string_view>
+#include <system_error>
+#include <thread>
+
+#include "support/files.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr auto kLimit = std::chrono::seconds(30);
+constexpr auto kBetweenQuestions = milliseconds(10);
+constexpr auto kStill = milliseconds(150);
+
+// The file in which Xvfb keeps screen 0, in the format of xwd: a header of numbers, highest byte first, the table of
+// colours, and the pixels, line by line.
+constexpr const char* kFrameBufferName = "Xvfb_screen0";
+constexpr std::size_t kHeaderSizeField = 0;
+constexpr std::size_t kWidthField = 4;
+constexpr std::size_t kHeightField = 5;
+constexpr std::size_t kLineSizeField = 12;
+constexpr std::size_t kColorCountField = 19;
+constexpr std::uint32_t kColorSize = 12;
+
+// The fonts that the program brings along, drawn alike on every machine.
+constexpr std::string_view kFonts = R"(<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts/truetype/liberation</dir>
+  <dir>/usr/share/fonts/truetype/dejavu</dir>
+  <cachedir>/var/cache/fontconfig</cachedir>
+  <alias><family>Sans Serif</family><prefer><family>DejaVu Sans</family></prefer></alias>
+  <alias><family>sans-serif</family><prefer><family>DejaVu Sans</family></prefer></alias>
+  <alias><family>monospace</family><prefer><family>DejaVu Sans Mono</family></prefer></alias>
+  <match target="font">
+    <edit name="antialias" mode="assign"><bool>true</bool></edit>
+    <edit name="hinting" mode="assign"><bool>true</bool></edit>
+    <edit name="hintstyle" mode="assign"><const>hintslight</const></edit>
+    <edit name="rgba" mode="assign"><const>none</const></edit>
+  </match>
+</fontconfig>
+)";
+
+std::uint32_t Field(const uchar* header, std::size_t field) {
+  std::uint32_t value = 0;
+  for (std::size_t byte = 0; byte < 4; ++byte)
+    value = value << 8U | header[field * 4 + byte];
+  return value;
+}
+
+int IntField(const uchar* header, std::size_t field) {
+  return static_cast<int>(Field(header, field));
+}
+
+fs::path MakeHome() {
+  std::string pattern = (fs::temp_directory_path() / "quillon-window-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) throw std::system_error(errno, std::generic_category(), pattern);
+  return pattern;
+}
+
+// What is the user's own and not the test's.
+void PassOn(std::vector<std::string>& environment, const char* name) {
+  const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): there is one thread
+  if (value != nullptr) environment.push_back(std::string(name) + "=" + value);
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);)
+    lines.push_back(line);
+  return lines;
+}
+
+// The number that stands behind `title` in a listing.
+int NumberBehind(const std::string& listing, std::string_view title) {
+  const std::size_t at = listing.find(title);
+  if (at == std::string::npos) return 0;
+  return std::atoi(listing.c_str() + at + title.size());  // NOLINT(cert-err34-c): a tool's own output
+}
+
+QPoint UpperLeft(const std::string& listing, const std::string& measured) {
+  return {NumberBehind(listing, measured + " upper-left X:"), NumberBehind(listing, measured + " upper-left Y:")};
+}
+
+std::vector<std::string> To(QPoint point) {
+  return {"mousemove", std::to_string(point.x()), std::to_string(point.y())};
+}
+
+}  // namespace
+
+WindowSession::WindowSession(Desk desk) : desk_(desk), home_(MakeHome()), programFolder_(home_ / "My Quillon ½") {
+  fs::create_directory(programFolder_);
+  fs::create_directory(home_ / "bin");
+  std::ofstream(home_ / "fonts.conf") << kFonts;
+  fs::copy_file(QUILLON_PROGRAM, programFolder_ / "quillon");
+  StartScreen();
+  StartWindowManager();
+}
+
+WindowSession::~WindowSession() {
+  programs_.clear();
+  windowManager_.reset();
+  frameBuffer_.reset();
+  screen_.reset();
+  std::error_code ignored;
+  fs::remove_all(home_, ignored);
+}
+
+// ---- the program and its folder
+
+void WindowSession::AddExampleRanges() const {
+  fs::copy(QUILLON_EXAMPLES_FOLDER "/Ranges", programFolder_ / "Ranges");
+}
+
+void WindowSession::Start(const std::vector<std::string>& arguments) {
+  programs_.push_back(std::make_unique<RunningProgram>(Prepare((programFolder_ / "quillon").string(), arguments)));
+}
+
+int WindowSession::WaitForEnd() const {
+  std::optional<int> status;
+  const auto limit = steady_clock::now() + kLimit;
+  while (!(status = Running().Status()) && steady_clock::now() < limit)
+    std::this_thread::sleep_for(kBetweenQuestions);
+  if (!status) throw std::runtime_error("the program goes on and on");
+  return *status;
+}
+
+void WindowSession::AddCommand(const std::string& name) const {
+  const fs::path command = home_ / "bin" / name;
+  std::ofstream(command) << "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.new\" && mv \"$0.new\" \"$0.arguments\"\n";
+  fs::permissions(command, fs::perms::owner_all);
+}
+
+std::string WindowSession::CommandArguments(const std::string& name) const {
+  const fs::path arguments = home_ / "bin" / (name + ".arguments");
+  WaitUntil(name + " was called", [&] { return fs::exists(arguments); });
+  return ReadAllBytes(arguments);
+}
+
+// A clean environment but for what is needed, so that no setting of the user's desktop gets in. The kernel ends the
+// program with the test, whatever becomes of the test.
+ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<std::string>& arguments) const {
+  const std::string home = home_.string();
+  ProgramRun run;
+  run.Program = "/usr/bin/env";
+  run.CurrentFolder = home_;
+  run.Arguments = {"-i",
+                   "HOME=" + home,
+                   "TMPDIR=" + home,
+                   "XDG_RUNTIME_DIR=" + home,
+                   "PATH=" + (home_ / "bin").string() + ":/usr/bin:/bin",
+                   "LANG=C.UTF-8",
+                   "DISPLAY=" + display_,
+                   "FONTCONFIG_FILE=" + (home_ / "fonts.conf").string(),
+                   "QT_QPA_PLATFORM=xcb",
+                   "QT_SCALE_FACTOR=" + std::to_string(desk_.Scale)};
+  for (const char* const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH"})
+    PassOn(run.Arguments, name);
+  run.Arguments.insert(run.Arguments.end(), {"setpriv", "--pdeathsig", "KILL", "--", program});
+  run.Arguments.insert(run.Arguments.end(), arguments.begin(), arguments.end());
+  return run;
+}
+
+// ---- windows
+
+std::optional<Window> WindowSession::FindWindow(std::string_view title) const {
+  for (const std::string& id : FindIds()) {
+    if (TitleOf(id) == title) return Window{id, PlaceOf(id)};
+  }
+  return std::nullopt;
+}
+
+Window WindowSession::WaitForWindow(std::string_view title) const {
+  std::optional<Window> window;
+  WaitUntil("a window called \"" + std::string(title) + "\" with the keyboard", [&] {
+    window = FindWindow(title);
+    return window && Ask("xdotool", {"getactivewindow"}) == window->Id + "\n";
+  });
+  // The window manager may have moved it before it gave it the keyboard.
+  window->Place = PlaceOf(window->Id);
+  return *window;
+}
+
+// The window manager puts the inner area into a window of its own, the frame.
+QPoint WindowSession::CornerOf(const Window& window) const {
+  const std::string listing = Ask("xwininfo", {"-id", window.Id});
+  return UpperLeft(listing, "Absolute") - UpperLeft(listing, "Relative");
+}
+
+std::size_t WindowSession::WindowCount() const {
+  return FindIds().size();
+}
+
+void WindowSession::WaitUntilGone(const Window& window) const {
+  WaitUntil("the window has gone", [&] { return std::ranges::count(FindIds(), window.Id) == 0; });
+}
+
+void WindowSession::MoveWindow(const Window& window, QPoint corner) const {
+  Use({"windowmove", window.Id, std::to_string(corner.x()), std::to_string(corner.y())});
+  WaitUntil("the window has been moved", [&] { return CornerOf(window) == corner; });
+}
+
+// Those of the process itself: the programs of several starts have windows of the same titles.
+std::vector<std::string> WindowSession::FindIds() const {
+  return Lines(Ask("xdotool", {"search", "--onlyvisible", "--all", "--pid", std::to_string(Running().Id())}));
+}
+
+std::string WindowSession::TitleOf(const std::string& id) const {
+  const std::string answer = Ask("xdotool", {"getwindowname", id});
+  return answer.substr(0, answer.find('\n'));
+}
+
+QRect WindowSession::PlaceOf(const std::string& id) const {
+  const std::string listing = Ask("xwininfo", {"-id", id});
+  return {UpperLeft(listing, "Absolute"), QSize(NumberBehind(listing, "Width:"), NumberBehind(listing, "Height:"))};
+}
+
+// ---- mouse, keyboard and clipboard
+
+void WindowSession::MoveTo(QPoint point) const {
+  Use(To(point));
+}
+
+void WindowSession::ClickAt(QPoint point) const {
+  std::vector<std::string> actions = To(point);
+  actions.insert(actions.end(), {"click", "1"});
+  Use(actions);
+}
+
+void WindowSession::Press(const std::vector<std::string>& keys) const {
+  std::vector<std::string> actions = {"key", "--delay", "0"};
+  actions.insert(actions.end(), keys.begin(), keys.end());
+  Use(actions);
+}
+
+void WindowSession::Type(std::string_view text) const {
+  Use({"type", "--delay", "0", "--", std::string(text)});
+}
+
+void WindowSession::PutMouseAside() const {
+  MoveTo({desk_.Width - 1, desk_.Height - 1});
+}
+
+// The clipboard holds a mark first, so that an old text is not taken for the new one.
+std::string WindowSession::CopyAllText() const {
+  constexpr std::string_view kMark = "nothing has been copied yet";
+  const fs::path mark = home_ / "mark";
+  std::ofstream(mark) << kMark;
+  static_cast<void>(Ask("xclip", {"-selection", "clipboard", "-in", mark.string()}));
+  Press({"ctrl+a", "ctrl+c"});
+  std::string text;
+  WaitUntil("a text has been copied", [&] {
+    text = Ask("xclip", {"-selection", "clipboard", "-out", "-target", "UTF8_STRING"});
+    return text != kMark && !text.empty();
+  });
+  return text;
+}
+
+std::string WindowSession::Ask(const std::string& program, const std::vector<std::string>& arguments) const {
+  return RunProgram(Prepare(program, arguments)).Output;
+}
+
+void WindowSession::Use(const std::vector<std::string>& actions) const {
+  const ProgramOutcome outcome = RunProgram(Prepare("xdotool", actions));
+  if (outcome.Status != 0) throw std::runtime_error("xdotool failed: " + outcome.Errors);
+}
+
+// ---- the screen
+
+// No pointer is drawn, so that it is in no picture.
+void WindowSession::StartScreen() {
+  const std::string size = std::to_string(desk_.Width) + "x" + std::to_string(desk_.Height) + "x24";
+  screen_ =
+      std::make_unique<RunningProgram>(Prepare("Xvfb", {"-displayfd", "1", "-screen", "0", size, "-fbdir",
+                                                        home_.string(), "-nolisten", "tcp", "-nocursor", "-noreset"}));
+  WaitUntil("there is a screen", [this] { return screen_->Output().ends_with('\n'); });
+  display_ = ":" + Lines(screen_->Output()).front();
+
+  frameBuffer_ = std::make_unique<QFile>(QString::fromStdString((home_ / kFrameBufferName).string()));
+  if (!frameBuffer_->open(QIODevice::ReadOnly)) throw std::runtime_error("the screen has no frame buffer");
+  pixels_ = frameBuffer_->map(0, frameBuffer_->size());
+  if (pixels_ == nullptr) throw std::runtime_error("the frame buffer cannot be read");
+}
+
+void WindowSession::StartWindowManager() {
+  windowManager_ = std::make_unique<RunningProgram>(Prepare("openbox", {"--sm-disable"}));
+  WaitUntil("there is a window manager", [this] {
+    return Ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).find("window id") != std::string::npos;
+  });
+}
+
+QImage WindowSession::MappedPicture() const {
+  const std::uint32_t start = Field(pixels_, kHeaderSizeField) + Field(pixels_, kColorCountField) * kColorSize;
+  return {pixels_ + start, IntField(pixels_, kWidthField), IntField(pixels_, kHeightField),
+          IntField(pixels_, kLineSizeField), QImage::Format_RGB32};
+}
+
+QImage WindowSession::Picture() const {
+  return MappedPicture().copy();
+}
+
+QImage WindowSession::Picture(const QRect& area) const {
+  return MappedPicture().copy(area);
+}
+
+QRgb WindowSession::Color(QPoint point) const {
+  return MappedPicture().pixel(point) | 0xFF000000;
+}
+
+QImage WindowSession::StillPicture(const QRect& area) const {
+  QImage picture = Picture(area);
+  auto since = steady_clock::now();
+  WaitUntil("the screen has come to rest", [&] {
+    QImage next = Picture(area);
+    if (next != picture) {
+      picture = std::move(next);
+      since = steady_clock::now();
+    }
+    return steady_clock::now() - since >= kStill;
+  });
+  return picture;
+}
+
+void WindowSession::WaitUntil(std::string_view what, const std::function<bool()>& happened) const {
+  const auto limit = steady_clock::now() + kLimit;
+  while (!happened()) {
+    if (steady_clock::now() > limit) throw std::runtime_error("waited in vain until " + std::string(what));
+    if (!programs_.empty() && Running().Status()) {
+      throw std::runtime_error("the program ended while waiting until " + std::string(what) + ": " +
+                               Running().Errors());
+    }
+    std::this_thread::sleep_for(kBetweenQuestions);
+  }
+}
+
+}  // namespace quillon

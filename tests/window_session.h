@@ -1,0 +1,136 @@
+#pragma once
+
+// For journeys through the window: a screen of its own with a window manager, the program in a folder of its own, and a
+// user with a mouse, a keyboard, a clipboard and eyes. The screen is Xvfb, so nobody sees it and nothing else is on it;
+// the window manager is openbox; xdotool moves the mouse and presses the keys.
+//
+// Lengths are the screen's own pixels, unless told otherwise. Nothing waits for a fixed time: every wait is for
+// something, and where it does not come within half a minute, or the program ends, std::runtime_error tells what was
+// waited for. All that has been started is gone with the session, even if the test is killed.
+
+#include <QFile>
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ranges/range_files.h"
+#include "tests/program_run.h"
+
+namespace quillon {
+
+/// The screen, and the scale at which the program is to draw on it: 2 for 200%.
+struct Desk {
+  int Width = 1400;
+  int Height = 1000;
+  int Scale = 1;
+};
+
+/// A window of the program: what the window system calls it, and where its inner area is on the screen.
+struct Window {
+  std::string Id;
+  QRect Place;
+};
+
+class WindowSession {
+ public:
+  explicit WindowSession(Desk desk = {});
+  WindowSession(const WindowSession&) = delete;
+  WindowSession(WindowSession&&) = delete;
+  WindowSession& operator=(const WindowSession&) = delete;
+  WindowSession& operator=(WindowSession&&) = delete;
+  ~WindowSession();
+
+  [[nodiscard]] const Desk& Screen() const { return desk_; }
+
+  // ---- the program and its folder
+
+  /// The folder of the executable; nothing else is in it at first.
+  [[nodiscard]] ProgramFolder Program() const { return {programFolder_}; }
+
+  /// Puts the example ranges beside the executable.
+  void AddExampleRanges() const;
+
+  /// Starts the program. It may be started more than once; the one that was started last is the one that is looked at.
+  void Start(const std::vector<std::string>& arguments = {});
+  [[nodiscard]] RunningProgram& Running() const { return *programs_.back(); }
+
+  /// The exit status of the program, which ends now.
+  [[nodiscard]] int WaitForEnd() const;
+
+  /// The commands that the program finds, by name, and what they are given. A command does nothing but write that down.
+  void AddCommand(const std::string& name) const;
+  [[nodiscard]] std::string CommandArguments(const std::string& name) const;
+
+  // ---- windows
+
+  /// The one visible window of the running program with this title, nothing if there is none.
+  [[nodiscard]] std::optional<Window> FindWindow(std::string_view title) const;
+  /// The window once it is there and has the keyboard.
+  [[nodiscard]] Window WaitForWindow(std::string_view title) const;
+  /// The outer corner of a window, its frame included.
+  [[nodiscard]] QPoint CornerOf(const Window& window) const;
+  /// How many windows of the program can be seen, opened lists among them.
+  [[nodiscard]] std::size_t WindowCount() const;
+  void WaitUntilGone(const Window& window) const;
+  /// Moves the outer corner of the window.
+  void MoveWindow(const Window& window, QPoint corner) const;
+
+  // ---- mouse, keyboard and clipboard
+
+  /// The mouse goes there, and stays.
+  void MoveTo(QPoint point) const;
+  void ClickAt(QPoint point) const;
+  /// Keys by their names in the window system, pressed one after the other: "ctrl+a", "Return".
+  void Press(const std::vector<std::string>& keys) const;
+  /// Holds a key down until it is released.
+  void HoldKey(const std::string& key) const { Use({"keydown", key}); }
+  void ReleaseKey(const std::string& key) const { Use({"keyup", key}); }
+  void Type(std::string_view text) const;
+  /// The mouse out of everybody's way.
+  void PutMouseAside() const;
+  /// All the text of the control that has the keyboard, by way of the clipboard.
+  [[nodiscard]] std::string CopyAllText() const;
+
+  // ---- the screen
+
+  [[nodiscard]] QImage Picture() const;
+  [[nodiscard]] QImage Picture(const QRect& area) const;
+  [[nodiscard]] QRgb Color(QPoint point) const;
+  /// The area once it has stopped changing.
+  [[nodiscard]] QImage StillPicture(const QRect& area) const;
+
+  /// Waits until `happened`, which is asked over and over; `what` says what that is.
+  void WaitUntil(std::string_view what, const std::function<bool()>& happened) const;
+
+ private:
+  [[nodiscard]] ProgramRun Prepare(const std::string& program, const std::vector<std::string>& arguments) const;
+  [[nodiscard]] std::string Ask(const std::string& program, const std::vector<std::string>& arguments) const;
+  void Use(const std::vector<std::string>& actions) const;
+  [[nodiscard]] std::vector<std::string> FindIds() const;
+  [[nodiscard]] std::string TitleOf(const std::string& id) const;
+  [[nodiscard]] QRect PlaceOf(const std::string& id) const;
+  void StartScreen();
+  void StartWindowManager();
+  [[nodiscard]] QImage MappedPicture() const;
+
+  Desk desk_;
+  std::filesystem::path home_;
+  std::filesystem::path programFolder_;
+  std::string display_;
+  // Ended in the opposite order: the screen goes last.
+  std::unique_ptr<RunningProgram> screen_;
+  std::unique_ptr<RunningProgram> windowManager_;
+  std::vector<std::unique_ptr<RunningProgram>> programs_;
+  std::unique_ptr<QFile> frameBuffer_;
+  const uchar* pixels_ = nullptr;
+};
+
+}  // namespace quillon
