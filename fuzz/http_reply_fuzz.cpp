@@ -30,8 +30,7 @@ void CheckReply(const HttpReplyReader& reader, std::string_view bytes) {
   Require(bytes.starts_with("HTTP/1."), "a reply is one of HTTP 1");
   Require(reply.Status >= 0 && reply.Status <= 999, "a status has three digits");
   Require(reply.Body.size() <= kLongestHttpBody, "a body has its limit");
-  Require(reply.Succeeded() || reply.Body.empty(), "only a success has a body");
-  Require(!(reply.Succeeded() && reply.Redirects()), "a redirect is no success");
+  Require(!reply.Redirects() || reply.Body.empty(), "a redirect has no body");
   Require(bytes.find(reply.Body) != std::string_view::npos, "a body is a piece of what came");
   Require(bytes.find(reply.Location) != std::string_view::npos, "a location is a piece of what came");
   Require(reply.Location.find('\n') == std::string::npos, "a location is one line");

@@ -86,7 +86,7 @@ void HttpReplyReader::TakeHead(std::string_view bytes) {
     return;
   }
   inBody_ = true;
-  if (!reply_.Succeeded()) {
+  if (reply_.Redirects()) {
     state_ = State::kWhole;
     return;
   }

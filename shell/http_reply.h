@@ -19,9 +19,8 @@ inline constexpr std::size_t kLongestHttpHead = std::size_t{64} << 10;
 struct HttpReply {
   int Status = 0;
   std::string Location;  // where a redirect leads, as the host says it
-  std::string Body;  // of a reply with success only; others are not read any further
+  std::string Body;  // also of a page that tells of an error; that of a redirect is not read
 
-  [[nodiscard]] bool Succeeded() const { return Status >= 200 && Status <= 299; }
   [[nodiscard]] bool Redirects() const;
 };
 

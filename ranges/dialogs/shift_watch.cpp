@@ -22,11 +22,19 @@ ShiftWatch::ShiftWatch(std::function<bool()> isHeld, QObject* parent)
   QCoreApplication::instance()->installEventFilter(this);
 }
 
+// One event passes through here for the window, for the control in it, and for whatever holds that.
+bool ShiftWatch::IsKnown(const QKeyEvent& key) {
+  const Seen seen{key.type(), key.timestamp()};
+  const bool known = seen.When != 0 && seen == last_;
+  last_ = seen;
+  return known;
+}
+
 bool ShiftWatch::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ApplicationStateChange) keys_.PutRight(isHeld_());
   const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
   const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
-  if (key != nullptr && key->key() == Qt::Key_Shift && !key->isAutoRepeat()) {
+  if (key != nullptr && key->key() == Qt::Key_Shift && !key->isAutoRepeat() && !IsKnown(*key)) {
     const ShiftKey side = key->nativeVirtualKey() == kRightShiftSymbol ? ShiftKey::kRight : ShiftKey::kLeft;
     if (event->type() == QEvent::KeyPress) {
       keys_.KeyDown(side);

@@ -2,10 +2,13 @@
 
 // Listens to the Shift keys in all windows of the program, and answers the Shift test of a click on a card grid.
 
+#include <QEvent>
 #include <QObject>
 #include <functional>
 
 #include "ranges/shift_keys.h"
+
+class QKeyEvent;
 
 namespace quillon {
 
@@ -23,8 +26,18 @@ class ShiftWatch : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  struct Seen {
+    QEvent::Type What = QEvent::None;
+    quint64 When = 0;
+
+    bool operator==(const Seen&) const = default;
+  };
+
+  [[nodiscard]] bool IsKnown(const QKeyEvent& key);
+
   std::function<bool()> isHeld_;
   ShiftKeys keys_;
+  Seen last_;
 };
 
 }  // namespace quillon

@@ -86,8 +86,8 @@ std::string HttpClient::Get(std::string_view address) {
   for (int redirects = 0; next && redirects <= kMostRedirects; ++redirects) {
     const std::optional<HttpReply> reply = Ask(*next, deadline);
     if (!reply) return {};
-    if (reply->Succeeded()) return Utf8FromWindows1252(reply->Body);
-    next = reply->Redirects() ? RedirectedAddress(*next, reply->Location) : std::nullopt;
+    if (!reply->Redirects()) return Utf8FromWindows1252(reply->Body);
+    next = RedirectedAddress(*next, reply->Location);
   }
   return {};
 }

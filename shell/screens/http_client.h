@@ -14,9 +14,10 @@ class HttpClient : public WebClient {
   explicit HttpClient(std::chrono::milliseconds limit = std::chrono::seconds(kWebTimeOutSeconds)) : limit_(limit) {}
 
   /// A redirect is followed on the same host and port, ten times at most; the limit of time is for all of it together.
-  /// A status other than success is a failure, and so are a body longer than kLongestHttpBody and one that ends before
-  /// its announced length. The host is asked directly, by no proxy, and what one request brings is not sent with
-  /// another. The bytes of the body are taken as Windows-1252.
+  /// A page that tells of an error is a reply like any other; its text says nothing that a caller looks for. A body
+  /// longer than kLongestHttpBody is a failure, and so is one that ends before its announced length. The host is asked
+  /// directly, by no proxy, and what one request brings is not sent with another. The bytes of the body are taken as
+  /// Windows-1252.
   std::string Get(std::string_view address) override;
 
  private:

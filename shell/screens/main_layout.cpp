@@ -94,7 +94,7 @@ constexpr auto kSidePanel = std::to_array<ControlRow>({
     {.Name = "aRectangle", .Index = 2, .Kind = kShape, .Place = {-180, -60, 3555, 1575}, .Back = 0xFFFFFF,
      .Fore = 0x000000, .Style = LineStyle::kNone},
     {.Name = "aLine", .Index = 0, .Kind = kLine, .Place = {420, 780, 2160, 0}, .Fore = 0xFFFFFF},
-    {.Name = "shapeBack", .Kind = kShape, .Place = {0, 10440, 3255, 555}, .Back = 0xC5E3BF, .Style = LineStyle::kNone},
+    {.Name = "shapeBack", .Kind = kShape, .Place = {0, 10440, 3255, 555}, .Back = 0xC5E3BF, .Fore = 0xC5E3BF},
     {.Name = "imgBack", .Kind = kPicture, .Place = {0, 1440, 3300, 9000}, .Picture = "side_panel"},
 });
 

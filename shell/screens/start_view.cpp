@@ -159,7 +159,9 @@ void StartView::AddOutputType(std::string_view text) {
 }
 
 void StartView::AddHandEntry(std::string_view text) {
-  controls_.Get<QComboBox>("cmbo169").addItem(ToQt(text));
+  auto& hands = controls_.Get<QComboBox>("cmbo169");
+  hands.addItem(ToQt(text));
+  hands.setCurrentIndex(-1);  // none is picked yet, "None" neither
 }
 
 void StartView::BuildCardGrid() {
