@@ -19,7 +19,14 @@ namespace quillon {
 
 class MemoryFiles final : public FileCalls {
  public:
+  struct OpenFile {
+    std::string path;
+    std::size_t place = 0;
+  };
+
   std::map<std::string, std::string> Contents;  // by path
+  std::map<int, OpenFile> Opened;
+  int NextFile = 3;
 
   int Open(const std::string& path, int flags, mode_t /*mode*/) override {
     const bool isThere = Contents.contains(path);
@@ -28,11 +35,11 @@ class MemoryFiles final : public FileCalls {
       if (isThere && (flags & O_EXCL) != 0) return -EEXIST;
       Contents.try_emplace(path);
     }
-    open_[next_] = {path, 0};
-    return next_++;
+    Opened[NextFile] = {path, 0};
+    return NextFile++;
   }
   ssize_t Read(int file, std::span<char> buffer) override {
-    OpenFile& from = open_.at(file);
+    OpenFile& from = Opened.at(file);
     const std::string_view rest = std::string_view(Contents[from.path]).substr(from.place);
     const std::size_t count = std::min(rest.size(), buffer.size());
     std::memcpy(buffer.data(), rest.data(), count);
@@ -40,11 +47,11 @@ class MemoryFiles final : public FileCalls {
     return static_cast<ssize_t>(count);
   }
   ssize_t Write(int file, std::string_view bytes) override {
-    Contents[open_.at(file).path] += bytes;
+    Contents[Opened.at(file).path] += bytes;
     return static_cast<ssize_t>(bytes.size());
   }
   int Sync(int /*file*/) override { return 0; }
-  int Close(int file) override { return open_.erase(file) == 1 ? 0 : -EBADF; }
+  int Close(int file) override { return Opened.erase(file) == 1 ? 0 : -EBADF; }
   int Rename(const std::string& from, const std::string& to) override {
     auto moved = Contents.extract(from);
     if (moved.empty()) return -ENOENT;
@@ -58,16 +65,7 @@ class MemoryFiles final : public FileCalls {
   int TryLock(int /*file*/) override { return 0; }
 
   /// Whether every file that was opened has been closed.
-  [[nodiscard]] bool AllClosed() const { return open_.empty(); }
-
- private:
-  struct OpenFile {
-    std::string path;
-    std::size_t place = 0;
-  };
-
-  std::map<int, OpenFile> open_;
-  int next_ = 3;
+  [[nodiscard]] bool AllClosed() const { return Opened.empty(); }
 };
 
 }  // namespace quillon

@@ -18,18 +18,20 @@ class Panel final : public HoverWindow {
   void SetHoverPicture(HoverPicture picture) override { Picture = picture; }
   [[nodiscard]] std::string HoverHand() const override { return Hand; }
   void SetHoverHand(std::string_view caption) override { Hand = caption; }
-  void SetHoverEquityTitle(std::string_view) override {}
+  void SetHoverEquityTitle(std::string_view /*caption*/) override {}
   void SetHoverEquity(std::string_view caption) override { Equity = caption; }
   void SetHoverValue(std::string_view caption) override { Value = caption; }
   void SetHoverReturn(std::string_view caption) override { Return = caption; }
-  void SetHoverValueLinesVisible(bool) override {}
-  void SetHoverFoldShare(std::string_view) override {}
-  void SetHoverFoldLineVisible(bool) override {}
+  void SetHoverValueLinesVisible(bool /*visible*/) override {}
+  void SetHoverFoldShare(std::string_view /*caption*/) override {}
+  void SetHoverFoldLineVisible(bool /*visible*/) override {}
   void SetHoverAdvice(std::string_view caption) override { Advice = caption; }
   [[nodiscard]] TwipRect HoverRect() const override { return {0, 0, 2000, 1500}; }
   void SetHoverRect(const TwipRect& rect) override { Place = rect; }
   [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override {
-    return {static_cast<float>(index % 13) * 465 + 300, static_cast<float>(index / 13) * 465 + 900, 465, 465};
+    const int column = index % 13;
+    const int row = index / 13;
+    return {static_cast<float>(300 + column * 465), static_cast<float>(900 + row * 465), 465, 465};
   }
   [[nodiscard]] TwipRect GridScreenRect() const override { return {0, 0, 9000, 9000}; }
   void ShowHover() override { Shown = true; }

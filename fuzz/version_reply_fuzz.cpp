@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_files.h"
@@ -18,23 +19,21 @@ namespace {
 
 class OneReply final : public WebClient {
  public:
-  explicit OneReply(std::string reply) : reply_(std::move(reply)) {}
+  explicit OneReply(std::string reply) : Reply(std::move(reply)) {}
 
   std::string Get(std::string_view /*address*/) override {
     ++Requests;
-    return reply_;
+    return Reply;
   }
 
+  std::string Reply;
   int Requests = 0;
-
- private:
-  std::string reply_;
 };
 
 // The About screen. Its box runs the click when its state changes, as a real one does.
 class About final : public UpgradeWindow {
  public:
-  About(WebClient& web, const ProgramFolder& folder) : web_(web), folder_(folder) {}
+  About(WebClient& web, ProgramFolder folder) : Web(web), Folder(std::move(folder)) {}
 
   void SetVersionCaption(std::string_view caption) override { Version = caption; }
   void SetCurrentVersionCaption(std::string_view caption) override { Current = caption; }
@@ -42,7 +41,7 @@ class About final : public UpgradeWindow {
   void SetUpgradeBox(CheckBoxState state) override {
     if (Box == state) return;
     Box = state;
-    ClickUpgrade(*this, web_, folder_);
+    ClickUpgrade(*this, Web, Folder);
   }
   void SetUpgradeLinkVisible(bool visible) override { LinkVisible = visible; }
   void SetUpgradeLinkCaption(std::string_view caption) override { Link = caption; }
@@ -52,10 +51,8 @@ class About final : public UpgradeWindow {
   std::string Link;
   bool LinkVisible = false;
   CheckBoxState Box = CheckBoxState::kUnchecked;
-
- private:
-  WebClient& web_;
-  const ProgramFolder& folder_;
+  WebClient& Web;
+  ProgramFolder Folder;
 };
 
 void CheckOutcome(const About& about, const std::string& reply, int requests) {

@@ -7,8 +7,8 @@
 
 #include "tests/saving_loop.h"
 
-#include <cstdio>
 #include <exception>
+#include <iostream>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -47,7 +47,7 @@ int Main(std::span<char*> arguments) {
     for (int round = 0; rounds == 0 || round < rounds; ++round)
       RunRound(folder, name, round);
   } catch (const std::exception& error) {
-    static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
+    std::cerr << error.what() << '\n';
     return 1;
   }
   return 0;

@@ -5,6 +5,7 @@
 #   tools/install_packages.sh lint     what .ci/run needs on top of that
 #   tools/install_packages.sh fuzz     what the preset fuzz needs on top of ./check
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
+#   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
 #
 # This is the one place that names packages.
 set -euo pipefail
@@ -16,14 +17,16 @@ build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 lint=(git clang-format-14 clang-tidy-14 gcovr)
 fuzz=(clang-14 libclang-rt-14-dev)
 screens=(optipng)
+reliability=(valgrind python3)
 
 case "${1:-}" in
   build) wanted=("${build[@]}") ;;
   lint) wanted=("${build[@]}" "${lint[@]}") ;;
   fuzz) wanted=("${build[@]}" "${fuzz[@]}") ;;
+  reliability) wanted=("${build[@]}" "${lint[@]}" "${fuzz[@]}" "${reliability[@]}") ;;
   screens) wanted=("${build[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 build|lint|fuzz|screens" >&2
+    echo "Usage: $0 build|lint|fuzz|screens|reliability" >&2
     exit 2
     ;;
 esac

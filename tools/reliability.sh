@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Puts the program under strain and measures what becomes of it: the rows of docs/reliability.md, in their order.
+#
+#   tools/reliability.sh                 all of it, for some hours
+#   tools/reliability.sh ROW ...         fuzz, files, kills, together, soak, valgrind, mutation, sanitizers, coverage
+#
+# FUZZ_SECONDS is how long each fuzz target runs, 600 unless set.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+tools/install_packages.sh reliability
+
+# build PRESET TARGET ...
+build() {
+  [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1" --target "${@:2}" | tail -n 1
+}
+
+fuzz() {
+  mapfile -t targets < <(sed -n 's/^quillon_fuzz(\([a-z0-9_]*\) .*/\1/p' fuzz/CMakeLists.txt)
+  build fuzz "${targets[@]}"
+  for target in "${targets[@]}"; do
+    mkdir -p "build/fuzz/corpus-$target"
+    "build/fuzz/bin/$target" -max_total_time="${FUZZ_SECONDS:-600}" -timeout=10 -print_final_stats=1 \
+      -artifact_prefix="build/fuzz/$target-" "build/fuzz/corpus-$target" "fuzz/corpus/$target" \
+      >"build/fuzz/$target.log" 2>&1 || {
+      tail -n 40 "build/fuzz/$target.log"
+      return 1
+    }
+    echo "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "build/fuzz/$target.log") runs"
+  done
+}
+
+files() {
+  build dev support_test ranges_test shell_test
+  build/dev/bin/support_test --gtest_brief=1 --gtest_filter='*AFile*:*Reading*:*Writing*:*Stale*:*Folder*'
+  build/dev/bin/ranges_test --gtest_brief=1 --gtest_filter='*SaveRangeText*:*RenameRange*:*DeleteRange*'
+  build/dev/bin/shell_test --gtest_brief=1 --gtest_filter='*FileFaults*:SettingsFile*'
+}
+
+kills() {
+  build dev saving_journey_test
+  QUILLON_KILLS=1000 build/dev/bin/saving_journey_test --gtest_brief=1 --gtest_filter='*Killed*'
+}
+
+together() {
+  build dev saving_journey_test
+  build/dev/bin/saving_journey_test --gtest_brief=1 --gtest_filter='*AtOnce*' --gtest_repeat=20
+}
+
+soak() {
+  build dev soak_test
+  QUILLON_SOAK=167 build/dev/bin/soak_test --gtest_brief=1
+}
+
+valgrind_soak() {
+  build dev soak_test
+  valgrind --quiet --leak-check=full --show-leak-kinds=definite --errors-for-leak-kinds=definite --error-exitcode=1 \
+    --suppressions=tests/valgrind.supp build/dev/bin/soak_test --gtest_brief=1
+}
+
+for row in "${@:-fuzz files kills together soak valgrind mutation sanitizers coverage}"; do
+  for part in $row; do
+    echo "== $part"
+    case "$part" in
+      fuzz | files | kills | together | soak) "$part" ;;
+      valgrind) valgrind_soak ;;
+      mutation) tools/mutate.py ;;
+      sanitizers) ./check asan ;;
+      coverage) tools/coverage.sh ;;
+      *)
+        sed -n '2,7s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
+        exit 2
+        ;;
+    esac
+  done
+done
