@@ -13,6 +13,7 @@
 #include "analysis/plain_reference.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
+#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
 #include "support/byte_scan.h"
 
@@ -92,14 +93,8 @@ void HandEquityPlain(benchmark::State& timing) {
 }
 BENCHMARK(HandEquityPlain)->Iterations(1);
 
-std::string FullRangeText() {
-  std::array<double, kHandClassCount> weights{};
-  weights.fill(1);
-  return RangeTextOf(weights);
-}
-
 void WeightRead(benchmark::State& timing) {
-  const std::string text = FullRangeText();
+  const std::string text = TextWith(AllLabels());
   while (timing.KeepRunning()) {
     for (std::int16_t i = 0; i < kHandClassCount; ++i)
       benchmark::DoNotOptimize(RangeWeightOf(text, HandLabel(i)));
@@ -110,7 +105,7 @@ void WeightRead(benchmark::State& timing) {
 BENCHMARK(WeightRead);
 
 void DealtRange(benchmark::State& timing) {
-  std::string text = FullRangeText();
+  std::string text = TextWith(AllLabels());
   while (timing.KeepRunning())
     benchmark::DoNotOptimize(DealRange({}, "Everything", "As", "Ac", text));
 }

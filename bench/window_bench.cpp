@@ -73,9 +73,9 @@ struct Program {
     QCoreApplication::processEvents();
   }
 
-  FormControls& Controls() { return Window->Controls(); }
+  [[nodiscard]] FormControls& Controls() const { return Window->Controls(); }
 
-  void FillInRaise() {
+  void FillInRaise() const {
     Controls().LabelAt("lblNav", 1).Click();
     Controls().Get<QLineEdit>("txtNumber", 2).setText(QStringLiteral("150"));
     Controls().Get<QLineEdit>("txtNumber", 3).setText(QStringLiteral("50"));
@@ -110,24 +110,24 @@ double ResidentMegabytes() {
   return 0;
 }
 
-void ClickAnalyzeToPaintedGrid(benchmark::State& state) {
+void ClickAnalyzeToPaintedGrid(benchmark::State& timing) {
   Program& program = TheProgram();
   program.FillInRaise();
   PaintWatch bar(program.Controls().ShapeAt("picProgBar"));
   PaintWatch grid(program.Controls().LabelAt("lblCards", 168));
   int bars = 0;
-  for (auto _ : state) {
+  while (timing.KeepRunning()) {
     bars = bar.Count();
     program.Controls().PictureAt("cmdPreflopEV", 1).Click();
     bars = bar.Count() - bars;
     grid.WaitForNext();
   }
-  state.counters["bar_paints"] = bars;
-  state.counters["RSS_MB"] = ResidentMegabytes();
+  timing.counters["bar_paints"] = bars;
+  timing.counters["RSS_MB"] = ResidentMegabytes();
 }
 BENCHMARK(ClickAnalyzeToPaintedGrid)->Unit(benchmark::kMillisecond)->MinTime(2);
 
-void MouseMoveToPaintedPanel(benchmark::State& state) {
+void MouseMoveToPaintedPanel(benchmark::State& timing) {
   Program& program = TheProgram();
   if (program.Window->State().HandInfo.empty()) {
     program.FillInRaise();
@@ -137,7 +137,7 @@ void MouseMoveToPaintedPanel(benchmark::State& state) {
   QCoreApplication::processEvents();
   PaintWatch panel(program.Controls().FrameAt("frameHover"));
   static std::int16_t index = 0;  // never the same hand twice, which would paint nothing
-  for (auto _ : state) {
+  while (timing.KeepRunning()) {
     Label& cell = program.Controls().LabelAt("lblCards", index);
     const QPointF at(5, 5);
     QMouseEvent move(QEvent::MouseMove, at, cell.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
@@ -148,16 +148,16 @@ void MouseMoveToPaintedPanel(benchmark::State& state) {
 }
 BENCHMARK(MouseMoveToPaintedPanel)->Unit(benchmark::kMillisecond);
 
-void ClickDetailsToReport(benchmark::State& state) {
+void ClickDetailsToReport(benchmark::State& timing) {
   Program& program = TheProgram();
-  for (auto _ : state) {
+  while (timing.KeepRunning()) {
     program.Controls().LabelAt("lblNav", 4).Click();
   }
 }
 BENCHMARK(ClickDetailsToReport)->Unit(benchmark::kMillisecond);
 
-void MakeTheWindow(benchmark::State& state) {
-  for (auto _ : state) {
+void MakeTheWindow(benchmark::State& timing) {
+  while (timing.KeepRunning()) {
     const Program program;
     benchmark::DoNotOptimize(program.Window.get());
   }
