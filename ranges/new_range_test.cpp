@@ -17,18 +17,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-Message Saved(const std::string& name) {
-  return {"Quillon", "The range \"" + name + "\" was saved successfully!", MessageIcon::kInformation,
-          MessageButtons::kOk};
-}
-Message NoName() {
-  return {"Error", "You must choose a name for this range.", MessageIcon::kStop, MessageButtons::kOk};
-}
-Message Exists(const std::string& name) {
-  return {"Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.",
-          MessageIcon::kStop, MessageButtons::kOk};
-}
-
 // The dialog, fresh, over the ranges "a" and "b", opened from chooser 0.
 class NewRange : public testing::Test {
  public:

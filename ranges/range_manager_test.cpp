@@ -20,17 +20,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-Message Saved(const std::string& name) {
-  return {"Quillon", "The range \"" + name + "\" was saved successfully!", MessageIcon::kInformation,
-          MessageButtons::kOk};
-}
-Message NoName() {
-  return {"Error", "You must choose a name for this range.", MessageIcon::kStop, MessageButtons::kOk};
-}
-Message Exists(const std::string& name) {
-  return {"Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.",
-          MessageIcon::kStop, MessageButtons::kOk};
-}
 Message AskToDelete(const std::string& name) {
   return {"Delete?", "Do you really want to delete \"" + name + "\"?", MessageIcon::kQuestion,
           MessageButtons::kYesNoCancel};

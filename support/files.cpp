@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "support/run_time_error.h"
+#include "support/uninterrupted.h"
 #include "support/windows_1252.h"
 
 namespace quillon {
@@ -64,15 +65,6 @@ class RealFileCalls final : public FileCalls {
 [[noreturn]] void Fail(int negatedError, const std::filesystem::path& path) {
   const int error = -negatedError;
   throw RunTimeError(RunTimeFaultOf(error), path.string() + ": " + std::generic_category().message(error));
-}
-
-// An interrupted call has done nothing and is made again.
-template <typename Call>
-auto Uninterrupted(Call call) {
-  auto result = call();
-  while (result == -EINTR)
-    result = call();
-  return result;
 }
 
 int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {

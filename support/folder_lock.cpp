@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <thread>
 
+#include "support/uninterrupted.h"
+
 namespace quillon {
 namespace {
 
@@ -12,10 +14,7 @@ constexpr std::chrono::seconds kLongestWait{1};
 constexpr std::chrono::milliseconds kPause{2};
 
 int OpenFolder(const std::filesystem::path& folder, FileCalls& calls) {
-  int file = -EINTR;
-  while (file == -EINTR)
-    file = calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
-  return file;
+  return Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
 }
 
 // Asks again and again rather than once with patience: such a wait would have no end.

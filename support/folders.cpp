@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "support/run_time_error.h"
+#include "support/uninterrupted.h"
 
 namespace quillon {
 namespace {
@@ -23,18 +24,14 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 
   // Opened for reading rather than looked at: what cannot be listed does not count as being there. A folder that opens
   // always lists something, itself.
-  int folder = -EINTR;
-  while (folder == -EINTR)
-    folder = calls.Open(text, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+  const int folder = Uninterrupted([&] { return calls.Open(text, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
   if (folder < 0) return false;
   calls.Close(folder);
   return true;
 }
 
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
-  int made = -EINTR;
-  while (made == -EINTR)
-    made = calls.MakeFolder(path.string());
+  const int made = Uninterrupted([&] { return calls.MakeFolder(path.string()); });
   if (made >= 0) return;
   throw RunTimeError(FaultOfMaking(-made), path.string() + ": " + std::generic_category().message(-made));
 }

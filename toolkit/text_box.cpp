@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -26,8 +27,11 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  if (!LeavesTheBox(*event)) return;
-  busy_ = false;
+  if (LeavesTheBox(*event)) Leave();
+}
+
+void TextBox::Leave() {
+  if (!std::exchange(busy_, false)) return;
   Q_EMIT FocusLost();
 }
 

@@ -12,6 +12,9 @@ class TextBox : public QLineEdit {
  public:
   explicit TextBox(QWidget* parent);
 
+  /// Ends the user's work in the box, as the loss of the focus does; nothing where it has ended.
+  void Leave();
+
  Q_SIGNALS:
   void FocusGot();
   void FocusLost();

@@ -1,9 +1,9 @@
 #include "shell/screens/analysis_view.h"
 
 #include <QCoreApplication>
-#include <QLineEdit>
 
 #include "results/results_grid.h"
+#include "shell/screens/number_box_view.h"
 #include "shell/screens/results_view.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -11,7 +11,7 @@
 namespace quillon {
 
 std::string AnalysisView::BoxText(std::int16_t index) const {
-  return FromQt(parts_.Controls.Get<QLineEdit>("txtNumber", index).text());
+  return NumberBoxText(parts_.Controls, index);
 }
 
 std::string AnalysisView::SelectedRange(std::int16_t index) const {

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "shell/field_help.h"
+
 // Both addresses come with the build: the product's web host, and where its maker reads mail.
 #if !defined(QUILLON_WEB_HOST) || !defined(QUILLON_CONTACT_ADDRESS)
 #error "The build sets QUILLON_WEB_HOST and QUILLON_CONTACT_ADDRESS."
@@ -109,13 +111,13 @@ constexpr auto kPreflopCall = std::to_array<ControlRow>({
     {.Name = "txtNumber", .Index = 0, .Kind = kTextBox, .Place = {1440, 1980, 2535, 315}, .Font = kArial11p25,
      .Alignment = kMiddle, .Spoken = "How much is the current pot?"},
     {.Name = "lblWhatsThis", .Index = 7, .Text = "What's this?", .Place = {4680, 4140, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Call ALL IN - Current Range",
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[7],
      .Spoken = "What's this? Call ALL IN - Current Range"},
     {.Name = "lblWhatsThis", .Index = 6, .Text = "What's this?", .Place = {5160, 2940, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Call ALL IN - Amount To Call",
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[6],
      .Spoken = "What's this? Call ALL IN - Amount To Call"},
     {.Name = "lblWhatsThis", .Index = 5, .Text = "What's this?", .Place = {4860, 1680, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Call ALL IN - Pot Size",
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[5],
      .Spoken = "What's this? Call ALL IN - Pot Size"},
     {.Name = "aLine", .Index = 2, .Kind = kLine, .Place = {480, 900, 10920, 0}, .Fore = 0x336699},
     {.Name = "lblOr", .Index = 0, .Text = "or", .Place = {3060, 5160, 195, 255}, .Font = kArial11p25},
@@ -171,16 +173,16 @@ constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     {.Name = "aRectangle", .Index = 4, .Kind = kShape, .Place = {540, 7260, 4935, 1215}, .Back = 0xFAFAFA,
      .Fore = 0xE0E0E0},
     {.Name = "lblWhatsThis", .Index = 4, .Text = "What's this?", .Place = {10440, 5040, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Calling Range", .Spoken = "What's this? Calling Range"},
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[4], .Spoken = "What's this? Calling Range"},
     {.Name = "lblWhatsThis", .Index = 3, .Text = "What's this?", .Place = {4560, 5040, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Current Range", .Spoken = "What's this? Current Range"},
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[3], .Spoken = "What's this? Current Range"},
     {.Name = "lblWhatsThis", .Index = 2, .Text = "What's this?", .Place = {8820, 3840, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Hypothetical Call Amount",
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[2],
      .Spoken = "What's this? Hypothetical Call Amount"},
     {.Name = "lblWhatsThis", .Index = 1, .Text = "What's this?", .Place = {5220, 2580, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Amount To Call", .Spoken = "What's this? Amount To Call"},
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[1], .Spoken = "What's this? Amount To Call"},
     {.Name = "lblWhatsThis", .Index = 0, .Text = "What's this?", .Place = {4980, 1380, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = "Pot Size", .Spoken = "What's this? Pot Size"},
+     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[0], .Spoken = "What's this? Pot Size"},
     {.Name = "aLine", .Index = 3, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
     {.Name = "Label", .Index = 23, .Text = "Preflop Raise ALL IN", .Place = {540, 360, 4095, 480}, .Fore = 0x336699,
      .Font = kArial20p25Bold},

@@ -8,11 +8,11 @@
 namespace quillon {
 
 std::string NumberBoxView::BoxText(std::int16_t index) const {
-  return FromQt(controls_.Get<QLineEdit>("txtNumber", index).text());
+  return NumberBoxText(controls_, index);
 }
 
 void NumberBoxView::SetBoxText(std::int16_t index, std::string_view text) {
-  controls_.Get<QLineEdit>("txtNumber", index).setText(ToQt(text));
+  SetNumberBoxText(controls_, index, text);
 }
 
 void NumberBoxView::MoveCaretToEnd(std::int16_t index) {
@@ -30,6 +30,14 @@ void NumberBoxView::SetResultsShown(bool shown) {
 void NumberBoxView::ShowOpponentOdds(const OpponentOdds& texts) {
   controls_.LabelAt("lblHisOdds").SetText(ToQt(texts.HisOdds));
   controls_.LabelAt("lblHisBEP").SetText(ToQt(texts.HisBreakEven));
+}
+
+std::string NumberBoxText(const FormControls& controls, std::int16_t index) {
+  return FromQt(controls.Get<QLineEdit>("txtNumber", index).text());
+}
+
+void SetNumberBoxText(FormControls& controls, std::int16_t index, std::string_view text) {
+  controls.Get<QLineEdit>("txtNumber", index).setText(ToQt(text));
 }
 
 }  // namespace quillon

@@ -27,4 +27,10 @@ class NumberBoxView : public NumberBoxWindow {
   MessageBoxes& messages_;
 };
 
+/// The text of `txtNumber(index)`.
+[[nodiscard]] std::string NumberBoxText(const FormControls& controls, std::int16_t index);
+
+/// Sets it, which counts as the user's typing where it is another text.
+void SetNumberBoxText(FormControls& controls, std::int16_t index, std::string_view text);
+
 }  // namespace quillon

@@ -1,12 +1,13 @@
 #include "shell/screens/start_view.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <utility>
 
 #include "hand/equity_table.h"
+#include "shell/screens/number_box_view.h"
 #include "toolkit/colors.h"
 #include "toolkit/text.h"
+#include "toolkit/text_box.h"
 #include "toolkit/twip_geometry.h"
 
 namespace quillon {
@@ -41,7 +42,11 @@ void StartView::SetFrameVisible(std::int16_t index, bool visible) {
   Frame& screen = controls_.FrameAt(kScreenName, index);
   // Whoever was busy on a screen that goes away is done there; left to itself, the focus would go to a neighbour.
   QWidget* busy = form_.focusWidget();
-  if (!visible && busy != nullptr && screen.isAncestorOf(busy)) busy->clearFocus();
+  if (!visible && busy != nullptr && screen.isAncestorOf(busy)) {
+    busy->clearFocus();
+    // With another program in front there is no focus to lose, and the box is left all the same.
+    if (auto* box = qobject_cast<TextBox*>(busy)) box->Leave();
+  }
   screen.setVisible(visible);
 }
 
@@ -134,11 +139,11 @@ std::int16_t StartView::BoxCount() const {
 }
 
 std::string StartView::BoxText(std::int16_t index) const {
-  return FromQt(controls_.Get<QLineEdit>(kBoxName, index).text());
+  return NumberBoxText(controls_, index);
 }
 
 void StartView::SetBoxText(std::int16_t index, std::string_view text) {
-  controls_.Get<QLineEdit>(kBoxName, index).setText(ToQt(text));
+  SetNumberBoxText(controls_, index, text);
 }
 
 TwipSize StartView::HoverBorderSize() const {
