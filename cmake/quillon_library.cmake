@@ -79,8 +79,8 @@ endfunction()
 
 # quillon_test(NAME [QT] SOURCES ... LINKS ...)
 #
-# One GoogleTest program; each of its tests is a test of ctest's. Its main is GoogleTest's own, or with QT that of tests
-# that build windows.
+# One GoogleTest program; each of its tests is a test of ctest's, or the program as a whole where it is built as one
+# source. Its main is GoogleTest's own, or with QT that of tests that build windows.
 function(quillon_test NAME)
   cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
   if(ARG_QT)
@@ -99,5 +99,9 @@ function(quillon_test NAME)
   target_link_libraries(${NAME} PRIVATE quillon_flags ${ARG_LINKS} GTest::gmock ${main})
   target_compile_options(${NAME} PRIVATE ${QUILLON_TEST_OPTIONS})
   target_precompile_headers(${NAME} REUSE_FROM ${headers})
-  gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES)
+  if(CMAKE_UNITY_BUILD)
+    add_test(NAME ${NAME} COMMAND ${NAME} --gtest_brief=1)
+  else()
+    gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES)
+  endif()
 endfunction()
