@@ -1,7 +1,7 @@
 #pragma once
 
-// What the tests of ranges share: a program folder that lasts as long as a test, range texts from lists of labels, and
-// the fault of a call that fails.
+// What the tests of ranges share: a program folder that lasts as long as a test, range texts from lists of labels, the
+// messages of both dialogs, and the fault of a call that fails.
 
 #include <cerrno>
 #include <cstdint>
@@ -16,6 +16,7 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_files.h"
+#include "support/message_boxes.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
@@ -87,6 +88,28 @@ inline std::string AllLabels() {
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     labels.append(HandLabel(index)).append(" ");
   return labels;
+}
+
+/// What the dialogs tell of a range, and ask.
+inline Message Saved(const std::string& name) {
+  return {"Quillon", "The range \"" + name + "\" was saved successfully!", MessageIcon::kInformation,
+          MessageButtons::kOk};
+}
+inline Message NoName() {
+  return {"Error", "You must choose a name for this range.", MessageIcon::kStop, MessageButtons::kOk};
+}
+inline Message Exists(const std::string& name) {
+  return {"Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.",
+          MessageIcon::kStop, MessageButtons::kOk};
+}
+inline Message AskToDelete(const std::string& name) {
+  return {"Delete?", "Do you really want to delete \"" + name + "\"?", MessageIcon::kQuestion,
+          MessageButtons::kYesNoCancel};
+}
+inline Message AskToSave(const std::string& name) {
+  return {"Save Range?",
+          "The range \"" + name + "\" has changed since you last saved it.\r\n\r\nDo you want to save the range now?",
+          MessageIcon::kQuestion, MessageButtons::kYesNoCancel};
 }
 
 /// The fault that `call` fails with, nothing if it does not fail.

@@ -20,16 +20,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-Message AskToDelete(const std::string& name) {
-  return {"Delete?", "Do you really want to delete \"" + name + "\"?", MessageIcon::kQuestion,
-          MessageButtons::kYesNoCancel};
-}
-Message AskToSave(const std::string& name) {
-  return {"Save Range?",
-          "The range \"" + name + "\" has changed since you last saved it.\r\n\r\nDo you want to save the range now?",
-          MessageIcon::kQuestion, MessageButtons::kYesNoCancel};
-}
-
 // The Range Manager over the ranges "a" (AA), "b" (KK, and AKs at half) and "c" (all hands), with "a" selected.
 class RangeManager : public testing::Test {
  public:

@@ -20,19 +20,6 @@
 
 namespace quillon {
 
-/// The messages that both dialogs show.
-inline Message Saved(const std::string& name) {
-  return {"Quillon", "The range \"" + name + "\" was saved successfully!", MessageIcon::kInformation,
-          MessageButtons::kOk};
-}
-inline Message NoName() {
-  return {"Error", "You must choose a name for this range.", MessageIcon::kStop, MessageButtons::kOk};
-}
-inline Message Exists(const std::string& name) {
-  return {"Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.",
-          MessageIcon::kStop, MessageButtons::kOk};
-}
-
 using Diary = std::vector<std::string>;
 
 /// Message boxes that tell the diary when they show.

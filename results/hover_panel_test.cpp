@@ -67,7 +67,7 @@ class RecordedHover final : public HoverWindow {
   bool ValueLines = true;
   bool FoldLine = true;
   TwipRect Panel = {.Left = 7620, .Top = 1740, .Width = 3780, .Height = 3315};
-  TwipRect Screen = {.Left = 3300, .Top = 0, .Width = 12000, .Height = 9045};
+  TwipRect Screen = {.Left = 3300, .Top = 0, .Width = 12000, .Height = 8645};
   std::vector<std::string> Calls;
 
  private:
@@ -316,7 +316,7 @@ TEST(HoverPanel, EveryCellFillsInItsOwnHand) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     ShowHandHover(index, sample::CallState(), window);
     EXPECT_EQ(window.Hand, HandLabel(index));
-    EXPECT_EQ(window.Panel.Top < window.SquareRect(index).Top, index >= 11 * 13) << index;
+    EXPECT_EQ(window.Panel.Top < window.SquareRect(index).Top, index >= 10 * 13) << index;
   }
 }
 
@@ -327,16 +327,16 @@ TEST(HoverPlace, HangsBelowTheCellAndFlipsWhereItWouldLeaveTheScreen) {
     float left;
     float top;
   };
-  // The panel takes 3780 by 3315 of 12000 by 9045: it fits from left 8220 and, below a square of 405, from top 5300.
+  // The panel takes 3780 by 3315 of 12000 by 8645: it fits from left 8220 and, below a square of 405, from top 4900.
   const std::vector<Case> cases = {
       {"below, left edge on left edge", {625, 1045, 405, 405}, 625, 1475},
       {"fitting exactly to the right", {8220, 1045, 405, 405}, 8220, 1475},
       {"one too far to the right", {8221, 1045, 405, 405}, 4441, 1475},
-      {"fitting exactly at the bottom", {625, 5300, 405, 405}, 625, 5730},
-      {"one too far down", {625, 5301, 405, 405}, 625, 1961},
+      {"fitting exactly at the bottom", {625, 4900, 405, 405}, 625, 5330},
+      {"one too far down", {625, 4901, 405, 405}, 625, 1561},
       {"too far both ways", {11000, 8000, 405, 405}, 7220, 4660},
-      {"a taller square fits less far down", {625, 5300, 405, 406}, 625, 1960},
-      {"half a twip too far", {8220.5F, 5300.5F, 405, 405}, 4440.5F, 1960.5F},
+      {"a taller square fits less far down", {625, 4900, 405, 406}, 625, 1560},
+      {"half a twip too far", {8220.5F, 4900.5F, 405, 405}, 4440.5F, 1560.5F},
   };
   for (const Case& c : cases) {
     const RecordedHover window;

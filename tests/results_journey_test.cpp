@@ -170,6 +170,21 @@ TEST_P(GridImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   ExpectPictureOfTheGrid(folder / "again.bmp");
 }
 
+TEST_P(GridImageJourney, AnotherProgramsWindowOverTheGridIsInThePicture) {
+  StartProgramWithRanges();
+  Analyze(kRaiseRun, kRaise);
+
+  Click("imgSave");
+  const Window dialog = Session().WaitForWindow("Save Expected Value Grid");
+  Session().Type("covered");
+  const QRect note = Session().LayNote(OnScreen("GridContainer").topLeft() + QPoint(60, 60), dialog);
+  Session().Press({"Return"});
+  Answer(Session().WaitForWindow("Open Now?"), {"alt+n"});
+  const fs::path file = Session().Program().Path / "Saved Grids" / "covered";
+  const QImage image(QString::fromStdString(file.string()), "BMP");
+  EXPECT_EQ(image.pixelColor(note.topLeft() - OnScreen("GridContainer").topLeft() + QPoint(2, 2)), QColor(Qt::yellow));
+}
+
 INSTANTIATE_TEST_SUITE_P(Window, GridImageJourney,
                          testing::Values(ScaleCase{"FullScale", Desk{}},
                                          ScaleCase{"DoubleScale", Desk{.Width = 2300, .Height = 1500, .Scale = 2}}),

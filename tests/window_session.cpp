@@ -216,6 +216,18 @@ void WindowSession::MoveWindow(const Window& window, QPoint corner) const {
 }
 
 // Those of the process itself: the programs of several starts have windows of the same titles.
+QRect WindowSession::LayNote(QPoint corner, const Window& keeper) {
+  const std::string place = "+" + std::to_string(corner.x()) + "+" + std::to_string(corner.y());
+  note_ = std::make_unique<RunningProgram>(Prepare("xmessage", {"-geometry", place, "-bg", "yellow", "Back at nine."}));
+  std::vector<std::string> ids;
+  WaitUntil("the note lies on the screen", [&] {
+    ids = Lines(Ask("xdotool", {"search", "--onlyvisible", "--class", "xmessage"}));
+    return !ids.empty();
+  });
+  Use({"windowfocus", "--sync", keeper.Id});
+  return PlaceOf(ids.front());
+}
+
 std::vector<std::string> WindowSession::FindIds() const {
   return Lines(Ask("xdotool", {"search", "--onlyvisible", "--all", "--pid", std::to_string(Running().Id())}));
 }

@@ -80,6 +80,9 @@ class WindowSession {
   /// How many windows of the program can be seen, opened lists among them.
   [[nodiscard]] std::size_t WindowCount() const;
   void WaitUntilGone(const Window& window) const;
+  /// Lays a small window of another program there, in front of all, and leaves the keyboard with `keeper`. Gives back
+  /// its inner area.
+  QRect LayNote(QPoint corner, const Window& keeper);
   /// Moves the outer corner of the window.
   void MoveWindow(const Window& window, QPoint corner) const;
 
@@ -129,6 +132,7 @@ class WindowSession {
   std::unique_ptr<RunningProgram> screen_;
   std::unique_ptr<RunningProgram> windowManager_;
   std::vector<std::unique_ptr<RunningProgram>> programs_;
+  std::unique_ptr<RunningProgram> note_;
   std::unique_ptr<QFile> frameBuffer_;
   const uchar* pixels_ = nullptr;
 };

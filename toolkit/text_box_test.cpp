@@ -70,6 +70,26 @@ TEST_F(TextBoxTest, StaysInTheMiddleOfItsWorkUnderAMenu) {
   EXPECT_EQ(lost.count(), 0);
 }
 
+TEST_F(TextBoxTest, CanBeLeftWhileAnotherWindowIsInFrontAndIsLeftOnce) {
+  box.setFocus(Qt::TabFocusReason);
+  QWidget window;
+  Activate(window);
+  other.setFocus();
+  EXPECT_EQ(lost.count(), 0);
+
+  box.Leave();
+  EXPECT_EQ(lost.count(), 1);
+  box.Leave();
+  Activate(form);
+  EXPECT_EQ(got.count(), 1);
+  EXPECT_EQ(lost.count(), 1);
+}
+
+TEST_F(TextBoxTest, LeavingABoxThatNobodyIsBusyInTellsNothing) {
+  box.Leave();
+  EXPECT_EQ(lost.count(), 0);
+}
+
 TEST_F(TextBoxTest, TellsOfEnterAndReturnAndOfNoOtherKey) {
   const QSignalSpy enters(&box, &TextBox::EnterPressed);
 

@@ -120,6 +120,27 @@ TEST_F(FormCardGridTest, ARepeatOfAHeldShiftKeyIsNoNewPress) {
   ShiftUp();
 }
 
+// Both Shift keys: one that went down while another program had the keyboard and stays down, and one that is pressed
+// and released here. The window system's event comes to the window and again to the control in it.
+TEST_F(FormCardGridTest, AReleaseThatComesTwiceIsOneRelease) {
+  const auto send = [this](QEvent::Type type, quint64 when) {
+    for (int i = 0; i < 2; ++i) {
+      QKeyEvent event(type, Qt::Key_Shift, Qt::ShiftModifier);
+      event.setTimestamp(when);
+      QCoreApplication::sendEvent(&Form, &event);
+    }
+  };
+  Stage.ShiftHeld = true;
+  Click("AJs");
+  EXPECT_EQ(Text(), TextWith("AKs AQs AJs"));
+  send(QEvent::KeyPress, 1000);
+  Click("QQ");
+  EXPECT_EQ(Text(), TextWith("AA KK QQ AKs AQs AJs"));
+  send(QEvent::KeyRelease, 2000);
+  Click("A5s");
+  EXPECT_EQ(Text(), TextWith("AA KK QQ AKs AQs AJs A5s")) << "the press that is held has had its sweep";
+}
+
 TEST_F(FormCardGridTest, AShiftPressThatEndedBeforeTheClickIsNone) {
   ShiftDown();
   ShiftUp();

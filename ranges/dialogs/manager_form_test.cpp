@@ -15,26 +15,6 @@ const InputQuestion kNewQuestion = {"What do you want to name the range?", "Rena
 const InputQuestion kSaveAsQuestion = {"What do you want to call the new range?", "Pick a Name", "Button Shove"};
 const InputQuestion kRenameQuestion = {"What do you want to rename the range to?", "Rename Range", "Button Shove"};
 
-Message Saved(const std::string& name) {
-  return {"Quillon", "The range \"" + name + "\" was saved successfully!"};
-}
-
-Message NameTaken(const std::string& name) {
-  return {"Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.",
-          MessageIcon::kStop};
-}
-
-Message AskDelete(const std::string& name) {
-  return {"Delete?", "Do you really want to delete \"" + name + "\"?", MessageIcon::kQuestion,
-          MessageButtons::kYesNoCancel};
-}
-
-Message AskSave(const std::string& name) {
-  return {"Save Range?",
-          "The range \"" + name + "\" has changed since you last saved it.\r\n\r\nDo you want to save the range now?",
-          MessageIcon::kQuestion, MessageButtons::kYesNoCancel};
-}
-
 class ManagerFormTest : public testing::Test {
  public:
   ManagerFormTest() { Stage.OpenManager(); }
@@ -137,7 +117,7 @@ TEST_F(ManagerFormTest, NewSavesAndShowsAnEmptyRange) {
 TEST_F(ManagerFormTest, NewWithATakenNameLeavesAllAsItWas) {
   Cell("22");
   ExpectInputBox(kNewQuestion, "Tight");
-  ExpectMessageBox(NameTaken("Tight"));
+  ExpectMessageBox(Exists("Tight"));
   Click("imgNew");
   EXPECT_EQ(Title(), "Button Shove");
   EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
@@ -169,7 +149,7 @@ TEST_F(ManagerFormTest, SaveAsLeavesTheOldFileAndSelectsTheNewName) {
 
 TEST_F(ManagerFormTest, SaveAsWithTheNameOnOfferIsRefused) {
   ExpectInputBox(kSaveAsQuestion, "Button Shove");
-  ExpectMessageBox(NameTaken("Button Shove"));
+  ExpectMessageBox(Exists("Button Shove"));
   Click("imgSaveAs");
   EXPECT_EQ(Selected(), "Button Shove");
 }
@@ -186,13 +166,13 @@ TEST_F(ManagerFormTest, RenameSavesTheGridUnderTheNewName) {
 
 TEST_F(ManagerFormTest, RenameThatIsCancelledIsTold) {
   ExpectInputBoxCancelled(kRenameQuestion);
-  ExpectMessageBox({"Error", "You must choose a name for this range.", MessageIcon::kStop});
+  ExpectMessageBox(NoName());
   Click("imgRename");
   EXPECT_EQ(Title(), "Button Shove");
 }
 
 TEST_F(ManagerFormTest, DeleteAsksAndThenShowsTheFirstRangeLeft) {
-  ExpectMessageBox(AskDelete("Button Shove"), MessageAnswer::kYes);
+  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kYes);
   Click("imgDelete");
   EXPECT_FALSE(RangeExists(Stage.Program.Folder(), "Button Shove"));
   EXPECT_EQ(Title(), "Tight");
@@ -200,26 +180,26 @@ TEST_F(ManagerFormTest, DeleteAsksAndThenShowsTheFirstRangeLeft) {
 }
 
 TEST_F(ManagerFormTest, DeleteKeepsTheRangeOnAnyOtherAnswer) {
-  ExpectMessageBox(AskDelete("Button Shove"), MessageAnswer::kNo);
+  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kNo);
   Click("imgDelete");
-  ExpectMessageBox(AskDelete("Button Shove"), MessageAnswer::kCancel);
+  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kCancel);
   Click("imgDelete");
-  ExpectMessageBoxClosed(AskDelete("Button Shove"));
+  ExpectMessageBoxClosed(AskToDelete("Button Shove"));
   Click("imgDelete");
   EXPECT_TRUE(RangeExists(Stage.Program.Folder(), "Button Shove"));
 }
 
 TEST_F(ManagerFormTest, TheGridGoesOnShowingTheLastRangeDeleted) {
   SelectRow(1);
-  ExpectMessageBox(AskDelete("Tight"), MessageAnswer::kYes);
+  ExpectMessageBox(AskToDelete("Tight"), MessageAnswer::kYes);
   Click("imgDelete");
-  ExpectMessageBox(AskDelete("Button Shove"), MessageAnswer::kYes);
+  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kYes);
   Click("imgDelete");
   EXPECT_EQ(Selected(), "");
   EXPECT_EQ(Title(), "Button Shove");
   EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
 
-  ExpectMessageBox(AskSave(""), MessageAnswer::kNo);
+  ExpectMessageBox(AskToSave(""), MessageAnswer::kNo);
   Click("cmdOK");
   EXPECT_TRUE(IsClosed());
 }
@@ -248,7 +228,7 @@ TEST_F(ManagerFormTest, EnterOnTheOkButtonPressesIt) {
 
 TEST_F(ManagerFormTest, OkSavesOnYesAndCloses) {
   Cell("22");
-  ExpectMessageBox(AskSave("Button Shove"), MessageAnswer::kYes);
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kYes);
   ExpectMessageBox(Saved("Button Shove"));
   Click("cmdOK");
   EXPECT_TRUE(IsClosed());
@@ -257,7 +237,7 @@ TEST_F(ManagerFormTest, OkSavesOnYesAndCloses) {
 
 TEST_F(ManagerFormTest, OkDropsTheChangesOnNo) {
   Cell("22");
-  ExpectMessageBox(AskSave("Button Shove"), MessageAnswer::kNo);
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kNo);
   Click("cmdOK");
   EXPECT_TRUE(IsClosed());
   EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
@@ -265,7 +245,7 @@ TEST_F(ManagerFormTest, OkDropsTheChangesOnNo) {
 
 TEST_F(ManagerFormTest, OkStaysOpenOnCancel) {
   Cell("22");
-  ExpectMessageBox(AskSave("Button Shove"), MessageAnswer::kCancel);
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kCancel);
   Click("cmdOK");
   EXPECT_TRUE(Form().isVisible());
   EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
@@ -279,7 +259,7 @@ TEST_F(ManagerFormTest, AWeightThatTheGridCannotShowCountsAsChanged) {
   SelectRow(1);
   ASSERT_EQ(Title(), "Odd");
   EXPECT_EQ(Summary(), "AA");
-  ExpectMessageBox(AskSave("Odd"), MessageAnswer::kYes);
+  ExpectMessageBox(AskToSave("Odd"), MessageAnswer::kYes);
   ExpectMessageBox(Saved("Odd"));
   Click("cmdOK");
   EXPECT_EQ(FileText("Odd"), TextWith("AA"));

@@ -11,12 +11,6 @@
 namespace quillon {
 namespace {
 
-const Message kNoName = {"Error", "You must choose a name for this range.", MessageIcon::kStop};
-
-Message Saved(const std::string& name) {
-  return {"Quillon", "The range \"" + name + "\" was saved successfully!"};
-}
-
 class NewRangeFormTest : public testing::Test {
  public:
   NewRangeFormTest() {
@@ -125,14 +119,14 @@ TEST_F(NewRangeFormTest, EnterInTheNameIsAClickOnOk) {
 
 TEST_F(NewRangeFormTest, EnterWithARefusedNameLeavesTheDialogOpen) {
   Cell("AA");
-  ExpectMessageBox(kNoName);
+  ExpectMessageBox(NoName());
   QTest::keyClick(&Name(), Qt::Key_Return);
   EXPECT_TRUE(Form().isVisible());
   EXPECT_EQ(GridText(), TextWith("AA"));
 }
 
 TEST_F(NewRangeFormTest, OkWithoutANameLeavesTheDialogOpen) {
-  ExpectMessageBox(kNoName);
+  ExpectMessageBox(NoName());
   Click("cmdOK");
   EXPECT_TRUE(Form().isVisible());
 }

@@ -299,6 +299,12 @@ TEST_F(DetailsInWindow, WhatIsSelectedStays) {
   EXPECT_EQ(ReportText(), before + "\n[COLOR=\"DimGray\"]EV for AA = 0.85 * (200) - 50 = +120[/COLOR]\n");
 }
 
+TEST_F(DetailsInWindow, NoHandIsPickedAtFirst) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  EXPECT_EQ(Get<QComboBox>("cmbo169").currentIndex(), -1);
+}
+
 TEST_F(DetailsInWindow, ANewReportHoldsNoTraceOfThePick) {
   ShowDetailsOf(sample::CallState());
   PickForum();

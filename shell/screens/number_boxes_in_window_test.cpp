@@ -111,6 +111,20 @@ TEST_F(NumberBoxesInWindow, AnotherWindowInFrontLeavesTheBoxAsItIs) {
   EXPECT_EQ(Get<Shape>("ShapeBorder", 0).LineWidth(), 3);
 }
 
+TEST_F(NumberBoxesInWindow, ARunThatEndsBehindAnotherWindowLeavesTheBox) {
+  EnterEquity("Tight");
+  DuringRun("50%", [this] {
+    Open(kCallNav);
+    Type(0, "=1+1");
+    Click("lblRangeManager");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  });
+  Click("cmdPreflopEV", 2);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_EQ(BoxText(0), "2");
+  EXPECT_EQ(Get<Shape>("ShapeBorder", 0).LineWidth(), 1);
+}
+
 TEST_F(NumberBoxesInWindow, TextIsCentredInABoxWithoutABorder) {
   for (std::int16_t i = 0; i < 5; ++i) {
     const auto& box = Get<QLineEdit>("txtNumber", i);
