@@ -117,6 +117,7 @@ TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
            Row{"the cards the other way round are in no hand", "Kh As", "Yy", 0},
            Row{"suit, blank and rank are searched across the cards", "s K", "Yy", 4 + 3},
            Row{"more than a hand is in no hand", "As Kh ", "Yy", 0},
+           Row{"more than a card is in no hand", "Ahx", "Yy", 0},
            Row{"letters are compared with case", "as", "AS", 0},
        }) {
     const HandList hands = BuildCombos(row.dead1, row.dead2);

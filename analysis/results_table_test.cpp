@@ -99,6 +99,7 @@ TEST(GetHandInfo, ReadsWhatWasWritten) {
 TEST(GetHandInfo, LooksAtEveryPiece) {
   EXPECT_EQ(GetHandInfo("", "AA", 1), 0);
   EXPECT_EQ(GetHandInfo("AA\t5", "AA", 1), 5) << "a row without line end is read";
+  EXPECT_EQ(GetHandInfo("AA\t5", "KK", 1), 0) << "and by its key";
   EXPECT_EQ(GetHandInfo("\r\n\r\nAA\t5\t\r\n", "AA", 1), 5) << "empty rows are passed over";
   EXPECT_EQ(GetHandInfo("AA\t5\t\r\nAA\t6\t\r\n", "AA", 1), 5) << "the first row of a key counts";
   EXPECT_EQ(GetHandInfo("\r\n\t7\t\r\n", "", 1), 7) << "a row may have an empty key";

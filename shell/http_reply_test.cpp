@@ -41,6 +41,7 @@ TEST(HttpReply, HasItsBody) {
       Row{"another status of success", "HTTP/1.1 203 So they say\r\n\r\n1.0", "1.0"},
       Row{"lines that end with LF", "HTTP/1.0 200 OK\nContent-Length: 3\n\n1.0", "1.0"},
       Row{"names in any case, blanks round values", "HTTP/1.1 200 OK\r\ncontent-LENGTH:\t 3 \r\n\r\n1.0", "1.0"},
+      Row{"no blank before the value", "HTTP/1.1 200 OK\r\nContent-Length:3\r\n\r\n1.0rest", "1.0"},
       Row{"the same length twice", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\nContent-Length: 3\r\n\r\n1.0", "1.0"},
       Row{"coding that is none", "HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n\r\n1.0", "1.0"},
       Row{"field without a value", "HTTP/1.1 200 OK\r\nX-Empty:\r\n\r\n1.0", "1.0"},
@@ -112,12 +113,13 @@ TEST(HttpReply, TellsRedirectsFromTheRest) {
   constexpr std::array kRows = {
       Row{100, false}, Row{199, false}, Row{200, false}, Row{299, false}, Row{300, false},
       Row{301, true},  Row{302, true},  Row{303, true},  Row{304, false}, Row{307, true},
-      Row{308, true},  Row{404, false}, Row{500, false}, Row{999, false},
+      Row{308, true},  Row{404, false}, Row{418, false}, Row{500, false}, Row{999, false},
   };
   for (const Row& row : kRows) {
     HttpReplyReader reader;
     reader.Take("HTTP/1.1 " + std::to_string(row.Status) + " X\r\nContent-Length: 0\r\n\r\n");
     EXPECT_EQ(reader.Now(), State::kWhole) << row.Status;
+    EXPECT_EQ(reader.Reply().Status, row.Status);
     EXPECT_EQ(reader.Reply().Redirects(), row.Redirects) << row.Status;
   }
 }

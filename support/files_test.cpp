@@ -16,6 +16,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "support/closed_input.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
@@ -202,6 +203,12 @@ TEST_F(ReadingBytes, GivesEveryByteAsItIs) {
   EXPECT_EQ(ReadAllBytes(File()), bytes);
 }
 
+TEST_F(ReadingBytes, NeedsNoStandardInput) {
+  Put(File(), kOld);
+  const ClosedInput closed;
+  EXPECT_EQ(ReadAllBytes(File()), kOld);
+}
+
 TEST_F(ReadingBytes, WhatCannotBeReadIsEmpty) {
   EXPECT_EQ(ReadAllBytes(Folder() / "missing.txt"), "") << "a missing file";
   EXPECT_EQ(ReadAllBytes(Folder() / "missing" / "missing.txt"), "") << "a file in a missing folder";
@@ -357,6 +364,21 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
     renamed = renamed || entry.call == Call::kRename;
   }
   EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kSync, Call::kClose));
+}
+
+TEST_F(ReplacingAFile, NeedsNoStandardInput) {
+  Put(File(), kOld);
+  FaultyFileCalls calls;
+  {
+    const ClosedInput closed;
+    ReplaceFile(File(), kNew, ScratchFolder(), calls);
+  }
+  EXPECT_EQ(Content(File()), kNew);
+  const auto count = [&calls](Call call) {
+    return std::ranges::count(calls.Made(), call, &FaultyFileCalls::Entry::call);
+  };
+  EXPECT_EQ(count(Call::kSync), 2) << "the file and its folder";
+  EXPECT_EQ(count(Call::kClose), count(Call::kOpen));
 }
 
 TEST_F(ReplacingAFile, ScratchFileStandsInItsFolderUnderANameOfItsOwn) {

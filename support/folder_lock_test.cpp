@@ -10,6 +10,7 @@
 #include <thread>
 #include <unistd.h>
 
+#include "support/closed_input.h"
 #include "support/passing_calls.h"
 
 namespace quillon {
@@ -58,6 +59,12 @@ TEST_F(LockingAFolder, OneHasItAtATime) {
 TEST_F(LockingAFolder, LeavesNothingInTheFolder) {
   { const FolderLock lock(Folder()); }
   EXPECT_TRUE(std::filesystem::is_empty(Folder()));
+}
+
+TEST_F(LockingAFolder, NeedsNoStandardInput) {
+  const ClosedInput closed;
+  const FolderLock lock(Folder());
+  EXPECT_TRUE(lock.Held());
 }
 
 TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {

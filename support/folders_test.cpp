@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/closed_input.h"
 #include "support/passing_calls.h"
 #include "support/run_time_error.h"
 
@@ -94,6 +95,11 @@ TEST_F(Folders, ExistWhereTheyCanBeListed) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(FolderExists(c.path), c.exists) << c.rule;
+}
+
+TEST_F(Folders, AreSeenWithoutAStandardInput) {
+  const ClosedInput closed;
+  EXPECT_TRUE(FolderExists(Home()));
 }
 
 TEST_F(Folders, AnyErrorCountsAsNotExisting) {
