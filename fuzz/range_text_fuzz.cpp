@@ -8,6 +8,7 @@
 #include "ranges/range_text.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
+#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -37,8 +38,9 @@ std::optional<double> Weight(std::string_view text, std::string_view label) {
   }
 }
 
+// In a file each character is one byte.
 void CheckLabel(const std::string& text, const std::string& label) {
-  const std::optional<double> weight = Weight(text, label);
+  const std::optional<double> weight = Weight(Utf8FromWindows1252(text), Utf8FromWindows1252(label));
   Require(weight == PlainWeight(text, label), "a weight equals the plain one");
   Require(!weight || std::isfinite(*weight), "a weight is finite");
 }
@@ -59,7 +61,7 @@ std::optional<double> PlainCombos(const std::string& text) {
 void CheckSum(const std::string& text) {
   const std::optional<double> plain = PlainCombos(text);
   try {
-    const double combos = SelectedCombos(text);
+    const double combos = SelectedCombos(Utf8FromWindows1252(text));
     Require(combos == plain, "the selected hands are the plain ones");
     Require(SelectionCaption(combos).ends_with("% selected"), "every sum has a caption");
   } catch (const RunTimeError&) {

@@ -1,5 +1,6 @@
 #include "ranges/range_text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -13,6 +14,7 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kLongestUsualEntry = 11;  // "AKs (0.5), "
+constexpr std::size_t kBetweenLabelAndNumber = 2;  // " ("
 
 [[noreturn]] void FailWithoutWeight(std::string_view label) {
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "the range text holds no weight for " + std::string(label));
@@ -32,6 +34,21 @@ std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t foun
   return digit;
 }
 
+bool StartsCharacter(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+}
+
+// The place in a UTF-8 text that lies so many characters behind another one. In a range's file each is one byte, and
+// places in it are counted so.
+std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t characters) {
+  for (; characters > 0; --characters) {
+    ++place;
+    while (place < text.size() && !StartsCharacter(text[place]))
+      ++place;
+  }
+  return place;
+}
+
 double WeightShownOnGrid(double weight) {
   return weight == 1 || weight == 0.5 ? weight : 0;
 }
@@ -42,10 +59,12 @@ double RangeWeightOf(std::string_view text, std::string_view label) {
   const std::size_t found = FindText(text, label);
   if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;
 
-  // A position counted from 1, 0 for a label that is missing: the fallback for missing classes rests on it.
-  const std::size_t position = found == std::string_view::npos ? 0 : found + 1;
-  const std::size_t start = position + label.size() + 1;
-  const std::size_t end = text.find(')', position);
+  // A label that is missing counts as standing one place before the text: the fallback for missing classes rests on it.
+  const bool missing = found == std::string_view::npos;
+  const auto length = static_cast<std::size_t>(std::count_if(label.begin(), label.end(), StartsCharacter));
+  const std::size_t start =
+      missing ? PlaceBehind(text, 0, length + 1) : PlaceBehind(text, found + label.size(), kBetweenLabelAndNumber);
+  const std::size_t end = text.find(')', missing ? 0 : found + 1);
   if (end == std::string_view::npos || end < start) FailWithoutWeight(label);
   return LeadingNumber(text.substr(start, end - start));
 }

@@ -33,7 +33,7 @@ using ClassWeights = std::array<double, kHandClassCount>;
 ///
 /// A label that does not occur is taken to start one place before the text, so it reads what stands before the first
 /// ")": with "AA (1), " a missing "72o" reads 1, since its number starts at the fifth character, and a missing "22"
-/// reads 0, since its number starts at the fourth, and "(1" is none.
+/// reads 0, since its number starts at the fourth, and "(1" is none. The text is UTF-8, and characters are counted.
 ///
 /// RunTimeError "Invalid procedure call or argument" if there is no ")" behind the label, as in the empty text, or it
 /// comes before the number's place.

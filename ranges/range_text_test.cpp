@@ -32,6 +32,8 @@ TEST(RangeWeightOf, ReadsTheNumberBehindTheFirstOccurrence) {
       {"a number ends at what is none", "AA (0.5x), ", "AA", 0.5},
       {"blanks in a number are skipped", "AA ( 0 . 5 ), ", "AA", 0.5},
       {"any two characters may stand before the number", "AA=:1)", "AA", 1},
+      {"one of them may be no ASCII", "AA½(1)", "AA", 1},
+      {"or both", "AA‘€1)", "AA", 1},
       {"without the blank the number loses its first digit", "AA(0.5), ", "AA", 0.5},
       {"without the blank a number of one digit is lost", "AA(1), ", "AA", 0},
       {"remarks between entries", "my notes: AA (1), (loose) KK (0.5), ", "KK", 0.5},
@@ -52,6 +54,7 @@ TEST(RangeWeightOf, MissingClassReadsWhatStandsBeforeTheFirstBracket) {
       {"three characters, half", "AA (0.5), AKs (1), ", "AKo", 0.5},
       {"a first entry of three characters gives no number", "AKs (1), AA (1), ", "72o", 0},
       {"nor to two characters", "AKs (1), AA (1), ", "22", 0},
+      {"characters count, not bytes", "éé (1), AKs (0), ", "72o", 1},
       {"the number's place may be the bracket's own", "AKs ) AA (1), ", "72o", 0},
   };
   for (const WeightCase& c : cases)
@@ -84,6 +87,7 @@ TEST(RangeWeightOf, WithoutABracketInReachIsFatal) {
       {"a bracket one behind the label", "AA ) 1)", "AA"},
       {"a missing class and a bracket at the start", ")AA (1), ", "72o"},
       {"a missing class and a bracket one too early", "AA )", "72o"},
+      {"a missing class and a bracket one too early in characters", "éé )", "72o"},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(FaultOf([&] { return RangeWeightOf(c.text, c.label); }), RunTimeFault::kInvalidProcedureCall) << c.rule;
