@@ -5,10 +5,12 @@
 
 #include <arpa/inet.h>
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <mutex>
 #include <netinet/in.h>
+#include <poll.h>
 #include <string>
 #include <string_view>
 #include <sys/socket.h>
@@ -48,6 +50,12 @@ class LoopbackConnection {
   void WaitUntilTheOtherEndIsGone() const {
     while (Receive(nullptr)) {
     }
+  }
+
+  /// Comes back after that time, or with false as soon as the other end is gone.
+  [[nodiscard]] bool Pause(std::chrono::milliseconds time) const {
+    pollfd other = {.fd = socket_, .events = POLLRDHUP, .revents = 0};
+    return poll(&other, 1, static_cast<int>(time.count())) == 0;
   }
 
   /// Ends the connection as a crash would, not as a host does that has said all.

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: a web that answers what it is told to, and keeps what it was asked for.
+// For tests: a web that answers what it is told to, or what a web behind it says, and keeps what it was asked for.
 
 #include <deque>
 #include <functional>
@@ -19,6 +19,7 @@ class RecordedWeb : public WebClient {
   std::string Get(std::string_view address) override {
     Asked.emplace_back(address);
     if (WhileAsked) WhileAsked();
+    if (Behind != nullptr) return Behind->Get(address);
     if (Replies.empty()) return {};
     std::string reply = Replies.front();
     Replies.pop_front();
@@ -27,6 +28,7 @@ class RecordedWeb : public WebClient {
 
   std::vector<std::string> Asked;
   std::deque<std::string> Replies;  // to the requests to come, the first first; they fail once these are used up
+  WebClient* Behind = nullptr;  // answers in place of the replies, where there is one
   std::function<void()> WhileAsked;  // looks at things while a request is on its way
 };
 

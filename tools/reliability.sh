@@ -2,7 +2,8 @@
 # Puts the program under strain and measures what becomes of it: the rows of docs/reliability.md, in their order.
 #
 #   tools/reliability.sh                 all of it, for some hours
-#   tools/reliability.sh ROW ...         fuzz, files, kills, together, soak, valgrind, mutation, sanitizers, coverage
+#   tools/reliability.sh ROW ...         fuzz, files, kills, together, input, web, soak, valgrind, mutation,
+#                                        sanitizers, coverage
 #
 # FUZZ_SECONDS is how long each fuzz target runs, 600 unless set.
 set -euo pipefail
@@ -48,6 +49,16 @@ together() {
   build/dev/bin/saving_journey_test --gtest_brief=1 --gtest_filter='*AtOnce*' --gtest_repeat=20
 }
 
+input() {
+  build dev bad_input_test
+  QUILLON_BAD_INPUTS=10000 build/dev/bin/bad_input_test --gtest_brief=1
+}
+
+web() {
+  build dev web_journey_test
+  build/dev/bin/web_journey_test --gtest_brief=1
+}
+
 soak() {
   build dev soak_test
   QUILLON_SOAK=167 build/dev/bin/soak_test --gtest_brief=1
@@ -59,17 +70,17 @@ valgrind_soak() {
     --suppressions=tests/valgrind.supp build/dev/bin/soak_test --gtest_brief=1
 }
 
-for row in "${@:-fuzz files kills together soak valgrind mutation sanitizers coverage}"; do
+for row in "${@:-fuzz files kills together input web soak valgrind mutation sanitizers coverage}"; do
   for part in $row; do
     echo "== $part"
     case "$part" in
-      fuzz | files | kills | together | soak) "$part" ;;
+      fuzz | files | kills | together | input | web | soak) "$part" ;;
       valgrind) valgrind_soak ;;
       mutation) tools/mutate.py ;;
       sanitizers) ./check asan ;;
       coverage) tools/coverage.sh ;;
       *)
-        sed -n '2,7s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
+        sed -n '2,8s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
         exit 2
         ;;
     esac

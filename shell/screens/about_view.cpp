@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
+#include <QTextDocument>
 #include <QUrl>
 #include <chrono>
 #include <utility>
@@ -81,7 +82,11 @@ void AboutView::OpenAddress(std::string_view address) {
 }
 
 std::string AboutView::FeedbackText() const {
-  return LinesFromQt(controls_.Get<QPlainTextEdit>("txtFeedback").toPlainText());
+  // What Qt calls the plain text has a blank where the box has a no-break space.
+  QString text = controls_.Get<QPlainTextEdit>("txtFeedback").document()->toRawText();
+  for (const QChar lineEnd : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+    text.replace(lineEnd, QLatin1Char('\n'));
+  return LinesFromQt(text);
 }
 
 void AboutView::SetFeedbackText(std::string_view text) {

@@ -1,7 +1,7 @@
 #pragma once
 
 // For tests: the main window with its dialogs on a program folder of its own. It speaks in real boxes
-// ("toolkit/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web.
+// ("toolkit/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web but one that a test gives it.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -46,12 +46,25 @@ inline constexpr std::int16_t kEquityNav = 2;
 inline constexpr std::int16_t kGridNavIndex = 3;
 inline constexpr std::int16_t kDetailsNavIndex = 4;
 
+/// What the window of a stage takes for the time.
+enum class StageClock : std::uint8_t {
+  kHurried,  // goes on by 700 milliseconds whenever it is looked at
+  kSystem,
+};
+
 /// The ranges are "Everything", with each hand in full, "Nothing", with none, "Pairs", with AA and KK in full and QQ at
 /// half, and "Tight", with AA, KK, AKs and AKo. The window is not started yet, so that a test can change the folder
 /// before.
 class MainStage {
  public:
-  MainStage() {
+  explicit MainStage(StageClock clock = StageClock::kHurried)
+      : Form({.Folder = Program.Folder(),
+              .Messages = Boxes,
+              .Inputs = Boxes,
+              .Web = Web,
+              .Shift = Shift,
+              .EndProcess = [this] { End(); },
+              .Clock = ClockOf(clock)}) {
     Program.Write("Everything.txt", TextWith(AllLabels()));
     Program.Write("Nothing.txt", TextWith(""));
     Program.Write("Pairs.txt", TextWith("AA KK", "QQ"));
@@ -199,18 +212,23 @@ class MainStage {
   bool ShiftHeld = false;
   int Ends = 0;
   int ActsToCome = 0;
-  std::int32_t Now = 0;  // the clock, which goes on by 700 milliseconds whenever it is looked at
+  std::function<void()> AtEnd;  // what else the end does, besides being counted
+  std::int32_t Now = 0;  // the hurried clock
   MessageDialogs Boxes;
   RecordedWeb Web;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
   RangeDialogs Dialogs{Program.Folder(), Boxes, Boxes, Shift};
-  MainForm Form{{.Folder = Program.Folder(),
-                 .Messages = Boxes,
-                 .Inputs = Boxes,
-                 .Web = Web,
-                 .Shift = Shift,
-                 .EndProcess = [this] { ++Ends; },
-                 .Clock = [this] { return Now += 700; }}};
+  MainForm Form;
+
+ private:
+  std::function<std::int32_t()> ClockOf(StageClock clock) {
+    if (clock == StageClock::kSystem) return {};
+    return [this] { return Now += 700; };
+  }
+  void End() {
+    ++Ends;
+    if (AtEnd) AtEnd();
+  }
 };
 
 /// A test on a window that has started.

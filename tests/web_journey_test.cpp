@@ -1,0 +1,631 @@
+// The web services of the About screen, with the program's own web client and a host that is really there. The window
+// runs in the test's process.
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
+#include <QTimer>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "results/web_addresses.h"
+#include "shell/loopback_host.h"
+#include "shell/screens/http_client.h"
+#include "shell/screens/main_form_fixture.h"
+#include "tests/deaf_host.h"
+#include "tests/web_host.h"
+
+namespace quillon {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kShort{500};
+constexpr milliseconds kGenerous{20'000};  // never used up, save by a test that fails
+constexpr milliseconds kSlack{3000};  // for a machine that has other things to do
+
+constexpr std::string_view kVersionFile = "/quillon/register/ver.html";
+constexpr std::string_view kFeedbackScript = "/quillon/register/benice.php";
+
+constexpr std::string_view kLatest = "You have the latest version of Quillon";
+constexpr std::string_view kDownload = "Download latest version of Quillon";
+
+const InputQuestion kAddressQuestion = {"What is your email address?", "Quillon", ""};
+const Message kSent = {.title = "Quillon", .text = "Your message has been sent."};
+const Message kNotSent = {
+    .title = "Error", .text = "There was a problem sending your message.", .icon = MessageIcon::kStop};
+
+// The program's own client, which finds the product's host on this machine.
+class LoopbackClient : public WebClient {
+ public:
+  std::string Get(std::string_view address) override {
+    const std::string productHost = "http://" + std::string(WebHost()) + "/";
+    EXPECT_TRUE(address.starts_with(productHost)) << address;
+    address.remove_prefix(productHost.size());
+    return HttpClient(Limit).Get("http://127.0.0.1:" + std::to_string(Port) + "/" + std::string(address));
+  }
+
+  std::uint16_t Port = 0;
+  milliseconds Limit = kGenerous;
+};
+
+class Stopwatch {
+ public:
+  [[nodiscard]] milliseconds Spent() const {
+    return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - start_);
+  }
+
+ private:
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+class WebStage : public MainStage {
+ public:
+  explicit WebStage(StageClock clock = StageClock::kHurried) : MainStage(clock) {
+    Web.Behind = &Client;
+    Client.Port = Host.Port();
+  }
+
+  // Does `act` once, as soon as `ready` holds while the program waits for something. A test fails where that never
+  // happens.
+  void Once(std::function<bool()> ready, std::function<void()> act) {
+    ++ActsToCome;
+    auto* timer = new QTimer(&Form);
+    QObject::connect(timer, &QTimer::timeout, &Form,
+                     [this, timer, isReady = std::move(ready), action = std::move(act)] {
+                       if (!isReady()) return;
+                       timer->stop();
+                       --ActsToCome;
+                       action();
+                     });
+    timer->start(1);
+  }
+  static bool HourglassShows() { return QGuiApplication::overrideCursor() != nullptr; }
+
+  void ExpectAnOpenEar() {
+    ComeToFront();
+    Open(kCallNav);
+    EXPECT_EQ(Screen(), "Preflop Call");
+    Click("picLogo");
+    EXPECT_TRUE(Shows("frameAboutContent"));
+  }
+
+  QPlainTextEdit& Note() { return Get<QPlainTextEdit>("txtFeedback"); }
+  void Paste(const QString& note) {
+    QGuiApplication::clipboard()->setText(note);
+    Click("txtFeedback");
+    Press(Qt::Key_V, Qt::ControlModifier);
+  }
+  void Send() {
+    ComeToFront();
+    Click("cmdSendFeedback");
+  }
+
+  LoopbackWebHost Host;
+  LoopbackClient Client;
+};
+
+// The target of the request that brings a note, whose parts are given as they travel.
+std::string FeedbackTarget(std::string_view writer, std::string_view note) {
+  return std::string(kFeedbackScript) + "?email_name=" + std::string(writer) + "&email_body=" + std::string(note);
+}
+
+std::string Repeated(std::string_view text, int times) {
+  std::string result;
+  for (int i = 0; i < times; ++i)
+    result += text;
+  return result;
+}
+
+class WebJourney : public testing::Test, public WebStage {
+ protected:
+  explicit WebJourney(StageClock clock = StageClock::kHurried) : WebStage(clock) {}
+
+  void TearDown() override {
+    EXPECT_EQ(ActsToCome, 0) << "something was to be done during a wait";
+    EXPECT_FALSE(HourglassShows());
+    EXPECT_EQ(Ends, 0);
+  }
+
+  void ExpectVersion(std::string_view latest, std::string_view link) {
+    EXPECT_EQ(Caption("lblCurrentVersion"), latest);
+    EXPECT_EQ(Shows("lblLink", 3), !link.empty());
+    if (!link.empty()) {
+      EXPECT_EQ(Caption("lblLink", 3), link);
+    }
+  }
+
+  // One after the other, so that neither is taken for the state that was there before.
+  void ExpectTheCheckToWork() {
+    Client.Port = Host.Port();
+    Client.Limit = kGenerous;
+    Host.Put(kVersionFile, {.Body = "1.0"});
+    Click("chkUpgrade");
+    ExpectVersion("N/A", "");
+    Click("chkUpgrade");
+    ExpectVersion("1", kDownload);
+  }
+  void ExpectTheNoteToGoOut() {
+    Client.Port = Host.Port();
+    Client.Limit = kGenerous;
+    Host.Put(kFeedbackScript, {.Body = "Your message was sent"});
+    ExpectInputBox(kAddressQuestion, "x@y");
+    ExpectMessageBox(kSent);
+    Send();
+    EXPECT_EQ(Note().toPlainText(), QString());
+  }
+};
+
+struct PageCase {
+  const char* Name;
+  std::optional<WebPage> Page;
+  std::string_view Latest;
+  std::string_view Link;  // empty: hidden
+};
+
+class UpgradePage : public WebJourney, public testing::WithParamInterface<PageCase> {};
+
+TEST_P(UpgradePage, IsShown) {
+  if (GetParam().Page) Host.Put(kVersionFile, *GetParam().Page);
+  Host.Put("/quillon/newest.html", {.Body = "1.25"});
+  Start();
+  const Stopwatch watch;
+  Click("chkUpgrade");
+  EXPECT_LT(watch.Spent(), kGenerous / 2);
+  ExpectVersion(GetParam().Latest, GetParam().Link);
+  EXPECT_EQ(Host.Targets().front(), kVersionFile);
+  ExpectAnOpenEar();
+  ExpectTheCheckToWork();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    WebJourney, UpgradePage,
+    testing::Values(PageCase{"OlderVersion", WebPage{.Body = "0.8"}, "0.8", kLatest},
+                    PageCase{"SameVersion", WebPage{.Body = "0.9"}, "0.9", kLatest},
+                    PageCase{"LineEndIsHarmless", WebPage{.Body = "0.9\r\n"}, "0.9", kLatest},
+                    PageCase{"NewerVersion", WebPage{.Body = "1.0"}, "1", kDownload},
+                    PageCase{"ZeroPointTenIsATenth", WebPage{.Body = "0.10"}, "0.1", kLatest},
+                    PageCase{"NoNumber", WebPage{.Body = "<html>Soon!</html>"}, "0", kLatest},
+                    PageCase{"MoreDigitsThanANumberHolds", WebPage{.Body = std::string(60, '9')}, "1E+60", kDownload},
+                    PageCase{"BelowZero", WebPage{.Body = "-1"}, "-1", kLatest},
+                    PageCase{"NoText", WebPage{.Body = ""}, "Error Connecting", ""},
+                    PageCase{"NoPage", std::nullopt, "Error Connecting", ""},
+                    PageCase{"NotFoundWithAPage", WebPage{404, "<h1>404 Not Found</h1>", ""}, "0", kLatest},
+                    PageCase{"ServerErrorWithAPage", WebPage{500, "Internal Server Error", ""}, "0", kLatest},
+                    PageCase{"ServerErrorWithoutAPage", WebPage{500, "", ""}, "Error Connecting", ""},
+                    PageCase{"MovedOnTheSameHost", WebPage{301, "", "/quillon/newest.html"}, "1.25", kDownload},
+                    PageCase{"MovedInARing", WebPage{302, "", "ver.html"}, "Error Connecting", ""},
+                    PageCase{"MovedNowhere", WebPage{302, "0.9", ""}, "Error Connecting", ""}),
+    CaseName<PageCase>);
+
+TEST_F(WebJourney, UpgradeCheckFollowsNobodyToAnotherHost) {
+  LoopbackWebHost other;
+  other.Put(kVersionFile, {.Body = "1.0"});
+  const std::string port = std::to_string(other.Port());
+  Start();
+  for (const std::string_view host : {"127.0.0.1", "localhost"}) {
+    Host.Put(kVersionFile, {302, "", "http://" + std::string(host) + ":" + port + std::string(kVersionFile)});
+    Click("chkUpgrade");
+    ExpectVersion("Error Connecting", "");
+    Click("chkUpgrade");
+  }
+  EXPECT_TRUE(other.Targets().empty());
+  ExpectAnOpenEar();
+}
+
+TEST_F(WebJourney, AStartWithTheSettingOnAsksTheHostTwice) {
+  WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+  Host.Put(kVersionFile, {.Body = "1.0"});
+  Start();
+  EXPECT_EQ(Host.Targets(), (std::vector<std::string>{std::string(kVersionFile), std::string(kVersionFile)}));
+  ExpectVersion("1", kDownload);
+  ExpectAnOpenEar();
+}
+
+TEST_F(WebJourney, AStartWithAHostThatDoesNotAnswerTakesTheLimitTwice) {
+  const LoopbackHost silent([](LoopbackConnection& connection) { connection.WaitUntilTheOtherEndIsGone(); });
+  WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+  Client.Port = silent.Port();
+  Client.Limit = kShort;
+  const Stopwatch watch;
+  Start();
+  EXPECT_GE(watch.Spent(), 2 * kShort);
+  EXPECT_LT(watch.Spent(), 2 * kShort + kSlack);
+  ExpectVersion("Error Connecting", "");
+  ExpectAnOpenEar();
+  RunCall("150", "50", "Pairs");
+  EXPECT_FALSE(Form.State().HandInfo.empty()) << "the start went on after it";
+}
+
+// What a host can do to a request that no good one would. It says "0.9" and "sent", yet never as a reply that is whole.
+struct BadHostCase {
+  const char* Name;
+  LoopbackHost::Serve Serve;
+  bool UsesUpTheLimit;
+};
+
+void SendHundredMegabytes(const LoopbackConnection& connection) {
+  const std::string block = Repeated("0.9 sent", 8 << 10);
+  for (std::size_t sent = 0; sent < (std::size_t{100} << 20) && connection.Send(block);)
+    sent += block.size();
+}
+
+std::vector<BadHostCase> BadHosts() {
+  constexpr std::string_view kHead = "HTTP/1.1 200 OK\r\n\r\n";
+  constexpr std::string_view kLongHead = "HTTP/1.1 200 OK\r\nContent-Length: 104857600\r\n\r\n";
+  constexpr std::string_view kHalf = "HTTP/1.1 200 OK\r\nContent-Length: 16\r\n\r\n0.9 sent";
+  return {
+      {"HundredMegabytes",
+       [=](LoopbackConnection& connection) {
+         connection.Send(kHead);
+         SendHundredMegabytes(connection);
+       },
+       false},
+      {"HundredMegabytesAsAnnounced",
+       [=](LoopbackConnection& connection) {
+         connection.Send(kLongHead);
+         SendHundredMegabytes(connection);
+       },
+       false},
+      {"HundredMegabytesThatDoNotCome",
+       [=](LoopbackConnection& connection) {
+         connection.Send(kLongHead);
+         connection.WaitUntilTheOtherEndIsGone();
+       },
+       false},
+      {"AByteASecond",
+       [=](LoopbackConnection& connection) {
+         connection.Send(std::string(kHead) + "0.9 sent");
+         do {
+           connection.Send("1");
+         } while (connection.Pause(milliseconds(1000)));
+       },
+       true},
+      {"SilentAfterTheConnection", [](LoopbackConnection& connection) { connection.WaitUntilTheOtherEndIsGone(); },
+       true},
+      {"SilentAfterTheHead",
+       [=](LoopbackConnection& connection) {
+         connection.Send(kHead);
+         connection.WaitUntilTheOtherEndIsGone();
+       },
+       true},
+      {"ClosesAtOnce", [](LoopbackConnection& /*connection*/) {}, false},
+      {"ClosesHalfWay", [=](LoopbackConnection& connection) { connection.Send(kHalf); }, false},
+      {"BreaksHalfWay",
+       [=](LoopbackConnection& connection) {
+         connection.Send(kHalf);
+         static_cast<void>(connection.Pause(milliseconds(50)));  // until the bytes are there, which a break takes back
+         connection.Break();
+       },
+       false},
+  };
+}
+
+class BadHost : public WebJourney, public testing::WithParamInterface<BadHostCase> {
+ protected:
+  void Meet(const LoopbackHost& host) {
+    Client.Port = host.Port();
+    Client.Limit = GetParam().UsesUpTheLimit ? kShort : kGenerous;
+  }
+  static void ExpectTheTimeOf(const Stopwatch& watch) {
+    if (GetParam().UsesUpTheLimit) {
+      EXPECT_GE(watch.Spent(), kShort);
+      EXPECT_LT(watch.Spent(), kShort + kSlack);
+    } else {
+      EXPECT_LT(watch.Spent(), kGenerous / 2);
+    }
+  }
+};
+
+TEST_P(BadHost, FailsAnUpgradeCheck) {
+  const LoopbackHost host(GetParam().Serve);
+  Meet(host);
+  Start();
+  const Stopwatch watch;
+  Click("chkUpgrade");
+  ExpectTheTimeOf(watch);
+  ExpectVersion("Error Connecting", "");
+  EXPECT_EQ(host.Requests().size(), 1U);
+  ExpectAnOpenEar();
+  ExpectTheCheckToWork();
+}
+
+TEST_P(BadHost, FailsANoteThatStaysForASecondAttempt) {
+  const LoopbackHost host(GetParam().Serve);
+  Meet(host);
+  Start();
+  Paste(QStringLiteral("abc"));
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectMessageBox(kNotSent);
+  const Stopwatch watch;
+  Send();
+  ExpectTheTimeOf(watch);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(host.Requests().size(), 1U);
+  EXPECT_EQ(Note().toPlainText(), QStringLiteral("abc"));
+  EXPECT_FALSE(HourglassShows());
+  ExpectAnOpenEar();
+  ExpectTheNoteToGoOut();
+}
+
+INSTANTIATE_TEST_SUITE_P(WebJourney, BadHost, testing::ValuesIn(BadHosts()), CaseName<BadHostCase>);
+
+TEST_F(WebJourney, AHostThatCannotBeReachedFailsACheckAtTheLimit) {
+  const DeafHost host;
+  ASSERT_NE(host.Port(), 0);
+  Client.Port = host.Port();
+  Client.Limit = kShort;
+  Start();
+  const Stopwatch watch;
+  Click("chkUpgrade");
+  EXPECT_GE(watch.Spent(), kShort);
+  EXPECT_LT(watch.Spent(), kShort + kSlack);
+  ExpectVersion("Error Connecting", "");
+  ExpectAnOpenEar();
+  ExpectTheCheckToWork();
+}
+
+struct NoteCase {
+  const char* Name;
+  std::string Note;
+  std::string Encoded;
+};
+
+class FeedbackNote : public WebJourney, public testing::WithParamInterface<NoteCase> {};
+
+TEST_P(FeedbackNote, ReachesTheHostByteForByte) {
+  Host.Put(kFeedbackScript, {.Body = "sent"});
+  Start();
+  Paste(ToQt(GetParam().Note));
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectMessageBox(kSent);
+  Send();
+  EXPECT_EQ(Host.Targets(), std::vector<std::string>{FeedbackTarget("%78%40%79", GetParam().Encoded)});
+  EXPECT_EQ(Note().toPlainText(), QString());
+  EXPECT_FALSE(HourglassShows());
+  ExpectAnOpenEar();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    WebJourney, FeedbackNote,
+    testing::Values(
+        NoteCase{"Three", "a+b", "%61%2B%62"},  //
+        NoteCase{"Thousand", Repeated("a", 1000), Repeated("%61", 1000)},
+        NoteCase{"ThousandUmlauts", Repeated("ä", 1000), Repeated("%E4", 1000)},
+        NoteCase{"ThousandOutsideTheCodePage", Repeated("漢", 1000), Repeated("%3F", 1000)},
+        NoteCase{"LineEndsAreTwoEach", Repeated("a", 996) + "\n\n", Repeated("%61", 996) + "%0D%0A%0D%0A"},
+        NoteCase{"LineEndsFromElsewhere", "a\r\nb", "%61%0D%0A%62"},
+        NoteCase{"LineEndBeforeA1", "a\n¡b", "%61%0D%0A%A1%62"}, NoteCase{"LineEndAlone", "a\n", "%61%0D%0A"},
+        NoteCase{"Tab", "a\tb", "%61%9%62"}, NoteCase{"ControlCharacters", "a\f\x01z", "%61%C%1%7A"},
+        NoteCase{"NoBreakSpace", "a\u00A0b", "%61%A0%62"}, NoteCase{"LineSeparator", "a\u2028b", "%61%0D%0A%62"},
+        NoteCase{"Umlauts", "Äöü ß", "%C4%F6%FC%20%DF"}, NoteCase{"EuroAndQuotes", "“5 €”", "%93%35%20%80%94"},
+        NoteCase{"OutsideTheCodePage", "Ω漢→b", "%3F%3F%3F%62"},
+        NoteCase{"OutsideTheBasicPlane", "a\U0001F0A1b", "%61%3F%62"},
+        NoteCase{"WhatAQueryIsMadeOf", "?&=#%/ ", "%3F%26%3D%23%25%2F%20"}),
+    CaseName<NoteCase>);
+
+struct RefusalCase {
+  const char* Name;
+  std::string Note;
+  const char* Text;
+};
+
+constexpr const char* kTooMuch = "Too much feedback. Please consider sending an email.";
+constexpr const char* kTooLittle = "Please fill out the feedback before sending.";
+
+class RefusedNote : public WebJourney, public testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(RefusedNote, ReachesNobody) {
+  Host.Put(kFeedbackScript, {.Body = "sent"});
+  Start();
+  Paste(ToQt(GetParam().Note));
+  ExpectMessageBox({.title = "Quillon", .text = GetParam().Text, .icon = MessageIcon::kExclamation});
+  Send();
+  EXPECT_TRUE(Host.Targets().empty());
+  EXPECT_EQ(FromQt(Note().toPlainText()), GetParam().Note);
+  EXPECT_FALSE(HourglassShows());
+  ExpectAnOpenEar();
+}
+
+INSTANTIATE_TEST_SUITE_P(WebJourney, RefusedNote,
+                         testing::Values(RefusalCase{"Empty", "", kTooLittle}, RefusalCase{"Two", "ab", kTooLittle},
+                                         RefusalCase{"ThousandAndOne", Repeated("a", 1001), kTooMuch},
+                                         RefusalCase{"LineEndIsTwo", Repeated("a", 999) + "\n", kTooMuch}),
+                         CaseName<RefusalCase>);
+
+struct WriterCase {
+  const char* Name;
+  std::optional<std::string> Answer;  // none: Cancel
+  std::string_view Encoded;
+};
+
+// "nobody@q.test", each character as its code.
+constexpr std::string_view kAnonymousCode = "%6E%6F%62%6F%64%79%40%71%2E%74%65%73%74";
+
+class FeedbackWriter : public WebJourney, public testing::WithParamInterface<WriterCase> {};
+
+TEST_P(FeedbackWriter, StandsBeforeTheNote) {
+  Host.Put(kFeedbackScript, {.Body = "sent"});
+  Start();
+  Paste(QStringLiteral("abc"));
+  if (GetParam().Answer) {
+    ExpectInputBox(kAddressQuestion, *GetParam().Answer);
+  } else {
+    ExpectInputBoxCancelled(kAddressQuestion);
+  }
+  ExpectMessageBox(kSent);
+  Send();
+  EXPECT_EQ(Host.Targets(), std::vector<std::string>{FeedbackTarget(GetParam().Encoded, "%61%62%63")});
+}
+
+INSTANTIATE_TEST_SUITE_P(WebJourney, FeedbackWriter,
+                         testing::Values(WriterCase{"Cancel", std::nullopt, kAnonymousCode},
+                                         WriterCase{"Nothing", "", kAnonymousCode},
+                                         WriterCase{"NoAddress", "somebody", kAnonymousCode},
+                                         WriterCase{"Address", "ü@x&y", "%FC%40%78%26%79"}),
+                         CaseName<WriterCase>);
+
+struct AnswerCase {
+  const char* Name;
+  std::optional<WebPage> Page;
+  bool Sent;
+};
+
+class FeedbackAnswer : public WebJourney, public testing::WithParamInterface<AnswerCase> {};
+
+TEST_P(FeedbackAnswer, IsTold) {
+  if (GetParam().Page) Host.Put(kFeedbackScript, *GetParam().Page);
+  Start();
+  Paste(QStringLiteral("abc"));
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectMessageBox(GetParam().Sent ? kSent : kNotSent);
+  Send();
+  VerifyExpectedBoxes();
+  EXPECT_EQ(Note().toPlainText(), GetParam().Sent ? QString() : QStringLiteral("abc"));
+  ExpectAnOpenEar();
+  if (!GetParam().Sent) ExpectTheNoteToGoOut();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    WebJourney, FeedbackAnswer,
+    testing::Values(AnswerCase{"SentWithinAWord", WebPage{.Body = "<p>absent</p>"}, true},
+                    AnswerCase{"CapitalLetter", WebPage{.Body = "Sent"}, false},
+                    AnswerCase{"NoText", WebPage{.Body = ""}, false}, AnswerCase{"NoPage", std::nullopt, false},
+                    AnswerCase{"ServerError", WebPage{500, "Internal Server Error", ""}, false},
+                    AnswerCase{"MovedToAnotherHost", WebPage{302, "sent", "http://localhost/sent"}, false}),
+    CaseName<AnswerCase>);
+
+class WebJourneyInRealTime : public WebJourney {
+ protected:
+  WebJourneyInRealTime() : WebJourney(StageClock::kSystem) {}
+};
+
+TEST_F(WebJourneyInRealTime, ANoteGoesOutAfterFiveSecondsInWhichTheWindowIsLive) {
+  Host.Put(kFeedbackScript, {.Body = "sent"});
+  Start();
+  Paste(QStringLiteral("abc"));
+  Once([] { return HourglassShows(); },
+       [this] {
+         ExpectAnOpenEar();
+         Paste(QStringLiteral("d"));
+       });
+  milliseconds asked{0};
+  const Stopwatch watch;
+  Web.WhileAsked = [&] { asked = watch.Spent(); };
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectMessageBox(kSent);
+  Send();
+  EXPECT_GE(asked, milliseconds(5000));
+  EXPECT_LT(asked, milliseconds(5000) + kSlack);
+  EXPECT_EQ(Host.Targets(), std::vector<std::string>{FeedbackTarget("%78%40%79", "%61%62%63%64")})
+      << "as the note reads by then";
+}
+
+TEST_F(WebJourneyInRealTime, ASecondSendDuringTheWaitGoesFirstAndEmptiesTheNote) {
+  Host.Put(kFeedbackScript, {.Body = "sent"});
+  Start();
+  Paste(QStringLiteral("abc"));
+  Once([] { return HourglassShows(); }, [this] { Send(); });
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectInputBox(kAddressQuestion, "a@b");
+  ExpectMessageBox(kSent);
+  ExpectMessageBox(kSent);
+  const Stopwatch watch;
+  Send();
+  EXPECT_GE(watch.Spent(), milliseconds(5000));
+  EXPECT_LT(watch.Spent(), milliseconds(5000) + kSlack) << "the two waits are one in the other";
+  EXPECT_EQ(Host.Targets(),
+            (std::vector<std::string>{FeedbackTarget("%61%40%62", "%61%62%63"), FeedbackTarget("%78%40%79", "")}));
+  ExpectAnOpenEar();
+}
+
+// The program in a process of its own, which ends as the real one does, and tells how far it has come.
+class ClosedStage : public WebStage {
+ public:
+  explicit ClosedStage(StageClock clock = StageClock::kHurried) : WebStage(clock) {
+    AtEnd = [this] {
+      std::fprintf(stderr, "closed %s, asked %zu times, note \"%s\", version %s\n",
+                   HourglassShows() ? "under the hourglass" : "without the hourglass", silent_.Requests().size(),
+                   FromQt(Note().toPlainText()).c_str(), Caption("lblCurrentVersion").c_str());
+      std::error_code ignored;
+      std::filesystem::remove_all(Program.Folder().Path, ignored);
+      std::_Exit(EXIT_SUCCESS);
+    };
+    Client.Port = silent_.Port();
+  }
+
+  void CloseOnce(std::function<bool()> ready) {
+    Once(std::move(ready), [this] { Form.windowHandle()->close(); });
+  }
+  [[nodiscard]] bool Asks() const { return !silent_.Requests().empty(); }
+  void SendNote() {
+    Start();
+    Paste(QStringLiteral("abc"));
+    ExpectInputBox(kAddressQuestion, "x@y");
+    Send();
+  }
+
+ private:
+  LoopbackHost silent_{[](LoopbackConnection& connection) { connection.WaitUntilTheOtherEndIsGone(); }};
+};
+
+class ClosingDeathTest : public testing::Test {
+ protected:
+  // A fork of a process that has threads would be a process with broken locks.
+  ClosingDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+constexpr const char* kClosedUnsent = "closed under the hourglass, asked 0 times, note \"abc\", version N/A\n";
+constexpr const char* kClosedSending = "closed under the hourglass, asked 1 times, note \"abc\", version N/A\n";
+constexpr const char* kClosedChecking = "closed without the hourglass, asked 1 times, note \"\", version Checking";
+
+TEST_F(ClosingDeathTest, EndsTheProgramDuringTheWaitBeforeANoteGoesOut) {
+  const auto run = [] {
+    ClosedStage stage(StageClock::kSystem);
+    stage.CloseOnce([] { return ClosedStage::HourglassShows(); });
+    stage.SendNote();
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedUnsent);
+}
+
+TEST_F(ClosingDeathTest, EndsTheProgramDuringTheRequestThatBringsANote) {
+  const auto run = [] {
+    ClosedStage stage;
+    stage.CloseOnce([&] { return stage.Asks(); });
+    stage.SendNote();
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedSending);
+}
+
+TEST_F(ClosingDeathTest, EndsTheProgramDuringAnUpgradeCheck) {
+  const auto run = [] {
+    ClosedStage stage;
+    stage.CloseOnce([&] { return stage.Asks(); });
+    stage.Start();
+    stage.Click("chkUpgrade");
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedChecking);
+}
+
+TEST_F(ClosingDeathTest, EndsTheProgramDuringTheUpgradeCheckOfItsStart) {
+  const auto run = [] {
+    ClosedStage stage;
+    stage.WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+    stage.CloseOnce([&] { return stage.Asks(); });
+    stage.Start();
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedChecking);
+}
+
+}  // namespace
+}  // namespace quillon
