@@ -1,6 +1,7 @@
 #include "analysis/dealt_range.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 #include "ranges/range_text.h"
@@ -11,15 +12,14 @@ namespace {
 
 constexpr std::string_view kSeparator = ", ";
 
-// The length is known while compiling, so that a text of single characters is built with plain stores.
 template <class... Characters>
-FixedText<sizeof...(Characters)> TextOf(Characters... characters) {
+constexpr FixedText<sizeof...(Characters)> TextOf(Characters... characters) {
   FixedText<sizeof...(Characters)> text;
   (text.Append(characters), ...);
   return text;
 }
 
-FixedText<3> LabelOf(char rank1, char suit1, char rank2, char suit2) {
+constexpr FixedText<3> LabelOf(char rank1, char suit1, char rank2, char suit2) {
   FixedText<3> label;
   label.Append(rank1);
   label.Append(rank2);
@@ -27,56 +27,57 @@ FixedText<3> LabelOf(char rank1, char suit1, char rank2, char suit2) {
   return label;
 }
 
-// A text that blocks the hands in whose cards it occurs.
-class DeadText {
- public:
-  explicit DeadText(std::string_view text)
-      : text_(text), isCard_(text.size() == 2 && text.find(' ') == std::string_view::npos) {
-    if (!isCard_) return;
-    rank_ = text[0];
-    suit_ = text[1];
-  }
-
-  [[nodiscard]] bool Blocks(const HandRecord& hand) const {
-    // Two characters without the blank can only be one of the two cards, and every analysis asks for such.
-    if (isCard_) return Is(hand.Card1Rank, hand.Card1Suit) || Is(hand.Card2Rank, hand.Card2Suit);
-    return OccursIn(hand);
-  }
-
- private:
-  [[nodiscard]] bool Is(char rank, char suit) const { return rank_ == rank && suit_ == suit; }
-
-  // Out of the way of the loop over all hands, whose registers the library's search would take.
-  [[nodiscard]] [[gnu::noinline]] bool OccursIn(const HandRecord& hand) const {
-    return hand.Cards.View().find(text_) != std::string_view::npos;
-  }
-
-  std::string_view text_;
-  bool isCard_;
-  char rank_ = '\0';
-  char suit_ = '\0';
-};
-
-// Fills a record where it stands in its list: one that is made elsewhere and copied takes twice as long, and an
-// analysis makes hundreds of thousands.
-void FillRecord(HandRecord& hand, std::string_view card1, std::string_view card2) {
-  const char rank1 = card1[0];
-  const char suit1 = card1[1];
-  const char rank2 = card2[0];
-  const char suit2 = card2[1];
-  hand.Card1Rank = rank1;
-  hand.Card2Rank = rank2;
-  hand.Card1Suit = suit1;
-  hand.Card2Suit = suit2;
-  hand.Card1 = TextOf(rank1, suit1);
-  hand.Card2 = TextOf(rank2, suit2);
-  hand.Cards = TextOf(rank1, suit1, ' ', rank2, suit2);
-  hand.Label = LabelOf(rank1, suit1, rank2, suit2);
+constexpr HandRecord RecordOf(std::string_view card1, std::string_view card2) {
+  HandRecord hand;
+  hand.Card1Rank = card1[0];
+  hand.Card2Rank = card2[0];
+  hand.Card1Suit = card1[1];
+  hand.Card2Suit = card2[1];
+  hand.Card1 = card1;
+  hand.Card2 = card2;
+  hand.Cards = TextOf(card1[0], card1[1], ' ', card2[0], card2[1]);
+  hand.Label = LabelOf(card1[0], card1[1], card2[0], card2[1]);
+  hand.Weight = 1;
+  hand.WeightText = "1";
+  return hand;
 }
 
-void SetWeight(HandRecord& hand, bool blocked) {
-  hand.Weight = blocked ? 0 : 1;
-  hand.WeightText = TextOf(blocked ? '0' : '1');
+// Where the hand of these two cards stands in a list, the first card being the earlier one of the deck.
+constexpr std::size_t PlaceOf(std::size_t first, std::size_t second) {
+  return first * (2 * kDeckSize - first - 1) / 2 + second - first - 1;
+}
+
+// A deal changes nothing of a hand but its weight, so the hands are laid out while compiling and a deal starts with a
+// copy of them: an analysis deals hundreds of thousands.
+constexpr auto kUnblockedHands = [] {
+  std::array<HandRecord, kConcreteHandCount> hands;
+  for (std::size_t i = 0; i < kDeckSize; ++i) {
+    for (std::size_t j = i + 1; j < kDeckSize; ++j)
+      hands[PlaceOf(i, j)] = RecordOf(DeckCard(i), DeckCard(j));
+  }
+  return hands;
+}();
+
+void Block(HandRecord& hand) {
+  hand.Weight = 0;
+  hand.WeightText = "0";
+}
+
+// Any other dead text than a card is one that is looked for in the cards of each hand.
+void BlockHandsThatHold(std::string_view dead, HandList& hands) {
+  std::size_t card = 0;
+  while (card < kDeckSize && DeckCard(card) != dead)
+    ++card;
+  if (card < kDeckSize) {
+    for (std::size_t other = 0; other < card; ++other)
+      Block(hands[PlaceOf(other, card)]);
+    for (std::size_t other = card + 1; other < kDeckSize; ++other)
+      Block(hands[PlaceOf(card, other)]);
+    return;
+  }
+  for (HandRecord& hand : hands) {
+    if (hand.Cards.View().find(dead) != std::string_view::npos) Block(hand);
+  }
 }
 
 // What lies beyond a list's end cannot be looked at, and no list ends before its first record.
@@ -87,17 +88,9 @@ void DemandRecords(const HandList& list, std::size_t count) {
 }  // namespace
 
 HandList BuildCombos(std::string_view dead1, std::string_view dead2) {
-  const DeadText deadText1(dead1);
-  const DeadText deadText2(dead2);
-  HandList hands;
-  hands.reserve(kConcreteHandCount);
-  for (std::size_t i = 0; i < kDeckSize; ++i) {
-    for (std::size_t j = i + 1; j < kDeckSize; ++j) {
-      HandRecord& hand = hands.emplace_back();
-      FillRecord(hand, DeckCard(i), DeckCard(j));
-      SetWeight(hand, deadText1.Blocks(hand) || deadText2.Blocks(hand));
-    }
-  }
+  HandList hands(kUnblockedHands.begin(), kUnblockedHands.end());
+  BlockHandsThatHold(dead1, hands);
+  BlockHandsThatHold(dead2, hands);
   return hands;
 }
 
