@@ -4,6 +4,7 @@
 #   tools/install_packages.sh build    what ./run and ./check need
 #   tools/install_packages.sh lint     what .ci/run needs on top of that
 #   tools/install_packages.sh fuzz     what the preset fuzz needs on top of ./check
+#   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
 #
@@ -16,8 +17,9 @@ build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins fonts-liberation fonts-dejavu-c
 build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 # The web host that the window asks in tests.
 build+=(libcpp-httplib-dev pkg-config)
-lint=(git clang-format-14 clang-tidy-14 gcovr)
+lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
+coverage=("${fuzz[@]}" llvm-14)
 screens=(optipng)
 reliability=(valgrind python3)
 
@@ -25,10 +27,11 @@ case "${1:-}" in
   build) wanted=("${build[@]}") ;;
   lint) wanted=("${build[@]}" "${lint[@]}") ;;
   fuzz) wanted=("${build[@]}" "${fuzz[@]}") ;;
-  reliability) wanted=("${build[@]}" "${lint[@]}" "${fuzz[@]}" "${reliability[@]}") ;;
+  coverage) wanted=("${build[@]}" "${coverage[@]}") ;;
+  reliability) wanted=("${build[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
   screens) wanted=("${build[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 build|lint|fuzz|screens|reliability" >&2
+    echo "Usage: $0 build|lint|fuzz|coverage|screens|reliability" >&2
     exit 2
     ;;
 esac

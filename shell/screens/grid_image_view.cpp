@@ -58,7 +58,8 @@ std::string GridImageView::AskSaveName(const SaveDialog& dialog) {
 std::string GridImageView::CaptureRegion(const CaptureRect& rect) {
   WaitForTheScreen();
   const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
-  const PixelRect place = PixelsOf(rect, kTwipsPerPixel, kTwipsPerPixel);
+  constexpr auto kPixel = static_cast<double>(kTwipsPerPixel);
+  const PixelRect place = PixelsOf(rect, kPixel, kPixel);
   const QRect area(place.Left, place.Top, place.Width, place.Height);
 
   // Counted from the window, whose corner can stand between two device-independent pixels of the screen.
