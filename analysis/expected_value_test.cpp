@@ -10,7 +10,9 @@ namespace {
 
 class FiveBoxes : public AmountBoxes {
  public:
-  [[nodiscard]] std::string BoxText(std::int16_t index) const override { return "$" + std::to_string(10 * index); }
+  [[nodiscard]] std::string BoxText(std::int16_t index) const override {
+    return "$" + std::to_string(10 * (index + 1));
+  }
 };
 
 RunTimeFault FaultOf(double (*action)()) {
@@ -36,8 +38,8 @@ TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
 }
 
 TEST(GetBoxValue, ReadsTheBoxOfTheIndex) {
-  EXPECT_EQ(GetBoxValue(FiveBoxes(), kCallPotBox), 0);
-  EXPECT_EQ(GetBoxValue(FiveBoxes(), kRaiseShoveBox), 40);
+  EXPECT_EQ(GetBoxValue(FiveBoxes(), kCallPotBox), 10);
+  EXPECT_EQ(GetBoxValue(FiveBoxes(), kRaiseShoveBox), 50);
 }
 
 TEST(CallExpectedValue, IsTheShareOfTheWholePotLessTheCall) {

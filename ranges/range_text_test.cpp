@@ -85,6 +85,7 @@ TEST(RangeWeightOf, WithoutABracketInReachIsFatal) {
       {"a label inside a weight and its bracket too near", "AA (0.22), 22 (1), ", "22"},
       {"a bracket right behind the label", "AA) 1)", "AA"},
       {"a bracket one behind the label", "AA ) 1)", "AA"},
+      {"a bracket in what is looked for", "A) (1), ", "A)"},
       {"a missing class and a bracket at the start", ")AA (1), ", "72o"},
       {"a missing class and a bracket one too early", "AA )", "72o"},
       {"a missing class and a bracket one too early in characters", "éé )", "72o"},

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "shell/screens/main_form_fixture.h"
+#include "tests/address_sanitizer.h"
 #include "tests/bad_inputs.h"
 #include "tests/companion_in_folder.h"
 #include "tests/plain_reading.h"
@@ -92,6 +93,7 @@ int UpgradeShown(MainStage& stage) {
 Start StartOf(MainStage& stage) {
   Start start;
   const auto fault = FaultOf([&stage] {
+    const LeaksDoNotCount ends;
     stage.Form.Start(stage.Dialogs);
     return 0;
   });

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "shell/screens/main_form_fixture.h"
+#include "tests/address_sanitizer.h"
 
 namespace quillon {
 namespace {
@@ -57,7 +58,7 @@ class Soak : public MainFormTest {
  protected:
   void SetUp() override {
     MainFormTest::SetUp();
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(QUILLON_ADDRESS_SANITIZER)
     GTEST_SKIP() << "a sanitizer keeps what was freed";
 #endif
   }

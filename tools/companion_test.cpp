@@ -181,7 +181,7 @@ TEST(Help, IsPrintedOnStandardOutput) {
     EXPECT_EQ(outcome.Status, kDone);
     EXPECT_EQ(outcome.Errors, "");
     for (const char* command : {"call", "raise", "equity", "summary", "ranges"})
-      EXPECT_THAT(outcome.Output, HasSubstr(command));
+      EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(command) + " ")) << "a line of its own";
   }
 }
 
@@ -190,7 +190,7 @@ TEST(Help, OfACommandNamesItsOptions) {
   EXPECT_EQ(outcome.Status, kDone);
   for (const char* option :
        {"--pot", "--call", "--shove", "--range", "--calling-range", "--folder", "--format", "--hand"})
-    EXPECT_THAT(outcome.Output, HasSubstr(option));
+    EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(option) + " ")) << "a line of its own";
 }
 
 // ---- the list of ranges

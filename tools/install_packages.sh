@@ -3,7 +3,7 @@
 #
 #   tools/install_packages.sh build    what ./run and ./check need
 #   tools/install_packages.sh lint     what .ci/run needs on top of that
-#   tools/install_packages.sh fuzz     what the preset fuzz needs on top of ./check
+#   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
