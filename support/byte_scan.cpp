@@ -5,137 +5,104 @@
 #include <cstdint>
 #include <cstring>
 
-// One source, two machine codes: the loader resolves each call once, by what the processor offers. Sanitizers hook into
-// programs before such a choice can be made, and other compilers spell it differently; they take the baseline.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
-#define QUILLON_FOR_EACH_PROCESSOR __attribute__((target_clones("avx2", "default")))
-#else
-#define QUILLON_FOR_EACH_PROCESSOR
+#if defined(__x86_64__)
+#include <immintrin.h>
 #endif
-// What such a function is made of is built for the same processor only where it is taken into it.
+
+// One source, two machine codes: the loader resolves each search once, by what the processor offers. Sanitizers hook
+// into programs before such a choice can be made, and other compilers spell it differently; they take the baseline.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
+#define QUILLON_CHOOSES_PROCESSOR
+#endif
+// What a search is made of is built for its processor only where it is taken into it.
 #define QUILLON_PART_OF_SCAN [[gnu::always_inline]] inline
 
 namespace quillon {
 namespace {
 
-// Bytes are passed by whole blocks while that may be, a counted block being as large as a count in one byte allows.
-// Within a block a place is narrowed down by groups of one vector's size and by words.
-constexpr std::size_t kWord = sizeof(std::uint64_t);
-constexpr std::size_t kGroup = 32;
-constexpr std::size_t kCountedBlock = 7 * kGroup;
-constexpr std::size_t kSearchedBlock = 4 * kGroup;
-constexpr std::uint64_t kOnes = 0x0101010101010101;
-constexpr std::uint64_t kHighBits = 0x8080808080808080;
+// A processor is a vector of bytes, which the compiler compares and joins by itself, and the two steps from there to a
+// number that it does not find: whether any byte of a mask is set, and its bytes as bits, the first one lowest. A mask
+// has all bits of a byte set or none.
+#ifdef QUILLON_CHOOSES_PROCESSOR
+struct Avx2 {
+  using Bytes = signed char __attribute__((vector_size(32)));
 
-static_assert(std::endian::native == std::endian::little,
-              "byte k of a text must be byte k of the word it is read into");
+  [[gnu::target("avx2")]] static bool Any(const Bytes& mask) {
+    __m256i bytes;
+    std::memcpy(&bytes, &mask, sizeof bytes);
+    return _mm256_testz_si256(bytes, bytes) == 0;
+  }
+  [[gnu::target("avx2")]] static std::uint32_t Bits(const Bytes& mask) {
+    __m256i bytes;
+    std::memcpy(&bytes, &mask, sizeof bytes);
+    return static_cast<std::uint32_t>(_mm256_movemask_epi8(bytes));
+  }
+};
+#endif
 
-// Every loop over a block or a group has a length known while compiling and makes no choice, so that it becomes a few
-// vector instructions. Conditions are masks, all bits set or none, joined with "&": "&&" may leave its right side out.
-std::uint8_t Mask(bool set) {
-  return static_cast<std::uint8_t>(set ? 0xFF : 0);
+struct Baseline {
+  using Bytes = signed char __attribute__((vector_size(16)));
+
+  static bool Any(const Bytes& mask) { return Bits(mask) != 0; }
+#if defined(__x86_64__)
+  static std::uint32_t Bits(const Bytes& mask) {
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(std::bit_cast<__m128i>(mask)));
+  }
+#else
+  static std::uint32_t Bits(const Bytes& mask) {
+    std::uint32_t bits = 0;
+    for (std::uint32_t k = 0; k < sizeof mask; ++k)
+      bits |= (mask[k] == 0 ? 0U : 1U) << k;
+    return bits;
+  }
+#endif
+};
+
+template <class Bytes>
+QUILLON_PART_OF_SCAN void Read(Bytes& bytes, const char* from) {
+  std::memcpy(&bytes, from, sizeof bytes);
 }
 
-template <std::size_t Size>
-QUILLON_PART_OF_SCAN std::size_t Count(const char* bytes, char wanted) {
-  static_assert(Size <= 0xFF);
+// How many bytes of a block of so many vectors are the one wanted; a byte holds the counts of seven vectors. The loop's
+// length is known while compiling and it makes no choice, so it becomes a few vector instructions.
+template <class Processor, std::size_t Vectors>
+QUILLON_PART_OF_SCAN std::size_t Count(const char* block, char wanted) {
+  constexpr std::size_t kSize = Vectors * sizeof(typename Processor::Bytes);
+  static_assert(kSize <= 0xFF);
   std::uint8_t count = 0;
-  for (std::size_t k = 0; k < Size; ++k)
-    count = static_cast<std::uint8_t>(count + (bytes[k] == wanted ? 1 : 0));
+  for (std::size_t k = 0; k < kSize; ++k)
+    count = static_cast<std::uint8_t>(count + (block[k] == wanted ? 1 : 0));
   return count;
 }
 
-// For each byte of a group, 1 where it is the one wanted.
-using GroupMarks = std::array<std::uint8_t, kGroup>;
-
-std::uint64_t WordOf(const GroupMarks& marks, std::size_t word) {
-  std::uint64_t bits = 0;
-  std::memcpy(&bits, marks.data() + word * kWord, kWord);
-  return bits;
+// The place of the set bit number `n` (from 0) of bits that have more than `n`.
+QUILLON_PART_OF_SCAN std::size_t PlaceOfBit(std::uint32_t bits, std::size_t n) {
+  for (; n > 0; --n)
+    bits &= bits - 1;
+  return static_cast<std::size_t>(std::countr_zero(bits));
 }
 
-// Place within a group of its occurrence number `n`; the group holds more than `n`. Counts words that end at or before
-// it and then bytes likewise, with no choice that a processor could guess wrong.
-QUILLON_PART_OF_SCAN std::size_t PlaceInGroup(const char* group, char wanted, std::size_t n) {
-  GroupMarks marks{};
-  for (std::size_t k = 0; k < kGroup; ++k)
-    marks[k] = group[k] == wanted ? 1 : 0;
+// Whole blocks are passed by their counts, then the vectors of the block that holds the place by theirs.
+template <class Processor>
+QUILLON_PART_OF_SCAN std::size_t NthByte(std::string_view text, char byte, std::size_t n) {
+  using Bytes = typename Processor::Bytes;
+  constexpr std::size_t kVectors = 7;
+  constexpr std::size_t kBlock = kVectors * sizeof(Bytes);
 
-  // Multiplying by ones adds each byte to all bytes above it, so byte k becomes the number of marks in bytes 0 to k.
-  std::size_t word = 0;
-  std::size_t before = 0;
-  std::size_t total = 0;
-  for (std::size_t w = 0; w + 1 < kGroup / kWord; ++w) {
-    const std::size_t count = (WordOf(marks, w) * kOnes) >> 56U;
-    total += count;
-    const std::size_t passed = total <= n ? 1 : 0;
-    word += passed;
-    before += passed * count;
-  }
-  // All the numbers are below 128, so no subtraction borrows.
-  const std::uint64_t counts = WordOf(marks, word) * kOnes;
-  const std::uint64_t passed = (((n - before) * kOnes | kHighBits) - counts) & kHighBits;
-  return word * kWord + static_cast<std::size_t>(std::popcount(passed));
-}
-
-// A group in one vector, as bytes and as words.
-using Bytes = signed char __attribute__((vector_size(kGroup)));
-using Words = std::uint64_t __attribute__((vector_size(kGroup)));
-
-// A text of two or three characters: its first two and its last are all that it has.
-struct ShortText {
-  signed char first;
-  signed char second;
-  char last;
-  std::size_t lastPlace;
-};
-
-// Place of the first occurrence that starts in a block, or kSearchedBlock if none does.
-QUILLON_PART_OF_SCAN std::size_t PlaceInBlock(const char* block, const ShortText& wanted) {
-  // The first two characters are seldom side by side, so most blocks are passed by looking for these alone.
-  Bytes seen{};
-  for (std::size_t start = 0; start < kSearchedBlock; start += kGroup) {
-    Bytes here;
-    Bytes next;
-    std::memcpy(&here, block + start, kGroup);
-    std::memcpy(&next, block + start + 1, kGroup);
-    seen |= (here == wanted.first) & (next == wanted.second);
-  }
-  Words words;
-  std::memcpy(&words, &seen, kGroup);
-  if ((words[0] | words[1] | words[2] | words[3]) == 0) return kSearchedBlock;
-
-  // The earliest of several places has the largest number, and 0 is none.
-  std::uint8_t earliest = 0;
-  for (std::size_t k = 0; k < kSearchedBlock; ++k) {
-    const auto here =
-        static_cast<std::uint8_t>(Mask(block[k] == wanted.first) & Mask(block[k + 1] == wanted.second) &
-                                  Mask(block[k + wanted.lastPlace] == wanted.last) & (kSearchedBlock - k));
-    earliest = here > earliest ? here : earliest;
-  }
-  return kSearchedBlock - earliest;
-}
-
-// Out of the way: taken in, the library's search would cost every other search a dozen registers.
-[[gnu::noinline]] std::size_t FindPlainly(std::string_view text, std::string_view wanted) {
-  return text.find(wanted);
-}
-
-}  // namespace
-
-QUILLON_FOR_EACH_PROCESSOR
-std::size_t FindNthByte(std::string_view text, char byte, std::size_t n) {
   const char* const start = text.data();
   const std::size_t size = text.size();
   std::size_t position = 0;
-  for (; position + kCountedBlock <= size; position += kCountedBlock) {
-    const std::size_t count = Count<kCountedBlock>(start + position, byte);
+  for (; position + kBlock <= size; position += kBlock) {
+    const std::size_t count = Count<Processor, kVectors>(start + position, byte);
     if (count > n) break;
     n -= count;
   }
-  for (; position + kGroup <= size; position += kGroup) {
-    const std::size_t count = Count<kGroup>(start + position, byte);
-    if (count > n) return position + PlaceInGroup(start + position, byte, n);
+  for (; position + sizeof(Bytes) <= size; position += sizeof(Bytes)) {
+    Bytes bytes;
+    Read(bytes, start + position);
+    const std::uint32_t bits = Processor::Bits(bytes == static_cast<signed char>(byte));
+    const auto count = static_cast<std::size_t>(std::popcount(bits));
+    if (count > n) return position + PlaceOfBit(bits, n);
     n -= count;
   }
   for (; position < size; ++position) {
@@ -144,22 +111,124 @@ std::size_t FindNthByte(std::string_view text, char byte, std::size_t n) {
   return std::string_view::npos;
 }
 
-QUILLON_FOR_EACH_PROCESSOR
-std::size_t FindText(std::string_view text, std::string_view wanted) {
+// A text of two or three characters: its first two and its last are all that it has.
+struct ShortText {
+  signed char first;
+  signed char second;
+  signed char last;
+  std::size_t lastPlace;
+};
+
+constexpr std::size_t kVectorsOfSearch = 4;
+
+template <class Processor>
+constexpr std::size_t kSearchedBlock = kVectorsOfSearch * sizeof(typename Processor::Bytes);
+
+// Place of the first occurrence that starts in a block, or the block's size if none does.
+template <class Processor>
+QUILLON_PART_OF_SCAN std::size_t PlaceInBlock(const char* block, const ShortText& wanted) {
+  using Bytes = typename Processor::Bytes;
+  constexpr std::size_t kVector = sizeof(Bytes);
+
+  // The first two characters are seldom side by side, so most blocks are passed by looking for these alone.
+  std::array<Bytes, kVectorsOfSearch> pairs{};
+  for (std::size_t v = 0; v < kVectorsOfSearch; ++v) {
+    Bytes here;
+    Bytes next;
+    Read(here, block + v * kVector);
+    Read(next, block + v * kVector + 1);
+    pairs[v] = (here == wanted.first) & (next == wanted.second);
+  }
+  if (!Processor::Any((pairs[0] | pairs[1]) | (pairs[2] | pairs[3]))) return kSearchedBlock<Processor>;
+
+  for (std::size_t half = 0; half < kVectorsOfSearch; half += 2) {
+    Bytes low;
+    Bytes high;
+    Read(low, block + half * kVector + wanted.lastPlace);
+    Read(high, block + (half + 1) * kVector + wanted.lastPlace);
+    const std::uint64_t lowBits = Processor::Bits(pairs[half] & (low == wanted.last));
+    const std::uint64_t highBits = Processor::Bits(pairs[half + 1] & (high == wanted.last));
+    const std::uint64_t bits = lowBits | highBits << kVector;
+    if (bits != 0) return half * kVector + static_cast<std::size_t>(std::countr_zero(bits));
+  }
+  return kSearchedBlock<Processor>;
+}
+
+// Out of the way: taken in, the library's search would cost every other search a dozen registers.
+[[gnu::noinline]] std::size_t FindPlainly(std::string_view text, std::string_view wanted) {
+  return text.find(wanted);
+}
+
+template <class Processor>
+QUILLON_PART_OF_SCAN std::size_t Find(std::string_view text, std::string_view wanted) {
+  constexpr std::size_t kBlock = kSearchedBlock<Processor>;
   const bool isShort = wanted.size() == 2 || wanted.size() == 3;
-  if (!isShort || text.size() < kSearchedBlock + wanted.size() - 1) return FindPlainly(text, wanted);
+  if (!isShort || text.size() < kBlock + wanted.size() - 1) return FindPlainly(text, wanted);
 
   const std::size_t lastPlace = wanted.size() - 1;
-  const ShortText shortText{static_cast<signed char>(wanted[0]), static_cast<signed char>(wanted[1]), wanted[lastPlace],
-                            lastPlace};
+  const ShortText shortText{static_cast<signed char>(wanted[0]), static_cast<signed char>(wanted[1]),
+                            static_cast<signed char>(wanted[lastPlace]), lastPlace};
   // The last block overlaps the one before it, where nothing was found.
-  const std::size_t lastBlock = text.size() - lastPlace - kSearchedBlock;
-  for (std::size_t start = 0; start < lastBlock; start += kSearchedBlock) {
-    const std::size_t place = PlaceInBlock(text.data() + start, shortText);
-    if (place < kSearchedBlock) return start + place;
+  const std::size_t lastBlock = text.size() - lastPlace - kBlock;
+  for (std::size_t start = 0; start < lastBlock; start += kBlock) {
+    const std::size_t place = PlaceInBlock<Processor>(text.data() + start, shortText);
+    if (place < kBlock) return start + place;
   }
-  const std::size_t place = PlaceInBlock(text.data() + lastBlock, shortText);
-  return place < kSearchedBlock ? lastBlock + place : std::string_view::npos;
+  const std::size_t place = PlaceInBlock<Processor>(text.data() + lastBlock, shortText);
+  return place < kBlock ? lastBlock + place : std::string_view::npos;
 }
+
+std::size_t BaselineNthByte(std::string_view text, char byte, std::size_t n) {
+  return NthByte<Baseline>(text, byte, n);
+}
+
+std::size_t BaselineFind(std::string_view text, std::string_view wanted) {
+  return Find<Baseline>(text, wanted);
+}
+
+#ifdef QUILLON_CHOOSES_PROCESSOR
+[[gnu::target("avx2")]] std::size_t Avx2NthByte(std::string_view text, char byte, std::size_t n) {
+  return NthByte<Avx2>(text, byte, n);
+}
+
+[[gnu::target("avx2")]] std::size_t Avx2Find(std::string_view text, std::string_view wanted) {
+  return Find<Avx2>(text, wanted);
+}
+
+using NthByteSearch = std::size_t (*)(std::string_view, char, std::size_t);
+using TextSearch = std::size_t (*)(std::string_view, std::string_view);
+
+bool HasAvx2() {
+  __builtin_cpu_init();
+  return __builtin_cpu_supports("avx2") != 0;
+}
+#endif
+
+}  // namespace
+
+#ifdef QUILLON_CHOOSES_PROCESSOR
+// The loader calls these, by their plain names, before anything else of the program has run.
+extern "C" {
+static NthByteSearch QuillonNthByteSearch() {
+  return HasAvx2() ? Avx2NthByte : BaselineNthByte;
+}
+
+static TextSearch QuillonTextSearch() {
+  return HasAvx2() ? Avx2Find : BaselineFind;
+}
+}
+
+[[gnu::ifunc("QuillonNthByteSearch")]] std::size_t FindNthByte(std::string_view text, char byte, std::size_t n);
+
+[[gnu::ifunc("QuillonTextSearch")]] std::size_t FindText(std::string_view text, std::string_view wanted);
+#else
+std::size_t FindNthByte(std::string_view text, char byte, std::size_t n) {
+  return BaselineNthByte(text, byte, n);
+}
+
+std::size_t FindText(std::string_view text, std::string_view wanted) {
+  return BaselineFind(text, wanted);
+}
+#endif
 
 }  // namespace quillon

@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-constexpr std::size_t kLongest = 400;  // three whole blocks of 128 and a rest
+constexpr std::size_t kLongest = 480;  // at least two whole blocks of every search, and a rest
 constexpr std::size_t kNowhere = std::string_view::npos;
 
 std::size_t PlainNthByte(std::string_view text, char byte, std::size_t n) {
@@ -36,8 +36,10 @@ class RandomTexts {
   std::mt19937 source_{20040229};
 };
 
-// Places next to which a block of 128 bytes begins or ends.
-const std::vector<std::size_t> kBlockEdges = {0, 1, 126, 127, 128, 129, 254, 255, 256, 257, 383, 384, 385, 399};
+// Places next to which a block of some search begins or ends: 224 or 112 bytes where they are counted, 128 or 64 where
+// a text is looked for.
+const std::vector<std::size_t> kBlockEdges = {0,   1,   63,  64,  65,  111, 112, 113, 127, 128, 129, 191,
+                                              192, 223, 224, 225, 256, 335, 336, 337, 384, 447, 448, 449};
 
 TEST(FindNthByte, EqualsAPlainLoopAtEveryLength) {
   RandomTexts texts("ab ");
@@ -84,7 +86,7 @@ TEST(FindNthByte, TextOfNothingElseHasOccurrenceNAtN) {
 }
 
 TEST(FindNthByte, OccurrencesOnBothSidesOfABlockEdgeAreToldApart) {
-  for (const std::size_t edge : {std::size_t{128}, std::size_t{256}, std::size_t{384}}) {
+  for (const std::size_t edge : {std::size_t{112}, std::size_t{224}, std::size_t{448}}) {
     std::string text(kLongest, 'x');
     text[edge - 1] = ' ';
     text[edge] = ' ';
