@@ -64,4 +64,19 @@ class FuzzInput {
   std::string_view rest_;
 };
 
+/// What a run of a slow target looks at: one of its checks as a rule, so that there are more runs, and seldom all of
+/// them, for a seed of the corpus or where one check may stand in another's way.
+class ChecksOfRun {
+ public:
+  /// Takes one byte of the input; 255 is for all.
+  ChecksOfRun(FuzzInput& input, std::size_t count) : chosen_(input.TakeBelow(256)), count_(count) {}
+
+  [[nodiscard]] bool All() const { return chosen_ == 255; }
+  [[nodiscard]] bool Has(std::size_t check) const { return All() || chosen_ % count_ == check; }
+
+ private:
+  std::size_t chosen_;
+  std::size_t count_;
+};
+
 }  // namespace quillon

@@ -5,7 +5,7 @@
 #   tools/reliability.sh ROW ...         fuzz, files, kills, together, input, web, soak, valgrind, mutation,
 #                                        sanitizers, coverage
 #
-# FUZZ_SECONDS is how long each fuzz target runs, 600 unless set.
+# FUZZ_SECONDS is how long each fuzz target runs, 600 unless set, and FUZZ_RUNS after how many runs it ends before that.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -17,19 +17,28 @@ build() {
   cmake --build --preset "$1" --target "${@:2}" | tail -n 1
 }
 
+# fuzz_target NAME: short inputs, of which there are more runs, and for a sixth of the time long ones.
+fuzz_target() {
+  local log="build/fuzz/$1.log" runs="${FUZZ_RUNS:--1}" seconds="${FUZZ_SECONDS:-600}"
+  mkdir -p "build/fuzz/corpus-$1"
+  : >"$log"
+  for part in 5:256 1:4096; do
+    ASAN_OPTIONS=malloc_context_size=2:quarantine_size_mb=8 "build/fuzz/bin/$1" -timeout=10 -print_final_stats=1 \
+      -max_len="${part#*:}" -max_total_time=$((seconds * ${part%:*} / 6)) \
+      -runs=$((runs < 0 ? runs : runs * ${part%:*} / 6 + 1)) -artifact_prefix="build/fuzz/$1-" \
+      "build/fuzz/corpus-$1" "fuzz/corpus/$1" >>"$log" 2>&1 || {
+      tail -n 40 "$log"
+      return 255
+    }
+  done
+  echo "$1: $(awk '/^stat::number_of_executed_units/ { runs += $2 } END { print runs }' "$log") runs"
+}
+
 fuzz() {
   mapfile -t targets < <(sed -n 's/^quillon_fuzz(\([a-z0-9_]*\) .*/\1/p' fuzz/CMakeLists.txt)
   build fuzz "${targets[@]}"
-  for target in "${targets[@]}"; do
-    mkdir -p "build/fuzz/corpus-$target"
-    "build/fuzz/bin/$target" -max_total_time="${FUZZ_SECONDS:-600}" -timeout=10 -print_final_stats=1 \
-      -artifact_prefix="build/fuzz/$target-" "build/fuzz/corpus-$target" "fuzz/corpus/$target" \
-      >"build/fuzz/$target.log" 2>&1 || {
-      tail -n 40 "build/fuzz/$target.log"
-      return 1
-    }
-    echo "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "build/fuzz/$target.log") runs"
-  done
+  export -f fuzz_target
+  printf '%s\n' "${targets[@]}" | xargs -P "$(nproc)" -I '{}' bash -c 'fuzz_target {}'
 }
 
 files() {
