@@ -1,16 +1,20 @@
 // The web services of the About screen, with the program's own web client and a host that is really there. The window
 // runs in the test's process.
 
+#include <QAbstractSocket>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTimer>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
@@ -201,6 +205,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PageCase{"NoText", WebPage{.Body = ""}, "Error Connecting", ""},
                     PageCase{"NoPage", std::nullopt, "Error Connecting", ""},
                     PageCase{"NotFoundWithAPage", WebPage{404, "<h1>404 Not Found</h1>", ""}, "0", kLatest},
+                    PageCase{"NotFoundWithANumber", WebPage{404, "404 Not Found", ""}, "404", kDownload},
                     PageCase{"ServerErrorWithAPage", WebPage{500, "Internal Server Error", ""}, "0", kLatest},
                     PageCase{"ServerErrorWithoutAPage", WebPage{500, "", ""}, "Error Connecting", ""},
                     PageCase{"MovedOnTheSameHost", WebPage{301, "", "/quillon/newest.html"}, "1.25", kDownload},
@@ -375,6 +380,76 @@ TEST_F(WebJourney, AHostThatCannotBeReachedFailsACheckAtTheLimit) {
   ExpectTheCheckToWork();
 }
 
+// Qt gives up an attempt at a connection after half a minute; with this one there, after a twentieth of a second.
+class ImpatientSockets : public QObject {
+ public:
+  ImpatientSockets() {
+    qApp->installEventFilter(this);
+    startTimer(1);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* socket = qobject_cast<QAbstractSocket*>(watched);
+    if (socket != nullptr && event->type() == QEvent::ChildAdded) socket_ = socket;
+    return false;
+  }
+
+  int Attempts = 0;
+
+ protected:
+  void timerEvent(QTimerEvent* /*event*/) override {
+    auto* limit = socket_ == nullptr ? nullptr : socket_->findChild<QTimer*>();
+    if (limit == nullptr || !limit->isActive() || limit->interval() == kPatience) return;
+    limit->start(kPatience);
+    ++Attempts;
+  }
+
+ private:
+  static constexpr int kPatience = 50;
+  QPointer<QAbstractSocket> socket_;
+};
+
+TEST_F(WebJourney, AHostThatCannotBeReachedIsTriedAgainUntilTheLimit) {
+  const DeafHost host;
+  Client.Port = host.Port();
+  Client.Limit = kShort;
+  Start();
+  const ImpatientSockets sockets;
+  const Stopwatch watch;
+  Click("chkUpgrade");
+  EXPECT_GE(watch.Spent(), kShort);
+  EXPECT_LT(watch.Spent(), kShort + kSlack);
+  EXPECT_GT(sockets.Attempts, 4);
+  ExpectVersion("Error Connecting", "");
+}
+
+TEST_F(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {
+  std::atomic<bool> answers = false;
+  const LoopbackHost slow([&](LoopbackConnection& connection) {
+    while (!answers)
+      static_cast<void>(connection.Pause(milliseconds(1)));
+    connection.Send("HTTP/1.1 200 OK\r\n\r\nsent");
+  });
+  Client.Port = slow.Port();
+  Start();
+  Paste(QStringLiteral("abc"));
+  Once([&] { return !slow.Requests().empty(); },
+       [&] {
+         Send();
+         Click("chkUpgrade");
+         Open(kCallNav);
+         Press(Qt::Key_1, Qt::ControlModifier);
+         answers = true;
+       });
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectMessageBox(kSent);
+  Send();
+  EXPECT_EQ(slow.Requests().size(), 1U);
+  EXPECT_EQ(Screen(), "About");
+  EXPECT_FALSE(Get<QCheckBox>("chkUpgrade").isChecked());
+  ExpectAnOpenEar();
+}
+
 struct NoteCase {
   const char* Name;
   std::string Note;
@@ -502,6 +577,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AnswerCase{"CapitalLetter", WebPage{.Body = "Sent"}, false},
                     AnswerCase{"NoText", WebPage{.Body = ""}, false}, AnswerCase{"NoPage", std::nullopt, false},
                     AnswerCase{"ServerError", WebPage{500, "Internal Server Error", ""}, false},
+                    AnswerCase{"ServerErrorThatHoldsTheWord", WebPage{500, "not sent", ""}, true},
                     AnswerCase{"MovedToAnotherHost", WebPage{302, "sent", "http://localhost/sent"}, false}),
     CaseName<AnswerCase>);
 
@@ -554,9 +630,9 @@ class ClosedStage : public WebStage {
  public:
   explicit ClosedStage(StageClock clock = StageClock::kHurried) : WebStage(clock) {
     AtEnd = [this] {
-      std::fprintf(stderr, "closed %s, asked %zu times, note \"%s\", version %s\n",
+      std::fprintf(stderr, "closed %s, asked %zu times, note \"%s\", version %s\n%s",
                    HourglassShows() ? "under the hourglass" : "without the hourglass", silent_.Requests().size(),
-                   FromQt(Note().toPlainText()).c_str(), Caption("lblCurrentVersion").c_str());
+                   FromQt(Note().toPlainText()).c_str(), Caption("lblCurrentVersion").c_str(), Settings().c_str());
       std::error_code ignored;
       std::filesystem::remove_all(Program.Folder().Path, ignored);
       std::_Exit(EXIT_SUCCESS);
@@ -585,6 +661,12 @@ class ClosingDeathTest : public testing::Test {
   ClosingDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
 };
 
+// What the program told at its end, and that it wrote its settings before.
+testing::Matcher<const std::string&> Closed(const char* told) {
+  return testing::AllOf(testing::HasSubstr(told), testing::HasSubstr("\n[Main]\r\nLeft="),
+                        testing::HasSubstr("\n[Values]\r\n0=\r\n1=\r\n2=\r\n3=\r\n4=\r\n"));
+}
+
 constexpr const char* kClosedUnsent = "closed under the hourglass, asked 0 times, note \"abc\", version N/A\n";
 constexpr const char* kClosedSending = "closed under the hourglass, asked 1 times, note \"abc\", version N/A\n";
 constexpr const char* kClosedChecking = "closed without the hourglass, asked 1 times, note \"\", version Checking";
@@ -595,7 +677,7 @@ TEST_F(ClosingDeathTest, EndsTheProgramDuringTheWaitBeforeANoteGoesOut) {
     stage.CloseOnce([] { return ClosedStage::HourglassShows(); });
     stage.SendNote();
   };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedUnsent);
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedUnsent));
 }
 
 TEST_F(ClosingDeathTest, EndsTheProgramDuringTheRequestThatBringsANote) {
@@ -604,7 +686,7 @@ TEST_F(ClosingDeathTest, EndsTheProgramDuringTheRequestThatBringsANote) {
     stage.CloseOnce([&] { return stage.Asks(); });
     stage.SendNote();
   };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedSending);
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedSending));
 }
 
 TEST_F(ClosingDeathTest, EndsTheProgramDuringAnUpgradeCheck) {
@@ -614,7 +696,7 @@ TEST_F(ClosingDeathTest, EndsTheProgramDuringAnUpgradeCheck) {
     stage.Start();
     stage.Click("chkUpgrade");
   };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedChecking);
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
 }
 
 TEST_F(ClosingDeathTest, EndsTheProgramDuringTheUpgradeCheckOfItsStart) {
@@ -624,7 +706,7 @@ TEST_F(ClosingDeathTest, EndsTheProgramDuringTheUpgradeCheckOfItsStart) {
     stage.CloseOnce([&] { return stage.Asks(); });
     stage.Start();
   };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), kClosedChecking);
+  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
 }
 
 }  // namespace

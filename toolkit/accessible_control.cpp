@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 #include "toolkit/frame.h"
 #include "toolkit/picture.h"
@@ -35,7 +37,9 @@ class AccessibleControl : public QAccessibleWidget {
 
   void doAction(const QString& name) override {
     if (name == pressAction() && control_->CanBeClicked()) {
-      control_->Click();
+      // By way of a key, so that whatever takes the keyboard away from the program takes this away, too.
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+      QCoreApplication::sendEvent(control_, &press);
     } else {
       QAccessibleWidget::doAction(name);
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 // What a screen reader learns of labels and pictures: a piece of text or a picture, and a link where it can be clicked,
-// with the click as its action.
+// with the click as its action. That action counts as a key: where the program hears no keys, it does nothing.
 
 #include "toolkit/control.h"
 

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -69,6 +70,21 @@ TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
   EXPECT_EQ(actions.actionNames().value(0), press);
   actions.doAction(press);
   EXPECT_EQ(clicks.count(), 1);
+}
+
+class NoKeys : public QObject {
+ public:
+  NoKeys() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override { return event->isInputEvent(); }
+};
+
+TEST(AccessibleControl, CannotBePressedWhileTheProgramHearsNoKeys) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  const QSignalSpy clicks(&label, &Control::Clicked);
+  const NoKeys deaf;
+  Spoken(label).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clicks.count(), 0);
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include "shell/screens/http_client.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QMouseEvent>
 #include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QTimer>
@@ -25,16 +26,37 @@ class InputBlock : public QObject {
  public:
   InputBlock() { qApp->installEventFilter(this); }
 
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // None is open when a request starts, so this one tells of a fault, and somebody has to be able to close it.
+    if (QApplication::activeModalWidget() != nullptr) return false;
     switch (event->type()) {
       case QEvent::Shortcut:
       case QEvent::InputMethod:
       case QEvent::DragEnter:
+      case QEvent::DragMove:
+      case QEvent::Drop:
         return true;
+      case QEvent::MouseButtonRelease:
+        return !watched->isWindowType() && !TakesRelease(*watched, dynamic_cast<QMouseEvent&>(*event));
       default:
         return event->isInputEvent();
     }
   }
+
+ private:
+  // What the mouse holds since before the request is let go of, yet far away from the mouse, where that is no click.
+  bool TakesRelease(QObject& control, const QMouseEvent& release) {
+    if (lettingGo_) return true;
+    if (release.button() != Qt::LeftButton) return false;
+    constexpr QPointF kNowhere(-100'000, -100'000);
+    QMouseEvent away(release.type(), kNowhere, kNowhere, release.button(), release.buttons(), release.modifiers());
+    lettingGo_ = true;
+    QCoreApplication::sendEvent(&control, &away);
+    lettingGo_ = false;
+    return false;
+  }
+
+  bool lettingGo_ = false;
 };
 
 void TakeAll(QTcpSocket& socket, HttpReplyReader& reader) {
@@ -46,19 +68,31 @@ void TakeAll(QTcpSocket& socket, HttpReplyReader& reader) {
 std::optional<HttpReply> Ask(const HttpAddress& address, const QDeadlineTimer& deadline) {
   HttpReplyReader reader;
   QEventLoop loop;
-  QTcpSocket socket;
   bool over = false;
   const auto finish = [&] {
     over = true;
     loop.quit();
   };
-  QObject::connect(&socket, &QTcpSocket::connected, &socket,
-                   [&] { socket.write(QByteArray::fromStdString(HttpRequestText(address))); });
+  QTcpSocket socket;
+  bool reached = false;
+  const auto call = [&] { socket.connectToHost(QString::fromStdString(address.Host), address.Port); };
+  QTimer again;  // not before the socket has come to rest
+  again.setSingleShot(true);
+  QObject::connect(&again, &QTimer::timeout, &again, call);
+  QObject::connect(&socket, &QTcpSocket::connected, &socket, [&] {
+    reached = true;
+    socket.write(QByteArray::fromStdString(HttpRequestText(address)));
+  });
   QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [&] {
     TakeAll(socket, reader);
     if (reader.Now() != HttpReplyReader::State::kReading) finish();
   });
   QObject::connect(&socket, &QTcpSocket::errorOccurred, &socket, [&](QAbstractSocket::SocketError error) {
+    // A socket has a limit of its own for a connection, half a minute, and this one may have more time than that.
+    if (error == QAbstractSocket::SocketTimeoutError && !reached && !deadline.hasExpired()) {
+      again.start(0);
+      return;
+    }
     TakeAll(socket, reader);
     if (error == QAbstractSocket::RemoteHostClosedError) reader.End();
     finish();
@@ -71,7 +105,7 @@ std::optional<HttpReply> Ask(const HttpAddress& address, const QDeadlineTimer& d
 
   socket.setProxy(QNetworkProxy::NoProxy);
   socket.setReadBufferSize(kBlock);
-  socket.connectToHost(QString::fromStdString(address.Host), address.Port);
+  call();
   if (!over) loop.exec();
   if (reader.Now() != HttpReplyReader::State::kWhole) return std::nullopt;
   return reader.Reply();

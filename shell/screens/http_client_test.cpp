@@ -1,11 +1,23 @@
 #include "shell/screens/http_client.h"
 
+#include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QCoreApplication>
 #include <QCursor>
+#include <QDrag>
+#include <QInputMethodEvent>
+#include <QKeySequence>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QNetworkProxy>
 #include <QNetworkProxyFactory>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 #include <array>
@@ -16,6 +28,8 @@
 
 #include "shell/http_reply.h"
 #include "shell/loopback_host.h"
+#include "toolkit/expected_boxes.h"
+#include "toolkit/label.h"
 
 namespace quillon {
 namespace {
@@ -60,6 +74,11 @@ class HttpClientTime : public testing::Test {
   Clock::time_point start_ = Clock::now();
 };
 
+TEST(HttpClient, TakesAMinuteAtMost) {
+  EXPECT_EQ(kWebTimeOutSeconds, 60);
+  EXPECT_EQ(HttpClient().Limit(), std::chrono::minutes(1));
+}
+
 TEST(HttpClient, GivesTheBody) {
   struct Row {
     const char* Name;
@@ -73,6 +92,8 @@ TEST(HttpClient, GivesTheBody) {
       Row{"Windows-1252", Ok("2\xA2 \x80"), "2\u00A2 \u20AC"},
       Row{"no text at all", Ok(std::string_view("\0\x01\xFF\r\n", 5)), std::string("\0\x01\u00FF\r\n", 6)},
       Row{"the longest", Ok(std::string(kLongestHttpBody, 'x')), std::string(kLongestHttpBody, 'x')},
+      Row{"the longest that ends with the connection", "HTTP/1.0 200 OK\r\n\r\n" + std::string(kLongestHttpBody, 'x'),
+          std::string(kLongestHttpBody, 'x')},
   };
   for (const Row& row : rows) {
     const LoopbackHost host(row.Reply);
@@ -310,6 +331,8 @@ class WatchedWindow : public QWidget {
  public:
   WatchedWindow() {
     setMouseTracking(true);
+    setAcceptDrops(true);
+    QObject::connect(&shortcut_, &QShortcut::activated, this, [this] { Seen += "shortcut "; });
     setGeometry(100, 100, 200, 200);
     show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
@@ -324,8 +347,19 @@ class WatchedWindow : public QWidget {
   void paintEvent(QPaintEvent* /*event*/) override { Seen += "paint "; }
   void mouseMoveEvent(QMouseEvent* /*event*/) override { Seen += "move "; }
   void mousePressEvent(QMouseEvent* /*event*/) override { Seen += "press "; }
+  void wheelEvent(QWheelEvent* /*event*/) override { Seen += "wheel "; }
   void keyPressEvent(QKeyEvent* /*event*/) override { Seen += "key "; }
+  void inputMethodEvent(QInputMethodEvent* /*event*/) override { Seen += "composed "; }
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    event->accept();
+    Seen += "enter ";
+  }
+  void dragMoveEvent(QDragMoveEvent* /*event*/) override { Seen += "drag "; }
+  void dropEvent(QDropEvent* /*event*/) override { Seen += "drop "; }
   void closeEvent(QCloseEvent* /*event*/) override { Seen += "close "; }
+
+ private:
+  QShortcut shortcut_{QKeySequence(static_cast<int>(Qt::CTRL) | Qt::Key_1), this};
 };
 
 class HttpClientWindow : public testing::Test {
@@ -344,8 +378,34 @@ class HttpClientWindow : public testing::Test {
     QCursor::setPos(window.mapToGlobal(QPoint(50, 50)));
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(50, 50));
     QTest::keyClick(window.windowHandle(), Qt::Key_A);
+    QTest::keyClick(window.windowHandle(), Qt::Key_1, Qt::ControlModifier);
+    QWheelEvent wheel(kSpot, window.mapToGlobal(kSpot), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window.windowHandle(), &wheel);
+    QInputMethodEvent composed;
+    QCoreApplication::sendEvent(&window, &composed);
+  }
+  void DragIn() {
+    QDragEnterEvent enter(kSpot.toPoint(), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &enter);
+  }
+  void Drop() {
+    QDragMoveEvent drag(kSpot.toPoint(), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drag);
+    QDropEvent drop(kSpot, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drop);
+  }
+  void Hold() { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
+  void LetGo() { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
+  // Lays a control of its own over the window.
+  void Cover(QWidget& control) {
+    control.setParent(&window);
+    control.setGeometry(window.rect());
+    control.show();
+    window.Seen.clear();
   }
 
+  static constexpr QPointF kSpot{50, 50};
+  QMimeData dragged;
   WatchedWindow window;
   LoopbackHost host{[](LoopbackConnection& connection) {
     std::this_thread::sleep_for(kShort);
@@ -362,14 +422,81 @@ TEST_F(HttpClientWindow, CanBeClosedDuringTheRequest) {
 }
 
 TEST_F(HttpClientWindow, NeverLearnsOfInputMadeDuringTheRequest) {
-  EXPECT_EQ(SeenWhileAsking([&] { Use(); }), "");
+  EXPECT_EQ(SeenWhileAsking([&] {
+              Use();
+              DragIn();
+            }),
+            "");
   EXPECT_EQ(SeenByNow(), "");
+}
+
+TEST_F(HttpClientWindow, NeverLearnsOfADropMadeDuringTheRequest) {
+  DragIn();
+  window.Seen.clear();
+  EXPECT_EQ(SeenWhileAsking([&] { Drop(); }), "");
+}
+
+// A screen reader presses a control by no event of the mouse or the keyboard.
+TEST_F(HttpClientWindow, NeverLearnsOfAScreenReadersPressDuringTheRequest) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  Cover(label);
+  const QSignalSpy clicks(&label, &Control::Clicked);
+  const auto press = [&] {
+    QAccessible::queryAccessibleInterface(&label)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+  };
+  SeenWhileAsking(press);
+  EXPECT_EQ(clicks.count(), 0);
+  press();
+  EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(HttpClientWindow, LosesAClickThatEndsDuringTheRequest) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  Cover(label);
+  const QSignalSpy releases(&label, &Control::Released);
+  const QSignalSpy clicks(&label, &Control::Clicked);
+  Hold();
+  SeenWhileAsking([&] { LetGo(); });
+  EXPECT_EQ(releases.count(), 1);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(HttpClientWindow, LosesAClickOfAButtonThatEndsDuringTheRequest) {
+  QPushButton button;
+  Cover(button);
+  const QSignalSpy clicks(&button, &QPushButton::clicked);
+  Hold();
+  EXPECT_TRUE(button.isDown());
+  SeenWhileAsking([&] { LetGo(); });
+  EXPECT_FALSE(button.isDown());
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+// It is closed by a key, and by itself once that is in vain.
+TEST_F(HttpClientWindow, HearsWhatIsDoneToABoxThatComesUpDuringTheRequest) {
+  int answer = 0;
+  ExpectDialog([](QDialog& box) {
+    QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+    if (box.isVisible()) box.done(QMessageBox::Abort);
+  });
+  SeenWhileAsking([&] {
+    answer = QMessageBox(QMessageBox::Critical, {}, {}, QMessageBox::Ok, &window).exec();
+    window.Seen.clear();
+    Use();
+    EXPECT_EQ(window.Seen, "");
+  });
+  EXPECT_EQ(answer, QMessageBox::Ok);
 }
 
 TEST_F(HttpClientWindow, HearsAgainAfterTheRequest) {
   EXPECT_EQ(Get(host.Address()), "1.0");
   Use();
-  EXPECT_EQ(SeenByNow(), "move press key ");
+  DragIn();
+  Drop();
+  EXPECT_EQ(SeenByNow(), "move press key key shortcut wheel composed enter drag drop ") << "Ctrl is a key, too";
 }
 
 }  // namespace
