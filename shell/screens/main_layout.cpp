@@ -417,6 +417,7 @@ constexpr auto kTables = std::to_array<ControlTable>({
     {.Container = "frameContent(2)", .Font = kMSSansSerif8p25, .Rows = kDetails},
     {.Container = "frameContent(3)", .Font = kMSSansSerif9p75, .Rows = kProgress},
     {.Container = "frameContent(5)", .Font = kMSSansSerif8p25, .Rows = kAboutFrame},
+    // At 12 points, Label(56) would run into Label(57), and Label(58) into lblCurrentVersion.
     {.Container = "frameAboutContent", .Font = kArial9p75, .Rows = kAbout},
     {.Container = "frameControls", .Font = kArial12, .Rows = kStore},
 });
