@@ -76,6 +76,18 @@ TEST(BuildCombos, HandsStandInDeckOrder) {
   }
 }
 
+TEST(BuildCombos, EveryTwoCardsOfTheDeckAreAHandOnce) {
+  const HandList hands = BuildCombos("Xx", "Yy");
+  std::size_t index = 0;
+  for (std::size_t first = 0; first < kDeckSize; ++first) {
+    for (std::size_t second = first + 1; second < kDeckSize; ++second) {
+      EXPECT_EQ(hands.at(index).Cards, std::string(DeckCard(first)) + " " + std::string(DeckCard(second))) << index;
+      ++index;
+    }
+  }
+  EXPECT_EQ(index, hands.size());
+}
+
 TEST(BuildCombos, EveryClassHasItsNumberOfHands) {
   const HandList hands = BuildCombos("Xx", "Yy");
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {

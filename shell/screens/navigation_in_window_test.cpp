@@ -6,6 +6,7 @@
 
 #include "shell/screens/main_form_fixture.h"
 #include "shell/screens/main_layout.h"
+#include "shell/screens/opened_addresses.h"
 
 namespace quillon {
 namespace {
@@ -254,9 +255,11 @@ TEST_F(NavigationInWindow, TheHandCursorShowsOverLinksAlone) {
 }
 
 TEST_F(NavigationInWindow, TheTutorialsLinkLeadsNowhereYet) {
+  const OpenedAddresses addresses;
   RunEquity("Tight");
   Click("lblLink", 0);
   EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_TRUE(addresses.Opened.empty());
 }
 
 TEST_F(NavigationInWindow, LinksLeaveTheFocusWhereItIs) {
