@@ -33,14 +33,14 @@ int FontPixels(float points) {
   return static_cast<int>(std::lround(points * 96 / 72));
 }
 
-QFont FormFont(const FontSpec& spec, const FontSpec& inherited) {
-  const FontSpec& used = spec.Family.empty() ? inherited : spec;
-  QFont font;
-  font.setFamilies(FontFamilies(used.Family));
-  font.setPixelSize(FontPixels(used.Points));
-  font.setBold(used.Bold);
-  font.setUnderline(used.Underlined);
-  return font;
+QFont FormFont(const FontSpec& font, const FontSpec& inherited) {
+  const FontSpec& used = font.Family.empty() ? inherited : font;
+  QFont made;
+  made.setFamilies(FontFamilies(used.Family));
+  made.setPixelSize(FontPixels(used.Points));
+  made.setBold(used.Bold);
+  made.setUnderline(used.Underlined);
+  return made;
 }
 
 }  // namespace quillon

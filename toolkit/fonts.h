@@ -18,7 +18,7 @@ namespace quillon {
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 
 /// The font of a row, `inherited` where it names none: 8.25 points are 11 pixels, 20.25 points are 27.
-[[nodiscard]] QFont FormFont(const FontSpec& spec, const FontSpec& inherited);
+[[nodiscard]] QFont FormFont(const FontSpec& font, const FontSpec& inherited);
 
 /// Points of 96 dots to the inch as pixels, rounded.
 [[nodiscard]] int FontPixels(float points);
