@@ -6,9 +6,9 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Tests, and what only tests are made of, are held to fewer rules: those that find faults. The analyzer would follow every
-# path through their macros, for half a minute a file, and the sanitizers watch them anyway.
-test_sources='_test\.cpp$|/tests_as_one/|/tests/|/fuzz/'
+# Tests and benchmarks, and what only they are made of, are held to fewer rules: those that find faults. The analyzer
+# would follow every path through their macros, for half a minute a file.
+test_sources='_test\.cpp$|/tests_as_one/|/tests/|/fuzz/|/bench/'
 test_checks='--checks=-*,bugprone-*,performance-*,readability-identifier-naming'
 test_checks+=',-bugprone-easily-swappable-parameters,-bugprone-exception-escape'
 
