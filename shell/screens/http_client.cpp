@@ -1,5 +1,6 @@
 #include "shell/screens/http_client.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -24,10 +25,16 @@ constexpr qint64 kBlock = 64 << 10;  // what a flood may pile up between two loo
 // loop leave them alone would not do, for it counts the closing of a window among them.
 class InputBlock : public QObject {
  public:
-  InputBlock() { qApp->installEventFilter(this); }
+  // What is open or pressed would stay so: a list that is dropped down holds the mouse of the whole screen.
+  InputBlock() {
+    while (QWidget* const popup = QApplication::activePopupWidget())
+      popup->close();
+    if (auto* const button = qobject_cast<QAbstractButton*>(QApplication::focusWidget())) button->setDown(false);
+    qApp->installEventFilter(this);
+  }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    // None is open when a request starts, so this one tells of a fault, and somebody has to be able to close it.
+    // None is open when a request starts, so this one came up since and wants an answer.
     if (QApplication::activeModalWidget() != nullptr) return false;
     switch (event->type()) {
       case QEvent::Shortcut:

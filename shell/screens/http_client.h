@@ -2,7 +2,7 @@
 
 // The web client of the window. While a request is on its way the window is still drawn and can be closed, but it is
 // deaf: what the user does with the mouse and the keyboard in the meantime is dropped. Only a box that comes up during
-// the request is heard, for it tells of a fault.
+// the request is heard, for it wants an answer.
 
 #include <chrono>
 

@@ -7,6 +7,7 @@
 #include <QDrag>
 #include <QInputMethodEvent>
 #include <QKeySequence>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -471,6 +472,27 @@ TEST_F(HttpClientWindow, LosesAClickOfAButtonThatEndsDuringTheRequest) {
   Hold();
   EXPECT_TRUE(button.isDown());
   SeenWhileAsking([&] { LetGo(); });
+  EXPECT_FALSE(button.isDown());
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(HttpClientWindow, ClosesAListThatIsOpenWhenTheRequestStarts) {
+  QMenu list(&window);
+  list.addAction(QStringLiteral("an entry"));
+  list.popup(window.mapToGlobal(kSpot.toPoint()));
+  ASSERT_TRUE(list.isVisible());
+  EXPECT_EQ(Get(host.Address()), "1.0");
+  EXPECT_FALSE(list.isVisible());
+}
+
+TEST_F(HttpClientWindow, LetsGoOfAButtonThatAKeyHolds) {
+  QPushButton button;
+  Cover(button);
+  button.setFocus();
+  const QSignalSpy clicks(&button, &QPushButton::clicked);
+  QTest::keyPress(&button, Qt::Key_Space);
+  ASSERT_TRUE(button.isDown());
+  EXPECT_EQ(Get(host.Address()), "1.0");
   EXPECT_FALSE(button.isDown());
   EXPECT_EQ(clicks.count(), 0);
 }
