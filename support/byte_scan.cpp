@@ -10,8 +10,10 @@
 #endif
 
 // One source, two machine codes: the loader resolves each search once, by what the processor offers. Sanitizers hook
-// into programs before such a choice can be made, and other compilers spell it differently; they take the baseline.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
+// into programs before such a choice can be made, and other compilers and loaders do it differently; they take the
+// baseline.
+#if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) && \
+    !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define QUILLON_CHOOSES_PROCESSOR
 #endif
 // What a search is made of is built for its processor only where it is taken into it.

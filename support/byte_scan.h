@@ -1,9 +1,9 @@
 #pragma once
 
 // Two searches over plain bytes, many bytes at a time. The equity table and the range texts stay text and are searched
-// anew on every lookup, so these loops are where an analysis spends its time. They are written so that the compiler
-// turns them into vector code; on x86-64 they are built for AVX2 and for the baseline, and the program picks the better
-// one when it starts. Both give the same answers.
+// anew on every lookup, so these loops are where an analysis spends its time. They work on vectors; on x86-64 they are
+// built for AVX2 and for the baseline, and the program picks the better one when it starts. Both give the same answers.
+// A compiler or loader that cannot choose so gets the baseline alone.
 
 #include <cstddef>
 #include <string_view>

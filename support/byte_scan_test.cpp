@@ -1,9 +1,12 @@
 #include "support/byte_scan.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
 #include <string>
+#include <sys/mman.h>
+#include <unistd.h>
 #include <vector>
 
 namespace quillon {
@@ -40,6 +43,41 @@ class RandomTexts {
 // a text is looked for.
 const std::vector<std::size_t> kBlockEdges = {0,   1,   63,  64,  65,  111, 112, 113, 127, 128, 129, 191,
                                               192, 223, 224, 225, 256, 335, 336, 337, 384, 447, 448, 449};
+
+// Memory between two pages that may not be looked at.
+class GuardedPage {
+ public:
+  GuardedPage() {
+    EXPECT_NE(all_, MAP_FAILED);
+    EXPECT_EQ(::mprotect(Start(), size_, PROT_READ | PROT_WRITE), 0);
+    std::fill_n(Start(), size_, 'x');
+  }
+  GuardedPage(const GuardedPage&) = delete;
+  GuardedPage(GuardedPage&&) = delete;
+  GuardedPage& operator=(const GuardedPage&) = delete;
+  GuardedPage& operator=(GuardedPage&&) = delete;
+  ~GuardedPage() { ::munmap(all_, 3 * size_); }
+
+  [[nodiscard]] std::string_view FirstBytes(std::size_t count) const { return {Start(), count}; }
+  [[nodiscard]] std::string_view LastBytes(std::size_t count) const { return {Start() + size_ - count, count}; }
+
+ private:
+  [[nodiscard]] char* Start() const { return static_cast<char*>(all_) + size_; }
+
+  std::size_t size_ = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+  void* all_ = ::mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+};
+
+TEST(Searches, ReadNoByteBesideTheText) {
+  const GuardedPage page;
+  for (std::size_t length = 0; length <= kLongest; ++length) {
+    for (const std::string_view text : {page.FirstBytes(length), page.LastBytes(length)}) {
+      ASSERT_EQ(FindNthByte(text, ' ', 0), kNowhere) << "length " << length;
+      for (const std::string_view wanted : {"y", "xy", "xxy", "xyx", "xxxy"})
+        ASSERT_EQ(FindText(text, wanted), kNowhere) << wanted << ", length " << length;
+    }
+  }
+}
 
 TEST(FindNthByte, EqualsAPlainLoopAtEveryLength) {
   RandomTexts texts("ab ");
