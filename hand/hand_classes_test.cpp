@@ -192,6 +192,7 @@ TEST(HandCards, TakesFixedSuitsForEachKindOfHand) {
   EXPECT_EQ(HandCards("22"), "2s 2c");
   EXPECT_EQ(HandCards("T9s"), "Tc 9c");
   EXPECT_EQ(HandCards("72o"), "7c 2s");
+  EXPECT_EQ(HandCards(std::string_view("AK").substr(0, 1)), "Ac s") << "no letter is taken from behind a label";
 }
 
 TEST(HandCards, AreTwoCardsOfTheDeckAndOfTheClass) {

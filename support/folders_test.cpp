@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
+#include <sys/stat.h>
 #include <utility>
 #include <vector>
 
@@ -120,6 +121,13 @@ TEST_F(Folders, AnInterruptedLookIsTakenAgain) {
 TEST_F(Folders, AreMade) {
   EXPECT_FALSE(FailureOfMaking(Home() / "Saved Grids").has_value());
   EXPECT_TRUE(fs::is_directory(Home() / "Saved Grids"));
+}
+
+TEST_F(Folders, ArePermittedWhatTheUsersUmaskLeaves) {
+  const mode_t before = ::umask(0027);
+  MakeFolder(Home() / "Ranges");
+  ::umask(before);
+  EXPECT_EQ(fs::status(Home() / "Ranges").permissions(), fs::perms{0750});
 }
 
 TEST_F(Folders, ThatCannotBeMadeAreFatal) {

@@ -285,25 +285,25 @@ bool IsNumericText(std::string_view text) {
     return true;
   };
   const auto takeDigits = [&text](bool commas) {
-    std::size_t count = 0;
+    bool taken = false;
     while (!text.empty()) {
-      const bool comma = commas && count > 0 && text[0] == ',' && text.size() > 1 && IsDigit(text[1]);
+      const bool comma = commas && taken && text[0] == ',' && text.size() > 1 && IsDigit(text[1]);
       if (!comma && !IsDigit(text[0])) break;
       text.remove_prefix(comma ? 2 : 1);
-      ++count;
+      taken = true;
     }
-    return count;
+    return taken;
   };
 
   const bool currencySeen = take('$');
   const bool signSeen = take('+') || take('-');
   if (signSeen && !currencySeen) take('$');
-  std::size_t digits = takeDigits(true);
-  if (take('.')) digits += takeDigits(false);
-  if (digits == 0) return false;
+  const bool whole = takeDigits(true);
+  const bool fraction = take('.') && takeDigits(false);
+  if (!whole && !fraction) return false;
   if (take('e') || take('E')) {
     if (!take('+')) take('-');
-    if (takeDigits(false) == 0) return false;
+    if (!takeDigits(false)) return false;
   }
   return text.empty();
 }

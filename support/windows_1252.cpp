@@ -43,14 +43,14 @@ Decoded DecodeUtf8(std::string_view text) {
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
   if (length == 0 || length > text.size() || lead > 0xF4) return {kInvalid, 1};
 
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+  constexpr std::array<char32_t, 3> kSmallest = {0x80, 0x800, 0x10000};  // of two bytes, three, four
   char32_t character = lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {
     if ((at(i) & 0xC0U) != 0x80U) return {kInvalid, 1};
     character = (character << 6U) | (at(i) & 0x3FU);
   }
   const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-  if (character < kSmallest[length] || character > 0x10FFFF || surrogate) return {kInvalid, 1};
+  if (character < kSmallest[length - 2] || character > 0x10FFFF || surrogate) return {kInvalid, 1};
   return {character, length};
 }
 

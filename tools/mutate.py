@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Changes one operator, constant or comparison of the logic at a time and tells whether the folder's tests notice.
 
-    tools/mutate.py                   200 changes, always the same ones for the same source
+    tools/mutate.py                   200 changes, the same ones as long as their lines stay as they are
     tools/mutate.py -n 50 --seed 7    others
     tools/mutate.py --folder hand     in one folder only
 
@@ -11,8 +11,8 @@ for each change, those that nobody noticed once more, and the share; fails where
 """
 
 import argparse
+import hashlib
 import pathlib
-import random
 import re
 import shutil
 import subprocess
@@ -106,6 +106,15 @@ def shown(path, offset, old, new):
     return f"{path}:{text.count(chr(10), 0, offset) + 1}: {line.strip()}"
 
 
+def drawn_place(seed, path, offset, old, _new):
+    """A random number, yet the same one wherever the line of the change has gone."""
+    text = (ROOT / path).read_text()
+    start = text.rfind("\n", 0, offset) + 1
+    before = text[start:offset].lstrip()
+    behind = text[offset:text.find("\n", offset)]
+    return hashlib.sha256(repr((seed, path, before, old, behind)).encode()).hexdigest()
+
+
 def try_change(copy, tree, change):
     """True where the tests notice, False where they do not, None where it does not compile."""
     path, offset, old, new = change
@@ -142,7 +151,7 @@ def main():
             sys.exit(f"{folder}_test fails without any change")
 
     changes = [change for path in sources(folders) for change in changes_of(path)]
-    random.Random(options.seed).shuffle(changes)
+    changes.sort(key=lambda change: drawn_place(options.seed, *change))
     noticed, survivors = 0, []
     for change in changes:
         if noticed + len(survivors) == options.n:
