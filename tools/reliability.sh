@@ -24,7 +24,7 @@ fuzz_target() {
   : >"$log"
   for part in 5:256 1:4096; do
     ASAN_OPTIONS=malloc_context_size=2:quarantine_size_mb=8 "build/fuzz/bin/$1" -timeout=10 -print_final_stats=1 \
-      -max_len="${part#*:}" -max_total_time=$((seconds * ${part%:*} / 6)) \
+      -max_len="${part#*:}" -max_total_time=$((seconds * ${part%:*} / 6 + 1)) \
       -runs=$((runs < 0 ? runs : runs * ${part%:*} / 6 + 1)) -artifact_prefix="build/fuzz/$1-" \
       "build/fuzz/corpus-$1" "fuzz/corpus/$1" >>"$log" 2>&1 || {
       tail -n 40 "$log"
