@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <thread>
@@ -65,6 +66,12 @@ TEST_F(LockingAFolder, NeedsNoStandardInput) {
   const ClosedInput closed;
   const FolderLock lock(Folder());
   EXPECT_TRUE(lock.Held());
+}
+
+TEST_F(LockingAFolder, GivesBackTheNumberOfAMissingStandardInput) {
+  const ClosedInput closed;
+  { const FolderLock lock(Folder()); }
+  EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1);
 }
 
 TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {
