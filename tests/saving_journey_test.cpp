@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
@@ -83,17 +84,17 @@ fs::file_time_type LastChange(const ProgramFolder& folder) {
   return fs::last_write_time(RangeFolderPath(folder));
 }
 
-// A process may take longer to start on a busy machine than a round takes it then.
-void WaitForChange(const ProgramFolder& folder, fs::file_time_type last) {
+void WaitUntil(const std::function<bool()>& happened) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  while (LastChange(folder) == last && std::chrono::steady_clock::now() < end)
+  while (!happened() && std::chrono::steady_clock::now() < end)
     std::this_thread::sleep_for(std::chrono::microseconds(200));
 }
 
-void WaitForSettings(const ProgramFolder& folder) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  while (!fs::exists(SettingsFilePath(folder)) && std::chrono::steady_clock::now() < end)
-    std::this_thread::sleep_for(std::chrono::microseconds(200));
+// Waits for the loop's first change; the first loop of all also stores a setting, which comes late in a round. A
+// process may take longer to start on a busy machine than a round takes it then.
+void WaitForWork(const ProgramFolder& folder, fs::file_time_type last, bool first) {
+  WaitUntil([&] { return LastChange(folder) != last; });
+  if (first) WaitUntil([&] { return fs::exists(SettingsFilePath(folder)); });
 }
 
 TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
@@ -107,8 +108,7 @@ TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
     {
       const fs::file_time_type last = LastChange(program.Folder());
       RunningProgram loop(LoopRun(program.Folder(), "A", 0));
-      WaitForChange(program.Folder(), last);
-      if (kill == 0) WaitForSettings(program.Folder());  // of all that a round does, these come late
+      WaitForWork(program.Folder(), last, kill == 0);
       std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
       EXPECT_EQ(loop.Status(), std::nullopt) << loop.Errors();
     }

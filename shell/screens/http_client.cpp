@@ -27,8 +27,8 @@ class InputBlock : public QObject {
  public:
   // What is open or pressed would stay so: a list that is dropped down holds the mouse of the whole screen.
   InputBlock() {
-    while (QWidget* const popup = QApplication::activePopupWidget())
-      popup->close();
+    for (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && popup->close();)
+      popup = QApplication::activePopupWidget();
     if (auto* const button = qobject_cast<QAbstractButton*>(QApplication::focusWidget())) button->setDown(false);
     qApp->installEventFilter(this);
   }
