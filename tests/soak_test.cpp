@@ -1,5 +1,6 @@
-// The main window in use for a long time: no memory is lost and nothing becomes slower. The everyday form is short;
-// QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of "docs/reliability.md".
+// The main window in use for a long time: no memory is lost and nothing becomes slower. The everyday form is short and
+// looks at memory alone; QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of
+// "docs/reliability.md", and holds the durations against each other too, for which the machine has to be quiet.
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -21,9 +22,14 @@
 namespace quillon {
 namespace {
 
-int Times(int everyday) {
+/// How many times as long as in its everyday form a soak is: 0 where nothing says so, and it is everyday.
+int SoakFactor() {
   const char* const factor = std::getenv("QUILLON_SOAK");
-  return everyday * (factor == nullptr ? 1 : std::max(std::atoi(factor), 1));
+  return factor == nullptr ? 0 : std::max(std::atoi(factor), 1);
+}
+
+int Times(int everyday) {
+  return everyday * std::max(SoakFactor(), 1);
 }
 
 /// Bytes that the process has asked for and not given back, but for Qt's store of drawn pictures: that fills up to its
@@ -99,8 +105,9 @@ class Soak : public MainFormTest {
     const double settling = 65536.0 / static_cast<double>(durations.end() - first);
     EXPECT_LT(growth, 1024 + settling) << "something is not given back";
     EXPECT_LT(resident, 1.05) << "memory grows";
-    // The clock counts whole microseconds at best, and other programs share the processor's caches.
-    EXPECT_LT(late, early * 1.5 + 0.0002) << "it becomes slower";
+    if (SoakFactor() > 0) {
+      EXPECT_LT(late, early * 1.5) << "it becomes slower";
+    }
   }
 };
 
