@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "support/run_time_error.h"
@@ -21,6 +22,15 @@ std::optional<std::string_view> TakeRow(std::string_view& rest) {
   const std::string_view row = rest.substr(0, length);
   rest.remove_prefix(length + kLineEnd.size());
   return row;
+}
+
+bool BeginsRow(std::string_view table, std::size_t place) {
+  return place == 0 || table.substr(0, place).ends_with(kLineEnd);
+}
+
+// The row that begins at `place`; the last one need not have a line end.
+std::string_view RowAt(std::string_view table, std::size_t place) {
+  return table.substr(place, table.substr(place).find(kLineEnd));
 }
 
 std::string_view KeyOf(std::string_view row) {
@@ -93,11 +103,19 @@ std::string SetHandInfo(std::string_view table, std::string_view label, std::int
 }
 
 double GetHandInfo(std::string_view table, std::string_view label, std::int16_t column) {
-  std::string_view rest = table;
-  while (const auto row = TakeRow(rest)) {
-    if (!row->empty() && KeyOf(*row) == label) return ValueOf(*row, column);
+  // A report asks some hundred times. Looking for the label, and then whether it is a row's key, goes over many bytes
+  // at a time where a walk from row to row goes over one.
+  std::size_t from = 0;
+  while (from <= table.size()) {
+    const std::size_t found = FindText(table.substr(from), label);
+    if (found == std::string_view::npos) break;
+    const std::size_t place = from + found;
+    if (BeginsRow(table, place)) {
+      const std::string_view row = RowAt(table, place);
+      if (!row.empty() && KeyOf(row) == label) return ValueOf(row, column);
+    }
+    from = place + 1;
   }
-  if (!rest.empty() && KeyOf(rest) == label) return ValueOf(rest, column);
   return 0;
 }
 
