@@ -1,5 +1,6 @@
 #include "results/formula_texts.h"
 
+#include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 
@@ -14,10 +15,10 @@ std::string ShoveFormulaText(const AnalysisState& state, double foldShare, doubl
   const std::string pot = RoundedText(state.PotSize, 2);
   const std::string call = RoundedText(state.CallAmount, 2);
 
-  const std::string whenFolded = "(" + fold + "*" + RoundedText(state.PotSize, 4) + ")";
-  const std::string everything = "(" + pot + "+" + call + "+2*" + RoundedText(state.ShoveAmount, 0) + ")";
-  const std::string invested = "(" + call + "+" + RoundedText(state.ShoveAmount, 2) + ")";
-  return whenFolded + "+(1-" + fold + ")*(" + RoundedText(equity, 7) + "*" + everything + "-" + invested + ")";
+  const std::string whenFolded = Joined({"(", fold, "*", RoundedText(state.PotSize, 4), ")"});
+  const std::string everything = Joined({"(", pot, "+", call, "+2*", RoundedText(state.ShoveAmount, 0), ")"});
+  const std::string invested = Joined({"(", call, "+", RoundedText(state.ShoveAmount, 2), ")"});
+  return Joined({whenFolded, "+(1-", fold, ")*(", RoundedText(equity, 7), "*", everything, "-", invested, ")"});
 }
 
 }  // namespace quillon

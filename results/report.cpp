@@ -11,6 +11,7 @@
 #include "ranges/range_text.h"
 #include "results/formula_texts.h"
 #include "results/web_addresses.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 
 namespace quillon {
@@ -42,7 +43,7 @@ class PlainReport {
 };
 
 std::string HandAndCombos(std::string_view hand) {
-  return std::string(hand) + "\t" + std::to_string(ComboCount(hand)) + "\t";
+  return Joined({hand, "\t", std::to_string(ComboCount(hand)), "\t"});
 }
 
 // The equity column rounds half away from zero and the formula to even; the two may differ in the last digit.
@@ -50,16 +51,17 @@ std::string CallRow(const AnalysisState& state, std::string_view hand) {
   const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
   const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
   const std::string call = RoundedText(state.CallAmount, 2);
-  return HandAndCombos(hand) + PatternText(equity, 3) + "\t" + MoneyColumn(expectedValue, 13) +
-         "\t=" + RoundedText(equity, 3) + "*(" + RoundedText(state.PotSize, 2) + "+" + call + ")-" + call;
+  const std::string pot = RoundedText(state.PotSize, 2);
+  return Joined({HandAndCombos(hand), PatternText(equity, 3), "\t", MoneyColumn(expectedValue, 13),
+                 "\t=", RoundedText(equity, 3), "*(", pot, "+", call, ")-", call});
 }
 
 std::string RaiseRow(const AnalysisState& state, std::string_view hand) {
   const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
   const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
   const double foldShare = GetHandInfo(state.HandInfo, hand, kFoldShareColumn);
-  return HandAndCombos(hand) + "    " + PatternText(equity, 3) + "\t" + MoneyColumn(expectedValue, 10) +
-         "\t=" + ShoveFormulaText(state, foldShare, equity);
+  return Joined({HandAndCombos(hand), "    ", PatternText(equity, 3), "\t", MoneyColumn(expectedValue, 10),
+                 "\t=", ShoveFormulaText(state, foldShare, equity)});
 }
 
 std::string EquityRow(const AnalysisState& state, std::string_view hand) {

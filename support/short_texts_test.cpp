@@ -4,10 +4,18 @@
 #include <string>
 
 #include "support/fixed_text.h"
+#include "support/joined_text.h"
 #include "support/rgb.h"
 
 namespace quillon {
 namespace {
+
+TEST(Joined, PutsItsPartsOneBehindTheOther) {
+  EXPECT_EQ(Joined({}), "");
+  EXPECT_EQ(Joined({""}), "");
+  EXPECT_EQ(Joined({"AA", "", "\t", std::string(40, '6'), "x"}), "AA\t" + std::string(40, '6') + "x");
+  EXPECT_EQ(Joined({std::string_view("a\0b", 3), "c"}), std::string("a\0bc", 4));
+}
 
 TEST(FixedText, StartsEmpty) {
   EXPECT_EQ(FixedText<3>().View(), "");
