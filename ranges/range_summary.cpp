@@ -55,7 +55,7 @@ std::string LineRuns(const Line& line, const ClassWeights& weights, double targe
 std::string SummaryOf(const ClassWeights& weights, double target) {
   std::string summary = LineRuns({0, kAlongDiagonal, kRankCount}, weights, target);
   for (const int step : {kToTheRight, kDown}) {
-    for (int high = 0; high < kRankCount - 1; ++high)
+    for (int high = 0; high < kRankCount; ++high)  // the last has nothing beside it
       summary += LineRuns({high * kAlongDiagonal + step, step, kRankCount - 1 - high}, weights, target);
   }
   if (!summary.empty()) summary.pop_back();

