@@ -1,0 +1,58 @@
+// The written report of a finished Preflop Raise in both of its forms, without a window around it.
+
+#include <benchmark/benchmark.h>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "analysis/analysis_state.h"
+#include "analysis/results_table.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_fixtures.h"
+#include "results/recording_report_screen.h"
+#include "results/report.h"
+
+namespace quillon {
+namespace {
+
+AnalysisState FinishedRaise() {
+  AnalysisState state;
+  state.Mode = AnalysisMode::kPreflopRaise;
+  state.PotSize = 150;
+  state.CallAmount = 50;
+  state.ShoveAmount = 400;
+  state.RangeName = "Everything";
+  state.RangeText = TextWith(AllLabels());
+  state.CallingRangeName = state.RangeName;
+  state.CallingRangeText = state.RangeText;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view hand = HandLabel(index);
+    const double share = index / 168.0;
+    state.HandInfo = SetHandInfo(state.HandInfo, hand, kExpectedValueColumn, 400 * (0.5 - share), kLastColumn);
+    state.HandInfo = SetHandInfo(state.HandInfo, hand, kEquityColumn, 1 - share, kLastColumn);
+    state.HandInfo = SetHandInfo(state.HandInfo, hand, kFoldShareColumn, share, kLastColumn);
+  }
+  return state;
+}
+
+void BuildReports(benchmark::State& timing, ReportForm form) {
+  AnalysisState state = FinishedRaise();
+  while (timing.KeepRunning()) {
+    RecordingReportScreen screen;
+    screen.Form = form;
+    BuildReport(screen, state);
+    benchmark::DoNotOptimize(screen.Text);
+  }
+}
+
+void PlainReport(benchmark::State& timing) {
+  BuildReports(timing, ReportForm::kPlainText);
+}
+void ForumReport(benchmark::State& timing) {
+  BuildReports(timing, ReportForm::kForum);
+}
+BENCHMARK(PlainReport)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ForumReport)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace quillon
