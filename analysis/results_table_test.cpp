@@ -110,7 +110,7 @@ TEST(GetHandInfo, LooksAtEveryPiece) {
 TEST(GetHandInfo, TakesALabelForAKeyOnlyInItsPlace) {
   EXPECT_EQ(GetHandInfo("x\tAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "in a cell it is none";
   EXPECT_EQ(GetHandInfo("AAA\t9\t\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor as a part of another key";
-  EXPECT_EQ(GetHandInfo("x\r\t9\r\nx\nAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor behind half a line end";
+  EXPECT_EQ(GetHandInfo("x\rAA\t9\r\nx\nAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor behind half a line end";
   EXPECT_EQ(GetHandInfo("\nAA\t9\t\r\nAA\t5", "AA", 1), 5) << "nor behind half of one at the start";
   EXPECT_EQ(GetHandInfo("AA\t1\t2\t\r\n", "AA\t1", 1), 0) << "two cells are no key";
   EXPECT_EQ(GetHandInfo("AA\r\nKK\t2\t\r\n", "AA\r\nKK", 1), 0) << "nor are two rows";

@@ -11,20 +11,17 @@
 #include "ranges/range_fixtures.h"
 #include "results/recording_report_screen.h"
 #include "results/report.h"
+#include "results/sample_analysis.h"
 
 namespace quillon {
 namespace {
 
+// Both ranges full, and every hand with figures of its own.
 AnalysisState FinishedRaise() {
-  AnalysisState state;
-  state.Mode = AnalysisMode::kPreflopRaise;
-  state.PotSize = 150;
-  state.CallAmount = 50;
-  state.ShoveAmount = 400;
-  state.RangeName = "Everything";
+  AnalysisState state = sample::RaiseState();
   state.RangeText = TextWith(AllLabels());
-  state.CallingRangeName = state.RangeName;
   state.CallingRangeText = state.RangeText;
+  state.HandInfo.clear();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string_view hand = HandLabel(index);
     const double share = index / 168.0;

@@ -1,10 +1,10 @@
 #include "ranges/range_summary.h"
 
-#include <cstddef>
 #include <cstdint>
 
 #include "hand/hand_classes.h"
 #include "ranges/range_text.h"
+#include "support/joined_text.h"
 
 namespace quillon {
 namespace {
@@ -20,8 +20,9 @@ struct Line {
   int step;  // from one class index to the next
   int count;
 
-  [[nodiscard]] int Index(int place) const { return first + place * step; }
-  [[nodiscard]] std::string_view Label(int place) const { return HandLabel(static_cast<std::int16_t>(Index(place))); }
+  [[nodiscard]] std::string_view Label(int place) const {
+    return HandLabel(static_cast<std::int16_t>(first + place * step));
+  }
 };
 
 constexpr int kToTheRight = 1;
@@ -29,15 +30,14 @@ constexpr int kDown = kRankCount;
 constexpr int kAlongDiagonal = kToTheRight + kDown;
 
 std::string RunText(const Line& line, int start, int end) {
-  std::string text(line.Label(start == 0 ? end : start));
-  if (start == end) return text;
-  if (start == 0) return text + "+";
-  return text.append("-").append(line.Label(end));
+  if (start == end) return std::string(line.Label(end));
+  if (start == 0) return Joined({line.Label(end), "+"});
+  return Joined({line.Label(start), "-", line.Label(end)});
 }
 
 // The runs of one line, each followed by a comma.
-std::string LineRuns(const Line& line, const ClassWeights& weights, double target) {
-  const auto weightAt = [&](int place) { return weights[static_cast<std::size_t>(line.Index(place))]; };
+std::string LineRuns(const Line& line, std::string_view text, double target) {
+  const auto weightAt = [&](int place) { return RangeWeightOf(text, line.Label(place)); };
   std::string runs;
   int start = 0;
   for (int place = 0; place < line.count; ++place) {
@@ -52,26 +52,21 @@ std::string LineRuns(const Line& line, const ClassWeights& weights, double targe
   return runs;
 }
 
-std::string SummaryOf(const ClassWeights& weights, double target) {
-  std::string summary = LineRuns({0, kAlongDiagonal, kRankCount}, weights, target);
+}  // namespace
+
+std::string SummarizeWeight(std::string_view text, double target) {
+  std::string summary = LineRuns({0, kAlongDiagonal, kRankCount}, text, target);
   for (const int step : {kToTheRight, kDown}) {
     for (int high = 0; high < kRankCount; ++high)  // the last has nothing beside it
-      summary += LineRuns({high * kAlongDiagonal + step, step, kRankCount - 1 - high}, weights, target);
+      summary += LineRuns({high * kAlongDiagonal + step, step, kRankCount - 1 - high}, text, target);
   }
   if (!summary.empty()) summary.pop_back();
   return summary;
 }
 
-}  // namespace
-
-std::string SummarizeWeight(std::string_view text, double target) {
-  return SummaryOf(RangeWeightsOf(text), target);
-}
-
 std::string RangeSummary(std::string_view text) {
-  const ClassWeights weights = RangeWeightsOf(text);
-  const std::string half = SummaryOf(weights, 0.5);
-  const std::string full = SummaryOf(weights, 1);
+  const std::string half = SummarizeWeight(text, 0.5);
+  const std::string full = SummarizeWeight(text, 1);
   if (!half.empty()) return "Full: " + full + " | Half: " + half;
   if (full == kWholeGrid) return "[Everything]";
   return full.empty() ? "[None]" : full;

@@ -1,5 +1,6 @@
 #include "results/report.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>

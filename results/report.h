@@ -32,7 +32,8 @@ class ReportScreen : public ReportBox {
 /// empties. The list of single hands is shown with the forum form alone.
 ///
 /// The state is only read, but for DroppedHands: the plain form writes that very text as a line, so a colon in it would
-/// gain a tab in the state too. A Preflop Call needs a call amount that is not 0: its pot odds fail as Divide does.
+/// gain a tab in the state too. A Preflop Call needs a call amount that is not 0: its pot odds fail as Divide does, and
+/// so does its break-even point where pot and call come to 0 together.
 void BuildReport(ReportScreen& screen, AnalysisState& state);
 
 }  // namespace quillon

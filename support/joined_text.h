@@ -2,6 +2,7 @@
 
 // Long texts made of many short ones.
 
+#include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <string_view>
