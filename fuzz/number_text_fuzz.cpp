@@ -60,12 +60,33 @@ double PlainNumber(const std::string& number) {
   return std::clamp(std::strtod(number.c_str(), nullptr), -kLargest, kLargest);
 }
 
-// The exact value of a double has at most 1074 decimals, so a look at the digits behind the last one wanted decides.
-std::string PlainFixed(double value, std::size_t digits, bool tiesAwayFromZero) {
-  std::array<char, 1500> exact{};
-  const int length =
-      std::snprintf(exact.data(), exact.size(), "%.1074f", std::abs(value));  // NOLINT: as exact as can be
-  std::string text(exact.data(), static_cast<std::size_t>(length));
+// A number without its sign, with all its decimals. A double has 1074 at most.
+std::string ExactText(double value) {
+  std::array<char, 1500> text{};
+  const int length = std::snprintf(text.data(), text.size(), "%.1074f", std::abs(value));  // NOLINT: exact as can be
+  return {text.data(), static_cast<std::size_t>(length)};
+}
+
+// A number to 15 significant digits, with an exponent.
+std::string ShortText(double value) {
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), "%.14e", value);  // NOLINT: the rules' own wording, 15 digits
+  return text.data();
+}
+
+// Likewise, without its sign and its exponent, and with more decimals than anyone asks for.
+std::string GeneralText(double value) {
+  const std::string text = ShortText(std::abs(value));
+  const std::string digits = text.substr(0, 1) + text.substr(2, 14);
+  const int power = std::atoi(text.c_str() + text.find('e') + 1);  // NOLINT: an exponent as printed
+  const std::string zeros(400, '0');
+  if (power < 0) return "0." + zeros.substr(0, static_cast<std::size_t>(-power - 1)) + digits + zeros;
+  std::string fixed = digits + zeros + zeros;
+  return fixed.insert(static_cast<std::size_t>(power) + 1, ".");
+}
+
+// Text to so many decimals; a look at the digits after the last one wanted decides.
+std::string PlainFixed(std::string text, bool negative, std::size_t digits, bool tiesAwayFromZero) {
   const std::size_t point = text.find('.');
   const std::string behind = text.substr(point + 1 + digits);
   text.resize(point + 1 + digits);
@@ -81,7 +102,7 @@ std::string PlainFixed(double value, std::size_t digits, bool tiesAwayFromZero) 
     if (c != '0') break;
     if (i == 1) text.insert(0, 1, '1');
   }
-  return (std::signbit(value) && value != 0 ? "-" : "") + text;
+  return (negative ? "-" : "") + text;
 }
 
 void CheckText(std::string_view text) {
@@ -115,13 +136,14 @@ void CheckNumber(double value, std::size_t digits) {
     }
     return;
   }
-  std::array<char, 64> printed{};
-  std::snprintf(printed.data(), printed.size(), "%.15g", value);  // NOLINT: the rules' own wording, 15 digits
-  Require(LeadingNumber(NumberText(value)) == PlainNumber(printed.data()), "a number keeps 15 digits");
+  Require(LeadingNumber(NumberText(value)) == PlainNumber(ShortText(value)), "a number keeps 15 digits");
 
   const auto count = static_cast<int>(digits);
-  Require(PatternText(value, count) == PlainFixed(value, digits, true), "a pattern rounds ties away from zero");
-  Require(RoundTo(value, count) == PlainNumber(PlainFixed(value, digits, false)), "rounding takes ties to even");
+  const bool negative = value < 0;
+  Require(PatternText(value, count) == PlainFixed(GeneralText(value), negative, digits, true),
+          "a pattern rounds the general form half away from zero");
+  Require(RoundTo(value, count) == PlainNumber(PlainFixed(ExactText(value), negative, digits, false)),
+          "rounding takes ties of the binary value to even");
 }
 
 }  // namespace

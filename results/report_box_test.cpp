@@ -112,7 +112,7 @@ TEST(MoneyColumn, EndsAtTheWidthWithTwoDecimals) {
       {"a negative width pads nothing", 1, -5, "1.00"},
       {"ties go away from zero", 0.125, 0, ".13"},
       {"below zero too", -0.125, 0, "-.13"},
-      {"what only looks like a tie is none", 2.675, 0, "2.67"},
+      {"what reads as a tie is one", 2.675, 0, "2.68"},
       {"rounding up can bring a whole part", 0.999, 0, "1.00"},
       {"a loss too small to be seen keeps its sign", -0.001, 0, "-.00"},
       {"a win too small to be seen", 0.001, 0, ".00"},

@@ -94,6 +94,17 @@ TEST(Report, PlainPreflopRaise) {
   EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kPlainText), expected);
 }
 
+// Both doubles lie below the tie that their digits show.
+TEST(Report, ColumnsRoundTheNumberAsItReadsAndTheFormulaItsBinaryValue) {
+  AnalysisState state = sample::CallState();
+  state.HandInfo = sample::ResultsTable({{"AA", "199738.115\t0.4135\t1"}});
+  EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("AA\t6\t0.414\t    199738.12\t=0.413*(150+50)-50\r"));
+
+  AnalysisState raise = sample::RaiseState();
+  raise.HandInfo = state.HandInfo;
+  EXPECT_THAT(Report(raise, ReportForm::kPlainText), HasSubstr("AA\t6\t    0.414\t 199738.12\t=("));
+}
+
 TEST(Report, PlainEquityOnly) {
   const std::string expected =
       "Range\r"

@@ -17,9 +17,6 @@ namespace {
 constexpr int kDoubleDigits = 15;
 constexpr int kFloatDigits = 7;
 
-// The longest fixed form of a double: sign, 309 digits, point, and the decimals asked for.
-constexpr std::size_t kFixedFormSize = 400;
-
 // A double holds every integer below 2^53 and every power of ten up to 10^22 exactly, so one multiplication or division
 // of the two gives the correctly rounded number (W. D. Clinger, "How to read floating point numbers accurately", 1990).
 constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
@@ -36,7 +33,7 @@ bool IsDigit(char c) {
 
 struct ScientificForm {
   bool negative;
-  std::string digits;  // significant digits without trailing zeros, at least one
+  std::string digits;  // significant digits without trailing zeros; none for 0
   int exponent;  // power of ten of the first digit
 };
 
@@ -209,26 +206,17 @@ class NumberScanner {
   std::string compact_;
 };
 
-std::string FixedForm(double value, int digits) {
-  std::array<char, kFixedFormSize> buffer{};
-  const char* const end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, digits).ptr;
-  return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
-}
+// The number times 10^decimals, rounded half away from zero to a whole number: its digits alone.
+std::string WholeDigits(const ScientificForm& form, int decimals) {
+  const int digitCount = static_cast<int>(form.digits.size());
+  const int dropped = digitCount - (form.exponent + 1 + decimals);
+  if (dropped <= 0) return form.digits + std::string(static_cast<std::size_t>(-dropped), '0');
+  if (dropped > digitCount) return "0";  // less than a tenth
 
-// A value is an exact tie at n decimals just when value * 2^(n+1) is an odd integer: value * 10^n is then an odd
-// multiple of a half.
-bool IsTie(double value, int digits) {
-  return std::abs(std::fmod(std::ldexp(value, digits + 1), 2.0)) == 1.0;
-}
-
-// Printing takes ties to even. With one decimal more a tie is printed as it is; its last digits are 25 or 75, so the 2
-// or 7 has only to go up by one.
-std::string TieAwayFromZero(double value, int digits) {
-  std::string text = FixedForm(value, digits + 1);
-  text.pop_back();
-  ++text.back();
-  return text;
+  std::int64_t mantissa = 0;
+  std::from_chars(form.digits.data(), form.digits.data() + form.digits.size(), mantissa);
+  const auto unit = static_cast<std::int64_t>(kPowersOfTen[static_cast<std::size_t>(dropped)]);
+  return std::to_string((mantissa + unit / 2) / unit);
 }
 
 std::string GeneralForm(double value, int significantDigits) {
@@ -310,9 +298,12 @@ bool IsNumericText(std::string_view text) {
 
 std::string PatternText(double value, int digits) {
   if (!std::isfinite(value)) throw RunTimeError(RunTimeFault::kOverflow);
-  if (value == 0) value = 0;  // a negative zero has no sign
-  if (digits == 0) return FixedForm(std::round(value), 0);
-  return IsTie(value, digits) ? TieAwayFromZero(value, digits) : FixedForm(value, digits);
+  const ScientificForm form = ToScientific(value, kDoubleDigits);
+  std::string text = WholeDigits(form, digits);
+  const auto decimals = static_cast<std::size_t>(digits);
+  if (text.size() <= decimals) text.insert(0, decimals + 1 - text.size(), '0');
+  if (decimals > 0) text.insert(text.size() - decimals, ".");
+  return (form.negative ? "-" : "") + text;
 }
 
 }  // namespace quillon

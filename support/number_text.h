@@ -47,10 +47,11 @@ namespace quillon {
 ///     false: ""  "12abc"  "$"  "."  "1 000"  "--5"  "1.5.2"  "1.5,0"  ",5"  "5,"  "5-"  "(5)"  "=5"
 [[nodiscard]] bool IsNumericText(std::string_view text);
 
-/// A number with exactly `digits` decimals, rounded half away from zero on the binary value, and at least one digit
-/// before the point: the number patterns "0.000" (digits 3) and, with the leading 0 taken off by the caller, ".00".
+/// A number with exactly `digits` decimals (0 to 15) and at least one digit before the point: the number patterns
+/// "0.000" (digits 3) and, with the leading 0 taken off by the caller, ".00". It rounds the general form, the number as
+/// people read it, half away from zero: 0.4135 is a tie here, although its double lies a little lower.
 ///
-///     (0.0625, 3) -> "0.063"      (-1, 3) -> "-1.000"      (1234.5, 2) -> "1234.50"
+///     (0.4135, 3) -> "0.414"      (-1, 3) -> "-1.000"      (1234.5, 2) -> "1234.50"
 ///
 /// A loss too small to show keeps its sign, (-0.001, 2) -> "-0.00", but a negative zero has none.
 ///

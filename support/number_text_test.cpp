@@ -425,7 +425,7 @@ struct PatternCase {
   const char* text;
 };
 
-TEST(PatternText, RoundsTiesAwayFromZero) {
+TEST(PatternText, RoundsTheGeneralFormHalfAwayFromZero) {
   const std::vector<PatternCase> cases = {
       {"a tie rises, even digit before it", 0.125, 2, "0.13"},
       {"a tie rises, odd digit before it", 0.375, 2, "0.38"},
@@ -437,16 +437,23 @@ TEST(PatternText, RoundsTiesAwayFromZero) {
       {"a negative tie between integers", -2.5, 0, "-3"},
       {"a tie that runs through nines", 9.5, 0, "10"},
       {"a tie at a large number", 1234567.125, 2, "1234567.13"},
-      {"a tie whose neighbours are other ties", 1337058081636377.25, 1, "1337058081636377.3"},
+      {"what has more than 15 digits is no tie", 1337058081636377.25, 1, "1337058081636380.0"},
       {"a tie that becomes longer", 99.5, 0, "100"},
       {"a negative tie that becomes longer", -99.5, 0, "-100"},
       {"a tie of nines before the point", 999.5, 0, "1000"},
-      {"a tie at a very large number", 4503599627370495.5, 0, "4503599627370496"},
-      {"what is stored below the tie falls", 2.675, 2, "2.67"},
-      {"what is stored below the tie falls, small", 1.005, 2, "1.00"},
-      {"what is stored above the tie rises", 2.665, 2, "2.67"},
-      {"the number next below a tie", 0.12499999999999999, 2, "0.12"},
-      {"the number next above a tie", 0.12500000000000003, 2, "0.13"},
+      {"a tie in the last of 15 digits", 99999999999999.5, 0, "100000000000000"},
+      {"a tie stored below itself", 2.675, 2, "2.68"},
+      {"a tie stored below itself, small", 1.005, 2, "1.01"},
+      {"a tie stored below itself, negative", -1.005, 2, "-1.01"},
+      {"a tie stored below itself, an equity", 0.4135, 3, "0.414"},
+      {"a tie stored below itself, an amount", 199738.115, 2, "199738.12"},
+      {"a tie stored above itself", 2.665, 2, "2.67"},
+      {"a tie but for the sixteenth digit", 0.1249999999999999, 2, "0.13"},
+      {"just below a tie by the fifteenth digit", 0.124999999999999, 2, "0.12"},
+      {"just above a tie", 0.125000000000001, 2, "0.13"},
+      {"half of the last decimal", 0.005, 2, "0.01"},
+      {"less than half of it", 0.00499, 2, "0.00"},
+      {"far less than half of it", 0.0009, 2, "0.00"},
   };
   for (const PatternCase& c : cases)
     EXPECT_EQ(PatternText(c.value, c.digits), c.text) << c.rule;
@@ -487,6 +494,17 @@ TEST(PatternText, EqualsIntegerArithmeticOnExactFractions) {
       ASSERT_EQ(PatternText(-static_cast<double>(numerator) / kParts, digits), "-" + text)
           << numerator << " / " << kParts;
     }
+  }
+}
+
+// A tie at every equity of the table's six decimals that has one, in whole numbers.
+TEST(PatternText, EqualsIntegerArithmeticOnDecimalFractions) {
+  constexpr long long kMillion = 1000000;
+  for (long long millionths = 0; millionths < kMillion; millionths += 5) {
+    const std::string thousandths = std::to_string((millionths + 500) / 1000);
+    const std::string padded = std::string(4 - std::min<std::size_t>(thousandths.size(), 4), '0') + thousandths;
+    ASSERT_EQ(PatternText(static_cast<double>(millionths) / kMillion, 3), padded.substr(0, 1) + "." + padded.substr(1))
+        << millionths;
   }
 }
 
