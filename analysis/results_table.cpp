@@ -1,13 +1,11 @@
 #include "analysis/results_table.h"
 
 #include <cstddef>
-#include <limits>
 #include <optional>
 
 #include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
-#include "support/run_time_error.h"
 
 namespace quillon {
 namespace {
@@ -76,12 +74,6 @@ void AppendNewRow(std::string& table, std::string_view label, std::int16_t colum
   table += kLineEnd;
 }
 
-double RoundToWhole(double value) {
-  const double whole = RoundTo(value, 0);
-  if (whole > std::numeric_limits<std::int32_t>::max()) throw RunTimeError(RunTimeFault::kOverflow);
-  return whole;
-}
-
 }  // namespace
 
 std::string SetHandInfo(std::string_view table, std::string_view label, std::int16_t column, double value,
@@ -125,7 +117,7 @@ std::string BestHand(std::string_view table, std::int16_t column) {
   while (const auto row = TakeRow(table)) {
     const double value = ValueOf(*row, column);
     if (value <= best) continue;
-    best = RoundToWhole(value);
+    best = RoundTo(value, 0);
     label = CellOf(*row, 0);
   }
   return std::string(label);

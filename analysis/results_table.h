@@ -44,12 +44,11 @@ inline constexpr std::int16_t kLastColumn = 3;
 
 /// The label of a row with a high value in `column`, the empty text if no value is above -10000. It is not always the
 /// highest: the best value so far is kept rounded to a whole number, ties to even, so a later row that is a little
-/// better need not pass it, and a later one that is worse may. That is meant; colours and captions go by it.
+/// better need not pass it, and a later one that is worse may. Intentional: colours and captions go by it.
 ///
 ///     12.3, 12.6, 12.1 -> the second      12.6, 12.4, 12.7 -> the first, as nothing later passes 13
 ///
-/// In a column of fractions it is the first row above 0.5, or else the last above 0. A value that passes, but is too
-/// large for a 32-bit integer, is a RunTimeError "Overflow".
+/// In a column of fractions it is the first row above 0.5, or else the last above 0.
 [[nodiscard]] std::string BestHand(std::string_view table, std::int16_t column);
 
 /// The label of the first row with the lowest value in `column`, the empty text if no value is below 10000.

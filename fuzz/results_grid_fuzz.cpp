@@ -67,13 +67,7 @@ std::array<bool, kHandClassCount> PlainProfits(std::string_view table) {
 }
 
 void CheckColors(const AnalysisState& state) {
-  std::array<Rgb, kHandClassCount> colors{};
-  try {
-    colors = GridColors(state);
-  } catch (const RunTimeError& error) {
-    Require(IsFaultOfAnalysis(error.Fault()), "a grid fails for its numbers");
-    return;
-  }
+  const std::array<Rgb, kHandClassCount> colors = GridColors(state);
   if (state.Mode == AnalysisMode::kEquityOnly) return;
   const std::array<bool, kHandClassCount> profits = PlainProfits(state.HandInfo);
   for (std::size_t index = 0; index < colors.size(); ++index) {

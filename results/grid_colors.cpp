@@ -22,7 +22,8 @@ Rgb EVColor(double fraction, std::string_view sign) {
   constexpr int kFull = 255;
 
   const double paleness = 1.0 - WholeSteps(fraction);
-  const int shade = RoundToInt16(kRampLength * paleness + kDarkest);
+  const double place = kRampLength * paleness + kDarkest;
+  const int shade = RoundToInt16(place < 0 ? kDarkest : place);
   const int main = std::min(shade, kFull);
   const int other = std::max(shade - kFull, 0);
   return sign == "+" ? MakeRgb(other, main, other) : MakeRgb(main, other, other);

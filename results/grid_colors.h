@@ -16,11 +16,12 @@
 namespace quillon {
 
 /// The shade of a win, where `sign` is "+", or with any other sign of a loss. The smaller the amount the paler: wins
-/// run through green, losses through the same numbers in red. A fraction may lie above 1 and then goes on darkening,
-/// down to black.
+/// run through green, losses through the same numbers in red. A fraction may lie above 1 and then goes on darkening;
+/// where the ramp would go below black, the shade is that of 1 again, so that the best hands look like the best hands.
 ///
 ///     (0, "+") -> 200, 255, 200      (0.5, "+") -> 33, 255, 33       (0.75, "+") -> 0, 204, 0
 ///     (1, "+") -> 0, 120, 0          (1.05, "+") -> 0, 103, 0        (1, "-") -> 120, 0, 0
+///     (1.35, "+") -> 0, 3, 0         (1.41, "+") -> 0, 120, 0
 [[nodiscard]] Rgb EVColor(double fraction, std::string_view sign);
 
 /// The shade of an equity, by its place between the lowest and the highest: white at 0, full blue at 0.5, dark blue at

@@ -27,9 +27,11 @@ const std::vector<WinCase> kWinCases = {
     {"the darkest step holds up to 1.05", 1.0499, 120, 0},
     {"1.05 is darker than the scale", 1.05, 103, 0},
     {"1.3 is nearly black", 1.3, 19, 0},
-    {"1.5 is below black and counts as black", 1.5, 0, 0},
-    {"4000 leaves the 16-bit range and counts as black", 4000, 0, 0},
-    {"no fraction is too large", std::numeric_limits<double>::max(), 0, 0},
+    {"1.35 is the last step above black", 1.35, 3, 0},
+    {"1.41 would be below black and has the shade of 1", 1.41, 120, 0},
+    {"so has 4000, which leaves the 16-bit range", 4000, 120, 0},
+    {"no fraction is too large", std::numeric_limits<double>::max(), 120, 0},
+    {"nor has it to be finite", std::numeric_limits<double>::infinity(), 120, 0},
     {"below zero the ramp goes on to white", -1, 255, 255},
 };
 
@@ -57,7 +59,7 @@ TEST(EVColor, AnySignButPlusIsALoss) {
 }
 
 TEST(EVColor, DarkensFromStepToStep) {
-  for (int step = 0; step < 27; ++step) {
+  for (int step = 0; step < 26; ++step) {
     const Rgb paler = EVColor(step * 0.05 + 0.01, "+");
     const Rgb darker = EVColor((step + 1) * 0.05 + 0.01, "+");
     EXPECT_LT(darker.Red + darker.Green + darker.Blue, paler.Red + paler.Green + paler.Blue) << step;

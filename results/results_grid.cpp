@@ -19,7 +19,7 @@ namespace {
 constexpr Rgb kResultsNavColor = {255, 255, 192};
 
 std::string ProfitablePercentText(const AnalysisState& state) {
-  // One less than the number of concrete hands; it is meant, and even with all of them profitable the text says 100.
+  // Intentional: one less than the number of concrete hands. With all of them profitable the text still says 100.
   constexpr double kDivisor = 1325;
 
   double combos = 0;
@@ -67,7 +67,7 @@ GridTexts RaiseTexts(const AnalysisState& state) {
   };
 }
 
-// The spelling of "meausrement" is meant.
+// Intentional: the spelling of "meausrement", which is the program's own.
 GridTexts EquityTexts(const AnalysisState& state) {
   return {
       .Title = "Equity Grid",
@@ -79,11 +79,15 @@ GridTexts EquityTexts(const AnalysisState& state) {
   };
 }
 
+double FractionOf(double value, double span) {
+  return span == 0 ? 0 : value / span;
+}
+
 // The colour of a cell by its value, where `high` and `low` span the shown column.
 Rgb CellColor(AnalysisMode mode, double value, double high, double low) {
-  if (mode == AnalysisMode::kEquityOnly) return EquityColor(Divide(value - low, high - low));
-  if (value >= 0) return EVColor(Divide(value, high), "+");
-  return EVColor(Divide(value, low), "-");
+  if (mode == AnalysisMode::kEquityOnly) return EquityColor(FractionOf(value - low, high - low));
+  if (value >= 0) return EVColor(FractionOf(value, high), "+");
+  return EVColor(FractionOf(value, low), "-");
 }
 
 }  // namespace

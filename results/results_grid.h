@@ -18,11 +18,11 @@ namespace quillon {
 /// The first link of the side panel that leads to results, the grid's; those before it lead to the input screens.
 inline constexpr std::int16_t kFirstResultsNav = 3;
 
-/// The texts round the grid; as they are here before any analysis.
+/// The texts around the grid; as they are here before any analysis.
 struct GridTexts {
   std::string Title = "ALL IN Grid";
-  std::string HandInfo;  // the situation, lines parted by CR LF
-  std::string Results = "No analysis has been performed.";  // the explanation, lines parted by CR LF
+  std::string HandInfo;  // the situation, lines separated by CR LF
+  std::string Results = "No analysis has been performed.";  // the explanation, lines separated by CR LF
   bool LegendVisible = true;
 
   bool operator==(const GridTexts&) const = default;
@@ -34,20 +34,18 @@ struct GridTexts {
 
 /// The colours of the cells, in class index order. High and Low are the values of the rows that BestHand and WorstHand
 /// name, in the equity column for Equity Only and the expected value column for the others. High can fall short of the
-/// true maximum, so a cell can come out darker than the darkest green.
-///
-/// A value of 0 measured against a High of 0, or any value where in Equity Only High equals Low, has no shade:
-/// RunTimeError as told at Divide. It fails as BestHand does, too.
+/// true maximum, so a cell can come out darker than the darkest green. Never fails: what is measured against 0, such as
+/// a best value of exactly 0 or equities that are all alike, has the palest shade.
 [[nodiscard]] std::array<Rgb, kHandClassCount> GridColors(const AnalysisState& state);
 
 /// Puts the texts and the legend on the screen.
 void FillResults(ResultsWindow& window, const AnalysisState& state);
 
-/// Shows or hides the links that lead to results, and shows the note that there are none in their stead. The links go
-/// back to their own colour.
+/// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take
+/// their own colour again.
 void SetResultsShown(ResultsWindow& window, bool shown);
 
-/// Paints the cells in index order, then fills in the texts. If a colour cannot be worked out nothing is painted.
+/// Paints the cells in index order, then fills in the texts. Fails as MakeGridTexts does.
 void PresentResults(const AnalysisState& state, ResultsWindow& window);
 
 }  // namespace quillon

@@ -92,6 +92,7 @@ constexpr const char* kPotNotNumeric = "Pot Size Error: The pot size contains no
 constexpr const char* kCallNotNumeric = "Call Size Error: The call size contains non-numeric characters\n";
 constexpr const char* kCallAboveZero = "Call Size Error: The amount to call must be greater than zero.\n";
 constexpr const char* kTooLarge = "Run-time error '6': Overflow\n";
+constexpr const char* kLargestPot = "pot 1.79769313486232E+308, call 1";
 
 std::vector<TextCase> Sums() {
   return {
@@ -107,7 +108,7 @@ std::vector<TextCase> Sums() {
       {"An empty sum is zero", {"=", "50"}, kPotAboveCall},
       {"A sign alone is zero", {"=+", "50"}, kPotAboveCall},
       {"A sum below zero is an amount below zero", {"100", "=-3"}, kCallAboveZero},
-      {"Sixteen digits become fifteen", {"=1234567890123456", "1"}, kTooLarge},
+      {"Sixteen digits become fifteen", {"=1234567890123456", "1"}, "pot 1.23456789012346E+15, call 1"},
       {"A thousand terms are worked out", {"="s + std::string(998, '+') + "7+8", "1"}, "pot 15, call 1"},
       {"A blank is no part of a sum", {"=1 + 2", "1"}, kProblem},
       {"A blank at the end is no part of a sum", {"=3 ", "1"}, kProblem},
@@ -169,13 +170,13 @@ std::vector<TextCase> PlainTexts() {
       {"A line end behind is no number", {"100\r\n", "50"}, kPotNotNumeric},
       {"A dash option is a text", {"--call", "1"}, kPotAboveCall},
       {"A call below all numbers is zero", {"100", "1e-999"}, kCallAboveZero},
-      {"A pot beyond all numbers ends the program", {"1e999", "1"}, kTooLarge},
-      {"A pot beyond the best hand's whole number ends the program", {"1e10", "1"}, kTooLarge},
+      {"A pot beyond all numbers is the largest", {"1e999", "1"}, kLargestPot},
+      {"A pot beyond 32 bits goes through", {"1e10", "1"}, "pot 10000000000, call 1"},
       {"Zero for both is complained of as no greater pot", {"0", "0"}, kPotAboveCall},
       {"A pot of zero above a call below it is complained of",
        {"0", "-5"},
        "Pot Size Error: The pot size must be greater than zero.\n"},
-      {"A hundred thousand nines end the program", {std::string(100000, '9'), "1"}, kTooLarge},
+      {"A hundred thousand nines are the largest", {std::string(100000, '9'), "1"}, kLargestPot},
       {"A hundred thousand letters are zero", {std::string(100000, 'x'), "1"}, kPotAboveCall},
   };
 }

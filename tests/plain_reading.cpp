@@ -257,31 +257,6 @@ std::vector<double> AsTexts(std::vector<double> values) {
   return values;
 }
 
-// The run-time error of the colours, 0 where there is none.
-int FaultOfColors(const std::vector<double>& values, bool equity) {
-  double best = -10000;
-  double high = 0;
-  double worst = 10000;
-  double low = 0;
-  for (const double value : values) {
-    if (value > best) {
-      best = Rounded(value, 0);
-      high = value;
-      if (best > std::numeric_limits<std::int32_t>::max()) return kOverflow;
-    }
-    if (value < worst) low = worst = value;
-  }
-  int fault = 0;
-  for (const double value : values) {
-    if (equity) {
-      static_cast<void>(Divided(value - low, high - low, fault));
-    } else {
-      static_cast<void>(Divided(value, value >= 0 ? high : low, fault));
-    }
-  }
-  return fault;
-}
-
 bool AreFinite(const std::vector<double>& values) {
   return std::all_of(values.begin(), values.end(), [](double value) { return std::isfinite(value); });
 }
@@ -305,8 +280,6 @@ PlainResult Worked(const PlainRun& run, const PlainWeights& current, const Plain
   result.ExpectedValues = AsTexts(std::move(result.ExpectedValues));
   result.Equities = AsTexts(std::move(result.Equities));
   result.FoldShares = AsTexts(std::move(result.FoldShares));
-  const bool equity = run.Mode == PlainMode::kEquity;
-  result.Outcome.Fault = FaultOfColors(equity ? result.Equities : result.ExpectedValues, equity);
   return result;
 }
 

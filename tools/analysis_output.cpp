@@ -93,10 +93,9 @@ std::string_view ModeName(AnalysisMode mode) {
   return "none";
 }
 
-// The values of JSON members as they are written. A number has the general form, which is valid JSON: the library would
-// write some with 17 digits where the table has 15.
+// Reads back as the same number. The general form need not: the first 15 digits of the largest double lie beyond it.
 std::string JsonNumber(double value) {
-  return NumberText(value);
+  return nlohmann::json(value).dump();
 }
 
 // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.

@@ -30,7 +30,7 @@ inline constexpr std::array<std::string_view, 5> kOutputFormatNames = {"plain", 
 /// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
 /// (class labels). kTable is the results table byte for byte. kCsv has a header row, then hand, combos, ev, equity,
 /// fold and colour for each class. kJson is one object, with each class on a line of its own; what the scenario does
-/// not have is null, and all numbers carry the digits of the results table. Fails as BuildReport and GridColors do.
+/// not have is null, and all numbers carry the digits of the results table. Fails as BuildReport and MakeGridTexts do.
 [[nodiscard]] std::string AnalysisOutput(OutputFormat format, AnalysisState& state, std::span<const std::string> hands);
 
 /// The 13 by 13 grid in its colours, for a terminal that takes 24-bit colour sequences: one line for each row, with

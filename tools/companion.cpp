@@ -1,7 +1,6 @@
 #include "tools/companion.h"
 
 #include <CLI/CLI.hpp>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -74,13 +73,7 @@ class CompanionWindow final : public QuietWindow {
     barShows_ = true;
   }
 
-  // Colours are worked out at the end of every run, as in the window: a run that has none ends whatever is printed.
-  void PresentResults(const AnalysisState& state) override {
-    colors_ = GridColors(state);
-    ClearProgress();
-  }
-
-  [[nodiscard]] const std::array<Rgb, kHandClassCount>& Colors() const { return colors_; }
+  void PresentResults(const AnalysisState& /*state*/) override { ClearProgress(); }
 
  private:
   void ClearProgress() {
@@ -91,7 +84,6 @@ class CompanionWindow final : public QuietWindow {
   const Surroundings& surroundings_;
   std::string percent_;
   bool barShows_ = false;
-  std::array<Rgb, kHandClassCount> colors_{};
 };
 
 struct Request {
@@ -157,7 +149,7 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
   const OutputFormat format = OutputFormatOf(request.format);
   const std::string text = AnalysisOutput(format, state, request.hands);
   if (format == OutputFormat::kPlain && surroundings.ShowColors) {
-    surroundings.Output << TerminalGrid(window.Colors()) << '\n';
+    surroundings.Output << TerminalGrid(GridColors(state)) << '\n';
   }
   surroundings.Output << text;
   return kDone;

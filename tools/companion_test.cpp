@@ -488,15 +488,38 @@ TEST(Amounts, BelowZeroMayFollowTheirOptionOrStickToIt) {
   }
 }
 
-TEST(Amounts, TooLargeForTheBestHandAreARunTimeError) {
+struct OddRunCase {
+  const char* rule;
+  Arguments arguments;
+};
+
+class OddRun : public testing::TestWithParam<OddRunCase> {};
+
+TEST_P(OddRun, IsPrintedInEveryFormat) {
   const CompanionProgram program;
+  program.Files().Write("Aces.txt", TextWith("AA"));
+  std::string trace = TextWith("AA");
+  program.Files().Write("Trace.txt", trace.replace(trace.find("(1)"), 3, "(5e-324)"));
   for (const std::string_view format : kOutputFormatNames) {
-    const Outcome outcome = program.Run(With(Call("4e9", "3e9"), {"--format", std::string(format)}));
-    EXPECT_EQ(outcome.Status, kFailed) << format;
-    EXPECT_EQ(outcome.Output, "") << format;
-    EXPECT_EQ(outcome.Errors, "Run-time error '6': Overflow\n") << format;
+    const Outcome outcome =
+        program.Run(With(GetParam().arguments, {"--format", std::string(format)}), {.ShowColors = true});
+    EXPECT_EQ(outcome.Status, kDone) << format;
+    EXPECT_EQ(outcome.Errors, "") << format;
+    EXPECT_NE(outcome.Output, "") << format;
   }
 }
+
+std::vector<OddRunCase> OddRuns() {
+  return {
+      {"ValuesBeyondThirtyTwoBits", Call("4e9", "3e9")},
+      {"BestValueOfZero", Raise("100", "100", "50", "Aces", "Aces")},
+      {"EquitiesAllAlike", {"equity", "--range", "Trace"}},
+      {"AllHandsTheSameValue", Raise("3", "", "9", "Loose", "Nothing")},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, OddRun, testing::ValuesIn(OddRuns()),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
 
 // ---- names of ranges
 

@@ -315,25 +315,5 @@ TEST_F(AnalysisInWindow, ThePressedLookEndsWithTheClick) {
   EXPECT_EQ(Get("cmdPreflopEV", 2).grab().toImage(), before);
 }
 
-using RefusedDivision = AnalysisInWindow;
-
-// Shares of a weight too small for a product are all 0, and so High equals Low.
-TEST_F(RefusedDivision, AllEquitiesAlikeEndTheProgram) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  std::string text = TextWith("AA");
-  text.replace(text.find("(1)"), 3, "(5e-324)");
-  Program.Write("Trace.txt", text);
-  EnterEquity("Trace");
-  EXPECT_EXIT(Click("cmdPreflopEV", 2), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '6': Overflow");
-}
-
-// AA against AA breaks even where pot and call are the same, and every other hand loses.
-TEST_F(RefusedDivision, AValueOfZeroMeasuredByZeroEndsTheProgram) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  Program.Write("Aces.txt", TextWith("AA"));
-  EnterRaise("100", "100", "50", "Aces", "Aces");
-  EXPECT_EXIT(Click("cmdPreflopEV", 1), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '6': Overflow");
-}
-
 }  // namespace
 }  // namespace quillon

@@ -237,5 +237,28 @@ TEST_F(ResultsAsRange, WithoutResultsTheClickDoesNothing) {
   EXPECT_EQ(Dialogs.LoadedNewRange(), nullptr);
 }
 
+// Shares of a weight too small for a product are all 0, and so High equals Low.
+TEST_F(ResultsInWindow, EquitiesThatAreAllAlikeAreWhite) {
+  std::string text = TextWith("AA");
+  text.replace(text.find("(1)"), 3, "(5e-324)");
+  Program.Write("Trace.txt", text);
+  EnterEquity("Trace");
+  Click("cmdPreflopEV", 2);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_EQ(CellColorName("AA"), "#ffffff");
+  EXPECT_EQ(CellColorName("72o"), "#ffffff");
+}
+
+// AA against AA breaks even where pot and call are the same, and every other hand loses.
+TEST_F(ResultsInWindow, ABestValueOfZeroIsThePalestGreen) {
+  Program.Write("Aces.txt", TextWith("AA"));
+  EnterRaise("100", "100", "50", "Aces", "Aces");
+  Click("cmdPreflopEV", 1);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_EQ(CellColorName("AA"), "#c8ffc8");
+  EXPECT_EQ(CellColorName("72o").substr(3), "0000");
+  ExpectCellsAsWorkedOut();
+}
+
 }  // namespace
 }  // namespace quillon
