@@ -138,10 +138,10 @@ ClassFigures RaiseFigures(ClassFigures figures, const Hero& hero, AnalysisState&
   return figures;
 }
 
-ClassFigures FiguresOf(ClassFigures previous, const Hero& hero, AnalysisState& state, const AmountBoxes& boxes,
-                       const ProgramFolder& folder) {
-  if (state.Mode == AnalysisMode::kPreflopCall) return CallFigures(previous, hero, state, boxes, folder);
-  if (state.Mode == AnalysisMode::kPreflopRaise) return RaiseFigures(previous, hero, state, boxes, folder);
+ClassFigures FiguresOf(AnalysisMode mode, ClassFigures previous, const Hero& hero, AnalysisState& state,
+                       const AmountBoxes& boxes, const ProgramFolder& folder) {
+  if (mode == AnalysisMode::kPreflopCall) return CallFigures(previous, hero, state, boxes, folder);
+  if (mode == AnalysisMode::kPreflopRaise) return RaiseFigures(previous, hero, state, boxes, folder);
   return EquityFigures(previous, hero, state, folder);
 }
 
@@ -158,13 +158,13 @@ void ShowProgress(std::int16_t classesDone, AnalysisWindow& window) {
 }
 
 // The results table of all classes, or what there is of it when the run is stopped.
-std::string WalkClasses(AnalysisState& state, AnalysisWindow& window, const ProgramFolder& folder) {
+std::string WalkClasses(AnalysisMode mode, AnalysisState& state, AnalysisWindow& window, const ProgramFolder& folder) {
   std::string table;
   ClassFigures figures;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const Hero hero = HeroOf(index);
     window.RaiseCell(index);
-    figures = FiguresOf(figures, hero, state, window, folder);
+    figures = FiguresOf(mode, figures, hero, state, window, folder);
     table = WithFigures(std::move(table), hero.Label, figures);
     ShowProgress(static_cast<std::int16_t>(index + 1), window);
     if (!state.Running) break;
@@ -173,7 +173,8 @@ std::string WalkClasses(AnalysisState& state, AnalysisWindow& window, const Prog
   return table;
 }
 
-void Finish(AnalysisState& state, std::string table, AnalysisWindow& window) {
+void Finish(AnalysisMode mode, AnalysisState& state, std::string table, AnalysisWindow& window) {
+  state.Mode = mode;  // a refused click may have changed it
   state.HandInfo = std::move(table);
   state.Running = false;
   window.PresentResults(state);
@@ -186,18 +187,19 @@ void Finish(AnalysisState& state, std::string table, AnalysisWindow& window) {
 void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder) {
   window.SetResultsShown(false);
   window.SetNoResultsCaption(kWaitCaption);
-  state.Mode = ModeOfButton(buttonIndex);
-  if (!PassCheck(state.Mode, window, folder)) return;
+  const AnalysisMode mode = ModeOfButton(buttonIndex);
+  state.Mode = mode;
+  if (!PassCheck(mode, window, folder)) return;
 
-  ChosenRanges ranges = ReadRanges(state.Mode, window, folder);
-  window.SetProgressMessage(ProgressMessage(state.Mode, ranges.Name));
+  ChosenRanges ranges = ReadRanges(mode, window, folder);
+  window.SetProgressMessage(ProgressMessage(mode, ranges.Name));
   StoreSituation(state, std::move(ranges), window);
   window.ShowFrame(kProgressScreen);
   state.Running = true;
   window.SetNoResultsUnderline(true);
   window.HideGridBack();
 
-  std::string table = WalkClasses(state, window, folder);
+  std::string table = WalkClasses(mode, state, window, folder);
 
   window.SetNoResultsUnderline(false);
   window.SetNoResultsCaption(kNoResultsCaption);
@@ -205,7 +207,7 @@ void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow&
     window.ShowFrame(ScreenName(state.Mode));
     return;
   }
-  Finish(state, std::move(table), window);
+  Finish(mode, state, std::move(table), window);
 }
 
 void StopAnalysis(AnalysisState& state) {

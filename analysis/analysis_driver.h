@@ -6,9 +6,10 @@
 // label can be clicked.
 //
 // Every control stays live during a run, the start buttons too, and all runs work on the same state. A run started from
-// within another ends before the other goes on; the other then finds itself stopped at its next class. Amounts are read
-// from the boxes anew for each class, so an edit is felt by the classes still to come, while the state keeps the
-// amounts that the run began with.
+// within another ends before the other goes on; the other then finds itself stopped at its next class. A click within a
+// run that its check refuses changes the state's scenario; the run goes on by its own and puts it back when it
+// finishes. Amounts are read from the boxes anew for each class, so an edit is felt by the classes still to come, while
+// the state keeps the amounts that the run began with.
 
 #include <cstdint>
 #include <string_view>

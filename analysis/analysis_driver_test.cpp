@@ -419,14 +419,15 @@ TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
   EXPECT_FALSE(state_.Running);
 }
 
-TEST_F(AnalysisDriver, AnOuterRunWritesNoDroppedHandsAfterAnInnerOneOfAnotherScenario) {
-  state_.DroppedHands = "of an earlier run";
+TEST_F(AnalysisDriver, AnOuterRunLeavesTheDroppedHandsOfAnInnerOne) {
   AtYield(168, [this] {
     window_.OnCall = nullptr;
-    Run(kEquityButton);
+    window_.CurrentSituation() = {"15", "5", "100", "Aces", "Pairs"};
+    Run(kRaiseButton);
   });
+  window_.CurrentSituation() = {"15", "5", "100", "Aces", "Full"};
   Run(kRaiseButton);
-  EXPECT_EQ(state_.DroppedHands, "of an earlier run");
+  EXPECT_EQ(state_.DroppedHands, "KK, QQ");
 }
 
 TEST_F(AnalysisDriver, AnInnerRunThatIsStoppedStopsTheOuterOneToo) {
@@ -443,35 +444,41 @@ TEST_F(AnalysisDriver, AnInnerRunThatIsStoppedStopsTheOuterOneToo) {
   EXPECT_EQ(state_.HandInfo, "");
 }
 
-TEST_F(AnalysisDriver, AnInnerClickThatItsCheckTurnsAwayChangesTheScenarioOfTheRestOfTheRun) {
+TEST_F(AnalysisDriver, AClickThatItsCheckRefusesLeavesTheRunItsOwnScenario) {
   const Situation situation = window_.CurrentSituation();
-  AtYield(169, [this] {
-    window_.OnCall = nullptr;
-    window_.CurrentSituation().Range = "";
-    Run(kEquityButton);
-  });
-  Run(kCallButton);
-  EXPECT_EQ(messages_.Shown.size(), 1U);
-  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run goes on and finishes";
-  EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
-  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, situation));
+  const Situation nothing;
+  for (const std::int16_t button : {kCallButton, kRaiseButton, kEquityButton}) {
+    for (const std::int16_t refused : {kCallButton, kRaiseButton, kEquityButton}) {
+      SCOPED_TRACE(testing::Message() << "button " << button << ", refused " << refused);
+      state_ = {};
+      messages_.Shown.clear();
+      window_.CurrentSituation() = situation;
+      AnalysisMode presented = AnalysisMode::kNone;
+      window_.OnCall = [&](const std::string& line) {
+        if (line == "PresentResults") presented = state_.Mode;
+        if (line != "SetProgressPercent 30%") return;
+        window_.CurrentSituation() = nothing;
+        Run(refused);
+        EXPECT_EQ(state_.Mode, ModeOfButton(refused));
+        window_.CurrentSituation() = situation;
+      };
+      Run(button);
+      EXPECT_FALSE(messages_.Shown.empty());
+      EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run goes on and finishes";
+      EXPECT_EQ(presented, ModeOfButton(button));
+      EXPECT_EQ(state_.HandInfo, TableOf(button, situation));
+    }
+  }
 }
 
-TEST_F(AnalysisDriver, TheCallShareOfTheLastRaisedClassStaysWhereItIsNoLongerWorkedOut) {
-  constexpr std::int16_t kRaised = 50;
-  AtYield(kRaised, [this] {
-    window_.OnCall = nullptr;
+TEST_F(AnalysisDriver, ARunThatIsStoppedAfterARefusedClickReturnsToTheRefusedScreen) {
+  AtYield(2, [this] {
     window_.CurrentSituation().Range = "";
     Run(kEquityButton);
+    StopAnalysis(state_);
   });
-  Run(kRaiseButton);
-  EXPECT_EQ(messages_.Shown.size(), 1U) << "the inner click is refused";
-  const double share = GetHandInfo(state_.HandInfo, HandLabel(kRaised - 1), kFoldShareColumn);
-  EXPECT_NE(share, 1);
-  for (std::int16_t index = kRaised; index < kHandClassCount; ++index) {
-    EXPECT_EQ(GetHandInfo(state_.HandInfo, HandLabel(index), kExpectedValueColumn), 0) << HandLabel(index);
-    EXPECT_EQ(GetHandInfo(state_.HandInfo, HandLabel(index), kFoldShareColumn), share) << HandLabel(index);
-  }
+  Run(kCallButton);
+  EXPECT_EQ(window_.Log.back(), "ShowFrame Equity Only");
 }
 
 TEST_F(AnalysisDriver, TheSituationIsStoredBehindTheMessageAndBeforeTheProgressScreen) {
