@@ -24,11 +24,14 @@ class MemoryFiles final : public FileCalls {
     std::size_t place = 0;
   };
 
+  static constexpr std::size_t kLongestName = 255;
+
   std::map<std::string, std::string> Contents;  // by path
   std::map<int, OpenFile> Opened;
   int NextFile = 3;
 
   int Open(const std::string& path, int flags, mode_t /*mode*/) override {
+    if (path.size() - path.rfind('/') > kLongestName + 1) return -ENAMETOOLONG;
     const bool isThere = Contents.contains(path);
     if ((flags & O_DIRECTORY) == 0) {
       if (!isThere && (flags & O_CREAT) == 0) return -ENOENT;

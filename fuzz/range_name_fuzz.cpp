@@ -27,7 +27,7 @@ bool PlainAllows(const std::string& name, bool isTaken) {
   for (const char c : name) {
     if (refused.contains(c)) return false;
   }
-  return !name.empty() && (!isTaken || name == "Temp Range1");
+  return !name.empty() && name.size() <= 251 && (!isTaken || name == "Temp Range1");
 }
 
 void CheckName(const std::string& name, bool isTaken) {
@@ -36,11 +36,12 @@ void CheckName(const std::string& name, bool isTaken) {
   const std::string path = RangeFilePath(folder, name).string();
   Require(path == "/quillon-fuzz/Ranges/" + name + ".txt", "a path is put together as it stands");
   const bool canNameFile = name.find('\0') == std::string::npos;
-  if (isTaken && canNameFile) files.Contents[path] = "AA (1), \r\n";
+  isTaken = isTaken && canNameFile && name.size() <= 251;
+  if (isTaken) files.Contents[path] = "AA (1), \r\n";
 
   RecordedMessages messages;
   const bool allowed = ValidateRangeName(folder, name, messages);
-  Require(allowed == PlainAllows(name, isTaken && canNameFile), "a name is judged in the plain way");
+  Require(allowed == PlainAllows(name, isTaken), "a name is judged in the plain way");
   Require(messages.Shown.size() == (allowed ? 0U : 1U), "a name that is refused has one message");
   if (!allowed) return;
 

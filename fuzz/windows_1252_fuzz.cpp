@@ -18,7 +18,7 @@ struct Character {
 };
 
 // The first character as the standard library decodes it.
-Character FirstCharacter(std::string_view text) {
+Character PlainFirstCharacter(std::string_view text) {
   using Decoder = std::codecvt<char32_t, char8_t, std::mbstate_t>;
   const auto& decoder = std::use_facet<Decoder>(std::locale::classic());
   const std::u8string bytes(text.begin(),
@@ -37,7 +37,7 @@ std::map<char32_t, char> PageBytes() {
   std::map<char32_t, char> bytes;
   for (int i = 0; i < 256; ++i) {
     const char byte = static_cast<char>(i);
-    bytes[FirstCharacter(Utf8FromWindows1252({&byte, 1})).value] = byte;
+    bytes[PlainFirstCharacter(Utf8FromWindows1252({&byte, 1})).value] = byte;
   }
   return bytes;
 }
@@ -46,12 +46,27 @@ std::string PlainWindows1252(std::string_view text) {
   static const std::map<char32_t, char> pageBytes = PageBytes();
   std::string bytes;
   while (!text.empty()) {
-    const Character character = FirstCharacter(text);
+    const Character character = PlainFirstCharacter(text);
     const auto found = pageBytes.find(character.value);
     bytes += found == pageBytes.end() ? '?' : found->second;
     text.remove_prefix(character.length);
   }
   return bytes;
+}
+
+bool PlainIsUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const Character character = PlainFirstCharacter(text);
+    if (character.value == kInvalid) return false;
+    text.remove_prefix(character.length);
+  }
+  return true;
+}
+
+void CheckFileName(std::string_view name) {
+  const std::string text = TextOfFileName(name);
+  Require(PlainIsUtf8(text), "a file name's text is UTF-8");
+  Require(PlainIsUtf8(name) ? text == name : Windows1252FromUtf8(text) == name, "a file name returns from its text");
 }
 
 }  // namespace
@@ -67,5 +82,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(Utf8FromWindows1252(Windows1252FromUtf8(text)) == text, "every character of the page survives");
   Require(Windows1252FromUtf8(bytes).size() <= bytes.size(), "a character takes one byte");
   Require(Windows1252FromUtf8(bytes) == PlainWindows1252(bytes), "any text is encoded as the plain way does");
+  CheckFileName(bytes);
   return 0;
 }

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "support/run_time_error.h"
+#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -19,11 +20,11 @@ void RequireFileName(std::string_view name) {
   throw RunTimeError(RunTimeFault::kBadFileName, "a NUL character in the name of a range");
 }
 
-// A link to nowhere is a file too: it stands in the list, and it can be deleted.
-void RequireFile(const std::filesystem::path& file) {
+// A link to nowhere is a file too: it is listed, and it can be deleted.
+std::error_code ErrorOfFile(const std::filesystem::path& file) {
   std::error_code error;
   static_cast<void>(std::filesystem::symlink_status(file, error));
-  if (error) throw RunTimeError(RunTimeFaultOf(error.value()), file.string() + ": " + error.message());
+  return error;
 }
 
 // Whether deleting `oldFile` would take what was saved as `newFile` with it. Names that differ in case may be one file
@@ -34,6 +35,11 @@ bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem:
   return !std::filesystem::is_symlink(oldFile, unknown) && std::filesystem::equivalent(oldFile, newFile, unknown);
 }
 
+// Joined as text: the path operator would let a name that starts with a separator replace the folder.
+std::filesystem::path PathOfBytes(const ProgramFolder& folder, std::string_view name) {
+  return RangeFolderPath(folder).string().append("/").append(name).append(".txt");
+}
+
 }  // namespace
 
 std::filesystem::path RangeFolderPath(const ProgramFolder& folder) {
@@ -41,8 +47,11 @@ std::filesystem::path RangeFolderPath(const ProgramFolder& folder) {
 }
 
 std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name) {
-  // Joined as text: the path operator would let a name that starts with a separator replace the folder.
-  return RangeFolderPath(folder).string().append("/").append(name).append(".txt");
+  const std::filesystem::path usual = PathOfBytes(folder, name);
+  const std::string bytes = Windows1252FromUtf8(name);
+  if (bytes == name || TextOfFileName(bytes) != name || !ErrorOfFile(usual)) return usual;
+  const std::filesystem::path old = PathOfBytes(folder, bytes);
+  return ErrorOfFile(old) ? usual : old;
 }
 
 std::string LoadRangeText(const ProgramFolder& folder, std::string_view name) {
@@ -66,7 +75,7 @@ void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::str
                  std::string_view text) {
   RequireFileName(oldName);
   const std::filesystem::path oldFile = RangeFilePath(folder, oldName);
-  RequireFile(oldFile);
+  if (const std::error_code error = ErrorOfFile(oldFile)) FailOnFile(error.value(), oldFile);
 
   SaveRangeText(folder, newName, text);
   if (!HoldsContentOf(oldFile, RangeFilePath(folder, newName))) DeleteRange(folder, oldName);

@@ -115,7 +115,7 @@ TEST(SaveRangeText, WithoutItsFolderIsFatalAndNamesTheFile) {
     SaveRangeText(program.Folder(), "Lost", "AA (1), ");
     FAIL() << "nothing was thrown";
   } catch (const RunTimeError& error) {
-    EXPECT_THAT(error.what(), HasSubstr("Ranges/Lost.txt"));
+    EXPECT_THAT(error.what(), AllOf(HasSubstr("'76': Path not found"), HasSubstr("Ranges/Lost.txt")));
   }
 }
 
@@ -239,6 +239,8 @@ TEST(DeleteRange, FailureIsFatalAndNamed) {
               AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/x.txt")));
   EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), ""); }),
               AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/.txt")));
+  EXPECT_THAT(FailureOf([&] { DeleteRange({program.Folder().Path / "gone"}, "x"); }),
+              AllOf(HasSubstr("'76': Path not found"), HasSubstr("Ranges/x.txt")));
 
   program.Write("x.txt", "AA (1), ");
   EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), "x.txt\0"sv); }), HasSubstr("'52'"));
@@ -305,6 +307,49 @@ TEST(RenameRange, OldFileThatIsMissingIsFatalBeforeAnythingIsWritten) {
                 AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/" + std::string(name) + ".txt")));
     EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder()))) << name;
   }
+}
+
+TEST(RenameRange, MissingFolderIsFatalAndNamed) {
+  const TemporaryProgram program;
+  std::filesystem::remove(RangeFolderPath(program.Folder()));
+  EXPECT_THAT(FailureOf([&] { RenameRange(program.Folder(), "old", "new", "KK (1), "); }),
+              AllOf(HasSubstr("'76': Path not found"), HasSubstr("Ranges/old.txt")));
+}
+
+// As old archives leave them: the name on disk is bytes of the code page.
+TEST(RangeFilePath, NameThatIsNotUtf8IsFoundByItsText) {
+  const TemporaryProgram program;
+  const ProgramFolder& folder = program.Folder();
+  program.Write("K\xE4se.txt", "AA (1), \r\n");
+  EXPECT_TRUE(RangeExists(folder, "Käse"));
+  EXPECT_EQ(LoadRangeText(folder, "Käse"), "AA (1), ");
+  SaveRangeText(folder, "Käse", "KK (1), ");
+  EXPECT_EQ(program.Read("K\xE4se.txt"), "KK (1), \r\n");
+  RenameRange(folder, "Käse", "Brot", "QQ (1), ");
+  EXPECT_EQ(program.Read("Brot.txt"), "QQ (1), \r\n");
+  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("K\xE4se.txt")));
+
+  std::filesystem::create_symlink("nowhere", program.RangeFile("K\xE4se.txt"));
+  DeleteRange(folder, "Käse");
+  EXPECT_THAT(FailureOf([&] { DeleteRange(folder, "Käse"); }), HasSubstr("Ranges/Käse.txt"));
+}
+
+TEST(RangeFilePath, NameInUtf8ComesFirst) {
+  const TemporaryProgram program;
+  const auto expectFile = [&](std::string_view name, std::string_view file) {
+    EXPECT_EQ(RangeFilePath(program.Folder(), name), program.RangeFile(file)) << name;
+  };
+  expectFile("Käse", "Käse.txt");  // neither is there, so a new range has the usual name
+  program.Write("K\xE4se.txt");
+  expectFile("Käse", "K\xE4se.txt");
+  program.Write("Käse.txt");
+  expectFile("Käse", "Käse.txt");
+
+  // The bytes C3 A4 are "ä" in UTF-8, so no file is listed under what they are in the code page.
+  program.Write("ä.txt");
+  expectFile("Ã¤", "Ã¤.txt");
+  program.Write("\x3F\xE4.txt");
+  expectFile("♠ä", "♠ä.txt");  // "?" would be in the place of what the code page lacks
 }
 
 TEST(RenameRange, FailureOfAnyCallLosesNothing) {

@@ -6,7 +6,10 @@
 #include <system_error>
 #include <utility>
 
+#include "support/files.h"
+#include "support/letter_case.h"
 #include "support/run_time_error.h"
+#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -16,24 +19,28 @@ constexpr int kExtensionLength = 4;
 [[noreturn]] void FailToList(const std::filesystem::path& folder, const std::error_code& error) {
   const bool missing = error == std::errc::no_such_file_or_directory;
   throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.value()),
-                     folder.string() + ": " + error.message());
-}
-
-// In UTF-8 the letters of Latin-1 are the byte C3 and a second one, and their cases are 20 apart like those of ASCII.
-// The multiplication sign stands among the capitals and has no lower case.
-std::string LowerCase(std::string text) {
-  char previous = '\0';
-  for (char& c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    const bool latinCapital = previous == '\xC3' && byte >= 0x80 && byte <= 0x9E && byte != 0x97;
-    previous = c;
-    if (latinCapital || (c >= 'A' && c <= 'Z')) c = static_cast<char>(byte + 0x20);
-  }
-  return text;
+                     TextOfFileName(folder.string()) + ": " + error.message());
 }
 
 bool ContinuesCharacter(char c) {
   return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+// Where the last four characters of a file's name begin; nothing if it has fewer.
+std::optional<std::size_t> StartOfExtension(std::string_view fileName) {
+  std::size_t start = fileName.size();
+  for (int taken = 0; taken < kExtensionLength; ++taken) {
+    if (start == 0) return std::nullopt;
+    --start;
+    while (start > 0 && ContinuesCharacter(fileName[start]))
+      --start;
+  }
+  return start;
+}
+
+// By the names that are listed: "Big Blind.txt" would come after "Big Blind 2.txt".
+std::u32string SortingKey(std::string_view fileName) {
+  return WithoutCase(fileName.substr(0, StartOfExtension(fileName).value_or(fileName.size())));
 }
 
 std::optional<int> EntryIndex(const ChooserList& list, std::string_view text) {
@@ -46,7 +53,7 @@ std::optional<int> EntryIndex(const ChooserList& list, std::string_view text) {
 }  // namespace
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
-  using Sortable = std::pair<std::string, std::string>;  // the name in lower case, the name
+  using Sortable = std::pair<std::u32string, std::string>;  // the key, the name
   const std::filesystem::path path = RangeFolderPath(folder);
 
   std::vector<Sortable> entries;
@@ -56,8 +63,9 @@ std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
     // What cannot be looked at, such as a link to nowhere, is listed too: it reads as a missing range.
     std::error_code unknown;
     if (file->is_directory(unknown)) continue;
-    std::string name = file->path().filename().string();
-    std::string key = LowerCase(name);
+    std::string name = TextOfFileName(file->path().filename().string());
+    if (IsScratchName(name)) continue;
+    std::u32string key = SortingKey(name);
     entries.emplace_back(std::move(key), std::move(name));
   }
   if (error) FailToList(path, error);
@@ -71,14 +79,13 @@ std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
 }
 
 std::string RangeNameOfFile(std::string_view fileName) {
-  std::size_t length = fileName.size();
-  for (int taken = 0; taken < kExtensionLength; ++taken) {
-    if (length == 0) throw RunTimeError(RunTimeFault::kInvalidProcedureCall, fileName);
-    --length;
-    while (length > 0 && ContinuesCharacter(fileName[length]))
-      --length;
+  const std::optional<std::size_t> start = StartOfExtension(fileName);
+  if (!start) {
+    throw RunTimeError(
+        RunTimeFault::kInvalidProcedureCall,
+        "the file \"" + std::string(fileName) + "\" among the ranges has a name of fewer than four characters");
   }
-  return std::string(fileName.substr(0, length));
+  return std::string(fileName.substr(0, *start));
 }
 
 void FillRangeList(ChooserList& list, const ProgramFolder& folder, std::string_view selection) {

@@ -43,6 +43,37 @@ TEST(RangeFolderEntries, SortsWithoutRegardToCase) {
                   "gamma.txt", "za.txt", "ZZ.txt", "×.txt", "ß.txt", "Ärger.txt", "ärger2.txt", "É.txt", "é.txt"));
 }
 
+TEST(RangeFolderEntries, SortsByWhatIsListed) {
+  const TemporaryProgram program;
+  for (const char* name : {"Big Blind Call 2.txt", "Big Blind Call.txt", "Big Blind Call-3.txt", "big blind call.bak"})
+    program.Write(name);
+  EXPECT_THAT(RangeFolderEntries(program.Folder()),
+              ElementsAre("Big Blind Call.txt", "big blind call.bak", "Big Blind Call 2.txt", "Big Blind Call-3.txt"));
+}
+
+TEST(RangeFolderEntries, SortsLettersOfEveryScriptWithoutRegardToCase) {
+  const TemporaryProgram program;
+  for (const char* name : {"ŠZ.txt", "ša.txt", "Бета.txt", "альфа.txt", "Ÿ2.txt", "ÿ1.txt"})
+    program.Write(name);
+  EXPECT_THAT(RangeFolderEntries(program.Folder()),
+              ElementsAre("ÿ1.txt", "Ÿ2.txt", "ša.txt", "ŠZ.txt", "альфа.txt", "Бета.txt"));
+}
+
+TEST(RangeFolderEntries, NameThatIsNotUtf8IsShownAsWindows1252) {
+  const TemporaryProgram program;
+  program.Write("K\xE4se.txt");
+  program.Write("Kabel.txt");
+  program.Write("Käsefondue.txt");
+  EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre("Kabel.txt", "Käse.txt", "Käsefondue.txt"));
+}
+
+TEST(RangeFolderEntries, ScratchFilesDoNotShow) {
+  const TemporaryProgram program;
+  for (const char* name : {".quillon-4711-0.tmp", ".quillon-mine.txt", "a.txt"})
+    program.Write(name);
+  EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre(".quillon-mine.txt", "a.txt"));
+}
+
 TEST(RangeFolderEntries, EmptyFolderHasNone) {
   const TemporaryProgram program;
   EXPECT_THAT(RangeFolderEntries(program.Folder()), IsEmpty());

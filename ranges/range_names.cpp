@@ -3,13 +3,15 @@
 #include <string>
 #include <utility>
 
+#include "support/files.h"
+
 namespace quillon {
 namespace {
 
 constexpr std::string_view kErrorTitle = "Error";
 
 constexpr std::string_view kForbiddenCharacters = R"(/\:*?"<>|)";
-// It is meant that the message shows nine characters and "|", the last of them, is let through.
+// Intentional: the message lists nine characters although "|", the last of them, is accepted.
 constexpr std::string_view kRefusedCharacters = kForbiddenCharacters.substr(0, 8);
 static_assert(kForbiddenCharacters.size() == 9 && kRefusedCharacters.ends_with('>'));
 
@@ -31,6 +33,9 @@ bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, Messa
     return Refuse(
         messages, kErrorTitle,
         "A range with the name \"" + std::string(name) + "\" already exists.\r\n\r\nPlease choose another name.");
+  }
+  if (IsPathTooLong(RangeFilePath(folder, name), *folder.Calls)) {
+    return Refuse(messages, kErrorTitle, "Your range name is too long. Please choose a shorter one.");
   }
   return true;
 }

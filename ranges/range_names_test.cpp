@@ -33,6 +33,10 @@ Message Exists(const std::string& name) {
   return Stop("Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.");
 }
 
+Message TooLong() {
+  return Stop("Error", "Your range name is too long. Please choose a shorter one.");
+}
+
 struct NameCase {
   const char* rule;
   std::string name;
@@ -48,6 +52,7 @@ TEST(ValidateRangeName, FirstFailingTestIsTold) {
   program.Write("Hollow.txt");
   program.Write("Line.txt", "\r\n");
   program.Write("Pipe|.txt", "AA (1), \r\n");
+  program.Write("K\xE4se.txt", "AA (1), \r\n");
 
   const std::vector<NameCase> cases = {
       {"a new name passes", "Cutoff", std::nullopt},
@@ -70,11 +75,16 @@ TEST(ValidateRangeName, FirstFailingTestIsTold) {
       {"a bar in an existing name", "Pipe|", Exists("Pipe|")},
       {"an existing name", "Button", Exists("Button")},
       {"an existing name beyond ASCII", "Übermut", Exists("Übermut")},
+      {"an existing name that is not UTF-8 on disk", "Käse", Exists("Käse")},
       {"a name of other case is another file's", "button", std::nullopt},
       {"an empty file is no range", "Hollow", std::nullopt},
       {"a file with a line end alone is no range", "Line", std::nullopt},
       {"the scratch name passes although it exists", "Temp Range1", std::nullopt},
       {"a NUL character passes, since no range has it", "Button.txt\0"s, std::nullopt},
+      {"as long as a file's name can be with its extension", std::string(251, 'x'), std::nullopt},
+      {"a byte too long", std::string(252, 'x'), TooLong()},
+      {"bytes count, not characters", std::string(250, 'x') + "ä", TooLong()},
+      {"a forbidden character is told first", std::string(252, '?'), ForbiddenCharacter()},
   };
   for (const NameCase& c : cases) {
     RecordedMessages messages;

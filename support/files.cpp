@@ -62,11 +62,6 @@ class RealFileCalls final : public FileCalls {
   int TryLock(int file) override { return OrError(::flock(file, LOCK_EX | LOCK_NB)); }
 };
 
-[[noreturn]] void Fail(int negatedError, const std::filesystem::path& path) {
-  const int error = -negatedError;
-  throw RunTimeError(RunTimeFaultOf(error), path.string() + ": " + std::generic_category().message(error));
-}
-
 int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
   while (!bytes.empty()) {
     const ssize_t written = Uninterrupted([&] { return calls.Write(file, bytes); });
@@ -77,17 +72,20 @@ int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
   return 0;
 }
 
+// Writes an open file through to the disk and closes it: 0, or the negated error number.
+int WriteToDisk(int file, std::string_view bytes, FileCalls& calls) {
+  int result = WriteWhole(file, bytes, calls);
+  if (result >= 0) result = Uninterrupted([&] { return calls.Sync(file); });
+  const int closed = calls.Close(file);
+  // An interrupted close has closed the file all the same, and the content was on the disk before it.
+  return result >= 0 && closed < 0 && closed != -EINTR ? closed : result;
+}
+
 // Two programs, or two saves of one, must never share a scratch file.
 std::string ScratchName() {
   static std::atomic<unsigned> count{0};
   return std::string(kScratchStart) + std::to_string(::getpid()) + "-" + std::to_string(count.fetch_add(1)) +
          std::string(kScratchEnd);
-}
-
-bool IsScratchName(const std::string& name) {
-  if (!name.starts_with(kScratchStart) || !name.ends_with(kScratchEnd)) return false;
-  const std::string_view numbers = std::string_view(name).substr(kScratchStart.size());
-  return numbers.find_first_not_of("0123456789-") == numbers.size() - kScratchEnd.size();
 }
 
 bool IsStaleScratch(const std::filesystem::directory_entry& entry) {
@@ -121,11 +119,7 @@ int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optio
   // The umask may have taken bits off that the old file had. A disk that knows no permissions refuses this and has none
   // to keep; that is no reason to lose a save.
   if (mode) static_cast<void>(Uninterrupted([&] { return calls.SetMode(scratch.file, *mode); }));
-  int result = WriteWhole(scratch.file, bytes, calls);
-  if (result >= 0) result = Uninterrupted([&] { return calls.Sync(scratch.file); });
-  const int closed = calls.Close(scratch.file);
-  // An interrupted close has closed the file all the same, and the content was on the disk before it.
-  if (result >= 0 && closed < 0 && closed != -EINTR) result = closed;
+  int result = WriteToDisk(scratch.file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Rename(scratch.path, target); });
   if (result < 0) Uninterrupted([&] { return calls.Unlink(scratch.path); });
   return result;
@@ -146,6 +140,34 @@ OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   calls.Close(file);
   if (mode < 0) return {mode, std::nullopt};
   return {0, static_cast<mode_t>(mode)};
+}
+
+// Whether an error means that the folder lets nobody take a name in it, which says nothing of the files in it.
+bool IsRefusal(int negatedError) {
+  return negatedError == -EACCES || negatedError == -EPERM || negatedError == -EROFS || negatedError == -EBUSY;
+}
+
+struct Rewriting {
+  int result;
+  std::string copy;  // where the new content is whole if writing the file has failed; otherwise empty
+};
+
+// Writes into the file itself, with a copy of the new content in a scratch file until it is on the disk. Where no
+// folder takes the copy, it goes without one.
+Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
+                  const std::filesystem::path& scratchFolder, mode_t mode, FileCalls& calls) {
+  Scratch copy = OpenScratch(scratchFolder, mode, calls);
+  if (copy.file < 0) copy = OpenScratch(target.parent_path(), mode, calls);
+  if (copy.file < 0 && !IsRefusal(copy.file)) return {copy.file, {}};
+
+  int result = copy.file < 0 ? 0 : WriteToDisk(copy.file, bytes, calls);
+  if (result >= 0) {
+    const int file = Uninterrupted([&] { return calls.Open(target.string(), O_WRONLY | O_TRUNC | O_CLOEXEC, 0); });
+    result = file < 0 ? file : WriteToDisk(file, bytes, calls);
+    if (file >= 0 && result < 0) return {result, copy.file < 0 ? std::string() : copy.path};
+  }
+  if (copy.file >= 0) Uninterrupted([&] { return calls.Unlink(copy.path); });
+  return {result, {}};
 }
 
 // Where a chain of links ends, whether or not a file is there. Links that go in a circle end at one of them.
@@ -170,6 +192,27 @@ void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
 FileCalls& SystemFileCalls() {
   static RealFileCalls calls;
   return calls;
+}
+
+void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition) {
+  std::error_code unknown;
+  const bool folderMissing =
+      systemError == ENOENT && !std::filesystem::is_directory(EndOfLinks(path).parent_path(), unknown);
+  std::string detail = TextOfFileName(path.string()) + ": " + std::generic_category().message(systemError);
+  throw RunTimeError(folderMissing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError),
+                     detail.append(addition));
+}
+
+bool IsScratchName(std::string_view name) {
+  if (!name.starts_with(kScratchStart) || !name.ends_with(kScratchEnd)) return false;
+  const std::string_view numbers = name.substr(kScratchStart.size());
+  return numbers.find_first_not_of("0123456789-") == numbers.size() - kScratchEnd.size();
+}
+
+bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls) {
+  const int file = Uninterrupted([&] { return calls.Open(path.string(), O_RDONLY | O_NONBLOCK | O_CLOEXEC, 0); });
+  if (file >= 0) calls.Close(file);
+  return file == -ENAMETOOLONG;
 }
 
 std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
@@ -203,7 +246,7 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
                  FileCalls& calls) {
   const std::filesystem::path target = EndOfLinks(path);
   const OldFile old = LookAtOldFile(target.string(), calls);
-  if (old.refusal < 0) Fail(old.refusal, path);
+  if (old.refusal < 0) FailOnFile(-old.refusal, path);
   const mode_t mode = old.mode.value_or(kFileMode);
 
   int result = -EXDEV;
@@ -213,7 +256,14 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
     const Scratch beside = OpenScratch(target.parent_path(), mode, calls);
     result = beside.file < 0 ? beside.file : ReplaceThrough(beside, target.string(), old.mode, bytes, calls);
   }
-  if (result < 0) Fail(result, path);
+  if (IsRefusal(result) && old.mode) {
+    const Rewriting rewriting = Rewrite(target, bytes, scratchFolder, mode, calls);
+    const std::string copy = TextOfFileName(rewriting.copy);
+    if (rewriting.result < 0)
+      FailOnFile(-rewriting.result, path, copy.empty() ? copy : "; the new content is in " + copy);
+    return;
+  }
+  if (result < 0) FailOnFile(-result, path);
   SyncFolder(target.parent_path(), calls);
 }
 
@@ -230,7 +280,7 @@ void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& cal
 
 void DeleteFile(const std::filesystem::path& path, FileCalls& calls) {
   const int result = Uninterrupted([&] { return calls.Unlink(path.string()); });
-  if (result < 0) Fail(result, path);
+  if (result < 0) FailOnFile(-result, path);
 }
 
 void WriteAllText(std::string_view text, const std::filesystem::path& path, const std::filesystem::path& scratchFolder,

@@ -1,8 +1,9 @@
 #pragma once
 
-// Reading, replacing and deleting files. A file of the user's is never written in place: its new content goes to a
-// scratch file, reaches the disk there, and takes the old file's name in one step, so that a crash or a full disk
-// leaves the old content whole. In memory text is UTF-8; on disk it is the code page of "support/windows_1252.h".
+// Reading, replacing and deleting files. The new content of a user's file goes to a scratch file, reaches the disk
+// there, and takes the old file's name in one step, so that a crash or a full disk leaves the old content whole. Only
+// where the folder refuses that is a file written in place. In memory text is UTF-8; on disk it is the code page of
+// "support/windows_1252.h".
 
 #include <cstddef>
 #include <filesystem>
@@ -41,6 +42,17 @@ class FileCalls {
 /// The system's own calls.
 [[nodiscard]] FileCalls& SystemFileCalls();
 
+/// Throws the RunTimeError that a system error stands for which a call on this file or folder has met: ENOENT is "Path
+/// not found" where the folder that it should be in is missing, and "File not found" otherwise; the rest is as
+/// RunTimeFaultOf says. The detail is the path, the system's reason and `addition`.
+[[noreturn]] void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition = {});
+
+/// Whether a file of this name is a scratch file of ReplaceFile: ".quillon-4711-0.tmp".
+[[nodiscard]] bool IsScratchName(std::string_view name);
+
+/// Whether the file system refuses a path because it, or a name in it, is too long.
+[[nodiscard]] bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
 /// The whole file as bytes, the empty text if it cannot be read for whatever reason. A file of more than 64 MiB is none
 /// of ours and counts as unreadable; so does a folder.
 [[nodiscard]] std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
@@ -57,9 +69,15 @@ class FileCalls {
 /// Puts `bytes` in the place of the file's content, or makes the file. The scratch file stands in `scratchFolder`,
 /// which should be on the same disk and not be a folder that the user sees listed; where it is on another disk or
 /// cannot be written, the scratch file stands beside the target. A link is followed, so that the file it names is
-/// replaced. The new file has the permissions of the old one. Failure of any step is a RunTimeError that names the file
-/// and the reason; the old content is then still there and the scratch file is gone. A file that its permissions
-/// protect from writing is such a failure.
+/// replaced. The new file has the permissions of the old one.
+///
+/// A folder may refuse a new file under the name although the old file may be written. Then that file is written in
+/// place, and the scratch file stays until its content is on the disk; where neither folder takes a scratch file, there
+/// is none.
+///
+/// Failure of any step is a RunTimeError as of FailOnFile. The old content is then still there and the scratch file is
+/// gone, unless the file was being written in place: then the scratch file stays, and the error names it. A file that
+/// its permissions protect from writing is such a failure.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
                  FileCalls& calls = SystemFileCalls());
 
@@ -68,8 +86,8 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
 /// fails: what cannot be listed or deleted stays.
 void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());
 
-/// Deletes the file. Of a link only the link goes, and the file it names stays. Failure is a RunTimeError that names
-/// the file and the reason: "File not found" where there is none.
+/// Deletes the file. Of a link only the link goes, and the file it names stays. Failure is a RunTimeError as of
+/// FailOnFile.
 void DeleteFile(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
 /// Overwrites the file with the text and one line end (CR LF). Fails as ReplaceFile does.

@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
@@ -153,6 +154,24 @@ std::optional<RunTimeError> FailureOfReplacing(const fs::path& path, const fs::p
   }
   return std::nullopt;
 }
+
+// The superuser may write everywhere, so a test run by him steps down for a while.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() : superuser_(::geteuid() == 0) {
+    if (superuser_ && ::seteuid(65534) != 0) std::abort();
+  }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser(OrdinaryUser&&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(OrdinaryUser&&) = delete;
+  ~OrdinaryUser() {
+    if (superuser_ && ::seteuid(0) != 0) std::abort();
+  }
+
+ private:
+  bool superuser_;
+};
 
 // A folder of the user's with a folder for scratch files beside it, both gone after the test.
 class Files : public testing::Test {
@@ -496,7 +515,7 @@ TEST_F(ReplacingAFile, NamedPipeIsNoFile) {
 TEST_F(ReplacingAFile, FileInAMissingFolderFails) {
   const auto error = FailureOfReplacing(Folder() / "missing" / "Button.txt", ScratchFolder(), SystemFileCalls());
   ASSERT_TRUE(error);
-  EXPECT_EQ(error->Fault(), RunTimeFault::kFileNotFound);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPathNotFound);
   EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
   ExpectNoScratchFiles();
 }
@@ -528,12 +547,10 @@ TEST_F(ReplacingAFile, FileProtectedByTheSystemIsNotReplaced) {
   fs::permissions(File(), fs::perms::owner_read | fs::perms::others_read);
   for (const fs::path& folder : {File().parent_path(), ScratchFolder()})
     fs::permissions(folder, fs::perms::all);
-  // Permissions do not bind the superuser, so he becomes somebody else meanwhile.
-  constexpr uid_t kNobody = 65534;
-  const bool superuser = ::geteuid() == 0;
-  ASSERT_TRUE(!superuser || ::seteuid(kNobody) == 0);
-  const auto error = Replace(SystemFileCalls());
-  ASSERT_TRUE(!superuser || ::seteuid(0) == 0);
+  const auto error = [this] {
+    const OrdinaryUser user;
+    return Replace(SystemFileCalls());
+  }();
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
   EXPECT_EQ(Content(File()), kOld);
@@ -608,7 +625,6 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
       {"the disk takes nothing", Call::kWrite, 0, RunTimeFault::kDeviceError},
       {"the disk does not sync", Call::kSync, EIO, RunTimeFault::kDeviceError},
       {"the disk is full when the file is closed", Call::kClose, ENOSPC, RunTimeFault::kDiskFull},
-      {"no name can be changed", Call::kRename, EACCES, RunTimeFault::kPermissionDenied},
       {"every folder is on another disk", Call::kRename, EXDEV, RunTimeFault::kDeviceError},
   };
   for (const Case& c : cases) {
@@ -621,6 +637,100 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
     EXPECT_EQ(Content(File()), kOld) << c.rule;
     ExpectNoScratchFiles();
   }
+}
+
+class WritingInPlace : public Files {
+ protected:
+  static constexpr auto kReadOnly = static_cast<fs::perms>(0555);
+
+  void SetUp() override {
+    Files::SetUp();
+    Put(File(), kOld);
+    fs::permissions(File(), fs::perms::all);
+    fs::permissions(Folder().parent_path(), fs::perms::all);
+    fs::permissions(ScratchFolder(), fs::perms::all);
+  }
+  void TearDown() override {
+    fs::permissions(Folder(), fs::perms::all);
+    Files::TearDown();
+  }
+};
+
+TEST_F(WritingInPlace, FileMayBeWrittenInAFolderThatMayNot) {
+  fs::permissions(Folder(), kReadOnly);
+  for (const auto& content : {std::string(5000, 'x'), kNew}) {  // the second is shorter
+    const OrdinaryUser user;
+    ReplaceFile(File(), content, ScratchFolder());
+    EXPECT_EQ(Content(File()), content);
+  }
+  ExpectNoScratchFiles();
+}
+
+TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
+  fs::permissions(Folder(), kReadOnly);
+  {
+    const OrdinaryUser user;
+    ReplaceFile(File(), kNew, Folder());
+  }
+  EXPECT_EQ(Content(File()), kNew);
+}
+
+TEST_F(WritingInPlace, NewFileIsStillRefused) {
+  fs::permissions(Folder(), kReadOnly);
+  const OrdinaryUser user;
+  const auto error = FailureOfReplacing(Folder() / "new.txt", ScratchFolder(), SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
+  for (const int refusal : {EACCES, EPERM, EROFS, EBUSY}) {
+    Put(File(), kOld);
+    FaultyFileCalls calls(FailAlways(Call::kRename, refusal));
+    EXPECT_FALSE(Replace(calls)) << refusal;
+    EXPECT_EQ(Content(File()), kNew) << refusal;
+    ExpectNoScratchFiles();
+  }
+}
+
+TEST_F(WritingInPlace, CopyIsKeptUntilTheFileIsOnTheDisk) {
+  FaultyFileCalls calls(FailAlways(Call::kRename, EACCES));
+  EXPECT_FALSE(Replace(calls));
+  std::vector<Call> order;  // from the opening of the file itself on
+  bool opened = false;
+  for (const auto& entry : calls.Made()) {
+    opened = opened || (entry.call == Call::kOpen && (entry.flags & O_TRUNC) != 0);
+    if (opened) order.push_back(entry.call);
+  }
+  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
+}
+
+TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
+  int copies = 0;
+  bool reached = true;
+  for (int number = 1; reached; ++number) {
+    Put(File(), kOld);
+    FaultyFileCalls calls([number](const FaultyFileCalls::Entry& entry, int made) -> std::optional<int> {
+      if (entry.call == Call::kRename) return -EACCES;
+      return made == number ? std::optional(-ENOSPC) : std::nullopt;
+    });
+    const auto error = Replace(calls);
+    reached = calls.Made().size() >= static_cast<std::size_t>(number);
+    SCOPED_TRACE("call " + std::to_string(number));
+    if (!error) {
+      EXPECT_EQ(Content(File()), kNew);
+    } else if (Content(File()) != kOld) {
+      const std::string copy = calls.ScratchFiles().back();
+      EXPECT_EQ(Content(copy), kNew);
+      EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
+      EXPECT_THAT(error->what(), testing::HasSubstr("the new content is in " + copy));
+      ++copies;
+    }
+    for (const std::string& name : Listing(ScratchFolder()))
+      fs::remove(ScratchFolder() / name);
+  }
+  EXPECT_GE(copies, 3) << "writing, reaching the disk and closing can each fail";
 }
 
 TEST_F(ReplacingAFile, NoFileStaysOpen) {
@@ -717,6 +827,16 @@ TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {
   EXPECT_EQ(calls.Tried, 200) << "a hundred in the scratch folder and as many beside the file";
 }
 
+TEST_F(Files, PathTooLongIsOneThatTheSystemRefusesForItsLength) {
+  EXPECT_FALSE(IsPathTooLong(File()));
+  EXPECT_FALSE(IsPathTooLong(Folder() / std::string(255, 'x')));
+  EXPECT_TRUE(IsPathTooLong(Folder() / std::string(256, 'x')));
+  FaultyFileCalls interrupted(FailOnce(1, EINTR));
+  EXPECT_TRUE(IsPathTooLong(Folder() / std::string(256, 'x'), interrupted));
+  FaultyFileCalls smaller(FailAlways(Call::kOpen, ENAMETOOLONG));
+  EXPECT_TRUE(IsPathTooLong(File(), smaller)) << "a file system with shorter names";
+}
+
 using RemovingStaleScratchFiles = Files;
 
 TEST_F(RemovingStaleScratchFiles, OnlyOldFilesWithSuchANameGo) {
@@ -794,6 +914,14 @@ TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
   ASSERT_TRUE(missing);
   EXPECT_EQ(missing->Fault(), RunTimeFault::kFileNotFound);
   EXPECT_THAT(missing->what(), testing::HasSubstr("Button.txt: No such file or directory"));
+
+  const auto nowhere = FailureOfDeleting(Folder() / "missing" / "Button.txt");
+  ASSERT_TRUE(nowhere);
+  EXPECT_EQ(nowhere->Fault(), RunTimeFault::kPathNotFound);
+
+  const auto oldName = FailureOfDeleting(Folder() / "K\xE4se.txt");
+  ASSERT_TRUE(oldName);
+  EXPECT_THAT(oldName->what(), testing::HasSubstr("Käse.txt: No such file or directory"));
 
   const auto folder = FailureOfDeleting(Folder());
   ASSERT_TRUE(folder);

@@ -7,6 +7,7 @@
 
 #include "support/run_time_error.h"
 #include "support/uninterrupted.h"
+#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -33,7 +34,8 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
   const int made = Uninterrupted([&] { return calls.MakeFolder(path.string()); });
   if (made >= 0) return;
-  throw RunTimeError(FaultOfMaking(-made), path.string() + ": " + std::generic_category().message(-made));
+  throw RunTimeError(FaultOfMaking(-made),
+                     TextOfFileName(path.string()) + ": " + std::generic_category().message(-made));
 }
 
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
+
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
@@ -25,33 +26,6 @@ void AppendUtf8(std::string& text, char32_t character) {
     byte(0x80U | ((character >> 6U) & 0x3FU));
     byte(0x80U | (character & 0x3FU));
   }
-}
-
-struct Decoded {
-  char32_t character;
-  std::size_t length;  // bytes taken
-};
-
-constexpr char32_t kInvalid = 0xFFFFFFFF;
-
-// One character of UTF-8 from its first byte on. Overlong forms, surrogates and values beyond 10FFFF are invalid and
-// take one byte.
-Decoded DecodeUtf8(std::string_view text) {
-  const auto at = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned lead = at(0);
-  if (lead < 0x80) return {lead, 1};
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-  if (length == 0 || length > text.size() || lead > 0xF4) return {kInvalid, 1};
-
-  constexpr std::array<char32_t, 3> kSmallest = {0x80, 0x800, 0x10000};  // of two bytes, three, four
-  char32_t character = lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((at(i) & 0xC0U) != 0x80U) return {kInvalid, 1};
-    character = (character << 6U) | (at(i) & 0x3FU);
-  }
-  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-  if (character < kSmallest[length - 2] || character > 0x10FFFF || surrogate) return {kInvalid, 1};
-  return {character, length};
 }
 
 char Windows1252Byte(char32_t character) {
@@ -80,11 +54,15 @@ std::string Windows1252FromUtf8(std::string_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   while (!text.empty()) {
-    const Decoded decoded = DecodeUtf8(text);
-    bytes += Windows1252Byte(decoded.character);
-    text.remove_prefix(decoded.length);
+    const Utf8Character first = FirstCharacter(text);
+    bytes += Windows1252Byte(first.Character);
+    text.remove_prefix(first.Length);
   }
   return bytes;
+}
+
+std::string TextOfFileName(std::string_view name) {
+  return IsUtf8(name) ? std::string(name) : Utf8FromWindows1252(name);
 }
 
 }  // namespace quillon

@@ -17,4 +17,10 @@ namespace quillon {
 /// UTF-8, becomes "?".
 [[nodiscard]] std::string Windows1252FromUtf8(std::string_view text);
 
+/// The name of a file as text. A name on disk is UTF-8 as a rule; one that is not, as old archives leave them, is taken
+/// for bytes of the code page, and Windows1252FromUtf8 returns it from its text.
+///
+///     "Käse.txt" in UTF-8 -> itself      "K\xE4se.txt" -> "Käse.txt"
+[[nodiscard]] std::string TextOfFileName(std::string_view name);
+
 }  // namespace quillon

@@ -88,5 +88,25 @@ TEST(Windows1252FromUtf8, WhatThePageLacksIsAQuestionMark) {
     EXPECT_EQ(Windows1252FromUtf8(c.utf8), c.bytes) << c.rule;
 }
 
+TEST(TextOfFileName, IsUtf8OrTheCodePage) {
+  struct Case {
+    const char* rule;
+    std::string name;
+    std::string text;
+  };
+  const std::vector<Case> cases = {
+      {"ASCII", "Button.txt", "Button.txt"},
+      {"UTF-8", "Käse ♠.txt", "Käse ♠.txt"},
+      {"a byte of the code page", "K\xE4se.txt", "Käse.txt"},
+      {"a byte that the code page does not assign", "\x81.txt", "\xC2\x81.txt"},
+      {"both are the code page", "ä\xE4", "Ã¤ä"},
+      {"no name", "", ""},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(TextOfFileName(c.name), c.text) << c.rule;
+    EXPECT_EQ(c.text == c.name ? c.name : Windows1252FromUtf8(c.text), c.name) << c.rule;
+  }
+}
+
 }  // namespace
 }  // namespace quillon

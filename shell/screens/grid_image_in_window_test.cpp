@@ -159,7 +159,7 @@ TEST_F(GridImageInWindow, AFileThatCannotBeWrittenEndsTheProgram) {
     ExpectName((Program.Folder().Path / "missing" / "grid.bmp").string());
     Click("imgSave");
   };
-  EXPECT_EXIT(save(), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '53': File not found .*missing/grid.bmp");
+  EXPECT_EXIT(save(), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '76': Path not found .*missing/grid.bmp");
 }
 
 }  // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+// The characters of a UTF-8 text, the form of every text in memory.
+
+#include <cstddef>
+#include <string_view>
+
+namespace quillon {
+
+/// Stands for bytes that are not UTF-8. No character has this number.
+inline constexpr char32_t kNoCharacter = 0xFFFFFFFF;
+
+struct Utf8Character {
+  char32_t Character = kNoCharacter;
+  std::size_t Length = 1;  // in bytes
+};
+
+/// The first character of a text that is not empty. An overlong form, a surrogate, a value beyond 10FFFF and an
+/// incomplete character are kNoCharacter, of one byte.
+[[nodiscard]] Utf8Character FirstCharacter(std::string_view text);
+
+/// Whether the whole of a text is UTF-8. The empty text is.
+[[nodiscard]] bool IsUtf8(std::string_view text);
+
+}  // namespace quillon

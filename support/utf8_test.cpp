@@ -1,0 +1,45 @@
+#include "support/utf8.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+struct CharacterCase {
+  const char* rule;
+  std::string text;
+  char32_t character;
+  std::size_t length;
+};
+
+TEST(FirstCharacter, IsReadWholeOrNotAtAll) {
+  const std::vector<CharacterCase> cases = {
+      {"one byte", "Az", U'A', 1},
+      {"a NUL character", std::string(1, '\0'), U'\0', 1},
+      {"the smallest of two bytes", "\xC2\x80", 0x80, 2},
+      {"two bytes", "äz", U'ä', 2},
+      {"three bytes", "€z", U'€', 3},
+      {"four bytes", "🂡z", U'🂡', 4},
+      {"the largest", "\xF4\x8F\xBF\xBF", 0x10FFFF, 4},
+      {"beyond the largest", "\xF4\x90\x80\x80", kNoCharacter, 1},
+      {"an overlong form", "\xC1\xBF", kNoCharacter, 1},
+      {"an overlong form of three bytes", "\xE0\x9F\xBF", kNoCharacter, 1},
+      {"a surrogate", "\xED\xA0\x80", kNoCharacter, 1},
+      {"a byte that only continues", "\x84", kNoCharacter, 1},
+      {"a character that is cut", "\xE2\x82", kNoCharacter, 1},
+      {"a character that is broken off", "\xE2\x82z", kNoCharacter, 1},
+      {"a byte of another code page", "\xE4z", kNoCharacter, 1},
+  };
+  for (const CharacterCase& c : cases) {
+    const Utf8Character first = FirstCharacter(c.text);
+    EXPECT_EQ(first.Character, c.character) << c.rule;
+    EXPECT_EQ(first.Length, c.length) << c.rule;
+    EXPECT_EQ(IsUtf8("x" + c.text), c.character != kNoCharacter) << c.rule;
+  }
+  EXPECT_TRUE(IsUtf8(""));
+}
+
+}  // namespace
+}  // namespace quillon
