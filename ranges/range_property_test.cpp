@@ -1,12 +1,12 @@
 // Random ranges on their way through file, weights and notation, against slow code that shares nothing with the
-// program's: its own order of classes, its own search, its own reading of numbers, and a reader of the notation, which
-// the program has not got.
+// program's: its own order of classes, its own search, its own reading of numbers, and its own reader of the summary.
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <gtest/gtest.h>
 #include <map>
+#include <numeric>
 #include <optional>
 #include <random>
 #include <set>
@@ -15,6 +15,7 @@
 
 #include "ranges/range_files.h"
 #include "ranges/range_fixtures.h"
+#include "ranges/range_notation.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 
@@ -293,6 +294,95 @@ TEST_P(RandomRange, ReadsByTheSearchRuleHoweverItIsWritten) {
       ASSERT_EQ(FaultOf([&] { return SelectedCombos(text); }), RunTimeFault::kInvalidProcedureCall) << text;
     }
     ASSERT_FALSE(HasFailure()) << text;
+  }
+}
+
+std::array<std::int16_t, kHandClassCount> ByIndex() {
+  std::array<std::int16_t, kHandClassCount> order{};
+  std::iota(order.begin(), order.end(), std::int16_t{0});
+  return order;
+}
+
+// The weights of a notation that must be readable.
+ClassWeights WeightsOfNotation(const std::string& notation) {
+  const NotationReading reading = ReadRangeNotation(notation, ByIndex());
+  if (const auto* const error = std::get_if<NotationError>(&reading)) ADD_FAILURE() << MarkedPlace(notation, *error);
+  const auto* const weights = std::get_if<ClassWeights>(&reading);
+  return weights == nullptr ? ClassWeights{} : *weights;
+}
+
+constexpr std::array kNotationWeights = {0.0, 0.5, 1.0, 1.0, 0.25, 0.99, 0.2222, 1.0 / 3, 1e-22, 4.94e-324};
+
+TEST_P(RandomRange, ReadsTheNotationThatItWrote) {
+  for (int round = 0; round < 200; ++round) {
+    const WeightMap weights = RandomWeights(Source(), kNotationWeights, Below(Source(), 100));
+    ClassWeights ordered{};
+    for (std::int16_t index = 0; index < kHandClassCount; ++index)
+      ordered[static_cast<std::size_t>(index)] = weights.at(std::string(HandLabel(index)));
+    if (round % 10 == 0)
+      ordered[static_cast<std::size_t>(Below(Source(), 169))] = static_cast<double>(Source()()) / 4294967296.0;
+
+    const std::string text = RangeTextOf(ordered);
+    const std::string notation = RangeNotation(text);
+    const ClassWeights read = WeightsOfNotation(notation);
+    ASSERT_EQ(RangeTextOf(read), text) << notation;
+    ASSERT_EQ(RangeNotation(read), notation);
+    ASSERT_EQ(RangeNotation(SearchableRangeText(ordered)), notation);
+    ASSERT_EQ(RangeTextOf(RangeWeightsOf(SearchableRangeText(ordered))), text) << notation;
+  }
+}
+
+// An item as somebody might type it, and the classes that it names.
+struct TypedItem {
+  std::string text;
+  std::vector<std::string> classes;
+};
+
+std::string TypedLabel(Random& random, std::string label) {
+  if (Below(random, 3) == 0) std::swap(label[0], label[1]);
+  std::string typed;
+  for (const char c : label)
+    typed += c == 'T' && Below(random, 2) == 0 ? std::string("10") : std::string(1, c);
+  if (Below(random, 3) == 0) std::transform(typed.begin(), typed.end(), typed.begin(), ::tolower);
+  return typed;
+}
+
+TypedItem RandomItem(Random& random) {
+  const Line line = AnyOf(random, AllLines());
+  const int first = Below(random, static_cast<int>(line.size()));
+  const int last = first + Below(random, static_cast<int>(line.size()) - first);
+  const auto label = [&](int place) { return line[static_cast<std::size_t>(place)]; };
+  if (Below(random, 3) == 0) return {TypedLabel(random, label(last)) + "+", {line.begin(), line.begin() + last + 1}};
+  std::string top = TypedLabel(random, label(first));
+  std::string bottom = TypedLabel(random, label(last));
+  if (first == last && Below(random, 2) == 0) return {top, {label(first)}};
+  if (Below(random, 2) == 0) std::swap(top, bottom);
+  return {top + "-" + bottom, {line.begin() + first, line.begin() + last + 1}};
+}
+
+TEST_P(RandomRange, ReadsItemsThatPeopleType) {
+  struct TypedWeight {
+    const char* text;
+    double weight;
+  };
+  constexpr std::array<TypedWeight, 6> kTyped = {
+      {{"", 1}, {":0.25", 0.25}, {" (0.5)", 0.5}, {":75%", 0.75}, {"(1)", 1}, {":0", 0}}};
+  constexpr std::array kBetween = {",", ", ", ";", " ", "\n", "\r\n", " , "};
+  for (int round = 0; round < 200; ++round) {
+    std::string notation;
+    WeightMap expected;
+    for (int items = 1 + Below(Source(), 12); items > 0; --items) {
+      const TypedItem item = RandomItem(Source());
+      const TypedWeight weight = AnyOf(Source(), kTyped);
+      notation += item.text + weight.text + AnyOf(Source(), kBetween);
+      for (const std::string& label : item.classes)
+        expected[label] = weight.weight;
+    }
+    const ClassWeights read = WeightsOfNotation(notation);
+    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+      const std::string label(HandLabel(index));
+      ASSERT_EQ(read[static_cast<std::size_t>(index)], expected[label]) << label << " in " << notation;
+    }
   }
 }
 

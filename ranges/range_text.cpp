@@ -3,18 +3,19 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 #include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "support/run_time_error.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
 
 constexpr std::size_t kLongestUsualEntry = 11;  // "AKs (0.5), "
 constexpr std::size_t kBetweenLabelAndNumber = 2;  // " ("
+constexpr std::string_view kEntryEnd = "), ";
 
 [[noreturn]] void FailWithoutWeight(std::string_view label) {
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "the range text holds no weight for " + std::string(label));
@@ -34,19 +35,36 @@ std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t foun
   return digit;
 }
 
-bool StartsCharacter(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
-
 // The place in a UTF-8 text that lies so many characters behind another one. In a range's file each is one byte, and
 // places in it are counted so.
 std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t characters) {
   for (; characters > 0; --characters) {
     ++place;
-    while (place < text.size() && !StartsCharacter(text[place]))
+    while (place < text.size() && !StartsUtf8Character(text[place]))
       ++place;
   }
   return place;
+}
+
+// Of all that the text of a number can hold, two equal digits alone are a label, that of a pair. A blank, which no
+// reading of a number minds, breaks it where the pair's own entry is yet to come.
+std::string WithLabelsBroken(std::string number, std::int16_t index) {
+  for (std::size_t place = number.size() - 1; place > 0; --place) {
+    const bool isLabel = number[place - 1] == number[place] && HandIndex(number.substr(place - 1, 2)) > index;
+    if (isLabel) number.insert(place, 1, ' ');
+  }
+  return number;
+}
+
+template <typename Change>
+std::string TextOfEntries(std::span<const double, kHandClassCount> weights, Change change) {
+  std::string text;
+  text.reserve(kLongestUsualEntry * weights.size());
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    text.append(HandLabel(index)).append(" (");
+    text.append(change(NumberText(weights[static_cast<std::size_t>(index)]), index)).append(kEntryEnd);
+  }
+  return text;
 }
 
 double WeightShownOnGrid(double weight) {
@@ -61,7 +79,7 @@ double RangeWeightOf(std::string_view text, std::string_view label) {
 
   // A label that is missing counts as standing one place before the text: the fallback for missing classes rests on it.
   const bool missing = found == std::string_view::npos;
-  const auto length = static_cast<std::size_t>(std::count_if(label.begin(), label.end(), StartsCharacter));
+  const auto length = static_cast<std::size_t>(std::count_if(label.begin(), label.end(), StartsUtf8Character));
   const std::size_t start =
       missing ? PlaceBehind(text, 0, length + 1) : PlaceBehind(text, found + label.size(), kBetweenLabelAndNumber);
   const std::size_t end = text.find(')', missing ? 0 : found + 1);
@@ -77,13 +95,24 @@ ClassWeights RangeWeightsOf(std::string_view text) {
 }
 
 std::string RangeTextOf(std::span<const double, kHandClassCount> weights) {
-  std::string text;
-  text.reserve(kLongestUsualEntry * weights.size());
+  return TextOfEntries(weights, [](std::string number, std::int16_t /*index*/) { return number; });
+}
+
+std::string SearchableRangeText(std::span<const double, kHandClassCount> weights) {
+  return TextOfEntries(weights, WithLabelsBroken);
+}
+
+std::optional<ClassWeights> WrittenWeightsOf(std::string_view text) {
+  ClassWeights weights{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    text.append(HandLabel(index)).append(" (");
-    text.append(NumberText(weights[static_cast<std::size_t>(index)])).append("), ");
+    const std::string start = std::string(HandLabel(index)) + " (";
+    const std::size_t end = text.find(kEntryEnd);
+    if (!text.starts_with(start) || end == std::string_view::npos) return std::nullopt;
+    weights[static_cast<std::size_t>(index)] = LeadingNumber(text.substr(start.size(), end - start.size()));
+    text.remove_prefix(end + kEntryEnd.size());
   }
-  return text;
+  if (!text.empty()) return std::nullopt;
+  return weights;
 }
 
 double SelectedCombos(std::string_view rangeText) {

@@ -12,6 +12,7 @@
 // two entries for one class the first counts.
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -45,6 +46,17 @@ using ClassWeights = std::array<double, kHandClassCount>;
 /// The range text of 169 weights in class index order, each in the general number form. With weights of one character
 /// it has 1508 characters. RunTimeError "Overflow" for a weight that is not finite.
 [[nodiscard]] std::string RangeTextOf(std::span<const double, kHandClassCount> weights);
+
+/// The same as a text of which RangeWeightsOf reads these very weights, to 15 digits: where two equal digits of a
+/// weight would hide the entry of a pair further on, a blank is between them. For files and analyses, if weights may be
+/// others than 0, 0.5 and 1.
+///
+///     AA at 0.99 -> "AA (0.9 9), "      22 at 0.99 -> "22 (0.99), "
+[[nodiscard]] std::string SearchableRangeText(std::span<const double, kHandClassCount> weights);
+
+/// The weights of a text of the form of RangeTextOf or SearchableRangeText, read entry by entry, so that none hides
+/// another. Nothing for a text with anything else in it; a weight that is not a number reads as LeadingNumber has it.
+[[nodiscard]] std::optional<ClassWeights> WrittenWeightsOf(std::string_view text);
 
 /// How many concrete hands, 0 to 1326, a grid would show as selected for a range text: 6 for a pair, 4 for a suited and
 /// 12 for an offsuit class at exactly 1, and half as many at exactly 0.5. A class at any other weight shows as not

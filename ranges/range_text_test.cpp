@@ -143,6 +143,45 @@ TEST(RangeTextOf, WritesWeightsInTheGeneralNumberForm) {
       "AA (0.25), AKs (0.333333333333333), AQs (-2), AJs (7.92119999999999E-02), ATs (0), "));
 }
 
+TEST(SearchableRangeText, BreaksLabelsThatAWeightWouldHide) {
+  struct Case {
+    const char* rule;
+    double others;
+    double weight;
+    const char* start;
+    const char* end;
+  };
+  for (const Case& c : {
+           Case{"usual weights are as they are", 0.5, 1, "AA (0.5), AKs (0.5), ", "22 (1), "},
+           Case{"a doubled digit is a pair yet to come", 0.99, 1, "AA (0.9 9), AKs (0.9 9), ", "22 (1), "},
+           Case{"each of several", 0.2222, 1, "AA (0.2 2 2 2), ", "22 (1), "},
+           Case{"in an exponent, too", 1e-22, 1, "AA (1E-2 2), ", "22 (1), "},
+           Case{"noughts and ones are none", 0.1001, 1, "AA (0.1001), ", "22 (1), "},
+           Case{"the pair's own entry has come", 1, 0.22, "AA (1), ", "22 (0.22), "},
+           Case{"as has that of one before", 1, 0.99, "AA (1), ", "22 (0.99), "},
+       }) {
+    ClassWeights weights{};
+    weights.fill(c.others);
+    weights.back() = c.weight;
+    const std::string text = SearchableRangeText(weights);
+    EXPECT_EQ(text.substr(0, std::string_view(c.start).size()), c.start) << c.rule;
+    EXPECT_TRUE(text.ends_with(c.end)) << c.rule << ": " << text;
+    EXPECT_EQ(RangeWeightsOf(text), weights) << c.rule;
+    EXPECT_EQ(WrittenWeightsOf(text), weights) << c.rule;
+    EXPECT_EQ(WrittenWeightsOf(RangeTextOf(weights)), weights) << c.rule;
+  }
+}
+
+TEST(WrittenWeightsOf, ReadsNothingButTheWrittenForm) {
+  const std::string text = RangeTextOf(ClassWeights{});
+  EXPECT_TRUE(WrittenWeightsOf(text));
+  EXPECT_FALSE(WrittenWeightsOf(text + " "));
+  EXPECT_FALSE(WrittenWeightsOf("my notes: " + text));
+  EXPECT_FALSE(WrittenWeightsOf(text.substr(0, text.size() - 1)));
+  EXPECT_FALSE(WrittenWeightsOf("AKs (0), " + text.substr(8)));
+  EXPECT_FALSE(WrittenWeightsOf(""));
+}
+
 TEST(RangeTextOf, WeightWithoutATextIsFatal) {
   ClassWeights weights{};
   weights[168] = std::numeric_limits<double>::infinity();

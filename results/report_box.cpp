@@ -5,14 +5,13 @@
 #include <cstddef>
 
 #include "support/number_text.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
 
-// Every byte of UTF-8 starts a character but for those of the form 10xxxxxx.
 std::int64_t CharacterCount(std::string_view text) {
-  return std::count_if(text.begin(), text.end(),
-                       [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
+  return std::count_if(text.begin(), text.end(), StartsUtf8Character);
 }
 
 std::string Blanks(std::int64_t count) {

@@ -15,6 +15,11 @@ struct Utf8Character {
   std::size_t Length = 1;  // in bytes
 };
 
+/// Whether a byte starts a character. Every byte of UTF-8 does but for those of the form 10xxxxxx.
+[[nodiscard]] constexpr bool StartsUtf8Character(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
 /// The first character of a text that is not empty. An overlong form, a surrogate, a value beyond 10FFFF and an
 /// incomplete character are kNoCharacter, of one byte.
 [[nodiscard]] Utf8Character FirstCharacter(std::string_view text);

@@ -1,0 +1,70 @@
+#pragma once
+
+// The language in which players write a range, such as "22+,A2s+,K3s-K2s:0.5,AKo:0.25". It is read and written, and it
+// is exact: what was written reads as the same range, whatever its weights. The summary of "ranges/range_summary.h" is
+// a picture beside it, which leaves out some hands at half weight.
+//
+// Items are separated by commas, semicolons, blanks or line ends. Letter case does not matter, "10" is T, and either
+// card of a hand may come first.
+//
+//     88   AKs   AKo   AK               one class; AK is AKs and AKo
+//     88+  ATs+  AT+                    that class and every better one; of two ranks the high card stays
+//     JJ-88   A9s-AQs   76s-54s         all classes between the two, in either order; the high card stays, or both fall
+//     top 15%   15%                     the best classes by a given order, as many as come nearest to that share
+//     any   [Everything]                all classes
+//     none   [None]                     no class
+//
+// A weight from 0 to 1 may follow any item, as "AA:0.5", "AA:50%" or, as in a range file, "AA (0.5)". "Full:" and
+// "Half:" before items are the weights of those that have none of their own, and "|" may come before either. Of items
+// that name the same class the last counts.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+
+/// A notation of more bytes is refused: a range whose weights all differ needs a tenth of that.
+inline constexpr std::size_t kLongestNotation = 65536;
+
+/// Why a notation cannot be read.
+struct NotationError {
+  std::size_t Place = 0;  // where the item starts that is wrong, in bytes from the start of the notation
+  std::string Reason;  // such as "\"X\" is not a rank"
+
+  bool operator==(const NotationError&) const = default;
+};
+
+/// The weights of a range, or why there are none.
+using NotationReading = std::variant<ClassWeights, NotationError>;
+
+/// The range that a notation describes. `bestFirst` are the class indexes in the order that "top" takes them; the share
+/// counts concrete hands, and of two equally near ones the smaller is taken. A notation without an item is an error:
+/// the empty range is "none".
+[[nodiscard]] NotationReading ReadRangeNotation(std::string_view notation,
+                                                std::span<const std::int16_t, kHandClassCount> bestFirst);
+
+/// The line of the notation that the error is in, and under it a mark with the reason. Of a long line, what is around
+/// the place; control characters show as "?".
+///
+///     AKs, KXs+
+///          ^ "X" is not a rank
+[[nodiscard]] std::string MarkedPlace(std::string_view notation, const NotationError& error);
+
+/// The notation of weights in class index order: pairs, suited hands, offsuit hands, each from the best down, folded
+/// into runs of equal weight. A weight other than 1 follows its run in the general number form; "any" and "none" are
+/// all classes and no class. Reading it gives RangeTextOf(weights), byte for byte, for weights from 0 to 1; others are
+/// written likewise, but not read. RunTimeError "Overflow" for a weight that is not finite.
+[[nodiscard]] std::string RangeNotation(std::span<const double, kHandClassCount> weights);
+
+/// The same of a range text: entry by entry if it is as the program writes it, so that no weight hides another, and by
+/// search otherwise. Fails as RangeWeightOf does.
+[[nodiscard]] std::string RangeNotation(std::string_view rangeText);
+
+}  // namespace quillon

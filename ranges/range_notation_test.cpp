@@ -1,0 +1,254 @@
+#include "ranges/range_notation.h"
+
+#include <algorithm>
+#include <array>
+#include <gtest/gtest.h>
+#include <limits>
+#include <numeric>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ranges/range_fixtures.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+namespace {
+
+using Order = std::array<std::int16_t, kHandClassCount>;
+
+// Enough of an order to tell it from the index order: AA, KK and so on, then the other classes by index.
+Order PairsFirst() {
+  Order order{};
+  std::size_t next = 0;
+  for (const bool pairs : {true, false}) {
+    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+      if ((index % 14 == 0) == pairs) order[next++] = index;
+    }
+  }
+  return order;
+}
+
+std::string Read(const std::string& notation) {
+  const NotationReading reading = ReadRangeNotation(notation, PairsFirst());
+  if (const auto* const error = std::get_if<NotationError>(&reading)) return MarkedPlace(notation, *error);
+  return RangeTextOf(std::get<ClassWeights>(reading));
+}
+
+struct ReadingCase {
+  const char* rule;
+  std::string notation;
+  std::string full;
+  std::string half = "";
+};
+
+void ExpectReadings(const std::vector<ReadingCase>& cases) {
+  for (const ReadingCase& c : cases)
+    EXPECT_EQ(Read(c.notation), TextWith(c.full, c.half)) << c.rule;
+}
+
+TEST(RangeNotation, ReadsClassesAndRuns) {
+  ExpectReadings({
+      {"a pair", "88", "88"},
+      {"a suited hand", "AKs", "AKs"},
+      {"an offsuit hand", "AKo", "AKo"},
+      {"both", "AK", "AKs AKo"},
+      {"either card first", "KA", "AKs AKo"},
+      {"either card first, with its letter", "2As", "A2s"},
+      {"any case", "aKS tT", "AKs TT"},
+      {"10 is T", "10A,1010,J10o,109s", "ATs ATo TT JTo T9s"},
+      {"an open run of pairs goes up to aces", "JJ+", "AA KK QQ JJ"},
+      {"of aces it is aces", "AA+", "AA"},
+      {"in an open run the high card stays", "ATs+", "AKs AQs AJs ATs"},
+      {"for both suits", "AQ+", "AKs AQs AKo AQo"},
+      {"the last class alone", "32o+", "32o"},
+      {"a closed run of pairs", "JJ-88", "JJ TT 99 88"},
+      {"in either order", "88-JJ", "JJ TT 99 88"},
+      {"of one high card", "AQs-A9s", "AQs AJs ATs A9s"},
+      {"in either order, either card first", "9A-QA", "AQs AJs ATs A9s AQo AJo ATo A9o"},
+      {"both cards falling", "76s-54s", "76s 65s 54s"},
+      {"both cards rising", "53o-97o", "97o 86o 75o 64o 53o"},
+      {"of one class", "QJs-QJs", "QJs"},
+  });
+}
+
+TEST(RangeNotation, ReadsItemsHoweverTheyAreSeparated) {
+  ExpectReadings({
+      {"commas", "AA,KK", "AA KK"},
+      {"semicolons", "AA;KK", "AA KK"},
+      {"blanks and tabs", "  AA \t KK ", "AA KK"},
+      {"line ends", "AA\nKK\r\nQQ\n", "AA KK QQ"},
+      {"many at once", ",;AA, ; \n,KK;;", "AA KK"},
+  });
+}
+
+TEST(RangeNotation, ReadsSharesByTheOrderGiven) {
+  ExpectReadings({
+      {"a share takes the best", "top 1%", "AA KK"},
+      {"without its word", "1%", "AA KK"},
+      {"without a blank, in any case", "TOP1%", "AA KK"},
+      {"10% is a share", "10%",
+       "AA KK QQ JJ TT 99 88 77 66 55 44 33 22 AKs AQs AJs ATs A9s A8s A7s A6s A5s A4s A3s A2s AKo"},
+      {"nothing", "0%", ""},
+      {"nearer to nothing", ".22%", ""},
+      {"nearer to aces", "0.23%", "AA"},
+      {"a number with an exponent", "1e0%", "AA KK"},
+      {"everything", "100%", AllLabels()},
+  });
+}
+
+// 55 offsuit classes are 660 hands, and with aces 666: half of all, 663, is halfway between the two.
+TEST(RangeNotation, OfTwoSharesEquallyNearTheSmallerIsTaken) {
+  Order order{};
+  std::iota(order.begin(), order.end(), std::int16_t{0});
+  const auto offsuit = [](std::int16_t index) { return ComboCount(HandLabel(index)) == 12; };
+  const auto rest = std::stable_partition(order.begin(), order.end(), offsuit);
+  std::rotate(order.begin() + 55, std::find(rest, order.end(), HandIndex("AA")), order.end());
+  std::string labels;
+  for (std::size_t place = 0; place < 55; ++place)
+    labels.append(HandLabel(order.at(place))).append(" ");
+  EXPECT_EQ(ReadRangeNotation("50%", order), NotationReading(RangeWeightsOf(TextWith(labels))));
+  EXPECT_EQ(ReadRangeNotation("50.01%", order), NotationReading(RangeWeightsOf(TextWith(labels + "AA"))));
+}
+
+TEST(RangeNotation, ReadsWholeRanges) {
+  ExpectReadings({
+      {"any", "any", AllLabels()},
+      {"as the summary says it", "[everything]", AllLabels()},
+      {"none", "None", ""},
+      {"as the summary says it", "[None]", ""},
+      {"none takes nothing away", "AA none", "AA"},
+  });
+}
+
+TEST(RangeNotation, ReadsWeights) {
+  ExpectReadings({
+      {"a weight", "AA:0.5", "", "AA"},
+      {"in percent", "AA:50%,KK:100%", "KK", "AA"},
+      {"as in a range file", "AA (0.5), KK (1), QQ (0), ", "KK", "AA"},
+      {"without a blank", "AA(0.5),KK( 1 )", "KK", "AA"},
+      {"of a run", "QQ+:.5, 76s-54s (5E-1)", "", "AA KK QQ 76s 65s 54s"},
+      {"of a share", "top 1%:50%", "", "AA KK"},
+      {"of everything", "any:0.5", "", AllLabels()},
+      {"of items that overlap the later holds", "JJ+,QQ:0.5,KK:0", "AA JJ", "QQ"},
+      {"a summary", "Full: AA | Half: KK,QQ", "AA", "KK QQ"},
+      {"a summary of halves alone", "Full:  | Half: 32o", "", "32o"},
+      {"in any case, without blanks", "half:KK|FULL:AA", "AA", "KK"},
+      {"a weight of its own goes before the part's", "Half: KK:1 QQ", "KK", "QQ"},
+  });
+}
+
+TEST(RangeNotation, AnErrorMarksTheItem) {
+  const std::string run =
+      "a run goes from pair to pair, keeps its high card, or falls with both cards, all suited or all offsuit";
+  const std::string weight = "a weight is from 0 to 1, or from 0% to 100%";
+  const std::string half = "a hand is two cards, such as AKs, AK or 88";
+  struct Case {
+    std::string notation;
+    std::string marked;
+  };
+  const std::string nul("AA \0", 4);
+  for (const Case& c : std::vector<Case>{
+           {"AKs, KXs+", "AKs, KXs+\n     ^ \"X\" is not a rank"},
+           {"hello", "hello\n^ \"h\" is not a rank"},
+           {"A1", "A1\n^ \"1\" is not a rank"},
+           {"A", "A\n^ " + half},
+           {"A,K", "A,K\n^ " + half},
+           {"KK A+", "KK A+\n   ^ " + half},
+           {"JJ - 88", "JJ - 88\n   ^ " + half},
+           {"88s", "88s\n^ a pair is neither suited nor offsuit"},
+           {"QQ-AKs", "QQ-AKs\n^ " + run},
+           {"AQs-A9o", "AQs-A9o\n^ " + run},
+           {"AQs-A9", "AQs-A9\n^ " + run},
+           {"KTs-ATs", "KTs-ATs\n^ " + run},
+           {"76s-53s", "76s-53s\n^ " + run},
+           {"JJ-88+", "JJ-88+\n^ \"+\" does not belong here"},
+           {"AsKs", "AsKs\n^ \"s\" is not a rank"},
+           {"AAKK", "AAKK\n^ \"K\" does not belong here"},
+           {"anything", "anything\n^ \"t\" does not belong here"},
+           {"top", "top\n^ after top comes a share, such as 15%"},
+           {"top 15", "top 15\n^ after top comes a share, such as 15%"},
+           {"AA, 101%", "AA, 101%\n    ^ a share is from 0% to 100%"},
+           {"1e999%", "1e999%\n^ a share is from 0% to 100%"},
+           {"-5%", "-5%\n^ " + half},
+           {"AA:2", "AA:2\n^ " + weight},
+           {"AA:-1", "AA:-1\n^ " + weight},
+           {"AA:101%", "AA:101%\n^ " + weight},
+           {"AA:nan", "AA:nan\n^ " + weight},
+           {"AA:", "AA:\n^ " + weight},
+           {"AA (1", "AA (1\n^ \")\" is missing after the weight"},
+           {"AA (x)", "AA (x)\n^ " + weight},
+           {"AA | KK", "AA | KK\n   ^ after \"|\" comes Full: or Half:"},
+           {"AA:0.5x", "AA:0.5x\n^ \"x\" does not belong here"},
+           {"", "\n^ there is no hand here; an empty range is none"},
+           {" , ", " , \n^ there is no hand here; an empty range is none"},
+           {"Full: ", "Full: \n^ there is no hand here; an empty range is none"},
+           {nul, "AA ?\n   ^ character 0 is not a rank"},
+           {"KK\tJJ–88", "KK JJ–88\n   ^ \"–\" does not belong here"},
+           {"½, AB", "½, AB\n^ \"½\" is not a rank"},
+           {"AA\nKK, AB\nQQ", "KK, AB\n    ^ \"B\" is not a rank"},
+       }) {
+    EXPECT_EQ(Read(c.notation), c.marked) << c.notation;
+  }
+}
+
+TEST(RangeNotation, OfALongLineTheMarkShowsWhatIsAroundThePlace) {
+  std::string before;
+  for (int i = 0; i < 1000; ++i)
+    before += "AA,";
+  EXPECT_EQ(Read(before + "XX," + before), before.substr(0, 60) + "XX," + before.substr(0, 57) + "\n" +
+                                               std::string(60, ' ') + "^ \"X\" is not a rank");
+}
+
+TEST(RangeNotation, ANotationWithoutEndIsRefused) {
+  std::string notation(kLongestNotation, ' ');
+  notation.replace(0, 2, "AA");
+  EXPECT_EQ(Read(notation), TextWith("AA"));
+  const NotationReading reading = ReadRangeNotation(notation + " ", PairsFirst());
+  EXPECT_EQ(reading, NotationReading(NotationError{0, "a notation has at most 65536 bytes"}));
+}
+
+ClassWeights Weights(const std::vector<std::pair<std::string, double>>& weights) {
+  ClassWeights all{};
+  for (const auto& [label, weight] : weights)
+    all.at(static_cast<std::size_t>(HandIndex(label))) = weight;
+  return all;
+}
+
+TEST(RangeNotation, WritesRunsOfEqualWeight) {
+  ClassWeights mixed = Weights({{"K3s", 0.5}, {"K2s", 0.5}, {"AKo", 0.25}});
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view label = HandLabel(index);
+    if (label.size() == 2 || (label[0] == 'A' && label[2] == 's')) mixed.at(static_cast<std::size_t>(index)) = 1;
+  }
+  ClassWeights everything{};
+  everything.fill(1);
+  ClassWeights nearlyEverything{};
+  nearlyEverything.fill(0.5);
+  struct Case {
+    const char* rule;
+    ClassWeights weights;
+    std::string notation;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"nothing", {}, "none"},
+           {"everything", everything, "any"},
+           {"runs and weights", mixed, "22+,A2s+,K3s-K2s:0.5,AKo:0.25"},
+           {"a half run into a full class stays", Weights({{"AA", 0.5}, {"KK", 1}}), "AA:0.5,KK"},
+           {"weights that read the same are one run", Weights({{"AA", 0.1 + 0.2}, {"KK", 0.3}}), "KK+:0.3"},
+           {"a small weight has an exponent", Weights({{"AA", 1e-20}}), "AA:1E-20"},
+           {"fifteen digits", Weights({{"AA", 1.0 / 3}}), "AA:0.333333333333333"},
+           {"weights beyond 1 are written", Weights({{"AA", 2}, {"KK", -1}}), "AA:2,KK:-1"},
+       }) {
+    EXPECT_EQ(RangeNotation(c.weights), c.notation) << c.rule;
+    EXPECT_EQ(RangeNotation(RangeTextOf(c.weights)), c.notation) << c.rule;
+  }
+  EXPECT_EQ(RangeNotation(nearlyEverything).substr(0, 16), "22+:0.5,A2s+:0.5");
+  EXPECT_EQ(FaultOf([] {
+              return RangeNotation(Weights({{"AA", std::numeric_limits<double>::quiet_NaN()}}));
+            }),
+            RunTimeFault::kOverflow);
+}
+
+}  // namespace
+}  // namespace quillon
