@@ -61,6 +61,15 @@ TEST_F(EquityVsRangeTest, HandsOfNegativeWeightAreSkipped) {
   EXPECT_EQ(Equity("72o", RangeWith({{"AA", 1}, {"KK", -1}})), Equity("72o", RangeWith({{"AA", 1}})));
 }
 
+// A range weighs whole classes, so an exchange of suits leaves it as it is.
+TEST_F(EquityVsRangeTest, IsTheSameForEveryConcreteHandOfTheClass) {
+  std::string range = RangeWith({{"AA", 1}, {"77", 0.5}, {"AKs", 1}, {"KQs", 0.25}, {"AQo", 1}, {"72o", 0.5}});
+  for (const HandRecord& hand : BuildCombos("Xx", "Yy")) {
+    const HandList dealt = DealRange(ProgramFolder{}, "", hand.Card1, hand.Card2, range);
+    EXPECT_NEAR(EquityVsRange(hand.Label, dealt), Equity(hand.Label, range), 1e-15) << hand.Cards.View();
+  }
+}
+
 TEST_F(EquityVsRangeTest, ScalingAllWeightsByAPowerOfTwoChangesNothing) {
   for (std::int16_t index = 0; index < kHandClassCount; index += 12)
     EXPECT_EQ(Equity(HandLabel(index), EveryHandAt(0.5)), Equity(HandLabel(index), EveryHandAt(1)));
