@@ -169,7 +169,7 @@ TEST(CompanionJourney, LooksInAFolderNamedFromTheCurrentOne) {
   const Household household;
   fs::create_directory(household.Elsewhere() / "Mine");
   fs::rename(household.RangeFolder(), household.Elsewhere() / "Mine" / "Ranges");
-  EXPECT_EQ(household.Run({"summary", "--range", "Everything"}).Status, 1);
+  EXPECT_EQ(household.Run({"summary", "--range", "Everything"}).Status, 1);  // its own folder is gone
   const ProgramOutcome outcome = household.Run({"summary", "--range", "Everything", "--folder", "Mine"});
   EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
   EXPECT_EQ(outcome.Output, "[Everything]\n");
@@ -208,7 +208,7 @@ TEST_P(CompanionStatus, GoesWithAMessage) {
 
 std::vector<StatusCase> Statuses() {
   return {
-      {"MissingRange", {"equity", "--range", "Nobody"}, 1, "The range \"Nobody\" cannot be read: "},
+      {"UnknownRange", {"equity", "--range", "Everybody"}, 3, "There is no range \"Everybody\" in "},
       {"MissingFolder", {"ranges", "--folder", "/nowhere"}, 1, "Run-time error '76': Path not found (/nowhere/Ranges"},
       {"SumTooLarge",
        {"call", "--pot", "=" + std::string(400, '9') + "+" + std::string(400, '9'), "--call", "1", "--range",
@@ -298,12 +298,18 @@ TEST(CompanionJourney, KeepsItsStatusWithoutStandardError) {
 
 // ---- on a terminal
 
-constexpr const char* kFirstFrame = "\r[                                        ] 1%\r[";
-constexpr const char* kLastFrame = "\r[########################################] 100%\r\x1b[K";
-constexpr const char* kAnyFrame = "\r[";
+constexpr std::string_view kAnyFrame = "\r[";
+constexpr std::string_view kClearLine = "\r\x1b[K";
 constexpr const char* kCellColor = "\x1b[48;2;";
 
-TEST(CompanionJourney, ShowsProgressAndThenGridAndReportOnATerminalWithColors) {
+// A run that takes longer than half a second shows its progress first; here it seldom does.
+std::string WithoutProgress(const std::string& terminal) {
+  if (!terminal.starts_with(kAnyFrame)) return terminal;
+  const std::size_t end = terminal.rfind(kClearLine);
+  return end == std::string::npos ? terminal : terminal.substr(end + kClearLine.size());
+}
+
+TEST(CompanionJourney, ShowsGridAndReportOnATerminalWithColors) {
   const Household household;
   ProgramRun run = household.Prepare(kCall);
   run.Output = StreamEnd::kTerminal;
@@ -311,26 +317,24 @@ TEST(CompanionJourney, ShowsProgressAndThenGridAndReportOnATerminalWithColors) {
   run.Environment["COLORTERM"] = "truecolor";
   const ProgramOutcome outcome = RunProgram(run);
   EXPECT_EQ(outcome.Status, 0);
-  EXPECT_THAT(outcome.Terminal, StartsWith(kFirstFrame));
-  EXPECT_THAT(outcome.Terminal, HasSubstr(std::string(kLastFrame) + kCellColor));
+  EXPECT_THAT(WithoutProgress(outcome.Terminal), StartsWith(kCellColor));
   EXPECT_THAT(outcome.Terminal, EndsWith("\x1b[0m\n\n" + household.Run(kCall).Output));
 }
 
-TEST(CompanionJourney, ShowsProgressWhereStandardErrorAloneIsATerminal) {
+TEST(CompanionJourney, LeavesNothingOnStandardErrorThatAloneIsATerminal) {
   const Household household;
   ProgramRun run = household.Prepare(kCall);
   run.Errors = StreamEnd::kTerminal;
   run.Environment["COLORTERM"] = "truecolor";
   const ProgramOutcome outcome = RunProgram(run);
   EXPECT_EQ(outcome.Status, 0);
-  EXPECT_THAT(outcome.Terminal, StartsWith(kFirstFrame));
-  EXPECT_THAT(outcome.Terminal, EndsWith(kLastFrame));
+  EXPECT_EQ(WithoutProgress(outcome.Terminal), "");
   EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
 }
 
 struct ColorCase {
   const char* rule;
-  const char* promise;  // COLORTERM
+  std::map<std::string, std::string> environment;
   bool grid;
 };
 
@@ -340,7 +344,8 @@ TEST_P(ColorPromise, DecidesWhetherATerminalGetsTheGrid) {
   const Household household;
   ProgramRun run = household.Prepare(kEquity);
   run.Output = StreamEnd::kTerminal;
-  run.Environment["COLORTERM"] = GetParam().promise;
+  for (const auto& [name, value] : GetParam().environment)
+    run.Environment[name] = value;
   const ProgramOutcome outcome = RunProgram(run);
   const std::string report = household.Run(kEquity).Output;
   EXPECT_EQ(outcome.Status, 0);
@@ -351,14 +356,18 @@ TEST_P(ColorPromise, DecidesWhetherATerminalGetsTheGrid) {
   EXPECT_EQ(outcome.Terminal == report, !GetParam().grid);
 }
 
-constexpr auto kColorCases = std::to_array<ColorCase>({
-    {"TrueColor", "truecolor", true},
-    {"Named24Bit", "24bit", true},
-    {"SomethingElse", "yes", false},
-    {"Empty", "", false},
-});
+std::vector<ColorCase> ColorCases() {
+  return {
+      {"TrueColor", {{"COLORTERM", "truecolor"}}, true},
+      {"Named24Bit", {{"COLORTERM", "24bit"}}, true},
+      {"SomethingElse", {{"COLORTERM", "yes"}}, false},
+      {"Empty", {{"COLORTERM", ""}}, false},
+      {"NoColorWanted", {{"COLORTERM", "truecolor"}, {"NO_COLOR", "1"}}, false},
+      {"DumbTerminal", {{"COLORTERM", "truecolor"}, {"TERM", "dumb"}}, false},
+  };
+}
 
-INSTANTIATE_TEST_SUITE_P(CompanionJourney, ColorPromise, testing::ValuesIn(kColorCases),
+INSTANTIATE_TEST_SUITE_P(CompanionJourney, ColorPromise, testing::ValuesIn(ColorCases()),
                          [](const auto& entry) { return std::string(entry.param.rule); });
 
 TEST(CompanionJourney, ShowsNoGridOnATerminalThatPromisesNothing) {
@@ -387,7 +396,7 @@ TEST(CompanionJourney, AnswersOtherProgramsInJson) {
   ASSERT_EQ(outcome.Status, 0) << outcome.Errors;
   const nlohmann::json object = nlohmann::json::parse(outcome.Output);
   EXPECT_EQ(object["mode"], "raise");
-  EXPECT_EQ(object["dropped_hands"], "A3o (½'d), A2o");
+  EXPECT_EQ(object["dropped_hands"], nlohmann::json({"A3o (½'d)", "A2o"}));
   EXPECT_EQ(object["hands"].size(), 169U);
 }
 

@@ -146,7 +146,8 @@ std::vector<std::string> EnvironmentOf(const ProgramRun& run) {
     const std::size_t sign = text.find('=');
     if (sign != std::string_view::npos) variables.emplace(text.substr(0, sign), text.substr(sign + 1));
   }
-  variables.erase("COLORTERM");
+  for (const char* const name : {"COLORTERM", "NO_COLOR", "TERM"})
+    variables.erase(name);
   for (const auto& [name, value] : run.Environment)
     variables[name] = value;
 

@@ -21,7 +21,7 @@ struct ProgramRun {
   std::vector<std::string> Arguments;
   std::filesystem::path CurrentFolder = "/";
 
-  /// What is set on top of the test's own environment, from which COLORTERM is taken out.
+  /// What is set on top of the test's own environment, from which COLORTERM, NO_COLOR and TERM are taken out.
   std::map<std::string, std::string> Environment;
 
   StreamEnd Output = StreamEnd::kKept;

@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <nlohmann/json.hpp>
-#include <vector>
+#include <optional>
+#include <utility>
 
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
@@ -12,10 +13,13 @@
 #include "results/hand_line.h"
 #include "results/report.h"
 #include "results/results_grid.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 
 namespace quillon {
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 // A report screen that keeps the text alone; a terminal has no fonts.
 class TextScreen final : public ReportScreen {
@@ -45,12 +49,22 @@ std::string ReportOutput(ReportForm form, AnalysisState& state, std::span<const 
   return UnixLineEnds(screen.Text());
 }
 
+bool HasAmounts(const AnalysisState& state) {
+  return state.Mode != AnalysisMode::kEquityOnly;
+}
+
+bool IsRaise(const AnalysisState& state) {
+  return state.Mode == AnalysisMode::kPreflopRaise;
+}
+
+// What the scenario does not have is left out: a value where only equity was asked for, a fold share where nobody
+// folds.
 struct HandRow {
   std::string_view hand;
   std::int16_t combos;
-  double expectedValue;
+  std::optional<double> expectedValue;
   double equity;
-  double foldShare;
+  std::optional<double> foldShare;
   std::string color;
 };
 
@@ -58,23 +72,26 @@ std::array<HandRow, kHandClassCount> HandRows(const AnalysisState& state) {
   const std::array<Rgb, kHandClassCount> colors = GridColors(state);
   std::array<HandRow, kHandClassCount> rows{};
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const std::string_view hand = HandLabel(static_cast<std::int16_t>(i));
-    rows[i] = {hand,
-               ComboCount(hand),
-               GetHandInfo(state.HandInfo, hand, kExpectedValueColumn),
-               GetHandInfo(state.HandInfo, hand, kEquityColumn),
-               GetHandInfo(state.HandInfo, hand, kFoldShareColumn),
-               ColorText(colors[i])};
+    HandRow& row = rows[i];
+    row.hand = HandLabel(static_cast<std::int16_t>(i));
+    row.combos = ComboCount(row.hand);
+    row.equity = GetHandInfo(state.HandInfo, row.hand, kEquityColumn);
+    row.color = ColorText(colors[i]);
+    if (HasAmounts(state)) row.expectedValue = GetHandInfo(state.HandInfo, row.hand, kExpectedValueColumn);
+    if (IsRaise(state)) row.foldShare = GetHandInfo(state.HandInfo, row.hand, kFoldShareColumn);
   }
   return rows;
+}
+
+std::string TextOf(std::optional<double> value) {
+  return value ? NumberText(*value) : std::string();
 }
 
 std::string CsvOutput(const AnalysisState& state) {
   std::string text = "hand,combos,ev,equity,fold,colour\n";
   for (const HandRow& row : HandRows(state)) {
-    text.append(row.hand).append(",").append(std::to_string(row.combos)).append(",");
-    text.append(NumberText(row.expectedValue)).append(",").append(NumberText(row.equity)).append(",");
-    text.append(NumberText(row.foldShare)).append(",").append(row.color).append("\n");
+    text += Joined({row.hand, ",", std::to_string(row.combos), ",", TextOf(row.expectedValue), ",",
+                    NumberText(row.equity), ",", TextOf(row.foldShare), ",", row.color, "\n"});
   }
   return text;
 }
@@ -93,81 +110,61 @@ std::string_view ModeName(AnalysisMode mode) {
   return "none";
 }
 
-// Reads back as the same number. The general form need not: the first 15 digits of the largest double lie beyond it.
-std::string JsonNumber(double value) {
-  return nlohmann::json(value).dump();
+template <typename Value>
+Json ValueIf(bool present, Value&& value) {
+  return present ? Json(std::forward<Value>(value)) : Json();
 }
 
-// A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
-std::string JsonString(std::string_view text) {
-  return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+Json JsonOf(std::optional<double> value) {
+  return value ? Json(*value) : Json();
 }
 
-std::string ValueIf(bool present, const std::string& value) {
-  return present ? value : "null";
+Json HandJson(const HandRow& row) {
+  return {{"hand", row.hand},     {"combos", row.combos},          {"ev", JsonOf(row.expectedValue)},
+          {"equity", row.equity}, {"fold", JsonOf(row.foldShare)}, {"colour", row.color}};
 }
 
-std::string Joined(std::span<const std::string> pieces, std::string_view separator) {
-  std::string text;
-  for (const std::string& piece : pieces)
-    text.append(text.empty() ? "" : separator).append(piece);
-  return text;
-}
-
-struct JsonMember {
-  std::string_view key;
-  std::string value;
-};
-
-std::string JsonMembers(std::span<const JsonMember> members, std::string_view separator) {
-  std::vector<std::string> pieces;
-  for (const JsonMember& member : members)
-    pieces.push_back(JsonString(member.key) + ": " + member.value);
-  return Joined(pieces, separator);
-}
-
-std::string HandJson(const HandRow& row) {
-  const std::array<JsonMember, 6> members = {{{"hand", JsonString(row.hand)},
-                                              {"combos", std::to_string(row.combos)},
-                                              {"ev", JsonNumber(row.expectedValue)},
-                                              {"equity", JsonNumber(row.equity)},
-                                              {"fold", JsonNumber(row.foldShare)},
-                                              {"colour", JsonString(row.color)}}};
-  return "{" + JsonMembers(members, ", ") + "}";
-}
-
-std::string HandsJson(const AnalysisState& state) {
-  std::vector<std::string> hands;
-  for (const HandRow& row : HandRows(state))
-    hands.push_back(HandJson(row));
-  return "[\n    " + Joined(hands, ",\n    ") + "\n  ]";
+// The classes that the report names, each a text such as "JJ (½'d)".
+Json DroppedHandsJson(std::string_view text) {
+  constexpr std::string_view kSeparator = ", ";
+  Json hands = Json::array();
+  while (!text.empty()) {
+    const std::string_view hand = text.substr(0, text.find(kSeparator));
+    hands.push_back(hand);
+    text.remove_prefix(std::min(hand.size() + kSeparator.size(), text.size()));
+  }
+  return hands;
 }
 
 std::string JsonOutput(const AnalysisState& state) {
-  const bool amounts = state.Mode != AnalysisMode::kEquityOnly;
-  const bool raise = state.Mode == AnalysisMode::kPreflopRaise;
+  const bool amounts = HasAmounts(state);
+  const bool raise = IsRaise(state);
   const std::int16_t column = amounts ? kExpectedValueColumn : kEquityColumn;
   const std::string best = BestHand(state.HandInfo, column);
   const std::string worst = WorstHand(state.HandInfo, column);
   const GridTexts texts = MakeGridTexts(state);
 
-  const std::array<JsonMember, 15> members = {
-      {{"mode", JsonString(ModeName(state.Mode))},
-       {"pot", ValueIf(amounts, JsonNumber(state.PotSize))},
-       {"call", ValueIf(amounts, JsonNumber(state.CallAmount))},
-       {"shove", ValueIf(raise, JsonNumber(state.ShoveAmount))},
-       {"range", JsonString(state.RangeName)},
-       {"calling_range", ValueIf(raise, JsonString(state.CallingRangeName))},
-       {"range_summary", JsonString(RangeSummary(state.RangeText))},
-       {"calling_range_summary", raise ? JsonString(RangeSummary(state.CallingRangeText)) : "null"},
-       {"dropped_hands", ValueIf(raise, JsonString(state.DroppedHands))},
-       {"title", JsonString(texts.Title)},
-       {"situation", JsonString(texts.HandInfo)},
-       {"explanation", JsonString(texts.Results)},
-       {"best", ValueIf(!best.empty(), JsonString(best))},
-       {"worst", ValueIf(!worst.empty(), JsonString(worst))},
-       {"hands", HandsJson(state)}}};
-  return "{\n  " + JsonMembers(members, ",\n  ") + "\n}\n";
+  Json hands = Json::array();
+  for (const HandRow& row : HandRows(state))
+    hands.push_back(HandJson(row));
+
+  const Json object = {{"mode", ModeName(state.Mode)},
+                       {"pot", ValueIf(amounts, state.PotSize)},
+                       {"call", ValueIf(amounts, state.CallAmount)},
+                       {"shove", ValueIf(raise, state.ShoveAmount)},
+                       {"range", state.RangeName},
+                       {"calling_range", ValueIf(raise, state.CallingRangeName)},
+                       {"range_summary", RangeSummary(state.RangeText)},
+                       {"calling_range_summary", raise ? Json(RangeSummary(state.CallingRangeText)) : Json()},
+                       {"dropped_hands", ValueIf(raise, DroppedHandsJson(state.DroppedHands))},
+                       {"title", texts.Title},
+                       {"situation", UnixLineEnds(texts.HandInfo)},
+                       {"explanation", UnixLineEnds(texts.Results)},
+                       {"best", ValueIf(!best.empty(), best)},
+                       {"worst", ValueIf(!worst.empty(), worst)},
+                       {"hands", hands}};
+  // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
+  return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 // Black on light cells, white on dark ones. Source of the weights: ITU-R BT.601, luma.

@@ -28,9 +28,10 @@ inline constexpr std::array<std::string_view, 5> kOutputFormatNames = {"plain", 
 /// The analysis in one format, the last line end included.
 ///
 /// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
-/// (class labels). kTable is the results table byte for byte. kCsv has a header row, then hand, combos, ev, equity,
-/// fold and colour for each class. kJson is one object, with each class on a line of its own; what the scenario does
-/// not have is null, and all numbers carry the digits of the results table. Fails as BuildReport and MakeGridTexts do.
+/// (class labels). kTable is the results table byte for byte, its line ends included. kCsv has a header row, then hand,
+/// combos, ev, equity, fold and colour for each class, and kJson is one object: what the scenario does not have, such
+/// as the fold share of a call, is nothing in the one and null in the other. Numbers read back as those of the table;
+/// an equity of -1 says that the opponent never calls. Fails as BuildReport and MakeGridTexts do.
 [[nodiscard]] std::string AnalysisOutput(OutputFormat format, AnalysisState& state, std::span<const std::string> hands);
 
 /// The 13 by 13 grid in its colours, for a terminal that takes 24-bit colour sequences: one line for each row, with

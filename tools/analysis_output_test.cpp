@@ -110,13 +110,16 @@ AnalysisState EquityRun() {
 struct Scenario {
   const char* name;
   AnalysisState (*run)();
+  bool hasValue;
+  bool hasFold;
 };
 
 class EachScenario : public testing::TestWithParam<Scenario> {};
 
 INSTANTIATE_TEST_SUITE_P(AnalysisOutput, EachScenario,
-                         testing::Values(Scenario{"Call", CallRun}, Scenario{"Raise", RaiseRun},
-                                         Scenario{"Equity", EquityRun}),
+                         testing::Values(Scenario{"Call", CallRun, true, false},
+                                         Scenario{"Raise", RaiseRun, true, true},
+                                         Scenario{"Equity", EquityRun, false, false}),
                          [](const auto& entry) { return std::string(entry.param.name); });
 
 std::string BoxText(ReportForm form, AnalysisState& state, const std::vector<std::string>& hands) {
@@ -223,8 +226,8 @@ TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
   ASSERT_THAT(rows, SizeIs(169));
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const std::vector<std::string>& cells = rows[i];
-    expected += cells[0] + "," + CombosOf(cells[0]) + "," + cells[1] + "," + cells[2] + "," + cells[3] + "," +
-                HexColor(colors[i]) + "\n";
+    expected += cells[0] + "," + CombosOf(cells[0]) + "," + (GetParam().hasValue ? cells[1] : "") + "," + cells[2] +
+                "," + (GetParam().hasFold ? cells[3] : "") + "," + HexColor(colors[i]) + "\n";
   }
   EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
 }
@@ -286,11 +289,19 @@ TEST_P(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
     const std::vector<std::string>& cells = rows[i];
     EXPECT_EQ(hand["hand"], cells[0]);
     EXPECT_EQ(std::to_string(hand["combos"].get<int>()), CombosOf(cells[0]));
-    EXPECT_EQ(hand["ev"].get<double>(), std::strtod(cells[1].c_str(), nullptr)) << cells[0];
-    EXPECT_EQ(hand["equity"].get<double>(), std::strtod(cells[2].c_str(), nullptr)) << cells[0];
-    EXPECT_EQ(hand["fold"].get<double>(), std::strtod(cells[3].c_str(), nullptr)) << cells[0];
+    EXPECT_EQ(hand["ev"], GetParam().hasValue ? Json(std::strtod(cells[1].c_str(), nullptr)) : Json()) << cells[0];
+    EXPECT_EQ(hand["equity"], std::strtod(cells[2].c_str(), nullptr)) << cells[0];
+    EXPECT_EQ(hand["fold"], GetParam().hasFold ? Json(std::strtod(cells[3].c_str(), nullptr)) : Json()) << cells[0];
     EXPECT_EQ(hand["colour"], HexColor(colors[i])) << cells[0];
   }
+}
+
+TEST_P(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
+  AnalysisState state = GetParam().run();
+  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const GridTexts texts = MakeGridTexts(state);
+  EXPECT_EQ(object["situation"], WithUnixLineEnds(texts.HandInfo));
+  EXPECT_EQ(object["explanation"], WithUnixLineEnds(texts.Results));
 }
 
 TEST(JsonOutput, HoldsNumbersOfAnySize) {
@@ -315,7 +326,7 @@ TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
   EXPECT_EQ(object["range_summary"], "Full: QQ+,AKs,AKo | Half: JJ,ATs");
   EXPECT_EQ(object["title"], "ALL IN Grid");
   EXPECT_EQ(object["situation"],
-            "Pot Size: 150.12 | Call Amount: 50 | Odds: 3:1\r\nHis Range: Full: QQ+,AKs,AKo | Half: JJ,ATs");
+            "Pot Size: 150.12 | Call Amount: 50 | Odds: 3:1\nHis Range: Full: QQ+,AKs,AKo | Half: JJ,ATs");
   EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("If you call with all of the hands in green"));
   EXPECT_EQ(object["best"], BestHand(state.HandInfo, kExpectedValueColumn));
   EXPECT_EQ(object["worst"], WorstHand(state.HandInfo, kExpectedValueColumn));
@@ -332,9 +343,9 @@ TEST(JsonOutput, OfARaiseHasEverything) {
   EXPECT_EQ(object["range"], "Now");
   EXPECT_EQ(object["calling_range"], "Calls");
   EXPECT_EQ(object["calling_range_summary"], "Full: KK+,JJ,77 | Half: AKs");
-  EXPECT_EQ(object["dropped_hands"], "JJ (½'d), 77");
+  EXPECT_EQ(object["dropped_hands"], Json({"JJ (½'d)", "77"}));
   EXPECT_EQ(object["situation"],
-            "Pot Size: 150 | Call Amount: 50 | Shove Amount: 400\r\n"
+            "Pot Size: 150 | Call Amount: 50 | Shove Amount: 400\n"
             "His Calling Range: Full: KK+,JJ,77 | Half: AKs");
   EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("If you raise with all of the hands in green"));
   EXPECT_EQ(object["best"], BestHand(state.HandInfo, kExpectedValueColumn));
@@ -353,17 +364,13 @@ TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
   EXPECT_TRUE(object["explanation"].get<std::string>().starts_with("Equity is a meausrement"));
   EXPECT_EQ(object["best"], BestHand(state.HandInfo, kEquityColumn));
   EXPECT_EQ(object["worst"], WorstHand(state.HandInfo, kEquityColumn));
-  for (const Json& hand : object["hands"]) {
-    EXPECT_EQ(hand["ev"], 0);
-    EXPECT_EQ(hand["fold"], 1);
-  }
 }
 
-TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyText) {
+TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyList) {
   AnalysisState state =
       FinishedRun(1, {.Pot = "3", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
-  EXPECT_EQ(object["dropped_hands"], "");
+  EXPECT_EQ(object["dropped_hands"], Json::array());
   EXPECT_EQ(object["call"], 0);
   for (const Json& hand : object["hands"]) {
     EXPECT_EQ(hand["equity"], -1);

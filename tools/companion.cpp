@@ -1,8 +1,11 @@
 #include "tools/companion.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <span>
@@ -12,6 +15,7 @@
 #include <vector>
 
 #include "analysis/analysis_driver.h"
+#include "analysis/expected_value.h"
 #include "analysis/quiet_window.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
@@ -21,9 +25,12 @@
 #include "ranges/range_text.h"
 #include "results/results_grid.h"
 #include "shell/expressions.h"
+#include "shell/version.h"
 #include "support/message_boxes.h"
+#include "support/number_text.h"
 #include "support/run_time_error.h"
 #include "tools/analysis_output.h"
+#include "tools/nearest_names.h"
 
 namespace quillon {
 namespace {
@@ -50,22 +57,24 @@ class PrintedMessages final : public MessageBoxes {
   bool shown_ = false;
 };
 
-// The window of a run that has none: only its progress bar is to be seen, drawn over and over on one line.
+// The window of a run that has none: only its progress bar is to be seen, drawn over and over on one line. Most runs
+// are over before anyone could read it, and show none.
 class CompanionWindow final : public QuietWindow {
  public:
   CompanionWindow(Situation situation, MessageBoxes& messages, const Surroundings& surroundings)
-      : QuietWindow(std::move(situation), messages), surroundings_(surroundings) {}
+      : QuietWindow(std::move(situation), messages), surroundings_(surroundings), start_(surroundings.Now()) {}
   CompanionWindow(const CompanionWindow&) = delete;
   CompanionWindow(CompanionWindow&&) = delete;
   CompanionWindow& operator=(const CompanionWindow&) = delete;
   CompanionWindow& operator=(CompanionWindow&&) = delete;
-  // A run that fails half-way leaves its bar, and the failure's text must not stand behind it.
+  // A run that fails half-way leaves its bar, and the failure's text must not follow it on the line.
   ~CompanionWindow() override { ClearProgress(); }
 
   void SetProgressPercent(std::string_view caption) override { percent_ = caption; }
 
   void SetProgressBarWidth(float twips) override {
-    if (!surroundings_.ShowProgress) return;
+    constexpr std::chrono::milliseconds kPatience(500);
+    if (!surroundings_.Terminal.ShowProgress || surroundings_.Now() - start_ <= kPatience) return;
     constexpr std::size_t kCharacters = 40;
     const auto filled = static_cast<std::size_t>(kCharacters * static_cast<double>(twips) / kProgressBarWidth);
     const std::string bar = std::string(filled, '#') + std::string(kCharacters - filled, ' ');
@@ -82,6 +91,7 @@ class CompanionWindow final : public QuietWindow {
   }
 
   const Surroundings& surroundings_;
+  std::chrono::steady_clock::time_point start_;
   std::string percent_;
   bool barShows_ = false;
 };
@@ -98,7 +108,7 @@ ProgramFolder FolderOf(const Request& request, const Surroundings& surroundings)
   return {request.folder};
 }
 
-// What `read` gives back, nothing where it ends in a run-time error.
+// What `read` returns, nothing where it ends in a run-time error.
 template <typename Read>
 auto Attempt(Read read) -> std::optional<decltype(read())> {
   try {
@@ -128,6 +138,48 @@ void PointOutUnreadable(const std::string& name, const ProgramFolder& folder, st
          << " is missing, empty or no range file.\n";
 }
 
+std::vector<std::string> RangeNames(const ProgramFolder& folder) {
+  std::vector<std::string> names;
+  for (const std::string& file : RangeFolderEntries(folder)) {
+    if (auto name = Attempt([&] { return RangeNameOfFile(file); })) names.push_back(*std::move(name));
+  }
+  return names;
+}
+
+bool HasFile(const std::string& name, const ProgramFolder& folder) {
+  std::error_code none;
+  return std::filesystem::exists(std::filesystem::symlink_status(RangeFilePath(folder, name), none));
+}
+
+// Whether one of the names is no range's; each that is not is told.
+bool RefuseUnknown(const std::vector<std::string>& names, const ProgramFolder& folder, std::ostream& errors) {
+  constexpr std::size_t kSuggestions = 3;
+  bool refused = false;
+  for (const std::string& name : names) {
+    if (HasFile(name, folder)) continue;
+    refused = true;
+    const std::vector<std::string> nearest = NearestNames(name, RangeNames(folder), kSuggestions);
+    errors << "There is no range \"" << name << "\" in " << RangeFolderPath(folder).string() << ".";
+    std::string_view separator = " The nearest names: ";
+    for (const std::string& near : nearest) {
+      errors << separator << '"' << near << '"';
+      separator = ", ";
+    }
+    errors << '\n';
+  }
+  return refused;
+}
+
+// Thousands separators pass for a number, but the value ends at the first. What is no number at all is refused.
+void WarnOfComma(std::string_view option, const std::string& amount, std::ostream& errors) {
+  std::string whole = amount;
+  std::erase(whole, ',');
+  const double value = BoxValue(amount);
+  if (!IsNumericText(amount) || value == BoxValue(whole)) return;
+  errors << "Warning: " << option << ' ' << amount << " counts as " << NumberText(value)
+         << "; a comma ends a number.\n";
+}
+
 int Analyze(std::int16_t button, Request request, const Surroundings& surroundings) {
   PrintedMessages messages(surroundings.Errors);
   Situation& situation = request.situation;
@@ -136,9 +188,14 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
     if (messages.Shown()) return kRefused;
   }
   const ProgramFolder folder = FolderOf(request, surroundings);
-  for (const std::string& name : {situation.Range, situation.CallingRange}) {
-    if (!name.empty()) PointOutUnreadable(name, folder, surroundings.Errors);
-  }
+  std::vector<std::string> names = {situation.Range, situation.CallingRange};
+  std::erase(names, "");  // the input checks have their own words for it
+  if (RefuseUnknown(names, folder, surroundings.Errors)) return kRefused;
+  for (const std::string& name : names)
+    PointOutUnreadable(name, folder, surroundings.Errors);
+  WarnOfComma("--pot", situation.Pot, surroundings.Errors);
+  WarnOfComma("--call", situation.Call, surroundings.Errors);
+  WarnOfComma("--shove", situation.Shove, surroundings.Errors);
 
   LoadEquityTable();
   AnalysisState state;
@@ -148,7 +205,7 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
 
   const OutputFormat format = OutputFormatOf(request.format);
   const std::string text = AnalysisOutput(format, state, request.hands);
-  if (format == OutputFormat::kPlain && surroundings.ShowColors) {
+  if (format == OutputFormat::kPlain && surroundings.Terminal.ShowColors) {
     surroundings.Output << TerminalGrid(GridColors(state)) << '\n';
   }
   surroundings.Output << text;
@@ -158,6 +215,7 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
 int Summarize(const Request& request, const Surroundings& surroundings) {
   const ProgramFolder folder = FolderOf(request, surroundings);
   const std::string& name = request.situation.Range;
+  if (RefuseUnknown({name}, folder, surroundings.Errors)) return kRefused;
   PointOutUnreadable(name, folder, surroundings.Errors);
   const std::string summary = RangeSummary(LoadRangeText(folder, name));
   if (!IsReadable(name, folder)) return kFailed;
@@ -197,6 +255,8 @@ class CommandLine {
  public:
   CommandLine() {
     app_.require_subcommand(0, 1);
+    app_.set_version_flag("--version", "quillon-cli " + VersionText());
+    app_.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
     Situation& situation = request_.situation;
     AddText(call_, "--pot", situation.Pot, "Everything in the pot, his bet included");
     AddText(call_, "--call", situation.Call, "What you must put in to call");
@@ -218,18 +278,21 @@ class CommandLine {
     }
   }
 
-  /// kDone, or the exit status with which the program is to end after what has been printed.
-  int Parse(std::span<const std::string> arguments, const Surroundings& surroundings, bool& goOn) {
-    goOn = false;
+  /// Nothing, or the exit status with which the program is to end after what has been printed.
+  std::optional<int> Parse(std::span<const std::string> arguments, const Surroundings& surroundings) {
+    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());  // as the library takes them
+    if (!reversed.empty() && reversed.back() == kHelpCommand) {
+      reversed.pop_back();
+      reversed.insert(reversed.begin(), "--help");
+    }
     try {
-      app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+      app_.parse(std::move(reversed));
       CheckTogether();
     } catch (const CLI::ParseError& error) {
       const int status = app_.exit(error, surroundings.Output, surroundings.Errors);
       return status == 0 ? kDone : kWrongUsage;
     }
-    goOn = true;
-    return kDone;
+    return std::nullopt;
   }
 
   int Run(const Surroundings& surroundings) {
@@ -241,6 +304,8 @@ class CommandLine {
   }
 
  private:
+  static constexpr const char* kHelpCommand = "help";
+
   static void AddText(CLI::App* command, const char* option, std::string& text, const char* description) {
     const bool name = std::string_view(option).ends_with("range");
     command->add_option(option, text, description)->required()->type_name(name ? "NAME" : "TEXT");
@@ -251,9 +316,8 @@ class CommandLine {
     command->add_option("--format", request_.format, "plain (default), 2+2, table, json or csv")
         ->type_name("F")
         ->check(CLI::IsMember(formats));
-    command->add_option("--hand", request_.hands, "With 2+2: adds the working of one hand; may be repeated")
+    command->add_option("--hand", request_.hands, "With 2+2: adds the working of these hands")
         ->type_name("LABEL")
-        ->allow_extra_args(false)
         ->check(CLI::Validator(CheckLabel, ""));
   }
 
@@ -279,9 +343,8 @@ class CommandLine {
 
 int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings) {
   CommandLine commandLine;
-  bool goOn = false;
-  const int status = commandLine.Parse(arguments, surroundings, goOn);
-  return goOn ? commandLine.Run(surroundings) : status;
+  if (const auto status = commandLine.Parse(arguments, surroundings)) return *status;
+  return commandLine.Run(surroundings);
 }
 
 }  // namespace quillon

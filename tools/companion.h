@@ -4,10 +4,14 @@
 // the window's boxes and lists hold comes from the command line, what its message boxes say goes to standard error, and
 // the finished run is printed.
 
+#include <chrono>
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <span>
 #include <string>
+
+#include "tools/terminal.h"
 
 namespace quillon {
 
@@ -23,14 +27,16 @@ struct Surroundings {
   std::ostream& Output;
   std::ostream& Errors;
   std::filesystem::path ProgramFolder;  // where "Ranges" is looked for unless --folder names another folder
-  bool ShowProgress = false;  // standard error is a terminal
-  bool ShowColors = false;  // standard output is a terminal with 24-bit colour
+  quillon::Terminal Terminal{};
+  std::function<std::chrono::steady_clock::time_point()> Now = std::chrono::steady_clock::now;
 };
 
-/// Does what the arguments (without the program's name) ask for, and gives back the exit status. An amount is taken as
-/// an amount box takes it, a sum such as "=735+220-178" included, and the input checks run as they do behind the
-/// window's button: a refusal is printed as "title: message". A named range that has no readable file is pointed out
-/// before the run fails over it. Fails as RunAnalysis and AnalysisOutput do; nothing is written anywhere.
+/// Does what the arguments (without the program's name) ask for, and returns the exit status. An amount is taken as an
+/// amount box takes it, a sum such as "=735+220-178" included, with a warning where a comma cuts it short, and the
+/// input checks run as they do after a click on the window's button: a refusal is printed as "title: message". A range
+/// that there is no file of is refused, with the names that are nearest to its own; one whose file cannot be read is
+/// pointed out before the run fails over it. Where the terminal takes it, a run that goes on for more than half a
+/// second shows a bar. Fails as RunAnalysis and AnalysisOutput do; nothing is written anywhere.
 [[nodiscard]] int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings);
 
 }  // namespace quillon

@@ -1,6 +1,7 @@
 #include "tools/companion.h"
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -17,6 +18,7 @@
 #include "analysis/recording_window.h"
 #include "hand/equity_table.h"
 #include "ranges/range_fixtures.h"
+#include "shell/version.h"
 #include "support/run_time_error.h"
 #include "tools/analysis_output.h"
 
@@ -37,18 +39,17 @@ struct Outcome {
   std::string Errors;
 };
 
-struct Terminal {
-  bool ShowProgress = false;
-  bool ShowColors = false;
-};
-
-// As the program's outermost frame does it: a run-time error ends the run with its text and the status for it.
-Outcome RunIn(const std::filesystem::path& folder, const Arguments& arguments, Terminal terminal = {}) {
+// As the program's outermost frame does it: a run-time error ends the run with its text and the status for it. Each
+// look at the clock takes `step`.
+Outcome RunIn(const std::filesystem::path& folder, const Arguments& arguments, Terminal terminal = {},
+              std::chrono::milliseconds step = {}) {
+  std::chrono::steady_clock::time_point time;
+  const auto now = [&time, step] { return time += step; };
   std::ostringstream output;
   std::ostringstream errors;
   Outcome outcome;
   try {
-    outcome.Status = RunCompanion(arguments, {output, errors, folder, terminal.ShowProgress, terminal.ShowColors});
+    outcome.Status = RunCompanion(arguments, {output, errors, folder, terminal, now});
   } catch (const RunTimeError& error) {
     outcome.Status = kFailed;
     errors << error.what() << '\n';
@@ -78,8 +79,9 @@ class CompanionProgram {
 
   [[nodiscard]] const TemporaryProgram& Files() const { return program_; }
   [[nodiscard]] const ProgramFolder& Folder() const { return program_.Folder(); }
-  [[nodiscard]] Outcome Run(const Arguments& arguments, Terminal terminal = {}) const {
-    return RunIn(Folder().Path, arguments, terminal);
+  [[nodiscard]] Outcome Run(const Arguments& arguments, Terminal terminal = {},
+                            std::chrono::milliseconds step = {}) const {
+    return RunIn(Folder().Path, arguments, terminal, step);
   }
 
  private:
@@ -96,6 +98,15 @@ const Arguments kEquity = {"equity", "--range", "Loose"};
 Arguments With(Arguments arguments, const Arguments& more) {
   arguments.insert(arguments.end(), more.begin(), more.end());
   return arguments;
+}
+
+Arguments Call(const char* pot, const char* call, const char* range = "Tight") {
+  return {"call", "--pot", pot, "--call", call, "--range", range};
+}
+
+Arguments Raise(const char* pot, const char* call, const char* shove, const char* range = "Loose",
+                const char* callingRange = "Tight") {
+  return {"raise", "--pot", pot, "--call", call, "--shove", shove, "--range", range, "--calling-range", callingRange};
 }
 
 struct CommandCase {
@@ -146,10 +157,14 @@ TEST_P(EachCommand, AddsTheWorkingOfEachHand) {
   const CompanionProgram program;
   AnalysisState state = ClickButton(GetParam(), program.Folder());
   const std::vector<std::string> hands = {"AKo", "22", "AKo"};
-  const Outcome outcome =
-      program.Run(With(*GetParam().arguments, {"--hand", "AKo", "--format", "2+2", "--hand", "22", "--hand", "AKo"}));
-  EXPECT_EQ(outcome.Status, kDone);
-  EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormat::kForum, state, hands));
+  const std::string expected = AnalysisOutput(OutputFormat::kForum, state, hands);
+  for (const Arguments& options : {Arguments{"--hand", "AKo", "--format", "2+2", "--hand", "22", "--hand", "AKo"},
+                                   Arguments{"--format", "2+2", "--hand", "AKo", "22", "AKo"},
+                                   Arguments{"--hand", "AKo", "22", "--hand", "AKo", "--format", "2+2"}}) {
+    const Outcome outcome = program.Run(With(*GetParam().arguments, options));
+    EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
+    EXPECT_EQ(outcome.Output, expected);
+  }
 }
 
 TEST_P(EachCommand, TakesTheFolderThatIsNamed) {
@@ -176,21 +191,30 @@ TEST(Summary, OfAnEmptyRangeIsNone) {
 }
 
 TEST(Help, IsPrintedOnStandardOutput) {
-  for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"-h"}}) {
+  for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"-h"}, Arguments{"help"}}) {
     const Outcome outcome = RunIn("", arguments);
     EXPECT_EQ(outcome.Status, kDone);
     EXPECT_EQ(outcome.Errors, "");
-    for (const char* command : {"call", "raise", "equity", "summary", "ranges"})
+    for (const char* command : {"call", "raise", "equity", "summary", "ranges", "help"})
       EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(command) + " ")) << "a line of its own";
   }
 }
 
 TEST(Help, OfACommandNamesItsOptions) {
-  const Outcome outcome = RunIn("", {"raise", "--help"});
+  for (const Arguments& arguments : {Arguments{"raise", "--help"}, Arguments{"help", "raise"}}) {
+    const Outcome outcome = RunIn("", arguments);
+    EXPECT_EQ(outcome.Status, kDone);
+    for (const char* option :
+         {"--pot", "--call", "--shove", "--range", "--calling-range", "--folder", "--format", "--hand"})
+      EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(option) + " ")) << "a line of its own";
+  }
+}
+
+TEST(Version, IsPrintedOnStandardOutput) {
+  const Outcome outcome = RunIn("", {"--version"});
   EXPECT_EQ(outcome.Status, kDone);
-  for (const char* option :
-       {"--pot", "--call", "--shove", "--range", "--calling-range", "--folder", "--format", "--hand"})
-    EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(option) + " ")) << "a line of its own";
+  EXPECT_EQ(outcome.Output, "quillon-cli " + VersionText() + "\n");
+  EXPECT_EQ(outcome.Errors, "");
 }
 
 // ---- the list of ranges
@@ -272,14 +296,14 @@ INSTANTIATE_TEST_SUITE_P(Ranges, BadFile, testing::ValuesIn(kBadFiles),
 
 struct UnreadableCase {
   const char* rule;
-  const char* content;  // null where there is no file
+  const char* content;
 };
 
 class Unreadable : public testing::TestWithParam<UnreadableCase> {};
 
 TEST_P(Unreadable, IsNamedBeforeTheRunFailsOverIt) {
   const CompanionProgram program;
-  if (GetParam().content != nullptr) program.Files().Write("Bad one.txt", GetParam().content);
+  program.Files().Write("Bad one.txt", GetParam().content);
   const std::string complaint =
       "The range \"Bad one\" cannot be read: " + program.Files().RangeFile("Bad one.txt").string() +
       " is missing, empty or no range file.\n";
@@ -298,7 +322,6 @@ TEST_P(Unreadable, IsNamedBeforeTheRunFailsOverIt) {
 }
 
 constexpr auto kUnreadable = std::to_array<UnreadableCase>({
-    {"Missing", nullptr},
     {"Empty", ""},
     {"LineEndAlone", "\r\n"},
     {"Noise", "\x01\xff\x80 no range at all"},
@@ -311,8 +334,9 @@ INSTANTIATE_TEST_SUITE_P(Companion, Unreadable, testing::ValuesIn(kUnreadable),
 
 TEST(UnreadableRange, BothRangesOfAShoveArePointedOut) {
   const CompanionProgram program;
-  const Outcome outcome =
-      program.Run({"raise", "--pot", "9", "--call", "", "--shove", "9", "--range", "This", "--calling-range", "That"});
+  program.Files().Write("This.txt", "");
+  program.Files().Write("That.txt", "");
+  const Outcome outcome = program.Run(Raise("9", "", "9", "This", "That"));
   EXPECT_EQ(outcome.Status, kFailed);
   EXPECT_THAT(outcome.Errors, HasSubstr("The range \"This\" cannot be read"));
   EXPECT_THAT(outcome.Errors, HasSubstr("The range \"That\" cannot be read"));
@@ -335,10 +359,64 @@ TEST(UnreadableRange, NoiseWithALateBracketIsPointedOut) {
   EXPECT_THAT(listing.Errors, HasSubstr("Noise.txt cannot be read, is empty or no range file.\n"));
 }
 
-TEST(UnreadableRange, RangeInAFolderWithoutRangesNamesItsFile) {
+// ---- ranges that there are none of
+
+struct UnknownCase {
+  const char* rule;
+  Arguments arguments;
+  const char* complaint;  // with FOLDER for the folder of the ranges
+};
+
+class Unknown : public testing::TestWithParam<UnknownCase> {};
+
+TEST_P(Unknown, IsRefusedWithTheNearestNames) {
+  const CompanionProgram program;
+  program.Files().Write("bad", "a name too short for an extension");
+  const Outcome outcome = program.Run(GetParam().arguments, {.ShowProgress = true, .ShowColors = true});
+  EXPECT_EQ(outcome.Status, kRefused);
+  EXPECT_EQ(outcome.Output, "");
+  std::string complaint = GetParam().complaint;
+  for (std::size_t at = 0; (at = complaint.find("FOLDER")) != std::string::npos;)
+    complaint.replace(at, 6, RangeFolderPath(program.Folder()).string());
+  EXPECT_EQ(outcome.Errors, complaint);
+}
+
+std::vector<UnknownCase> Unknowns() {
+  constexpr const char* kTihgt =
+      "There is no range \"Tihgt\" in FOLDER. The nearest names: \"Tight\", \"Loose\", \"Nothing\"\n";
+  return {
+      {"InACall", Call("150", "50", "Tihgt"), kTihgt},
+      {"InARaise", Raise("150", "50", "400", "Tihgt", "Tight"), kTihgt},
+      {"InARaiseThatIsCalled", Raise("150", "50", "400", "Loose", "Tihgt"), kTihgt},
+      {"InBothPlacesOfARaise", Raise("150", "50", "400", "Tihgt", "tihgt"),
+       "There is no range \"Tihgt\" in FOLDER. The nearest names: \"Tight\", \"Loose\", \"Nothing\"\n"
+       "There is no range \"tihgt\" in FOLDER. The nearest names: \"Tight\", \"Loose\", \"Nothing\"\n"},
+      {"InAnEquity", {"equity", "--range", "Tihgt"}, kTihgt},
+      {"InASummary", {"summary", "--range", "Tihgt"}, kTihgt},
+      {"InASummaryWithoutAName",
+       {"summary", "--range", ""},
+       "There is no range \"\" in FOLDER. The nearest names: \"Loose\", \"Tight\", \"Nothing\"\n"},
+      {"OfTheRightNameInTheWrongCase",
+       {"summary", "--range", "loose"},
+       "There is no range \"loose\" in FOLDER. The nearest names: \"Loose\", \"Tight\", \"Nothing\"\n"},
+      {"WithAnAmountThatWouldBeRefused", Call("150", "-5", "Tihgt"), kTihgt},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, Unknown, testing::ValuesIn(Unknowns()),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+TEST(UnknownRange, HasNoNearestNameWhereThereIsNone) {
+  const TemporaryProgram program;
+  const Outcome outcome = RunIn(program.Folder().Path, kCall);
+  EXPECT_EQ(outcome.Status, kRefused);
+  EXPECT_EQ(outcome.Errors, "There is no range \"Tight\" in " + RangeFolderPath(program.Folder()).string() + ".\n");
+}
+
+TEST(UnknownRange, InAFolderWithoutRangesIsARunTimeErrorThatNamesIt) {
   const Outcome outcome = RunIn("/nowhere", kCall);
   EXPECT_EQ(outcome.Status, kFailed);
-  EXPECT_THAT(outcome.Errors, HasSubstr("/nowhere/Ranges/Tight.txt is missing"));
+  EXPECT_EQ(outcome.Errors, "Run-time error '76': Path not found (/nowhere/Ranges: No such file or directory)\n");
 }
 
 // ---- refusals
@@ -357,15 +435,6 @@ TEST_P(Refusal, PrintsTitleAndMessageAndNothingElse) {
   EXPECT_EQ(outcome.Status, kRefused);
   EXPECT_EQ(outcome.Output, "");
   EXPECT_EQ(outcome.Errors, std::string(GetParam().message) + "\n");
-}
-
-Arguments Call(const char* pot, const char* call, const char* range = "Tight") {
-  return {"call", "--pot", pot, "--call", call, "--range", range};
-}
-
-Arguments Raise(const char* pot, const char* call, const char* shove, const char* range = "Loose",
-                const char* callingRange = "Tight") {
-  return {"raise", "--pot", pot, "--call", call, "--shove", shove, "--range", range, "--calling-range", callingRange};
 }
 
 constexpr const char* kBadSum =
@@ -458,6 +527,46 @@ constexpr auto kAmounts = std::to_array<AmountCase>({
 });
 
 INSTANTIATE_TEST_SUITE_P(Companion, Amount, testing::ValuesIn(kAmounts),
+                         [](const auto& entry) { return std::string(entry.param.rule); });
+
+struct WarningCase {
+  const char* rule;
+  Arguments arguments;
+  int status;
+  const char* errors;
+};
+
+class Warning : public testing::TestWithParam<WarningCase> {};
+
+TEST_P(Warning, IsGivenOfAnAmountThatACommaCutsShort) {
+  const CompanionProgram program;
+  const Outcome outcome = program.Run(GetParam().arguments);
+  EXPECT_EQ(outcome.Status, GetParam().status);
+  EXPECT_EQ(outcome.Errors, GetParam().errors);
+  EXPECT_EQ(outcome.Output.empty(), GetParam().status != kDone);
+}
+
+std::vector<WarningCase> Warnings() {
+  return {
+      {"OfThousands", Call("1,000", "0.5"), kDone, "Warning: --pot 1,000 counts as 1; a comma ends a number.\n"},
+      {"OfADecimalComma", Call("150", "12,5"), kDone, "Warning: --call 12,5 counts as 12; a comma ends a number.\n"},
+      {"OfCurrency", Raise("150", "50", "$1,200.50"), kDone,
+       "Warning: --shove $1,200.50 counts as 1; a comma ends a number.\n"},
+      {"OfAllThree", Raise("1,000", "1,000", "1,000"), kDone,
+       "Warning: --pot 1,000 counts as 1; a comma ends a number.\n"
+       "Warning: --call 1,000 counts as 1; a comma ends a number.\n"
+       "Warning: --shove 1,000 counts as 1; a comma ends a number.\n"},
+      {"BeforeTheRefusalThatItExplains", Call("1,000", "50"), kRefused,
+       "Warning: --pot 1,000 counts as 1; a comma ends a number.\n"
+       "Pot Size Error: The pot size must be greater than the amount you have to call.\n"},
+      {"NotOfACommaThatTakesNothingAway", Raise("150", "0,0", "400"), kDone, ""},
+      {"NotOfWhatIsNoNumber", Call("1,000x", "0.5"), kRefused,
+       "Pot Size Error: The pot size contains non-numeric characters\n"},
+      {"NotOfASum", Call("=1000+500", "50"), kDone, ""},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Companion, Warning, testing::ValuesIn(Warnings()),
                          [](const auto& entry) { return std::string(entry.param.rule); });
 
 TEST(Amounts, GoToTheirOwnPlaces) {
@@ -596,7 +705,8 @@ std::vector<UsageCase> WrongUsages() {
       {"HandWithoutLabel", With(kEquity, {"--format", "2+2", "--hand", ""}), "\"\" is no starting hand"},
       {"SecondHandThatIsNone", With(kEquity, {"--format", "2+2", "--hand", "AA", "--hand", "None"}),
        "\"None\" is no starting hand"},
-      {"TwoHandsBehindOneOption", With(kEquity, {"--format", "2+2", "--hand", "AA", "KK"}), "KK"},
+      {"SecondHandAfterOneOptionThatIsNone", With(kEquity, {"--format", "2+2", "--hand", "AA", "None"}),
+       "\"None\" is no starting hand"},
       {"HandInThePlainReport", With(kEquity, {"--hand", "AA"}), "--hand goes with --format 2+2 only"},
       {"HandInJson", With(kEquity, {"--format", "json", "--hand", "AA"}), "--hand goes with --format 2+2 only"},
   };
@@ -609,10 +719,12 @@ INSTANTIATE_TEST_SUITE_P(Companion, WrongUsage, testing::ValuesIn(WrongUsages())
 
 constexpr std::string_view kClearLine = "\r\x1b[K";
 
-TEST_P(EachCommand, ShowsItsProgressWhenAsked) {
+constexpr std::chrono::milliseconds kLong(501);
+
+TEST_P(EachCommand, ShowsTheProgressOfALongRun) {
   const CompanionProgram program;
-  const Outcome quiet = program.Run(*GetParam().arguments);
-  const Outcome outcome = program.Run(*GetParam().arguments, {.ShowProgress = true});
+  const Outcome quiet = program.Run(*GetParam().arguments, {}, kLong);
+  const Outcome outcome = program.Run(*GetParam().arguments, {.ShowProgress = true}, kLong);
   EXPECT_EQ(outcome.Status, kDone);
   EXPECT_EQ(outcome.Output, quiet.Output);
   EXPECT_EQ(quiet.Errors, "");
@@ -625,6 +737,21 @@ TEST_P(EachCommand, ShowsItsProgressWhenAsked) {
   EXPECT_EQ(frames[169], std::string(40, '#') + "] 100%" + std::string(kClearLine));
 }
 
+// Each class takes 5 milliseconds; after 100 of them it is just half a second.
+TEST_P(EachCommand, ShowsProgressAfterHalfASecond) {
+  const CompanionProgram program;
+  const std::chrono::milliseconds step(5);
+  const auto frames = Split(program.Run(*GetParam().arguments, {.ShowProgress = true}, step).Errors, "\r[");
+  ASSERT_THAT(frames, SizeIs(1 + 69));
+  EXPECT_THAT(frames[1], EndsWith("] 60%"));
+}
+
+TEST_P(EachCommand, ShowsNoProgressOfAShortRun) {
+  const CompanionProgram program;
+  const std::chrono::milliseconds step(2);
+  EXPECT_EQ(program.Run(*GetParam().arguments, {.ShowProgress = true}, step).Errors, "");
+}
+
 // At AKs, the second class, the negative weights cancel out to nothing, and a share of nothing is a division by zero.
 TEST(Progress, IsClearedBeforeTheTextOfAFailureHalfWay) {
   const TemporaryProgram program;
@@ -635,7 +762,7 @@ TEST(Progress, IsClearedBeforeTheTextOfAFailureHalfWay) {
   program.Write("Now.txt", now);
   program.Write("Calls.txt", calls);
   const Outcome outcome =
-      RunIn(program.Folder().Path, Raise("150", "50", "400", "Now", "Calls"), {.ShowProgress = true});
+      RunIn(program.Folder().Path, Raise("150", "50", "400", "Now", "Calls"), {.ShowProgress = true}, kLong);
   EXPECT_EQ(outcome.Status, kFailed);
   EXPECT_EQ(outcome.Errors, "\r[" + std::string(40, ' ') + "] 1%" + std::string(kClearLine) +
                                 "Run-time error '11': Division by zero\n");
@@ -665,7 +792,7 @@ TEST_P(EachCommand, ShowsThePlainReportBelowTheGridInColors) {
   }
 }
 
-TEST(Terminal, GetsNoGridInOtherFormatsThanThePlainOne) {
+TEST(CompanionOnATerminal, GetsNoGridInOtherFormatsThanThePlainOne) {
   const CompanionProgram program;
   for (const char* format : {"2+2", "table", "json", "csv"}) {
     const Outcome outcome = program.Run(With(kEquity, {"--format", format}), {.ShowColors = true});
@@ -674,10 +801,10 @@ TEST(Terminal, GetsNoGridInOtherFormatsThanThePlainOne) {
   }
 }
 
-TEST(Terminal, GetsNoGridAndNoProgressWithAListOrASummary) {
+TEST(CompanionOnATerminal, GetsNoGridAndNoProgressWithAListOrASummary) {
   const CompanionProgram program;
   for (const Arguments& arguments : {Arguments{"ranges"}, Arguments{"summary", "--range", "Tight"}}) {
-    const Outcome outcome = program.Run(arguments, {.ShowProgress = true, .ShowColors = true});
+    const Outcome outcome = program.Run(arguments, {.ShowProgress = true, .ShowColors = true}, kLong);
     EXPECT_EQ(outcome.Status, kDone);
     EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b")));
     EXPECT_EQ(outcome.Errors, "");

@@ -5,25 +5,25 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
-#include <string_view>
 #include <unistd.h>
 #include <vector>
 
 #include "support/run_time_error.h"
 #include "tools/companion.h"
+#include "tools/terminal.h"
 
 namespace {
 
-bool TerminalTakesColors() {
-  const char* const promise = std::getenv("COLORTERM");  // NOLINT(concurrency-mt-unsafe): there is one thread
-  const std::string_view name = promise == nullptr ? "" : promise;
-  return isatty(STDOUT_FILENO) != 0 && (name == "truecolor" || name == "24bit");
+std::string Variable(const char* name) {
+  const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): there is one thread
+  return value == nullptr ? "" : value;
 }
 
 int Run(const std::vector<std::string>& arguments) {
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
-  const quillon::Surroundings surroundings{std::cout, std::cerr, program.parent_path(), isatty(STDERR_FILENO) != 0,
-                                           TerminalTakesColors()};
+  const quillon::Surroundings surroundings{
+      std::cout, std::cerr, program.parent_path(),
+      quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable)};
   const int status = quillon::RunCompanion(arguments, surroundings);
   // An answer that did not get out is no answer.
   if (!std::cout.flush()) throw quillon::RunTimeError(quillon::RunTimeFault::kDeviceError, "standard output");

@@ -1,0 +1,12 @@
+#include "tools/terminal.h"
+
+namespace quillon {
+
+Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, const EnvironmentVariable& variable) {
+  const bool dumb = variable("TERM") == "dumb";
+  const std::string promise = variable("COLORTERM");
+  const bool colors = (promise == "truecolor" || promise == "24bit") && variable("NO_COLOR").empty();
+  return {.ShowProgress = errorsIsTerminal && !dumb, .ShowColors = outputIsTerminal && !dumb && colors};
+}
+
+}  // namespace quillon

@@ -1,0 +1,23 @@
+#pragma once
+
+// What of the companion's output suits the terminal that it is printed on.
+
+#include <functional>
+#include <string>
+
+namespace quillon {
+
+/// The value of an environment variable, the empty text where it is not set.
+using EnvironmentVariable = std::function<std::string(const char* name)>;
+
+struct Terminal {
+  bool ShowProgress = false;  // a bar on standard error
+  bool ShowColors = false;  // the grid on standard output
+};
+
+/// What to show where standard output and standard error are terminals or not. A bar is drawn over itself, which a
+/// terminal with TERM=dumb cannot do. The grid also needs 24-bit colour, which COLORTERM promises as "truecolor" or
+/// "24bit", and a NO_COLOR of any text forbids it (https://no-color.org).
+[[nodiscard]] Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, const EnvironmentVariable& variable);
+
+}  // namespace quillon
