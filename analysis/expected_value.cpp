@@ -1,11 +1,19 @@
 #include "analysis/expected_value.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/number_text.h"
 #include "support/rounding.h"
 
 namespace quillon {
+namespace {
+
+double OpponentOddsOf(double pot, double call, double shove) {
+  return Divide(pot + call + shove, shove);
+}
+
+}  // namespace
 
 double BoxValue(std::string_view text) {
   std::string amount(text);
@@ -37,9 +45,15 @@ double BreakEvenEquity(double odds) {
 
 OpponentOdds OpponentOddsTexts(double pot, double call, double shove) {
   if (shove == 0) return {"N/A", "N/A"};
-  const double hisOdds = Divide(pot + call + shove, shove);
+  const double hisOdds = OpponentOddsOf(pot, call, shove);
   const double hisBreakEven = BreakEvenEquity(hisOdds);
   return {NumberText(RoundTo(hisOdds, 2)) + " : 1", NumberText(RoundTo(hisBreakEven * 100, 2)) + "%"};
+}
+
+bool HasOpponentOdds(double pot, double call, double shove) {
+  if (shove == 0) return true;
+  const double hisOdds = OpponentOddsOf(pot, call, shove);
+  return std::isfinite(hisOdds) && hisOdds != -1;
 }
 
 }  // namespace quillon

@@ -68,7 +68,11 @@ struct OpponentOdds {
 ///
 ///     (15, 5, 100) -> "1.2 : 1" and "45.45%"      a shove of 0 -> "N/A" and "N/A"
 ///
-/// Fails as BreakEvenEquity does, where amounts below 0 make odds of -1.
+/// Fails as BreakEvenEquity does, where amounts below 0 make odds of -1, and with a RunTimeError "Overflow" where the
+/// amounts are too large for a sum.
 [[nodiscard]] OpponentOdds OpponentOddsTexts(double pot, double call, double shove);
+
+/// Whether OpponentOddsTexts can tell them, and does not fail.
+[[nodiscard]] bool HasOpponentOdds(double pot, double call, double shove);
 
 }  // namespace quillon

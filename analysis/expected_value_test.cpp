@@ -1,6 +1,8 @@
 #include "analysis/expected_value.h"
 
+#include <array>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 
 #include "support/run_time_error.h"
@@ -15,14 +17,14 @@ class FiveBoxes : public AmountBoxes {
   }
 };
 
-RunTimeFault FaultOf(double (*action)()) {
+template <class Action>
+std::optional<RunTimeFault> FaultOf(Action action) {
   try {
-    (void)action();
+    static_cast<void>(action());
   } catch (const RunTimeError& error) {
     return error.Fault();
   }
-  ADD_FAILURE() << "nothing failed";
-  return RunTimeFault::kDeviceError;
+  return std::nullopt;
 }
 
 TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
@@ -103,9 +105,23 @@ TEST(OpponentOddsTexts, AreRoundedToTwoDecimals) {
   }
 }
 
+TEST(HasOpponentOdds, JustWhereTheirTextsDoNotFail) {
+  constexpr std::array kAmounts = {0.0, 1.0, -1.0, 10.0, -20.0, 40.0, 1e-300, 1e308, -1e308, 1.7e308};
+  int failures = 0;
+  for (const double pot : kAmounts) {
+    for (const double call : kAmounts) {
+      for (const double shove : kAmounts) {
+        const bool fails = FaultOf([&] { return OpponentOddsTexts(pot, call, shove); }).has_value();
+        failures += fails ? 1 : 0;
+        EXPECT_EQ(HasOpponentOdds(pot, call, shove), !fails) << pot << ' ' << call << ' ' << shove;
+      }
+    }
+  }
+  EXPECT_GT(failures, 100);
+}
+
 TEST(OpponentOddsTexts, OddsOfMinusOneHaveNoBreakEvenPoint) {
-  const auto texts = [] { return static_cast<double>(OpponentOddsTexts(-20, 0, 10).HisOdds.size()); };
-  EXPECT_EQ(FaultOf(texts), RunTimeFault::kDivisionByZero);
+  EXPECT_EQ(FaultOf([] { return OpponentOddsTexts(-20, 0, 10); }), RunTimeFault::kDivisionByZero);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Settings files of any bytes, against a plain reader that splits them into lines first.
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -15,7 +16,7 @@ namespace quillon {
 namespace {
 
 std::string PlainTrimmed(std::string text) {
-  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
   while (!text.empty() && isBlank(text.back()))
     text.pop_back();
   while (!text.empty() && isBlank(text.front()))
@@ -34,7 +35,7 @@ std::vector<std::string> PlainLines(std::string_view text) {
   if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
   std::vector<std::string> lines(1);
   for (const char c : text) {
-    if (c == '\n')
+    if (c == '\n' || c == '\r')
       lines.emplace_back();
     else
       lines.back() += c;
@@ -59,6 +60,11 @@ std::string PlainValue(std::string_view text, const std::string& section, const 
     }
   }
   return {};
+}
+
+bool PlainIsUtf16(std::string_view text) {
+  const bool marked = text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF");
+  return marked || (text.size() >= 2 && std::count(text.begin(), text.begin() + 2, '\0') == 1);
 }
 
 std::string FirstLine(std::string_view text) {
@@ -93,8 +99,10 @@ void CheckFile(std::string_view bytes, const std::string& section, const std::st
   const ProgramFolder folder{"/quillon-fuzz", &files};
   files.Contents[SettingsFilePath(folder).string()] = bytes;
 
-  const std::string stored = FirstLine(Windows1252FromUtf8(value)).substr(0, kLongestSetting);
+  const bool wide = PlainIsUtf16(bytes);
+  const std::string stored = wide ? "" : FirstLine(Windows1252FromUtf8(value)).substr(0, kLongestSetting);
   WriteIniValue(section, key, value, folder);
+  Require(!wide || files.Contents.begin()->second == bytes, "a file in UTF-16 stays as it is");
   Require(ReadIniValue(section, key, folder) == Utf8FromWindows1252(stored), "a setting reads back from its file");
   Require(files.Contents.size() == 1, "no scratch file stays");
   Require(files.AllClosed(), "no file stays open");

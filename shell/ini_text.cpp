@@ -9,7 +9,8 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r";  // a stray CR is no part of a name or value either
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kLineEnds = "\r\n";
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 std::string_view WithoutBlanks(std::string_view text) {
@@ -48,13 +49,18 @@ std::size_t StartOfLines(std::string_view text) {
   return text.starts_with(kUtf8Mark) ? kUtf8Mark.size() : 0;
 }
 
+// The line end at a place where one begins, CR LF as one; the empty text at the end of the text.
+std::string_view LineEndAt(std::string_view text, std::size_t place) {
+  return text.substr(place, text.substr(place).starts_with("\r\n") ? 2 : 1);
+}
+
 KeyPlace FindKey(std::string_view text, std::string_view section, std::string_view key) {
   KeyPlace place;
   std::size_t begin = StartOfLines(text);
   while (begin < text.size()) {
-    const std::size_t lineFeed = std::min(text.find('\n', begin), text.size());
-    const std::size_t next = std::min(lineFeed + 1, text.size());
-    const std::string_view line = text.substr(begin, lineFeed - begin);
+    const std::size_t end = std::min(text.find_first_of(kLineEnds, begin), text.size());
+    const std::size_t next = end + LineEndAt(text, end).size();
+    const std::string_view line = text.substr(begin, end - begin);
     begin = next;
 
     if (const auto name = SectionName(line)) {
@@ -62,7 +68,7 @@ KeyPlace FindKey(std::string_view text, std::string_view section, std::string_vi
       place.sectionFound = EqualButForCase(*name, section);
       place.newLine = next;
     } else if (const auto keyLine = ReadKeyLine(line); keyLine && place.sectionFound) {
-      // A comment above the next heading belongs to that heading, so new keys go in behind the last key.
+      // A comment above the next heading belongs to that heading, so new keys go in after the last key.
       place.newLine = next;
       if (EqualButForCase(keyLine->key, key)) {
         place.value = keyLine->value;
@@ -74,19 +80,23 @@ KeyPlace FindKey(std::string_view text, std::string_view section, std::string_vi
 }
 
 std::string_view LineEndOf(std::string_view text) {
-  const std::size_t lineFeed = text.find('\n');
-  const bool bare = lineFeed != std::string_view::npos && (lineFeed == 0 || text[lineFeed - 1] != '\r');
-  return bare ? "\n" : "\r\n";
+  const std::size_t first = text.find_first_of(kLineEnds);
+  return first == std::string_view::npos ? "\r\n" : LineEndAt(text, first);
 }
 
 std::string StoredForm(std::string_view value) {
-  value = value.substr(0, value.find_first_of("\r\n"));
+  value = value.substr(0, value.find_first_of(kLineEnds));
   const bool needsQuotes = WithoutBlanks(value) != value || IsInQuotes(value);
   const std::string_view quote = needsQuotes ? "\"" : "";
   return std::string(quote).append(value).append(quote);
 }
 
 }  // namespace
+
+bool IsUtf16(std::string_view text) {
+  if (text.size() < 2) return false;
+  return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF") || (text[0] == '\0') != (text[1] == '\0');
+}
 
 std::string IniValue(std::string_view text, std::string_view section, std::string_view key) {
   std::string_view value = FindKey(text, section, key).value.value_or("");
@@ -107,7 +117,7 @@ std::string WithIniValue(std::string_view text, std::string_view section, std::s
   const std::string_view lineEnd = LineEndOf(text);
   const std::size_t newLine = place.sectionFound ? place.newLine : text.size();
   std::string added;
-  if (newLine > StartOfLines(text) && text[newLine - 1] != '\n') added += lineEnd;
+  if (newLine > StartOfLines(text) && kLineEnds.find(text[newLine - 1]) == std::string_view::npos) added += lineEnd;
   if (!place.sectionFound) added.append("[").append(section).append("]").append(lineEnd);
   added.append(key).append("=").append(stored).append(lineEnd);
   return result.insert(newLine, added);

@@ -11,8 +11,8 @@
 //
 // Sections and keys are found whatever the case of their letters A to Z, and blanks (space and tab) round a section's
 // name, a key and a value do not count. A line that starts with ";" is a comment. Where a section, or a key in it,
-// stands more than once the first counts, and a key before any heading is in no section. A line ends with LF or CR LF.
-// The three bytes with which some editors mark UTF-8 may stand in front of all.
+// stands more than once the first counts, and a key before any heading is in no section. A line ends with LF, CR LF or
+// CR. The three bytes with which some editors mark UTF-8 may stand in front of all.
 //
 // Writing changes the one value, or adds a line for it, and leaves every other byte as it is.
 
@@ -20,6 +20,10 @@
 #include <string_view>
 
 namespace quillon {
+
+/// Whether a text is in UTF-16, by its mark or by a zero byte in one of the first two, as a Latin letter has it there.
+/// The routines below do not know its lines.
+[[nodiscard]] bool IsUtf16(std::string_view text);
 
 /// The value of a key, the empty text where there is none. One pair of quotes, double or single, that encloses the
 /// value is taken off.

@@ -29,6 +29,8 @@ TEST(IniValue, IsFoundAsPeopleWriteIt) {
       {"with blanks round the section's name", "[ Main\t]\nLeft=5\n", "5"},
       {"with something behind the heading", "[Main] ; the window\nLeft=5\n", "5"},
       {"behind a stray carriage return", "[Main]\r\r\nLeft=5\r\r\n", "5"},
+      {"with carriage returns alone", "[Main]\rLeft=5\rTop=6\r", "5"},
+      {"with line ends of every kind", "[Other]\n[Main]\r\nTop=6\rLeft=5", "5"},
       {"behind a mark of UTF-8", "\xEF\xBB\xBF[Main]\nLeft=5\n", "5"},
       {"behind comments, blank lines and what is no key", "; x\n\n[Main]\n\n; y\nhello\nLeft=5\n", "5"},
       {"among other keys", "[Main]\nTop=1\nLeft=5\nLeftmost=2\n", "5"},

@@ -3,13 +3,36 @@
 #include "shell/expressions.h"
 
 namespace quillon {
+namespace {
+
+struct Amounts {
+  double Pot;
+  double Call;
+  double Shove;
+};
+
+Amounts ShoveAmounts(const NumberBoxWindow& window) {
+  return {BoxValue(window.BoxText(kRaisePotBox)), BoxValue(window.BoxText(kRaiseCallBox)),
+          BoxValue(window.BoxText(kRaiseShoveBox))};
+}
+
+OpponentOdds OddsOf(const Amounts& amounts) {
+  return OpponentOddsTexts(amounts.Pot, amounts.Call, amounts.Shove);
+}
+
+}  // namespace
 
 void ChangeNumberBox(std::int16_t index, NumberBoxWindow& window) {
   window.SetResultsShown(false);
+  if (index == kRaiseShoveBox) window.ShowOpponentOdds(OddsOf(ShoveAmounts(window)));
+}
+
+void RestoredNumberBox(std::int16_t index, NumberBoxWindow& window) {
+  window.SetResultsShown(false);
   if (index != kRaiseShoveBox) return;
-  window.ShowOpponentOdds(OpponentOddsTexts(BoxValue(window.BoxText(kRaisePotBox)),
-                                            BoxValue(window.BoxText(kRaiseCallBox)),
-                                            BoxValue(window.BoxText(kRaiseShoveBox))));
+  const Amounts amounts = ShoveAmounts(window);
+  const bool told = HasOpponentOdds(amounts.Pot, amounts.Call, amounts.Shove);
+  window.ShowOpponentOdds(told ? OddsOf(amounts) : OpponentOdds{"N/A", "N/A"});
 }
 
 void EvalNumberBox(std::int16_t index, NumberBoxWindow& window) {

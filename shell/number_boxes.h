@@ -46,6 +46,10 @@ class NumberBoxWindow {
 /// those leaves them as they are; this is meant. Fails as OpponentOddsTexts does.
 void ChangeNumberBox(std::int16_t index, NumberBoxWindow& window);
 
+/// The text of `txtNumber(index)` is what the last run left. The same comes of it as of a change, but odds that cannot
+/// be told are "N/A" in both labels: whatever a user left in the boxes, the program starts.
+void RestoredNumberBox(std::int16_t index, NumberBoxWindow& window);
+
 /// Puts the value of a sum in its place; a text that does not start with "=" stays. A sum that cannot be worked out
 /// stays too, after a message. Fails as EvalExpression does.
 void EvalNumberBox(std::int16_t index, NumberBoxWindow& window);

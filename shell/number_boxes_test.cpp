@@ -101,6 +101,29 @@ TEST(ChangeNumberBox, OddsOfMinusOneAreFatal) {
   }
 }
 
+TEST(RestoredNumberBox, TellsHisOddsOrThatThereAreNone) {
+  struct Case {
+    const char* rule;
+    std::int16_t index;
+    std::vector<std::string> boxes;
+    std::vector<std::string> log;
+  };
+  const std::vector<Case> cases = {
+      {"odds as of a change", 4, {"7", "8", "100", "0", "50"}, {"hide results", "odds 3 : 1, 25%"}},
+      {"no shove", 4, {"7", "8", "100", "0", "abc"}, {"hide results", "odds N/A, N/A"}},
+      {"odds of minus one", 4, {"", "", "40", "", "-20"}, {"hide results", "odds N/A, N/A"}},
+      {"a sum that overflows", 4, {"", "", "1e308", "1e308", "1"}, {"hide results", "odds N/A, N/A"}},
+      {"a quotient that overflows", 4, {"", "", "1e308", "", "1e-10"}, {"hide results", "odds N/A, N/A"}},
+      {"another box leaves them", 3, {"", "", "40", "", "-20"}, {"hide results"}},
+  };
+  for (const Case& c : cases) {
+    RecordedBoxes window;
+    window.Boxes = c.boxes;
+    RestoredNumberBox(c.index, window);
+    EXPECT_EQ(window.Log, c.log) << c.rule;
+  }
+}
+
 TEST(ChangeNumberBox, OfPotOrCallLeavesHisOddsStale) {
   RecordedBoxes window;
   window.Type(2, "100");

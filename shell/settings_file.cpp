@@ -15,18 +15,21 @@ std::filesystem::path SettingsFilePath(const ProgramFolder& folder) {
 }
 
 std::string ReadIniValue(std::string_view section, std::string_view key, const ProgramFolder& folder) {
-  const std::string value = IniValue(ReadAllBytes(SettingsFilePath(folder), *folder.Calls), section, key);
+  const std::string text = ReadAllBytes(SettingsFilePath(folder), *folder.Calls);
+  if (IsUtf16(text)) return {};
+  const std::string value = IniValue(text, section, key);
   return Utf8FromWindows1252(std::string_view(value).substr(0, kLongestSetting));
 }
 
-void WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
-                   const ProgramFolder& folder) {
+void WriteIniValues(std::span<const IniSetting> settings, const ProgramFolder& folder) {
   // Another copy of the program may be storing its own values: each must see what the other has written.
   const FolderLock lock(folder.Path, *folder.Calls);
   const std::filesystem::path path = SettingsFilePath(folder);
   const std::optional<std::string> before = TryReadAllBytes(path, *folder.Calls);
-  if (!before) return;
-  const std::string after = WithIniValue(*before, section, key, Windows1252FromUtf8(value));
+  if (!before || IsUtf16(*before)) return;
+  std::string after = *before;
+  for (const IniSetting& setting : settings)
+    after = WithIniValue(after, setting.Section, setting.Key, Windows1252FromUtf8(setting.Value));
   if (after == *before) return;
 
   try {
@@ -36,6 +39,12 @@ void WriteIniValue(std::string_view section, std::string_view key, std::string_v
     // program, and the old file is whole.
     return;
   }
+}
+
+void WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
+                   const ProgramFolder& folder) {
+  const IniSetting setting{std::string(section), std::string(key), std::string(value)};
+  WriteIniValues({&setting, 1}, folder);
 }
 
 }  // namespace quillon

@@ -133,6 +133,38 @@ TEST(SettingsFile, WriteThatFailsAnywhereStopsNobodyAndLosesNothing) {
   EXPECT_GE(failures, 5) << "reading, opening, writing, reaching the disk and renaming can each fail";
 }
 
+TEST(SettingsFile, InUtf16IsNeitherReadNorWritten) {
+  using namespace std::string_literals;
+  const TemporaryProgram program;
+  for (const std::string& text : {"\xFF\xFE[\0M\0a\0i\0n\0]\0\n\0L\0=\0005\0"s, "\xFE\xFF\0[\0M"s, "[\0M\0"s, "\0[\0M"s,
+                                  "\xFF\xFE\n[Main]\nLeft=5\n"s}) {
+    Put(program.Folder(), text);
+    EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "");
+    WriteIniValue("Main", "Left", "7", program.Folder());
+    EXPECT_EQ(Content(program.Folder()), text);
+  }
+}
+
+TEST(SettingsFile, ManyValuesAreOneWrite) {
+  class Counting final : public PassingCalls {
+   public:
+    int Rename(const std::string& from, const std::string& to) override {
+      ++renames;
+      return PassingCalls::Rename(from, to);
+    }
+    int renames = 0;
+  };
+  const TemporaryProgram program;
+  Put(program.Folder(), "[Main]\nLeft=5\n");
+  Counting calls;
+  const std::vector<IniSetting> settings = {{"Main", "Left", "7"}, {"Values", "0", "€"}, {"Main", "Top", "8"}};
+  WriteIniValues(settings, {program.Folder().Path, &calls});
+  EXPECT_EQ(Content(program.Folder()), "[Main]\nLeft=7\nTop=8\n[Values]\n0=\x80\n");
+  EXPECT_EQ(calls.renames, 1);
+  WriteIniValues({}, {program.Folder().Path, &calls});
+  EXPECT_EQ(calls.renames, 1);
+}
+
 TEST(SettingsFile, InAFolderThatIsNotThereIsNeitherReadNorWritten) {
   const ProgramFolder nowhere{"/no/such/folder"};
   EXPECT_NO_THROW(WriteIniValue("Main", "Left", "7", nowhere));

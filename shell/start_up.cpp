@@ -1,5 +1,7 @@
 #include "shell/start_up.h"
 
+#include <vector>
+
 #include "hand/hand_classes.h"
 #include "results/report.h"
 #include "shell/settings_file.h"
@@ -17,13 +19,8 @@ constexpr std::int16_t kDesignFrame = 0;
 void RestoreBoxTexts(StartWindow& window, const ProgramFolder& folder) {
   for (std::int16_t index = 0; index < window.BoxCount(); ++index) {
     const std::string text = ReadIniValue(kValuesSection, std::to_string(index), folder);
-    if (!text.empty()) window.SetBoxText(index, text);
+    if (!text.empty()) window.RestoreBoxText(index, text);
   }
-}
-
-void StoreBoxTexts(const StartWindow& window, const ProgramFolder& folder) {
-  for (std::int16_t index = 0; index < window.BoxCount(); ++index)
-    WriteIniValue(kValuesSection, std::to_string(index), window.BoxText(index), folder);
 }
 
 TwipSize MainWindowSize(const StartWindow& window) {
@@ -88,8 +85,11 @@ void LoadStartupState(const NavigationState& state, StartWindow& window, const P
 
 void CloseMainWindow(StartWindow& window, const ProgramFolder& folder) {
   window.HideWindow();
-  SaveWindowPosition(window, kMainSection, folder);
-  StoreBoxTexts(window, folder);
+  // In one go: each write of its own would wait anew for another copy of the program that holds the file.
+  std::vector<IniSetting> settings = PlaceSettings(window, kMainSection);
+  for (std::int16_t index = 0; index < window.BoxCount(); ++index)
+    settings.push_back({std::string(kValuesSection), std::to_string(index), window.BoxText(index)});
+  WriteIniValues(settings, folder);
   window.EndProcess();
 }
 

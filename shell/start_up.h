@@ -41,10 +41,12 @@ class StartWindow : public NavigationWindow, public PlacedWindow {
   virtual void SetAboutContentRect(TwipRect rect) = 0;  // frameAboutContent
   virtual void ShowAboutContent() = 0;
 
-  /// The amount boxes, txtNumber. A text that is set here is handled as one that the user types.
+  /// The amount boxes, txtNumber.
   [[nodiscard]] virtual std::int16_t BoxCount() const = 0;
   [[nodiscard]] virtual std::string BoxText(std::int16_t index) const = 0;
-  virtual void SetBoxText(std::int16_t index, std::string_view text) = 0;
+
+  /// Sets a box's text to what the last run left, and has RestoredNumberBox ("shell/number_boxes.h") run.
+  virtual void RestoreBoxText(std::int16_t index, std::string_view text) = 0;
 
   /// Shows or hides the links that lead to results ("results/results_grid.h").
   virtual void SetResultsShown(bool shown) = 0;

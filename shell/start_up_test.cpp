@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include <cerrno>
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
@@ -79,7 +80,7 @@ class RecordedStart final : public RecordedNavigationOf<StartWindow> {
   [[nodiscard]] std::string BoxText(std::int16_t index) const override {
     return Boxes.at(static_cast<std::size_t>(index));
   }
-  void SetBoxText(std::int16_t index, std::string_view text) override {
+  void RestoreBoxText(std::int16_t index, std::string_view text) override {
     Boxes.at(static_cast<std::size_t>(index)) = text;
     Tell("box " + std::to_string(index) + " " + std::string(text));
   }
@@ -338,6 +339,21 @@ TEST(CloseMainWindow, EndsTheProcessThoughNothingCanBeWritten) {
   RecordedStart window;
   CloseMainWindow(window, {"/no/such/folder"});
   EXPECT_EQ(window.Panel.Log.back(), "end process");
+}
+
+TEST(CloseMainWindow, WaitsASecondAtMostForAnotherProcess) {
+  class LockedElsewhere final : public PassingCalls {
+   public:
+    int TryLock(int /*file*/) override { return -EWOULDBLOCK; }
+  };
+  const TemporaryProgram program;
+  LockedElsewhere calls;
+  RecordedStart window;
+  window.Boxes = {"1", "2", "3", "4", "5"};
+  const auto begin = std::chrono::steady_clock::now();
+  CloseMainWindow(window, {program.Folder().Path, &calls});
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(1900));
+  EXPECT_EQ(ReadIniValue("Values", "4", program.Folder()), "5");
 }
 
 TEST(CloseMainWindow, IsWhatTheNextStartFinds) {

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "shell/settings_file.h"
 #include "support/number_text.h"
 
 namespace quillon {
@@ -36,9 +35,14 @@ void RestoreWindowPosition(PlacedWindow& window, std::string_view section, const
   window.MoveWindow(WithinScreen(left, screen.Width), WithinScreen(top, screen.Height));
 }
 
+std::vector<IniSetting> PlaceSettings(const PlacedWindow& window, std::string_view section) {
+  const std::string name(section);
+  return {{name, std::string(kLeftKey), FloatNumberText(window.WindowLeft())},
+          {name, std::string(kTopKey), FloatNumberText(window.WindowTop())}};
+}
+
 void SaveWindowPosition(const PlacedWindow& window, std::string_view section, const ProgramFolder& folder) {
-  WriteIniValue(section, kLeftKey, FloatNumberText(window.WindowLeft()), folder);
-  WriteIniValue(section, kTopKey, FloatNumberText(window.WindowTop()), folder);
+  WriteIniValues(PlaceSettings(window, section), folder);
 }
 
 }  // namespace quillon

@@ -1,12 +1,14 @@
 #pragma once
 
-// Where a window stands on the screen, kept from one start to the next. Each of the three windows has a section of the
+// Where a window is on the screen, kept from one start to the next. Each of the three windows has a section of the
 // settings file with the keys `Left` and `Top`: the window's upper left corner in twips, as number texts of 32-bit
 // floats.
 
 #include <string_view>
+#include <vector>
 
 #include "ranges/range_files.h"
+#include "shell/settings_file.h"
 #include "support/twips.h"
 
 namespace quillon {
@@ -38,7 +40,10 @@ void CenterWindow(PlacedWindow& window);
 /// there.
 void RestoreWindowPosition(PlacedWindow& window, std::string_view section, const ProgramFolder& folder);
 
-/// Stores where the window stands. It never fails ("shell/settings_file.h").
+/// Where the window is, as settings of that section.
+[[nodiscard]] std::vector<IniSetting> PlaceSettings(const PlacedWindow& window, std::string_view section);
+
+/// Stores where the window is. It never fails ("shell/settings_file.h").
 void SaveWindowPosition(const PlacedWindow& window, std::string_view section, const ProgramFolder& folder);
 
 }  // namespace quillon

@@ -546,9 +546,18 @@ PlainResult ResultOf(const PlainRun& run) {
   return {FaultNumbered(unread ? kInvalidProcedureCall : kSubscriptOutOfRange), {}, {}, {}};
 }
 
+bool PlainIsUtf16(std::string_view file) {
+  const std::string start(file.substr(0, 2));
+  return start == "\xFF\xFE" || start == "\xFE\xFF" ||
+         (start.size() == 2 && std::count(start.begin(), start.end(), '\0') == 1);
+}
+
 std::string SettingIn(std::string_view file, std::string_view section, std::string_view key) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  std::istringstream lines{std::string(file.starts_with(kMark) ? file.substr(kMark.size()) : file)};
+  if (PlainIsUtf16(file)) return {};
+  std::string text(file.starts_with(kMark) ? file.substr(kMark.size()) : file);
+  std::replace(text.begin(), text.end(), '\r', '\n');
+  std::istringstream lines(text);
   bool inside = false;
   for (std::string line; std::getline(lines, line);) {
     line = Trimmed(line);

@@ -97,7 +97,11 @@ struct PlainResult {
 
 // ---- settings
 
-/// The value of a key in a settings file, as bytes; empty where there is none.
+/// Whether a settings file has two bytes for a character, by the first two.
+[[nodiscard]] bool PlainIsUtf16(std::string_view file);
+
+/// The value of a key in a settings file, as bytes; empty where there is none, and in a file with two bytes for a
+/// character.
 [[nodiscard]] std::string SettingIn(std::string_view file, std::string_view section, std::string_view key);
 
 /// Bytes of the code page as UTF-8.

@@ -53,6 +53,7 @@ MainForm::MainForm(Surroundings surroundings)
              {.RefreshRangeLists = [this] { RefreshLists(); },
               .BuildReport = [this] { BuildReport(report_, state_); },
               .SetResultsShown = [this](bool shown) { SetResultsShown(results_, shown); },
+              .RestoredBox = [this](std::int16_t index) { RestoredNumberBox(index, boxes_); },
               .CheckForUpgrade = [this] { CheckForUpgrade(about_, around_.Web, around_.Folder); },
               .EndProcess = around_.EndProcess}),
       analysis_({.Controls = controls_,

@@ -1,6 +1,7 @@
 #include "shell/screens/start_view.h"
 
 #include <QComboBox>
+#include <QSignalBlocker>
 #include <utility>
 
 #include "hand/equity_table.h"
@@ -142,8 +143,12 @@ std::string StartView::BoxText(std::int16_t index) const {
   return NumberBoxText(controls_, index);
 }
 
-void StartView::SetBoxText(std::int16_t index, std::string_view text) {
-  SetNumberBoxText(controls_, index, text);
+void StartView::RestoreBoxText(std::int16_t index, std::string_view text) {
+  {
+    const QSignalBlocker quiet(controls_.Get<TextBox>(kBoxName, index));
+    SetNumberBoxText(controls_, index, text);
+  }
+  actions_.RestoredBox(index);
 }
 
 TwipSize StartView::HoverBorderSize() const {

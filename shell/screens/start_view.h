@@ -19,6 +19,7 @@ class StartView : public StartWindow {
     std::function<void()> RefreshRangeLists;
     std::function<void()> BuildReport;
     std::function<void(bool)> SetResultsShown;
+    std::function<void(std::int16_t)> RestoredBox;
     std::function<void()> CheckForUpgrade;
     std::function<void()> EndProcess;
   };
@@ -66,7 +67,7 @@ class StartView : public StartWindow {
   void ShowAboutContent() override;
   [[nodiscard]] std::int16_t BoxCount() const override;
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
-  void SetBoxText(std::int16_t index, std::string_view text) override;
+  void RestoreBoxText(std::int16_t index, std::string_view text) override;
   void SetResultsShown(bool shown) override { actions_.SetResultsShown(shown); }
   [[nodiscard]] TwipSize HoverBorderSize() const override;
   void SetHoverPanelSize(TwipSize size) override;
