@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-core=(support hand ranges analysis results shell)
+core=(support hand ranges analysis results study shell)
 forms=(toolkit range_dialogs screens)
 
 tools/install_packages.sh coverage
@@ -37,5 +37,5 @@ report() {
     END { exit bad }'
 }
 rm -f build/coverage/missed.txt
-report "Without a toolkit" 98 95 support hand ranges analysis results shell
+report "Without a toolkit" 98 95 support hand ranges analysis results study shell
 report "The forms" 90 90 toolkit ranges/dialogs shell/screens

@@ -19,7 +19,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FOLDERS = ["support", "hand", "ranges", "analysis", "results", "shell"]
+FOLDERS = ["support", "hand", "ranges", "analysis", "results", "study", "shell"]
 # Constant data, and the slow plain version that only the tests use.
 LEFT_OUT = {"hand/equity_rows.cpp", "analysis/plain_reference.cpp"}
 LONGEST_BUILD = 300  # seconds

@@ -1,0 +1,235 @@
+#include "study/equilibrium.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <numeric>
+
+#include "analysis/dealt_range.h"
+#include "hand/equity_table.h"
+#include "support/rounding.h"
+
+namespace quillon {
+namespace {
+
+using PerClass = ClassPairs::Row;
+using Table = std::vector<PerClass>;
+
+constexpr std::size_t kClasses = kHandClassCount;
+// In pots. After so many rounds half of what is promised is good enough.
+constexpr double kWanted = 1e-9;
+constexpr double kGoodEnough = 5e-7;
+constexpr int kPatience = 4096;
+constexpr int kRoundsBetweenLooks = 64;
+constexpr int kMostRounds = 1 << 20;  // far beyond any that was seen, so that no input runs for ever
+constexpr int kShareDecimals = 6;
+
+double Dot(const PerClass& a, const PerClass& b) {
+  return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
+}
+
+void AddScaled(PerClass& sum, double factor, const PerClass& row) {
+  for (std::size_t i = 0; i < kClasses; ++i)
+    sum[i] += factor * row[i];
+}
+
+// What is gained where a class is played if that gains something, and not if it loses.
+double BestGain(const PerClass& gains) {
+  return std::accumulate(gains.begin(), gains.end(), 0.0,
+                         [](double sum, double gain) { return sum + std::max(gain, 0.0); });
+}
+
+// The gains in pots of each pair of classes, by how often it is dealt.
+class Game {
+ public:
+  Game(const ClassPairs& pairs, const BalanceQuestion& question) : called_(kClasses), mirrored_(kClasses) {
+    const double afterCall = question.Pot + question.Call + 2 * question.Shove;
+    const double lost = question.Call + question.Shove + question.Pot;  // the pot, too, that a fold would have won
+    for (std::size_t i = 0; i < kClasses; ++i) {
+      for (std::size_t j = 0; j < kClasses; ++j) {
+        const double dealt = pairs.Counts(i)[j] * question.OwnHands[i] * question.HisHands[j];
+        folded_[i] += dealt;
+        called_[i][j] = dealt * (pairs.Equities(i)[j] * afterCall - lost) / question.Pot;
+      }
+    }
+    dealt_ = std::accumulate(folded_.begin(), folded_.end(), 0.0);
+    if (dealt_ == 0) return;
+    for (std::size_t i = 0; i < kClasses; ++i) {
+      folded_[i] /= dealt_;
+      for (std::size_t j = 0; j < kClasses; ++j) {
+        called_[i][j] /= dealt_;
+        mirrored_[j][i] = called_[i][j];
+      }
+    }
+  }
+
+  [[nodiscard]] bool HasDeals() const { return dealt_ > 0; }
+
+  // What each class of the hero's gains by shoving at him who calls with `call`.
+  [[nodiscard]] PerClass ShoveGains(const PerClass& call) const {
+    PerClass gains = folded_;
+    for (std::size_t j = 0; j < kClasses; ++j)
+      AddScaled(gains, call[j], mirrored_[j]);
+    return gains;
+  }
+
+  // What each class of the opponent's gains by calling him who shoves with `shove`.
+  [[nodiscard]] PerClass CallGains(const PerClass& shove) const {
+    PerClass gains{};
+    for (std::size_t i = 0; i < kClasses; ++i)
+      AddScaled(gains, -shove[i], called_[i]);
+    return gains;
+  }
+
+  // The same gains when one class has changed.
+  void ChangeShove(std::size_t hand, double change, PerClass& callGains) const {
+    AddScaled(callGains, -change, called_[hand]);
+  }
+  void ChangeCall(std::size_t hand, double change, PerClass& shoveGains) const {
+    AddScaled(shoveGains, change, mirrored_[hand]);
+  }
+
+  [[nodiscard]] double Value(const PerClass& shove, const PerClass& call) const { return Dot(shove, ShoveGains(call)); }
+
+  // The hero's best gain less his gain, and the same of the opponent: the pot's two halves fall out of the sum.
+  [[nodiscard]] double Exploitability(const PerClass& shove, const PerClass& call) const {
+    const double both = BestGain(ShoveGains(call)) - Dot(shove, folded_) + BestGain(CallGains(shove));
+    return std::max(both, 0.0);  // in balance to the last digit, the rest may be less than nothing
+  }
+
+ private:
+  PerClass folded_{};  // how often each class of the hero's is dealt: a pot each time that nobody calls
+  Table called_;  // what the hero gains more, or less, when he is called
+  Table mirrored_;
+  double dealt_ = 0;
+};
+
+// How often one player plays each class, learnt from what playing it would have gained.
+class Learner {
+ public:
+  // Tells `moved` of each class that is played more or less than before, and by how much.
+  template <typename Moved>
+  void Learn(const PerClass& gains, Moved moved) {
+    for (std::size_t i = 0; i < kClasses; ++i) {
+      const double played = gains[i] * (1 - plays_[i]);  // regret of not having played more
+      const double passed = -gains[i] * plays_[i];
+      regretPlay_[i] = std::max(0.0, regretPlay_[i] + played);
+      regretPass_[i] = std::max(0.0, regretPass_[i] + passed);
+      // The prediction: the next round will be like this one.
+      const double play = std::max(0.0, regretPlay_[i] + played);
+      const double pass = std::max(0.0, regretPass_[i] + passed);
+      if (play + pass == 0) continue;
+      const double next = play / (play + pass);
+      if (next != plays_[i]) moved(i, next - plays_[i]);
+      plays_[i] = next;
+    }
+  }
+
+  // Counts the round for the mean.
+  void Count() {
+    AddScaled(sum_, 1, plays_);
+    ++rounds_;
+  }
+
+  // Begins the mean anew.
+  void Forget() {
+    sum_ = {};
+    rounds_ = 0;
+  }
+
+  // As played now, and in the mean of the rounds counted; both rounded.
+  [[nodiscard]] PerClass Last() const { return Rounded(plays_, 1); }
+  [[nodiscard]] PerClass Mean() const { return Rounded(sum_, rounds_); }
+
+  [[nodiscard]] const PerClass& Plays() const { return plays_; }
+
+ private:
+  static constexpr PerClass Even() {
+    PerClass plays{};
+    plays.fill(0.5);
+    return plays;
+  }
+
+  static PerClass Rounded(const PerClass& sums, int rounds) {
+    PerClass rounded{};
+    std::ranges::transform(sums, rounded.begin(), [&](double sum) { return RoundTo(sum / rounds, kShareDecimals); });
+    return rounded;
+  }
+
+  PerClass regretPlay_{};
+  PerClass regretPass_{};
+  PerClass plays_ = Even();
+  PerClass sum_{};
+  int rounds_ = 0;
+};
+
+struct Answer {
+  PerClass shove{};
+  PerClass call{};
+  double exploitability = 0;
+};
+
+Answer AnswerOf(const Game& game, const PerClass& shove, const PerClass& call) {
+  return {shove, call, game.Exploitability(shove, call)};
+}
+
+// Ranges in which every class is played or not are found as they are, others as a mean. The mean is that of the second
+// half of all rounds, since the first ones know nothing.
+Answer Solve(const Game& game) {
+  Learner hero;
+  Learner opponent;
+  Answer best = AnswerOf(game, hero.Last(), opponent.Last());
+  for (int round = 0; round < kMostRounds;) {
+    // Worked out anew after each look, so that no error of rounding adds up.
+    PerClass shoveGains = game.ShoveGains(opponent.Plays());
+    PerClass callGains = game.CallGains(hero.Plays());
+    for (const int look = round + kRoundsBetweenLooks; round < look; ++round) {
+      hero.Learn(shoveGains, [&](std::size_t hand, double change) { game.ChangeShove(hand, change, callGains); });
+      opponent.Learn(callGains, [&](std::size_t hand, double change) { game.ChangeCall(hand, change, shoveGains); });
+      hero.Count();
+      opponent.Count();
+    }
+    for (const Answer& answer :
+         {AnswerOf(game, hero.Last(), opponent.Last()), AnswerOf(game, hero.Mean(), opponent.Mean())}) {
+      if (answer.exploitability < best.exploitability) best = answer;
+    }
+    if (best.exploitability <= (round < kPatience ? kWanted : kGoodEnough)) break;
+    if (std::has_single_bit(static_cast<unsigned>(round))) {
+      hero.Forget();
+      opponent.Forget();
+    }
+  }
+  return best;
+}
+
+// A range of which each class is played so often.
+ClassWeights Played(const ClassWeights& held, const PerClass& plays) {
+  ClassWeights played{};
+  std::ranges::transform(held, plays, played.begin(), [](double weight, double share) { return weight * share; });
+  return played;
+}
+
+}  // namespace
+
+ClassPairs::ClassPairs() : counts_(kClasses), equities_(kClasses) {
+  for (std::size_t i = 0; i < kClasses; ++i) {
+    const std::string_view label = HandLabel(static_cast<std::int16_t>(i));
+    const FixedText<5> cards = HandCards(label);
+    const double combos = ComboCount(label);
+    // Each of a class's hands leaves as many of another class as its sample hand does.
+    for (const HandRecord& hand : BuildCombos(cards.View().substr(0, 2), cards.View().substr(3, 2)))
+      counts_[i][static_cast<std::size_t>(HandIndex(hand.Label))] += combos * hand.Weight;
+    for (std::size_t j = 0; j < kClasses; ++j)
+      equities_[i][j] = HandEquity(label, HandLabel(static_cast<std::int16_t>(j)));
+  }
+}
+
+std::optional<Equilibrium> FindEquilibrium(const ClassPairs& pairs, const BalanceQuestion& question) {
+  const Game game(pairs, question);
+  if (!game.HasDeals()) return std::nullopt;
+  const Answer answer = Solve(game);
+  return Equilibrium{Played(question.OwnHands, answer.shove), Played(question.HisHands, answer.call),
+                     game.Value(answer.shove, answer.call) * question.Pot, answer.exploitability * question.Pot};
+}
+
+}  // namespace quillon

@@ -1,0 +1,77 @@
+#pragma once
+
+// Balanced ranges: which hands to shove and which to call a shove with, so that neither player gains by changing. An
+// analysis asks what the opponent calls with; here the answer is found. He who shoves risks the call and the shove for
+// the pot, he who calls risks the shove:
+//
+//     shove, and he folds      the pot
+//     shove, and he calls      equity * (pot + call + 2 * shove) - (call + shove)
+//     call a shove             his equity * (pot + call + 2 * shove) - shove
+//
+// What one gains the other lacks of the pot, so the game is one of constant sum, and its value is the same whichever
+// pair of balanced ranges is found. Pairs of classes count by their concrete hands that share no card, and equities are
+// those of the table.
+//
+// The ranges are found by regret matching, predictive CFR+ (O. Tammelin, "Solving Large Imperfect Information Games
+// Using CFR+", 2014; G. Farina, C. Kroer, T. Sandholm, "Faster Game Solving via Predictive Blackwell Approachability",
+// 2021), and not by a linear program: after some dozen rounds nearly every class is at 0 or 1 and stays there, so that
+// a round costs a few additions for each of the few that still move, where a simplex step costs the whole table; and
+// how far the answer is from balance is known at every moment.
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+
+/// What two hands know of each other before the flop, for every pair of classes.
+class ClassPairs {
+ public:
+  using Row = std::array<double, kHandClassCount>;
+
+  /// Reads the equity table. Fails as HandEquity does before that has been loaded.
+  ClassPairs();
+
+  /// How many pairs of concrete hands of the two classes share no card: 36 for AA and KK, 6 for AA and AA.
+  [[nodiscard]] const Row& Counts(std::size_t hero) const { return counts_[hero]; }
+
+  /// The equity of the class against each other.
+  [[nodiscard]] const Row& Equities(std::size_t hero) const { return equities_[hero]; }
+
+ private:
+  std::vector<Row> counts_;
+  std::vector<Row> equities_;
+};
+
+/// Every class at weight 1.
+[[nodiscard]] constexpr ClassWeights AllHands() {
+  ClassWeights weights{};
+  weights.fill(1);
+  return weights;
+}
+
+/// The situation, in the user's own unit. The pot and the shove are above 0, the call is not below it.
+struct BalanceQuestion {
+  double Pot = 0;
+  double Call = 0;  // what the hero must put in to stay in
+  double Shove = 0;  // what the opponent must put in to call the shove
+  ClassWeights OwnHands = AllHands();  // what the hero can hold; weights from 0 to 1
+  ClassWeights HisHands = AllHands();
+};
+
+/// Balanced ranges. How often a hand that is held is played is rounded to six decimals.
+struct Equilibrium {
+  ClassWeights Shove{};  // no weight above that of the hands held
+  ClassWeights Call{};
+  double Value = 0;  // what the hero gains on average against folding everything
+  double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot
+};
+
+/// Balanced ranges for a question; nothing if one of the players can hold no hand. Which of several balanced pairs is
+/// found is not said, and a class that is never faced with a shove may have any weight.
+[[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const ClassPairs& pairs, const BalanceQuestion& question);
+
+}  // namespace quillon

@@ -1,0 +1,237 @@
+#include "study/equilibrium.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "analysis/dealt_range.h"
+#include "analysis/expected_value.h"
+#include "analysis/range_equity.h"
+#include "hand/equity_table.h"
+#include "ranges/range_files.h"
+
+namespace quillon {
+namespace {
+
+const ClassPairs& Pairs() {
+  static const ClassPairs pairs = [] {
+    LoadEquityTable();
+    return ClassPairs();
+  }();
+  return pairs;
+}
+
+std::size_t Index(std::string_view label) {
+  return static_cast<std::size_t>(HandIndex(label));
+}
+
+std::string_view Label(std::size_t index) {
+  return HandLabel(static_cast<std::int16_t>(index));
+}
+
+ClassWeights Only(std::string_view label) {
+  ClassWeights weights{};
+  weights.at(Index(label)) = 1;
+  return weights;
+}
+
+// Blinds of 0.5 and 1, and an effective stack in big blinds.
+BalanceQuestion HeadsUp(double stack) {
+  return {.Pot = 1.5, .Call = 0.5, .Shove = stack - 1};
+}
+
+Equilibrium Find(const BalanceQuestion& question) {
+  const std::optional<Equilibrium> found = FindEquilibrium(Pairs(), question);
+  EXPECT_TRUE(found);
+  return found.value_or(Equilibrium{});
+}
+
+TEST(ClassPairs, CountsHandsThatShareNoCard) {
+  struct Case {
+    const char* hero;
+    const char* other;
+    double count;
+  };
+  for (const Case& c : {Case{"AA", "KK", 36}, Case{"AA", "AA", 6}, Case{"AKs", "AKs", 12}, Case{"AKs", "AKo", 24},
+                        Case{"AKo", "AKs", 24}, Case{"AKo", "AKo", 84}, Case{"AA", "AKs", 12}, Case{"AKo", "QJo", 144}})
+    EXPECT_EQ(Pairs().Counts(Index(c.hero)).at(Index(c.other)), c.count) << c.hero << " and " << c.other;
+  double all = 0;
+  for (std::size_t i = 0; i < kHandClassCount; ++i) {
+    all += std::accumulate(Pairs().Counts(i).begin(), Pairs().Counts(i).end(), 0.0);
+    for (std::size_t j = 0; j < kHandClassCount; ++j)
+      ASSERT_EQ(Pairs().Counts(i)[j], Pairs().Counts(j)[i]) << Label(i) << " and " << Label(j);
+  }
+  EXPECT_EQ(all, 1326 * 1225);
+  EXPECT_EQ(Pairs().Equities(Index("AA")).at(Index("KK")), 0.819461);
+}
+
+TEST(Equilibrium, AgreesWithWhatIsPublishedOfHeadsUpPlay) {
+  for (const double stack : {5.5, 5.7}) {
+    const double weight = Find(HeadsUp(stack)).Call.at(Index("Q2o"));
+    EXPECT_TRUE(stack == 5.5 ? weight > 0.5 : weight < 0.5) << "Q2o is called at " << stack << " with " << weight;
+  }
+  for (const double stack : {7.0, 5.2, 2.2})
+    EXPECT_GT(Find(HeadsUp(stack)).Shove.at(Index("63s")), 0.5) << "63s is shoved at " << stack;
+  for (const double stack : {7.2, 5.0, 4.0, 2.4})
+    EXPECT_LT(Find(HeadsUp(stack)).Shove.at(Index("63s")), 0.05) << "63s is not shoved at " << stack;
+}
+
+TEST(Equilibrium, OfOneHandEachIsWorkedOutByHand) {
+  struct Case {
+    const char* rule;
+    const char* own;
+    const char* his;
+    BalanceQuestion question;
+    double shove;
+    double call;
+    double value;
+  };
+  for (const Case& c : {
+           Case{"even hands: he calls, and the hero wins half of pot less call",
+                "AA",
+                "AA",
+                {.Pot = 10, .Call = 4, .Shove = 100},
+                1,
+                1,
+                3},
+           Case{"a call that costs more than the pot is not worth it",
+                "AA",
+                "AA",
+                {.Pot = 10, .Call = 14, .Shove = 100},
+                0,
+                1,
+                0},
+           Case{"he folds what is behind", "AA", "KK", {.Pot = 10, .Call = 0, .Shove = 100}, 1, 0, 10},
+           Case{"he calls at a price", "AA", "KK", {.Pot = 10, .Call = 0, .Shove = 1}, 1, 1, 12 * 0.819461 - 1},
+       }) {
+    BalanceQuestion question = c.question;
+    question.OwnHands = Only(c.own);
+    question.HisHands = Only(c.his);
+    const Equilibrium found = Find(question);
+    EXPECT_EQ(found.Shove.at(Index(c.own)), c.shove) << c.rule;
+    EXPECT_EQ(found.Call.at(Index(c.his)), c.call) << c.rule;
+    EXPECT_NEAR(found.Value, c.value, 1e-9) << c.rule;
+    EXPECT_LE(found.Exploitability, 1e-6 * question.Pot) << c.rule;
+  }
+}
+
+TEST(Equilibrium, WithoutAHandThereIsNone) {
+  BalanceQuestion question = HeadsUp(10);
+  question.OwnHands = ClassWeights{};
+  EXPECT_FALSE(FindEquilibrium(Pairs(), question));
+  question = HeadsUp(10);
+  question.HisHands = ClassWeights{};
+  EXPECT_FALSE(FindEquilibrium(Pairs(), question));
+}
+
+// What a player gains by playing each class as well as can be, beyond what he gains by the weights found, each class
+// counted by how often it is dealt; by the analysis of every day.
+class OrdinaryAnalysis {
+ public:
+  OrdinaryAnalysis(const BalanceQuestion& question, const Equilibrium& found) : question_(question), found_(found) {}
+
+  // In "Preflop Raise", against the calling range found.
+  [[nodiscard]] double HeroCouldGain() const {
+    double gain = 0;
+    double dealt = 0;
+    for (std::size_t i = 0; i < kHandClassCount; ++i) {
+      const HandList held = Deal(i, question_.HisHands);
+      const HandList called = LimitToRange(held, Deal(i, found_.Call));
+      const double weight = question_.OwnHands[i] * ComboCount(Label(i)) * TotalWeight(held);
+      const double share = TotalWeight(called) / TotalWeight(held);
+      const double equity = share > 0 ? EquityVsRange(Label(i), called) : -1;
+      const double ev = ShoveExpectedValue(question_.Pot, question_.Call, question_.Shove, equity, share);
+      gain += weight * (std::max(ev, 0.0) - Played(question_.OwnHands[i], found_.Shove[i]) * ev);
+      dealt += weight;
+    }
+    return gain / dealt;
+  }
+
+  // In "Preflop Call", facing the range found. The pot holds the hero's call and shove then.
+  [[nodiscard]] double OpponentCouldGain() const {
+    double gain = 0;
+    double dealt = 0;
+    for (std::size_t j = 0; j < kHandClassCount; ++j) {
+      const double held = question_.HisHands[j] * ComboCount(Label(j));
+      dealt += held * TotalWeight(Deal(j, question_.OwnHands));
+      const HandList shoving = Deal(j, found_.Shove);
+      if (TotalWeight(shoving) == 0) continue;
+      const double pot = question_.Pot + question_.Call + question_.Shove;
+      const double ev = CallExpectedValue(pot, question_.Shove, EquityVsRange(Label(j), shoving));
+      gain += held * TotalWeight(shoving) * (std::max(ev, 0.0) - Played(question_.HisHands[j], found_.Call[j]) * ev);
+    }
+    return gain / dealt;
+  }
+
+ private:
+  static double Played(double held, double played) { return held > 0 ? played / held : 0; }
+
+  static HandList Deal(std::size_t hero, const ClassWeights& weights) {
+    const FixedText<5> cards = HandCards(Label(hero));
+    std::string text = SearchableRangeText(weights);
+    return DealRange(ProgramFolder{}, "", cards.View().substr(0, 2), cards.View().substr(3, 2), text);
+  }
+
+  const BalanceQuestion& question_;
+  const Equilibrium& found_;
+};
+
+ClassWeights SomeHands(std::mt19937& random) {
+  ClassWeights weights{};
+  for (double& weight : weights)
+    weight = std::vector<double>{0, 0.5, 1, 0.99, static_cast<double>(random() % 1000) / 1000}.at(random() % 5);
+  return weights;
+}
+
+TEST(Equilibrium, NeitherGainsByChangingAsTheAnalysisSeesIt) {
+  std::mt19937 random(7);
+  std::vector<BalanceQuestion> questions = {
+      HeadsUp(2.4), HeadsUp(10), HeadsUp(20), {.Pot = 150, .Call = 50, .Shove = 400}};
+  for (int i = 0; i < 3; ++i) {
+    questions.push_back({.Pot = 100,
+                         .Call = static_cast<double>(random() % 100),
+                         .Shove = static_cast<double>(20 + random() % 2000),
+                         .OwnHands = SomeHands(random),
+                         .HisHands = SomeHands(random)});
+  }
+  for (const BalanceQuestion& question : questions) {
+    const Equilibrium found = Find(question);
+    const OrdinaryAnalysis analysis(question, found);
+    const double hero = analysis.HeroCouldGain();
+    const double opponent = analysis.OpponentCouldGain();
+    EXPECT_LE(found.Exploitability, 1e-6 * question.Pot) << question.Shove;
+    EXPECT_NEAR(hero + opponent, found.Exploitability, 1e-9 * question.Pot) << question.Shove;
+    EXPECT_LE(std::max(hero, opponent), found.Exploitability + 1e-12 * question.Pot) << question.Shove;
+  }
+}
+
+TEST(Equilibrium, NobodyPlaysWhatHeCannotHold) {
+  std::mt19937 random(8);
+  for (int i = 0; i < 20; ++i) {
+    const BalanceQuestion question = {.Pot = 10,
+                                      .Call = 2,
+                                      .Shove = static_cast<double>(1 + random() % 1000),
+                                      .OwnHands = SomeHands(random),
+                                      .HisHands = SomeHands(random)};
+    const Equilibrium found = Find(question);
+    EXPECT_LE(found.Exploitability, 1e-6 * question.Pot) << question.Shove;
+    for (std::size_t hand = 0; hand < kHandClassCount; ++hand) {
+      EXPECT_LE(found.Shove[hand], question.OwnHands[hand]) << Label(hand);
+      EXPECT_LE(found.Call[hand], question.HisHands[hand]) << Label(hand);
+    }
+  }
+}
+
+TEST(Equilibrium, TheUnitOfTheAmountsDoesNotMatter) {
+  const Equilibrium chips = Find(HeadsUp(12));
+  const Equilibrium cents = Find({.Pot = 150, .Call = 50, .Shove = 1100});
+  for (std::size_t hand = 0; hand < kHandClassCount; ++hand)
+    EXPECT_NEAR(chips.Shove[hand], cents.Shove[hand], 1e-3) << Label(hand);
+  EXPECT_NEAR(chips.Value * 100, cents.Value, 1e-4);
+}
+
+}  // namespace
+}  // namespace quillon
