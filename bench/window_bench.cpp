@@ -61,15 +61,13 @@ struct Program {
   NoBoxes Boxes;
   NoWeb Web;
   ShiftWatch Shift;
-  RangeDialogs Dialogs{Files.Folder(), Boxes, Boxes, Shift};
   std::unique_ptr<MainForm> Window;
 
   Program() {
     SaveRangeText(Files.Folder(), "Everything", TextWith(AllLabels()));
     Window = std::make_unique<MainForm>(MainForm::Surroundings{
         .Folder = Files.Folder(), .Messages = Boxes, .Inputs = Boxes, .Web = Web, .Shift = Shift, .EndProcess = [] {}});
-    Dialogs.Attach(*Window);
-    Window->Start(Dialogs);
+    Window->Start();
     QCoreApplication::processEvents();
   }
 
@@ -81,7 +79,7 @@ struct Program {
     Controls().Get<QLineEdit>("txtNumber", 3).setText(QStringLiteral("50"));
     Controls().Get<QLineEdit>("txtNumber", 4).setText(QStringLiteral("400"));
     for (const std::int16_t chooser : {std::int16_t{1}, std::int16_t{2}}) {
-      SelectListEntry(Window->Chooser(chooser), "Everything");
+      Window->Dialogs().Choosers().List(chooser).SelectEntry("Everything");
     }
     QCoreApplication::processEvents();
   }

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "hand/hand_classes.h"
+#include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 
 namespace quillon {
@@ -14,17 +14,9 @@ constexpr float kCellGap = 25;
 constexpr float kLabelSideMargin = 10;
 constexpr float kLabelTopMargin = 100;
 
-// The neighbours give the place, so that only square 0 states a size and only the frame states a position.
-TwipRect PlaceOfSquare(const CardGridForm& form, std::int16_t index) {
-  const TwipRect frame = form.FrameRect();
-  TwipRect place = form.SquareRect(0);
-  const float stepRight = place.Width + kCellGap;
-  const float stepDown = place.Height + kCellGap;
-  const auto left = static_cast<std::int16_t>(index - 1);
-  const auto above = static_cast<std::int16_t>(index - kRankCount);
-  place.Left = index % kRankCount == 0 ? frame.Left + kFrameMargin : form.SquareRect(left).Left + stepRight;
-  place.Top = index < kRankCount ? frame.Top + kFrameMargin : form.SquareRect(above).Top + stepDown;
-  return place;
+// How far a row of cells reaches, from the left edge of the first to the right edge of the last.
+float RowLength(float cell) {
+  return kRankCount * (cell + kCellGap) - kCellGap;
 }
 
 TwipRect PlaceOfLabel(const TwipRect& square) {
@@ -34,51 +26,20 @@ TwipRect PlaceOfLabel(const TwipRect& square) {
           .Height = square.Height - kLabelTopMargin};
 }
 
-TwipRect FrameRound(const TwipRect& first, const TwipRect& last) {
-  const float left = first.Left - kFrameMargin;
-  const float top = first.Top - kFrameMargin;
-  return {.Left = left,
-          .Top = top,
-          .Width = last.Left + last.Width - left + kFrameMargin,
-          .Height = last.Top + last.Height - top + kFrameMargin};
-}
-
-void BuildCell(CardGridForm& form, std::int16_t index) {
-  const std::string_view label = HandLabel(index);
-  const TwipRect square = PlaceOfSquare(form, index);
-  form.SetSquareRect(index, square);
-  form.SetCellColor(index, CellBaseColor(label));
-  form.ShowSquare(index);
-  form.SetLabelRect(index, PlaceOfLabel(square));
-  form.SetLabelCaption(index, label);
-  form.ShowLabel(index);
-}
-
-Rgb CaptionColorOn(Rgb cellColor) {
-  return cellColor == kFullColor ? kCaptionOnFullColor : kCaptionColor;
-}
-
-void PaintCell(CardGridForm& form, std::int16_t index, Rgb color) {
-  form.SetCellColor(index, color);
-  form.SetCaptionColor(index, CaptionColorOn(color));
-}
-
-Rgb ColorAfterClick(const CardGridForm& form, std::int16_t index) {
-  const Rgb base = CellBaseColor(HandLabel(index));
-  if (form.CellColor(index) != base) return base;
-  return form.HalfChecked() ? kHalfColor : kFullColor;
+Rgb& ColorOf(CellColors& cells, int index) {
+  return cells.at(static_cast<std::size_t>(index));
 }
 
 // Towards better hands a suited class moves left along its row, an offsuit class up its column, both until they meet
-// the diagonal, where the pairs stand and move along it.
-void PaintBetterHands(CardGridForm& form, std::int16_t index, Rgb color) {
+// the diagonal, where the pairs are and move along it.
+void PaintBetterHands(CellColors& cells, std::int16_t index, Rgb color) {
   const std::string_view label = HandLabel(index);
   const bool suited = label.ends_with('s');
   const bool offsuit = label.ends_with('o');
   const int step = suited ? 1 : offsuit ? kRankCount : kDiagonalStep;
   for (int next = index - step; next >= 0; next -= step) {
     if ((suited || offsuit) && next % kDiagonalStep == 0) return;
-    PaintCell(form, static_cast<std::int16_t>(next), color);
+    ColorOf(cells, next) = color;
   }
 }
 
@@ -87,26 +48,32 @@ double WeightOfColor(Rgb color) {
   return color == kHalfColor ? 0.5 : 0;
 }
 
-ClassWeights GridWeights(const CardGridForm& form) {
+ClassWeights GridWeights(const CellColors& cells) {
   ClassWeights weights{};
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    weights.at(static_cast<std::size_t>(index)) = WeightOfColor(form.CellColor(index));
+  for (std::size_t index = 0; index < weights.size(); ++index)
+    weights.at(index) = WeightOfColor(cells.at(index));
   return weights;
 }
 
 }  // namespace
 
-void BuildCardGrid(CardGridForm& form) {
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    if (index > 0) form.CreateCell(index);
-    BuildCell(form, index);
+CardGridPlaces PlaceCardGrid(float left, float top, TwipSize square) {
+  CardGridPlaces places{};
+  places.Frame = {.Left = left,
+                  .Top = top,
+                  .Width = RowLength(square.Width) + 2 * kFrameMargin,
+                  .Height = RowLength(square.Height) + 2 * kFrameMargin};
+  for (std::size_t index = 0; index < places.Cells.size(); ++index) {
+    const auto column = static_cast<float>(index % kRankCount);
+    const auto row = static_cast<float>(index / kRankCount);
+    CellPlace& cell = places.Cells.at(index);
+    cell.Square = {.Left = left + kFrameMargin + column * (square.Width + kCellGap),
+                   .Top = top + kFrameMargin + row * (square.Height + kCellGap),
+                   .Width = square.Width,
+                   .Height = square.Height};
+    cell.Label = PlaceOfLabel(cell.Square);
   }
-  form.SetFrameRect(FrameRound(form.SquareRect(0), form.SquareRect(kHandClassCount - 1)));
-}
-
-void ClearCardGrid(CardGridForm& form) {
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    PaintCell(form, index, CellBaseColor(HandLabel(index)));
+  return places;
 }
 
 Rgb CellBaseColor(std::string_view label) {
@@ -114,27 +81,46 @@ Rgb CellBaseColor(std::string_view label) {
   return label.ends_with('o') ? kUnselectedOffsuitColor : kUnselectedPairColor;
 }
 
-void ToggleCell(CardGridForm& form, std::int16_t index) {
-  const Rgb color = ColorAfterClick(form, index);
-  PaintCell(form, index, color);
-  if (form.ShiftKeyPressed()) PaintBetterHands(form, index, color);
+Rgb CaptionColorOn(Rgb cell) {
+  return cell == kFullColor ? kCaptionOnFullColor : kCaptionColor;
 }
 
-double SelectedCombos(const CardGridForm& form) {
-  return SelectedCombos(GridWeights(form));
+CellColors UnselectedCells() {
+  CellColors cells{};
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    ColorOf(cells, index) = CellBaseColor(HandLabel(index));
+  return cells;
 }
 
-std::string RangeTextFromGrid(const CardGridForm& form) {
-  return RangeTextOf(GridWeights(form));
+void ToggleCell(CellColors& cells, std::int16_t index, CellClick click) {
+  const Rgb base = CellBaseColor(HandLabel(index));
+  const Rgb selected = click.Half ? kHalfColor : kFullColor;
+  const Rgb color = ColorOf(cells, index) == base ? selected : base;
+  ColorOf(cells, index) = color;
+  if (click.Shift) PaintBetterHands(cells, index, color);
 }
 
-void ShowRangeOnGrid(CardGridForm& form, const ProgramFolder& folder, std::string_view name) {
+double SelectedCombos(const CellColors& cells) {
+  return SelectedCombos(GridWeights(cells));
+}
+
+std::string RangeTextFromGrid(const CellColors& cells) {
+  return RangeTextOf(GridWeights(cells));
+}
+
+std::string GridCaption(const CellColors& cells) {
+  return SelectionCaption(SelectedCombos(cells));
+}
+
+std::string GridSummary(const CellColors& cells) {
+  return RangeSummary(RangeTextFromGrid(cells));
+}
+
+void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
   const ClassWeights weights = RangeWeightsOf(LoadRangeText(folder, name));
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const double weight = weights.at(static_cast<std::size_t>(index));
-    if (weight == 1) form.SetCellColor(index, kFullColor);
-    if (weight == 0.5) form.SetCellColor(index, kHalfColor);
-    form.SetCaptionColor(index, CaptionColorOn(form.CellColor(index)));
+  for (std::size_t index = 0; index < weights.size(); ++index) {
+    if (weights.at(index) == 1) cells.at(index) = kFullColor;
+    if (weights.at(index) == 0.5) cells.at(index) = kHalfColor;
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -43,13 +42,6 @@ std::u32string SortingKey(std::string_view fileName) {
   return WithoutCase(fileName.substr(0, StartOfExtension(fileName).value_or(fileName.size())));
 }
 
-std::optional<int> EntryIndex(const ChooserList& list, std::string_view text) {
-  for (int index = 0; index < list.Count(); ++index) {
-    if (list.Entry(index) == text) return index;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
@@ -88,27 +80,19 @@ std::string RangeNameOfFile(std::string_view fileName) {
   return std::string(fileName.substr(0, *start));
 }
 
-void FillRangeList(ChooserList& list, const ProgramFolder& folder, std::string_view selection) {
-  std::vector<std::string> names = RangeFolderEntries(folder);
-  for (std::string& name : names)
-    name = RangeNameOfFile(name);
-  const std::string wanted = selection.empty() ? list.CurrentText() : std::string(selection);
-
-  list.Clear();
-  if (list.ControlName().find("cmbo") != std::string::npos) list.Add("");
-  for (const std::string& name : names)
-    list.Add(name);
-
-  if (list.Count() > 0) list.Select(EntryIndex(list, wanted).value_or(0));
+std::optional<int> EntryIndex(std::span<const std::string> entries, std::string_view name) {
+  const auto found = std::find(entries.begin(), entries.end(), name);
+  if (found == entries.end()) return std::nullopt;
+  return static_cast<int>(found - entries.begin());
 }
 
-void SelectListEntry(ChooserList& list, std::string_view name) {
-  if (const std::optional<int> index = EntryIndex(list, name)) list.Select(*index);
-}
-
-void RefreshRangeLists(std::span<ChooserList* const> lists, const ProgramFolder& folder) {
-  for (ChooserList* const list : lists)
-    FillRangeList(*list, folder, {});
+RangeListContents FillRangeList(const ProgramFolder& folder, ListStart start, std::string_view wanted) {
+  RangeListContents contents;
+  if (start == ListStart::kBlankEntry) contents.Entries.emplace_back();
+  for (const std::string& file : RangeFolderEntries(folder))
+    contents.Entries.push_back(RangeNameOfFile(file));
+  if (!contents.Entries.empty()) contents.Selected = EntryIndex(contents.Entries, wanted).value_or(0);
+  return contents;
 }
 
 }  // namespace quillon

@@ -1,15 +1,14 @@
 #include "ranges/range_lists.h"
 
-#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <optional>
 #include <unistd.h>
-#include <utility>
+#include <vector>
 
 #include "ranges/range_fixtures.h"
-#include "ranges/recorded_list.h"
 
 namespace quillon {
 namespace {
@@ -170,170 +169,55 @@ TEST(RangeNameOfFile, FewerThanFourCharactersAreFatal) {
   }
 }
 
-TEST(FillRangeList, ComboBoxStartsWithABlankEntry) {
-  const TemporaryProgram program;
-  program.Write("b.txt");
-  program.Write("A.txt");
-  RecordedList combo("cmboRanges(0)");
-  FillRangeList(combo, program.Folder(), "");
-  EXPECT_THAT(combo.TakeNotes(), ElementsAre("clear", "add ", "add A", "add b", "select 0"));
-
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "");
-  EXPECT_THAT(list.TakeNotes(), ElementsAre("clear", "add A", "add b", "select 0"));
-}
-
-TEST(FillRangeList, BlankGoesByTheControlsNameWithCase) {
-  const TemporaryProgram program;
-  RecordedList inside("mycmboBox");
-  FillRangeList(inside, program.Folder(), "");
-  EXPECT_EQ(inside.Count(), 1);
-  RecordedList capital("CmboRanges");
-  FillRangeList(capital, program.Folder(), "");
-  EXPECT_EQ(capital.Count(), 0);
-}
-
-TEST(FillRangeList, EmptyFolderLeavesTheBlankAlone) {
-  const TemporaryProgram program;
-  RecordedList combo("cmboRanges(3)");
-  FillRangeList(combo, program.Folder(), "Gone");
-  EXPECT_THAT(combo.TakeNotes(), ElementsAre("clear", "add ", "select 0"));
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "Gone");
-  EXPECT_THAT(list.TakeNotes(), ElementsAre("clear"));
-  EXPECT_EQ(list.CurrentText(), "");
-}
-
-struct SelectionCase {
+struct FillCase {
   const char* rule;
-  const char* control;
-  const char* before;  // the entry selected before the list is filled again
-  const char* selection;
-  const char* selected;
+  std::vector<const char*> files;
+  ListStart start;
+  const char* wanted;
+  RangeListContents contents;
 };
 
-TEST(FillRangeList, SelectsTheEntryAskedForOrElseTheOneBeforeOrElseTheFirst) {
-  const TemporaryProgram program;
-  for (const char* file : {"a.txt", "b.txt", "c.txt"})
-    program.Write(file);
-  const std::vector<SelectionCase> cases = {
-      {"the entry asked for", "cmboRanges(0)", "b", "c", "c"},
-      {"nothing asked for keeps what was there", "cmboRanges(0)", "b", "", "b"},
-      {"nothing there before stays blank in a combo box", "cmboRanges(0)", "", "", ""},
-      {"an entry that is not there gives the blank", "cmboRanges(0)", "b", "x", ""},
-      {"names are compared with case", "cmboRanges(0)", "b", "C", ""},
-      {"a list keeps what was there", "lstRanges", "c", "", "c"},
-      {"a list without a selection takes the first", "lstRanges", "", "", "a"},
-      {"a list whose entry is not there takes the first", "lstRanges", "c", "x", "a"},
+TEST(FillRangeList, ListsTheFolderAndSelectsTheEntryWantedOrElseTheFirst) {
+  constexpr ListStart kBlank = ListStart::kBlankEntry;
+  constexpr ListStart kRange = ListStart::kFirstRange;
+  const std::vector<FillCase> cases = {
+      {"a combo box starts with a blank entry", {"b.txt", "A.txt"}, kBlank, "", {{"", "A", "b"}, 0}},
+      {"a list with the first range", {"b.txt", "A.txt"}, kRange, "", {{"A", "b"}, 0}},
+      {"an empty folder leaves the blank alone", {}, kBlank, "Gone", {{""}, 0}},
+      {"and a list empty, with nothing selected", {}, kRange, "Gone", {{}, {}}},
+      {"the entry wanted in a combo box", {"a.txt", "b.txt"}, kBlank, "b", {{"", "a", "b"}, 2}},
+      {"the entry wanted in a list", {"a.txt", "b.txt"}, kRange, "b", {{"a", "b"}, 1}},
+      {"one that is gone gives the blank", {"a.txt", "b.txt"}, kBlank, "x", {{"", "a", "b"}, 0}},
+      {"or the first range", {"a.txt", "b.txt"}, kRange, "x", {{"a", "b"}, 0}},
+      {"names are compared with case", {"a.txt", "b.txt"}, kBlank, "B", {{"", "a", "b"}, 0}},
+      {"the first of equal entries", {"a.txt", "b.log", "b.txt"}, kRange, "b", {{"a", "b", "b"}, 1}},
+      {"a file that is no range", {"loud.TXT", "page.html"}, kRange, "", {{"loud", "page."}, 0}},
   };
-  for (const SelectionCase& c : cases) {
-    RecordedList list(c.control);
-    list.Add("gone");
-    for (const char* entry : {"", "a", "b", "c"})
-      list.Add(entry);
-    if (*c.before != '\0') SelectListEntry(list, c.before);
-    FillRangeList(list, program.Folder(), c.selection);
-    EXPECT_EQ(list.CurrentText(), c.selected) << c.rule;
+  for (const FillCase& c : cases) {
+    const TemporaryProgram program;
+    for (const char* file : c.files)
+      program.Write(file);
+    const RangeListContents contents = FillRangeList(program.Folder(), c.start, c.wanted);
+    EXPECT_EQ(contents.Entries, c.contents.Entries) << c.rule;
+    EXPECT_EQ(contents.Selected, c.contents.Selected) << c.rule;
   }
 }
 
-TEST(FillRangeList, RangeThatIsGoneFallsBackToTheFirstEntry) {
+TEST(FillRangeList, FailsWhereAFileHasNoNameOrTheFolderIsMissing) {
   const TemporaryProgram program;
-  program.Write("a.txt");
-  program.Write("b.txt");
-  RecordedList combo("cmboRanges(1)");
-  RecordedList list("lstRanges");
-  FillRangeList(combo, program.Folder(), "b");
-  FillRangeList(list, program.Folder(), "b");
-  std::filesystem::remove(program.RangeFile("b.txt"));
-  FillRangeList(combo, program.Folder(), "");
-  FillRangeList(list, program.Folder(), "");
-  EXPECT_EQ(combo.CurrentText(), "");
-  EXPECT_EQ(list.CurrentText(), "a");
-}
-
-TEST(FillRangeList, FirstOfEqualEntriesIsSelected) {
-  const TemporaryProgram program;
-  for (const char* file : {"a.txt", "b.log", "b.txt"})
-    program.Write(file);
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "b");
-  EXPECT_THAT(list.Entries(), ElementsAre("a", "b", "b"));
-  EXPECT_EQ(list.TakeNotes().back(), "select 1");
-}
-
-TEST(FillRangeList, FileThatIsNoRangeStandsUnderItsTruncatedName) {
-  const TemporaryProgram program;
-  program.Write("page.html", "AA (1), ");
-  program.Write("loud.TXT", "AA (1), ");
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "");
-  EXPECT_THAT(list.Entries(), ElementsAre("loud", "page."));
-  EXPECT_FALSE(RangeExists(program.Folder(), "page."));
-  EXPECT_FALSE(RangeExists(program.Folder(), "loud"));
-}
-
-TEST(FillRangeList, EmptyFileIsListed) {
-  const TemporaryProgram program;
-  program.Write("x.txt");
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "");
-  EXPECT_THAT(list.Entries(), ElementsAre("x"));
-}
-
-TEST(FillRangeList, FailureLeavesTheListAsItWas) {
-  const TemporaryProgram program;
-  program.Write("a.txt");
-  RecordedList list("lstRanges");
-  FillRangeList(list, program.Folder(), "");
-  static_cast<void>(list.TakeNotes());
-
   program.Write("b.c");
-  const auto faultOfFilling = [&] { return FaultOf([&] { FillRangeList(list, program.Folder(), ""); }); };
-  EXPECT_EQ(faultOfFilling(), RunTimeFault::kInvalidProcedureCall);
+  const auto fill = [&] { return FillRangeList(program.Folder(), ListStart::kFirstRange, ""); };
+  EXPECT_EQ(FaultOf(fill), RunTimeFault::kInvalidProcedureCall);
   std::filesystem::remove_all(RangeFolderPath(program.Folder()));
-  EXPECT_EQ(faultOfFilling(), RunTimeFault::kPathNotFound);
-  EXPECT_THAT(list.TakeNotes(), IsEmpty());
+  EXPECT_EQ(FaultOf(fill), RunTimeFault::kPathNotFound);
 }
 
-TEST(SelectListEntry, SelectsTheFirstEqualEntryOrNone) {
-  RecordedList list("lstRanges");
-  for (const char* entry : {"a", "b", "a"})
-    list.Add(entry);
-  static_cast<void>(list.TakeNotes());
-  SelectListEntry(list, "A");
-  SelectListEntry(list, "");
-  EXPECT_THAT(list.TakeNotes(), IsEmpty());
-  SelectListEntry(list, "b");
-  SelectListEntry(list, "b");
-  SelectListEntry(list, "a");
-  EXPECT_THAT(list.TakeNotes(), ElementsAre("select 1", "select 1", "select 0"));
-}
-
-TEST(RefreshRangeLists, FillsEachListInOrderAndKeepsItsChoice) {
-  const TemporaryProgram program;
-  program.Write("a.txt");
-  program.Write("b.txt");
-  std::vector<std::string> diary;
-  RecordedList first("cmboRanges(0)", &diary);
-  RecordedList second("cmboRanges(1)", &diary);
-  RecordedList manager("lstRanges", &diary);
-  const std::array<ChooserList*, 3> lists = {&first, &second, &manager};
-
-  RefreshRangeLists(lists, program.Folder());
-  EXPECT_EQ(first.CurrentText(), "");
-  EXPECT_EQ(manager.CurrentText(), "a");
-  EXPECT_THAT(diary, ElementsAre("cmboRanges(0)", "cmboRanges(1)", "lstRanges"));
-
-  SelectListEntry(second, "b");
-  SelectListEntry(manager, "b");
-  program.Write("0.txt");
-  RefreshRangeLists(lists, program.Folder());
-  EXPECT_EQ(first.CurrentText(), "");
-  EXPECT_EQ(second.CurrentText(), "b");
-  EXPECT_EQ(manager.CurrentText(), "b");
-  EXPECT_THAT(first.Entries(), ElementsAre("", "0", "a", "b"));
-  EXPECT_THAT(manager.Entries(), ElementsAre("0", "a", "b"));
+TEST(EntryIndex, IsThatOfTheFirstEqualEntryOrNone) {
+  const std::vector<std::string> entries = {"a", "b", "a"};
+  EXPECT_EQ(EntryIndex(entries, "a"), 0);
+  EXPECT_EQ(EntryIndex(entries, "b"), 1);
+  EXPECT_EQ(EntryIndex(entries, "A"), std::nullopt);
+  EXPECT_EQ(EntryIndex(entries, ""), std::nullopt);
 }
 
 }  // namespace

@@ -1,23 +1,16 @@
 #include "results/results_as_range.h"
 
-#include <cstdint>
-
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
-#include "ranges/card_grid.h"
-#include "ranges/new_range.h"
 
 namespace quillon {
 
-void SaveResultsAsRange(const AnalysisState& state, NewRangeOpener& opener) {
-  if (state.HandInfo.empty()) return;
-
-  NewRangeWindow& window = opener.ShowNewRange();
+std::vector<std::int16_t> ProfitableHands(std::string_view handInfo) {
+  std::vector<std::int16_t> hands;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    if (GetHandInfo(state.HandInfo, HandLabel(index), kExpectedValueColumn) > 0) ToggleCell(window.Grid(), index);
+    if (GetHandInfo(handInfo, HandLabel(index), kExpectedValueColumn) > 0) hands.push_back(index);
   }
-  SumUpNewRange(window);
-  window.FocusRangeName();
+  return hands;
 }
 
 }  // namespace quillon

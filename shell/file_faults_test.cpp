@@ -18,8 +18,6 @@
 #include <vector>
 
 #include "ranges/range_fixtures.h"
-#include "ranges/range_manager.h"
-#include "ranges/recorded_dialogs.h"
 #include "shell/grid_image.h"
 #include "shell/settings_file.h"
 #include "support/failing_calls.h"
@@ -68,17 +66,9 @@ class ImageScreen final : public GridImageWindow {
   RecordedMessages boxes_;
 };
 
-// Selects "Old" in the Range Manager and changes the grid, then clicks, with that answer to an input box. The lists
-// read from a sound disk all the while: what a list does where a file cannot be read is not the matter here.
-template <typename Click>
-void InManager(const ProgramFolder& folder, const char* answer, Click click) {
-  RecordedMain main({folder.Path});
-  RecordedManager manager(main);
-  SelectListEntry(manager.RangeList(), "Old");
-  ClickManagerCell(manager, 5);
-  manager.Questions.Answers.emplace_back(answer);
-  manager.Boxes.Answers.assign(3, MessageAnswer::kYes);
-  click(manager, folder);
+// What the range dialogs write.
+std::string Edited() {
+  return TextWith("AA QQ", "KK");
 }
 
 struct Action {
@@ -91,16 +81,17 @@ struct Action {
 
 const std::vector<Action>& Actions() {
   static const std::vector<Action> actions = {
-      {"Save", [](const ProgramFolder& folder) { InManager(folder, "", ClickSave); }, {"Ranges/Old.txt"}},
-      {"SaveAs", [](const ProgramFolder& folder) { InManager(folder, "New", ClickSaveAs); }, {"Ranges/Old.txt"}},
+      {"Save", [](const ProgramFolder& folder) { SaveRangeText(folder, "Old", Edited()); }, {"Ranges/Old.txt"}},
+      {"SaveUnderANewName",
+       [](const ProgramFolder& folder) { SaveRangeText(folder, "New", Edited()); },
+       {"Ranges/Old.txt"}},
       {"SaveAsScratchRange",
-       [](const ProgramFolder& folder) { InManager(folder, "Temp Range1", ClickSaveAs); },
+       [](const ProgramFolder& folder) { SaveRangeText(folder, "Temp Range1", Edited()); },
        {"Ranges/Temp Range1.txt"}},
-      {"New", [](const ProgramFolder& folder) { InManager(folder, "New", ClickNew); }, {"Ranges/Old.txt"}},
       {"Rename",
-       [](const ProgramFolder& folder) { InManager(folder, "New", ClickRename); },
+       [](const ProgramFolder& folder) { RenameRange(folder, "Old", "New", Edited()); },
        {"Ranges/Old.txt", "Ranges/New.txt"}},
-      {"Delete", [](const ProgramFolder& folder) { InManager(folder, "", ClickDelete); }, {}},
+      {"Delete", [](const ProgramFolder& folder) { DeleteRange(folder, "Old"); }, {}},
       {"Settings",
        [](const ProgramFolder& folder) { WriteIniValue("Values", "0", "735", folder); },
        {"settings.ini"},

@@ -78,7 +78,6 @@ void LoadStartupState(const NavigationState& state, StartWindow& window, const P
   RestoreWindowPosition(window, kMainSection, folder);
   window.SetHoverPanelSize(window.HoverBorderSize());
   FillOutputTypes(window);
-  window.BuildCardGrid();
   ClickLogo(state, window);
   FillHandList(window);
 }

@@ -57,9 +57,6 @@ class StartWindow : public NavigationWindow, public PlacedWindow {
   virtual void AddOutputType(std::string_view text) = 0;  // cmboOutputType
   virtual void AddHandEntry(std::string_view text) = 0;  // cmbo169
 
-  /// Makes the 169 cells of the grid ("ranges/card_grid.h").
-  virtual void BuildCardGrid() = 0;
-
   virtual void ShowWindow() = 0;
   virtual void HideWindow() = 0;
 
@@ -83,8 +80,8 @@ void StartUp(NavigationState& state, StartWindow& window, const ProgramFolder& f
 void SetAboutView(StartWindow& window);
 
 /// What was left by the last run, and what the controls hold at first: the box texts that are not empty, the range
-/// lists, the window's size and place, the lists of the Details screen, the grid's cells, the About screen again, now
-/// as wide as the window.
+/// lists, the window's size and place, the lists of the Details screen, the About screen again, now as wide as the
+/// window.
 void LoadStartupState(const NavigationState& state, StartWindow& window, const ProgramFolder& folder);
 
 /// The closing of the main window, for whatever reason: it is hidden, its place and all box texts are stored as they

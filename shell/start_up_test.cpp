@@ -102,7 +102,6 @@ class RecordedStart final : public RecordedNavigationOf<StartWindow> {
     Hands.emplace_back(text);
     if (Hands.size() == 1) Tell("hand entries");
   }
-  void BuildCardGrid() override { Tell("build card grid"); }
   void ShowWindow() override { Tell("show window"); }
   void HideWindow() override { Tell("hide window"); }
   void CheckForUpgrade() override { Tell("check for upgrade"); }
@@ -145,8 +144,8 @@ TEST(StartUp, TakesItsStepsInOrder) {
                   "range count 0", "place about content (0, 300, 5700, 8645)", "show about content", "box 1 50",
                   "refresh range lists", "hide results", "resize window 15300 by 9045", "move window 6750, 3577.5",
                   "size hover panel", "output type Plain Text", "output type 2+2", "select output type 0",
-                  "build card grid", "hide imgBackground", "show frame 5", "place frame 5 (3300, 0, 12000, 8645)",
-                  "raise frame 5", "hand entries", "show window", "check for upgrade", "load equity table"));
+                  "hide imgBackground", "show frame 5", "place frame 5 (3300, 0, 12000, 8645)", "raise frame 5",
+                  "hand entries", "show window", "check for upgrade", "load equity table"));
 }
 
 TEST(StartUp, FirstStartInAnEmptyFolder) {

@@ -93,7 +93,7 @@ Start StartOf(MainStage& stage) {
   Start start;
   const auto fault = FaultOf([&stage] {
     const LeaksDoNotCount ends;
-    stage.Form.Start(stage.Dialogs);
+    stage.Form.Start();
     return 0;
   });
   if (fault) {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-#include "ranges/recorded_card_grid.h"
+#include "ranges/card_grid.h"
 #include "shell/start_up.h"
 #include "toolkit/twip_geometry.h"
 
@@ -52,12 +52,10 @@ void FormPlan::AddGrid(const ControlTable& table) {
   const ControlRow* const square = FindRow(table, "shapeCardBack(0)");
   if (frame == nullptr || square == nullptr) return;
 
-  RecordedCardGrid grid;
-  grid.Frame = frame->Place;
-  grid.Cells.front().Square = square->Place;
-  BuildCardGrid(grid);
+  const CardGridPlaces places = PlaceCardGrid(frame->Place.Left, frame->Place.Top,
+                                              {.Width = square->Place.Width, .Height = square->Place.Height});
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const RecordedCardGrid::Cell& cell = grid.Of(HandLabel(index));
+    const CellPlace& cell = places.Cells.at(static_cast<std::size_t>(index));
     Add(ObjectName("shapeCardBack", index), cell.Square, table.Container);
     Add(ObjectName("lblCards", index), cell.Label, table.Container);
   }

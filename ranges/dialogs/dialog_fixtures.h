@@ -1,18 +1,17 @@
 #pragma once
 
-// For tests: a program folder with some ranges, a main window of four choosers, and the dialogs themselves, which speak
-// in real boxes ("toolkit/expected_boxes.h").
+// For tests: a program folder with some ranges, a main window that has nothing but the four choosers, and the dialogs
+// themselves, which speak in real boxes ("toolkit/expected_boxes.h").
 
 #include <QTest>
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/range_dialogs.h"
 #include "ranges/range_fixtures.h"
-#include "ranges/recorded_list.h"
 #include "toolkit/expected_boxes.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"
@@ -20,42 +19,30 @@
 namespace quillon {
 
 /// The main window as the dialogs know it.
-class StagedMain final : public RangeFormsOwner {
+class StagedMain : public QWidget {
  public:
-  StagedMain(ProgramFolder folder, RangeForms& dialogs) : Folder(std::move(folder)), Dialogs(dialogs) {
-    for (std::int16_t index = 0; index < kChooserCount; ++index)
-      List(index).OnClick([this, index] { ClickChooser(*this, index); });
+  StagedMain() {
+    std::vector<ControlRow> rows = {{.Name = "lblLastEdit", .Text = "0", .Place = {0, 0, 300, 300}, .Hidden = true}};
+    for (std::int16_t i = 0; i < kChooserCount; ++i) {
+      const auto top = static_cast<float>(600 * i);
+      rows.push_back({.Name = "cmboRanges", .Index = i, .Kind = ControlKind::kChooser, .Place = {0, top, 3000, 300}});
+      rows.push_back({.Name = "lblOr", .Index = i, .Place = {3300, top, 300, 300}});
+      for (const std::string_view link : {"lblEditRange", "lblNewRange"})
+        rows.push_back({.Name = link, .Index = i, .Place = {3900, top, 300, 300}, .Use = ControlUse::kLink});
+    }
+    const ControlTable table{.Container = {}, .Font = {.Family = "Arial", .Points = 9}, .Rows = rows};
+    Controls = BuildForm(*this, {&table, 1});
+    setCursor(Qt::WaitCursor);
   }
 
-  void RefreshLists() override {
-    ++Refreshes;
-    const std::array<ChooserList*, kChooserCount + 1> lists = {&List(0), &List(1), &List(2), &List(3), &ManagerList()};
-    RefreshRangeLists(lists, Folder);
+  [[nodiscard]] bool HasDefaultPointer() const { return cursor().shape() == Qt::ArrowCursor; }
+  [[nodiscard]] bool OffersEdit(std::int16_t index) const {
+    const bool edit = !Controls.LabelAt("lblEditRange", index).isHidden();
+    EXPECT_EQ(edit, !Controls.LabelAt("lblOr", index).isHidden()) << index;
+    return edit;
   }
-  void SetDefaultPointer() override { ++PointerResets; }
-  [[nodiscard]] ChooserList& Chooser(std::int16_t index) override { return List(index); }
-  void SetOrVisible(std::int16_t index, bool visible) override { OrVisible.at(At(index)) = visible; }
-  void SetEditRangeVisible(std::int16_t index, bool visible) override { EditRangeVisible.at(At(index)) = visible; }
-  [[nodiscard]] std::string LastEdit() const override { return LastEditCaption; }
-  void SetLastEdit(std::string_view caption) override { LastEditCaption = caption; }
-  [[nodiscard]] ChooserList& ManagerList() override { return Dialogs.ManagerList(); }
-  void ShowManager() override { Dialogs.ShowManager(); }
-  NewRangeWindow& ShowNewRange() override { return Dialogs.ShowNewRange(); }
 
-  [[nodiscard]] RecordedList& List(std::int16_t index) { return Choosers.at(At(index)); }
-
-  ProgramFolder Folder;
-  RangeForms& Dialogs;
-  int Refreshes = 0;
-  int PointerResets = 0;
-  std::array<RecordedList, kChooserCount> Choosers = {RecordedList("cmboRanges(0)"), RecordedList("cmboRanges(1)"),
-                                                      RecordedList("cmboRanges(2)"), RecordedList("cmboRanges(3)")};
-  std::array<bool, kChooserCount> OrVisible = {};
-  std::array<bool, kChooserCount> EditRangeVisible = {};
-  std::string LastEditCaption = "0";
-
- private:
-  [[nodiscard]] static std::size_t At(std::int16_t index) { return static_cast<std::size_t>(index); }
+  FormControls Controls;
 };
 
 /// Everything on stage. The ranges are "Button Shove", with AA full and AKs half, and "Tight", with AA, KK and QQ.
@@ -64,27 +51,36 @@ class DialogStage {
   DialogStage() {
     Program.Write("Button Shove.txt", TextWith("AA", "AKs"));
     Program.Write("Tight.txt", TextWith("AA KK QQ"));
-    Dialogs.Attach(Main);
+    // Each time that all lists are filled, the first one is, too.
+    QObject::connect(&List(0), &FormChooser::Clicked, &Main, [this] { ++Refreshes; });
   }
 
   /// The Range Manager, shown.
   ManagerForm& OpenManager() {
-    Main.ShowManager();
+    Dialogs.ShowManager();
     return *Dialogs.LoadedManager();
   }
 
   /// The New Range dialog, opened by the link of a chooser.
   NewRangeForm& OpenNewRange(std::int16_t chooser = 0) {
-    ClickNewRange(Main, chooser);
+    Main.Controls.LabelAt("lblNewRange", chooser).Click();
     return *Dialogs.LoadedNewRange();
   }
 
+  void ClickEdit(std::int16_t chooser) const { Main.Controls.LabelAt("lblEditRange", chooser).Click(); }
+
+  [[nodiscard]] FormChooser& List(std::int16_t index) const { return Dialogs.Choosers().List(index); }
+  [[nodiscard]] std::string Chosen(std::int16_t index) const { return List(index).CurrentText(); }
+  [[nodiscard]] std::string FileText(std::string_view name) const { return LoadRangeText(Program.Folder(), name); }
+
   TemporaryProgram Program;
   bool ShiftHeld = false;
+  int Refreshes = 0;
   MessageDialogs Boxes;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
-  RangeDialogs Dialogs{Program.Folder(), Boxes, Boxes, Shift};
-  StagedMain Main{Program.Folder(), Dialogs};
+  StagedMain Main;
+  RangeDialogs Dialogs{
+      Main, Main.Controls, {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
 };
 
 /// A click of the left mouse button in the middle of the control, sent the way of the window's own events, so that it

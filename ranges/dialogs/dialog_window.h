@@ -7,6 +7,10 @@
 #include <span>
 #include <string_view>
 
+#include "ranges/dialogs/shift_watch.h"
+#include "ranges/range_files.h"
+#include "support/input_boxes.h"
+#include "support/message_boxes.h"
 #include "support/twips.h"
 #include "toolkit/form_builder.h"
 
@@ -17,6 +21,14 @@ struct DialogDesign {
   std::string_view Title;
   TwipSize Size;  // the inner area
   std::span<const ControlTable> Tables;
+};
+
+/// What a dialog finds round it. All of it outlives the dialog.
+struct DialogSurroundings {
+  ProgramFolder Folder;
+  MessageBoxes& Messages;
+  InputBoxes& Inputs;
+  ShiftWatch& Shift;
 };
 
 /// Makes `form` a window of that design, hidden, and builds its controls.

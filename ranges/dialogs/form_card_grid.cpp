@@ -10,8 +10,6 @@
 namespace quillon {
 namespace {
 
-constexpr int kSide = 13;
-
 std::size_t At(std::int16_t index) {
   return static_cast<std::size_t>(index);
 }
@@ -21,89 +19,87 @@ QString SpokenState(Rgb color) {
   return color == kHalfColor ? QStringLiteral("half as likely") : QStringLiteral("not selected");
 }
 
+CardGridPlaces PlacesIn(const FormControls& controls) {
+  const TwipRect frame = TwipsOf(controls.ShapeAt("shapeBlue").geometry());
+  const TwipRect square = TwipsOf(controls.ShapeAt("shapeCardBack", 0).geometry());
+  return PlaceCardGrid(frame.Left, frame.Top, {.Width = square.Width, .Height = square.Height});
+}
+
 }  // namespace
 
 FormCardGrid::FormCardGrid(FormControls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half)
-    : controls_(controls),
-      container_(container),
-      shift_(shift),
-      half_(half),
-      frame_(TwipsOf(controls.ShapeAt("shapeBlue").geometry())) {
+    : controls_(controls), container_(container), shift_(shift), half_(half), places_(PlacesIn(controls)) {
+  controls.ShapeAt("shapeBlue").setGeometry(PixelPlace(places_.Frame));
   squares_[0] = &controls.ShapeAt("shapeCardBack", 0);
   labels_[0] = &controls.LabelAt("lblCards", 0);
-  squareRects_[0] = TwipsOf(squares_[0]->geometry());
-  Listen(0);
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    BuildCell(index);
   MakeTabStop(0);
 }
 
-void FormCardGrid::SetFrameRect(const TwipRect& rect) {
-  frame_ = rect;
-  controls_.ShapeAt("shapeBlue").setGeometry(PixelPlace(rect));
+CellColors FormCardGrid::Colors() const {
+  CellColors cells{};
+  for (std::size_t index = 0; index < cells.size(); ++index)
+    cells.at(index) = FromColor(squares_.at(index)->Fill());
+  return cells;
 }
 
-void FormCardGrid::CreateCell(std::int16_t index) {
-  auto* square = new Shape(ControlKind::kShape, &container_);
-  square->SetLineColor(Square(0).LineColor());
-  square->setObjectName(ToQt(ObjectName("shapeCardBack", index)));
-  square->hide();
-  auto* label = new Label(&container_);
-  label->setFont(Cell(0).font());
-  label->SetUse(Cell(0).Use());
-  label->SetTextColor(Cell(0).TextColor());
-  label->setObjectName(ToQt(ObjectName("lblCards", index)));
-  label->hide();
-
-  squares_.at(At(index)) = square;
-  labels_.at(At(index)) = label;
-  controls_.Add(square);
-  controls_.Add(label);
-  Listen(index);
+void FormCardGrid::Show(const CellColors& cells) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const Rgb color = cells.at(At(index));
+    SetFill(index, color);
+    Cell(index).SetTextColor(ToColor(CaptionColorOn(color)));
+  }
 }
 
-TwipRect FormCardGrid::SquareRect(std::int16_t index) const {
-  return squareRects_.at(At(index));
-}
-
-void FormCardGrid::SetSquareRect(std::int16_t index, const TwipRect& rect) {
-  squareRects_.at(At(index)) = rect;
-  Square(index).setGeometry(PixelPlace(rect));
-}
-
-void FormCardGrid::SetLabelRect(std::int16_t index, const TwipRect& rect) {
-  Cell(index).SetPlace(PixelPlace(rect));
-}
-
-void FormCardGrid::SetLabelCaption(std::int16_t index, std::string_view caption) {
-  Cell(index).SetAlignment(TextAlignment::kCentered);
-  Cell(index).SetText(ToQt(caption));
-}
-
-void FormCardGrid::ShowSquare(std::int16_t index) {
-  Square(index).show();
-  Square(index).raise();
-}
-
-void FormCardGrid::ShowLabel(std::int16_t index) {
-  Cell(index).show();
-  Cell(index).raise();
-}
-
-Rgb FormCardGrid::CellColor(std::int16_t index) const {
-  return FromColor(Square(index).Fill());
-}
-
-void FormCardGrid::SetCellColor(std::int16_t index, Rgb color) {
+void FormCardGrid::SetFill(std::int16_t index, Rgb color) {
   Square(index).SetFill(ToColor(color));
   // Where cells are selected the colour is their state, which is told to somebody who cannot see it.
   if (half_ != nullptr) Cell(index).setAccessibleDescription(SpokenState(color));
 }
 
-void FormCardGrid::SetCaptionColor(std::int16_t index, Rgb color) {
-  Cell(index).SetTextColor(ToColor(color));
+void FormCardGrid::Toggle(std::int16_t index) {
+  CellColors cells = Colors();
+  ToggleCell(cells, index, {.Half = half_ != nullptr && half_->isChecked(), .Shift = shift_.Ask()});
+  Show(cells);
 }
 
-bool FormCardGrid::HalfChecked() const {
-  return half_ != nullptr && half_->isChecked();
+void FormCardGrid::Raise(std::int16_t index) {
+  Square(index).raise();
+  Cell(index).raise();
+}
+
+const TwipRect& FormCardGrid::SquarePlace(std::int16_t index) const {
+  return places_.Cells.at(At(index)).Square;
+}
+
+void FormCardGrid::BuildCell(std::int16_t index) {
+  if (index > 0) {
+    auto* square = new Shape(ControlKind::kShape, &container_);
+    square->SetLineColor(Square(0).LineColor());
+    square->setObjectName(ToQt(ObjectName("shapeCardBack", index)));
+    auto* label = new Label(&container_);
+    label->setFont(Cell(0).font());
+    label->SetUse(Cell(0).Use());
+    label->SetTextColor(Cell(0).TextColor());
+    label->setObjectName(ToQt(ObjectName("lblCards", index)));
+
+    squares_.at(At(index)) = square;
+    labels_.at(At(index)) = label;
+    controls_.Add(square);
+    controls_.Add(label);
+  }
+  const CellPlace& place = places_.Cells.at(At(index));
+  const std::string_view caption = HandLabel(index);
+  Square(index).setGeometry(PixelPlace(place.Square));
+  SetFill(index, CellBaseColor(caption));
+  Cell(index).SetPlace(PixelPlace(place.Label));
+  Cell(index).SetAlignment(TextAlignment::kCentered);
+  Cell(index).SetText(ToQt(caption));
+  Square(index).show();
+  Cell(index).show();
+  Raise(index);
+  Listen(index);
 }
 
 void FormCardGrid::Listen(std::int16_t index) {
@@ -127,10 +123,10 @@ bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormCardGrid::MoveFocus(std::int16_t from, int key) {
-  const int row = from / kSide + (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0);
-  const int column = from % kSide + (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
-  if (row < 0 || row >= kSide || column < 0 || column >= kSide) return;
-  const auto index = static_cast<std::int16_t>(row * kSide + column);
+  const int row = from / kRankCount + (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0);
+  const int column = from % kRankCount + (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
+  if (row < 0 || row >= kRankCount || column < 0 || column >= kRankCount) return;
+  const auto index = static_cast<std::int16_t>(row * kRankCount + column);
   MakeTabStop(index);
   Cell(index).setFocus(Qt::OtherFocusReason);
 }

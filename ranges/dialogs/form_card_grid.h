@@ -1,7 +1,8 @@
 #pragma once
 
-// The card grid of a form, made of the form's own controls. It also carries what the keyboard does: Tab reaches the
-// grid at one cell, the arrow keys go from there to the neighbours, and Enter or Space presses the cell.
+// The card grid of a form, made of the form's own controls: the cell of index 0, of which all others are copies, and
+// `shapeBlue`, which is fitted round them. It also carries what the keyboard does: Tab reaches the grid at one cell,
+// the arrow keys go from there to the neighbours, and Enter or Space presses the cell. An index is that of a class.
 
 #include <QCheckBox>
 #include <QObject>
@@ -16,28 +17,31 @@
 
 namespace quillon {
 
-class FormCardGrid : public QObject, public CardGridForm {
+class FormCardGrid : public QObject {
   Q_OBJECT
 
  public:
-  /// `container` is the form or screen that holds the design cell, of index 0, and `shapeBlue`. `half` is the check box
-  /// for half weight, null where the form has none. New cells are made known to `controls`.
+  /// Builds the cells, shown and unselected, each label in front of its square and all in front of what `container`,
+  /// the form or screen, has besides. The captions keep the colour of label 0. `half` is the check box for half weight,
+  /// null where the form has none. New cells are made known to `controls`.
   FormCardGrid(FormControls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half);
 
-  [[nodiscard]] TwipRect FrameRect() const override { return frame_; }
-  void SetFrameRect(const TwipRect& rect) override;
-  void CreateCell(std::int16_t index) override;
-  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override;
-  void SetSquareRect(std::int16_t index, const TwipRect& rect) override;
-  void SetLabelRect(std::int16_t index, const TwipRect& rect) override;
-  void SetLabelCaption(std::int16_t index, std::string_view caption) override;
-  void ShowSquare(std::int16_t index) override;
-  void ShowLabel(std::int16_t index) override;
-  [[nodiscard]] Rgb CellColor(std::int16_t index) const override;
-  void SetCellColor(std::int16_t index, Rgb color) override;
-  void SetCaptionColor(std::int16_t index, Rgb color) override;
-  [[nodiscard]] bool HalfChecked() const override;
-  [[nodiscard]] bool ShiftKeyPressed() override { return shift_.Ask(); }
+  /// The fills of the squares as they are.
+  [[nodiscard]] CellColors Colors() const;
+
+  /// Gives each square its colour and each caption the one that goes with it.
+  void Show(const CellColors& cells);
+
+  /// Gives one square a colour; its caption keeps its own.
+  void SetFill(std::int16_t index, Rgb color);
+
+  /// What a click does: toggles the cell by the check box and the Shift test, which is used up by that.
+  void Toggle(std::int16_t index);
+
+  /// Brings a cell to the front.
+  void Raise(std::int16_t index);
+
+  [[nodiscard]] const TwipRect& SquarePlace(std::int16_t index) const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -46,6 +50,7 @@ class FormCardGrid : public QObject, public CardGridForm {
   void CellReached(qint16 index);  // the mouse moved over it, or the keyboard went there
 
  private:
+  void BuildCell(std::int16_t index);
   void Listen(std::int16_t index);
   void MoveFocus(std::int16_t from, int key);
   void MakeTabStop(std::int16_t index);
@@ -56,8 +61,7 @@ class FormCardGrid : public QObject, public CardGridForm {
   QWidget& container_;
   ShiftWatch& shift_;
   const QCheckBox* half_;
-  TwipRect frame_;
-  std::array<TwipRect, kHandClassCount> squareRects_{};
+  CardGridPlaces places_;
   std::array<Shape*, kHandClassCount> squares_{};
   std::array<Label*, kHandClassCount> labels_{};
   std::int16_t tabStop_ = 0;

@@ -8,6 +8,7 @@
 #include "ranges/dialogs/dialog_fixtures.h"
 #include "ranges/range_text.h"
 #include "toolkit/colors.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -25,7 +26,7 @@ class FormCardGridTest : public testing::Test {
   }
   void Click(std::string_view label) const { ClickCell(Form.Controls(), label); }
   void CheckHalf() const { ClickOn(Form.Controls(), "chkHalf"); }
-  [[nodiscard]] std::string Text() const { return RangeTextFromGrid(Form.Grid()); }
+  [[nodiscard]] std::string Text() const { return RangeTextFromGrid(Form.Grid().Colors()); }
   [[nodiscard]] Rgb CaptionColor(std::string_view label) const {
     return FromColor(Form.Controls().LabelAt("lblCards", HandIndex(label)).TextColor());
   }
@@ -39,11 +40,16 @@ class FormCardGridTest : public testing::Test {
 };
 
 TEST_F(FormCardGridTest, CellsStandBesideEachOtherInsideTheFittedFrame) {
-  const CardGridForm& grid = Form.Grid();
-  EXPECT_EQ(grid.SquareRect(0), (TwipRect{1360, 940, 405, 405}));
-  EXPECT_EQ(grid.SquareRect(14), (TwipRect{1790, 1370, 405, 405}));
-  EXPECT_EQ(grid.FrameRect(), (TwipRect{1260, 840, 5765, 5765}));
-  EXPECT_FALSE(Form.Controls().ShapeAt("shapeBlue").isVisible());
+  const FormCardGrid& grid = Form.Grid();
+  EXPECT_EQ(grid.SquarePlace(0), (TwipRect{1360, 940, 405, 405}));
+  EXPECT_EQ(grid.SquarePlace(14), (TwipRect{1790, 1370, 405, 405}));
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    EXPECT_EQ(Form.Controls().ShapeAt("shapeCardBack", index).geometry(), PixelPlace(grid.SquarePlace(index)));
+    EXPECT_EQ(Form.Controls().LabelAt("lblCards", index).Text(), ToQt(HandLabel(index)));
+  }
+  const Shape& frame = Form.Controls().ShapeAt("shapeBlue");
+  EXPECT_EQ(frame.geometry(), PixelPlace({1260, 840, 5765, 5765}));
+  EXPECT_FALSE(frame.isVisible());
 }
 
 TEST_F(FormCardGridTest, EveryCellCanBeClickedOnItsCaptionAndOnItsEdge) {

@@ -9,16 +9,22 @@ FormChooser::FormChooser(QComboBox& box) : box_(box) {
   connect(&box_, &QComboBox::activated, this, &FormChooser::Clicked);
 }
 
-void FormChooser::Clear() {
-  const QSignalBlocker quiet(box_);
-  box_.clear();
+void FormChooser::Show(const RangeListContents& contents) {
+  {
+    const QSignalBlocker quiet(box_);
+    box_.clear();
+    for (const std::string& entry : contents.Entries)
+      box_.addItem(ToQt(entry));
+    // A drop-down list of Qt's selects its first entry by itself; nothing is selected until somebody does.
+    box_.setCurrentIndex(-1);
+  }
+  if (contents.Selected) Select(*contents.Selected);
 }
 
-void FormChooser::Add(std::string_view text) {
-  const QSignalBlocker quiet(box_);
-  box_.addItem(ToQt(text));
-  // A drop-down list of Qt's selects its first entry by itself; nothing is selected until somebody does.
-  if (box_.count() == 1) box_.setCurrentIndex(-1);
+void FormChooser::SelectEntry(std::string_view name) {
+  for (int index = 0; index < box_.count(); ++index) {
+    if (FromQt(box_.itemText(index)) == name) return Select(index);
+  }
 }
 
 void FormChooser::Select(int index) {
@@ -54,14 +60,20 @@ std::string FormListBox::CurrentText() const {
   return item == nullptr ? std::string() : FromQt(item->text());
 }
 
-void FormListBox::Clear() {
-  const QSignalBlocker quiet(list_);
-  list_.clear();
+void FormListBox::Show(const RangeListContents& contents) {
+  {
+    const QSignalBlocker quiet(list_);
+    list_.clear();
+    for (const std::string& entry : contents.Entries)
+      list_.addItem(ToQt(entry));
+  }
+  if (contents.Selected) Select(*contents.Selected);
 }
 
-void FormListBox::Add(std::string_view text) {
-  const QSignalBlocker quiet(list_);
-  list_.addItem(ToQt(text));
+void FormListBox::SelectEntry(std::string_view name) {
+  for (int row = 0; row < list_.count(); ++row) {
+    if (FromQt(list_.item(row)->text()) == name) return Select(row);
+  }
 }
 
 void FormListBox::Select(int index) {

@@ -16,40 +16,40 @@
 
 namespace quillon {
 
-class FormChooser : public QObject, public ChooserList {
+class FormChooser : public QObject {
   Q_OBJECT
 
  public:
   explicit FormChooser(QComboBox& box);
 
-  [[nodiscard]] std::string ControlName() const override { return FromQt(box_.objectName()); }
-  [[nodiscard]] std::string CurrentText() const override { return FromQt(box_.currentText()); }
-  void Clear() override;
-  void Add(std::string_view text) override;
-  [[nodiscard]] int Count() const override { return box_.count(); }
-  [[nodiscard]] std::string Entry(int index) const override { return FromQt(box_.itemText(index)); }
-  void Select(int index) override;
+  /// The selected entry, the empty text if none is selected.
+  [[nodiscard]] std::string CurrentText() const { return FromQt(box_.currentText()); }
+
+  /// Puts these entries in place of all others, and selects one of them by a click.
+  void Show(const RangeListContents& contents);
+
+  /// Selects the first entry equal to `name` by a click; does nothing if there is none.
+  void SelectEntry(std::string_view name);
 
  Q_SIGNALS:
   void Clicked();
 
  private:
+  void Select(int index);
+
   QComboBox& box_;
 };
 
-class FormListBox : public QObject, public ChooserList {
+class FormListBox : public QObject {
   Q_OBJECT
 
  public:
   explicit FormListBox(QListWidget& list);
 
-  [[nodiscard]] std::string ControlName() const override { return FromQt(list_.objectName()); }
-  [[nodiscard]] std::string CurrentText() const override;
-  void Clear() override;
-  void Add(std::string_view text) override;
-  [[nodiscard]] int Count() const override { return list_.count(); }
-  [[nodiscard]] std::string Entry(int index) const override { return FromQt(list_.item(index)->text()); }
-  void Select(int index) override;
+  /// As those of FormChooser.
+  [[nodiscard]] std::string CurrentText() const;
+  void Show(const RangeListContents& contents);
+  void SelectEntry(std::string_view name);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -57,6 +57,8 @@ class FormListBox : public QObject, public ChooserList {
   void Clicked();
 
  private:
+  void Select(int index);
+
   QListWidget& list_;
   int rowBeforePress_ = -1;  // the selected one when the left mouse button went down
 };

@@ -2,21 +2,20 @@
 
 #include <QTest>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace quillon {
 namespace {
 
-template <typename Adapter>
-void FillWithThree(Adapter& list) {
-  for (const std::string_view name : {"one", "two", "three"})
-    list.Add(name);
+RangeListContents Three(std::optional<int> selected = {}) {
+  return {{"one", "two", "three"}, selected};
 }
 
 class FormListBoxTest : public testing::Test {
  public:
   FormListBoxTest() {
     Widget.setObjectName(QStringLiteral("lstRanges"));
-    FillWithThree(List);
+    List.Show(Three());
     QObject::connect(&List, &FormListBox::Clicked, &List, [this] { ++Clicks; });
     Widget.resize(200, 200);
     Widget.show();
@@ -31,19 +30,30 @@ class FormListBoxTest : public testing::Test {
   int Clicks = 0;
 };
 
-TEST_F(FormListBoxTest, StartsWithNothingSelectedAndNoClick) {
-  EXPECT_EQ(List.ControlName(), "lstRanges");
-  EXPECT_EQ(List.Count(), 3);
-  EXPECT_EQ(List.Entry(2), "three");
+TEST_F(FormListBoxTest, FillingSelectsNothingUnlessItIsToldTo) {
+  EXPECT_EQ(Widget.count(), 3);
   EXPECT_EQ(List.CurrentText(), "");
   EXPECT_EQ(Clicks, 0);
+  List.Show(Three(1));
+  EXPECT_EQ(Widget.count(), 3);
+  EXPECT_EQ(List.CurrentText(), "two");
+  EXPECT_EQ(Clicks, 1);
 }
 
 TEST_F(FormListBoxTest, ASelectionInCodeIsAClickAlsoOfTheSelectedEntry) {
-  List.Select(1);
-  List.Select(1);
+  List.SelectEntry("two");
+  List.SelectEntry("two");
   EXPECT_EQ(List.CurrentText(), "two");
   EXPECT_EQ(Clicks, 2);
+  List.SelectEntry("Two");
+  EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
+  EXPECT_EQ(Clicks, 2);
+}
+
+TEST_F(FormListBoxTest, TheFirstOfEqualEntriesIsSelected) {
+  List.Show({{"a", "b", "b"}, {}});
+  List.SelectEntry("b");
+  EXPECT_EQ(Widget.currentRow(), 1);
 }
 
 TEST_F(FormListBoxTest, EachPressOfTheMouseIsOneClickAlsoOnTheSelectedEntry) {
@@ -76,24 +86,24 @@ TEST_F(FormListBoxTest, APressBelowTheEntriesIsNoClick) {
   EXPECT_EQ(Clicks, 1);
 }
 
-TEST_F(FormListBoxTest, EmptyingAndFillingIsNoClick) {
-  List.Select(2);
-  List.Clear();
+TEST_F(FormListBoxTest, FillingAnewLetsGoOfTheSelectionWithoutAClick) {
+  List.SelectEntry("three");
+  List.Show(Three());
   EXPECT_EQ(List.CurrentText(), "");
-  FillWithThree(List);
   EXPECT_EQ(Clicks, 1);
 }
 
 TEST_F(FormListBoxTest, ANameKeepsItsLettersAndIsNoMarkUp) {
-  List.Add("<b>K\xC3\xB6nig</b>");
-  EXPECT_EQ(List.Entry(3), "<b>K\xC3\xB6nig</b>");
+  List.Show({{"<b>K\xC3\xB6nig</b>"}, 0});
+  EXPECT_EQ(List.CurrentText(), "<b>K\xC3\xB6nig</b>");
+  EXPECT_EQ(Widget.item(0)->text(), QStringLiteral("<b>K\u00F6nig</b>"));
 }
 
 class FormChooserTest : public testing::Test {
  public:
   FormChooserTest() {
     Widget.setObjectName(QStringLiteral("cmboRanges(0)"));
-    FillWithThree(List);
+    List.Show(Three());
     QObject::connect(&List, &FormChooser::Clicked, &List, [this] { ++Clicks; });
     Widget.show();
   }
@@ -103,30 +113,36 @@ class FormChooserTest : public testing::Test {
   int Clicks = 0;
 };
 
-TEST_F(FormChooserTest, FillingSelectsNothing) {
-  EXPECT_EQ(List.ControlName(), "cmboRanges(0)");
-  EXPECT_EQ(List.Count(), 3);
+TEST_F(FormChooserTest, FillingSelectsNothingUnlessItIsToldTo) {
+  EXPECT_EQ(Widget.count(), 3);
   EXPECT_EQ(List.CurrentText(), "");
   EXPECT_EQ(Clicks, 0);
+  List.Show(Three(1));
+  EXPECT_EQ(Widget.count(), 3);
+  EXPECT_EQ(List.CurrentText(), "two");
+  EXPECT_EQ(Clicks, 1);
 }
 
 TEST_F(FormChooserTest, ASelectionInCodeIsAClickAlsoOfTheSelectedEntry) {
-  List.Select(1);
-  List.Select(1);
+  List.SelectEntry("two");
+  List.SelectEntry("two");
   EXPECT_EQ(List.CurrentText(), "two");
+  EXPECT_EQ(Clicks, 2);
+  List.SelectEntry("Two");
+  EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
   EXPECT_EQ(Clicks, 2);
 }
 
 TEST_F(FormChooserTest, TheKeyboardSelectsByAClick) {
-  List.Select(0);
+  List.SelectEntry("one");
   QTest::keyClick(&Widget, Qt::Key_Down);
   EXPECT_EQ(List.CurrentText(), "two");
   EXPECT_EQ(Clicks, 2);
 }
 
-TEST_F(FormChooserTest, EmptyingIsNoClick) {
-  List.Select(1);
-  List.Clear();
+TEST_F(FormChooserTest, FillingAnewLetsGoOfTheSelectionWithoutAClick) {
+  List.SelectEntry("two");
+  List.Show(Three());
   EXPECT_EQ(List.CurrentText(), "");
   EXPECT_EQ(Clicks, 1);
 }

@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <utility>
 
-#include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/form_place.h"
 #include "ranges/dialogs/manager_layout.h"
+#include "ranges/range_names.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -18,50 +18,132 @@ ManagerForm::ManagerForm(DialogSurroundings surroundings)
       controls_(BuildDialog(*this, {.Title = kManagerTitle, .Size = kManagerSize, .Tables = ManagerLayout()})),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
       list_(controls_.Get<QListWidget>("lstRanges")) {
+  FormPlace place(*this);
+  RestoreWindowPosition(place, kManagerSection, around_.Folder);
+  OrderTabs(controls_, ManagerTabOrder());
   Bind();
 }
 
-void ManagerForm::Load() {
-  FormPlace place(*this);
-  RestoreWindowPosition(place, kManagerSection, around_.Folder);
-  BuildCardGrid(grid_);
-  OrderTabs(controls_, ManagerTabOrder());
-  RefreshLists();
-}
-
-void ManagerForm::SetRangeName(std::string_view caption) {
-  controls_.LabelAt("lblRangeName").SetText(ToQt(caption));
-}
-
-void ManagerForm::SetSelectionCaption(std::string_view caption) {
-  controls_.LabelAt("lblRangeInfo").SetText(ToQt(caption));
-}
-
-void ManagerForm::SetSummary(std::string_view text) {
-  controls_.Get<QPlainTextEdit>("txtRangeAbbr").setPlainText(ToQt(text));
+void ManagerForm::RefreshList() {
+  list_.Show(FillRangeList(around_.Folder, ListStart::kFirstRange, list_.CurrentText()));
 }
 
 void ManagerForm::closeEvent(QCloseEvent* event) {
   event->accept();
   SaveWindowPosition(FormPlace(*this), kManagerSection, around_.Folder);
-  around_.Owner.SetDefaultPointer();
   Q_EMIT Closed();
 }
 
 void ManagerForm::Bind() {
-  connect(&list_, &FormListBox::Clicked, this, [this] { ClickRangeList(*this, around_.Folder); });
-  connect(&grid_, &FormCardGrid::CellClicked, this, [this](qint16 index) { ClickManagerCell(*this, index); });
-  BindPicture("imgNew", ClickNew);
-  BindPicture("imgSave", ClickSave);
-  BindPicture("imgSaveAs", ClickSaveAs);
-  BindPicture("imgRename", ClickRename);
-  BindPicture("imgDelete", ClickDelete);
-  connect(&controls_.Get<QPushButton>("cmdOK"), &QPushButton::clicked, this,
-          [this] { ClickManagerOk(*this, around_.Folder); });
+  connect(&list_, &FormListBox::Clicked, this, &ManagerForm::ShowRange);
+  connect(&grid_, &FormCardGrid::CellClicked, this, [this](qint16 index) {
+    grid_.Toggle(index);
+    ShowSelectionCaption();
+    SetSummary(GridSummary(grid_.Colors()));
+  });
+  connect(&controls_.PictureAt("imgNew"), &Control::Clicked, this, &ManagerForm::ClickNew);
+  connect(&controls_.PictureAt("imgSave"), &Control::Clicked, this, &ManagerForm::ClickSave);
+  connect(&controls_.PictureAt("imgSaveAs"), &Control::Clicked, this, &ManagerForm::ClickSaveAs);
+  connect(&controls_.PictureAt("imgRename"), &Control::Clicked, this, &ManagerForm::ClickRename);
+  connect(&controls_.PictureAt("imgDelete"), &Control::Clicked, this, &ManagerForm::ClickDelete);
+  connect(&controls_.Get<QPushButton>("cmdOK"), &QPushButton::clicked, this, &ManagerForm::ClickOk);
 }
 
-void ManagerForm::BindPicture(std::string_view name, Action action) {
-  connect(&controls_.PictureAt(name), &Control::Clicked, this, [this, action] { action(*this, around_.Folder); });
+void ManagerForm::ShowRange() {
+  const std::string name = list_.CurrentText();
+  CellColors cells = UnselectedCells();
+  grid_.Show(cells);
+  ShowRangeOnGrid(cells, around_.Folder, name);
+  grid_.Show(cells);
+  // Of what the grid can show: a weight such as 0.25 in the file does not appear.
+  SetSummary(GridSummary(cells));
+  controls_.LabelAt("lblRangeName").SetText(ToQt(name));
+  ShowSelectionCaption();
+}
+
+void ManagerForm::ClickNew() {
+  const std::string answer = AskName(kAskNewName, {});
+  if (answer.empty() || !MayTakeName(answer)) return;
+
+  grid_.Show(UnselectedCells());
+  SetSummary({});
+  ShowSelectionCaption();
+  SaveGridAs(answer);
+  RefreshAndSelect(answer);
+}
+
+void ManagerForm::ClickSave() {
+  const std::string name = list_.CurrentText();
+  SaveGridAs(name);
+  around_.Messages.Show(RangeSavedMessage(name));
+  Q_EMIT RangesChanged();
+}
+
+void ManagerForm::ClickSaveAs() {
+  const std::string answer = AskName(kAskSaveAsName, list_.CurrentText());
+  if (answer.empty() || !MayTakeName(answer)) return;
+
+  SaveGridAs(answer);
+  RefreshAndSelect(answer);
+  around_.Messages.Show(RangeSavedMessage(answer));
+}
+
+void ManagerForm::ClickRename() {
+  const std::string name = list_.CurrentText();
+  const std::string answer = AskName(kAskRename, name);
+  // Here a cancelled box is not silent: its empty answer is refused like any other.
+  if (!MayTakeName(answer)) return;
+
+  RenameRange(around_.Folder, name, answer, RangeTextFromGrid(grid_.Colors()));
+  RefreshAndSelect(answer);
+  around_.Messages.Show(RangeRenamedMessage(name, answer));
+}
+
+void ManagerForm::ClickDelete() {
+  const std::string name = list_.CurrentText();
+  if (around_.Messages.Show(DeleteRangeQuestion(name)) != MessageAnswer::kYes) return;
+
+  DeleteRange(around_.Folder, name);
+  Q_EMIT RangesChanged();
+}
+
+void ManagerForm::ClickOk() {
+  if (HasBeenModified()) {
+    const MessageAnswer answer = around_.Messages.Show(SaveRangeQuestion(list_.CurrentText()));
+    if (answer == MessageAnswer::kYes) ClickSave();
+    if (answer == MessageAnswer::kCancel) return;
+  }
+  close();
+}
+
+std::string ManagerForm::AskName(const NameQuestion& question, std::string_view onOffer) {
+  return around_.Inputs.Ask(question.Prompt, question.Title, onOffer);
+}
+
+bool ManagerForm::MayTakeName(std::string_view name) {
+  return ValidateRangeName(around_.Folder, name, around_.Messages);
+}
+
+// As texts, so a weight that the grid cannot show, such as 0.25, is a change, and so is no range at all.
+bool ManagerForm::HasBeenModified() const {
+  return RangeTextFromGrid(grid_.Colors()) != LoadRangeText(around_.Folder, list_.CurrentText());
+}
+
+void ManagerForm::SaveGridAs(std::string_view name) {
+  SaveRangeText(around_.Folder, name, RangeTextFromGrid(grid_.Colors()));
+}
+
+void ManagerForm::RefreshAndSelect(std::string_view name) {
+  Q_EMIT RangesChanged();
+  list_.SelectEntry(name);
+}
+
+void ManagerForm::ShowSelectionCaption() {
+  controls_.LabelAt("lblRangeInfo").SetText(ToQt(GridCaption(grid_.Colors())));
+}
+
+void ManagerForm::SetSummary(std::string_view text) {
+  controls_.Get<QPlainTextEdit>("txtRangeAbbr").setPlainText(ToQt(text));
 }
 
 }  // namespace quillon

@@ -1,42 +1,46 @@
 #pragma once
 
-// The Range Manager, `frmManager`: each event of its controls goes to the routine that answers it
-// ("ranges/range_manager.h"). It is a window beside the main one and not modal.
+// The Range Manager, `frmManager`: the window in which ranges are looked at, edited, made, renamed and deleted, beside
+// the main one and not modal. A list shows the names, a grid the selected range, a label and a text box sum it up. The
+// grid is a working copy. It reaches a file through Save, Save As, Rename, or the question at OK, and whatever selects
+// an entry of the list, a refresh too, paints the grid anew from the file: changes that were not saved are gone then,
+// without a question.
+//
+// Nothing is kept beside the controls. The range that is shown is the selected entry, the empty text where none is, and
+// whether it was changed is found out by comparison. Failures of files are told at "ranges/range_files.h".
 
 #include <QWidget>
+#include <string>
 #include <string_view>
 
+#include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/form_list.h"
-#include "ranges/dialogs/range_forms.h"
-#include "ranges/range_manager.h"
+#include "ranges/range_messages.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
 
-class ManagerForm : public QWidget, public ManagerWindow {
+class ManagerForm : public QWidget {
   Q_OBJECT
 
  public:
+  /// The form where it stood last, hidden, with nothing selected on its grid and its list empty.
   explicit ManagerForm(DialogSurroundings surroundings);
 
-  /// Puts the form where it stood last, builds its grid and has all range lists filled, which selects and shows the
-  /// first range. To be called once, when the form can be found as the one whose list is filled.
-  void Load();
-
   [[nodiscard]] const FormControls& Controls() const { return controls_; }
+  [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
+  [[nodiscard]] FormListBox& RangeList() { return list_; }
 
-  [[nodiscard]] CardGridForm& Grid() override { return grid_; }
-  [[nodiscard]] ChooserList& RangeList() override { return list_; }
-  void SetRangeName(std::string_view caption) override;
-  void SetSelectionCaption(std::string_view caption) override;
-  void SetSummary(std::string_view text) override;
-  [[nodiscard]] MessageBoxes& Messages() override { return around_.Messages; }
-  [[nodiscard]] InputBoxes& Inputs() override { return around_.Inputs; }
-  void RefreshLists() override { around_.Owner.RefreshLists(); }
-  void Close() override { close(); }
+  /// Fills the list from the folder, which selects and shows a range: the same one where it still exists, otherwise the
+  /// first. Where there is none, the grid keeps what it shows. RunTimeError as told at FillRangeList, and as told at
+  /// ShowRangeOnGrid if the range's file is missing or empty.
+  void RefreshList();
 
  Q_SIGNALS:
+  /// The folder of ranges has changed: every list of ranges is to be filled anew before this returns.
+  void RangesChanged();
+
   /// The form was closed, by its OK or by its close box, and is not to be used again.
   void Closed();
 
@@ -44,10 +48,22 @@ class ManagerForm : public QWidget, public ManagerWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  using Action = void (*)(ManagerWindow& window, const ProgramFolder& folder);
-
   void Bind();
-  void BindPicture(std::string_view name, Action action);
+  void ShowRange();
+  void ClickNew();
+  void ClickSave();
+  void ClickSaveAs();
+  void ClickRename();
+  void ClickDelete();
+  void ClickOk();
+
+  [[nodiscard]] std::string AskName(const NameQuestion& question, std::string_view onOffer);
+  [[nodiscard]] bool MayTakeName(std::string_view name);
+  [[nodiscard]] bool HasBeenModified() const;
+  void SaveGridAs(std::string_view name);
+  void RefreshAndSelect(std::string_view name);
+  void ShowSelectionCaption();
+  void SetSummary(std::string_view text);
 
   DialogSurroundings around_;
   FormControls controls_;

@@ -1,9 +1,15 @@
 #include "ranges/dialogs/manager_form.h"
 
 #include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
@@ -33,10 +39,15 @@ class ManagerFormTest : public testing::Test {
   [[nodiscard]] std::string Summary() const {
     return FromQt(Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
   }
-  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid()); }
+  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid().Colors()); }
   [[nodiscard]] bool IsClosed() const { return Stage.Dialogs.LoadedManager() == nullptr; }
-  [[nodiscard]] std::string FileText(std::string_view name) const {
-    return LoadRangeText(Stage.Program.Folder(), name);
+  [[nodiscard]] std::string FileText(std::string_view name) const { return Stage.FileText(name); }
+
+  // Empties the folder and the list.
+  void LoseAllRanges() {
+    for (const char* name : {"Button Shove", "Tight"})
+      DeleteRange(Stage.Program.Folder(), name);
+    Stage.Dialogs.RefreshLists();
   }
 
   DialogStage Stage;
@@ -90,7 +101,7 @@ TEST_F(ManagerFormTest, SelectingAnotherRangeDropsChangesWithoutAQuestion) {
 TEST_F(ManagerFormTest, ARefreshByTheMainWindowDropsChangesWithoutAQuestion) {
   SelectRow(1);
   Cell("22");
-  Stage.Main.RefreshLists();
+  Stage.Dialogs.RefreshLists();
   EXPECT_EQ(Title(), "Tight");
   EXPECT_EQ(GridText(), TextWith("AA KK QQ"));
 }
@@ -129,6 +140,56 @@ TEST_F(ManagerFormTest, NewThatIsCancelledIsSilent) {
   EXPECT_EQ(Title(), "Button Shove");
 }
 
+TEST_F(ManagerFormTest, TheScratchRangeIsReplacedWithoutAWordAboutItsName) {
+  const auto scratch = [this] { return FileText("Temp Range1"); };
+  Stage.Program.Write("Temp Range1.txt", TextWith("22"));
+  ExpectInputBox(kNewQuestion, "Temp Range1");
+  Click("imgNew");
+  EXPECT_EQ(scratch(), TextWith(""));
+
+  Cell("33");
+  ExpectInputBox({kRenameQuestion.prompt, kRenameQuestion.title, "Temp Range1"}, "Temp Range1");
+  ExpectMessageBox({"Quillon", "The range was successfull renamed: \r\n\r\nOld: \tTemp Range1\r\nNew: \tTemp Range1"});
+  Click("imgRename");
+  EXPECT_EQ(scratch(), TextWith("33"));
+  EXPECT_EQ(Selected(), "Temp Range1");
+
+  SelectRow(0);
+  ExpectInputBox(kRenameQuestion, "Temp Range1");
+  ExpectMessageBox({"Quillon", "The range was successfull renamed: \r\n\r\nOld: \tButton Shove\r\nNew: \tTemp Range1"});
+  Click("imgRename");
+  EXPECT_EQ(scratch(), TextWith("AA", "AKs"));
+  EXPECT_FALSE(RangeExists(Stage.Program.Folder(), "Button Shove"));
+}
+
+// Save tells first and fills the lists then; Save As and Rename show their new range before they tell of it.
+TEST_F(ManagerFormTest, ItIsToldBeforeOrAfterTheListsAreFilled) {
+  std::string selected;
+  int refreshes = 0;
+  const auto look = [&](QDialog& box) {
+    selected = Selected();
+    refreshes = Stage.Refreshes;
+    box.accept();
+  };
+  for (const char* picture : {"imgSave", "imgSaveAs", "imgRename"}) {
+    SCOPED_TRACE(picture);
+    SelectRow(0);
+    Stage.Refreshes = 0;
+    const bool asksName = std::string_view(picture) != "imgSave";
+    if (asksName) {
+      ExpectDialog([&](QDialog& box) {
+        box.findChild<QLineEdit*>()->setText(ToQt("Zz " + std::string(picture)));
+        box.accept();
+      });
+    }
+    ExpectDialog(look);
+    Click(picture);
+    EXPECT_EQ(refreshes, asksName ? 1 : 0);
+    EXPECT_EQ(selected, asksName ? "Zz " + std::string(picture) : "Button Shove");
+    EXPECT_EQ(Stage.Refreshes, 1);
+  }
+}
+
 TEST_F(ManagerFormTest, SaveWritesTheGridAndTells) {
   Cell("22");
   ExpectMessageBox(Saved("Button Shove"));
@@ -145,6 +206,12 @@ TEST_F(ManagerFormTest, SaveAsLeavesTheOldFileAndSelectsTheNewName) {
   EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
   EXPECT_EQ(FileText("Wider"), TextWith("AA 22", "AKs"));
   EXPECT_EQ(Selected(), "Wider");
+}
+
+TEST_F(ManagerFormTest, SaveAsThatIsCancelledIsSilent) {
+  ExpectInputBoxCancelled(kSaveAsQuestion);
+  Click("imgSaveAs");
+  EXPECT_EQ(Selected(), "Button Shove");
 }
 
 TEST_F(ManagerFormTest, SaveAsWithTheNameOnOfferIsRefused) {
@@ -204,6 +271,21 @@ TEST_F(ManagerFormTest, TheGridGoesOnShowingTheLastRangeDeleted) {
   EXPECT_TRUE(IsClosed());
 }
 
+TEST_F(ManagerFormTest, SaveWithNothingSelectedWritesTheRangeWithoutAName) {
+  LoseAllRanges();
+  ExpectMessageBox(Saved(""));
+  Click("imgSave");
+  EXPECT_THAT(RangeFolderEntries(Stage.Program.Folder()), testing::ElementsAre(".txt"));
+  EXPECT_EQ(FileText(""), TextWith("AA", "AKs")) << "the grid went on showing the range that was selected last";
+}
+
+TEST_F(ManagerFormTest, NewInAnEmptyFolderSelectsItsRange) {
+  LoseAllRanges();
+  ExpectInputBox(kNewQuestion, "Fresh");
+  Click("imgNew");
+  EXPECT_EQ(Selected(), "Fresh");
+}
+
 TEST_F(ManagerFormTest, ImagesArePressedByEnterAndSpace) {
   auto& save = Controls().PictureAt("imgSave");
   save.setFocus(Qt::TabFocusReason);
@@ -251,18 +333,51 @@ TEST_F(ManagerFormTest, OkStaysOpenOnCancel) {
   EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
 }
 
-TEST_F(ManagerFormTest, AWeightThatTheGridCannotShowCountsAsChanged) {
-  std::string text = TextWith("AA");
-  text.replace(text.find("KK (0)"), 6, "KK (0.25)");
-  Stage.Program.Write("Odd.txt", text);
-  Stage.Main.RefreshLists();
-  SelectRow(1);
-  ASSERT_EQ(Title(), "Odd");
-  EXPECT_EQ(Summary(), "AA");
-  ExpectMessageBox(AskToSave("Odd"), MessageAnswer::kYes);
-  ExpectMessageBox(Saved("Odd"));
+TEST_F(ManagerFormTest, ChangedMeansThatGridAndFileDifferAsTexts) {
+  struct Case {
+    const char* rule;
+    std::string text;
+    bool changed;
+  };
+  const std::string rest = TextWith("KK").substr(8);
+  const std::vector<Case> cases = {
+      {"as saved", TextWith("AA", "KK"), false},
+      {"a weight that the grid cannot show", "AA (0.25), " + rest, true},
+      {"a weight that is written in another way", "AA (1.0), " + rest, true},
+      {"a remark after the entries", TextWith("AA") + "my best", true},
+      {"a second line end", TextWith("AA") + "\r\n", true},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.rule);
+    SaveRangeText(Stage.Program.Folder(), "Button Shove", c.text);
+    Stage.OpenManager();
+    SelectRow(0);
+    if (c.changed) ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kNo);
+    Click("cmdOK");
+    EXPECT_TRUE(IsClosed());
+    VerifyExpectedBoxes();
+  }
+}
+
+TEST_F(ManagerFormTest, AFileThatChangedBeneathTheGridCountsAsChanged) {
+  Stage.Program.Write("Button Shove.txt", TextWith("22"));
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kCancel);
   Click("cmdOK");
-  EXPECT_EQ(FileText("Odd"), TextWith("AA"));
+  std::filesystem::remove(Stage.Program.RangeFile("Button Shove.txt"));
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kCancel);
+  Click("cmdOK");
+  EXPECT_TRUE(Form().isVisible());
+}
+
+TEST_F(ManagerFormTest, YesRewritesWithoutTheWeightsThatTheGridCannotShow) {
+  SaveRangeText(Stage.Program.Folder(), "Button Shove", "AA (0.25), " + TextWith("KK").substr(8));
+  SelectRow(0);
+  EXPECT_EQ(Summary(), "KK");
+  EXPECT_EQ(Share(), "0.5% selected");
+  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kYes);
+  ExpectMessageBox(Saved("Button Shove"));
+  Click("cmdOK");
+  EXPECT_EQ(FileText("Button Shove"), TextWith("KK"));
 }
 
 TEST_F(ManagerFormTest, TheCloseBoxAsksNothing) {
@@ -277,20 +392,29 @@ TEST_F(ManagerFormTest, ClosingKeepsThePlaceAndGivesThePointerBack) {
   Click("cmdOK");
   EXPECT_EQ(ReadIniValue("Manager", "Left", Stage.Program.Folder()), "1800");
   EXPECT_EQ(ReadIniValue("Manager", "Top", Stage.Program.Folder()), "960");
-  EXPECT_EQ(Stage.Main.PointerResets, 1);
+  EXPECT_TRUE(Stage.Main.HasDefaultPointer());
   EXPECT_EQ(Stage.OpenManager().pos(), QPoint(120, 64));
 }
 
-TEST(ManagerFormDeathTest, ARangeWhoseFileIsGoneStopsTheProgram) {
+TEST(ManagerFormDeathTest, AFileThatIsGoneStopsTheProgramAndIsNamed) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(
-      {
-        DialogStage stage;
-        const FormControls& controls = stage.OpenManager().Controls();
-        std::filesystem::remove(stage.Program.RangeFile("Tight.txt"));
-        QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Down);
-      },
-      testing::ExitedWithCode(1), "Tight|Invalid procedure call");
+  const auto startWithoutTight = [](const std::function<void(const FormControls&)>& act) {
+    DialogStage stage;
+    const FormControls& controls = stage.OpenManager().Controls();
+    QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Down);
+    std::filesystem::remove(stage.Program.RangeFile("Tight.txt"));
+    act(controls);
+  };
+  EXPECT_EXIT(startWithoutTight([](const FormControls& controls) {
+                QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Up);
+                QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Down);
+              }),
+              testing::ExitedWithCode(1), "Invalid procedure call");
+  EXPECT_EXIT(startWithoutTight([](const FormControls& controls) {
+                ExpectMessageBox(AskToDelete("Tight"), MessageAnswer::kYes);
+                ClickOn(controls, "imgDelete");
+              }),
+              testing::ExitedWithCode(1), "'53': File not found.*Ranges/Tight.txt");
 }
 
 }  // namespace

@@ -1,44 +1,42 @@
 #pragma once
 
-// The New Range dialog, `frmNewRange`: each event of its controls goes to the routine that answers it
-// ("ranges/new_range.h"). It is a window beside the main one and not modal.
+// The New Range dialog, `frmNewRange`, the quick way to a range from the input screens: the user paints a grid, and the
+// range is saved and chosen in the list from which the dialog was opened ("ranges/dialogs/range_choosers.h"). A range
+// that is wanted once only goes under the scratch name.
+//
+// Intentional: OK closes the dialog, and the next opening brings a fresh one; Cancel only hides it, and the next
+// opening brings it back as it was, selection and name and all. So a player can look something up and go on.
 
 #include <QWidget>
+#include <cstdint>
+#include <span>
 #include <string>
-#include <string_view>
 
+#include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/form_card_grid.h"
-#include "ranges/dialogs/range_forms.h"
-#include "ranges/new_range.h"
 #include "toolkit/form_builder.h"
+#include "toolkit/text_box.h"
 
 namespace quillon {
 
-class NewRangeForm : public QWidget, public NewRangeWindow {
+class NewRangeForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// Loads the form: it stands where it stood last, hidden, with an empty grid.
+  /// The form where it stood last, hidden, with an empty grid.
   explicit NewRangeForm(DialogSurroundings surroundings);
 
   [[nodiscard]] const FormControls& Controls() const { return controls_; }
+  [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
 
-  [[nodiscard]] CardGridForm& Grid() override { return grid_; }
-  void SetSelectionCaption(std::string_view caption) override;
-  void SetSummary(std::string_view text) override;
-  [[nodiscard]] std::string RangeName() const override;
-  void SetRangeName(std::string_view text) override;
-  void SetRangeNameEnabled(bool enabled) override;
-  void FocusRangeName() override;
-  void SelectWholeRangeName() override;
-  [[nodiscard]] bool SaveRangeChecked() const override;
-  [[nodiscard]] MessageBoxes& Messages() override { return around_.Messages; }
-  [[nodiscard]] RangeChoosers& Choosers() override { return around_.Owner; }
-  void RefreshLists() override { around_.Owner.RefreshLists(); }
-  void Close() override { close(); }
-  void Hide() override { hide(); }
+  /// Toggles these cells as clicks on them would, one after another, sums the grid up, and puts the focus on the name
+  /// where it can be typed.
+  void Propose(std::span<const std::int16_t> cells);
 
  Q_SIGNALS:
+  /// A range was saved and the user told: the lists are to be filled anew and the range chosen before this returns.
+  void RangeSaved(const std::string& name);
+
   /// The form was closed, by its OK or by its close box, and is not to be used again.
   void Closed();
 
@@ -47,10 +45,14 @@ class NewRangeForm : public QWidget, public NewRangeWindow {
 
  private:
   void Bind();
+  void SumUp();
+  void ClickSaveRange(bool save);
+  void ClickOk();
 
   DialogSurroundings around_;
   FormControls controls_;
   FormCardGrid grid_;
+  TextBox& name_;
 };
 
 }  // namespace quillon

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
+#include <vector>
 
 #include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
@@ -14,7 +15,7 @@ namespace {
 class NewRangeFormTest : public testing::Test {
  public:
   NewRangeFormTest() {
-    Stage.Main.RefreshLists();
+    Stage.Dialogs.RefreshLists();
     Stage.OpenNewRange();
   }
 
@@ -32,12 +33,10 @@ class NewRangeFormTest : public testing::Test {
   [[nodiscard]] std::string Summary() const {
     return FromQt(Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
   }
-  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid()); }
+  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid().Colors()); }
   [[nodiscard]] bool IsClosed() const { return Stage.Dialogs.LoadedNewRange() == nullptr; }
-  [[nodiscard]] std::string FileText(std::string_view name) const {
-    return LoadRangeText(Stage.Program.Folder(), name);
-  }
-  [[nodiscard]] std::string Chosen(std::int16_t index) { return Stage.Main.List(index).CurrentText(); }
+  [[nodiscard]] std::string FileText(std::string_view name) const { return Stage.FileText(name); }
+  [[nodiscard]] std::string Chosen(std::int16_t index) const { return Stage.Chosen(index); }
 
   DialogStage Stage;
 };
@@ -46,17 +45,17 @@ TEST_F(NewRangeFormTest, StartsEmptyAndReadyToBeSaved) {
   EXPECT_EQ(Share(), "0% Selected");
   EXPECT_EQ(Summary(), "None\n");
   EXPECT_EQ(GridText(), TextWith(""));
-  EXPECT_EQ(Form().RangeName(), "");
+  EXPECT_EQ(Name().text(), QStringLiteral(""));
   EXPECT_TRUE(Name().isEnabled());
-  EXPECT_TRUE(Form().SaveRangeChecked());
+  EXPECT_TRUE(Controls().Get<QCheckBox>("chkSaveRange").isChecked());
   EXPECT_FALSE(Controls().Get<QCheckBox>("chkHalf").isChecked());
 }
 
 TEST_F(NewRangeFormTest, ItsLoadRefreshesNoList) {
   Form().close();
-  Stage.Main.Refreshes = 0;
+  Stage.Refreshes = 0;
   Stage.OpenNewRange();
-  EXPECT_EQ(Stage.Main.Refreshes, 0);
+  EXPECT_EQ(Stage.Refreshes, 0);
 }
 
 TEST_F(NewRangeFormTest, ACellIsSummedUp) {
@@ -73,7 +72,7 @@ TEST_F(NewRangeFormTest, ACellIsSummedUp) {
 TEST_F(NewRangeFormTest, UncheckedTheNameIsTheScratchNameAndCannotBeTyped) {
   Type("Mine");
   ToggleSave();
-  EXPECT_EQ(Form().RangeName(), "Temp Range1");
+  EXPECT_EQ(Name().text(), QStringLiteral("Temp Range1"));
   EXPECT_FALSE(Name().isEnabled());
 }
 
@@ -81,17 +80,40 @@ TEST_F(NewRangeFormTest, CheckedAgainTheScratchNameStandsReadyToBeTypedOver) {
   Type("Mine");
   ToggleSave();
   ToggleSave();
-  EXPECT_EQ(Form().RangeName(), "Temp Range1");
+  EXPECT_EQ(Name().text(), QStringLiteral("Temp Range1"));
   EXPECT_TRUE(Name().isEnabled());
   EXPECT_EQ(Form().focusWidget(), &Name());
   EXPECT_EQ(Name().selectedText(), QStringLiteral("Temp Range1"));
   QTest::keyClick(Form().windowHandle(), Qt::Key_X);
-  EXPECT_EQ(Form().RangeName(), "x");
+  EXPECT_EQ(Name().text(), QStringLiteral("x"));
 }
 
-TEST_F(NewRangeFormTest, TheFocusMayBeAskedForWhileTheNameIsDisabled) {
+TEST_F(NewRangeFormTest, AProposalTogglesItsCellsSumsUpAndPutsTheFocusOnTheName) {
+  Cell("72o");
+  Form().Propose(std::vector{HandIndex("72o"), HandIndex("AA"), HandIndex("KK")});
+  EXPECT_EQ(GridText(), TextWith("AA KK"));
+  EXPECT_EQ(Share(), "0.9% selected");
+  EXPECT_EQ(Summary(), "KK+");
+  EXPECT_EQ(Form().focusWidget(), &Name());
+  EXPECT_EQ(Name().text(), QString());
+}
+
+TEST_F(NewRangeFormTest, EachCellOfAProposalTakesTheShiftTest) {
+  Stage.ShiftHeld = true;
+  Form().Propose(std::vector{HandIndex("QQ"), HandIndex("JJ")});
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ JJ")) << "the first hand takes the press";
+}
+
+TEST_F(NewRangeFormTest, AnEmptyProposalSumsUpWhatIsThere) {
+  Form().Propose({});
+  EXPECT_EQ(GridText(), TextWith(""));
+  EXPECT_EQ(Share(), "0% selected");
+  EXPECT_EQ(Summary(), "[None]");
+}
+
+TEST_F(NewRangeFormTest, AProposalForADisabledNameLeavesTheFocus) {
   ToggleSave();
-  Form().FocusRangeName();
+  Form().Propose({});
   EXPECT_NE(Form().focusWidget(), &Name());
 }
 
@@ -153,7 +175,7 @@ TEST_F(NewRangeFormTest, TheScratchRangeIsOverwrittenEachTime) {
 }
 
 TEST_F(NewRangeFormTest, OnlyTheChooserItWasOpenedFromTakesTheRange) {
-  Stage.Main.List(1).Select(1);
+  Stage.List(1).SelectEntry("Button Shove");
   Stage.OpenNewRange(2);
   Type("Mine");
   ExpectMessageBox(Saved("Mine"));
@@ -162,7 +184,7 @@ TEST_F(NewRangeFormTest, OnlyTheChooserItWasOpenedFromTakesTheRange) {
   EXPECT_EQ(Chosen(1), "Button Shove");
   EXPECT_EQ(Chosen(2), "Mine");
   EXPECT_EQ(Chosen(3), "");
-  EXPECT_EQ(Stage.Main.List(3).Count(), 4);
+  EXPECT_EQ(Stage.Main.Controls.Get<QComboBox>("cmboRanges", 3).count(), 4);
 }
 
 TEST_F(NewRangeFormTest, OpenedFromASecondChooserTheRangeGoesThere) {
@@ -185,13 +207,13 @@ TEST_F(NewRangeFormTest, CancelHidesAndReopeningBringsAllBack) {
   Click("cmdCancel");
   EXPECT_FALSE(Form().isVisible());
   EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "");
-  EXPECT_EQ(Stage.Main.PointerResets, 0);
+  EXPECT_FALSE(Stage.Main.HasDefaultPointer());
 
   Stage.OpenNewRange(1);
   EXPECT_TRUE(Form().isVisible());
   EXPECT_EQ(GridText(), TextWith("AA"));
   EXPECT_EQ(Share(), "0.5% selected");
-  EXPECT_EQ(Form().RangeName(), "Mine");
+  EXPECT_EQ(Name().text(), QStringLiteral("Mine"));
   EXPECT_TRUE(Controls().Get<QCheckBox>("chkHalf").isChecked());
 }
 
@@ -203,11 +225,11 @@ TEST_F(NewRangeFormTest, TheCloseBoxClosesAndReopeningIsFresh) {
   EXPECT_TRUE(IsClosed());
   EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
   EXPECT_EQ(ReadIniValue("New", "Top", Stage.Program.Folder()), "480");
-  EXPECT_EQ(Stage.Main.PointerResets, 1);
+  EXPECT_TRUE(Stage.Main.HasDefaultPointer());
 
   Stage.OpenNewRange();
   EXPECT_EQ(GridText(), TextWith(""));
-  EXPECT_EQ(Form().RangeName(), "");
+  EXPECT_EQ(Name().text(), QStringLiteral(""));
   EXPECT_EQ(Form().pos(), QPoint(75, 32));
 }
 
@@ -217,7 +239,7 @@ TEST_F(NewRangeFormTest, OkKeepsThePlaceToo) {
   ExpectMessageBox(Saved("Mine"));
   Click("cmdOK");
   EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
-  EXPECT_EQ(Stage.Main.PointerResets, 1);
+  EXPECT_TRUE(Stage.Main.HasDefaultPointer());
 }
 
 TEST(NewRangeFormDeathTest, AFileThatCannotBeWrittenStopsTheProgram) {
@@ -227,7 +249,7 @@ TEST(NewRangeFormDeathTest, AFileThatCannotBeWrittenStopsTheProgram) {
         DialogStage stage;
         NewRangeForm& form = stage.OpenNewRange();
         std::filesystem::remove_all(RangeFolderPath(stage.Program.Folder()));
-        form.SetRangeName("Mine");
+        form.Controls().Get<TextBox>("txtRangeName").setText(QStringLiteral("Mine"));
         ClickOn(form.Controls(), "cmdOK");
       },
       testing::ExitedWithCode(1), "Mine");

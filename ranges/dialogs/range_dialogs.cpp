@@ -2,53 +2,74 @@
 
 #include <utility>
 
-#include "ranges/dialogs/dialog_window.h"
-
 namespace quillon {
-namespace {
 
-// A form closes in the midst of its own handling of an event, so it goes after that.
-template <typename Form>
-void ForgetWhenClosed(std::unique_ptr<Form>& form) {
-  QObject::connect(
-      form.get(), &Form::Closed, form.get(), [&form] { form.release()->deleteLater(); }, Qt::SingleShotConnection);
+RangeDialogs::RangeDialogs(QWidget& mainWindow, const FormControls& controls, DialogSurroundings surroundings)
+    : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(controls) {
+  connect(&choosers_, &RangeChoosers::EditClicked, this, &RangeDialogs::EditRange);
+  // Where the dialog is open already, for another chooser, its range goes to this one from now on.
+  connect(&choosers_, &RangeChoosers::NewClicked, this, [this](qint16 index) {
+    choosers_.SetLastEdit(index);
+    ShowNewRange();
+  });
 }
 
-}  // namespace
-
-RangeDialogs::RangeDialogs(ProgramFolder folder, MessageBoxes& messages, InputBoxes& inputs, ShiftWatch& shift)
-    : folder_(std::move(folder)), messages_(messages), inputs_(inputs), shift_(shift) {}
+void RangeDialogs::RefreshLists() {
+  ManagerForm& manager = Manager();
+  choosers_.Refresh(around_.Folder);
+  manager.RefreshList();
+}
 
 void RangeDialogs::ShowManager() {
   BringUp(Manager());
 }
 
-NewRangeWindow& RangeDialogs::ShowNewRange() {
+NewRangeForm& RangeDialogs::ShowNewRange() {
   NewRangeForm& form = NewRange();
   BringUp(form);
   return form;
 }
 
-DialogSurroundings RangeDialogs::Surroundings() const {
-  return {.Folder = folder_, .Messages = messages_, .Inputs = inputs_, .Shift = shift_, .Owner = *owner_};
+void RangeDialogs::EditRange(std::int16_t chooser) {
+  // The name first: loading the Range Manager fills the lists anew.
+  const std::string name = choosers_.List(chooser).CurrentText();
+  ManagerForm& manager = Manager();
+  manager.RangeList().SelectEntry(name);
+  BringUp(manager);
 }
 
 ManagerForm& RangeDialogs::Manager() {
   if (manager_ == nullptr) {
-    manager_ = std::make_unique<ManagerForm>(Surroundings());
+    manager_ = std::make_unique<ManagerForm>(around_);
     ForgetWhenClosed(manager_);
-    // Its loading fills all lists, this one too, which must find it here then.
-    manager_->Load();
+    connect(manager_.get(), &ManagerForm::RangesChanged, this, &RangeDialogs::RefreshLists);
+    RefreshLists();
   }
   return *manager_;
 }
 
 NewRangeForm& RangeDialogs::NewRange() {
   if (newRange_ == nullptr) {
-    newRange_ = std::make_unique<NewRangeForm>(Surroundings());
+    newRange_ = std::make_unique<NewRangeForm>(around_);
     ForgetWhenClosed(newRange_);
+    connect(newRange_.get(), &NewRangeForm::RangeSaved, this, [this](const std::string& name) {
+      RefreshLists();
+      choosers_.List(choosers_.LastEdit()).SelectEntry(name);
+    });
   }
   return *newRange_;
+}
+
+// A form closes in the midst of its own handling of an event, so it goes after that.
+template <typename Form>
+void RangeDialogs::ForgetWhenClosed(std::unique_ptr<Form>& form) {
+  connect(
+      form.get(), &Form::Closed, this,
+      [this, &form] {
+        mainWindow_.unsetCursor();
+        form.release()->deleteLater();
+      },
+      Qt::SingleShotConnection);
 }
 
 }  // namespace quillon

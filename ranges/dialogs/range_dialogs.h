@@ -1,43 +1,54 @@
 #pragma once
 
-// The two range dialogs of the program, each there from its first touch until it is closed. A dialog that was closed
-// is gone, and the next touch brings a fresh one.
+// The two range dialogs of the program and the lists of ranges that they and the main window show. A dialog is there
+// from its first touch until it is closed. One that was closed is gone, and the next touch brings a fresh one. Neither
+// is modal.
 
+#include <QObject>
 #include <memory>
 
+#include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/manager_form.h"
 #include "ranges/dialogs/new_range_form.h"
-#include "ranges/dialogs/range_forms.h"
-#include "ranges/dialogs/shift_watch.h"
+#include "ranges/dialogs/range_choosers.h"
 
 namespace quillon {
 
-class RangeDialogs : public RangeForms {
+class RangeDialogs : public QObject {
+  Q_OBJECT
+
  public:
-  /// The boxes stand over the dialog that asks. All that is given outlives the dialogs.
-  RangeDialogs(ProgramFolder folder, MessageBoxes& messages, InputBoxes& inputs, ShiftWatch& shift);
+  /// `controls` are those of the main window, among them the choosers; the boxes stand over the dialog that asks. All
+  /// that is given outlives the dialogs.
+  RangeDialogs(QWidget& mainWindow, const FormControls& controls, DialogSurroundings surroundings);
 
-  /// Makes the main window known. To be called before a dialog is touched.
-  void Attach(RangeFormsOwner& owner) { owner_ = &owner; }
+  [[nodiscard]] const RangeChoosers& Choosers() const { return choosers_; }
 
-  [[nodiscard]] ChooserList& ManagerList() override { return Manager().RangeList(); }
-  void ShowManager() override;
-  NewRangeWindow& ShowNewRange() override;
+  /// Fills every list of ranges anew, the choosers' first and then that of the Range Manager, which is loaded for it,
+  /// hidden. Each keeps what it shows where that range still exists. RunTimeError as told at FillRangeList.
+  void RefreshLists();
+
+  /// Shows the Range Manager as it stands.
+  void ShowManager();
+
+  /// Shows the New Range dialog. Where it was closed before, or never open, it comes with an empty grid; where it was
+  /// hidden, or is open, as it was.
+  NewRangeForm& ShowNewRange();
 
   /// The dialogs as they stand; null where one is not loaded.
   [[nodiscard]] ManagerForm* LoadedManager() const { return manager_.get(); }
   [[nodiscard]] NewRangeForm* LoadedNewRange() const { return newRange_.get(); }
 
  private:
-  [[nodiscard]] DialogSurroundings Surroundings() const;
+  void EditRange(std::int16_t chooser);
   [[nodiscard]] ManagerForm& Manager();
   [[nodiscard]] NewRangeForm& NewRange();
+  template <typename Form>
+  void ForgetWhenClosed(std::unique_ptr<Form>& form);
 
-  ProgramFolder folder_;
-  MessageBoxes& messages_;
-  InputBoxes& inputs_;
-  ShiftWatch& shift_;
-  RangeFormsOwner* owner_ = nullptr;
+  QWidget& mainWindow_;
+  DialogSurroundings around_;
+  RangeChoosers choosers_;
   std::unique_ptr<ManagerForm> manager_;
   std::unique_ptr<NewRangeForm> newRange_;
 };

@@ -23,19 +23,18 @@ TEST(RangeDialogs, NothingIsLoadedBeforeItIsTouched) {
 
 TEST(RangeDialogs, ARefreshLoadsTheManagerHiddenAndFilled) {
   DialogStage stage;
-  stage.Main.RefreshLists();
+  stage.Dialogs.RefreshLists();
   ASSERT_NE(stage.Dialogs.LoadedManager(), nullptr);
   EXPECT_FALSE(stage.Dialogs.LoadedManager()->isVisible());
-  EXPECT_EQ(stage.Dialogs.ManagerList().Count(), 2);
-  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Button Shove");
+  EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Button Shove");
   // Its own load is a second one, within the first.
-  EXPECT_EQ(stage.Main.Refreshes, 2);
+  EXPECT_EQ(stage.Refreshes, 2);
 }
 
 TEST(RangeDialogs, TheManagerIsShownAsItStands) {
   DialogStage stage;
-  stage.Main.RefreshLists();
-  SelectListEntry(stage.Dialogs.ManagerList(), "Tight");
+  stage.Dialogs.RefreshLists();
+  stage.Dialogs.LoadedManager()->RangeList().SelectEntry("Tight");
   const ManagerForm& form = stage.OpenManager();
   EXPECT_TRUE(form.isVisible());
   EXPECT_EQ(form.Controls().LabelAt("lblRangeName").Text(), QStringLiteral("Tight"));
@@ -43,21 +42,21 @@ TEST(RangeDialogs, TheManagerIsShownAsItStands) {
 
 TEST(RangeDialogs, EditingOpensTheManagerOnTheChosenRange) {
   DialogStage stage;
-  stage.Main.RefreshLists();
-  SelectChooserEntry(stage.Main, 2, "Tight");
-  EXPECT_TRUE(stage.Main.EditRangeVisible[2]);
-  ClickEditRange(stage.Main, 2);
+  stage.Dialogs.RefreshLists();
+  stage.List(2).SelectEntry("Tight");
+  EXPECT_TRUE(stage.Main.OffersEdit(2));
+  stage.ClickEdit(2);
   EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
-  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Tight");
+  EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Tight");
 }
 
 TEST(RangeDialogs, EditingLoadsAManagerThatWasClosed) {
   DialogStage stage;
-  stage.Main.RefreshLists();
-  SelectChooserEntry(stage.Main, 2, "Tight");
+  stage.Dialogs.RefreshLists();
+  stage.List(2).SelectEntry("Tight");
   stage.OpenManager().close();
-  ClickEditRange(stage.Main, 2);
-  EXPECT_EQ(stage.Dialogs.ManagerList().CurrentText(), "Tight");
+  stage.ClickEdit(2);
+  EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Tight");
   EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
 }
 
@@ -68,11 +67,11 @@ TEST(RangeDialogs, AManagerThatWasClosedGoesAndTheNextTouchLoadsAFreshOneHidden)
   before->close();
   EXPECT_EQ(stage.Dialogs.LoadedManager(), nullptr);
 
-  stage.Main.RefreshLists();
+  stage.Dialogs.RefreshLists();
   ManagerForm* const after = stage.Dialogs.LoadedManager();
   ASSERT_NE(after, nullptr);
   EXPECT_FALSE(after->isVisible());
-  EXPECT_EQ(RangeTextFromGrid(after->Grid()), TextWith("AA", "AKs"));
+  EXPECT_EQ(RangeTextFromGrid(after->Grid().Colors()), TextWith("AA", "AKs"));
   LetGo();
   EXPECT_TRUE(before.isNull());
   EXPECT_EQ(stage.Dialogs.LoadedManager(), after);
@@ -101,15 +100,14 @@ TEST(RangeDialogs, AManagerThatIsMinimisedComesBack) {
 TEST(RangeDialogs, AChosenRangeThatIsDeletedLeavesTheBlankEntry) {
   DialogStage stage;
   const ManagerForm& form = stage.OpenManager();
-  SelectChooserEntry(stage.Main, 1, "Button Shove");
-  EXPECT_TRUE(stage.Main.OrVisible[1]);
+  stage.List(1).SelectEntry("Button Shove");
+  EXPECT_TRUE(stage.Main.OffersEdit(1));
   ExpectMessageBox({"Delete?", "Do you really want to delete \"Button Shove\"?", MessageIcon::kQuestion,
                     MessageButtons::kYesNoCancel},
                    MessageAnswer::kYes);
   ClickOn(form.Controls(), "imgDelete");
-  EXPECT_EQ(stage.Main.List(1).CurrentText(), "");
-  EXPECT_FALSE(stage.Main.OrVisible[1]);
-  EXPECT_FALSE(stage.Main.EditRangeVisible[1]);
+  EXPECT_EQ(stage.Chosen(1), "");
+  EXPECT_FALSE(stage.Main.OffersEdit(1));
 }
 
 TEST(RangeDialogs, ANewRangeStandsInTheManagersListAtOnceAndDropsItsChanges) {
@@ -117,12 +115,12 @@ TEST(RangeDialogs, ANewRangeStandsInTheManagersListAtOnceAndDropsItsChanges) {
   ManagerForm& manager = stage.OpenManager();
   ClickCell(manager.Controls(), "22");
   NewRangeForm& form = stage.OpenNewRange();
-  form.SetRangeName("Mine");
+  form.Controls().Get<TextBox>("txtRangeName").setText(QStringLiteral("Mine"));
   ExpectMessageBox({"Quillon", "The range \"Mine\" was saved successfully!"});
   ClickOn(form.Controls(), "cmdOK");
-  EXPECT_EQ(manager.RangeList().Count(), 3);
+  EXPECT_EQ(manager.Controls().Get<QListWidget>("lstRanges").count(), 3);
   EXPECT_EQ(manager.RangeList().CurrentText(), "Button Shove");
-  EXPECT_EQ(RangeTextFromGrid(manager.Grid()), TextWith("AA", "AKs"));
+  EXPECT_EQ(RangeTextFromGrid(manager.Grid().Colors()), TextWith("AA", "AKs"));
 }
 
 TEST(RangeDialogs, AShiftPressIsUsedUpForBothDialogs) {
@@ -133,8 +131,8 @@ TEST(RangeDialogs, AShiftPressIsUsedUpForBothDialogs) {
   QTest::keyPress(form.windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
   ClickCell(form.Controls(), "QQ");
   ClickCell(manager.Controls(), "QQ");
-  EXPECT_EQ(RangeTextFromGrid(form.Grid()), TextWith("AA KK QQ"));
-  EXPECT_EQ(RangeTextFromGrid(manager.Grid()), TextWith("AA QQ", "AKs"));
+  EXPECT_EQ(RangeTextFromGrid(form.Grid().Colors()), TextWith("AA KK QQ"));
+  EXPECT_EQ(RangeTextFromGrid(manager.Grid().Colors()), TextWith("AA QQ", "AKs"));
   QTest::keyRelease(form.windowHandle(), Qt::Key_Shift);
 }
 
@@ -143,9 +141,9 @@ TEST(RangeDialogs, AnEmptyFolderGivesAnEmptyManager) {
   std::filesystem::remove(stage.Program.RangeFile("Button Shove.txt"));
   std::filesystem::remove(stage.Program.RangeFile("Tight.txt"));
   ManagerForm& form = stage.OpenManager();
-  EXPECT_EQ(form.RangeList().Count(), 0);
+  EXPECT_EQ(form.Controls().Get<QListWidget>("lstRanges").count(), 0);
   EXPECT_EQ(form.Controls().LabelAt("lblRangeName").Text(), QStringLiteral("Title"));
-  EXPECT_EQ(RangeTextFromGrid(form.Grid()), TextWith(""));
+  EXPECT_EQ(RangeTextFromGrid(form.Grid().Colors()), TextWith(""));
 }
 
 }  // namespace

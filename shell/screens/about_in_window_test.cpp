@@ -112,7 +112,7 @@ TEST_F(UpgradeInWindow, TheLinkOfTheLatestVersionSaysSo) {
 TEST_F(UpgradeInWindow, AStateThatNoBoxHasEndsTheProgram) {
   WriteSettings("[Upgrade]\r\nAuto=3\r\n");
   EXPECT_EQ(FaultOf([this] {
-              Form.Start(Dialogs);
+              Form.Start();
               return 0;
             }),
             RunTimeFault::kInvalidPropertyValue);

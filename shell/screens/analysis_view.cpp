@@ -15,7 +15,7 @@ std::string AnalysisView::BoxText(std::int16_t index) const {
 }
 
 std::string AnalysisView::SelectedRange(std::int16_t index) const {
-  return parts_.Choosers[static_cast<std::size_t>(index)]->CurrentText();
+  return parts_.Choosers.List(index).CurrentText();
 }
 
 void AnalysisView::ShowFrame(std::string_view name) {
@@ -54,8 +54,7 @@ void AnalysisView::SetProgressBarWidth(float twips) {
 }
 
 void AnalysisView::RaiseCell(std::int16_t index) {
-  parts_.Grid.ShowSquare(index);
-  parts_.Grid.ShowLabel(index);
+  parts_.Grid.Raise(index);
 }
 
 void AnalysisView::HideGridBack() {

@@ -2,11 +2,9 @@
 
 // The main window as an analysis sees it.
 
-#include <span>
-
 #include "analysis/analysis_window.h"
-#include "ranges/card_grid.h"
-#include "ranges/range_lists.h"
+#include "ranges/dialogs/form_card_grid.h"
+#include "ranges/dialogs/range_choosers.h"
 #include "results/results_window.h"
 #include "shell/navigation.h"
 #include "toolkit/form_builder.h"
@@ -17,8 +15,8 @@ class AnalysisView : public AnalysisWindow {
  public:
   struct Parts {
     FormControls& Controls;
-    std::span<ChooserList* const> Choosers;  // cmboRanges, by index
-    CardGridForm& Grid;
+    const RangeChoosers& Choosers;
+    FormCardGrid& Grid;
     NavigationState& Navigation;
     NavigationWindow& Screens;
     ResultsWindow& Results;

@@ -2,7 +2,7 @@
 
 // The hover panel of the grid screen.
 
-#include "ranges/card_grid.h"
+#include "ranges/dialogs/form_card_grid.h"
 #include "results/hover_panel.h"
 #include "toolkit/form_builder.h"
 
@@ -10,7 +10,7 @@ namespace quillon {
 
 class HoverView : public HoverWindow {
  public:
-  HoverView(FormControls& controls, CardGridForm& grid) : controls_(controls), grid_(grid) {}
+  HoverView(FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
   void SetHoverPicture(HoverPicture picture) override;
   [[nodiscard]] std::string HoverHand() const override;
@@ -25,7 +25,7 @@ class HoverView : public HoverWindow {
   void SetHoverAdvice(std::string_view caption) override;
   [[nodiscard]] TwipRect HoverRect() const override;
   void SetHoverRect(const TwipRect& rect) override;
-  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override { return grid_.SquareRect(index); }
+  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override { return grid_.SquarePlace(index); }
   [[nodiscard]] TwipRect GridScreenRect() const override;
   void ShowHover() override;
 
@@ -36,7 +36,7 @@ class HoverView : public HoverWindow {
   void SetVisible(std::string_view name, bool visible);
 
   FormControls& controls_;
-  CardGridForm& grid_;
+  FormCardGrid& grid_;
 };
 
 }  // namespace quillon

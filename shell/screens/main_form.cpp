@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QIcon>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -43,39 +44,42 @@ MainForm::MainForm(Surroundings surroundings)
     : around_(std::move(surroundings)),
       controls_(BuildMainControls(*this)),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
+      dialogs_(
+          *this, controls_,
+          {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
       boxes_(controls_, results_, around_.Messages),
       report_(controls_),
       about_(controls_, around_.Messages, around_.Inputs, around_.Clock),
       image_(*this, controls_, around_.Messages),
-      start_(*this, controls_, grid_,
-             {.RefreshRangeLists = [this] { RefreshLists(); },
+      start_(*this, controls_,
+             {.RefreshRangeLists = [this] { dialogs_.RefreshLists(); },
               .BuildReport = [this] { BuildReport(report_, state_); },
               .SetResultsShown = [this](bool shown) { SetResultsShown(results_, shown); },
               .RestoredBox = [this](std::int16_t index) { RestoredNumberBox(index, boxes_); },
               .CheckForUpgrade = [this] { CheckForUpgrade(about_, around_.Web, around_.Folder); },
               .EndProcess = around_.EndProcess}),
       analysis_({.Controls = controls_,
-                 .Choosers = chooserLists_,
+                 .Choosers = dialogs_.Choosers(),
                  .Grid = grid_,
                  .Navigation = navigation_,
                  .Screens = start_,
                  .Results = results_,
                  .Boxes = around_.Messages}) {
   setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
+  // It covers the cells until a run brings them up one by one.
+  controls_.PictureAt("imgGridBack").raise();
   BindSidePanel();
   BindScreens();
   BindNumberBoxes();
-  BindChoosers();
   BindGrid();
   BindDetails();
   BindAbout();
   BindShortcuts();
 }
 
-void MainForm::Start(RangeForms& dialogs) {
-  dialogs_ = &dialogs;
+void MainForm::Start() {
   // The first hand that is hovered must be a new one to the panel, AA too.
   hover_.SetHoverHand({});
   StartUp(navigation_, start_, around_.Folder);
@@ -85,32 +89,6 @@ void MainForm::Start(RangeForms& dialogs) {
 void MainForm::closeEvent(QCloseEvent* event) {
   event->accept();
   CloseMainWindow(start_, around_.Folder);
-}
-
-void MainForm::RefreshLists() {
-  const std::array<ChooserList*, kChooserCount + 1> lists = {chooserLists_[0], chooserLists_[1], chooserLists_[2],
-                                                             chooserLists_[3], &ManagerList()};
-  RefreshRangeLists(lists, around_.Folder);
-}
-
-ChooserList& MainForm::Chooser(std::int16_t index) {
-  return *chooserLists_.at(static_cast<std::size_t>(index));
-}
-
-void MainForm::SetOrVisible(std::int16_t index, bool visible) {
-  controls_.LabelAt("lblOr", index).setVisible(visible);
-}
-
-void MainForm::SetEditRangeVisible(std::int16_t index, bool visible) {
-  controls_.LabelAt("lblEditRange", index).setVisible(visible);
-}
-
-std::string MainForm::LastEdit() const {
-  return FromQt(controls_.LabelAt("lblLastEdit").Text());
-}
-
-void MainForm::SetLastEdit(std::string_view caption) {
-  controls_.LabelAt("lblLastEdit").SetText(ToQt(caption));
 }
 
 void MainForm::OnClick(std::string_view name, std::int16_t index, std::function<void()> action) {
@@ -129,7 +107,7 @@ void MainForm::BindSidePanel() {
   OnClick("lblNoResults", kNoIndex,
           [this] { ClickNoResults(FromQt(controls_.LabelAt("lblNoResults").Text()), analysis_); });
 
-  OnClick("lblRangeManager", kNoIndex, [this] { ShowManager(); });
+  OnClick("lblRangeManager", kNoIndex, [this] { dialogs_.ShowManager(); });
   const Label& manager = controls_.LabelAt("lblRangeManager");
   Shape& border = controls_.ShapeAt("shapeRangeManager");
   connect(&manager, &Control::Pressed, &border, [&border] { border.SetLineStyle(LineStyle::kDotted); });
@@ -160,22 +138,14 @@ void MainForm::BindNumberBoxes() {
   }
 }
 
-void MainForm::BindChoosers() {
-  for (std::int16_t i = 0; i < kChooserCount; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    choosers_.at(at) = std::make_unique<FormChooser>(controls_.Get<QComboBox>("cmboRanges", i));
-    chooserLists_.at(at) = choosers_.at(at).get();
-    connect(choosers_.at(at).get(), &FormChooser::Clicked, this, [this, i] { ClickChooser(*this, i); });
-    OnClick("lblEditRange", i, [this, i] { ClickEditRange(*this, i); });
-    OnClick("lblNewRange", i, [this, i] { ClickNewRange(*this, i); });
-  }
-}
-
 void MainForm::BindGrid() {
   connect(&grid_, &FormCardGrid::CellReached, this,
           [this](qint16 index) { ShowHandHover(ToIndex(index), state_, hover_); });
   OnClick("imgSave", kNoIndex, [this] { imageName_ = SaveGridImage(imageName_, image_, around_.Folder); });
-  OnClick("imgSaveAsRange", kNoIndex, [this] { SaveResultsAsRange(state_, *this); });
+  OnClick("imgSaveAsRange", kNoIndex, [this] {
+    if (state_.HandInfo.empty()) return;
+    dialogs_.ShowNewRange().Propose(ProfitableHands(state_.HandInfo));
+  });
 }
 
 void MainForm::BindDetails() {

@@ -3,16 +3,12 @@
 // The main window, `frmMain`: it builds the screens from their tables, owns the analysis state, and binds each
 // control's events to the routine that answers them.
 
-#include <QComboBox>
 #include <QWidget>
-#include <array>
 #include <functional>
-#include <memory>
 
 #include "analysis/analysis_state.h"
 #include "ranges/dialogs/form_card_grid.h"
-#include "ranges/dialogs/form_list.h"
-#include "ranges/dialogs/range_forms.h"
+#include "ranges/dialogs/range_dialogs.h"
 #include "shell/navigation.h"
 #include "shell/screens/about_view.h"
 #include "shell/screens/analysis_view.h"
@@ -27,7 +23,7 @@
 
 namespace quillon {
 
-class MainForm : public QWidget, public RangeFormsOwner {
+class MainForm : public QWidget {
   Q_OBJECT
 
  public:
@@ -44,23 +40,12 @@ class MainForm : public QWidget, public RangeFormsOwner {
 
   explicit MainForm(Surroundings surroundings);
 
-  /// The start of the program ("shell/start_up.h"), with the dialogs that belong to it. The window can be used when
-  /// this comes back.
-  void Start(RangeForms& dialogs);
+  /// The start of the program ("shell/start_up.h"). The window can be used when this returns.
+  void Start();
 
   [[nodiscard]] FormControls& Controls() { return controls_; }
   [[nodiscard]] AnalysisState& State() { return state_; }
-
-  void RefreshLists() override;
-  void SetDefaultPointer() override { unsetCursor(); }
-  [[nodiscard]] ChooserList& Chooser(std::int16_t index) override;
-  void SetOrVisible(std::int16_t index, bool visible) override;
-  void SetEditRangeVisible(std::int16_t index, bool visible) override;
-  [[nodiscard]] std::string LastEdit() const override;
-  void SetLastEdit(std::string_view caption) override;
-  [[nodiscard]] ChooserList& ManagerList() override { return dialogs_->ManagerList(); }
-  void ShowManager() override { dialogs_->ShowManager(); }
-  NewRangeWindow& ShowNewRange() override { return dialogs_->ShowNewRange(); }
+  [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -69,7 +54,6 @@ class MainForm : public QWidget, public RangeFormsOwner {
   void BindSidePanel();
   void BindScreens();
   void BindNumberBoxes();
-  void BindChoosers();
   void BindGrid();
   void BindDetails();
   void BindAbout();
@@ -82,8 +66,7 @@ class MainForm : public QWidget, public RangeFormsOwner {
   AnalysisState state_;
   NavigationState navigation_;
   FormCardGrid grid_;
-  std::array<std::unique_ptr<FormChooser>, kChooserCount> choosers_;
-  std::array<ChooserList*, kChooserCount> chooserLists_{};
+  RangeDialogs dialogs_;
   ResultsView results_;
   HoverView hover_;
   NumberBoxView boxes_;
@@ -92,7 +75,6 @@ class MainForm : public QWidget, public RangeFormsOwner {
   GridImageView image_;
   StartView start_;
   AnalysisView analysis_;
-  RangeForms* dialogs_ = nullptr;
   std::string imageName_;  // of the grid image that was saved last
 };
 

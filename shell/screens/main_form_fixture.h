@@ -19,7 +19,6 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/dialog_fixtures.h"
-#include "ranges/dialogs/range_dialogs.h"
 #include "ranges/range_fixtures.h"
 #include "shell/recorded_web.h"
 #include "shell/screens/main_form.h"
@@ -69,11 +68,10 @@ class MainStage {
     Program.Write("Nothing.txt", TextWith(""));
     Program.Write("Pairs.txt", TextWith("AA KK", "QQ"));
     Program.Write("Tight.txt", TextWith("AA KK AKs AKo"));
-    Dialogs.Attach(Form);
   }
 
   void Start() {
-    Form.Start(Dialogs);
+    Form.Start();
     ComeToFront();
     // Where the mouse stood in the test before, a move to the same point would be none.
     MoveTo({5, 598});
@@ -217,8 +215,8 @@ class MainStage {
   MessageDialogs Boxes;
   RecordedWeb Web;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
-  RangeDialogs Dialogs{Program.Folder(), Boxes, Boxes, Shift};
   MainForm Form;
+  RangeDialogs& Dialogs = Form.Dialogs();
 
  private:
   std::function<std::int32_t()> ClockOf(StageClock clock) {

@@ -193,7 +193,7 @@ TEST_F(NavigationInWindow, EditOpensTheManagerWithTheChosenRange) {
     Choose(i, "");
     EXPECT_FALSE(Shows("lblOr", i));
     EXPECT_FALSE(Shows("lblEditRange", i));
-    Dialogs.LoadedManager()->RangeList().Select(0);
+    Dialogs.LoadedManager()->RangeList().SelectEntry("Everything");
     ComeToFront();
   }
 }
@@ -217,7 +217,7 @@ TEST_F(NavigationInWindow, ANewRangeGoesToTheChooserClickedLast) {
   Click("lblNewRange", 2);  // the dialog is open already, and goes on with what it has
   NewRangeForm& dialog = *Dialogs.LoadedNewRange();
   ClickCell(dialog.Controls(), "AA");
-  dialog.SetRangeName("Aces");
+  dialog.Controls().Get<TextBox>("txtRangeName").setText(QStringLiteral("Aces"));
   ExpectMessageBox({.title = "Quillon", .text = "The range \"Aces\" was saved successfully!"});
   ClickOn(dialog.Controls(), "cmdOK");
 
@@ -230,15 +230,15 @@ TEST_F(NavigationInWindow, ANewRangeGoesToTheChooserClickedLast) {
 TEST_F(NavigationInWindow, ALinkDropsWhatTheManagerHasNotSaved) {
   Click("lblRangeManager");
   ManagerForm& manager = *Dialogs.LoadedManager();
-  manager.RangeList().Select(3);
-  const std::int16_t cell = HandIndex("72o");
+  manager.RangeList().SelectEntry("Tight");
+  const auto cell = static_cast<std::size_t>(HandIndex("72o"));
   ClickCell(manager.Controls(), "72o");
-  EXPECT_EQ(manager.Grid().CellColor(cell), kFullColor);
+  EXPECT_EQ(manager.Grid().Colors().at(cell), kFullColor);
 
   Open(kCallNav);
 
   EXPECT_EQ(manager.RangeList().CurrentText(), "Tight");
-  EXPECT_EQ(manager.Grid().CellColor(cell), kUnselectedOffsuitColor);
+  EXPECT_EQ(manager.Grid().Colors().at(cell), kUnselectedOffsuitColor);
 }
 
 TEST_F(NavigationInWindow, TheHandCursorShowsOverLinksAlone) {

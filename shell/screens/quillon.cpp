@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "ranges/dialogs/range_dialogs.h"
 #include "shell/screens/http_client.h"
 #include "shell/screens/main_form.h"
 #include "toolkit/application.h"
@@ -20,12 +19,10 @@ int RunWindow() {
   MessageDialogs boxes;
   HttpClient web;
   ShiftWatch shift;
-  RangeDialogs dialogs(folder, boxes, boxes, shift);
   MainForm window({.Folder = folder, .Messages = boxes, .Inputs = boxes, .Web = web, .Shift = shift, .EndProcess = [] {
                      std::_Exit(EXIT_SUCCESS);
                    }});
-  dialogs.Attach(window);
-  window.Start(dialogs);
+  window.Start();
   return QApplication::exec();
 }
 

@@ -179,11 +179,11 @@ TEST_F(ResultsAsRange, MarksTheWinnersInANewDialog) {
 
   EXPECT_TRUE(Dialog().isVisible());
   EXPECT_FALSE(Dialog().isModal());
-  const std::string marked = RangeTextFromGrid(Dialog().Grid());
+  const std::string marked = RangeTextFromGrid(Dialog().Grid().Colors());
   EXPECT_EQ(marked, TextWith(winners));
   EXPECT_EQ(FromQt(Dialog().Controls().LabelAt("lblPercSelected").Text()), SelectionCaption(SelectedCombos(marked)));
   EXPECT_EQ(FromQt(Dialog().Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText()), RangeSummary(marked));
-  EXPECT_EQ(Dialog().RangeName(), "");
+  EXPECT_EQ(Dialog().Controls().Get<QLineEdit>("txtRangeName").text(), QString());
   EXPECT_EQ(Dialog().focusWidget()->objectName(), QStringLiteral("txtRangeName"));
 }
 
@@ -191,7 +191,7 @@ TEST_F(ResultsAsRange, ASecondClickUndoesTheFirst) {
   RunCall("150", "50", "Pairs");
   SaveAsRange();
   SaveAsRange();
-  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid()), TextWith(""));
+  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith(""));
   EXPECT_EQ(FromQt(Dialog().Controls().LabelAt("lblPercSelected").Text()), "0% selected");
   EXPECT_EQ(FromQt(Dialog().Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText()), "[None]");
 }
@@ -203,14 +203,14 @@ TEST_F(ResultsAsRange, HalfWeightIsAsTheDialogSays) {
   Dialog().Controls().Get<QCheckBox>("chkHalf").setChecked(true);
   Open(kGridNavIndex);
   Click("imgSaveAsRange");
-  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid()), TextWith("", Winners()));
+  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith("", Winners()));
 }
 
 TEST_F(ResultsAsRange, AfterEquityNothingIsMarked) {
   RunEquity("Tight");
   SaveAsRange();
   EXPECT_TRUE(Dialog().isVisible());
-  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid()), TextWith(""));
+  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith(""));
   EXPECT_EQ(FromQt(Dialog().Controls().LabelAt("lblPercSelected").Text()), "0% selected");
 }
 
@@ -218,7 +218,7 @@ TEST_F(ResultsAsRange, TheRangeGoesToTheChooserThatWasEditedLast) {
   RunRaise("150", "0", "62.5", "Pairs", "Tight");
   Open(kRaiseNav);
   Click("lblNewRange", 2);
-  Dialog().Close();
+  Dialog().close();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   Open(kGridNavIndex);
   Click("imgSaveAsRange");

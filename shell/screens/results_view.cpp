@@ -9,7 +9,7 @@
 namespace quillon {
 
 void ResultsView::SetCellColor(std::int16_t index, Rgb color) {
-  grid_.SetCellColor(index, color);
+  grid_.SetFill(index, color);
 }
 
 void ResultsView::SetHandInfoText(std::string_view text) {

@@ -3,7 +3,7 @@
 // The results on the main window: the cells of the grid, the texts round it, and the links of the side panel that lead
 // to it.
 
-#include "ranges/card_grid.h"
+#include "ranges/dialogs/form_card_grid.h"
 #include "results/results_window.h"
 #include "toolkit/form_builder.h"
 
@@ -11,7 +11,7 @@ namespace quillon {
 
 class ResultsView : public ResultsWindow {
  public:
-  ResultsView(FormControls& controls, CardGridForm& grid) : controls_(controls), grid_(grid) {}
+  ResultsView(FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
   void SetCellColor(std::int16_t index, Rgb color) override;
   void SetHandInfoText(std::string_view text) override;
@@ -26,7 +26,7 @@ class ResultsView : public ResultsWindow {
 
  private:
   FormControls& controls_;
-  CardGridForm& grid_;
+  FormCardGrid& grid_;
 };
 
 /// Changes the caption of `lblNoResults`, which is a link for as long as it says that a run goes on.

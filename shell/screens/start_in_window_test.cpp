@@ -208,7 +208,7 @@ TEST_F(StartInWindow, FailsWhereAFolderCannotBeMade) {
   std::filesystem::remove_all(Program.Folder().Path / "Ranges");
   std::ofstream(Program.Folder().Path / "Ranges") << "a file";
   EXPECT_EQ(FaultOf([this] {
-              Form.Start(Dialogs);
+              Form.Start();
               return 0;
             }),
             RunTimeFault::kPathFileAccess);
@@ -218,7 +218,7 @@ TEST_F(StartInWindow, FailsWhereAFolderCannotBeMade) {
 TEST_F(StartInWindow, FailsAtAFileNameTooShortForARange) {
   Program.Write("a");
   EXPECT_EQ(FaultOf([this] {
-              Form.Start(Dialogs);
+              Form.Start();
               return 0;
             }),
             RunTimeFault::kInvalidProcedureCall);

@@ -20,8 +20,8 @@ constexpr std::string_view kBoxName = "txtNumber";
 
 }  // namespace
 
-StartView::StartView(QWidget& form, FormControls& controls, CardGridForm& grid, Actions actions)
-    : form_(form), controls_(controls), grid_(grid), actions_(std::move(actions)), place_(form) {}
+StartView::StartView(QWidget& form, FormControls& controls, Actions actions)
+    : form_(form), controls_(controls), actions_(std::move(actions)), place_(form) {}
 
 TwipRect StartView::PanelRect() const {
   return TwipsOf(controls_.PictureAt("imgBack").geometry());
@@ -172,12 +172,6 @@ void StartView::AddHandEntry(std::string_view text) {
   auto& hands = controls_.Get<QComboBox>("cmbo169");
   hands.addItem(ToQt(text));
   hands.setCurrentIndex(-1);  // none is picked yet, "None" neither
-}
-
-void StartView::BuildCardGrid() {
-  quillon::BuildCardGrid(grid_);
-  // It covers the cells until a run brings them up one by one.
-  controls_.PictureAt("imgGridBack").raise();
 }
 
 void StartView::ShowWindow() {

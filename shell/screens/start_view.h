@@ -5,7 +5,6 @@
 #include <QWidget>
 #include <functional>
 
-#include "ranges/card_grid.h"
 #include "ranges/dialogs/form_place.h"
 #include "shell/start_up.h"
 #include "toolkit/form_builder.h"
@@ -24,7 +23,7 @@ class StartView : public StartWindow {
     std::function<void()> EndProcess;
   };
 
-  StartView(QWidget& form, FormControls& controls, CardGridForm& grid, Actions actions);
+  StartView(QWidget& form, FormControls& controls, Actions actions);
 
   [[nodiscard]] TwipRect PanelRect() const override;
   [[nodiscard]] std::int16_t FrameCount() const override;
@@ -73,7 +72,6 @@ class StartView : public StartWindow {
   void SetHoverPanelSize(TwipSize size) override;
   void AddOutputType(std::string_view text) override;
   void AddHandEntry(std::string_view text) override;
-  void BuildCardGrid() override;
   void ShowWindow() override;
   void HideWindow() override;
   void CheckForUpgrade() override { actions_.CheckForUpgrade(); }
@@ -83,7 +81,6 @@ class StartView : public StartWindow {
  private:
   QWidget& form_;
   FormControls& controls_;
-  CardGridForm& grid_;
   Actions actions_;
   FormPlace place_;
 };

@@ -1,0 +1,51 @@
+#pragma once
+
+// The four places of the main window where a range is chosen. Each has a list, `cmboRanges(index)`, whose first entry
+// is blank, and under it the links "Edit this Range..." and "Create a New Range...". The word "or" and the link to edit
+// show where the selected entry is a range, and are hidden where it is blank. Which chooser the New Range dialog was
+// opened from last is kept in the caption of a hidden label, `lblLastEdit`, "0" at the start; that is where its range
+// is chosen when it ends. An index is that of a chooser, 0 to 3.
+
+#include <QObject>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "ranges/dialogs/form_list.h"
+#include "ranges/range_files.h"
+#include "toolkit/form_builder.h"
+
+namespace quillon {
+
+inline constexpr std::int16_t kChooserCount = 4;
+
+class RangeChoosers : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `controls` are those of the main window, which outlive this.
+  explicit RangeChoosers(const FormControls& controls);
+
+  [[nodiscard]] FormChooser& List(std::int16_t index) const { return *lists_.at(static_cast<std::size_t>(index)); }
+
+  /// Fills the lists from the folder, in order, so that each keeps its range where that still exists. RunTimeError as
+  /// told at FillRangeList.
+  void Refresh(const ProgramFolder& folder);
+
+  /// The chooser that the New Range dialog was opened from last.
+  [[nodiscard]] std::int16_t LastEdit() const;
+  void SetLastEdit(std::int16_t index);
+
+ Q_SIGNALS:
+  void EditClicked(qint16 index);  // lblEditRange
+  void NewClicked(qint16 index);  // lblNewRange
+
+ private:
+  void ShowLinks(std::int16_t index);
+
+  const FormControls& controls_;
+  std::vector<std::unique_ptr<FormChooser>> lists_;
+};
+
+}  // namespace quillon
