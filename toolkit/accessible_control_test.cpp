@@ -2,7 +2,8 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
-#include <QCoreApplication>
+#include <QCheckBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -72,19 +73,57 @@ TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
   EXPECT_EQ(clicks.count(), 1);
 }
 
-class NoKeys : public QObject {
- public:
-  NoKeys() { qApp->installEventFilter(this); }
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override { return event->isInputEvent(); }
-};
+TEST(AccessibleControl, ButtonsTellTheirTextAndState) {
+  QPushButton button(QStringLiteral("&Send"));
+  button.setDefault(true);
+  EXPECT_EQ(Spoken(button).role(), QAccessible::Button);
+  EXPECT_EQ(NameOf(button), QStringLiteral("Send"));
+  EXPECT_TRUE(Spoken(button).state().defaultButton);
+  EXPECT_FALSE(Spoken(button).state().checkable);
+  button.setDown(true);
+  EXPECT_TRUE(Spoken(button).state().pressed);
 
-TEST(AccessibleControl, CannotBePressedWhileTheProgramHearsNoKeys) {
-  Label label(nullptr);
-  label.SetUse(ControlUse::kLink);
-  const QSignalSpy clicks(&label, &Control::Clicked);
-  const NoKeys deaf;
-  Spoken(label).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(clicks.count(), 0);
+  QCheckBox box(QStringLiteral("Whole stack"));
+  EXPECT_EQ(Spoken(box).role(), QAccessible::CheckBox);
+  EXPECT_EQ(NameOf(box), QStringLiteral("Whole stack"));
+  box.setAccessibleName(QStringLiteral("All of it"));
+  EXPECT_EQ(NameOf(box), QStringLiteral("All of it"));
+  EXPECT_TRUE(Spoken(box).state().checkable);
+  struct Row {
+    Qt::CheckState State;
+    bool Checked;
+    bool Mixed;
+  };
+  for (const Row& row :
+       {Row{Qt::Unchecked, false, false}, {Qt::Checked, true, false}, {Qt::PartiallyChecked, false, true}}) {
+    box.setCheckState(row.State);
+    EXPECT_EQ(Spoken(box).state().checked, row.Checked) << row.State;
+    EXPECT_EQ(Spoken(box).state().checkStateMixed, row.Mixed) << row.State;
+  }
+}
+
+TEST(AccessibleControl, ButtonsArePressedAtOnceAndBoxesToggled) {
+  QPushButton button;
+  QCheckBox box;
+  const QSignalSpy clicks(&button, &QPushButton::clicked);
+  const QString press = QAccessibleActionInterface::pressAction();
+  const QString toggle = QAccessibleActionInterface::toggleAction();
+
+  EXPECT_EQ(Spoken(button).actionInterface()->actionNames().value(0), press);
+  Spoken(button).actionInterface()->doAction(press);
+  EXPECT_EQ(clicks.count(), 1);
+
+  EXPECT_EQ(Spoken(box).actionInterface()->actionNames().value(0), toggle);
+  for (const QString& action : {toggle, press, toggle}) {
+    const bool wasChecked = box.isChecked();
+    Spoken(box).actionInterface()->doAction(action);
+    EXPECT_NE(box.isChecked(), wasChecked);
+  }
+
+  button.setEnabled(false);
+  EXPECT_FALSE(Spoken(button).actionInterface()->actionNames().contains(press));
+  Spoken(button).actionInterface()->doAction(press);
+  EXPECT_EQ(clicks.count(), 1);
 }
 
 }  // namespace

@@ -5,5 +5,5 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 mode=(--dry-run --Werror)
 [ "${1:-}" != --fix ] || mode=(-i)
-git ls-files --cached --others --exclude-standard '*.h' '*.cpp' | grep -v '^hand/equity_rows.cpp$' |
+git ls-files --cached --others --exclude-standard '*.h' '*.cpp' | grep -vE '^(hand/equity_rows\.cpp$|third_party/)' |
   xargs clang-format-14 "${mode[@]}"

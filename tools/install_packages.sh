@@ -15,8 +15,6 @@ build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmo
 # The window, the fonts that stand in for those of its layouts, and a screen in memory for the tests that use it.
 build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
 build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
-# The web host that the window asks in tests.
-build+=(libcpp-httplib-dev pkg-config)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)

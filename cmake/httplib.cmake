@@ -1,0 +1,7 @@
+# cpp-httplib, for the web client and for the web hosts of tests; "third_party/httplib/README.md" says why it is here.
+add_library(quillon_httplib INTERFACE)
+target_include_directories(quillon_httplib SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/third_party/httplib)
+target_link_libraries(quillon_httplib INTERFACE Threads::Threads)
+target_compile_definitions(quillon_httplib INTERFACE
+  CPPHTTPLIB_MAX_LINE_LENGTH=8192 # a status line is matched recursively, letter by letter
+  CPPHTTPLIB_SEND_FLAGS=MSG_NOSIGNAL) # a host that is gone is a failed request, not the end of the program

@@ -1,0 +1,258 @@
+#include "toolkit/input_block.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWidget>
+#include <QWindow>
+#include <array>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "toolkit/expected_boxes.h"
+#include "toolkit/label.h"
+
+namespace quillon {
+namespace {
+
+class WatchedWindow : public QWidget {
+ public:
+  WatchedWindow() {
+    setMouseTracking(true);
+    setAcceptDrops(true);
+    QObject::connect(&shortcut_, &QShortcut::activated, this, [this] { Seen += "shortcut "; });
+    setGeometry(100, 100, 200, 200);
+    show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
+    QCursor::setPos(10, 10);
+    QCoreApplication::processEvents();
+    Seen.clear();
+  }
+
+  std::string Seen;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override { Seen += "paint "; }
+  void mouseMoveEvent(QMouseEvent* /*event*/) override { Seen += "move "; }
+  void mousePressEvent(QMouseEvent* /*event*/) override { Seen += "press "; }
+  void wheelEvent(QWheelEvent* /*event*/) override { Seen += "wheel "; }
+  void keyPressEvent(QKeyEvent* /*event*/) override { Seen += "key "; }
+  void inputMethodEvent(QInputMethodEvent* /*event*/) override { Seen += "composed "; }
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    event->accept();
+    Seen += "enter ";
+  }
+  void dragMoveEvent(QDragMoveEvent* /*event*/) override { Seen += "drag "; }
+  void dropEvent(QDropEvent* /*event*/) override { Seen += "drop "; }
+  void closeEvent(QCloseEvent* /*event*/) override { Seen += "close "; }
+
+ private:
+  QShortcut shortcut_{QKeySequence(static_cast<int>(Qt::CTRL) | Qt::Key_1), this};
+};
+
+class InputBlockTest : public testing::Test {
+ public:
+  // Does something during a block, and returns what the window has seen of it by the block's end.
+  std::string SeenWhileBlocked(const std::function<void()>& act) {
+    const InputBlock block;
+    act();
+    return SeenByNow();
+  }
+  std::string SeenByNow() const {
+    QCoreApplication::processEvents();
+    return window.Seen;
+  }
+  void Use() {
+    QCursor::setPos(window.mapToGlobal(QPoint(50, 50)));
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(50, 50));
+    QTest::keyClick(window.windowHandle(), Qt::Key_A);
+    QTest::keyClick(window.windowHandle(), Qt::Key_1, Qt::ControlModifier);
+    QWheelEvent wheel(kSpot, window.mapToGlobal(kSpot), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window.windowHandle(), &wheel);
+    QInputMethodEvent composed;
+    QCoreApplication::sendEvent(&window, &composed);
+  }
+  void DragIn() {
+    QDragEnterEvent enter(kSpot.toPoint(), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &enter);
+  }
+  void Drop() {
+    QDragMoveEvent drag(kSpot.toPoint(), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drag);
+    QDropEvent drop(kSpot, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drop);
+  }
+  void Hold() { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
+  void LetGo() { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
+  // Lays a control of its own over the window.
+  void Cover(QWidget& control) {
+    control.setParent(&window);
+    control.setGeometry(window.rect());
+    control.show();
+    window.Seen.clear();
+  }
+
+  static constexpr QPointF kSpot{50, 50};
+  QMimeData dragged;
+  WatchedWindow window;
+};
+
+TEST_F(InputBlockTest, IsDrawnDuringTheBlock) {
+  EXPECT_EQ(SeenWhileBlocked([&] { window.update(); }), "paint ");
+}
+
+TEST_F(InputBlockTest, CanBeClosedDuringTheBlock) {
+  EXPECT_EQ(SeenWhileBlocked([&] { window.windowHandle()->close(); }), "close ");
+}
+
+TEST_F(InputBlockTest, NeverLearnsOfInputMadeDuringTheBlock) {
+  EXPECT_EQ(SeenWhileBlocked([&] {
+              Use();
+              DragIn();
+            }),
+            "");
+  EXPECT_EQ(SeenByNow(), "");
+}
+
+TEST_F(InputBlockTest, NeverLearnsOfADropMadeDuringTheBlock) {
+  DragIn();
+  window.Seen.clear();
+  EXPECT_EQ(SeenWhileBlocked([&] { Drop(); }), "");
+}
+
+// A screen reader uses a control by no event of the mouse or the keyboard.
+TEST_F(InputBlockTest, NeverLearnsOfAScreenReadersActionDuringTheBlock) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  QPushButton button;
+  QCheckBox box;
+  const QString press = QAccessibleActionInterface::pressAction();
+  const QString toggle = QAccessibleActionInterface::toggleAction();
+  struct Row {
+    const char* Name;
+    QWidget& Control;
+    const char* Signal;
+    QString Action;
+  };
+  const std::array rows = {
+      Row{"press of a link", label, SIGNAL(Clicked()), press},
+      Row{"press of a button", button, SIGNAL(clicked()), press},
+      Row{"press of a check box", box, SIGNAL(stateChanged(int)), press},
+      Row{"toggle of a check box", box, SIGNAL(stateChanged(int)), toggle},
+  };
+  for (const Row& row : rows) {
+    Cover(row.Control);
+    const QSignalSpy uses(&row.Control, row.Signal);
+    const auto act = [&] {
+      QAccessible::queryAccessibleInterface(&row.Control)->actionInterface()->doAction(row.Action);
+    };
+    SeenWhileBlocked(act);
+    QTest::qWait(150);  // Qt presses a button a tenth of a second late
+    EXPECT_EQ(uses.count(), 0) << row.Name;
+    act();
+    EXPECT_EQ(uses.count(), 1) << row.Name;
+  }
+}
+
+TEST_F(InputBlockTest, ClosesAListThatAScreenReaderOpensDuringTheBlock) {
+  QComboBox box;
+  box.addItem(QStringLiteral("an entry"));
+  Cover(box);
+  SeenWhileBlocked([&] {
+    QAccessible::queryAccessibleInterface(&box)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(box.view()->isVisible());
+  });
+  EXPECT_FALSE(box.view()->isVisible());
+}
+
+TEST_F(InputBlockTest, LosesAClickThatEndsDuringTheBlock) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  Cover(label);
+  const QSignalSpy releases(&label, &Control::Released);
+  const QSignalSpy clicks(&label, &Control::Clicked);
+  Hold();
+  SeenWhileBlocked([&] { LetGo(); });
+  EXPECT_EQ(releases.count(), 1);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(InputBlockTest, LosesAClickOfAButtonThatEndsDuringTheBlock) {
+  QPushButton button;
+  Cover(button);
+  const QSignalSpy clicks(&button, &QPushButton::clicked);
+  Hold();
+  EXPECT_TRUE(button.isDown());
+  SeenWhileBlocked([&] { LetGo(); });
+  EXPECT_FALSE(button.isDown());
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(InputBlockTest, ClosesAListThatIsOpenAtItsStart) {
+  QMenu list(&window);
+  list.addAction(QStringLiteral("an entry"));
+  list.popup(window.mapToGlobal(kSpot.toPoint()));
+  ASSERT_TRUE(list.isVisible());
+  const InputBlock block;
+  EXPECT_FALSE(list.isVisible());
+}
+
+TEST_F(InputBlockTest, LetsGoOfAButtonThatAKeyHolds) {
+  QPushButton button;
+  Cover(button);
+  button.setFocus();
+  const QSignalSpy clicks(&button, &QPushButton::clicked);
+  QTest::keyPress(&button, Qt::Key_Space);
+  ASSERT_TRUE(button.isDown());
+  const InputBlock block;
+  EXPECT_FALSE(button.isDown());
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+// It is closed by a key, and by itself once that is in vain.
+TEST_F(InputBlockTest, HearsWhatIsDoneToABoxThatComesUpDuringTheBlock) {
+  int answer = 0;
+  ExpectDialog([](QDialog& box) {
+    QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+    if (box.isVisible()) box.done(QMessageBox::Abort);
+  });
+  SeenWhileBlocked([&] {
+    answer = QMessageBox(QMessageBox::Critical, {}, {}, QMessageBox::Ok, &window).exec();
+    window.Seen.clear();
+    Use();
+    EXPECT_EQ(window.Seen, "");
+  });
+  EXPECT_EQ(answer, QMessageBox::Ok);
+}
+
+TEST_F(InputBlockTest, HearsAgainAfterTheBlock) {
+  SeenWhileBlocked([] {});
+  // The way to a spot is one move, unless the mouse is there already.
+  QTest::mouseMove(window.windowHandle(), QPoint(10, 10));
+  SeenByNow();
+  window.Seen.clear();
+  Use();
+  DragIn();
+  Drop();
+  EXPECT_EQ(SeenByNow(), "move press key key shortcut wheel composed enter drag drop ") << "Ctrl is a key, too";
+}
+
+}  // namespace
+}  // namespace quillon
