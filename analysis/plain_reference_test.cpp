@@ -1,6 +1,4 @@
-// The analysis against its plain second writing, digit for digit.
-
-#include "analysis/plain_reference.h"
+// The analysis against the oracle, digit for digit.
 
 #include <algorithm>
 #include <array>
@@ -19,6 +17,10 @@
 #include "analysis/recording_window.h"
 #include "hand/equity_table.h"
 #include "support/number_text.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/numbers.h"
+#include "testing/oracle/ranges.h"
+#include "testing/oracle/runs.h"
 
 namespace quillon {
 namespace {
@@ -70,16 +72,13 @@ class PlainReference : public testing::Test {
   void SetUp() override { LoadEquityTable(); }
 
   // The results table of the program, by way of range files.
-  [[nodiscard]] std::string TableOf(std::int16_t button, Situation situation, std::string_view range,
-                                    std::string_view callingRange) const {
-    ranges_.Save("Range", range);
-    ranges_.Save("Calling Range", callingRange);
-    situation.Range = "Range";
-    situation.CallingRange = "Calling Range";
+  [[nodiscard]] std::string TableOf(const plain::Run& run) const {
+    ranges_.Save("Range", run.RangeFile);
+    ranges_.Save("Calling Range", run.CallingRangeFile);
     AnalysisState state;
     RecordedMessages messages;
-    QuietWindow window(situation, messages);
-    RunAnalysis(state, button, window, ranges_.Folder());
+    QuietWindow window({run.Pot, run.Call, run.Shove, "Range", "Calling Range"}, messages);
+    RunAnalysis(state, static_cast<std::int16_t>(run.Scenario), window, ranges_.Folder());
     EXPECT_TRUE(messages.Shown.empty());
     return state.HandInfo;
   }
@@ -90,12 +89,13 @@ class PlainReference : public testing::Test {
 void ExpectSameDeal(const std::string& text, std::string_view card1, std::string_view card2) {
   std::string rangeText = text;
   const HandList hands = DealRange(ProgramFolder{}, "", card1, card2, rangeText);
-  const std::vector<plain::Hand> plainHands = plain::DealRange(text, std::string(card1), std::string(card2));
-  ASSERT_EQ(hands.size(), plainHands.size());
+  const std::vector<double> weights = plain::Deal(text, card1, card2);
+  ASSERT_EQ(hands.size(), weights.size());
   for (std::size_t i = 0; i < hands.size(); ++i) {
-    ASSERT_EQ(hands[i].Cards, plainHands[i].Cards) << i;
-    ASSERT_EQ(hands[i].Label, plainHands[i].Label) << i;
-    ASSERT_EQ(hands[i].Weight, plainHands[i].Weight) << plainHands[i].Cards << " in " << text;
+    const plain::Hand& plainHand = plain::Hands()[i];
+    ASSERT_EQ(hands[i].Cards, plainHand.Cards) << i;
+    ASSERT_EQ(hands[i].Label, plain::Labels()[plainHand.Class]) << i;
+    ASSERT_EQ(hands[i].Weight, weights[i]) << plainHand.Cards << " in " << text;
   }
 }
 
@@ -134,7 +134,7 @@ TEST_F(PlainReference, WeightsOfManyRanges) {
   for (int i = 0; i < 200; ++i) {
     const std::string text = i % 2 == 0 ? maker.Saved() : maker.ByHand();
     for (const std::string& label : plain::Labels())
-      ASSERT_EQ(RangeWeightOf(text, label), plain::RangeWeightOf(text, label)) << label << " in " << text;
+      ASSERT_EQ(RangeWeightOf(text, label), plain::WeightOf(text, label)) << label << " in " << text;
   }
 }
 
@@ -142,61 +142,47 @@ TEST_F(PlainReference, EquitiesOfManyRanges) {
   RangeMaker maker(4);
   for (int i = 0; i < 30; ++i) {
     std::string text = i % 2 == 0 ? maker.Saved() : maker.ByHand();
-    const std::string& label = plain::Labels()[maker.Below(plain::Labels().size())];
+    const plain::Result result = plain::ResultOf({.Scenario = plain::Mode::kEquity, .RangeFile = text});
+    const std::size_t index = maker.Below(plain::Labels().size());
+    const std::string& label = plain::Labels()[index];
     const FixedText<5> cards = HandCards(label);
     const HandList hands = DealRange(ProgramFolder{}, "", cards.View().substr(0, 2), cards.View().substr(3, 2), text);
-    const double equity =
-        plain::EquityVsRange(label, plain::DealRange(text, cards.String().substr(0, 2), cards.String().substr(3, 2)));
-    ASSERT_EQ(EquityVsRange(label, hands), equity) << label << " against " << text;
+    ASSERT_EQ(NumberText(EquityVsRange(label, hands)), NumberText(result.Equities.at(index)))
+        << label << " against " << text;
   }
 }
 
-TEST_F(PlainReference, PreflopCallAgainstTheFullRange) {
+struct RunCase {
+  const char* Name;
+  plain::Run Run;
+};
+
+std::vector<RunCase> RunCases() {
   const std::string full = EveryHandAt(1);
-  EXPECT_EQ(TableOf(0, {"150", "50", "", "", ""}, full, full), plain::PreflopCallTable(150, 50, full));
-}
-
-TEST_F(PlainReference, PreflopCallAgainstARangeWrittenByHand) {
-  const std::string range = RangeMaker(5).ByHand();
-  EXPECT_EQ(TableOf(0, {"$737.35", "178.1", "", "", ""}, range, ""), plain::PreflopCallTable(737.35, 178.1, range));
-}
-
-TEST_F(PlainReference, PreflopRaiseAgainstFullRanges) {
-  const std::string full = EveryHandAt(1);
-  EXPECT_EQ(TableOf(1, {"15", "5", "100", "", ""}, full, full), plain::PreflopRaiseTable(15, 5, 100, full, full));
-}
-
-TEST_F(PlainReference, PreflopRaiseWithCallersThatAreNoSubset) {
-  RangeMaker maker(6);
-  const std::string range = maker.Saved();
-  const std::string calling = maker.Saved();
-  EXPECT_EQ(TableOf(1, {"12.3", "", "987.65", "", ""}, range, calling),
-            plain::PreflopRaiseTable(12.3, 0, 987.65, range, calling));
-}
-
-TEST_F(PlainReference, PreflopRaiseWithRangesWrittenByHand) {
-  RangeMaker maker(7);
-  const std::string range = maker.ByHand();
-  const std::string calling = maker.ByHand();
-  EXPECT_EQ(TableOf(1, {"0.1", "0.2", "0.3", "", ""}, range, calling),
-            plain::PreflopRaiseTable(0.1, 0.2, 0.3, range, calling));
-}
-
-TEST_F(PlainReference, PreflopRaiseWithoutCallers) {
   const std::string half = EveryHandAt(0.5);
   const std::string nothing = EveryHandAt(0);
-  EXPECT_EQ(TableOf(1, {"15", "5", "100", "", ""}, half, nothing), plain::PreflopRaiseTable(15, 5, 100, half, nothing));
-  EXPECT_EQ(TableOf(1, {"15", "5", "100", "", ""}, nothing, half), plain::PreflopRaiseTable(15, 5, 100, nothing, half));
+  RangeMaker maker(5);
+  return {
+      {"PreflopCallAgainstTheFullRange", {plain::Mode::kCall, "150", "50", "", full, ""}},
+      {"PreflopCallAgainstARangeWrittenByHand", {plain::Mode::kCall, "$737.35", "178.1", "", maker.ByHand(), ""}},
+      {"PreflopRaiseAgainstFullRanges", {plain::Mode::kRaise, "15", "5", "100", full, full}},
+      {"PreflopRaiseWithCallersThatAreNotASubset",
+       {plain::Mode::kRaise, "12.3", "", "987.65", maker.Saved(), maker.Saved()}},
+      {"PreflopRaiseWithRangesWrittenByHand",
+       {plain::Mode::kRaise, "0.1", "0.2", "0.3", maker.ByHand(), maker.ByHand()}},
+      {"PreflopRaiseWithoutCallers", {plain::Mode::kRaise, "15", "5", "100", half, nothing}},
+      {"PreflopRaiseAgainstNoHands", {plain::Mode::kRaise, "15", "5", "100", nothing, half}},
+      {"EquityOnlyAgainstTheHalfRange", {plain::Mode::kEquity, "", "", "", half, ""}},
+      {"EquityOnlyAgainstARandomRange", {plain::Mode::kEquity, "", "", "", maker.Saved(), ""}},
+  };
 }
 
-TEST_F(PlainReference, EquityOnlyAgainstTheHalfRange) {
-  const std::string half = EveryHandAt(0.5);
-  EXPECT_EQ(TableOf(2, {}, half, ""), plain::EquityOnlyTable(half));
-}
-
-TEST_F(PlainReference, EquityOnlyAgainstARandomRange) {
-  const std::string range = RangeMaker(8).Saved();
-  EXPECT_EQ(TableOf(2, {}, range, ""), plain::EquityOnlyTable(range));
+TEST_F(PlainReference, WholeRuns) {
+  for (const auto& [name, run] : RunCases()) {
+    const plain::Result result = plain::ResultOf(run);
+    EXPECT_TRUE(result.Outcome.GoesThrough()) << name;
+    EXPECT_EQ(TableOf(run), result.Table()) << name;
+  }
 }
 
 TEST_F(PlainReference, NumbersAsText) {

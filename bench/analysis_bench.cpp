@@ -6,11 +6,11 @@
 #include <string_view>
 
 #include "analysis/analysis_driver.h"
-#include "analysis/plain_reference.h"
 #include "analysis/quiet_window.h"
 #include "hand/equity_table.h"
 #include "ranges/range_files.h"
 #include "ranges/range_fixtures.h"
+#include "testing/oracle/runs.h"
 
 namespace quillon {
 namespace {
@@ -49,16 +49,16 @@ BENCHMARK(PreflopCall)->Unit(benchmark::kMillisecond);
 BENCHMARK(PreflopRaise)->Unit(benchmark::kMillisecond);
 BENCHMARK(EquityOnly)->Unit(benchmark::kMillisecond);
 
-void PreflopCallPlain(benchmark::State& timing) {
-  const std::string range = TextWith(AllLabels());
+void RunPlain(benchmark::State& timing, const plain::Run& run) {
   while (timing.KeepRunning())
-    benchmark::DoNotOptimize(plain::PreflopCallTable(150, 50, range));
+    benchmark::DoNotOptimize(plain::ResultOf(run, plain::Reading::kEachTime));
 }
 
+void PreflopCallPlain(benchmark::State& timing) {
+  RunPlain(timing, {plain::Mode::kCall, "150", "50", "", TextWith(AllLabels()), ""});
+}
 void PreflopRaisePlain(benchmark::State& timing) {
-  const std::string range = TextWith(AllLabels());
-  while (timing.KeepRunning())
-    benchmark::DoNotOptimize(plain::PreflopRaiseTable(150, 50, 400, range, range));
+  RunPlain(timing, {plain::Mode::kRaise, "150", "50", "400", TextWith(AllLabels()), TextWith(AllLabels())});
 }
 BENCHMARK(PreflopCallPlain)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(PreflopRaisePlain)->Unit(benchmark::kMillisecond)->Iterations(1);

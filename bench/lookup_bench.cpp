@@ -10,12 +10,13 @@
 #include <vector>
 
 #include "analysis/dealt_range.h"
-#include "analysis/plain_reference.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
 #include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
 #include "support/byte_scan.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/runs.h"
 
 namespace quillon {
 namespace {

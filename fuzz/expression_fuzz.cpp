@@ -1,14 +1,13 @@
-// Sums from any text, against the rule taken one character at a time.
+// Sums from any text, against the oracle.
 
-#include <cmath>
 #include <string>
-#include <vector>
 
 #include "fuzz/fuzz_target.h"
 #include "shell/expressions.h"
 #include "support/number_text.h"
 #include "support/recorded_messages.h"
 #include "support/run_time_error.h"
+#include "testing/oracle/numbers.h"
 
 namespace quillon {
 namespace {
@@ -17,22 +16,11 @@ std::string Overflow() {
   return RunTimeError(RunTimeFault::kOverflow).what();
 }
 
+// What follows the first character, as a sum.
 std::string PlainValue(std::string_view text) {
-  std::string rest(text.substr(text.empty() ? 0 : 1));
-  for (const char c : rest) {
-    if (std::string_view("0123456789.+-").find(c) == std::string_view::npos) return std::string(kExpressionErrorText);
-  }
-  if (rest.empty() || (rest[0] != '+' && rest[0] != '-')) rest.insert(0, 1, '+');
-
-  double total = 0;
-  std::size_t place = 0;
-  while (place < rest.size()) {
-    const std::size_t next = std::min(rest.find_first_of("+-", place + 1), rest.size());
-    const double number = LeadingNumber(rest.substr(place + 1, next - place - 1));
-    total = total + (rest[place] == '+' ? 1 : -1) * number;
-    place = next;
-  }
-  return std::isfinite(total) ? NumberText(total) : Overflow();
+  const std::string value = plain::SumText(text.substr(text.empty() ? 0 : 1));
+  if (value == "error") return std::string(kExpressionErrorText);
+  return value.empty() ? Overflow() : value;
 }
 
 template <typename Evaluation>

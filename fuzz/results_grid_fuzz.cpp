@@ -1,16 +1,15 @@
 // The grid and the hover panel of analyses that never ran: green is profit, red is loss, and each cell shows its own
 // hand.
 
-#include <algorithm>
 #include <array>
 #include <string>
 
-#include "analysis/results_table.h"
 #include "fuzz/any_state.h"
 #include "fuzz/fuzz_target.h"
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
-#include "support/number_text.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/results_tables.h"
 
 namespace quillon {
 namespace {
@@ -48,31 +47,13 @@ class Panel final : public HoverWindow {
   bool Shown = false;
 };
 
-// Whether each class has an expected value of 0 or more, from one walk down the table. The first row of a class counts.
-std::array<bool, kHandClassCount> PlainProfits(std::string_view table) {
-  std::array<bool, kHandClassCount> profits{};
-  profits.fill(true);
-  std::array<bool, kHandClassCount> seen{};
-  while (!table.empty()) {
-    const std::string_view row = table.substr(0, table.find("\r\n"));
-    table.remove_prefix(std::min(row.size() + 2, table.size()));
-    const std::string_view label = row.substr(0, row.find('\t'));
-    const auto index = static_cast<std::size_t>(HandIndex(label));
-    if (HandLabel(static_cast<std::int16_t>(index)) != label || seen[index]) continue;
-    seen[index] = true;
-    const std::string_view cells = row.substr(std::min(label.size() + 1, row.size()));
-    profits[index] = LeadingNumber(cells.substr(0, cells.find('\t'))) >= 0;
-  }
-  return profits;
-}
-
 void CheckColors(const AnalysisState& state) {
   const std::array<Rgb, kHandClassCount> colors = GridColors(state);
   if (state.Mode == AnalysisMode::kEquityOnly) return;
-  const std::array<bool, kHandClassCount> profits = PlainProfits(state.HandInfo);
+  const plain::ResultsTable table(state.HandInfo);
   for (std::size_t index = 0; index < colors.size(); ++index) {
     const Rgb color = colors[index];
-    const bool profitable = profits[index];
+    const bool profitable = table.Cell(plain::Labels()[index], 1) >= 0;
     Require(color.Blue == (profitable ? color.Red : color.Green), "a cell has one colour");
     Require(profitable ? color.Green >= color.Red : color.Red >= color.Green, "green is profit and red is loss");
   }

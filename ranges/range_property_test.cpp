@@ -1,15 +1,11 @@
-// Random ranges on their way through file, weights and notation, against slow code that shares nothing with the
-// program's: its own order of classes, its own search, its own reading of numbers, and its own reader of the summary.
+// Random ranges on their way through file, weights and notation, against the oracle.
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <gtest/gtest.h>
-#include <map>
 #include <numeric>
 #include <optional>
 #include <random>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,6 +14,8 @@
 #include "ranges/range_notation.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/ranges.h"
 
 namespace quillon {
 namespace {
@@ -39,171 +37,37 @@ void Shuffle(Random& random, std::vector<std::string>& values) {
   }
 }
 
-// The 25 lines of the notation: the pairs, then twelve rows of suited and twelve of offsuit hands, best class first.
-using Line = std::vector<std::string>;
-
-std::vector<Line> AllLines() {
-  const std::string ranks = "AKQJT98765432";
-  std::vector<Line> lines(1);
-  for (const char rank : ranks)
-    lines[0].emplace_back(2, rank);
-  for (const std::string kind : {"s", "o"}) {
-    for (std::size_t high = 0; high + 1 < ranks.size(); ++high) {
-      lines.emplace_back();
-      for (std::size_t low = high + 1; low < ranks.size(); ++low)
-        lines.back().push_back(std::string() + ranks[high] + ranks[low] + kind);
-    }
-  }
-  return lines;
-}
-
-// The weight by the rule of reading, nothing where it cannot be read.
-std::optional<double> SlowWeight(const std::string& text, const std::string& label) {
-  const std::size_t labelPlace = text.find(label);
-  const std::size_t p = labelPlace == std::string::npos ? 0 : labelPlace + 1;
-  const std::size_t bracketPlace = text.find(')', p);
-  const std::size_t q = bracketPlace == std::string::npos ? 0 : bracketPlace + 1;
-  const std::size_t start = p + label.size() + 2;
-  if (q < start) return std::nullopt;
-  std::string number = text.substr(start - 1, q - start);
-  number.erase(std::remove(number.begin(), number.end(), ' '), number.end());
-  if (number.starts_with('+')) number.erase(0, 1);
-  double value = 0;
-  std::from_chars(number.data(), number.data() + number.size(), value);
-  return value;
-}
-
-using WeightMap = std::map<std::string, double>;
-
-// Nothing if a single class cannot be read.
-std::optional<WeightMap> SlowWeights(const std::string& text) {
-  WeightMap weights;
-  for (const Line& line : AllLines()) {
-    for (const std::string& label : line) {
-      const std::optional<double> weight = SlowWeight(text, label);
-      if (!weight) return std::nullopt;
-      weights[label] = *weight;
-    }
-  }
-  return weights;
-}
-
-struct Notation {
-  std::set<std::string> classes;
-  int items = 0;
-  int openRuns = 0;
-  bool operator==(const Notation&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& stream, const Notation& notation) {
-  stream << notation.items << " items, " << notation.openRuns << " open:";
-  for (const std::string& label : notation.classes)
-    stream << " " << label;
-  return stream;
-}
-
-// Reads one item of the notation back into classes.
-std::set<std::string> ClassesOfItem(const std::string& item) {
-  const bool open = item.ends_with('+');
-  const std::size_t dash = item.find('-');
-  const std::string last =
-      open ? item.substr(0, item.size() - 1) : item.substr(dash == std::string::npos ? 0 : dash + 1);
-  for (const Line& line : AllLines()) {
-    const auto end = std::find(line.begin(), line.end(), last);
-    if (end == line.end()) continue;
-    const auto start = open ? line.begin() : std::find(line.begin(), line.end(), item.substr(0, dash));
-    if (start > end) break;
-    return {start, end + 1};
-  }
-  ADD_FAILURE() << "no item of the notation: " << item;
-  return {};
-}
-
-// Reads a list of items back. Each class may be named only once.
-Notation ReadNotation(const std::string& text) {
-  Notation notation;
-  std::istringstream items(text);
-  for (std::string item; std::getline(items, item, ',');) {
-    const std::set<std::string> classes = ClassesOfItem(item);
-    for (const std::string& label : classes)
-      EXPECT_TRUE(notation.classes.insert(label).second) << label << " twice in " << text;
-    notation.openRuns += item.ends_with('+') ? 1 : 0;
-    EXPECT_EQ(item.find_first_of("+-") == std::string::npos, classes.size() == 1) << item;
-    ++notation.items;
-  }
-  return notation;
-}
-
-// What the notation must name: every unbroken run of classes at the target, less those that the next class down tops.
-Notation SlowNotation(const WeightMap& weights, double target) {
-  Notation notation;
-  for (const Line& line : AllLines()) {
-    for (auto start = line.begin(); start != line.end();) {
-      const auto differs = [&](const std::string& label) { return weights.at(label) != target; };
-      const auto end = std::find_if(start, line.end(), differs);
-      const bool topped = end != line.end() && weights.at(*end) > target;
-      if (start != end && !topped) {
-        notation.classes.insert(start, end);
-        ++notation.items;
-        notation.openRuns += start == line.begin() && end - start > 1 ? 1 : 0;
-      }
-      start = end == line.end() ? end : end + 1;
-    }
-  }
-  return notation;
-}
-
-// Takes the two parts of a summary apart again and compares each with what it must name.
-void ExpectSummaryOf(const std::string& text, const WeightMap& weights) {
-  const Notation full = SlowNotation(weights, 1);
-  const Notation half = SlowNotation(weights, 0.5);
-  EXPECT_EQ(ReadNotation(SummarizeWeight(text, 1)), full);
-  EXPECT_EQ(ReadNotation(SummarizeWeight(text, 0.5)), half);
-
-  const std::string fullMark = "Full: ";
-  const std::string halfMark = " | Half: ";
-  std::string summary = RangeSummary(text);
-  if (half.items > 0) {
-    const std::size_t place = summary.find(halfMark);
-    ASSERT_TRUE(summary.starts_with(fullMark) && place != std::string::npos) << summary;
-    EXPECT_EQ(ReadNotation(summary.substr(place + halfMark.size())), half) << summary;
-    summary = summary.substr(fullMark.size(), place - fullMark.size());
-  } else if (full.items == 0) {
-    EXPECT_EQ(summary, "[None]");
-    return;
-  } else if (full.classes.size() == weights.size()) {
-    EXPECT_EQ(summary, "[Everything]");
-    return;
-  }
-  EXPECT_EQ(ReadNotation(summary), full) << summary;
-}
-
-double SlowCombos(const WeightMap& weights) {
-  double combos = 0;
-  for (const auto& [label, weight] : weights) {
-    const double hands = label[0] == label[1] ? 6 : label[2] == 's' ? 4 : 12;
-    if (weight == 1) combos += hands;
-    if (weight == 0.5) combos += hands / 2;
-  }
-  return combos;
-}
-
 constexpr std::array kUsualWeights = {0.0, 0.5, 1.0};
 // No two equal digits side by side: a weight such as 0.99 would be taken for the label of a pair.
 constexpr std::array kAnyWeights = {0.0, 0.5, 1.0, 0.25, 0.75, 2.0, -1.0, 0.015625, 0.98, 1e-20, 1e20};
 
 // Ranges of players have runs, so a weight is kept along a line more often than it changes; `keep` is in percent.
 template <typename Palette>
-WeightMap RandomWeights(Random& random, const Palette& palette, int keep) {
-  WeightMap weights;
-  for (const Line& line : AllLines()) {
+plain::Weights RandomWeights(Random& random, const Palette& palette, int keep) {
+  plain::Weights weights(plain::kClasses);
+  for (const auto& line : plain::Lines()) {
     double weight = AnyOf(random, palette);
     for (const std::string& label : line) {
       if (Below(random, 100) >= keep) weight = AnyOf(random, palette);
-      weights[label] = weight;
+      weights[plain::IndexOf(label)] = weight;
     }
   }
   return weights;
+}
+
+ClassWeights InAnArray(const plain::Weights& weights) {
+  ClassWeights all{};
+  std::copy(weights.begin(), weights.end(), all.begin());
+  return all;
+}
+
+void ExpectReadAs(const std::string& text, const plain::Weights& weights) {
+  for (std::size_t i = 0; i < weights.size(); ++i)
+    ASSERT_EQ(RangeWeightOf(text, plain::Labels()[i]), weights[i]) << plain::Labels()[i] << " in " << text;
+  EXPECT_EQ(SelectedCombos(text), plain::SelectedCombos(weights)) << text;
+  EXPECT_EQ(SummarizeWeight(text, 1), plain::RunsAt(weights, 1)) << text;
+  EXPECT_EQ(SummarizeWeight(text, 0.5), plain::RunsAt(weights, 0.5)) << text;
+  EXPECT_EQ(RangeSummary(text), plain::Summary(weights)) << text;
 }
 
 class RandomRange : public ::testing::TestWithParam<unsigned> {
@@ -226,20 +90,13 @@ class RandomRange : public ::testing::TestWithParam<unsigned> {
 TEST_P(RandomRange, KeepsItsWeightsThroughItsFile) {
   for (int round = 0; round < 40; ++round) {
     const int keep = Below(Source(), 100);
-    const WeightMap weights =
+    const plain::Weights weights =
         round % 2 == 0 ? RandomWeights(Source(), kUsualWeights, keep) : RandomWeights(Source(), kAnyWeights, keep);
-    std::array<double, kHandClassCount> ordered{};
-    for (std::int16_t index = 0; index < kHandClassCount; ++index)
-      ordered[static_cast<std::size_t>(index)] = weights.at(std::string(HandLabel(index)));
-
-    const std::string written = RangeTextOf(ordered);
+    const std::string written = RangeTextOf(InAnArray(weights));
     const std::string text = ThroughItsFile(written);
     ASSERT_EQ(text, written);
-    for (const auto& [label, weight] : weights)
-      ASSERT_EQ(RangeWeightOf(text, label), weight) << label << " in " << text;
-    ASSERT_EQ(SlowWeights(text), weights) << text;
-    ASSERT_EQ(SelectedCombos(text), SlowCombos(weights)) << text;
-    ExpectSummaryOf(text, weights);
+    ASSERT_EQ(plain::WeightsOf(text), weights) << text;
+    ExpectReadAs(text, weights);
     ASSERT_FALSE(HasFailure()) << text;
   }
 }
@@ -253,7 +110,7 @@ std::string HandEditedText(Random& random) {
   const int missing = AnyOf(random, std::array{0, 0, 3, 50});  // percent
   const int doubled = AnyOf(random, std::array{0, 10});
   std::vector<std::string> entries;
-  for (const Line& line : AllLines()) {
+  for (const auto& line : plain::Lines()) {
     const char* weight = AnyOf(random, kWrittenWeights);
     for (const std::string& label : line) {
       if (Below(random, 100) < 30) weight = AnyOf(random, kWrittenWeights);
@@ -276,20 +133,17 @@ TEST_P(RandomRange, ReadsByTheSearchRuleHoweverItIsWritten) {
     const std::string written = HandEditedText(Source());
     const std::string text = ThroughItsFile(written);
     ASSERT_EQ(text, written);
-    for (const Line& line : AllLines()) {
-      for (const std::string& label : line) {
-        const std::optional<double> expected = SlowWeight(text, label);
-        if (expected) {
-          ASSERT_EQ(RangeWeightOf(text, label), *expected) << label << " in " << text;
-        } else {
-          ASSERT_EQ(FaultOf([&] { return RangeWeightOf(text, label); }), RunTimeFault::kInvalidProcedureCall)
-              << label << " in " << text;
-        }
+    for (const std::string& label : plain::Labels()) {
+      const std::optional<double> expected = plain::WeightOf(text, label);
+      if (expected) {
+        ASSERT_EQ(RangeWeightOf(text, label), *expected) << label << " in " << text;
+      } else {
+        ASSERT_EQ(FaultOf([&] { return RangeWeightOf(text, label); }), RunTimeFault::kInvalidProcedureCall)
+            << label << " in " << text;
       }
     }
-    if (const std::optional<WeightMap> weights = SlowWeights(text)) {
-      ASSERT_EQ(SelectedCombos(text), SlowCombos(*weights)) << text;
-      ExpectSummaryOf(text, *weights);
+    if (const std::optional<plain::Weights> weights = plain::WeightsOf(text)) {
+      ExpectReadAs(text, *weights);
     } else {
       ASSERT_EQ(FaultOf([&] { return SelectedCombos(text); }), RunTimeFault::kInvalidProcedureCall) << text;
     }
@@ -315,10 +169,7 @@ constexpr std::array kNotationWeights = {0.0, 0.5, 1.0, 1.0, 0.25, 0.99, 0.2222,
 
 TEST_P(RandomRange, ReadsTheNotationThatItWrote) {
   for (int round = 0; round < 200; ++round) {
-    const WeightMap weights = RandomWeights(Source(), kNotationWeights, Below(Source(), 100));
-    ClassWeights ordered{};
-    for (std::int16_t index = 0; index < kHandClassCount; ++index)
-      ordered[static_cast<std::size_t>(index)] = weights.at(std::string(HandLabel(index)));
+    ClassWeights ordered = InAnArray(RandomWeights(Source(), kNotationWeights, Below(Source(), 100)));
     if (round % 10 == 0)
       ordered[static_cast<std::size_t>(Below(Source(), 169))] = static_cast<double>(Source()()) / 4294967296.0;
 
@@ -348,7 +199,7 @@ std::string TypedLabel(Random& random, std::string label) {
 }
 
 TypedItem RandomItem(Random& random) {
-  const Line line = AnyOf(random, AllLines());
+  const std::vector<std::string> line = AnyOf(random, plain::Lines());
   const int first = Below(random, static_cast<int>(line.size()));
   const int last = first + Below(random, static_cast<int>(line.size()) - first);
   const auto label = [&](int place) { return line[static_cast<std::size_t>(place)]; };
@@ -370,19 +221,15 @@ TEST_P(RandomRange, ReadsItemsThatPeopleType) {
   constexpr std::array kBetween = {",", ", ", ";", " ", "\n", "\r\n", " , "};
   for (int round = 0; round < 200; ++round) {
     std::string notation;
-    WeightMap expected;
+    plain::Weights expected(plain::kClasses);
     for (int items = 1 + Below(Source(), 12); items > 0; --items) {
       const TypedItem item = RandomItem(Source());
       const TypedWeight weight = AnyOf(Source(), kTyped);
       notation += item.text + weight.text + AnyOf(Source(), kBetween);
       for (const std::string& label : item.classes)
-        expected[label] = weight.weight;
+        expected[plain::IndexOf(label)] = weight.weight;
     }
-    const ClassWeights read = WeightsOfNotation(notation);
-    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-      const std::string label(HandLabel(index));
-      ASSERT_EQ(read[static_cast<std::size_t>(index)], expected[label]) << label << " in " << notation;
-    }
+    ASSERT_EQ(WeightsOfNotation(notation), InAnArray(expected)) << notation;
   }
 }
 

@@ -9,18 +9,13 @@
 #include <unistd.h>
 #include <vector>
 
+#include "testing/oracle/searches.h"
+
 namespace quillon {
 namespace {
 
 constexpr std::size_t kLongest = 480;  // at least two whole blocks of every search, and a rest
 constexpr std::size_t kNowhere = std::string_view::npos;
-
-std::size_t PlainNthByte(std::string_view text, char byte, std::size_t n) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == byte && n-- == 0) return i;
-  }
-  return kNowhere;
-}
 
 class RandomTexts {
  public:
@@ -84,7 +79,7 @@ TEST(FindNthByte, EqualsAPlainLoopAtEveryLength) {
   for (std::size_t length = 0; length <= kLongest; ++length) {
     const std::string text = texts.Make(length);
     for (std::size_t n = 0; n <= length + 1; ++n) {
-      ASSERT_EQ(FindNthByte(text, ' ', n), PlainNthByte(text, ' ', n)) << "length " << length << ", n " << n;
+      ASSERT_EQ(FindNthByte(text, ' ', n), plain::NthByte(text, ' ', n)) << "length " << length << ", n " << n;
     }
   }
 }

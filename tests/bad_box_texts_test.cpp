@@ -15,9 +15,12 @@
 #include <vector>
 
 #include "shell/screens/main_form_fixture.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/numbers.h"
+#include "testing/oracle/runs.h"
+#include "testing/oracle/settings.h"
 #include "tests/bad_inputs.h"
 #include "tests/companion_in_folder.h"
-#include "tests/plain_reading.h"
 
 namespace quillon {
 namespace {
@@ -28,25 +31,25 @@ using Texts = std::vector<std::string>;  // pot and call; with a shove it is "Pr
 const std::string kRange = TextWith("AA KK", "QQ");
 const std::string kCallingRange = TextWith("AA KK AKs AKo");
 
-PlainRun RunOf(const Texts& texts) {
-  if (texts.size() == 2) return {PlainMode::kCall, texts[0], texts[1], {}, kRange, {}};
-  return {PlainMode::kRaise, texts[0], texts[1], texts[2], kRange, kCallingRange};
+plain::Run RunOf(const Texts& texts) {
+  if (texts.size() == 2) return {plain::Mode::kCall, texts[0], texts[1], {}, kRange, {}};
+  return {plain::Mode::kRaise, texts[0], texts[1], texts[2], kRange, kCallingRange};
 }
 
 /// What a plain reader makes of the texts: those that the boxes are left with, and what comes of a run with them.
 struct PlainStory {
   Texts Left;
-  PlainOutcome InBoxes;  // of the first text that stops the companion
-  PlainResult Result;
+  plain::Outcome InBoxes;  // of the first text that stops the companion
+  plain::Result Result;
 };
 
 PlainStory StoryOf(const Texts& texts) {
   PlainStory story{texts, {}, {}};
   for (std::string& text : story.Left) {
-    const PlainOutcome outcome = LeaveBox(text);
+    const plain::Outcome outcome = plain::LeaveBox(text);
     if (story.InBoxes.GoesThrough()) story.InBoxes = outcome;
   }
-  story.Result = ResultOf(RunOf(story.Left));
+  story.Result = plain::ResultOf(RunOf(story.Left));
   return story;
 }
 
@@ -59,10 +62,10 @@ std::string WarningsOf(const PlainStory& story) {
     const std::string& text = story.Left[i];
     std::string whole = text;
     std::erase(whole, ',');
-    const double value = PlainBoxValue(text);
-    if (!PlainIsNumeric(text) || value == PlainBoxValue(whole)) continue;
+    const double value = plain::BoxValue(text);
+    if (!plain::IsNumeric(text) || value == plain::BoxValue(whole)) continue;
     warnings += "Warning: "s + std::array{"--pot", "--call", "--shove"}.at(i) + " " + text + " counts as " +
-                PlainNumberText(value) + "; a comma ends a number.\n";
+                plain::NumberText(value) + "; a comma ends a number.\n";
   }
   return warnings;
 }
@@ -95,8 +98,8 @@ struct TextCase {
 };
 
 std::string Amounts(const nlohmann::json& object) {
-  std::string text = "pot " + PlainNumberText(object["pot"]) + ", call " + PlainNumberText(object["call"]);
-  return object["shove"].is_null() ? text : text + ", shove " + PlainNumberText(object["shove"]);
+  std::string text = "pot " + plain::NumberText(object["pot"]) + ", call " + plain::NumberText(object["call"]);
+  return object["shove"].is_null() ? text : text + ", shove " + plain::NumberText(object["shove"]);
 }
 
 constexpr const char* kProblem =
@@ -239,7 +242,7 @@ TEST(BadBoxTexts, AreTakenAsTold) {
       const std::string errors = outcome.Errors.substr(std::min(warnings.size(), outcome.Errors.size()));
       EXPECT_EQ(outcome.Status == 0 ? Amounts(nlohmann::json::parse(outcome.Output)) : errors, one.Outcome);
       EXPECT_EQ(outcome.Status == 0, errors.empty());
-      const PlainOutcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
+      const plain::Outcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
       EXPECT_EQ(outcome.Status, plain.Status());
       EXPECT_EQ(errors, plain.GoesThrough() ? "" : plain.Told() + "\n") << "by the plain reader";
     }
@@ -270,15 +273,15 @@ std::string CellOf(const std::string& row, int column) {
   return cell;
 }
 
-void ExpectFigures(const std::string& csv, const PlainResult& result, bool raise) {
+void ExpectFigures(const std::string& csv, const plain::Result& result, bool raise) {
   std::istringstream lines(csv);
   std::string line;
   std::getline(lines, line);
-  for (std::size_t i = 0; i < PlainLabels().size(); ++i) {
+  for (std::size_t i = 0; i < plain::Labels().size(); ++i) {
     ASSERT_TRUE(std::getline(lines, line));
-    EXPECT_EQ(CellOf(line, 2), PlainNumberText(result.ExpectedValues[i])) << line;
-    EXPECT_EQ(CellOf(line, 3), PlainNumberText(result.Equities[i])) << line;
-    EXPECT_EQ(CellOf(line, 4), raise ? PlainNumberText(result.FoldShares[i]) : "") << line;
+    EXPECT_EQ(CellOf(line, 2), plain::NumberText(result.ExpectedValues[i])) << line;
+    EXPECT_EQ(CellOf(line, 3), plain::NumberText(result.Equities[i])) << line;
+    EXPECT_EQ(CellOf(line, 4), raise ? plain::NumberText(result.FoldShares[i]) : "") << line;
   }
 }
 
@@ -294,13 +297,13 @@ TEST(BadBoxTexts, ThatAreRandomAreTakenByTheCompanionAsByThePlainReader) {
     left -= static_cast<int>(texts.size());
     SCOPED_TRACE(AllShown(texts));
     const PlainStory story = StoryOf(texts);
-    const PlainOutcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
+    const plain::Outcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
     const ProgramOutcome outcome = ranges.Run(texts, "csv");
     EXPECT_EQ(outcome.Status, plain.Status());
     EXPECT_EQ(outcome.Errors, WarningsOf(story) + (plain.GoesThrough() ? "" : plain.Told() + "\n"));
     EXPECT_EQ(outcome.Output.empty(), !plain.GoesThrough());
     if (plain.GoesThrough()) ExpectFigures(outcome.Output, story.Result, texts.size() == 3);
-    tally.Count(FateOf(plain));
+    tally.Count(plain.Fate());
   }
   EXPECT_TRUE(ranges.State() == before) << "a file was written to";
 }
@@ -318,7 +321,7 @@ class BadBoxTextsInWindow : public MainFormTest {
     if (text.empty()) edit.del();
   }
 
-  static void ExpectTold(const PlainOutcome& outcome) {
+  static void ExpectTold(const plain::Outcome& outcome) {
     if (!outcome.IsRefused()) return;
     std::string text = outcome.Text;
     for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2)
@@ -333,7 +336,7 @@ class BadBoxTextsInWindow : public MainFormTest {
     Paste(box, text);
     const std::string held = BoxText(box);
     std::string left = held;
-    ExpectTold(LeaveBox(left));
+    ExpectTold(plain::LeaveBox(left));
     Get<QComboBox>("cmboRanges", chooser).setFocus(Qt::TabFocusReason);
     VerifyExpectedBoxes();
     ComeToFront();
@@ -346,13 +349,14 @@ class BadBoxTextsInWindow : public MainFormTest {
 bool Endures(const Texts& texts) {
   Texts left = texts;
   for (std::string& text : left) {
-    if (LeaveBox(text).Fault != 0) return false;
+    if (plain::LeaveBox(text).Fault != 0) return false;
   }
   const bool raise = left.size() == 3;
-  if (raise && (OddsOf(left[0], left[1], texts[2]).Fault != 0 || OddsOf(left[0], left[1], left[2]).Fault != 0)) {
+  if (raise &&
+      (plain::OddsOf(left[0], left[1], texts[2]).Fault != 0 || plain::OddsOf(left[0], left[1], left[2]).Fault != 0)) {
     return false;
   }
-  return ResultOf(RunOf(left)).Outcome.Fault == 0;
+  return plain::ResultOf(RunOf(left)).Outcome.Fault == 0;
 }
 
 TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
@@ -367,7 +371,7 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
   for (int left = RandomInputs(25); left > 0 && !HasFailure();) {
     Texts texts = RandomTexts(inputs);
     for (std::string& text : texts)
-      text = PlainUtf8(text);  // no characters that the machine's fonts may lack
+      text = plain::Utf8(text);  // no characters that the machine's fonts may lack
     if (!Endures(texts)) continue;
     left -= static_cast<int>(texts.size());
     SCOPED_TRACE(AllShown(texts));
@@ -382,7 +386,8 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
     const PlainStory story = StoryOf(texts);
     EXPECT_EQ(boxes, story.Left);
     if (raise) {
-      EXPECT_EQ(Caption("lblHisOdds") + ", " + Caption("lblHisBEP"), OddsOf(boxes[0], boxes[1], boxes[2]).Labels);
+      EXPECT_EQ(Caption("lblHisOdds") + ", " + Caption("lblHisBEP"),
+                plain::OddsOf(boxes[0], boxes[1], boxes[2]).Labels);
     }
 
     ExpectTold(story.Result.Outcome);
@@ -390,14 +395,14 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
     VerifyExpectedBoxes();
     ComeToFront();
     const bool through = story.Result.Outcome.GoesThrough();
-    tally.Count(FateOf(story.Result.Outcome));
+    tally.Count(story.Result.Outcome.Fate());
     EXPECT_EQ(Screen(), through ? "ALL IN Grid" : raise ? "Preflop Raise" : "Preflop Call");
     EXPECT_EQ(Shows("lblNav", kGridNavIndex), through);
     if (through) {
-      EXPECT_EQ(Form.State().PotSize, PlainBoxValue(boxes[0]));
-      EXPECT_EQ(Form.State().CallAmount, PlainBoxValue(boxes[1]));
+      EXPECT_EQ(Form.State().PotSize, plain::BoxValue(boxes[0]));
+      EXPECT_EQ(Form.State().CallAmount, plain::BoxValue(boxes[1]));
       if (raise) {
-        EXPECT_EQ(Form.State().ShoveAmount, PlainBoxValue(boxes[2]));
+        EXPECT_EQ(Form.State().ShoveAmount, plain::BoxValue(boxes[2]));
       }
     }
   }

@@ -5,7 +5,7 @@
 #include <iostream>
 #include <vector>
 
-#include "tests/plain_reading.h"
+#include "testing/oracle/hands.h"
 
 namespace quillon {
 namespace {
@@ -89,7 +89,7 @@ std::string BadInputs::GoodRangeFile() {
   constexpr std::string_view kWeights = "0|0|1|1|0.5";
   constexpr std::string_view kOddWeights = "0.25|1.0|2|-1|1e3|.5|0.50|x";
   const bool odd = OneIn(4);
-  std::vector<std::string> labels = PlainLabels();
+  std::vector<std::string> labels = plain::Labels();
   if (OneIn(4)) std::shuffle(labels.begin(), labels.end(), random_);
   if (OneIn(4)) labels.resize(1 + Below(labels.size()));
   std::string text;

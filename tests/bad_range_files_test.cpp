@@ -11,9 +11,12 @@
 #include <vector>
 
 #include "ranges/range_fixtures.h"
+#include "testing/oracle/hands.h"
+#include "testing/oracle/numbers.h"
+#include "testing/oracle/ranges.h"
+#include "testing/oracle/runs.h"
 #include "tests/bad_inputs.h"
 #include "tests/companion_in_folder.h"
-#include "tests/plain_reading.h"
 
 namespace quillon {
 namespace {
@@ -210,7 +213,7 @@ TEST(BadRangeFiles, AreReadAsTold) {
   for (const FileCase& one : AllFiles()) {
     ASSERT_EQ(listings.count(one.Name), 1U) << one.Name;
     EXPECT_EQ(listings.at(one.Name), one.Listing) << one.Name;
-    EXPECT_EQ(ListingOf(one.File).value_or(kNoRange), one.Listing) << one.Name << ", by the plain reader";
+    EXPECT_EQ(plain::ListingOf(one.File).value_or(kNoRange), one.Listing) << one.Name << ", by the plain reader";
   }
   EXPECT_TRUE(StateOf(program.Folder().Path) == before) << "a file was written to";
 }
@@ -232,7 +235,7 @@ TEST(BadRangeFiles, ThatAreRandomAreReadAsThePlainReaderReadsThem) {
     EXPECT_EQ(listings.size(), files.size());
     for (const auto& [name, listing] : listings) {
       ASSERT_EQ(files.count(name), 1U) << Shown(name);
-      EXPECT_EQ(listing, ListingOf(files[name]).value_or(kNoRange)) << Shown(files[name]);
+      EXPECT_EQ(listing, plain::ListingOf(files[name]).value_or(kNoRange)) << Shown(files[name]);
       tally.Count(listing == kNoRange ? "no ranges" : "ranges");
     }
     EXPECT_TRUE(StateOf(program.Folder().Path) == before) << "a file was written to";
@@ -266,32 +269,32 @@ struct RunCase {
 
 class BadRangeInRun : public testing::TestWithParam<RunCase> {};
 
-std::vector<std::string> ArgumentsOf(const PlainRun& run, const std::string& range, const std::string& callingRange) {
-  switch (run.Mode) {
-    case PlainMode::kCall:
+std::vector<std::string> ArgumentsOf(const plain::Run& run, const std::string& range, const std::string& callingRange) {
+  switch (run.Scenario) {
+    case plain::Mode::kCall:
       return Joined({{"call"}, Option("--pot", run.Pot), Option("--call", run.Call), {"--range", range}});
-    case PlainMode::kRaise:
+    case plain::Mode::kRaise:
       return Joined({{"raise"},
                      Option("--pot", run.Pot),
                      Option("--call", run.Call),
                      Option("--shove", run.Shove),
                      {"--range", range, "--calling-range", callingRange}});
-    case PlainMode::kEquity:
+    case plain::Mode::kEquity:
       return {"equity", "--range", range};
   }
   return {};
 }
 
-PlainRun RunOn(const std::string& command, const std::string& file, const std::string& callingFile) {
-  const PlainMode mode = command == "call"    ? PlainMode::kCall
-                         : command == "raise" ? PlainMode::kRaise
-                                              : PlainMode::kEquity;
+plain::Run RunOn(const std::string& command, const std::string& file, const std::string& callingFile) {
+  const plain::Mode mode = command == "call"    ? plain::Mode::kCall
+                           : command == "raise" ? plain::Mode::kRaise
+                                                : plain::Mode::kEquity;
   return {mode, "150", "50", "300", file, callingFile};
 }
 
 // What is said of a range's file before the run.
 std::string PointedOut(const TemporaryProgram& program, const std::string& name, const std::string& file) {
-  if (ListingOf(file)) return {};
+  if (plain::ListingOf(file)) return {};
   return "The range \"" + name + "\" cannot be read: " + program.RangeFile(name + ".txt").string() +
          " is missing, empty or no range file.\n";
 }
@@ -299,13 +302,13 @@ std::string PointedOut(const TemporaryProgram& program, const std::string& name,
 TEST_P(BadRangeInRun, EndsAsTold) {
   const TemporaryProgram program;
   program.Write("Bad.txt", GetParam().File);
-  const PlainRun run = RunOn(GetParam().Command, GetParam().File, GetParam().File);
+  const plain::Run run = RunOn(GetParam().Command, GetParam().File, GetParam().File);
   const ProgramOutcome outcome = RunCompanionIn(program.Folder(), ArgumentsOf(run, "Bad", "Bad"));
   const std::string wanted = GetParam().Outcome;
   const std::string pointedOut = PointedOut(program, "Bad", GetParam().File);
   const int failed = wanted.starts_with("Run-time error") ? 1 : 3;
   EXPECT_EQ(outcome.Status, wanted.empty() ? 0 : failed);
-  EXPECT_EQ(outcome.Errors, pointedOut + (run.Mode == PlainMode::kRaise ? pointedOut : "") + wanted);
+  EXPECT_EQ(outcome.Errors, pointedOut + (run.Scenario == plain::Mode::kRaise ? pointedOut : "") + wanted);
   EXPECT_EQ(outcome.Output.empty(), !wanted.empty());
 }
 
@@ -363,15 +366,16 @@ std::vector<std::vector<std::string>> CellsOf(const std::string& csv) {
   return rows;
 }
 
-void ExpectFigures(const std::string& csv, const PlainResult& result, PlainMode mode) {
+void ExpectFigures(const std::string& csv, const plain::Result& result, plain::Mode mode) {
   const auto rows = CellsOf(csv);
-  ASSERT_EQ(rows.size(), PlainLabels().size());
+  ASSERT_EQ(rows.size(), plain::Labels().size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     ASSERT_EQ(rows[i].size(), 6U);
-    EXPECT_EQ(rows[i][0], PlainLabels()[i]);
-    EXPECT_EQ(rows[i][2], mode == PlainMode::kEquity ? "" : PlainNumberText(result.ExpectedValues[i])) << rows[i][0];
-    EXPECT_EQ(rows[i][3], PlainNumberText(result.Equities[i])) << rows[i][0];
-    EXPECT_EQ(rows[i][4], mode == PlainMode::kRaise ? PlainNumberText(result.FoldShares[i]) : "") << rows[i][0];
+    EXPECT_EQ(rows[i][0], plain::Labels()[i]);
+    EXPECT_EQ(rows[i][2], mode == plain::Mode::kEquity ? "" : plain::NumberText(result.ExpectedValues[i]))
+        << rows[i][0];
+    EXPECT_EQ(rows[i][3], plain::NumberText(result.Equities[i])) << rows[i][0];
+    EXPECT_EQ(rows[i][4], mode == plain::Mode::kRaise ? plain::NumberText(result.FoldShares[i]) : "") << rows[i][0];
   }
 }
 
@@ -388,19 +392,19 @@ TEST(BadRangeFiles, ThatAreRandomGoThroughARunOrEndItAsTold) {
     program.Write("Calling.txt", callingFile);
     const auto before = StateOf(program.Folder().Path);
 
-    const PlainRun run = RunOn(left % 3 == 0 ? "call" : left % 3 == 1 ? "raise" : "equity", file, callingFile);
-    const PlainResult result = ResultOf(run);
+    const plain::Run run = RunOn(left % 3 == 0 ? "call" : left % 3 == 1 ? "raise" : "equity", file, callingFile);
+    const plain::Result result = plain::ResultOf(run);
     const ProgramOutcome outcome =
         RunCompanionIn(program.Folder(), Joined({ArgumentsOf(run, "Bad", "Calling"), {"--format", "csv"}}));
-    const bool raise = run.Mode == PlainMode::kRaise;
+    const bool raise = run.Scenario == plain::Mode::kRaise;
     const std::string errors = PointedOut(program, "Bad", file) +
                                (raise ? PointedOut(program, "Calling", callingFile) : "") + result.Outcome.Told();
     EXPECT_EQ(outcome.Status, result.Outcome.Status()) << outcome.Errors;
     EXPECT_EQ(outcome.Errors.substr(0, errors.size()), errors);
     EXPECT_TRUE(result.Outcome.GoesThrough() ? outcome.Errors == errors : outcome.Errors.ends_with("\n"));
     EXPECT_EQ(outcome.Output.empty(), !result.Outcome.GoesThrough());
-    if (result.Outcome.GoesThrough()) ExpectFigures(outcome.Output, result, run.Mode);
-    tally.Count(FateOf(result.Outcome));
+    if (result.Outcome.GoesThrough()) ExpectFigures(outcome.Output, result, run.Scenario);
+    tally.Count(result.Outcome.Fate());
     EXPECT_TRUE(StateOf(program.Folder().Path) == before) << "a file was written to";
   }
 }

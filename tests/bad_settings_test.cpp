@@ -16,10 +16,12 @@
 #include <vector>
 
 #include "shell/screens/main_form_fixture.h"
+#include "testing/oracle/numbers.h"
+#include "testing/oracle/runs.h"
+#include "testing/oracle/settings.h"
 #include "tests/address_sanitizer.h"
 #include "tests/bad_inputs.h"
 #include "tests/companion_in_folder.h"
-#include "tests/plain_reading.h"
 
 namespace quillon {
 namespace {
@@ -55,7 +57,7 @@ constexpr int kCentredLeft = -110;
 constexpr int kCentredTop = 99;  // half a pixel goes up
 
 int PixelOf(const std::string& text) {
-  const double twips = PlainLeadingNumber(text);
+  const double twips = plain::LeadingNumber(text);
   const bool outside = twips < 0 || twips > kTwips;
   return outside ? 0 : static_cast<int>(std::floor(static_cast<double>(static_cast<float>(twips)) / 15 + 0.5));
 }
@@ -65,17 +67,17 @@ Start PlainStart(const std::string& file) {
   Start start;
   start.Odds = "X:1, 0%";
   for (int box = 0; box < kBoxes; ++box)
-    start.Boxes.push_back(PlainUtf8(SettingIn(file, "Values", std::to_string(box))));
+    start.Boxes.push_back(plain::Utf8(plain::SettingIn(file, "Values", std::to_string(box))));
   if (!start.Boxes[4].empty()) {
-    const PlainOdds odds = OddsOf(start.Boxes[2], start.Boxes[3], start.Boxes[4]);
+    const plain::Odds odds = plain::OddsOf(start.Boxes[2], start.Boxes[3], start.Boxes[4]);
     start.Odds = odds.Fault == 0 ? odds.Labels : "N/A, N/A";
   }
-  const std::string left = SettingIn(file, "Main", "Left");
-  const std::string top = SettingIn(file, "Main", "Top");
+  const std::string left = plain::SettingIn(file, "Main", "Left");
+  const std::string top = plain::SettingIn(file, "Main", "Top");
   const bool placed = !left.empty() && !top.empty();
   start.Left = placed ? PixelOf(left) : kCentredLeft;
   start.Top = placed ? PixelOf(top) : kCentredTop;
-  const double upgrade = std::nearbyint(PlainLeadingNumber(SettingIn(file, "Upgrade", "Auto")));
+  const double upgrade = std::nearbyint(plain::LeadingNumber(plain::SettingIn(file, "Upgrade", "Auto")));
   constexpr int kInvalidPropertyValue = 380;
   const bool known = upgrade == 0 || upgrade == 1 || upgrade == 2;
   if (start.Fault == 0 && !known) start.Fault = kInvalidPropertyValue;
@@ -143,7 +145,7 @@ void ExpectUntouched(const std::string& before, const std::string& after, const 
     EXPECT_EQ(after, before);
     return;
   }
-  EXPECT_EQ(SettingIn(after, "Upgrade", "Auto"), std::to_string(start.Upgrade));
+  EXPECT_EQ(plain::SettingIn(after, "Upgrade", "Auto"), std::to_string(start.Upgrade));
   EXPECT_LE(LostLines(before, after), 1U) << Shown(after);
   EXPECT_EQ(LinesOf(before).size(), LinesOf(after).size());
 }
@@ -305,20 +307,20 @@ void ExpectStored(MainStage& stage, const std::string& before, const Start& star
   stage.Form.close();
   EXPECT_EQ(stage.Ends, 1);
   const std::string after = stage.Settings();
-  if (PlainIsUtf16(before)) {
+  if (plain::IsUtf16(before)) {
     EXPECT_EQ(after, before);
     return;
   }
   for (int box = 0; box < kBoxes; ++box) {
-    EXPECT_EQ(PlainUtf8(SettingIn(after, "Values", std::to_string(box))),
+    EXPECT_EQ(plain::Utf8(plain::SettingIn(after, "Values", std::to_string(box))),
               Stored(start.Boxes[static_cast<std::size_t>(box)]))
         << box;
   }
-  EXPECT_EQ(SettingIn(after, "Main", "Left"), PlainNumberText(start.Left * 15));
-  EXPECT_EQ(SettingIn(after, "Main", "Top"), PlainNumberText(start.Top * 15));
-  const std::string upgrade = SettingIn(before, "Upgrade", "Auto");
-  EXPECT_EQ(SettingIn(after, "Upgrade", "Auto"), start.Upgrade == 0 ? upgrade : std::to_string(start.Upgrade));
-  EXPECT_EQ(SettingIn(after, "Manager", "Left"), SettingIn(before, "Manager", "Left"));
+  EXPECT_EQ(plain::SettingIn(after, "Main", "Left"), plain::NumberText(start.Left * 15));
+  EXPECT_EQ(plain::SettingIn(after, "Main", "Top"), plain::NumberText(start.Top * 15));
+  const std::string upgrade = plain::SettingIn(before, "Upgrade", "Auto");
+  EXPECT_EQ(plain::SettingIn(after, "Upgrade", "Auto"), start.Upgrade == 0 ? upgrade : std::to_string(start.Upgrade));
+  EXPECT_EQ(plain::SettingIn(after, "Manager", "Left"), plain::SettingIn(before, "Manager", "Left"));
   constexpr std::size_t kStoredKeys = 8;
   EXPECT_LE(LostLines(before, after), kStoredKeys) << Shown(after);
 }

@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Tests and benchmarks, and what only they are made of, are held to fewer rules: those that find faults. The analyzer
 # would follow every path through their macros, for half a minute a file.
-test_sources='_test\.cpp$|(^|/)(tests_as_one|tests|fuzz|bench)/'
+test_sources='_test\.cpp$|(^|/)(tests_as_one|testing|tests|fuzz|bench)/'
 test_checks='--checks=-*,bugprone-*,performance-*,readability-identifier-naming'
 test_checks+=',-bugprone-easily-swappable-parameters,-bugprone-exception-escape'
 

@@ -26,7 +26,7 @@ llvm-profdata-14 merge -o build/coverage/all.profdata build/coverage/*.profraw
 report() {
   echo "== $1"
   mapfile -t sources < <(printf '%s\n' "${@:4}" | sed 's|.*|&/*.cpp &/*.h|' | xargs git ls-files |
-    grep -vE '_test\.cpp$|^analysis/plain_reference|^hand/equity_rows|_fixtures?\.h$|/(recorded|recording)_|/sample_')
+    grep -vE '_test\.cpp$|^hand/equity_rows|_fixtures?\.h$|/(recorded|recording)_|/sample_')
   local profile=("${objects[@]}" -instr-profile build/coverage/all.profdata)
   llvm-cov-14 show "${profile[@]}" -show-branches=count "${sources[@]/#/$PWD/}" >>build/coverage/missed.txt
   llvm-cov-14 report "${profile[@]}" "${sources[@]/#/$PWD/}" | awk -v lines="$2" -v branches="$3" '

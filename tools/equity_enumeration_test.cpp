@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "tools/plain_poker.h"
+#include "testing/oracle/poker.h"
 
 namespace quillon {
 namespace {

@@ -12,9 +12,9 @@
 #include "hand/equity_rows.h"
 #include "support/files.h"
 #include "support/number_text.h"
+#include "testing/oracle/poker.h"
 #include "tools/equity_enumeration.h"
 #include "tools/equity_row_text.h"
-#include "tools/plain_poker.h"
 
 namespace quillon {
 namespace {

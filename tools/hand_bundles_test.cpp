@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "tools/plain_poker.h"
+#include "testing/oracle/poker.h"
 
 namespace quillon {
 namespace {

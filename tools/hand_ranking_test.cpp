@@ -6,7 +6,7 @@
 #include <random>
 #include <set>
 
-#include "tools/plain_poker.h"
+#include "testing/oracle/poker.h"
 
 namespace quillon {
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
-// Poker the plain way, for the tests to hold the fast way against: cards read from text, a hand's worth found by trying
-// every five of its cards, classes named by label. Shares no code with what it checks.
+// What hands are worth, the plain way: cards read from text, a hand's worth found by trying every five of its cards.
 
 #include <algorithm>
 #include <array>
@@ -11,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "hand/hand_classes.h"
+#include "testing/oracle/hands.h"
 
 namespace quillon::plain {
 
@@ -22,7 +21,7 @@ using Cards = std::vector<int>;
 inline Cards CardsOf(std::string_view text) {
   Cards cards;
   for (std::size_t i = 0; i + 1 < text.size(); i += 3) {
-    cards.push_back(static_cast<int>(kDeckText.find(text.substr(i, 2)) / 3));
+    cards.push_back(static_cast<int>(std::find(Deck().begin(), Deck().end(), text.substr(i, 2)) - Deck().begin()));
   }
   return cards;
 }
@@ -91,13 +90,10 @@ inline Worth WorthOfSeven(const Cards& seven) {
   return best;
 }
 
-/// The index of the class that two different cards are of, by its label.
+/// The index of the class that two different cards are of.
 inline std::size_t ClassOf(int one, int other) {
-  const int first = std::min(one, other);
-  const int second = std::max(one, other);
-  std::string label = {DeckCard(static_cast<std::size_t>(first))[0], DeckCard(static_cast<std::size_t>(second))[0]};
-  if (RankOf(first) != RankOf(second)) label += SuitOf(first) == SuitOf(second) ? 's' : 'o';
-  return static_cast<std::size_t>(HandIndex(label));
+  const auto& [first, second] = std::minmax(one, other);
+  return IndexOf(LabelOf(Deck().at(static_cast<std::size_t>(first)), Deck().at(static_cast<std::size_t>(second))));
 }
 
 }  // namespace quillon::plain

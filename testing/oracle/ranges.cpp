@@ -1,0 +1,82 @@
+#include "testing/oracle/ranges.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "testing/oracle/hands.h"
+#include "testing/oracle/numbers.h"
+
+namespace quillon::plain {
+
+std::optional<double> WeightOf(std::string_view text, std::string_view label) {
+  // Places count from 1, and 0 is that of a text which is missing.
+  const std::size_t p = text.find(label) + 1;
+  const std::size_t q = text.find(')', p) + 1;
+  const std::size_t start = p + label.size() + 2;
+  if (q < start) return std::nullopt;
+  return LeadingNumber(text.substr(start - 1, q - start));
+}
+
+std::optional<Weights> WeightsOf(std::string_view text) {
+  Weights weights;
+  for (const std::string& label : Labels()) {
+    const std::optional<double> weight = WeightOf(text, label);
+    if (!weight) return std::nullopt;
+    weights.push_back(*weight);
+  }
+  return weights;
+}
+
+double SelectedCombos(const Weights& weights) {
+  double combos = 0;
+  for (std::size_t i = 0; i < kClasses; ++i) {
+    if (weights[i] == 1 || weights[i] == 0.5) combos += weights[i] * ComboCount(Labels()[i]);
+  }
+  return combos;
+}
+
+std::string RunsAt(const Weights& weights, double target) {
+  const auto weightOf = [&weights](const std::string& label) { return weights[IndexOf(label)]; };
+  std::string text;
+  for (const std::vector<std::string>& line : Lines()) {
+    for (std::size_t first = 0; first < line.size();) {
+      std::size_t end = first;
+      while (end < line.size() && weightOf(line[end]) == target)
+        ++end;
+      // A run that meets a class of more weight below it is left out.
+      const bool shown = end > first && (end == line.size() || weightOf(line[end]) < target);
+      if (shown && !text.empty()) text += ",";
+      if (shown && end == first + 1) {
+        text += line[first];
+      } else if (shown) {
+        text += first == 0 ? line[end - 1] + "+" : line[first] + "-" + line[end - 1];
+      }
+      first = end + 1;
+    }
+  }
+  return text;
+}
+
+std::string Summary(const Weights& weights) {
+  const std::string half = RunsAt(weights, 0.5);
+  const std::string full = RunsAt(weights, 1);
+  if (!half.empty()) return "Full: " + full + " | Half: " + half;
+  if (std::all_of(weights.begin(), weights.end(), [](double weight) { return weight == 1; })) return "[Everything]";
+  return full.empty() ? "[None]" : full;
+}
+
+std::string_view TextOfFile(std::string_view file) {
+  return file.ends_with("\r\n") ? file.substr(0, file.size() - 2) : file;
+}
+
+std::optional<std::string> ListingOf(std::string_view file) {
+  const std::optional<Weights> weights = WeightsOf(TextOfFile(file));
+  const bool anyEntry = std::any_of(Labels().begin(), Labels().end(), [file](const std::string& label) {
+    return file.find(label + " (") != std::string_view::npos;
+  });
+  if (!weights || !anyEntry) return std::nullopt;
+  const double percent = RoundTo(SelectedCombos(*weights) / static_cast<double>(Hands().size()) * 100, 1);
+  return NumberText(percent) + "% selected\t" + Summary(*weights);
+}
+
+}  // namespace quillon::plain

@@ -1,0 +1,40 @@
+#pragma once
+
+// Results tables as plain lists of rows and cells.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon::plain {
+
+/// The pieces of a text between its marks; one more than there are marks.
+[[nodiscard]] std::vector<std::string> Split(std::string_view text, std::string_view mark);
+
+/// A results table taken apart.
+class ResultsTable {
+ public:
+  explicit ResultsTable(std::string_view text);
+
+  /// The table's text with `value` added to a cell; a label that is missing gets a row of its own. Nothing if the sum
+  /// is not finite.
+  [[nodiscard]] std::optional<std::string> WithValue(const std::string& label, std::size_t column, double value,
+                                                     std::size_t lastColumn) const;
+
+  /// The number in a cell of the first row with that label; 0 if there is none.
+  [[nodiscard]] double Cell(const std::string& label, std::size_t column) const;
+
+  /// The label of the first row that beats all before it and is beaten by none after, each value being kept rounded;
+  /// empty if no row is above -10000.
+  [[nodiscard]] std::string Best(std::size_t column) const;
+
+  /// The label of the first row with the lowest value; empty if none is below 10000.
+  [[nodiscard]] std::string Worst(std::size_t column) const;
+
+ private:
+  std::vector<std::vector<std::string>> rows_;  // with what follows the last line end
+};
+
+}  // namespace quillon::plain
