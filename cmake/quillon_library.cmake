@@ -5,6 +5,12 @@
 function(quillon_library NAME)
   cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;TESTS;QT_TESTS;LINKS" ${ARGN})
 
+  # For tools/coverage.sh, which must not count what only tests are made of.
+  set(product ${ARG_HEADERS} ${ARG_SOURCES})
+  list(TRANSFORM product PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  list(JOIN product "\n" product)
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/product/${NAME}.txt CONTENT "${product}\n" @ONLY)
+
   # A header with a source beside it is the first that this source includes, and so compiles alone as it is. The others
   # are compiled alone by the target all_verify_interface_header_sets.
   set(lone ${ARG_HEADERS})
