@@ -39,6 +39,11 @@ FormListBox::FormListBox(QListWidget& list) : list_(list) {
   connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) Q_EMIT Clicked();
   });
+  // A click below the entries and Ctrl+Space would leave none selected.
+  connect(&list_, &QListWidget::itemSelectionChanged, this, [this] {
+    QListWidgetItem* item = list_.currentItem();
+    if (item != nullptr && list_.selectedItems().isEmpty()) item->setSelected(true);
+  });
   // A press on the selected entry changes nothing that the list would tell of, and is a click all the same.
   list_.viewport()->installEventFilter(this);
   connect(&list_, &QListWidget::itemPressed, this, [this](const QListWidgetItem* item) {
@@ -46,13 +51,16 @@ FormListBox::FormListBox(QListWidget& list) : list_(list) {
   });
 }
 
+// Swallows what is no selection: another button than the left one, and the left one with Ctrl.
 bool FormListBox::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-    const auto* press = dynamic_cast<QMouseEvent*>(event);
-    const bool left = press != nullptr && press->button() == Qt::LeftButton;
-    rowBeforePress_ = left ? list_.currentRow() : -1;
-  }
-  return QObject::eventFilter(watched, event);
+  const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+  if (!press && event->type() != QEvent::MouseMove) return QObject::eventFilter(watched, event);
+  const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+  if (mouse == nullptr) return false;
+  if (mouse->modifiers().testFlag(Qt::ControlModifier)) return true;
+  if (!press) return false;
+  rowBeforePress_ = list_.currentRow();
+  return mouse->button() != Qt::LeftButton;
 }
 
 std::string FormListBox::CurrentText() const {

@@ -1,11 +1,15 @@
 #include "ranges/dialogs/form_list.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <optional>
 
 namespace quillon {
 namespace {
+
+constexpr QPoint kBelowTheEntries(50, 180);
 
 RangeListContents Three(std::optional<int> selected = {}) {
   return {{"one", "two", "three"}, selected};
@@ -21,8 +25,21 @@ class FormListBoxTest : public testing::Test {
     Widget.show();
   }
 
-  void Press(int row, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(Widget.viewport(), button, {}, Widget.visualItemRect(Widget.item(row)).center());
+  [[nodiscard]] QPoint MiddleOf(int row) const { return Widget.visualItemRect(Widget.item(row)).center(); }
+  void PressAt(QPoint point, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers held = {}) const {
+    QTest::mouseClick(Widget.viewport(), button, held, point);
+  }
+  void Press(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers held = {}) const {
+    PressAt(MiddleOf(row), button, held);
+  }
+  void Drag(QPoint from, QPoint to, Qt::KeyboardModifiers held = {}) const {
+    QTest::mousePress(Widget.viewport(), Qt::LeftButton, held, from);
+    for (const QPoint point : {(from + to) / 2, to}) {
+      QMouseEvent move(QEvent::MouseMove, point, Widget.viewport()->mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
+                       held);
+      QApplication::sendEvent(Widget.viewport(), &move);
+    }
+    QTest::mouseRelease(Widget.viewport(), Qt::LeftButton, held, to);
   }
 
   QListWidget Widget;
@@ -70,20 +87,61 @@ TEST_F(FormListBoxTest, APressAfterTheKeyboardMovedTheSelectionIsAClick) {
   Press(0);
   QTest::keyClick(&Widget, Qt::Key_Down);
   EXPECT_EQ(Clicks, 2);
+  EXPECT_EQ(Widget.selectedItems(), QList{Widget.item(1)});
   Press(1);
   EXPECT_EQ(Clicks, 3);
 }
 
-TEST_F(FormListBoxTest, TheRightButtonOnTheSelectedEntryIsNoClick) {
-  Press(0);
-  Press(0, Qt::RightButton);
+// What leaves the selection alone, and the click event too.
+struct IdleCase {
+  const char* Name;
+  void (*Act)(FormListBoxTest& test);
+};
+
+class FormListBoxIdle : public FormListBoxTest, public testing::WithParamInterface<IdleCase> {};
+
+TEST_P(FormListBoxIdle, KeepsTheCurrentEntrySelectedWithoutAClick) {
+  Press(1);
+  GetParam().Act(*this);
+  EXPECT_EQ(List.CurrentText(), "two");
+  EXPECT_EQ(Widget.selectedItems(), QList{Widget.currentItem()});
   EXPECT_EQ(Clicks, 1);
 }
 
-TEST_F(FormListBoxTest, APressBelowTheEntriesIsNoClick) {
+INSTANTIATE_TEST_SUITE_P(
+    FormListBox, FormListBoxIdle,
+    testing::Values(
+        IdleCase{"AtAClickBelowTheEntries", [](FormListBoxTest& test) { test.PressAt(kBelowTheEntries); }},
+        IdleCase{"AtARightClickOnIt", [](FormListBoxTest& test) { test.Press(1, Qt::RightButton); }},
+        IdleCase{"AtARightClickOnAnother", [](FormListBoxTest& test) { test.Press(2, Qt::RightButton); }},
+        IdleCase{"AtAMiddleClickOnAnother", [](FormListBoxTest& test) { test.Press(0, Qt::MiddleButton); }},
+        IdleCase{"AtARightClickBelowTheEntries",
+                 [](FormListBoxTest& test) { test.PressAt(kBelowTheEntries, Qt::RightButton); }},
+        IdleCase{"AtACtrlClickOnIt", [](FormListBoxTest& test) { test.Press(1, Qt::LeftButton, Qt::ControlModifier); }},
+        IdleCase{"AtACtrlClickOnAnother",
+                 [](FormListBoxTest& test) { test.Press(0, Qt::LeftButton, Qt::ControlModifier); }},
+        IdleCase{"AtACtrlDragOverAnother",
+                 [](FormListBoxTest& test) { test.Drag(test.MiddleOf(1), test.MiddleOf(2), Qt::ControlModifier); }},
+        IdleCase{"AtADragBelowTheEntries",
+                 [](FormListBoxTest& test) { test.Drag(kBelowTheEntries, kBelowTheEntries + QPoint(20, 0)); }},
+        IdleCase{"AtCtrlSpace",
+                 [](FormListBoxTest& test) { QTest::keyClick(&test.Widget, Qt::Key_Space, Qt::ControlModifier); }}),
+    [](const auto& entry) { return std::string(entry.param.Name); });
+
+TEST_F(FormListBoxTest, ADragOverTheEntriesSelectsTheLastOneAndKeepsItBelow) {
   Press(0);
-  QTest::mouseClick(Widget.viewport(), Qt::LeftButton, {}, QPoint(50, 180));
-  EXPECT_EQ(Clicks, 1);
+  Drag(MiddleOf(0), MiddleOf(2));
+  EXPECT_EQ(List.CurrentText(), "three");
+  Drag(MiddleOf(2), kBelowTheEntries);
+  EXPECT_EQ(List.CurrentText(), "three");
+  EXPECT_EQ(Widget.selectedItems(), QList{Widget.currentItem()});
+}
+
+TEST_F(FormListBoxTest, AClickOnTheSelectedEntryAfterARightClickIsAClick) {
+  Press(0);
+  Press(1, Qt::RightButton);
+  Press(0);
+  EXPECT_EQ(Clicks, 2);
 }
 
 TEST_F(FormListBoxTest, FillingAnewLetsGoOfTheSelectionWithoutAClick) {
