@@ -67,7 +67,7 @@ Start PlainStart(const std::string& file) {
   Start start;
   start.Odds = "X:1, 0%";
   for (int box = 0; box < kBoxes; ++box)
-    start.Boxes.push_back(plain::Utf8(plain::SettingIn(file, "Values", std::to_string(box))));
+    start.Boxes.push_back(plain::Line(plain::Utf8(plain::SettingIn(file, "Values", std::to_string(box)))));
   if (!start.Boxes[4].empty()) {
     const plain::Odds odds = plain::OddsOf(start.Boxes[2], start.Boxes[3], start.Boxes[4]);
     start.Odds = odds.Fault == 0 ? odds.Labels : "N/A, N/A";

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QInputDialog>
 
+#include "toolkit/single_line.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -71,6 +72,8 @@ std::string MessageDialogs::Ask(std::string_view prompt, std::string_view title,
   QInputDialog box(QApplication::activeWindow());
   box.setWindowTitle(ToQt(title));
   box.setLabelText(ToQt(prompt));
+  box.setInputMode(QInputDialog::TextInput);
+  KeepToOneLine(*box.findChild<QLineEdit*>());
   box.setTextValue(ToQt(defaultText));
   return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
 }

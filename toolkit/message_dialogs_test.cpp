@@ -117,6 +117,17 @@ TEST(MessageDialogs, OfferTheDefaultTextSelected) {
   EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", "Button"), "Button");
 }
 
+TEST(MessageDialogs, TakeOneLineWithoutTabs) {
+  ExpectDialog([](QDialog& dialog) {
+    dialog.findChild<QLineEdit*>()->insert(QStringLiteral("Big\tBlind\r\nCall"));
+    dialog.accept();
+  });
+  EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", ""), "Big Blind");
+
+  ExpectDialog([](QDialog& dialog) { dialog.accept(); });
+  EXPECT_EQ(MessageDialogs().Ask("Name?", "Rename Range", "Big\tBlind"), "Big Blind");
+}
+
 TEST(MessageDialogs, GetTheEmptyTextFromALineThatIsLeftOrEmptied) {
   ExpectInputBoxCancelled({"Name?", "", "Button"});
   ExpectInputBox({"Name?", "", "Button"}, "");

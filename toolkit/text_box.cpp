@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "toolkit/single_line.h"
+
 namespace quillon {
 namespace {
 
@@ -16,6 +18,7 @@ bool LeavesTheBox(const QFocusEvent& event) {
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
+  KeepToOneLine(*this);
 }
 
 void TextBox::focusInEvent(QFocusEvent* event) {

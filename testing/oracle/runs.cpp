@@ -220,6 +220,13 @@ std::string Outcome::Fate() const {
   return IsRefused() ? "refused" : "through";
 }
 
+std::string Line(std::string text) {
+  for (const char* const end : {"\n", "\v", "\f", "\r", "\u0085", "\u2028", "\u2029"})
+    text.resize(std::min(text.find(end), text.size()));
+  std::ranges::replace(text, '\t', ' ');
+  return text;
+}
+
 Outcome LeaveBox(std::string& text) {
   if (!text.starts_with("=")) return {};
   const std::string value = SumText(text.substr(1));

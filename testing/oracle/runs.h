@@ -34,6 +34,9 @@ struct Outcome {
   [[nodiscard]] std::string Fate() const;
 };
 
+/// What a box for one line takes of a text in UTF-8.
+[[nodiscard]] std::string Line(std::string text);
+
 /// What happens to the text of an amount box when the user leaves it; `text` becomes what is in the box then.
 [[nodiscard]] Outcome LeaveBox(std::string& text);
 

@@ -1,0 +1,93 @@
+#include "toolkit/single_line.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QTest>
+#include <array>
+#include <gtest/gtest.h>
+
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+// How a text comes into a box, at the caret and in place of what is selected.
+struct Way {
+  const char* Name;
+  void (*Bring)(QLineEdit& box, const QString& text);
+};
+
+void PasteByKey(QLineEdit& box, const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+}
+
+void PasteByMenu(QLineEdit& box, const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+  box.paste();
+}
+
+class SingleLineByAnyWay : public testing::TestWithParam<Way> {};
+
+struct TextCase {
+  const char* Rule;
+  const char* Brought;
+  const char* Box;  // after "12|34" with the caret at the bar
+  int Caret;
+};
+
+TEST_P(SingleLineByAnyWay, TakesWhatStandsBeforeTheFirstLineEnd) {
+  constexpr std::array kCases = {
+      TextCase{"a plain text", "ab", "12ab34", 4},
+      TextCase{"CR LF at its end", "ab\r\n", "12ab34", 4},
+      TextCase{"LF within", "ab\ncd", "12ab34", 4},
+      TextCase{"CR within", "ab\rcd\n", "12ab34", 4},
+      TextCase{"a line separator", "ab\u2028cd", "12ab34", 4},
+      TextCase{"a paragraph separator", "ab\u2029cd", "12ab34", 4},
+      TextCase{"a line end first", "\nab", "1234", 2},
+      TextCase{"a line end alone", "\r\n", "1234", 2},
+      TextCase{"a tab before it", "\t", "12 34", 3},
+      TextCase{"tabs are spaces, each", "a\tb\t\t", "12a b  34", 7},
+      TextCase{"a tab after the line end is gone", "ab\n\tc", "12ab34", 4},
+  };
+  for (const TextCase& c : kCases) {
+    QLineEdit box;
+    KeepToOneLine(box);
+    box.setText(QStringLiteral("12xx34"));
+    box.setSelection(2, 2);
+    GetParam().Bring(box, QString::fromUtf8(c.Brought));
+    EXPECT_EQ(FromQt(box.text()), c.Box) << c.Rule;
+    EXPECT_EQ(box.cursorPosition(), c.Caret) << c.Rule;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(SingleLine, SingleLineByAnyWay,
+                         testing::Values(Way{"Key", PasteByKey}, Way{"Menu", PasteByMenu},
+                                         Way{"InputMethod",
+                                             [](QLineEdit& box, const QString& text) {
+                                               QInputMethodEvent event;
+                                               event.setCommitString(text);
+                                               QGuiApplication::sendEvent(&box, &event);
+                                             }}),
+                         [](const auto& entry) { return std::string(entry.param.Name); });
+
+TEST(SingleLine, HoldsForADropAndForATextThatIsSet) {
+  QLineEdit box;
+  KeepToOneLine(box);
+  QMimeData data;
+  data.setText(QStringLiteral("100\t\r\n200"));
+  QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QGuiApplication::sendEvent(&box, &enter);
+  QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QGuiApplication::sendEvent(&box, &drop);
+  EXPECT_EQ(FromQt(box.text()), "100 ");
+
+  box.setText(QStringLiteral("7\t8\n9"));
+  EXPECT_EQ(FromQt(box.text()), "7 8");
+}
+
+}  // namespace
+}  // namespace quillon
