@@ -36,10 +36,9 @@ std::string SaveGridImage(const std::string& earlierName, GridImageWindow& windo
   const std::filesystem::path savedGrids = folder.Path / "Saved Grids";
   MakeFolderIfMissing(savedGrids, *folder.Calls);
 
-  std::string fileName =
+  const std::string fileName =
       window.AskSaveName({"24-bit Bitmap | *.bmp", "Save Expected Value Grid", savedGrids, earlierName});
-  if (fileName.empty()) fileName = earlierName;
-  if (fileName.empty()) return {};
+  if (fileName.empty()) return earlierName;
 
   const std::string bitmap = window.CaptureRegion(CaptureRectOf(window.GridContainer()));
   ReplaceFile(fileName, bitmap, folder.Path, *folder.Calls);

@@ -67,8 +67,8 @@ class GridImageWindow {
   /// The place of the shape `GridContainer` on `frameContent(1)`.
   [[nodiscard]] virtual TwipRect GridContainer() const = 0;
 
-  /// Shows the dialog and gives back the path of the file chosen, the empty text if it is cancelled. The name is taken
-  /// as it was typed: no extension is added, and a file that is there is no reason to ask.
+  /// Shows the dialog and returns the path of the file chosen, the empty text if it is cancelled. The name is taken as
+  /// it was typed: no extension is added, quotes are part of it, and a file that is there is no reason to ask.
   virtual std::string AskSaveName(const SaveDialog& dialog) = 0;
 
   /// What the screen shows in that part of `frameContent(1)`, as the bytes of a bitmap file.
@@ -81,11 +81,8 @@ class GridImageWindow {
 };
 
 /// The click on `imgSave`: makes the folder "Saved Grids" if it is missing, asks for a file name, captures the grid,
-/// writes the file, and offers to open it. Gives back the name that counts from now on, to be handed over as
-/// `earlierName` at the next click; it is empty before the first save.
-///
-/// A dialog that is cancelled leaves the earlier name. So a cancel before the first save does nothing, and one after it
-/// saves onto the earlier file once more. That is meant.
+/// writes the file, and offers to open it. Returns the name that the next dialog offers, to be handed over as
+/// `earlierName` at the next click: that of the last save, empty before the first. A cancelled dialog saves nothing.
 ///
 /// RunTimeError, with the path and the reason, if the folder cannot be made or the file not be written, in which case
 /// an old file of that name is still there.

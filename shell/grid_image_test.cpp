@@ -121,7 +121,7 @@ TEST_F(GridImage, CancelOnAFreshStartDoesNothing) {
   EXPECT_TRUE(fs::is_empty(SavedGrids()));
 }
 
-TEST_F(GridImage, CancelAfterASaveSavesOntoTheEarlierFile) {
+TEST_F(GridImage, CancelAfterASaveSavesNothingAndKeepsTheNameForTheNextDialog) {
   screen.Chosen = {File("a.bmp"), File("b.bmp")};
   std::string name = Save();
   name = Save(name);
@@ -129,11 +129,13 @@ TEST_F(GridImage, CancelAfterASaveSavesOntoTheEarlierFile) {
   name = Save(name);
   EXPECT_EQ(name, File("b.bmp"));
   EXPECT_EQ(Content(File("a.bmp")), kBitmap);
-  EXPECT_EQ(Content(File("b.bmp")), "BM newer");
-  EXPECT_EQ(screen.Boxes.Shown.size(), 3U) << "the message shows each time";
+  EXPECT_EQ(Content(File("b.bmp")), kBitmap);
+  EXPECT_EQ(screen.Boxes.Shown.size(), 2U) << "one for each file that was saved";
+  Save(name);
   EXPECT_EQ(screen.Dialogs.at(0).FileName, "");
   EXPECT_EQ(screen.Dialogs.at(1).FileName, File("a.bmp"));
   EXPECT_EQ(screen.Dialogs.at(2).FileName, File("b.bmp"));
+  EXPECT_EQ(screen.Dialogs.at(3).FileName, File("b.bmp"));
 }
 
 TEST_F(GridImage, OnlyYesOpensThePicture) {

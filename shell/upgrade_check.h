@@ -49,7 +49,7 @@ class LinkWindow {
  public:
   virtual ~LinkWindow() = default;
 
-  /// Opens an address in the user's browser. The empty address opens nothing.
+  /// Opens an address in the user's browser, or says that there is none. The empty address opens nothing.
   virtual void OpenAddress(std::string_view address) = 0;
 
   [[nodiscard]] virtual MessageBoxes& Messages() = 0;

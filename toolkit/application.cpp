@@ -1,6 +1,8 @@
 #include "toolkit/application.h"
 
 #include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -14,6 +16,8 @@ namespace quillon {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Quillon"));
+  // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
   UseLightLook();
   InstallAccessibleControls();
 }

@@ -4,7 +4,7 @@
 
 #include "results/web_addresses.h"
 #include "shell/screens/main_form_fixture.h"
-#include "shell/screens/opened_addresses.h"
+#include "toolkit/fake_opener.h"
 
 namespace quillon {
 namespace {
@@ -91,22 +91,34 @@ INSTANTIATE_TEST_SUITE_P(UpgradeInWindow, UpgradeReply,
                          CaseName<ReplyCase>);
 
 TEST_F(UpgradeInWindow, TheLinkLeadsToTheDownload) {
-  OpenedAddresses desktop;
+  const FakeOpener opener;
   WriteSettings("[Upgrade]\r\nAuto=1\r\n");
   Web.Replies = {"1.0", "1.0"};
   Start();
   Click("lblLink", 3);
-  EXPECT_EQ(desktop.Opened, std::vector<std::string>{DownloadAddress()});
+  EXPECT_EQ(opener.Opened(), DownloadAddress() + "\n");
+}
+
+TEST_F(UpgradeInWindow, TheLinkSaysThatThereIsNoBrowser) {
+  const FakeOpener opener(FakeOpener::kNoneFound);
+  WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+  Web.Replies = {"1.0", "1.0"};
+  Start();
+  ExpectMessageBox({.title = "Quillon",
+                    .text = "No browser was found on this machine. The address is:\r\n\r\n" + DownloadAddress(),
+                    .icon = MessageIcon::kExclamation});
+  Click("lblLink", 3);
+  EXPECT_EQ(opener.Opened(), DownloadAddress() + "\n");
 }
 
 TEST_F(UpgradeInWindow, TheLinkOfTheLatestVersionSaysSo) {
-  OpenedAddresses desktop;
+  const FakeOpener opener;
   WriteSettings("[Upgrade]\r\nAuto=1\r\n");
   Web.Replies = {"0.9", "0.9"};
   Start();
   ExpectMessageBox({.title = "Quillon", .text = "You're good to go!"});
   Click("lblLink", 3);
-  EXPECT_TRUE(desktop.Opened.empty());
+  EXPECT_EQ(opener.Opened(), "");
 }
 
 TEST_F(UpgradeInWindow, AStateThatNoBoxHasEndsTheProgram) {

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QTextDocument>
@@ -10,6 +9,7 @@
 #include <chrono>
 #include <utility>
 
+#include "toolkit/browser.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -78,7 +78,12 @@ void AboutView::SetUpgradeLinkCaption(std::string_view caption) {
 }
 
 void AboutView::OpenAddress(std::string_view address) {
-  if (!address.empty()) QDesktopServices::openUrl(QUrl(ToQt(address)));
+  if (address.empty()) return;
+  OpenInBrowser(QUrl(ToQt(address)), [this, text = std::string(address)] {
+    messages_.Show({.title = std::string(kApplicationTitle),
+                    .text = "No browser was found on this machine. The address is:\r\n\r\n" + text,
+                    .icon = MessageIcon::kExclamation});
+  });
 }
 
 std::string AboutView::FeedbackText() const {

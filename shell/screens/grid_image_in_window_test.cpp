@@ -1,10 +1,14 @@
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QImage>
 #include <QImageReader>
+#include <QPushButton>
 #include <QScreen>
+#include <set>
 
 #include "shell/screens/main_form_fixture.h"
-#include "shell/screens/opened_addresses.h"
+#include "shell/screens/opened_files.h"
 
 namespace quillon {
 namespace {
@@ -27,10 +31,28 @@ class GridImageInWindow : public MainFormTest {
   /// The save dialog comes, and the user types a name.
   static void ExpectName(const std::string& typed) {
     ExpectDialog([typed](QDialog& dialog) {
-      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(ToQt(typed));
+      LineOf(dialog).setText(ToQt(typed));
       dialog.accept();
     });
   }
+  [[nodiscard]] static QLineEdit& LineOf(QDialog& dialog) {
+    return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+
+  [[nodiscard]] static std::filesystem::path Home() { return FromQt(QDir::homePath()); }
+  /// All but those of the program.
+  [[nodiscard]] std::set<std::filesystem::path> FilesAtHome() const {
+    std::set<std::filesystem::path> files;
+    for (auto entry = std::filesystem::recursive_directory_iterator(Home()); entry != end(entry); ++entry) {
+      if (entry->path() == Program.Folder().Path) {
+        entry.disable_recursion_pending();
+      } else {
+        files.insert(entry->path());
+      }
+    }
+    return files;
+  }
+
   static void ExpectCancel() {
     ExpectDialog([](QDialog& dialog) { dialog.reject(); });
   }
@@ -73,9 +95,9 @@ TEST_F(GridImageInWindow, TheDialogIsAsDesigned) {
     EXPECT_EQ(FromQt(box.directory().absolutePath()), SavedGrids().string());
     EXPECT_EQ(box.nameFilters().join(QLatin1Char(';')), QStringLiteral("24-bit Bitmap (*.bmp)"));
     EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
-    EXPECT_TRUE(box.testOption(QFileDialog::DontConfirmOverwrite));
+    EXPECT_TRUE(box.testOption(QFileDialog::DontUseNativeDialog));
     EXPECT_EQ(box.defaultSuffix(), QString());
-    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QString());
+    EXPECT_EQ(LineOf(dialog).text(), QString());
     dialog.reject();
   });
   Click("imgSave");
@@ -87,7 +109,7 @@ TEST_F(GridImageInWindow, ACancelBeforeTheFirstSaveDoesNothing) {
   EXPECT_TRUE(std::filesystem::is_empty(SavedGrids()));
 }
 
-TEST_F(GridImageInWindow, ACancelAfterASaveSavesOntoTheEarlierFile) {
+TEST_F(GridImageInWindow, ACancelAfterASaveSavesNothing) {
   ExpectName("grid.bmp");
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Click("imgSave");
@@ -95,10 +117,94 @@ TEST_F(GridImageInWindow, ACancelAfterASaveSavesOntoTheEarlierFile) {
   std::ofstream(SavedGrids() / "grid.bmp") << "gone";
 
   ComeToFront();
-  ExpectCancel();
+  ExpectDialog([](QDialog& dialog) {
+    EXPECT_EQ(LineOf(dialog).text(), QStringLiteral("grid.bmp"));
+    dialog.reject();
+  });
+  Click("imgSave");
+  EXPECT_EQ(BytesOf(SavedGrids() / "grid.bmp"), "gone");
+}
+
+// Typed and saved by the keyboard and the button, as a user does; each name is that of one file.
+class GridImageName : public GridImageInWindow, public testing::WithParamInterface<const char*> {};
+
+TEST_P(GridImageName, IsTakenAsTyped) {
+  const std::string name = GetParam();
+  for (const bool byKey : {false, true}) {
+    ExpectDialog([&](QDialog& dialog) {
+      LineOf(dialog).setText(ToQt(name));
+      QPushButton* save = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save);
+      EXPECT_TRUE(save->isEnabled());
+      if (byKey) {
+        QTest::keyClick(&LineOf(dialog), Qt::Key_Return);
+      } else {
+        save->click();
+      }
+    });
+    ExpectMessageBox(kSaved, MessageAnswer::kNo);
+    Click("imgSave");
+    VerifyExpectedBoxes();
+    ComeToFront();
+    EXPECT_EQ(ImageOf(SavedGrids() / name).size(), QSize(409, 521));
+    std::filesystem::remove(SavedGrids() / name);
+    EXPECT_TRUE(std::filesystem::is_empty(SavedGrids())) << "nothing else was written";
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(GridImageInWindow, GridImageName,
+                         testing::Values("my \"best\" grid.bmp", "\"best\".bmp", "best\"", "\"\"", "~grid", " grid ",
+                                         "a;b.bmp", "%1 & 100%.bmp", "Gr\u00fc\u00df.bmp"));
+
+TEST_F(GridImageInWindow, ANameThatNoFileCanHaveLeavesTheDialogOpen) {
+  ExpectDialog([](QDialog& dialog) {
+    for (const std::string& name : {std::string(), std::string("new/"), std::string(256, 'x'), std::string(".")}) {
+      LineOf(dialog).setText(ToQt(name));
+      dialog.accept();
+      EXPECT_TRUE(dialog.isVisible()) << name;
+    }
+    dialog.reject();
+  });
+  Click("imgSave");
+  EXPECT_TRUE(std::filesystem::is_empty(SavedGrids()));
+}
+
+TEST_F(GridImageInWindow, AFolderIsEnteredAndATildeIsTheHome) {
+  std::filesystem::create_directory(SavedGrids() / "mine");
+  ExpectDialog([](QDialog& dialog) {
+    LineOf(dialog).setText(QStringLiteral("mine"));
+    dialog.accept();
+    EXPECT_EQ(LineOf(dialog).text(), QString());
+    LineOf(dialog).setText(QStringLiteral("grid.bmp"));
+    dialog.accept();
+  });
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Click("imgSave");
-  EXPECT_EQ(ImageOf(SavedGrids() / "grid.bmp").size(), QSize(409, 521));
+  VerifyExpectedBoxes();
+  EXPECT_TRUE(std::filesystem::exists(SavedGrids() / "mine" / "grid.bmp"));
+
+  ComeToFront();
+  ExpectName("~/at home.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_TRUE(std::filesystem::remove(Home() / "at home.bmp"));
+}
+
+TEST_F(GridImageInWindow, ANameIsOneLine) {
+  ExpectDialog([](QDialog& dialog) {
+    LineOf(dialog).insert(QStringLiteral("my\tgrid.bmp\r\nsecond"));
+    dialog.accept();
+  });
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_TRUE(std::filesystem::exists(SavedGrids() / "my grid.bmp"));
+}
+
+TEST_F(GridImageInWindow, NothingIsLeftOutsideTheProgramsFolder) {
+  const auto before = FilesAtHome();
+  ExpectName("grid.bmp");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  EXPECT_EQ(FilesAtHome(), before);
 }
 
 TEST_F(GridImageInWindow, AnExistingFileIsReplacedWithoutAQuestion) {
@@ -119,7 +225,7 @@ TEST_F(GridImageInWindow, TheFolderIsMadeAgain) {
 }
 
 TEST_F(GridImageInWindow, YesOpensItInTheDesktopsProgram) {
-  OpenedAddresses desktop;
+  OpenedFiles desktop;
   ExpectName("My best grid (2).bmp");
   ExpectMessageBox(kSaved, MessageAnswer::kYes);
   Click("imgSave");
@@ -128,7 +234,7 @@ TEST_F(GridImageInWindow, YesOpensItInTheDesktopsProgram) {
 }
 
 TEST_F(GridImageInWindow, NoOpensNothing) {
-  OpenedAddresses desktop;
+  OpenedFiles desktop;
   ExpectName("grid.bmp");
   ExpectMessageBoxClosed(kSaved);
   Click("imgSave");

@@ -2,16 +2,21 @@
 
 #include <QBuffer>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QPixmap>
+#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
+#include <climits>
 
 #include "shell/screens/main_layout.h"
 #include "support/run_time_error.h"
+#include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
@@ -27,6 +32,46 @@ QString NameFilter(std::string_view filter) {
   if (bar == std::string_view::npos) return ToQt(filter);
   return ToQt(filter.substr(0, bar)).trimmed() + QStringLiteral(" (%1)").arg(ToQt(filter.substr(bar + 1)).trimmed());
 }
+
+// Qt's own dialog: those of the desktops keep lists of recent files. It would read quotes in a name as marks round
+// several names; here they are part of the one name.
+class FileNameDialog : public QFileDialog {
+ public:
+  FileNameDialog(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
+      : QFileDialog(parent, title, folder, filter) {
+    setOption(DontUseNativeDialog);
+    setOption(HideNameFilterDetails);
+    setAcceptMode(AcceptSave);
+    setFileMode(AnyFile);
+    line_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    KeepToOneLine(*line_);
+    QPushButton* save = findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save);
+    connect(line_, &QLineEdit::textChanged, save, [save](const QString& text) { save->setEnabled(!text.isEmpty()); });
+  }
+
+  /// The path chosen.
+  [[nodiscard]] QString FileName() const { return fileName_; }
+
+  void accept() override {
+    QString typed = line_->text();
+    if (typed.isEmpty()) return;
+    if (typed.startsWith(QStringLiteral("~/"))) typed.replace(0, 1, QDir::homePath());
+    const QFileInfo file(directory(), typed);
+    if (file.isDir()) {
+      setDirectory(file.absoluteFilePath());
+      line_->clear();
+      return;
+    }
+    const QString name = file.fileName();
+    if (name.isEmpty() || QFile::encodeName(name).size() > NAME_MAX) return;  // no file can be called so
+    fileName_ = file.absoluteFilePath();
+    QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): QFileDialog's would look for marks in the name
+  }
+
+ private:
+  QLineEdit* line_ = nullptr;
+  QString fileName_;
+};
 
 // The save dialog has just closed; what lay under it is drawn again before the screen is copied.
 void WaitForTheScreen() {
@@ -45,14 +90,9 @@ TwipRect GridImageView::GridContainer() const {
 }
 
 std::string GridImageView::AskSaveName(const SaveDialog& dialog) {
-  QFileDialog box(&form_, ToQt(dialog.Title), ToQt(dialog.StartFolder.string()), NameFilter(dialog.Filter));
-  box.setAcceptMode(QFileDialog::AcceptSave);
-  box.setFileMode(QFileDialog::AnyFile);
-  box.setOption(QFileDialog::DontConfirmOverwrite);
-  box.setOption(QFileDialog::HideNameFilterDetails);
+  FileNameDialog box(&form_, ToQt(dialog.Title), ToQt(dialog.StartFolder.string()), NameFilter(dialog.Filter));
   if (!dialog.FileName.empty()) box.selectFile(ToQt(dialog.FileName));
-  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return {};
-  return FromQt(box.selectedFiles().constFirst());
+  return box.exec() == QDialog::Accepted ? FromQt(box.FileName()) : std::string();
 }
 
 std::string GridImageView::CaptureRegion(const CaptureRect& rect) {

@@ -6,7 +6,7 @@
 
 #include "shell/screens/main_form_fixture.h"
 #include "shell/screens/main_layout.h"
-#include "shell/screens/opened_addresses.h"
+#include "toolkit/fake_opener.h"
 
 namespace quillon {
 namespace {
@@ -255,11 +255,11 @@ TEST_F(NavigationInWindow, TheHandCursorShowsOverLinksAlone) {
 }
 
 TEST_F(NavigationInWindow, TheTutorialsLinkLeadsNowhereYet) {
-  const OpenedAddresses addresses;
+  const FakeOpener opener;
   RunEquity("Tight");
   Click("lblLink", 0);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_TRUE(addresses.Opened.empty());
+  EXPECT_EQ(opener.Opened(), "");
 }
 
 TEST_F(NavigationInWindow, LinksLeaveTheFocusWhereItIs) {

@@ -1,0 +1,32 @@
+#pragma once
+
+// For tests: takes the place of the desktop's image program, and keeps what it was to open.
+
+#include <QDesktopServices>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+#include <string>
+#include <vector>
+
+#include "toolkit/text.h"
+
+namespace quillon {
+
+class OpenedFiles : public QObject {
+  Q_OBJECT
+
+ public:
+  OpenedFiles() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
+  OpenedFiles(const OpenedFiles&) = delete;
+  OpenedFiles(OpenedFiles&&) = delete;
+  OpenedFiles& operator=(const OpenedFiles&) = delete;
+  OpenedFiles& operator=(OpenedFiles&&) = delete;
+  ~OpenedFiles() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+  Q_INVOKABLE void Open(const QUrl& address) { Opened.push_back(FromQt(address.toString())); }
+
+  std::vector<std::string> Opened;
+};
+
+}  // namespace quillon

@@ -1,0 +1,41 @@
+#include "toolkit/browser.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <unistd.h>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+// Some openers last as long as the browser does; what becomes of a browser that was there is none of our business.
+constexpr qint64 kLongEnoughForABrowser = 10'000;
+
+}  // namespace
+
+void OpenInBrowser(const QUrl& address, std::function<void()> missing) {
+  auto* opener = new QProcess(qApp);
+  // A session of its own: the browser stays when the terminal of the program is closed.
+  opener->setChildProcessModifier([] { setsid(); });
+  opener->setStandardInputFile(QProcess::nullDevice());
+  opener->setStandardOutputFile(QProcess::nullDevice());
+  opener->setStandardErrorFile(QProcess::nullDevice());
+
+  QElapsedTimer clock;
+  clock.start();
+  const auto end = [opener, clock, missing = std::move(missing)](bool opened) {
+    opener->deleteLater();
+    if (!opened && clock.elapsed() < kLongEnoughForABrowser) missing();
+  };
+  QObject::connect(opener, &QProcess::finished, opener, [end](int status) { end(status == 0); });
+  QObject::connect(
+      opener, &QProcess::errorOccurred, opener,
+      [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) end(false);
+      },
+      Qt::QueuedConnection);
+  opener->start(QStringLiteral("xdg-open"), {QString::fromLatin1(address.toEncoded())});
+}
+
+}  // namespace quillon
