@@ -1,5 +1,7 @@
 # Qt, for the folders of the window. What does not link quillon_qt cannot include a header of Qt's.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg Test)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb) # hands the clipboard over as the program ends
 
 add_library(quillon_qt INTERFACE)
 target_link_libraries(quillon_qt INTERFACE Qt6::Widgets Qt6::Svg)

@@ -89,11 +89,45 @@ TEST_F(StartJourney, TwoStartsAreTwoPrograms) {
   EXPECT_EQ(ReadIniValue("Values", "0", Session().Program()), "200");
 }
 
-TEST_F(StartJourney, ArgumentIsRefused) {
-  Session().Start({"--help"});
-  EXPECT_EQ(Session().WaitForEnd(), 2);
-  EXPECT_THAT(Session().Running().Errors(), HasSubstr("Quillon takes no arguments."));
-  EXPECT_FALSE(fs::exists(Session().Program().Path / "Ranges"));
+TEST_F(StartJourney, ArgumentsAreRefusedButForThoseOfQts) {
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"--help"}, {"range.txt"}, {"-style", "fusion", "--help"}}) {
+    Session().Start(arguments);
+    EXPECT_EQ(Session().WaitForEnd(), 2);
+    EXPECT_THAT(Session().Running().Errors(), HasSubstr("Quillon takes no arguments."));
+    EXPECT_FALSE(fs::exists(Session().Program().Path / "Ranges"));
+  }
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"-session", "117f000101000173_1"}, {"-style", "windows", "-platform", "xcb"}}) {
+    Session().Start(arguments);
+    static_cast<void>(Session().WaitForWindow(kMainTitle));
+    EXPECT_EQ(CloseProgram(), 0);
+  }
+}
+
+TEST(StartWithoutADisplay, IsToldInOneLine) {
+  struct Case {
+    std::vector<std::string> Environment;
+    std::vector<std::string> Arguments;
+    std::string Reason;
+  };
+  const std::vector<Case> cases = {
+      {{}, {}, "could not connect to display"},
+      {{"DISPLAY=:4095"}, {}, "could not connect to display :4095"},
+      {{}, {"-platform", "paper"}, "Could not find the Qt platform plugin \"paper\" in \"\""},
+  };
+  for (const Case& one : cases) {
+    ProgramRun run;
+    run.Program = "/usr/bin/env";
+    run.Arguments = {"-i"};
+    run.Arguments.insert(run.Arguments.end(), one.Environment.begin(), one.Environment.end());
+    run.Arguments.emplace_back(QUILLON_PROGRAM);
+    run.Arguments.insert(run.Arguments.end(), one.Arguments.begin(), one.Arguments.end());
+    const ProgramOutcome outcome = RunProgram(run);
+    EXPECT_EQ(outcome.Status, 1);
+    EXPECT_EQ(outcome.Errors, "Quillon finds no display for its window: " + one.Reason + "\n");
+    EXPECT_EQ(outcome.Output, "");
+  }
 }
 
 TEST_F(StartJourney, NameTooShortForARangeFileEndsTheProgram) {

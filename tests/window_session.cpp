@@ -131,6 +131,11 @@ void WindowSession::Start(const std::vector<std::string>& arguments) {
   programs_.push_back(std::make_unique<RunningProgram>(Prepare((programFolder_ / "quillon").string(), arguments)));
 }
 
+std::unique_ptr<RunningProgram> WindowSession::StartBeside(const std::string& program,
+                                                           const std::vector<std::string>& arguments) const {
+  return std::make_unique<RunningProgram>(Prepare(program, arguments));
+}
+
 int WindowSession::WaitForEnd() const {
   std::optional<int> status;
   const auto limit = steady_clock::now() + kLimit;
@@ -152,14 +157,15 @@ std::string WindowSession::CommandArguments(const std::string& name) const {
   return ReadAllBytes(arguments);
 }
 
-// A clean environment but for what is needed, so that no setting of the user's desktop gets in. The kernel ends the
-// program with the test, whatever becomes of the test.
+// A clean environment but for what is needed, so that no setting of the user's desktop gets in, and no signal ignored.
+// The kernel ends the program with the test, whatever becomes of the test.
 ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<std::string>& arguments) const {
   const std::string home = home_.string();
   ProgramRun run;
   run.Program = "/usr/bin/env";
   run.CurrentFolder = home_;
   run.Arguments = {"-i",
+                   "--default-signal",
                    "HOME=" + home,
                    "TMPDIR=" + home,
                    "XDG_RUNTIME_DIR=" + home,
@@ -218,7 +224,7 @@ void WindowSession::MoveWindow(const Window& window, QPoint corner) const {
 // Those of the process itself: the programs of several starts have windows of the same titles.
 QRect WindowSession::LayNote(QPoint corner, const Window& keeper) {
   const std::string place = "+" + std::to_string(corner.x()) + "+" + std::to_string(corner.y());
-  note_ = std::make_unique<RunningProgram>(Prepare("xmessage", {"-geometry", place, "-bg", "yellow", "Back at nine."}));
+  note_ = StartBeside("xmessage", {"-geometry", place, "-bg", "yellow", "Back at nine."});
   std::vector<std::string> ids;
   WaitUntil("the note lies on the screen", [&] {
     ids = Lines(Ask("xdotool", {"search", "--onlyvisible", "--class", "xmessage"}));

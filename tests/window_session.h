@@ -69,6 +69,10 @@ class WindowSession {
   void AddCommand(const std::string& name) const;
   [[nodiscard]] std::string CommandArguments(const std::string& name) const;
 
+  /// Starts another program on the same screen, which is gone with the object returned.
+  [[nodiscard]] std::unique_ptr<RunningProgram> StartBeside(const std::string& program,
+                                                            const std::vector<std::string>& arguments) const;
+
   // ---- windows
 
   /// The one visible window of the running program with this title, nothing if there is none.

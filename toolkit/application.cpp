@@ -11,8 +11,48 @@
 #include "toolkit/accessible_control.h"
 #include "toolkit/light_look.h"
 #include "toolkit/message_dialogs.h"
+#include "toolkit/text.h"
+#include "toolkit/x11_clipboard.h"
 
 namespace quillon {
+namespace {
+
+// What Qt says of itself as it starts.
+struct StartMessages {
+  QStringList All;
+  QString NoDisplay;  // the first that tells of a display
+};
+
+StartMessages& Heard() {
+  static StartMessages heard;
+  return heard;
+}
+
+void HearStart(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  StartMessages& heard = Heard();
+  if (type != QtFatalMsg) {
+    heard.All.push_back(text);
+    if (heard.NoDisplay.isEmpty() && QByteArray(context.category).startsWith("qt.qpa"))
+      heard.NoDisplay = text.trimmed();
+    return;
+  }
+  // Qt goes on to abort.
+  const std::string reason =
+      FromQt(heard.NoDisplay.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : heard.NoDisplay);
+  std::fputs(("Quillon finds no display for its window: " + reason + "\n").c_str(), stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
+  const QtMessageHandler before = qInstallMessageHandler(HearStart);
+  auto application = std::make_unique<Application>(argc, argv);
+  qInstallMessageHandler(before);
+  for (const QString& text : Heard().All)
+    qWarning("%s", qUtf8Printable(text));
+  return application;
+}
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Quillon"));
@@ -37,6 +77,7 @@ void EndWithFault(const std::string& text) {
     QMessageBox box(QApplication::activeWindow());
     FillMessageBox(box, {.title = std::string(kApplicationTitle), .text = text, .icon = MessageIcon::kStop});
     box.exec();
+    HandOverClipboard();
   }
   // At once: handlers further out, and what they hold, belong to a program that is no more.
   std::_Exit(EXIT_FAILURE);

@@ -4,7 +4,7 @@
 // error, shown in a message box with the stop icon, and the process ends with exit status 1.
 
 #include <QApplication>
-#include <functional>
+#include <memory>
 #include <string>
 
 #include "support/message_boxes.h"
@@ -18,6 +18,10 @@ class Application : public QApplication {
   /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
   bool notify(QObject* receiver, QEvent* event) override;
 };
+
+/// The application, once it has a display. Without one, a line on standard error says so, with Qt's reason, and the
+/// process ends with status 1.
+[[nodiscard]] std::unique_ptr<Application> StartApplication(int& argc, char** argv);
 
 /// Tells of the fault and ends the process. With no window system to show it in, the text on standard error is all.
 [[noreturn]] void EndWithFault(const std::string& text);

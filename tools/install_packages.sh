@@ -13,7 +13,8 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
 # The window, the fonts that stand in for those of its layouts, and what opens its links and pictures.
-build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins fonts-liberation fonts-dejavu-core fonts-dejavu-extra xdg-utils)
+build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins libxcb1-dev pkg-config xdg-utils)
+build+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
 # A screen in memory for the tests that use it.
 build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 lint=(git clang-format-14 clang-tidy-14)

@@ -1,13 +1,17 @@
-// The desktop program. It takes no arguments and keeps everything in the folder of its executable.
+// The desktop program. It takes no arguments but those of Qt's, as a session manager gives them when it brings the
+// window back, and keeps everything in the folder of its executable.
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "shell/screens/http_client.h"
 #include "shell/screens/main_form.h"
 #include "toolkit/application.h"
 #include "toolkit/message_dialogs.h"
+#include "toolkit/posix_signals.h"
 #include "toolkit/text.h"
+#include "toolkit/x11_clipboard.h"
 
 namespace quillon {
 namespace {
@@ -20,19 +24,22 @@ int RunWindow() {
   HttpClient web;
   ShiftWatch shift;
   MainForm window({.Folder = folder, .Messages = boxes, .Inputs = boxes, .Web = web, .Shift = shift, .EndProcess = [] {
+                     HandOverClipboard();
                      std::_Exit(EXIT_SUCCESS);
                    }});
+  const EndSignals signals([&window] { window.close(); });
   window.Start();
   return QApplication::exec();
 }
 
 int RunProgram(int argc, char** argv) {
+  const std::unique_ptr<Application> application = StartApplication(argc, argv);
+  // Qt has taken its own out.
   if (argc > 1) {
     std::fputs("Quillon takes no arguments. quillon-cli works out a situation given on the command line.\n", stderr);
     return kWrongUsage;
   }
 
-  Application application(argc, argv);
   // Caught in here: only as long as the application stands can a failed start be shown.
   try {
     return RunWindow();
