@@ -9,8 +9,9 @@
 #include "analysis/quiet_window.h"
 #include "hand/equity_table.h"
 #include "ranges/range_files.h"
-#include "ranges/range_fixtures.h"
 #include "testing/oracle/runs.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -25,7 +26,7 @@ class NoMessages final : public MessageBoxes {
 void RunFullRange(benchmark::State& timing, std::int16_t button) {
   LoadEquityTable();
   const TemporaryProgram program;
-  SaveRangeText(program.Folder(), kFullRange, TextWith(AllLabels()));
+  SaveRangeText(program.Folder(), kFullRange, EveryHandAt(1));
   NoMessages messages;
   QuietWindow window({"150", "50", "400", std::string(kFullRange), std::string(kFullRange)}, messages);
   while (timing.KeepRunning()) {
@@ -55,10 +56,10 @@ void RunPlain(benchmark::State& timing, const plain::Run& run) {
 }
 
 void PreflopCallPlain(benchmark::State& timing) {
-  RunPlain(timing, {plain::Mode::kCall, "150", "50", "", TextWith(AllLabels()), ""});
+  RunPlain(timing, {plain::Mode::kCall, "150", "50", "", EveryHandAt(1), ""});
 }
 void PreflopRaisePlain(benchmark::State& timing) {
-  RunPlain(timing, {plain::Mode::kRaise, "150", "50", "400", TextWith(AllLabels()), TextWith(AllLabels())});
+  RunPlain(timing, {plain::Mode::kRaise, "150", "50", "400", EveryHandAt(1), EveryHandAt(1)});
 }
 BENCHMARK(PreflopCallPlain)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(PreflopRaisePlain)->Unit(benchmark::kMillisecond)->Iterations(1);

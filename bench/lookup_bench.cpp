@@ -12,11 +12,11 @@
 #include "analysis/dealt_range.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
-#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
 #include "support/byte_scan.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/runs.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {
@@ -95,7 +95,7 @@ void HandEquityPlain(benchmark::State& timing) {
 BENCHMARK(HandEquityPlain)->Iterations(1);
 
 void WeightRead(benchmark::State& timing) {
-  const std::string text = TextWith(AllLabels());
+  const std::string text = EveryHandAt(1);
   while (timing.KeepRunning()) {
     for (std::int16_t i = 0; i < kHandClassCount; ++i)
       benchmark::DoNotOptimize(RangeWeightOf(text, HandLabel(i)));
@@ -106,7 +106,7 @@ void WeightRead(benchmark::State& timing) {
 BENCHMARK(WeightRead);
 
 void DealtRange(benchmark::State& timing) {
-  std::string text = TextWith(AllLabels());
+  std::string text = EveryHandAt(1);
   while (timing.KeepRunning())
     benchmark::DoNotOptimize(DealRange({}, "Everything", "As", "Ac", text));
 }

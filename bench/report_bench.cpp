@@ -8,10 +8,10 @@
 #include "analysis/analysis_state.h"
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
-#include "ranges/range_fixtures.h"
 #include "results/recording_report_screen.h"
 #include "results/report.h"
 #include "results/sample_analysis.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {
@@ -19,7 +19,7 @@ namespace {
 // Both ranges full, and every hand with figures of its own.
 AnalysisState FinishedRaise() {
   AnalysisState state = sample::RaiseState();
-  state.RangeText = TextWith(AllLabels());
+  state.RangeText = EveryHandAt(1);
   state.CallingRangeText = state.RangeText;
   state.HandInfo.clear();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {

@@ -15,8 +15,9 @@
 #include <string>
 
 #include "ranges/dialogs/range_dialogs.h"
-#include "ranges/range_fixtures.h"
 #include "shell/screens/main_form.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 #include "toolkit/application.h"
 
 namespace quillon {
@@ -64,7 +65,7 @@ struct Program {
   std::unique_ptr<MainForm> Window;
 
   Program() {
-    SaveRangeText(Files.Folder(), "Everything", TextWith(AllLabels()));
+    SaveRangeText(Files.Folder(), "Everything", EveryHandAt(1));
     Window = std::make_unique<MainForm>(MainForm::Surroundings{
         .Folder = Files.Folder(), .Messages = Boxes, .Inputs = Boxes, .Web = Web, .Shift = Shift, .EndProcess = [] {}});
     Window->Start();

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "fuzz/fuzz_target.h"
-#include "fuzz/memory_files.h"
 #include "shell/ini_text.h"
 #include "shell/settings_file.h"
 #include "support/windows_1252.h"
+#include "testing/memory_files.h"
 #include "testing/oracle/settings.h"
 
 namespace quillon {

@@ -5,12 +5,12 @@
 #include <string>
 
 #include "fuzz/fuzz_target.h"
-#include "fuzz/memory_files.h"
 #include "ranges/range_files.h"
 #include "ranges/range_lists.h"
 #include "ranges/range_names.h"
 #include "support/recorded_messages.h"
 #include "support/run_time_error.h"
+#include "testing/memory_files.h"
 
 namespace quillon {
 namespace {

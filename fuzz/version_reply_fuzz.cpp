@@ -7,12 +7,12 @@
 #include <utility>
 
 #include "fuzz/fuzz_target.h"
-#include "fuzz/memory_files.h"
 #include "shell/settings_file.h"
 #include "shell/upgrade_check.h"
 #include "shell/version.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
+#include "testing/memory_files.h"
 
 namespace quillon {
 namespace {

@@ -5,8 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

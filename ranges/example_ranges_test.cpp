@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "ranges/range_files.h"
-#include "ranges/range_fixtures.h"
 #include "ranges/range_lists.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"

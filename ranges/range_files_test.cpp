@@ -10,10 +10,11 @@
 #include <sys/stat.h>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
-#include "support/failing_calls.h"
-#include "support/passing_calls.h"
+#include "testing/fault_of.h"
+#include "testing/file_calls.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

@@ -8,7 +8,8 @@
 #include <unistd.h>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
+#include "testing/fault_of.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

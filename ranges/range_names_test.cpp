@@ -6,8 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "support/recorded_messages.h"
+#include "testing/range_dialog_messages.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -19,18 +20,10 @@ Message Stop(std::string title, std::string text) {
   return {std::move(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
 }
 
-Message NoName() {
-  return Stop("Error", "You must choose a name for this range.");
-}
-
 Message ForbiddenCharacter() {
   return Stop("Quillon",
               "The following characters are not allowed in the range name: \r\n\r\n"
               "/\\:*?\"<>|");
-}
-
-Message Exists(const std::string& name) {
-  return Stop("Error", "A range with the name \"" + name + "\" already exists.\r\n\r\nPlease choose another name.");
 }
 
 Message TooLong() {

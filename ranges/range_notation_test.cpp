@@ -9,8 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {

@@ -10,12 +10,13 @@
 #include <vector>
 
 #include "ranges/range_files.h"
-#include "ranges/range_fixtures.h"
 #include "ranges/range_notation.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
+#include "testing/fault_of.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/ranges.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

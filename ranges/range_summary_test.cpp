@@ -4,8 +4,9 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "ranges/range_text.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {
@@ -28,13 +29,13 @@ void ExpectSummaries(const std::vector<SummaryCase>& cases) {
 
 TEST(RangeSummary, FixedOutputsStandForNothingAndForAll) {
   EXPECT_EQ(RangeSummary(TextWith("")), "[None]");
-  EXPECT_EQ(RangeSummary(TextWith(AllLabels())), "[Everything]");
+  EXPECT_EQ(RangeSummary(EveryHandAt(1)), "[Everything]");
   EXPECT_EQ(SummarizeWeight(TextWith(""), 1), "");
-  EXPECT_EQ(SummarizeWeight(TextWith(AllLabels()), 1), kWholeGrid);
+  EXPECT_EQ(SummarizeWeight(EveryHandAt(1), 1), kWholeGrid);
 }
 
 TEST(RangeSummary, AllAtHalfIsNotEverything) {
-  EXPECT_EQ(RangeSummary(TextWith("", AllLabels())), std::string("Full:  | Half: ") + kWholeGrid);
+  EXPECT_EQ(RangeSummary(EveryHandAt(0.5)), std::string("Full:  | Half: ") + kWholeGrid);
 }
 
 TEST(RangeSummary, FoldsRuns) {

@@ -4,7 +4,8 @@
 #include <limits>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {
@@ -204,8 +205,8 @@ TEST(SelectedCombos, CountsConcreteHandsAsTheGridShowsThem) {
       {"one offsuit class", TextWith("AKo"), 12, "0.9% selected"},
       {"one half offsuit class", TextWith("", "AKo"), 6, "0.5% selected"},
       {"a mixture", TextWith("AA KK AKs", "AKo 72o"), 28, "2.1% selected"},
-      {"all at full", TextWith(AllLabels()), 1326, "100% selected"},
-      {"all at half", TextWith("", AllLabels()), 663, "50% selected"},
+      {"all at full", EveryHandAt(1), 1326, "100% selected"},
+      {"all at half", EveryHandAt(0.5), 663, "50% selected"},
   };
   for (const ComboCase& c : cases) {
     EXPECT_EQ(SelectedCombos(c.text), c.combos) << c.rule;

@@ -17,11 +17,13 @@
 #include <utility>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "shell/grid_image.h"
 #include "shell/settings_file.h"
-#include "support/failing_calls.h"
 #include "support/recorded_messages.h"
+#include "support/run_time_error.h"
+#include "testing/file_calls.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

@@ -9,9 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
-#include "support/passing_calls.h"
 #include "support/recorded_messages.h"
+#include "support/run_time_error.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

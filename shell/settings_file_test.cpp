@@ -15,9 +15,8 @@
 #include <utility>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
-#include "support/failing_calls.h"
-#include "support/passing_calls.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

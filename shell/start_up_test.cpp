@@ -14,13 +14,14 @@
 #include <vector>
 
 #include "hand/hand_classes.h"
-#include "ranges/range_fixtures.h"
 #include "ranges/range_lists.h"
 #include "shell/recorded_navigation.h"
 #include "shell/settings_file.h"
 #include "shell/version.h"
 #include "support/folders.h"
-#include "support/passing_calls.h"
+#include "support/run_time_error.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

@@ -7,12 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "results/web_addresses.h"
 #include "shell/recorded_web.h"
 #include "shell/settings_file.h"
-#include "support/passing_calls.h"
 #include "support/recorded_messages.h"
+#include "support/run_time_error.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

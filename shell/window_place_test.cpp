@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "shell/settings_file.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

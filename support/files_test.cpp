@@ -17,9 +17,10 @@
 #include <unistd.h>
 #include <vector>
 
-#include "support/closed_input.h"
-#include "support/passing_calls.h"
 #include "support/run_time_error.h"
+#include "testing/closed_input.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_folder.h"
 
 namespace quillon {
 namespace {
@@ -177,19 +178,12 @@ class OrdinaryUser {
 class Files : public testing::Test {
  protected:
   void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "quillon-files-XXXXXX").string();
-    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-    root_ = pattern;
     fs::create_directory(Folder());
     fs::create_directory(ScratchFolder());
   }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(root_, ignored);
-  }
 
-  [[nodiscard]] fs::path Folder() const { return root_ / "Ranges"; }
-  [[nodiscard]] fs::path ScratchFolder() const { return root_ / "program"; }
+  [[nodiscard]] fs::path Folder() const { return root_.Path() / "Ranges"; }
+  [[nodiscard]] fs::path ScratchFolder() const { return root_.Path() / "program"; }
   [[nodiscard]] fs::path File() const { return Folder() / "Button.txt"; }
 
   void ExpectNoScratchFiles() const {
@@ -202,7 +196,7 @@ class Files : public testing::Test {
   }
 
  private:
-  fs::path root_;
+  TemporaryFolder root_;
 };
 
 using ReadingBytes = Files;

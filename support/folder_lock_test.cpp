@@ -11,8 +11,9 @@
 #include <thread>
 #include <unistd.h>
 
-#include "support/closed_input.h"
-#include "support/passing_calls.h"
+#include "testing/closed_input.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_folder.h"
 
 namespace quillon {
 namespace {
@@ -21,20 +22,10 @@ using std::chrono::steady_clock;
 
 class LockingAFolder : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (std::filesystem::temp_directory_path() / "quillon-lock-XXXXXX").string();
-    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-
-  [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
+  [[nodiscard]] const std::filesystem::path& Folder() const { return folder_.Path(); }
 
  private:
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
 };
 
 TEST_F(LockingAFolder, OneHasItAtATime) {

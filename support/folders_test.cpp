@@ -1,7 +1,6 @@
 #include "support/folders.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -12,9 +11,10 @@
 #include <utility>
 #include <vector>
 
-#include "support/closed_input.h"
-#include "support/passing_calls.h"
 #include "support/run_time_error.h"
+#include "testing/closed_input.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_folder.h"
 
 namespace quillon {
 namespace {
@@ -23,20 +23,12 @@ namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 
-// A folder that is gone after the test.
 class Folders : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "quillon-folders-XXXXXX").string();
-    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-    home_ = pattern;
-  }
-  void TearDown() override { fs::remove_all(home_); }
-
-  [[nodiscard]] const fs::path& Home() const { return home_; }
+  [[nodiscard]] const fs::path& Home() const { return home_.Path(); }
 
  private:
-  fs::path home_;
+  TemporaryFolder home_;
 };
 
 // Fails to open, so many times, and to make a folder, each with the error given.

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "results/results_grid.h"
+#include "testing/range_texts.h"
 #include "tests/window_journey.h"
 
 namespace quillon {

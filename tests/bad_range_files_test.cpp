@@ -10,11 +10,12 @@
 #include <string_view>
 #include <vector>
 
-#include "ranges/range_fixtures.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/ranges.h"
 #include "testing/oracle/runs.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 #include "tests/bad_inputs.h"
 #include "tests/companion_in_folder.h"
 

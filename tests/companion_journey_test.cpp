@@ -7,7 +7,6 @@
 //     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
 
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -17,11 +16,11 @@
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include "results/web_addresses.h"
 #include "support/files.h"
+#include "testing/temporary_folder.h"
 #include "tests/program_run.h"
 
 namespace quillon {
@@ -49,23 +48,11 @@ Arguments With(Arguments arguments, const Arguments& more) {
 class Household {
  public:
   Household() {
-    std::string pattern = (fs::temp_directory_path() / "quillon journey ½ XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::system_error(errno, std::generic_category(), pattern);
-    home_ = pattern;
     fs::create_directories(ProgramFolder());
     fs::create_directories(Elsewhere());
     fs::copy_file(QUILLON_CLI_PROGRAM, Program());
     fs::copy(QUILLON_EXAMPLES_FOLDER "/Ranges", RangeFolder());
   }
-  Household(const Household&) = delete;
-  Household(Household&&) = delete;
-  Household& operator=(const Household&) = delete;
-  Household& operator=(Household&&) = delete;
-  ~Household() {
-    std::error_code ignored;
-    fs::remove_all(home_, ignored);
-  }
-
   [[nodiscard]] fs::path ProgramFolder() const { return home_ / "Quillon"; }
   [[nodiscard]] fs::path RangeFolder() const { return ProgramFolder() / "Ranges"; }
   [[nodiscard]] fs::path Program() const { return ProgramFolder() / "quillon-cli"; }
@@ -98,7 +85,8 @@ class Household {
   }
 
  private:
-  fs::path home_;
+  TemporaryFolder temporary_{"quillon journey ½"};
+  fs::path home_ = temporary_.Path();
 };
 
 // ---- golden reports

@@ -12,9 +12,9 @@
 #include "analysis/results_table.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
-#include "ranges/range_fixtures.h"
 #include "results/results_grid.h"
 #include "support/files.h"
+#include "testing/range_texts.h"
 #include "tests/window_journey.h"
 
 namespace quillon {

@@ -14,10 +14,10 @@
 #include <string>
 #include <thread>
 
-#include "ranges/range_fixtures.h"
 #include "ranges/range_lists.h"
 #include "shell/settings_file.h"
 #include "support/files.h"
+#include "testing/temporary_program.h"
 #include "tests/program_run.h"
 #include "tests/saving_loop.h"
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -10,7 +9,6 @@
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
-#include <system_error>
 #include <thread>
 
 #include "support/files.h"
@@ -66,12 +64,6 @@ int IntField(const uchar* header, std::size_t field) {
   return static_cast<int>(Field(header, field));
 }
 
-fs::path MakeHome() {
-  std::string pattern = (fs::temp_directory_path() / "quillon-window-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::system_error(errno, std::generic_category(), pattern);
-  return pattern;
-}
-
 // What is the user's own and not the test's.
 void PassOn(std::vector<std::string>& environment, const char* name) {
   const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): there is one thread
@@ -103,7 +95,7 @@ std::vector<std::string> To(QPoint point) {
 
 }  // namespace
 
-WindowSession::WindowSession(Desk desk) : desk_(desk), home_(MakeHome()), programFolder_(home_ / "My Quillon ½") {
+WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "My Quillon ½") {
   fs::create_directory(programFolder_);
   fs::create_directory(home_ / "bin");
   std::ofstream(home_ / "fonts.conf") << kFonts;
@@ -112,14 +104,7 @@ WindowSession::WindowSession(Desk desk) : desk_(desk), home_(MakeHome()), progra
   StartWindowManager();
 }
 
-WindowSession::~WindowSession() {
-  programs_.clear();
-  windowManager_.reset();
-  frameBuffer_.reset();
-  screen_.reset();
-  std::error_code ignored;
-  fs::remove_all(home_, ignored);
-}
+WindowSession::~WindowSession() = default;
 
 // ---- the program and its folder
 

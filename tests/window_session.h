@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "ranges/range_files.h"
+#include "testing/temporary_folder.h"
 #include "tests/program_run.h"
 
 namespace quillon {
@@ -129,7 +130,8 @@ class WindowSession {
   [[nodiscard]] QImage MappedPicture() const;
 
   Desk desk_;
-  std::filesystem::path home_;
+  TemporaryFolder temporary_{"quillon-window"};
+  std::filesystem::path home_ = temporary_.Path();
   std::filesystem::path programFolder_;
   std::string display_;
   // Ended in the opposite order: the screen goes last.

@@ -20,11 +20,12 @@
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
-#include "ranges/range_fixtures.h"
 #include "ranges/range_summary.h"
 #include "results/hand_line.h"
 #include "results/recording_report_screen.h"
 #include "results/results_grid.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {

@@ -17,9 +17,10 @@
 #include "analysis/quiet_window.h"
 #include "analysis/recording_window.h"
 #include "hand/equity_table.h"
-#include "ranges/range_fixtures.h"
 #include "shell/version.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 #include "tools/analysis_output.h"
 
 namespace quillon {

@@ -7,10 +7,10 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include "hand/equity_rows.h"
 #include "support/files.h"
+#include "testing/temporary_folder.h"
 
 namespace quillon {
 namespace {
@@ -48,24 +48,20 @@ std::string Rows(std::size_t first, std::size_t last) {
   return rows;
 }
 
-// A test in an empty folder of its own, which goes with it.
 class EquityTableProgram : public testing::Test {
  protected:
-  void SetUp() override { fs::create_directories(folder_); }
-  void TearDown() override { fs::remove_all(folder_); }
-
-  [[nodiscard]] std::string Path(const std::string& name) const { return (folder_ / name).string(); }
+  [[nodiscard]] std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
 
   void Write(const std::string& name, const std::string& text) const {
     std::ofstream(Path(name), std::ios::binary) << text;
   }
 
   [[nodiscard]] std::ptrdiff_t FileCount() const {
-    return std::distance(fs::directory_iterator(folder_), fs::directory_iterator());
+    return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
   }
 
  private:
-  fs::path folder_ = fs::temp_directory_path() / ("equity-table-test-" + std::to_string(getpid()));
+  TemporaryFolder folder_;
 };
 
 TEST_F(EquityTableProgram, PrintsTheRowsAskedFor) {

@@ -11,7 +11,9 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/range_dialogs.h"
-#include "ranges/range_fixtures.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 #include "toolkit/expected_boxes.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"

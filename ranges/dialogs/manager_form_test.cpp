@@ -13,6 +13,7 @@
 
 #include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
+#include "testing/range_dialog_messages.h"
 
 namespace quillon {
 namespace {

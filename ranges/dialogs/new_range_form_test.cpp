@@ -7,6 +7,7 @@
 
 #include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
+#include "testing/range_dialog_messages.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {

@@ -19,9 +19,11 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/dialog_fixtures.h"
-#include "ranges/range_fixtures.h"
 #include "shell/recorded_web.h"
 #include "shell/screens/main_form.h"
+#include "testing/fault_of.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 #include "toolkit/expected_boxes.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"
@@ -64,7 +66,7 @@ class MainStage {
               .Shift = Shift,
               .EndProcess = [this] { End(); },
               .Clock = ClockOf(clock)}) {
-    Program.Write("Everything.txt", TextWith(AllLabels()));
+    Program.Write("Everything.txt", EveryHandAt(1));
     Program.Write("Nothing.txt", TextWith(""));
     Program.Write("Pairs.txt", TextWith("AA KK", "QQ"));
     Program.Write("Tight.txt", TextWith("AA KK AKs AKo"));

@@ -1,7 +1,7 @@
 #pragma once
 
-// Files that are in memory only, for targets that would otherwise write to the disk a million times. Folders are not
-// told apart: every path can be opened, and names are all there is.
+// Files that are in memory only, for targets that would otherwise write to the disk a million times. Folders do not
+// count: every path can be opened, and names are all there is.
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: a process without a standard input, such as a desktop may start. The next file it opens has the number 0.
+// A process without a standard input, such as a desktop may start. The next file it opens has the number 0.
 
 #include <unistd.h>
 

@@ -1,0 +1,46 @@
+#pragma once
+
+// A program's folder with an empty range folder in it, gone with all it holds when the object goes.
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "ranges/range_files.h"
+#include "testing/temporary_folder.h"
+
+namespace quillon {
+
+class TemporaryProgram {
+ public:
+  TemporaryProgram() { std::filesystem::create_directory(RangeFolderPath(folder_)); }
+
+  [[nodiscard]] const ProgramFolder& Folder() const { return folder_; }
+  [[nodiscard]] std::filesystem::path RangeFile(std::string_view fileName) const {
+    return RangeFolderPath(folder_) / fileName;
+  }
+
+  /// Puts a file into the range folder, byte for byte.
+  void Write(std::string_view fileName, std::string_view bytes = {}) const {
+    std::ofstream(RangeFile(fileName), std::ios::binary) << bytes;
+  }
+
+  /// The bytes of a file in the range folder.
+  [[nodiscard]] std::string Read(std::string_view fileName) const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(RangeFile(fileName), std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+
+  /// A range as the program saves it, and its end.
+  void Save(std::string_view name, std::string_view text) const { SaveRangeText(folder_, name, text); }
+  void Remove(std::string_view name) const { std::filesystem::remove(RangeFilePath(folder_, name)); }
+
+ private:
+  TemporaryFolder temporary_;
+  ProgramFolder folder_{temporary_.Path()};
+};
+
+}  // namespace quillon
