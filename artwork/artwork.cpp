@@ -2,7 +2,7 @@
 
 #include <QtCore/QtGlobal>
 
-// The macro declares a function of the global namespace, so it cannot stand inside ours nor in one without a name.
+// The macro declares a function of the global namespace, so it can be neither in ours nor in an unnamed one.
 static void InitResources() {
   Q_INIT_RESOURCE(artwork);
 }

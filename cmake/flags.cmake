@@ -7,7 +7,7 @@ target_compile_options(quillon_flags INTERFACE
   -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast -Wcast-align
   -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
   -Wformat=2 -Wimplicit-fallthrough -Wextra-semi -Wundef)
-# GCC 12 sees overlapping copies inside std::string where there are none (GCC bug 105651).
+# GCC 12 sees overlapping copies inside std::string although there are none (GCC bug 105651).
 target_compile_options(quillon_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(quillon_flags INTERFACE
   $<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
@@ -22,7 +22,7 @@ if(QUILLON_SANITIZE)
 endif()
 
 if(QUILLON_COVERAGE)
-  # Clang counts what stands in the source. GCC counts the branches of the machine code, of which most are exceptions
+  # Clang counts what is in the source. GCC counts the branches of the machine code, of which most are exceptions
   # that the library might throw.
   target_compile_options(quillon_flags INTERFACE -fprofile-instr-generate -fcoverage-mapping)
   target_link_options(quillon_flags INTERFACE -fprofile-instr-generate)

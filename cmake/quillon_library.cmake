@@ -1,6 +1,6 @@
 # quillon_library(NAME HEADERS ... SOURCES ... TESTS ... QT_TESTS ... LINKS ...)
 #
-# One folder's library `quillon_NAME`, and one test program `NAME_test` of the tests that stand beside its sources. A
+# One folder's library `quillon_NAME`, and one test program `NAME_test` of the tests beside its sources. A
 # folder whose tests build windows lists all of them as QT_TESTS.
 function(quillon_library NAME)
   cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;TESTS;QT_TESTS;LINKS" ${ARGN})
@@ -58,7 +58,7 @@ quillon_test_headers(quillon_test_headers)
 #
 # Gives in RESULT the sources of a test program with its test files read as one, which takes a tenth of the time. Each test
 # file has its own Case and its own fixtures, so each gets a namespace of its own that sees all of ours; their headers
-# stand before the first of them.
+# come before the first of them.
 function(quillon_as_one_source NAME SOURCES RESULT)
   set(includes "")
   set(tests "")

@@ -13,7 +13,7 @@
 #include <numeric>
 #include <string_view>
 
-/// The target: the one function of this name in each program. Gives back 0.
+/// The target: the one function of this name in each program. Returns 0.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace quillon {
@@ -27,13 +27,13 @@ inline void Require(bool holds, const char* rule) {
   std::abort();
 }
 
-/// The bytes of one run, taken from the front. What is used up reads as 0.
+/// The bytes of one run, taken from the front. After the last one come zeros.
 class FuzzInput {
  public:
   FuzzInput(const std::uint8_t* data, std::size_t size)
       : rest_(reinterpret_cast<const char*>(data), size) {}  // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
 
-  /// The next byte, brought below `limit`.
+  /// The next byte modulo `limit`.
   std::size_t TakeBelow(std::size_t limit) {
     if (rest_.empty()) return 0;
     const auto byte = static_cast<unsigned char>(rest_.front());
@@ -73,9 +73,9 @@ inline constexpr bool kReplays = false;
 #endif
 
 /// What a run of a slow target looks at. Where inputs are replayed, that is all of its checks. A made-up input has one
-/// as a rule, so that there are more runs, and seldom all, since one check may stand in another's way. Seldom means by
-/// the sum of its bytes: such an input reaches the most, so libFuzzer keeps it and makes others from it, which a byte
-/// that stays would leave as slow.
+/// as a rule, so that there are more runs, and seldom all, since one check may hide what another would find. Seldom
+/// means by the sum of its bytes: such an input reaches the most, so libFuzzer keeps it and makes others from it, which
+/// a byte that stays would leave as slow.
 class ChecksOfRun {
  public:
   /// Takes one byte of the input for the check.

@@ -1,4 +1,4 @@
-// Names of ranges and of files, of any bytes: a name that is let through stays in the range folder and comes back from
+// Names of ranges and of files, of any bytes: an accepted name stays in the range folder and is recovered from
 // its file's name.
 
 #include <set>

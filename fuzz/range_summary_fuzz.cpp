@@ -1,4 +1,4 @@
-// The notation of any range, against the oracle.
+// The summary of any range, against the oracle.
 
 #include <array>
 #include <optional>

@@ -29,14 +29,14 @@ void Replay(const std::filesystem::path& file) {
   std::ostringstream content;
   content << std::ifstream(file, std::ios::binary).rdbuf();
   const std::string text = content.str();
-  std::vector<std::uint8_t> bytes;  // of the very size, so that a read beyond the end is seen
+  std::vector<std::uint8_t> bytes;  // of exactly that size, so that a read past the end is found
   bytes.reserve(text.size());
   for (const char c : text)
     bytes.push_back(static_cast<std::uint8_t>(c));
   LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
 }
 
-// Gives back the number of files.
+// Returns the number of files.
 std::size_t ReplayFolders(std::span<char*> folders) {
   std::size_t count = 0;
   for (const char* const folder : folders) {

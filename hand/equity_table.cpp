@@ -19,7 +19,7 @@ std::array<std::string, kHandClassCount>& Rows() {
   return rows;
 }
 
-// Where field number `column` of a row starts: behind the blank that ends the field before it.
+// Where field number `column` of a row starts: after the space that ends the field before it.
 std::size_t FieldStart(std::string_view row, std::size_t column) {
   if (column == 0) return 0;
   const std::size_t blank = FindNthByte(row, ' ', column - 1);

@@ -2,7 +2,7 @@
 
 // Equity of one starting-hand class against another, read from the program's constant table of text. The equity of a
 // class is the share of the pot that it takes when both hands are all in before the flop; "hand/equity_rows.h" tells
-// what an entry means and how exact it is. There is no numeric form of the table: a lookup counts blanks along its row
+// what an entry means and how exact it is. There is no numeric form of the table: a lookup counts spaces along its row
 // and reads one number, and nothing is kept from one lookup to the next.
 
 #include <array>
@@ -15,12 +15,12 @@ namespace quillon {
 /// asks for an equity; calling it again changes nothing.
 void LoadEquityTable();
 
-/// The 169 rows in class index order, each of 169 numbers followed by one blank each; empty texts before
+/// The 169 rows in class index order, each of 169 numbers followed by one space each; empty texts before
 /// LoadEquityTable. They never change once they are there.
 [[nodiscard]] const std::array<std::string, 169>& EquityRows();
 
 /// The equity, 0 to 1, of the class labelled `hand` against the class labelled `opponentHand`. The order matters: the
-/// first picks the row, the second the column. A text that is no label is taken for "AA".
+/// first picks the row, the second the column. A text that is not a label counts as "AA".
 ///
 ///     ("AA", "KK") -> 0.819461      ("KK", "AA") -> 0.180539      ("K2o", "KK") -> 0.0537339999999999
 ///

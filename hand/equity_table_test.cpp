@@ -19,7 +19,7 @@ std::string LabelOf(std::size_t index) {
   return std::string(HandLabel(static_cast<std::int16_t>(index)));
 }
 
-// The texts between the blanks; what follows the last blank counts as one too.
+// The texts between the spaces; what follows the last space counts as one too.
 std::vector<std::string> Split(std::string_view text) {
   std::vector<std::string> fields(1);
   for (const char c : text) {
@@ -42,7 +42,7 @@ class EquityTable : public testing::Test {
  protected:
   static void SetUpTestSuite() { LoadEquityTable(); }
 
-  // Every entry as it stands in the table, row by row, less the empty field at a row's end.
+  // Every entry as it is in the table, row by row, less the empty field at a row's end.
   static const std::vector<std::vector<std::string>>& Entries() {
     static const std::vector<std::vector<std::string>> entries = [] {
       std::vector<std::vector<std::string>> rows;

@@ -6,7 +6,7 @@
 // rank, its lower rank and "s" ("AKs"), an offsuit hand likewise with "o" ("AKo").
 //
 // A class has an index from 0 to 168, row by row in a 13 by 13 grid whose rows and columns both run from A to 2: pairs
-// stand on the diagonal (the indexes divisible by 14), suited hands to the right of it, offsuit hands to the left.
+// are on the diagonal (the indexes divisible by 14), suited hands to the right of it, offsuit hands to the left.
 //
 //     AA  AKs AQs ...        0   1   2  ...
 //     AKo KK  KQs ...       13  14  15  ...
@@ -42,8 +42,8 @@ inline constexpr std::size_t kDeckSize = 52;
   return kDeckText.substr(position * 3, 2);
 }
 
-/// The index of a class label, compared exactly and with case. A text that is no label gives 0, the index of "AA": the
-/// fallback is silent on purpose, and a bad label behaves as aces.
+/// The index of a class label, compared exactly and with case. A text that is not a label gives 0, the index of "AA".
+/// Intentional: the fallback is silent, so that a bad label behaves as aces.
 [[nodiscard]] std::int16_t HandIndex(std::string_view label);
 
 /// The label of a class index, and the empty text for an index outside 0 to 168. The text lives as long as the program.
@@ -54,10 +54,10 @@ inline constexpr std::size_t kDeckSize = 52;
 [[nodiscard]] std::string RankText(std::int16_t value);
 
 /// How many concrete hands a class holds: 6 for a label of two characters, else 4 where the last character is "s" and
-/// 12 where it is anything else. Nothing but length and last character is looked at.
+/// 12 where it is anything else. Only the length and the last character count.
 [[nodiscard]] std::int16_t ComboCount(std::string_view label);
 
-/// The one concrete hand that stands for a class where a single one is needed, as two card texts with a blank between:
+/// The one concrete hand that represents a class where a single one is needed, as two cards separated by a space:
 ///
 ///     "AA" -> "As Ac"      "AKs" -> "Ac Kc"      "AKo" -> "Ac Ks"
 [[nodiscard]] FixedText<5> HandCards(std::string_view label);

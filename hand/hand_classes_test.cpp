@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-// The grid as it stands on the screen, row by row.
+// The grid as it is on the screen, row by row.
 constexpr std::array<std::string_view, 13> kGrid = {
     "AA AKs AQs AJs ATs A9s A8s A7s A6s A5s A4s A3s A2s", "AKo KK KQs KJs KTs K9s K8s K7s K6s K5s K4s K3s K2s",
     "AQo KQo QQ QJs QTs Q9s Q8s Q7s Q6s Q5s Q4s Q3s Q2s", "AJo KJo QJo JJ JTs J9s J8s J7s J6s J5s J4s J3s J2s",

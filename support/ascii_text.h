@@ -26,7 +26,7 @@ namespace quillon {
   return std::ranges::equal(a, b, [](char x, char y) { return AsciiLower(x) == AsciiLower(y); });
 }
 
-/// The text without the characters of `blanks` at its ends; a view into it, also where nothing is left.
+/// The text without the characters of `blanks` at its ends; a view into it, even if nothing is left.
 [[nodiscard]] constexpr std::string_view Trimmed(std::string_view text, std::string_view blanks) {
   const std::size_t first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return text.substr(0, 0);

@@ -16,14 +16,14 @@
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define QUILLON_CHOOSES_PROCESSOR
 #endif
-// What a search is made of is built for its processor only where it is taken into it.
+// Helpers must be inlined to be compiled for the caller's target.
 #define QUILLON_PART_OF_SCAN [[gnu::always_inline]] inline
 
 namespace quillon {
 namespace {
 
-// A processor is a vector of bytes, which the compiler compares and joins by itself, and the two steps from there to a
-// number that it does not find: whether any byte of a mask is set, and its bytes as bits, the first one lowest. A mask
+// `Processor` policy: a byte vector, which the compiler compares and joins by itself, plus the two operations that the
+// compiler cannot derive: whether any byte of a mask is set, and a mask's bytes as bits, the first one lowest. A mask
 // has all bits of a byte set or none.
 #ifdef QUILLON_CHOOSES_PROCESSOR
 struct Avx2 {
@@ -156,7 +156,7 @@ QUILLON_PART_OF_SCAN std::size_t PlaceInBlock(const char* block, const ShortText
   return kSearchedBlock<Processor>;
 }
 
-// Out of the way: taken in, the library's search would cost every other search a dozen registers.
+// Not inlined: the library's search would cost every other search a dozen registers.
 [[gnu::noinline]] std::size_t FindPlainly(std::string_view text, std::string_view wanted) {
   return text.find(wanted);
 }

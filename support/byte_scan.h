@@ -3,15 +3,15 @@
 // Two searches over plain bytes, many bytes at a time. The equity table and the range texts stay text and are searched
 // anew on every lookup, so these loops are where an analysis spends its time. They work on vectors; on x86-64 they are
 // built for AVX2 and for the baseline, and the program picks the better one when it starts. Both give the same answers.
-// A compiler or loader that cannot choose so gets the baseline alone.
+// A compiler or loader that cannot choose this way gets the baseline alone.
 
 #include <cstddef>
 #include <string_view>
 
 namespace quillon {
 
-/// The position of occurrence number `n` (from 0) of `byte` in `text`, or std::string_view::npos if there are not so
-/// many.
+/// The position of occurrence number `n` (from 0) of `byte` in `text`, or std::string_view::npos if there are
+/// fewer.
 [[nodiscard]] std::size_t FindNthByte(std::string_view text, char byte, std::size_t n);
 
 /// The position of the first occurrence of `wanted` in `text`, or std::string_view::npos if there is none: the same

@@ -39,7 +39,7 @@ class RandomTexts {
 const std::vector<std::size_t> kBlockEdges = {0,   1,   63,  64,  65,  111, 112, 113, 127, 128, 129, 191,
                                               192, 223, 224, 225, 256, 335, 336, 337, 384, 447, 448, 449};
 
-// Memory between two pages that may not be looked at.
+// Memory between two pages that cannot be read.
 class GuardedPage {
  public:
   GuardedPage() {

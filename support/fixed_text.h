@@ -12,20 +12,20 @@
 
 namespace quillon {
 
-/// At most `Capacity` characters. Reads as a std::string_view wherever a text is looked at.
+/// At most `Capacity` characters. Reads as a std::string_view wherever a text is read.
 template <std::size_t Capacity>
 class FixedText {
  public:
   constexpr FixedText() = default;
 
-  /// Takes the first `Capacity` characters of `text`; what lies beyond them is dropped.
+  /// Takes the first `Capacity` characters of `text`; the rest is dropped.
   constexpr FixedText(std::string_view text) {  // NOLINT(google-explicit-constructor): a text is a text
     for (const char c : text.substr(0, Capacity))
       Append(c);
   }
   constexpr FixedText(const char* text) : FixedText(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
 
-  /// Adds one character; beyond the capacity nothing is added.
+  /// Adds one character; a full text stays as it is.
   constexpr void Append(char c) {
     if (size_ < Capacity) characters_[size_++] = c;
   }

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// The parts one behind the other. The memory is asked for once, where a chain of + asks again and again as the text
+/// The parts one after the other. Memory is allocated once, where a chain of + allocates again and again as the text
 /// grows; a report is some hundred such texts.
 [[nodiscard]] inline std::string Joined(std::initializer_list<std::string_view> parts) {
   std::size_t size = 0;

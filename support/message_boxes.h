@@ -28,7 +28,7 @@ class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows one message, waits for the user, and gives back the button pressed. A box that is closed answers with the
+  /// Shows one message, waits for the user, and returns the button pressed. A box that is closed answers with the
   /// button that does the least: kOk where that is its only button, kNo beside a lone kYes, otherwise kCancel.
   virtual MessageAnswer Show(const Message& message) = 0;
 };

@@ -73,8 +73,8 @@ std::string FixedText(const ScientificForm& form) {
   return text;
 }
 
-// Whether a number that has no double is too small for one, and not too large. It says so by the place of its first
-// digit that is not 0, moved by its exponent: digits and exponent may make up for each other.
+// Whether a number that has no double is too small for one, and not too large. The place of its first digit that is
+// not 0, moved by its exponent, decides: many digits and a large exponent may make up for each other.
 bool IsTooSmall(std::string_view compact) {
   const std::size_t mark = std::min(compact.find_first_of("eE"), compact.size());
   const std::size_t point = std::min(compact.find('.'), mark);
@@ -90,7 +90,7 @@ bool IsTooSmall(std::string_view compact) {
   return exponent < -place;
 }
 
-// A number of the grammar, with blanks taken out, read with the library's correctly rounding parser.
+// A number of the grammar, without its spaces, read with the library's correctly rounding parser.
 double ParseCompact(std::string_view compact) {
   const bool negative = compact.front() == '-';
   if (compact.front() == '-' || compact.front() == '+') compact.remove_prefix(1);
@@ -121,11 +121,11 @@ DigitRun ReadDigits(const char* eight) {
   std::uint64_t word = 0;
   std::memcpy(&word, eight, kDigitGroup);
   word ^= 0x3030303030303030;  // a digit becomes its value, and any other character more than 9
-  // Adding 0x76 carries 10 and more into a byte's high bit. A carry out of a byte spoils only what stands behind it.
+  // Adding 0x76 carries 10 and more into a byte's high bit. A carry out of a byte spoils only what comes after it.
   const std::uint64_t others = (word | (word + 0x7676767676767676)) & 0x8080808080808080;
   const auto count = static_cast<std::size_t>(std::countr_zero(others)) / kDigitGroup;
   if (count == 0) return {0, 0};
-  word <<= (kDigitGroup - count) * kDigitGroup;  // zeros in front take the place of what is no digit behind
+  word <<= (kDigitGroup - count) * kDigitGroup;  // leading zeros replace the characters that are not digits
   word = word * 10 + (word >> 8U);
   word = (((word & 0x000000FF000000FF) * 0x000F424000000064) +
           (((word >> 16U) & 0x000000FF000000FF) * 0x0000271000000001)) >>
@@ -155,7 +155,7 @@ PlainStart ReadPlainStart(std::string_view text) {
   return {static_cast<double>(mantissa) / kPowersOfTen[decimals], true, length};
 }
 
-// Walks a text over its blanks and gathers what belongs to its leading number.
+// Walks a text, skips its spaces and gathers what belongs to its leading number.
 class NumberScanner {
  public:
   explicit NumberScanner(std::string_view text) : text_(text) {}

@@ -27,7 +27,7 @@ namespace quillon {
 [[nodiscard]] std::string FloatNumberText(float value);
 
 /// The number at the start of a text: the longest start that reads as an optional sign, digits, an optional fraction
-/// after a point and an optional exponent. Blanks (the space character) are skipped wherever they stand; anything else
+/// after a point and an optional exponent. Spaces are skipped wherever they are; anything else
 /// ends the number, and a text with no such start gives 0. Never fails: a number beyond the range of a double gives the
 /// largest finite double with its sign, one too small gives 0.
 ///
@@ -35,12 +35,12 @@ namespace quillon {
 ///     "1e3" -> 1000      "1e" -> 1         "-.5" -> -0.5         "$5" -> 0      "" -> 0
 [[nodiscard]] double LeadingNumber(std::string_view text);
 
-/// The number at the start of what stands before the first `end` in a text, or of the whole text if it holds none:
+/// The number at the start of what comes before the first `end` in a text, or of the whole text if it holds none:
 /// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there, without looking for the cut first.
 [[nodiscard]] double LeadingNumberBefore(std::string_view text, char end);
 
-/// Whether the whole of a text is a number as people write amounts: blanks at both ends, one sign, one "$" before or
-/// behind the sign, digits with single commas between them as thousands separators, a fraction after a point, and an
+/// Whether the whole of a text is a number as people write amounts: spaces at both ends, one sign, one "$" before or
+/// after the sign, digits with single commas between them as thousands separators, a fraction after a point, and an
 /// exponent. It must hold a digit before any exponent.
 ///
 ///     true:  "150"  "$1,000.50"  "-5"  "+5"  "-$5"  "$-5"  ".5"  "5."  "1e3"  " 7 "

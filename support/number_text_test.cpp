@@ -330,7 +330,7 @@ TEST(LeadingNumberBefore, EqualsTheLeadingNumberOfTheTextCutThere) {
   }
 }
 
-// The table's own form, one digit before the point, with every byte as the end and as a character that is none.
+// The table's own form, one digit before the point, with every byte as the end and as a character that does not occur.
 TEST(LeadingNumberBefore, TellsEveryByteFromADigit) {
   constexpr std::string_view kDigits = "8785953902";
   for (std::size_t count = 0; count <= kDigits.size(); ++count) {

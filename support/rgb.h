@@ -1,7 +1,7 @@
 #pragma once
 
-// Colours as the program speaks of them: red, green and blue from 0 to 255, and the one number that stands for all
-// three where colours are compared.
+// Colours as the program uses them: red, green and blue from 0 to 255, and the one number for all three by which
+// colours are compared.
 
 #include <cstdint>
 #include <string>

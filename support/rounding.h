@@ -8,7 +8,7 @@
 namespace quillon {
 
 /// `value` rounded to `digits` decimals (0 to 15), ties to even: (62.5, 0) is 62, (0.125, 2) is 0.12. A value that is
-/// not finite comes back as it is.
+/// not finite is returned as it is.
 [[nodiscard]] double RoundTo(double value, int digits);
 
 /// `value` as a 16-bit integer, ties to even, as channel arithmetic needs it: 87.5 is 88, 120.5 is 120. A value outside

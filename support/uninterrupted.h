@@ -1,6 +1,6 @@
 #pragma once
 
-// System calls that a signal may interrupt before they have done anything. That is no failure; they are made again.
+// System calls that a signal may interrupt before they have done anything. That is not a failure; they are repeated.
 
 #include <cerrno>
 

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// Stands for bytes that are not UTF-8. No character has this number.
+/// Marks bytes that are not UTF-8. No character has this number.
 inline constexpr char32_t kNoCharacter = 0xFFFFFFFF;
 
 struct Utf8Character {

@@ -1,9 +1,9 @@
 #pragma once
 
-// The single-byte code page in which the user's files are kept. In memory every text is UTF-8; these two routines stand
-// at the boundary. Source of the table: the Unicode Consortium's mapping of Windows code page 1252, in which the five
-// unassigned bytes (81, 8D, 8F, 90, 9D) stand for the control characters of the same number, so that every byte
-// survives the way there and back.
+// The single-byte code page in which the user's files are kept. In memory every text is UTF-8; these two routines are
+// the boundary. Source of the table: the Unicode Consortium's mapping of Windows code page 1252, in which the five
+// unassigned bytes (81, 8D, 8F, 90, 9D) are the control characters of the same number, so that every byte
+// survives the round trip.
 
 #include <string>
 #include <string_view>

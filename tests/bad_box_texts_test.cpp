@@ -1,5 +1,5 @@
-// Texts that somebody types into an amount box: a table of those with a rule of their own, and random ones beside a
-// plain reader. Companion and window take them alike, and must say the same.
+// Texts that somebody types into an amount box: a table of those with a rule of their own, and random ones beside
+// the oracle. Companion and window take them alike, and must say the same.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -345,7 +345,7 @@ class BadBoxTextsInWindow : public MainFormTest {
   }
 };
 
-// Whether the window stays when it is given these texts one after the other: what ends it is looked at elsewhere.
+// Whether the window stays when it is given these texts one after the other: what ends it is tested elsewhere.
 bool Endures(const Texts& texts) {
   Texts left = texts;
   for (std::string& text : left) {

@@ -72,7 +72,7 @@ class Tally {
   std::map<std::string, int> fates_;
 };
 
-/// The input as a test can print it: what is no plain character as a number, and no more than its first part.
+/// The input as a test can print it: unprintable characters as numbers, and only its first part.
 [[nodiscard]] std::string Shown(std::string_view input);
 
 }  // namespace quillon

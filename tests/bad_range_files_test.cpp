@@ -1,4 +1,4 @@
-// Range files that are none, that are broken, or that somebody has edited by hand, in front of the real companion: a
+// Range files that are not ranges, that are broken, or that somebody has edited by hand, given to the real companion: a
 // table of files with what each must be read as, and random ones beside a plain reader.
 
 #include <algorithm>
@@ -63,7 +63,7 @@ std::string Reversed(const std::string& text) {
 struct FileCase {
   const char* Name;  // the rule, and the name of the range
   std::string File;
-  std::string Listing;  // behind the name; kNoRange where the file is pointed out as none
+  std::string Listing;  // after the name; kNoRange if the file is reported as not a range
 };
 
 std::vector<FileCase> FilesThatAreNone() {
@@ -243,7 +243,7 @@ TEST(BadRangeFiles, ThatAreRandomAreReadAsThePlainReaderReadsThem) {
   }
 }
 
-// ---- what is no file at all
+// ---- what is not a file
 
 TEST(BadRangeFiles, ThatCannotBeReadArePointedOut) {
   const TemporaryProgram program;

@@ -123,7 +123,7 @@ std::vector<std::string> LinesOf(const std::string& text) {
   return lines;
 }
 
-// How many lines of `before` are not in `after`, where the others stand in the same order: all but those of the longest
+// How many lines of `before` are not in `after`, where the others are in the same order: all but those of the longest
 // common row of lines. The last line may have got the end that it lacked.
 std::size_t LostLines(const std::string& before, const std::string& after) {
   const std::vector<std::string> kept = LinesOf(after);
@@ -156,7 +156,7 @@ struct SettingsCase {
   const char* Name;  // the rule
   std::string File;
   std::string Boxes;  // "0=100; 4=50; "
-  std::string Rest;  // behind "at"; empty for the usual
+  std::string Rest;  // after "at"; empty for the usual
   std::string Odds = "X:1, 0%";
 };
 
@@ -277,7 +277,7 @@ TEST(BadSettings, BringUpWhatIsTold) {
   }
 }
 
-// ---- what is no file at all
+// ---- what is not a file
 
 TEST(BadSettings, ThatCannotBeReadAreTheUsualOnesAndStopNothing) {
   for (const char* kind : {"folder", "circle", "nowhere"}) {

@@ -1,7 +1,7 @@
 // Whole runs of the companion as its user sees them: the real program, put into a folder with the example ranges as
 // ./run does it, started from somewhere else.
 //
-// The reports in tests/golden are what it must print, to the last character. After a change that is meant to change
+// The reports in tests/golden are what it must print, to the last character. After a change that should change
 // them, write them anew, and look at the difference before it is committed:
 //
 //     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'

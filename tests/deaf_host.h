@@ -1,7 +1,7 @@
 #pragma once
 
-// For tests: a host on this machine that drops whatever is sent to it, as one behind a wall does. A connection to it is
-// neither made nor refused.
+// For tests: a host on this machine that drops whatever is sent to it, as one behind a firewall does. A connection to
+// it is neither made nor refused.
 
 #include <arpa/inet.h>
 #include <array>
@@ -22,7 +22,7 @@ class DeafHost {
     if (!listens || getsockname(host_, Address(), &size) != 0) return;
     for (int& caller : callers_) {
       caller = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
-      static_cast<void>(connect(caller, Address(), sizeof place_));  // stays under way, which is no success
+      static_cast<void>(connect(caller, Address(), sizeof place_));  // stays in progress, which is not a success
     }
   }
   ~DeafHost() {

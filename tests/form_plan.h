@@ -1,6 +1,6 @@
 #pragma once
 
-// Where the controls of a form stand, worked out from the tables that it is built from. A journey looks up here what it
+// Where the controls of a form are, computed from the tables that it is built from. A journey looks up here what it
 // clicks and what it reads off the screen; nothing is asked of the program.
 
 #include <QPoint>

@@ -40,7 +40,7 @@ struct ProgramOutcome {
 /// kept stream without end: nothing limits what is kept.
 [[nodiscard]] ProgramOutcome RunProgram(const ProgramRun& run);
 
-/// A program that runs beside the test, and is killed with this object if it still does. Its streams are no terminals.
+/// A program that runs beside the test, and is killed with this object if it still does. Its streams are not terminals.
 class RunningProgram {
  public:
   /// std::system_error if it cannot be started.

@@ -1,5 +1,5 @@
-// Every screen and both dialogs as they look, at 100% and at 200%, against pictures that somebody has looked at. The
-// pictures at 100% are those of the documents. After a change that is meant to change them: tools/screenshots.sh
+// Every screen and both dialogs as they look, at 100% and at 200%, against pictures that somebody has checked. The
+// pictures at 100% are those of the documents. After a change that should change them: tools/screenshots.sh
 
 #include <QColor>
 #include <QImage>

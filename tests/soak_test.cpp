@@ -32,7 +32,7 @@ int Times(int everyday) {
   return everyday * std::max(SoakFactor(), 1);
 }
 
-/// Bytes that the process has asked for and not given back, but for Qt's store of drawn pictures: that fills up to its
+/// Bytes that the process has allocated and not freed, except for Qt's store of drawn pictures: that fills up to its
 /// limit of 10 MiB, and empties when nothing is drawn for a while, which never happens here.
 double BytesInUse() {
   QPixmapCache::clear();

@@ -28,7 +28,7 @@ class LoopbackWebHost {
 
   [[nodiscard]] std::uint16_t Port() const;
 
-  /// From now on this is the page at `path`, whatever the query. Where there is none the host says 404, without a text.
+  /// From now on this is the page at `path`, whatever the query. A path without a page gets status 404 and no text.
   void Put(std::string_view path, WebPage page);
 
   /// What was asked for so far, path and query, byte for byte.

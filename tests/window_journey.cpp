@@ -108,7 +108,7 @@ void WindowJourney::Fill(std::int16_t box, std::string_view text) const {
   if (!text.empty()) Session().Type(text);
 }
 
-// The mouse goes away from the open list, which would take the entry under it for the one that is meant. A list that is
+// The mouse goes away from the open list, which would otherwise select the entry under it. A list that is
 // still open when the next click comes swallows it.
 void WindowJourney::TakeFromList(std::string_view control, const std::vector<std::string>& keys) const {
   const std::size_t windows = Session().WindowCount();
@@ -194,7 +194,7 @@ bool WindowJourney::BarReaches(int percent) const {
   return Session().Color({bar.left() + bar.width() * percent / 100, bar.center().y()}) == kBarColor;
 }
 
-// The text stands in the upper half, to the right of the icon, and takes the keyboard when it is clicked.
+// The text is in the upper half, to the right of the icon, and takes the keyboard when it is clicked.
 std::string WindowJourney::MessageText(const Window& box) const {
   const int line = 18 * Session().Screen().Scale;
   Session().ClickAt({box.Place.center().x(), box.Place.top() + line});

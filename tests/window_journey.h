@@ -51,7 +51,7 @@ class WindowJourney : public testing::Test {
   void StartProgram();
   /// The same, with the example ranges in its folder.
   void StartProgramWithRanges();
-  /// Closes the main window as the window manager's user does, and waits for the end. Gives back the exit status.
+  /// Closes the main window as the window manager's user does, and waits for the end. Returns the exit status.
   int CloseProgram();
 
   [[nodiscard]] const Window& Main() const { return main_; }
@@ -67,13 +67,13 @@ class WindowJourney : public testing::Test {
   }
   [[nodiscard]] QImage Look(std::string_view control) const { return Session().Picture(OnScreen(control)); }
 
-  /// Puts a text in the place of what stands in a number box.
+  /// Replaces the text of a number box.
   void Fill(std::int16_t box, std::string_view text) const;
   /// Opens a list and takes the entry that the keys lead to.
   void TakeFromList(std::string_view control, const std::vector<std::string>& keys) const;
   /// Opens a list and takes the range of that name out of it, by the keyboard.
   void Choose(std::int16_t list, std::string_view range) const;
-  /// What stands in a number box.
+  /// The text of a number box.
   [[nodiscard]] std::string BoxText(std::int16_t box) const;
 
   // ---- whole actions

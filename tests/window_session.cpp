@@ -78,7 +78,7 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
-// The number that stands behind `title` in a listing.
+// The number after `title` in a listing.
 int NumberBehind(const std::string& listing, std::string_view title) {
   const std::size_t at = listing.find(title);
   if (at == std::string::npos) return 0;

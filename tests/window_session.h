@@ -59,7 +59,7 @@ class WindowSession {
   /// Puts the example ranges beside the executable.
   void AddExampleRanges() const;
 
-  /// Starts the program. It may be started more than once; the one that was started last is the one that is looked at.
+  /// Starts the program. It may be started more than once; the last one is the one that is watched.
   void Start(const std::vector<std::string>& arguments = {});
   [[nodiscard]] RunningProgram& Running() const { return *programs_.back(); }
 

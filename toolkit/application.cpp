@@ -79,7 +79,7 @@ void EndWithFault(const std::string& text) {
     box.exec();
     HandOverClipboard();
   }
-  // At once: handlers further out, and what they hold, belong to a program that is no more.
+  // At once: handlers further out, and what they hold, belong to a program that has ended.
   std::_Exit(EXIT_FAILURE);
 }
 

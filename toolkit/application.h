@@ -26,8 +26,8 @@ class Application : public QApplication {
 /// Tells of the fault and ends the process. With no window system to show it in, the text on standard error is all.
 [[noreturn]] void EndWithFault(const std::string& text);
 
-/// The text of the exception being handled: that of a RunTimeError as it stands; of another, the run-time error that
-/// comes nearest. Called inside a catch clause only.
+/// The text of the exception being handled: that of a RunTimeError as it is; of another, the nearest
+/// run-time error. Called inside a catch clause only.
 [[nodiscard]] std::string CurrentFaultText();
 
 }  // namespace quillon

@@ -55,7 +55,7 @@ void Control::mouseReleaseEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint())) Q_EMIT Clicked();
 }
 
-// Accepted as it is, so that a move over a control never counts as one over the frame behind it.
+// Accepted as it is, so that a move over a control never counts as one over the frame under it.
 void Control::mouseMoveEvent(QMouseEvent* /*event*/) {
   Q_EMIT MouseMoved();
 }
@@ -70,7 +70,7 @@ void Control::keyPressEvent(QKeyEvent* event) {
 }
 
 void Control::focusInEvent(QFocusEvent* event) {
-  // The keyboard brings the mark, and it comes back with the window; a mouse, or a window's first show, brings none.
+  // The keyboard shows the mark, and it returns with the window; a mouse, or a window's first show, does not.
   const Qt::FocusReason reason = event->reason();
   const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
   focusMark_ = back ? markBefore_ : reason != Qt::MouseFocusReason;

@@ -2,7 +2,7 @@
 
 // A screen as a table: one row for each control, with its name, its place in twips, its colours and its font. A form is
 // built from such rows ("toolkit/form_builder.h"), and tests and pictures of the screens walk the same ones. Of two
-// controls that overlap, the one whose row stands first lies in front.
+// controls that overlap, the one whose row comes first is in front.
 
 #include <cstdint>
 #include <span>
@@ -55,14 +55,14 @@ struct FontSpec {
   bool Underlined = false;
 };
 
-/// The index of a control that stands alone under its name.
+/// The index of a control that alone has its name.
 inline constexpr std::int16_t kNoIndex = -1;
 
 struct ControlRow {
   std::string_view Name;
   std::int16_t Index = kNoIndex;
   ControlKind Kind = ControlKind::kLabel;
-  std::string_view Text = {};  // UTF-8, lines parted by CR LF
+  std::string_view Text = {};  // UTF-8, lines separated by CR LF
   TwipRect Place = {};  // a line runs from the upper left to the lower right corner
   std::int32_t Back = kNoColor;
   std::int32_t Fore = kNoColor;  // of text; of a shape or a line, its line
@@ -84,7 +84,7 @@ struct ControlTable {
   std::span<const ControlRow> Rows;
 };
 
-/// The name by which a control is found: "txtNumber(2)", or "picLogo" where it stands alone.
+/// The name by which a control is found: "txtNumber(2)", or "picLogo" if it alone has its name.
 [[nodiscard]] std::string ObjectName(std::string_view name, std::int16_t index = kNoIndex);
 
 }  // namespace quillon

@@ -1,7 +1,7 @@
 #pragma once
 
 // The fonts of the layouts. They name fonts of another platform; where one is missing, a free font of the same measures
-// stands in. Sizes are in points of 96 dots to the inch, so they become pixels here and do not change with what the
+// replaces it. Sizes are in points of 96 dots to the inch, so they become pixels here and do not change with what the
 // screen reports of itself.
 
 #include <QFont>
@@ -13,7 +13,7 @@
 
 namespace quillon {
 
-/// The family itself, and behind it what stands in for it: Arial and MS Sans Serif have Liberation Sans, Tahoma has
+/// The family itself, then its replacement: Arial and MS Sans Serif have Liberation Sans, Tahoma has
 /// DejaVu Sans Condensed, Verdana has DejaVu Sans, Courier New has Liberation Mono.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 

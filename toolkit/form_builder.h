@@ -59,8 +59,8 @@ Kind& FormControls::Get(std::string_view name, std::int16_t index) const {
   return *control;
 }
 
-/// Builds the controls of all tables, each in its container, which stands in an earlier table. Every control gets its
-/// name and index as object name; the rows of each table are stacked so that the first lies in front.
+/// Builds the controls of all tables, each in its container, which is in an earlier table. Every control gets its
+/// name and index as object name; the rows of each table are stacked with the first in front.
 [[nodiscard]] FormControls BuildForm(QWidget& form, std::span<const ControlTable> tables);
 
 /// Builds one control more.

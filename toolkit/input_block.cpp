@@ -43,7 +43,7 @@ bool InputBlock::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-// What the mouse holds since before the block is let go, yet far away from the mouse, where that is no click.
+// What the mouse has held since before the block is released, but far from the mouse, so that it is not a click.
 bool InputBlock::TakesRelease(QObject& control, const QMouseEvent& release) {
   if (lettingGo_) return true;
   if (release.button() != Qt::LeftButton) return false;

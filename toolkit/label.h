@@ -2,9 +2,9 @@
 
 // A piece of text on a form. A label whose place has room for one line is one line: its text is never cut off or
 // wrapped, the label grows with it instead, to the right, or to where its alignment leaves room: to both sides where
-// the text is centred, to the left where it ends at the right edge. Where it would grow beyond the right edge of what
+// the text is centred, to the left where it ends at the right edge. Where it would grow past the right edge of what
 // holds it, it moves to the left as far as it must. A label with room for more wraps its text at its edges, within its
-// words where one is wider than the label, and grows downwards. The text is shown as it stands and never read as
+// words where one is wider than the label, and grows downwards. The text is shown as it is and never read as
 // mark-up.
 
 #include <QColor>

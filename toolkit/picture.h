@@ -2,7 +2,7 @@
 
 // A picture from "artwork/", drawn anew for every size and scale, so that it is as sharp on a screen of 200% as on one
 // of 100%. One that can be clicked may have a look of its own for the mouse over it and for being pressed: files of its
-// name with "_hover" and "_pressed" behind it.
+// name followed by "_hover" and "_pressed".
 
 #include <QPixmap>
 #include <QString>

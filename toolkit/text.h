@@ -1,6 +1,6 @@
 #pragma once
 
-// The border between the program's text (UTF-8, lines parted by CR LF) and Qt's (UTF-16, lines parted by LF).
+// The border between the program's text (UTF-8, lines end in CR LF) and Qt's (UTF-16, lines end in LF).
 
 #include <QString>
 #include <string>
@@ -8,10 +8,10 @@
 
 namespace quillon {
 
-/// CR LF becomes LF. Bytes that are no UTF-8 become the replacement character.
+/// CR LF becomes LF. Bytes that are not UTF-8 become the replacement character.
 [[nodiscard]] QString ToQt(std::string_view text);
 
-/// UTF-8, with each line end as it stands.
+/// UTF-8, with each line end as it is.
 [[nodiscard]] std::string FromQt(const QString& text);
 
 /// UTF-8, with LF as CR LF: the text of a box of several lines.

@@ -1,13 +1,13 @@
 #pragma once
 
-// The boards of five cards, told apart only up to a renaming of the suits.
+// The boards of five cards, up to a renaming of the suits.
 //
 // No suit outranks another, and a hand class (say AKs) holds the same hands whatever the suits are called. So boards
-// that a renaming of the suits turns into each other treat every pair of classes alike, and one of them can stand for
+// that a renaming of the suits turns into each other treat every pair of classes alike, and one of them can represent
 // all, counted as often as there are of them. That leaves 134,459 boards of C(52,5) = 2,598,960.
 //
 // A board is kept as the set of ranks it has in each suit. Renaming suits reorders the four sets, so the board that
-// stands for its class is simply the one whose sets do not ascend, and the number it stands for is the number of
+// represents its class is simply the one whose sets do not ascend, and the number it represents is the number of
 // different orders of the four sets: 4! divided by the orders of equal ones. Five cards cannot be spread evenly over
 // two or four suits, so that number is 4 (one suit and three empty ones), 12 or 24.
 
@@ -39,7 +39,7 @@ struct BoardClass {
   RankTally ranks;
   /// The ranks that the board has in each suit, greatest mask first.
   std::array<RankMask, kSuitCount> suits{};
-  /// How many boards it stands for.
+  /// How many boards it represents.
   int orbitSize = 0;
 };
 

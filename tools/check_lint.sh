@@ -44,6 +44,6 @@ fi
 
 if [ $failed -ne 0 ]; then
   grep -vE '^[0-9]+ warnings? generated|^Suppressed|^Use -header-filter' "$log" || true
-  echo "clang-tidy has findings; they stand above." >&2
+  echo "clang-tidy has findings; see above." >&2
   exit 1
 fi

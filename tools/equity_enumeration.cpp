@@ -15,14 +15,14 @@ constexpr std::size_t kVectorBytes = 64;
 constexpr std::size_t kClassLanes = 176;
 constexpr std::size_t kPartnerLanes = 32;
 
-// What can stand beside a card in a hand, suits aside: a rank, of the same suit or of another.
+// What can be beside a card in a hand, suits aside: a rank, of the same suit or of another.
 constexpr std::size_t kPartnerCount = std::size_t{2} * kRankCount;
 
 constexpr std::size_t PartnerIndex(std::size_t place, bool suited) {
   return suited ? kRankCount + place : place;
 }
 
-// Every board stands for a multiple of the least orbit; counting in that unit lets more boards into 16 bits.
+// Every board represents a multiple of the least orbit; in that unit more boards fit into 16 bits.
 constexpr int kGreatestWeight = 24 / kLeastOrbitSize;
 constexpr int kGreatestPointsPerBoard = 2 * 12 * 12;
 constexpr int kBoardsPerBatch = std::numeric_limits<std::uint16_t>::max() / (kGreatestPointsPerBoard * kGreatestWeight);

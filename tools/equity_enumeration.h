@@ -8,17 +8,17 @@
 //
 // Going through the pairs one by one would take some 10^12 comparisons. Three things make it a second's work:
 //
-// - One board stands for all that a renaming of suits makes of it (see board_classes.h).
+// - One board represents all that a renaming of suits makes of it (see board_classes.h).
 // - A board's hands are ordered once, weakest first, and met in that order while a tally is kept of what a hand of the
 //   strength now reached takes from the hands of each class: two points for every weaker one, one for every equal one.
-//   Adding the tally to the row of a hand's class counts the hand against all 1081 hands at one stroke. Hands of one
+//   Adding the tally to the row of a hand's class counts the hand against all 1081 hands at once. Hands of one
 //   class and strength go together, as a bundle (see hand_bundles.h).
 // - That also counts hands that share a card, which cannot both be held. So the same is done for every card among the
 //   46 hands that hold it, and subtracted. Two different hands share at most one card, so nothing is subtracted twice
-//   but a hand's tie with itself, which is put right on its own.
+//   but a hand's tie with itself, which is corrected separately.
 //
-// The sums of a few dozen boards fit 16 bits, of which a vector register holds many; they are gathered so and then
-// added to wider ones. The loops over them are plain, and the compiler turns them into vector code.
+// The sums of a few dozen boards fit 16 bits, of which a vector register holds many; they are collected there and then
+// added to wider sums. The loops over them are plain, and the compiler turns them into vector code.
 
 #include <array>
 #include <cstddef>
@@ -52,11 +52,11 @@ using PointTable = std::vector<std::array<std::int64_t, kClassCount>>;
 using ProgressReport = std::function<void(std::size_t done, std::size_t total)>;
 
 /// The points that each class of `rows` wins from each of the 169 classes, itself included, on all boards that `boards`
-/// stand for, over all pairs of hands that share no card with each other or the board. Rows outside `rows` stay 0, and
+/// represent, over all pairs of hands that share no card with each other or the board. Rows outside `rows` stay 0, and
 /// the counting that only they need is left out.
 ///
 /// The answer depends neither on the order of the boards nor on `threads`, which must be at least 1. It takes less time
-/// if boards of the same ranks stand side by side, as those of `AllBoardClasses` do.
+/// if boards of the same ranks are side by side, as those of `AllBoardClasses` do.
 [[nodiscard]] PointTable CountPoints(std::span<const BoardClass> boards, ClassRange rows, unsigned threads,
                                      const ProgressReport& report = {});
 

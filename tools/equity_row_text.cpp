@@ -50,7 +50,7 @@ std::size_t SecondPieceStart(std::string_view row) {
 
 using Entries = std::vector<std::string_view>;
 
-// The texts before each blank; what stands behind the last one is dropped.
+// The texts before each space; what follows the last one is dropped.
 Entries SplitRow(std::string_view row) {
   Entries entries;
   for (std::size_t blank = row.find(' '); blank != std::string_view::npos; blank = row.find(' ')) {
@@ -80,7 +80,7 @@ std::string LabelOf(std::size_t handClass) {
   return std::string(HandLabel(static_cast<std::int16_t>(handClass)));
 }
 
-// Sorts the file's rows into `rows`; answers what is wrong with it, if anything is.
+// Sorts the file's rows into `rows`; returns what is wrong with the file, if anything is.
 std::string CollectRows(const RowFile& file, std::vector<std::string>& rows) {
   std::string_view rest = file.text;
   for (std::size_t lineNumber = 1; !rest.empty(); ++lineNumber) {

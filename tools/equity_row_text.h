@@ -4,7 +4,7 @@
 // source file that the program carries ("hand/equity_rows.cpp").
 //
 // A row is the equities of one class against the 169 classes in class order, 169 numbers in the general number form
-// with one blank behind each, the last too. Above the diagonal stands the counted equity, rounded to six decimals; on
+// with one space after each, the last too. Above the diagonal is the counted equity, rounded to six decimals; on
 // it "0.5"; below it 1 minus the mirror entry, in 64-bit floating point, so that a few of these show the float's error
 // in their fifteenth digit and need an exponent ("5.37339999999999E-02").
 
@@ -48,8 +48,8 @@ struct JoinedRows {
 };
 
 /// Puts together rows that were counted apart, one a line and in any order: which class a row belongs to is told by the
-/// place of its "0.5". Nothing is let through that is not the text of a whole table: every line must be a row, no row
-/// may stand twice or be missing, and each entry below the diagonal must be the one that follows from its mirror.
+/// place of its "0.5". Only the text of a whole table is accepted: every line must be a row, no row
+/// may occur twice or be missing, and each entry below the diagonal must be the one that follows from its mirror.
 ///
 ///     problem: "part3.txt, line 2: not a row of the table"      "part3.txt, line 2: a second row of AKs"
 ///              "no row of AKs"                                  "the rows of AA and AKs do not add up to 1"

@@ -83,7 +83,7 @@ void Describe(CLI::App& app, Request& request) {
       ->excludes(rows);
 }
 
-// Shows the share done, on one line that is written over, while somebody is watching.
+// Shows the share done, on one line that is overwritten, if standard error is a terminal.
 ProgressReport MakeProgressReport() {
   if (isatty(fileno(stderr)) == 0) return {};
   return [shown = std::size_t{0}](std::size_t done, std::size_t total) mutable {
@@ -107,7 +107,7 @@ int Write(const Request& request, const std::vector<std::string>& rows) {
   }
   const std::filesystem::path path = request.out;
   std::error_code unknown;
-  // What is no file (a device, a pipe, a folder) must not be replaced by one.
+  // What is not a file (a device, a pipe, a folder) must not be replaced by one.
   if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown)) {
     return Fail(request.out + " is not a file");
   }

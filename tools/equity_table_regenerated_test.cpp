@@ -1,5 +1,5 @@
-// Holds the table that the program carries against the enumeration it came from, whole, and against a count that knows
-// no short cut, in a few places.
+// Compares the table that the program carries with the enumeration it came from, as a whole, and with a count without
+// short cuts, in a few places.
 
 #include <algorithm>
 #include <cstdint>

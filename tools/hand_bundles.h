@@ -70,8 +70,8 @@ using RankedClasses = std::array<RankedClass, kClassCount>;
 [[nodiscard]] RankedClasses RankClasses(const RankTally& boardRanks);
 
 /// Puts the bundles of all live hands of `board` into `bundles` in ascending order of strength. What was in `bundles`
-/// goes, its memory is used again. `ranked` must be `RankClasses(board.ranks)`; it is asked for because one serves all
-/// boards of the same ranks.
+/// is dropped, and its memory is reused. `ranked` must be `RankClasses(board.ranks)`; it is a parameter because one
+/// serves all boards of the same ranks.
 void BundleHands(const BoardClass& board, const RankedClasses& ranked, std::vector<HandBundle>& bundles);
 
 }  // namespace quillon

@@ -91,14 +91,14 @@ struct RankTally {
   return static_cast<RankMask>(1U << (kRankCount - 1 - card / kSuitCount));
 }
 
-/// The strength of the best five cards among five to seven whose ranks are tallied, suits left aside.
+/// The strength of the best five cards among five to seven whose ranks are tallied, ignoring suits.
 [[nodiscard]] HandStrength StrengthOfRanks(const RankTally& tally);
 
 /// The strength of the best flush or straight flush from five or more cards of one suit with these ranks.
 [[nodiscard]] HandStrength StrengthOfFlush(RankMask ranks);
 
 /// The strength of the best five among five to seven cards, given by their places in the deck (0 for "As", 51 for
-/// "2c"). No card may stand twice.
+/// "2c"). No card may occur twice.
 [[nodiscard]] HandStrength StrengthOfCards(std::span<const int> cards);
 
 /// The category that a strength belongs to.

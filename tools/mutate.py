@@ -6,7 +6,7 @@
     tools/mutate.py --folder hand     in one folder only
 
 It works on a copy of the source in build/mutation, so the source itself is never changed. A change that does not
-compile is no change, and the next one takes its place. A test that does not end is one that has noticed. Prints a line
+compile does not count, and the next one takes its place. A test that does not end has noticed. Prints a line
 for each change, those that nobody noticed once more, and the share; fails where it is below 90%.
 """
 
@@ -110,8 +110,8 @@ def drawn_place(seed, path, offset, old, _new):
     text = (ROOT / path).read_text()
     start = text.rfind("\n", 0, offset) + 1
     before = text[start:offset].lstrip()
-    behind = text[offset:text.find("\n", offset)]
-    return hashlib.sha256(repr((seed, path, before, old, behind)).encode()).hexdigest()
+    after = text[offset:text.find("\n", offset)]
+    return hashlib.sha256(repr((seed, path, before, old, after)).encode()).hexdigest()
 
 
 def try_change(copy, tree, change):
