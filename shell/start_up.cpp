@@ -1,10 +1,8 @@
 #include "shell/start_up.h"
 
-#include <vector>
+#include <string_view>
 
 #include "hand/hand_classes.h"
-#include "results/report.h"
-#include "shell/settings_file.h"
 #include "shell/version.h"
 #include "support/files.h"
 #include "support/folders.h"
@@ -13,32 +11,8 @@
 namespace quillon {
 namespace {
 
-// The screen whose design gives the window its width. The screens that have been shown are as wide as the window was.
-constexpr std::int16_t kDesignFrame = 0;
-
-void RestoreBoxTexts(StartWindow& window, const ProgramFolder& folder) {
-  for (std::int16_t index = 0; index < window.BoxCount(); ++index) {
-    const std::string text = ReadIniValue(kValuesSection, std::to_string(index), folder);
-    if (!text.empty()) window.RestoreBoxText(index, text);
-  }
-}
-
-TwipSize MainWindowSize(const StartWindow& window) {
-  const TwipRect panel = window.PanelRect();
-  return {.Width = panel.Left + panel.Width + window.FrameRect(kDesignFrame).Width, .Height = kMainWindowHeight};
-}
-
-void FillOutputTypes(StartWindow& window) {
-  for (const std::string_view text : kReportFormTexts)
-    window.AddOutputType(text);
-  window.SelectOutputType(0);
-}
-
-void FillHandList(StartWindow& window) {
-  window.AddHandEntry("None");
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    window.AddHandEntry(HandLabel(index));
-}
+// The section in which the amount boxes are kept, under their indexes.
+constexpr std::string_view kValuesSection = "Values";
 
 }  // namespace
 
@@ -46,50 +20,41 @@ std::filesystem::path SavedGridsFolderPath(const ProgramFolder& folder) {
   return folder.Path / "Saved Grids";
 }
 
-void StartUp(NavigationState& state, StartWindow& window, const ProgramFolder& folder) {
+void PrepareFolders(const ProgramFolder& folder) {
   MakeFolderIfMissing(RangeFolderPath(folder), *folder.Calls);
   MakeFolderIfMissing(SavedGridsFolderPath(folder), *folder.Calls);
   // Among the ranges there are scratch files only where the program's own folder cannot hold them.
   RemoveStaleScratchFiles(folder.Path, *folder.Calls);
   RemoveStaleScratchFiles(RangeFolderPath(folder), *folder.Calls);
-  SetAboutView(window);
-  state.SelectedNav = -1;
-  LoadStartupState(state, window, folder);
-  window.ShowWindow();
-  window.CheckForUpgrade();
-  window.LoadEquityTable();
 }
 
-void SetAboutView(StartWindow& window) {
-  const std::int16_t about = ShowFrame(kAboutScreen, window);
-  window.SetTitle(std::string(kApplicationTitle) + " " + VersionText());
-  window.SetRangeCountCaption(std::to_string(window.RangeEntryCount()));
-
-  const TwipRect frame = window.FrameRect(about);
-  window.SetAboutContentRect({.Left = 0, .Top = kAboutContentTop, .Width = frame.Width, .Height = frame.Height});
-  window.ShowAboutContent();
+std::string MainWindowTitle() {
+  return std::string(kApplicationTitle) + " " + VersionText();
 }
 
-void LoadStartupState(const NavigationState& state, StartWindow& window, const ProgramFolder& folder) {
-  RestoreBoxTexts(window, folder);
-  window.RefreshRangeLists();
-  window.SetResultsShown(false);
-  window.ResizeWindow(MainWindowSize(window));
-  RestoreWindowPosition(window, kMainSection, folder);
-  window.SetHoverPanelSize(window.HoverBorderSize());
-  FillOutputTypes(window);
-  ClickLogo(state, window);
-  FillHandList(window);
+TwipSize MainWindowSize(const TwipRect& panel, float screenWidth) {
+  return {.Width = panel.Left + panel.Width + screenWidth, .Height = kMainWindowHeight};
 }
 
-void CloseMainWindow(StartWindow& window, const ProgramFolder& folder) {
-  window.HideWindow();
-  // In one go: each write of its own would wait anew for another copy of the program that holds the file.
-  std::vector<IniSetting> settings = PlaceSettings(window, kMainSection);
-  for (std::int16_t index = 0; index < window.BoxCount(); ++index)
-    settings.push_back({std::string(kValuesSection), std::to_string(index), window.BoxText(index)});
-  WriteIniValues(settings, folder);
-  window.EndProcess();
+std::vector<std::string> StoredBoxTexts(std::int16_t count, const ProgramFolder& folder) {
+  std::vector<std::string> texts;
+  for (std::int16_t index = 0; index < count; ++index)
+    texts.push_back(ReadIniValue(kValuesSection, std::to_string(index), folder));
+  return texts;
+}
+
+std::vector<IniSetting> BoxTextSettings(std::span<const std::string> texts) {
+  std::vector<IniSetting> settings;
+  for (const std::string& text : texts)
+    settings.push_back({std::string(kValuesSection), std::to_string(settings.size()), text});
+  return settings;
+}
+
+std::vector<std::string> HandListEntries() {
+  std::vector<std::string> entries = {"None"};
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    entries.emplace_back(HandLabel(index));
+  return entries;
 }
 
 }  // namespace quillon

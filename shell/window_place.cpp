@@ -18,31 +18,21 @@ float WithinScreen(std::string_view text, float screenLength) {
 
 }  // namespace
 
-void CenterWindow(PlacedWindow& window) {
-  const TwipSize screen = window.ScreenSize();
-  const TwipSize size = window.WindowSize();
-  window.MoveWindow((screen.Width - size.Width) / 2, (screen.Height - size.Height) / 2);
+TwipPoint CenteredCorner(TwipSize window, TwipSize screen) {
+  return {.Left = (screen.Width - window.Width) / 2, .Top = (screen.Height - window.Height) / 2};
 }
 
-void RestoreWindowPosition(PlacedWindow& window, std::string_view section, const ProgramFolder& folder) {
+TwipPoint StoredCorner(std::string_view section, TwipSize window, TwipSize screen, const ProgramFolder& folder) {
   const std::string left = ReadIniValue(section, kLeftKey, folder);
   const std::string top = ReadIniValue(section, kTopKey, folder);
-  if (left.empty() || top.empty()) {
-    CenterWindow(window);
-    return;
-  }
-  const TwipSize screen = window.ScreenSize();
-  window.MoveWindow(WithinScreen(left, screen.Width), WithinScreen(top, screen.Height));
+  if (left.empty() || top.empty()) return CenteredCorner(window, screen);
+  return {.Left = WithinScreen(left, screen.Width), .Top = WithinScreen(top, screen.Height)};
 }
 
-std::vector<IniSetting> PlaceSettings(const PlacedWindow& window, std::string_view section) {
+std::vector<IniSetting> PlaceSettings(std::string_view section, TwipPoint corner) {
   const std::string name(section);
-  return {{name, std::string(kLeftKey), FloatNumberText(window.WindowLeft())},
-          {name, std::string(kTopKey), FloatNumberText(window.WindowTop())}};
-}
-
-void SaveWindowPosition(const PlacedWindow& window, std::string_view section, const ProgramFolder& folder) {
-  WriteIniValues(PlaceSettings(window, section), folder);
+  return {{name, std::string(kLeftKey), FloatNumberText(corner.Left)},
+          {name, std::string(kTopKey), FloatNumberText(corner.Top)}};
 }
 
 }  // namespace quillon

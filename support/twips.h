@@ -7,6 +7,13 @@ namespace quillon {
 
 inline constexpr float kTwipsPerPixel = 15;
 
+struct TwipPoint {
+  float Left = 0;
+  float Top = 0;
+
+  bool operator==(const TwipPoint&) const = default;
+};
+
 struct TwipSize {
   float Width = 0;
   float Height = 0;

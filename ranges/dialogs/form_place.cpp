@@ -15,24 +15,15 @@ TwipSize SizeInTwips(const QSize& pixels) {
 
 }  // namespace
 
-TwipSize FormPlace::WindowSize() const {
-  return SizeInTwips(form_.size());
+void RestorePlace(QWidget& form, std::string_view section, const ProgramFolder& folder) {
+  const TwipSize screen = SizeInTwips(QGuiApplication::primaryScreen()->size());
+  const TwipPoint corner = StoredCorner(section, SizeInTwips(form.size()), screen, folder);
+  form.move(PixelEdge(corner.Left), PixelEdge(corner.Top));
 }
 
-TwipSize FormPlace::ScreenSize() const {
-  return SizeInTwips(QGuiApplication::primaryScreen()->size());
-}
-
-float FormPlace::WindowLeft() const {
-  return TwipsOf(QRect(form_.pos(), QSize())).Left;
-}
-
-float FormPlace::WindowTop() const {
-  return TwipsOf(QRect(form_.pos(), QSize())).Top;
-}
-
-void FormPlace::MoveWindow(float left, float top) {
-  form_.move(PixelEdge(left), PixelEdge(top));
+std::vector<IniSetting> PlaceSettings(std::string_view section, const QWidget& form) {
+  const TwipRect place = TwipsOf(QRect(form.pos(), QSize()));
+  return PlaceSettings(section, {.Left = place.Left, .Top = place.Top});
 }
 
 }  // namespace quillon

@@ -1,25 +1,19 @@
 #pragma once
 
-// Where a form stands on the screen.
+// Where a form is on the screen ("shell/window_place.h").
 
 #include <QWidget>
+#include <string_view>
+#include <vector>
 
 #include "shell/window_place.h"
 
 namespace quillon {
 
-class FormPlace : public PlacedWindow {
- public:
-  explicit FormPlace(QWidget& form) : form_(form) {}
+/// Puts the form where it was when its place was stored, or into the middle of the screen.
+void RestorePlace(QWidget& form, std::string_view section, const ProgramFolder& folder);
 
-  [[nodiscard]] TwipSize WindowSize() const override;
-  [[nodiscard]] TwipSize ScreenSize() const override;
-  [[nodiscard]] float WindowLeft() const override;
-  [[nodiscard]] float WindowTop() const override;
-  void MoveWindow(float left, float top) override;
-
- private:
-  QWidget& form_;
-};
+/// Where the form is, as settings of that section.
+[[nodiscard]] std::vector<IniSetting> PlaceSettings(std::string_view section, const QWidget& form);
 
 }  // namespace quillon

@@ -18,8 +18,7 @@ ManagerForm::ManagerForm(DialogSurroundings surroundings)
       controls_(BuildDialog(*this, {.Title = kManagerTitle, .Size = kManagerSize, .Tables = ManagerLayout()})),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
       list_(controls_.Get<QListWidget>("lstRanges")) {
-  FormPlace place(*this);
-  RestoreWindowPosition(place, kManagerSection, around_.Folder);
+  RestorePlace(*this, kManagerSection, around_.Folder);
   OrderTabs(controls_, ManagerTabOrder());
   Bind();
 }
@@ -30,7 +29,7 @@ void ManagerForm::RefreshList() {
 
 void ManagerForm::closeEvent(QCloseEvent* event) {
   event->accept();
-  SaveWindowPosition(FormPlace(*this), kManagerSection, around_.Folder);
+  WriteIniValues(PlaceSettings(kManagerSection, *this), around_.Folder);
   Q_EMIT Closed();
 }
 

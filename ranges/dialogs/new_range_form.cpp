@@ -21,8 +21,7 @@ NewRangeForm::NewRangeForm(DialogSurroundings surroundings)
       name_(controls_.Get<TextBox>("txtRangeName")) {
   controls_.Get<QCheckBox>("chkSaveRange").setChecked(true);
 
-  FormPlace place(*this);
-  RestoreWindowPosition(place, kNewRangeSection, around_.Folder);
+  RestorePlace(*this, kNewRangeSection, around_.Folder);
   OrderTabs(controls_, NewRangeTabOrder());
   Bind();
 }
@@ -36,7 +35,7 @@ void NewRangeForm::Propose(std::span<const std::int16_t> cells) {
 
 void NewRangeForm::closeEvent(QCloseEvent* event) {
   event->accept();
-  SaveWindowPosition(FormPlace(*this), kNewRangeSection, around_.Folder);
+  WriteIniValues(PlaceSettings(kNewRangeSection, *this), around_.Folder);
   Q_EMIT Closed();
 }
 

@@ -19,11 +19,11 @@ std::string AnalysisView::SelectedRange(std::int16_t index) const {
 }
 
 void AnalysisView::ShowFrame(std::string_view name) {
-  quillon::ShowFrame(name, parts_.Screens);
+  parts_.Screens.ShowFrame(name);
 }
 
 void AnalysisView::ClickNav(std::int16_t index) {
-  quillon::ClickNav(index, parts_.Navigation, parts_.Screens);
+  parts_.ClickNav(index);
 }
 
 void AnalysisView::SetResultsShown(bool shown) {

@@ -2,11 +2,14 @@
 
 // The main window as an analysis sees it.
 
+#include <functional>
+#include <utility>
+
 #include "analysis/analysis_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_choosers.h"
 #include "results/results_window.h"
-#include "shell/navigation.h"
+#include "shell/screens/navigation_view.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
@@ -17,13 +20,13 @@ class AnalysisView : public AnalysisWindow {
     FormControls& Controls;
     const RangeChoosers& Choosers;
     FormCardGrid& Grid;
-    NavigationState& Navigation;
-    NavigationWindow& Screens;
+    NavigationView& Screens;
+    std::function<void(std::int16_t link)> ClickNav;
     ResultsWindow& Results;
     MessageBoxes& Boxes;
   };
 
-  explicit AnalysisView(const Parts& parts) : parts_(parts) {}
+  explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
 
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
   [[nodiscard]] std::string SelectedRange(std::int16_t index) const override;

@@ -8,17 +8,22 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
 #include "analysis/analysis_driver.h"
 #include "artwork/artwork.h"
+#include "hand/equity_table.h"
+#include "ranges/dialogs/form_place.h"
 #include "results/hand_line.h"
 #include "results/results_as_range.h"
 #include "results/results_grid.h"
 #include "shell/field_help.h"
 #include "shell/screens/main_layout.h"
+#include "shell/start_up.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
 #include "toolkit/twip_geometry.h"
@@ -43,6 +48,7 @@ std::int16_t ToIndex(qint16 index) {
 MainForm::MainForm(Surroundings surroundings)
     : around_(std::move(surroundings)),
       controls_(BuildMainControls(*this)),
+      navigation_(*this, controls_),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
       dialogs_(
           *this, controls_,
@@ -53,18 +59,11 @@ MainForm::MainForm(Surroundings surroundings)
       report_(controls_),
       about_(controls_, around_.Messages, around_.Inputs, around_.Clock),
       image_(*this, controls_, around_.Messages),
-      start_(*this, controls_,
-             {.RefreshRangeLists = [this] { dialogs_.RefreshLists(); },
-              .BuildReport = [this] { BuildReport(report_, state_); },
-              .SetResultsShown = [this](bool shown) { SetResultsShown(results_, shown); },
-              .RestoredBox = [this](std::int16_t index) { RestoredNumberBox(index, boxes_); },
-              .CheckForUpgrade = [this] { CheckForUpgrade(about_, around_.Web, around_.Folder); },
-              .EndProcess = around_.EndProcess}),
       analysis_({.Controls = controls_,
                  .Choosers = dialogs_.Choosers(),
                  .Grid = grid_,
-                 .Navigation = navigation_,
-                 .Screens = start_,
+                 .Screens = navigation_,
+                 .ClickNav = [this](std::int16_t link) { ClickNav(link); },
                  .Results = results_,
                  .Boxes = around_.Messages}) {
   setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
@@ -82,13 +81,79 @@ MainForm::MainForm(Surroundings surroundings)
 void MainForm::Start() {
   // The first hand that is hovered must be a new one to the panel, AA too.
   hover_.SetHoverHand({});
-  StartUp(navigation_, start_, around_.Folder);
+  PrepareFolders(around_.Folder);
+  ShowAboutContent();
+  LoadStartupState();
+  show();
+  CheckForUpgrade(about_, around_.Web, around_.Folder);
+  LoadEquityTable();
   OrderTabs();
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
   event->accept();
-  CloseMainWindow(start_, around_.Folder);
+  hide();
+  std::vector<std::string> texts;
+  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i)
+    texts.push_back(NumberBoxText(controls_, i));
+  // In one go: each write of its own would wait anew for another copy of the program that holds the file.
+  std::vector<IniSetting> settings = PlaceSettings(kMainSection, *this);
+  std::ranges::move(BoxTextSettings(texts), std::back_inserter(settings));
+  WriteIniValues(settings, around_.Folder);
+  around_.EndProcess();
+}
+
+void MainForm::ShowAboutContent() {
+  const Frame& about = navigation_.ShowFrame(kAboutScreen);
+  setWindowTitle(ToQt(MainWindowTitle()));
+  // Intentional: the list is not filled yet, so this is always 0, and it is never set again.
+  controls_.LabelAt("lblNumRanges").SetText(QString::number(controls_.Get<QComboBox>("cmboRanges", 0).count()));
+
+  Frame& content = controls_.FrameAt("frameAboutContent");
+  content.setGeometry(QRect(QPoint(0, PixelEdge(kAboutContentTop)), about.size()));
+  content.show();
+}
+
+void MainForm::LoadStartupState() {
+  RestoreBoxTexts();
+  dialogs_.RefreshLists();
+  SetResultsShown(results_, false);
+  // The first screen has the design's width still; those that have been shown are as wide as the window was.
+  const float designed = TwipsOf(controls_.FrameAt("frameContent", 0).geometry()).Width;
+  const TwipSize size = MainWindowSize(navigation_.PanelPlace(), designed);
+  setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height}).size());
+  RestorePlace(*this, kMainSection, around_.Folder);
+  controls_.FrameAt("frameHover").resize(controls_.ShapeAt("rectHov").size());
+  for (const std::string_view type : kReportFormTexts)
+    controls_.Get<QComboBox>("cmboOutputType").addItem(ToQt(type));
+  navigation_.ClickLogo();
+  auto& hands = controls_.Get<QComboBox>("cmbo169");
+  for (const std::string& entry : HandListEntries())
+    hands.addItem(ToQt(entry));
+  hands.setCurrentIndex(-1);  // none is picked yet, "None" neither
+}
+
+void MainForm::RestoreBoxTexts() {
+  std::int16_t index = 0;
+  for (const std::string& text : StoredBoxTexts(controls_.CountOf("txtNumber"), around_.Folder)) {
+    if (!text.empty()) {
+      {
+        const QSignalBlocker quiet(controls_.Get<TextBox>("txtNumber", index));
+        SetNumberBoxText(controls_, index, text);
+      }
+      RestoredNumberBox(index, boxes_);
+    }
+    ++index;
+  }
+}
+
+// "Details" always opens with a new report of the first form.
+void MainForm::ClickNav(std::int16_t link) {
+  dialogs_.RefreshLists();
+  navigation_.OpenLink(link);
+  if (link != kDetailsNav) return;
+  controls_.Get<QComboBox>("cmboOutputType").setCurrentIndex(0);
+  BuildReport(report_, state_);
 }
 
 void MainForm::OnClick(std::string_view name, std::int16_t index, std::function<void()> action) {
@@ -97,13 +162,11 @@ void MainForm::OnClick(std::string_view name, std::int16_t index, std::function<
 
 void MainForm::BindSidePanel() {
   for (std::int16_t i = 0; i < controls_.CountOf("lblNav"); ++i) {
-    OnClick("lblNav", i, [this, i] { ClickNav(i, navigation_, start_); });
-    connect(&controls_.LabelAt("lblNav", i), &Control::MouseMoved, this,
-            [this, i] { HoverNav(i, navigation_, start_); });
+    OnClick("lblNav", i, [this, i] { ClickNav(i); });
+    connect(&controls_.LabelAt("lblNav", i), &Control::MouseMoved, this, [this, i] { navigation_.HoverLink(i); });
   }
-  connect(&controls_.PictureAt("imgBack"), &Control::MouseMoved, this,
-          [this] { ResetLinkColors(navigation_, start_); });
-  OnClick("picLogo", kNoIndex, [this] { ClickLogo(navigation_, start_); });
+  connect(&controls_.PictureAt("imgBack"), &Control::MouseMoved, this, [this] { navigation_.HoverPanel(); });
+  OnClick("picLogo", kNoIndex, [this] { navigation_.ClickLogo(); });
   OnClick("lblNoResults", kNoIndex,
           [this] { ClickNoResults(FromQt(controls_.LabelAt("lblNoResults").Text()), analysis_); });
 
@@ -173,7 +236,7 @@ void MainForm::BindAbout() {
 void MainForm::BindShortcuts() {
   for (std::int16_t i = 0; i < kFirstResultsNav; ++i) {
     auto* shortcut = new QShortcut(QKeySequence(static_cast<int>(Qt::CTRL) | (Qt::Key_1 + i)), this);
-    connect(shortcut, &QShortcut::activated, this, [this, i] { ClickNav(i, navigation_, start_); });
+    connect(shortcut, &QShortcut::activated, this, [this, i] { ClickNav(i); });
   }
 }
 

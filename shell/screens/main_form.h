@@ -9,15 +9,14 @@
 #include "analysis/analysis_state.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_dialogs.h"
-#include "shell/navigation.h"
 #include "shell/screens/about_view.h"
 #include "shell/screens/analysis_view.h"
 #include "shell/screens/grid_image_view.h"
 #include "shell/screens/hover_view.h"
+#include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_view.h"
-#include "shell/screens/start_view.h"
 #include "shell/web_client.h"
 #include "toolkit/form_builder.h"
 
@@ -40,7 +39,8 @@ class MainForm : public QWidget {
 
   explicit MainForm(Surroundings surroundings);
 
-  /// The start of the program ("shell/start_up.h"). The window can be used when this returns.
+  /// The start of the program ("shell/start_up.h"). The window can be used when this returns. RunTimeError, before
+  /// anything shows, if a folder cannot be made or the ranges cannot be listed ("ranges/range_lists.h").
   void Start();
 
   [[nodiscard]] FormControls& Controls() { return controls_; }
@@ -48,9 +48,15 @@ class MainForm : public QWidget {
   [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
 
  protected:
+  /// For whatever reason the window closes: it is hidden, its place and all box texts are stored as they are, sums
+  /// unevaluated and empty boxes too, and the process ends. No other window is asked, and an analysis just stops.
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void ShowAboutContent();
+  void LoadStartupState();
+  void RestoreBoxTexts();
+  void ClickNav(std::int16_t link);
   void BindSidePanel();
   void BindScreens();
   void BindNumberBoxes();
@@ -64,7 +70,7 @@ class MainForm : public QWidget {
   Surroundings around_;
   FormControls controls_;
   AnalysisState state_;
-  NavigationState navigation_;
+  NavigationView navigation_;
   FormCardGrid grid_;
   RangeDialogs dialogs_;
   ResultsView results_;
@@ -73,7 +79,6 @@ class MainForm : public QWidget {
   ReportView report_;
   AboutView about_;
   GridImageView image_;
-  StartView start_;
   AnalysisView analysis_;
   std::string imageName_;  // of the grid image that was saved last
 };

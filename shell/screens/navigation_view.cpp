@@ -1,0 +1,98 @@
+#include "shell/screens/navigation_view.h"
+
+#include <string>
+
+#include "support/run_time_error.h"
+#include "toolkit/colors.h"
+#include "toolkit/text.h"
+#include "toolkit/text_box.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::string_view kScreenName = "frameContent";
+constexpr std::string_view kNavName = "lblNav";
+
+Frame& ScreenOfName(const FormControls& controls, std::string_view name) {
+  for (std::int16_t index = 0; index < controls.CountOf(kScreenName); ++index) {
+    Frame& screen = controls.FrameAt(kScreenName, index);
+    if (FromQt(screen.Caption()) == name) return screen;
+  }
+  throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "no screen is called " + std::string(name));
+}
+
+// Whoever was busy on a screen that goes away is done there; left to itself, the focus would go to a neighbour.
+void HideScreen(Frame& screen, const QWidget& form) {
+  QWidget* busy = form.focusWidget();
+  if (busy != nullptr && screen.isAncestorOf(busy)) {
+    busy->clearFocus();
+    // With another program in front there is no focus to lose, and the box is left all the same.
+    if (auto* box = qobject_cast<TextBox*>(busy)) box->Leave();
+  }
+  screen.hide();
+}
+
+}  // namespace
+
+TwipRect NavigationView::PanelPlace() const {
+  return TwipsOf(controls_.PictureAt("imgBack").geometry());
+}
+
+Frame& NavigationView::ShowFrame(std::string_view name) {
+  Frame& shown = ScreenOfName(controls_, name);
+  for (std::int16_t index = 0; index < controls_.CountOf(kScreenName); ++index) {
+    Frame& screen = controls_.FrameAt(kScreenName, index);
+    if (&screen == &shown) {
+      screen.show();
+    } else {
+      HideScreen(screen, form_);
+    }
+  }
+  form_.unsetCursor();
+  shown.setGeometry(PixelPlace(ScreenPlace(PanelPlace(), TwipsOf(form_.rect()).Width)));
+  shown.SetBackColor(Qt::white);
+  shown.raise();
+  return shown;
+}
+
+void NavigationView::OpenLink(std::int16_t link) {
+  const Label& label = controls_.LabelAt(kNavName, link);
+  const Frame& screen = ShowFrame(FromQt(label.Text()));
+  Shape& bar = controls_.ShapeAt("shapeBack");
+  bar.setGeometry(PixelPlace(SelectionBarPlace(TwipsOf(label.geometry()).Top, TwipsOf(screen.geometry()).Left)));
+  bar.show();
+  selected_ = link;
+  RestLinks(link);
+}
+
+void NavigationView::HoverLink(std::int16_t link) {
+  const Label& label = controls_.LabelAt(kNavName, link);
+  const LinkLook before{.Color = FromColor(label.TextColor()), .Underlined = label.HasUnderline()};
+  SetLook(link, HoveredLink(before, link == selected_));
+}
+
+void NavigationView::HoverPanel() {
+  for (std::int16_t link = 0; link < controls_.CountOf(kNavName); ++link) {
+    if (link != selected_ && !controls_.LabelAt(kNavName, link).isHidden()) SetLook(link, kLinkLeft);
+  }
+}
+
+void NavigationView::ClickLogo() {
+  controls_.PictureAt("imgBackground").hide();
+  RestLinks(kNoNav);
+  ShowFrame(kAboutScreen);
+}
+
+void NavigationView::RestLinks(std::int16_t selected) {
+  for (std::int16_t link = 0; link < controls_.CountOf(kNavName); ++link)
+    SetLook(link, RestingLink(link, link == selected));
+}
+
+void NavigationView::SetLook(std::int16_t link, const LinkLook& look) {
+  Label& label = controls_.LabelAt(kNavName, link);
+  label.SetTextColor(ToColor(look.Color));
+  label.SetUnderline(look.Underlined);
+}
+
+}  // namespace quillon
