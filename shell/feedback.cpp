@@ -1,6 +1,8 @@
 #include "shell/feedback.h"
 
+#include <cstddef>
 #include <limits>
+#include <utility>
 
 #include "results/web_addresses.h"
 #include "support/run_time_error.h"
@@ -9,6 +11,8 @@
 namespace quillon {
 namespace {
 
+constexpr std::size_t kShortestFeedback = 3;
+constexpr std::size_t kLongestFeedback = 1000;
 constexpr std::int64_t kMillisecondsPerSecond = 1000;
 
 // The counter's width decides, so that a wait over its turn fails and does not go on for seven weeks.
@@ -40,50 +44,25 @@ std::string WithCrLf(std::string_view text) {
   return result;
 }
 
-std::string TextToSend(const FeedbackWindow& window) {
-  return WithCrLf(window.FeedbackText());
-}
-
-bool Refuse(MessageBoxes& messages, std::string text) {
-  messages.Show({std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk});
-  return false;
-}
-
-bool HasFitLength(const FeedbackWindow& window, MessageBoxes& messages) {
-  const std::size_t length = Windows1252FromUtf8(TextToSend(window)).size();
-  if (length > kLongestFeedback) return Refuse(messages, "Too much feedback. Please consider sending an email.");
-  if (length < kShortestFeedback) return Refuse(messages, "Please fill out the feedback before sending.");
-  return true;
-}
-
-std::string AskForAddress(InputBoxes& inputs) {
-  std::string address = inputs.Ask("What is your email address?", kApplicationTitle, {});
-  if (address.find('@') == std::string::npos) address = kAnonymousAddress;
-  return address;
-}
-
-std::string RequestAddress(std::string_view writer, std::string_view note) {
-  return FeedbackScriptAddress() + "?email_name=" + EncodeForUrl(writer) + "&email_body=" + EncodeForUrl(note);
-}
-
-void TellOutcome(FeedbackWindow& window, bool sent) {
-  if (!sent) {
-    window.Messages().Show(
-        {"Error", "There was a problem sending your message.", MessageIcon::kStop, MessageButtons::kOk});
-    return;
-  }
-  window.SetFeedbackText({});
-  window.Messages().Show(
-      {std::string(kApplicationTitle), "Your message has been sent.", MessageIcon::kInformation, MessageButtons::kOk});
+Message Complaint(std::string text) {
+  return {std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk};
 }
 
 }  // namespace
 
-void WaitSeconds(std::int32_t seconds, WaitingRoom& room) {
-  const std::int32_t start = room.TickCount();
-  do {
-    room.Yield();
-  } while (TicksBetween(start, room.TickCount()) <= seconds * kMillisecondsPerSecond);
+std::optional<Message> FeedbackComplaint(std::string_view note) {
+  const std::size_t length = Windows1252FromUtf8(WithCrLf(note)).size();
+  if (length > kLongestFeedback) return Complaint("Too much feedback. Please consider sending an email.");
+  if (length < kShortestFeedback) return Complaint("Please fill out the feedback before sending.");
+  return std::nullopt;
+}
+
+std::string FeedbackWriter(std::string_view answer) {
+  return std::string(answer.find('@') == std::string_view::npos ? kAnonymousAddress : answer);
+}
+
+bool IsTimeToSend(std::int32_t start, std::int32_t now) {
+  return TicksBetween(start, now) > kSecondsBeforeSending * kMillisecondsPerSecond;
 }
 
 std::string EncodeForUrl(std::string_view text) {
@@ -94,16 +73,19 @@ std::string EncodeForUrl(std::string_view text) {
   return out;
 }
 
-void SendFeedback(FeedbackWindow& window, WebClient& web) {
-  if (!HasFitLength(window, window.Messages())) return;
-  const std::string writer = AskForAddress(window.Inputs());
+std::string FeedbackRequest(std::string_view writer, std::string_view note) {
+  return FeedbackScriptAddress() + "?email_name=" + EncodeForUrl(writer) +
+         "&email_body=" + EncodeForUrl(WithCrLf(note));
+}
 
-  window.SetHourglass(true);
-  WaitSeconds(kSecondsBeforeSending, window);
-  const std::string reply = web.Get(RequestAddress(writer, TextToSend(window)));
-  window.SetHourglass(false);
+bool TellsSent(std::string_view reply) {
+  return reply.find("sent") != std::string_view::npos;
+}
 
-  TellOutcome(window, reply.find("sent") != std::string::npos);
+Message FeedbackOutcome(bool sent) {
+  if (!sent) return {"Error", "There was a problem sending your message.", MessageIcon::kStop, MessageButtons::kOk};
+  return {std::string(kApplicationTitle), "Your message has been sent.", MessageIcon::kInformation,
+          MessageButtons::kOk};
 }
 
 }  // namespace quillon

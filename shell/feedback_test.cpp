@@ -1,78 +1,14 @@
 #include "shell/feedback.h"
 
-#include <deque>
-#include <functional>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <optional>
-#include <utility>
+#include <string>
 #include <vector>
 
 #include "results/web_addresses.h"
-#include "shell/recorded_web.h"
-#include "support/recorded_input.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-
-// About screen with a clock that goes on by a fixed step each time somebody looks at it.
-class RecordedFeedbackWindow final : public FeedbackWindow {
- public:
-  explicit RecordedFeedbackWindow(std::string text) : Text(std::move(text)) {}
-
-  std::int32_t TickCount() override {
-    const std::int32_t now = Now;
-    Now = static_cast<std::int32_t>(static_cast<std::uint32_t>(Now) + static_cast<std::uint32_t>(Step));
-    return now;
-  }
-  void Yield() override {
-    ++Yields;
-    if (const auto handle = std::exchange(OnYield, {})) handle();
-  }
-  [[nodiscard]] std::string FeedbackText() const override { return Text; }
-  void SetFeedbackText(std::string_view text) override { Text = text; }
-  void SetHourglass(bool shown) override { Hourglass.push_back(shown); }
-  [[nodiscard]] MessageBoxes& Messages() override { return Boxes; }
-  [[nodiscard]] InputBoxes& Inputs() override { return Questions; }
-
-  std::string Text;
-  std::int32_t Now = 1000;
-  std::int32_t Step = 1;
-  int Yields = 0;
-  std::function<void()> OnYield;  // what the user does during the first yield to come
-  std::vector<bool> Hourglass;
-  RecordedMessages Boxes;
-  RecordedInput Questions;
-};
-
-Message TooLong() {
-  return {"Quillon", "Too much feedback. Please consider sending an email.", MessageIcon::kExclamation,
-          MessageButtons::kOk};
-}
-Message TooShort() {
-  return {"Quillon", "Please fill out the feedback before sending.", MessageIcon::kExclamation, MessageButtons::kOk};
-}
-Message Sent() {
-  return {"Quillon", "Your message has been sent.", MessageIcon::kInformation, MessageButtons::kOk};
-}
-Message NotSent() {
-  return {"Error", "There was a problem sending your message.", MessageIcon::kStop, MessageButtons::kOk};
-}
-
-std::string Request(const std::string& writer, const std::string& note) {
-  return "http://" + std::string(WebHost()) + "/quillon/register/benice.php?email_name=" + writer +
-         "&email_body=" + note;
-}
-
-// "x@y" and "anonymous" of the request, worked out by hand.
-constexpr const char* kWriterCode = "%78%40%79";
-constexpr const char* kAnonymousCode = "%6E%6F%62%6F%64%79%40%71%2E%74%65%73%74";
 
 TEST(EncodeForUrl, EveryCharacterIsItsCodeWithoutLeadingZeros) {
   using namespace std::string_literals;
@@ -107,208 +43,102 @@ TEST(EncodeForUrl, EveryCharacterIsItsCodeWithoutLeadingZeros) {
     EXPECT_EQ(EncodeForUrl(c.text), c.encoded) << c.rule;
 }
 
-TEST(WaitSeconds, YieldsUntilMoreThanTheTimeHasGoneBy) {
+TEST(IsTimeToSend, IsSoAfterMoreThanFiveSeconds) {
+  constexpr std::int32_t kLast = 2147483647;
   struct Case {
     const char* rule;
-    std::int32_t seconds;
-    std::int32_t step;
-    int yields;
+    std::int32_t start;
+    std::int32_t now;
+    bool over;
   };
   const std::vector<Case> cases = {
-      {"5,000 milliseconds are not enough, 5,001 are", 5, 1, 5001},
-      {"five looks a thousand apart are not enough", 5, 1000, 6},
-      {"a clock that jumps ends it at once", 5, 60000, 1},
-      {"no time at all still yields once", 0, 1, 1},
-      {"a clock that stands when looked at again is waited for", 0, 0, 3},
+      {"5,000 milliseconds are not enough", 1000, 6000, false},
+      {"5,001 are", 1000, 6001, true},
+      {"the last tick before the turn", kLast - 5001, kLast, true},
+      {"after the turn all is well", -kLast - 1, -kLast, false},
+      {"going through 0 is no turn", -2500, 2501, true},
+      {"the longest way that 32 bits hold", -1, kLast - 1, true},
+      {"a clock that goes back has not come far", 1000, 0, false},
   };
-  for (const Case& c : cases) {
-    RecordedFeedbackWindow window("");
-    window.Step = c.step;
-    if (c.step == 0) {
-      window.OnYield = [&window] { window.OnYield = [&window] { window.OnYield = [&window] { ++window.Now; }; }; };
-    }
-    WaitSeconds(c.seconds, window);
-    EXPECT_EQ(window.Yields, c.yields) << c.rule;
-  }
+  for (const Case& c : cases)
+    EXPECT_EQ(IsTimeToSend(c.start, c.now), c.over) << c.rule;
 }
 
-std::optional<RunTimeFault> FaultOfWaiting(std::int32_t now, std::int32_t step) {
-  RecordedFeedbackWindow window("");
-  window.Now = now;
-  window.Step = step;
-  try {
-    WaitSeconds(5, window);
-  } catch (const RunTimeError& error) {
-    return error.Fault();
-  }
-  return std::nullopt;
-}
-
-TEST(WaitSeconds, CounterThatTurnsDuringTheWaitIsFatal) {
+TEST(IsTimeToSend, CounterThatTurnsIsFatal) {
   constexpr std::int32_t kLast = 2147483647;
-  EXPECT_EQ(FaultOfWaiting(kLast - 5001, 1), std::nullopt) << "ends on the last tick before the turn";
-  EXPECT_EQ(FaultOfWaiting(kLast - 5000, 1), RunTimeFault::kOverflow);
-  EXPECT_EQ(FaultOfWaiting(kLast, 1), RunTimeFault::kOverflow);
-  EXPECT_EQ(FaultOfWaiting(-kLast - 1, 1), std::nullopt) << "after the turn all is well";
-  EXPECT_EQ(FaultOfWaiting(-2500, 1), std::nullopt) << "going through 0 is no turn";
-  EXPECT_EQ(FaultOfWaiting(-1, kLast), std::nullopt) << "the longest way that 32 bits hold";
+  for (const std::int32_t start : {kLast, kLast - 5000}) {
+    try {
+      static_cast<void>(IsTimeToSend(start, -kLast - 1));
+      FAIL() << start;
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
+    }
+  }
 }
 
-TEST(SendFeedback, LengthIsFromThreeToAThousandCharacters) {
+TEST(FeedbackComplaint, LengthIsFromThreeToAThousandCharacters) {
+  const Message tooLong = {"Quillon", "Too much feedback. Please consider sending an email.", MessageIcon::kExclamation,
+                           MessageButtons::kOk};
+  const Message tooShort = {"Quillon", "Please fill out the feedback before sending.", MessageIcon::kExclamation,
+                            MessageButtons::kOk};
   struct Case {
     const char* rule;
     std::string text;
-    std::vector<Message> messages;
+    std::optional<Message> complaint;
   };
   const auto thousand = [](std::size_t tail) { return std::string(1000 - tail, 'x'); };
   const std::vector<Case> cases = {
-      {"nothing", "", {TooShort()}},
-      {"two characters do not pass", "ab", {TooShort()}},
-      {"three do", "abc", {Sent()}},
-      {"a thousand do", thousand(0), {Sent()}},
-      {"a thousand and one do not", thousand(0) + "x", {TooLong()}},
-      {"blanks count", "   ", {Sent()}},
-      {"a letter of two bytes is one character", "éé", {TooShort()}},
-      {"a thousand letters of three bytes pass", thousand(1) + "€", {Sent()}},
-      {"a character of four bytes is one character", "🂡🂡", {TooShort()}},
-      {"a line end is two characters", "a\n", {Sent()}},
-      {"however the box gives it", "a\r\n", {Sent()}},
-      {"and so makes a text too long", thousand(1) + "\n", {TooLong()}},
-      {"a line end alone is too short", "\r\n", {TooShort()}},
+      {"nothing", "", tooShort},
+      {"two characters do not pass", "ab", tooShort},
+      {"three do", "abc", {}},
+      {"a thousand do", thousand(0), {}},
+      {"a thousand and one do not", thousand(0) + "x", tooLong},
+      {"blanks count", "   ", {}},
+      {"a letter of two bytes is one character", "éé", tooShort},
+      {"a thousand letters of three bytes pass", thousand(1) + "€", {}},
+      {"a character of four bytes is one character", "🂡🂡", tooShort},
+      {"a line end is two characters", "a\n", {}},
+      {"however the box gives it", "a\r\n", {}},
+      {"and so makes a text too long", thousand(1) + "\n", tooLong},
+      {"a line end alone is too short", "\r\n", tooShort},
   };
-  for (const Case& c : cases) {
-    RecordedFeedbackWindow window(c.text);
-    RecordedWeb web({"sent"});
-    SendFeedback(window, web);
-    EXPECT_EQ(window.Boxes.Shown, c.messages) << c.rule;
-    const bool passed = c.messages.front() == Sent();
-    EXPECT_EQ(web.Asked.size(), passed ? 1U : 0U) << c.rule;
-    EXPECT_EQ(window.Questions.Asked.size(), passed ? 1U : 0U) << c.rule;
-    if (!passed) {
-      EXPECT_EQ(window.Text, c.text) << c.rule;
-      EXPECT_THAT(window.Hourglass, IsEmpty()) << c.rule;
-      EXPECT_EQ(window.Yields, 0) << c.rule;
-    }
-  }
+  for (const Case& c : cases)
+    EXPECT_EQ(FeedbackComplaint(c.text), c.complaint) << c.rule;
 }
 
-TEST(SendFeedback, AsksWhoWritesAndTakesAnAnswerWithAnAtAsItIs) {
-  struct Case {
-    const char* rule;
-    std::deque<std::string> answers;
-    const char* encoded;
-  };
-  const std::vector<Case> cases = {
-      {"an address", {"x@y"}, kWriterCode},      {"an at sign alone", {"@"}, "%40"},
-      {"blanks stay", {" x@y"}, "%20%78%40%79"}, {"no at sign", {"somebody"}, kAnonymousCode},
-      {"an empty answer", {""}, kAnonymousCode}, {"a cancelled box", {}, kAnonymousCode},
-  };
-  for (const Case& c : cases) {
-    RecordedFeedbackWindow window("abc");
-    window.Questions.Answers = c.answers;
-    RecordedWeb web({"sent"});
-    SendFeedback(window, web);
-    EXPECT_THAT(window.Questions.Asked, ElementsAre(InputQuestion{"What is your email address?", "Quillon", ""}))
-        << c.rule;
-    EXPECT_THAT(web.Asked, ElementsAre(Request(c.encoded, "%61%62%63"))) << c.rule;
-  }
+TEST(FeedbackWriter, IsAnAnswerWithAnAtAsItIs) {
+  for (const char* answer : {"x@y", "@", " x@y"})
+    EXPECT_EQ(FeedbackWriter(answer), answer);
+  for (const char* answer : {"somebody", ""})
+    EXPECT_EQ(FeedbackWriter(answer), kAnonymousAddress);
 }
 
-TEST(SendFeedback, LineEndsAreSentAsCrLf) {
-  for (const char* text : {"one\r\ntwo", "one\ntwo"}) {
-    RecordedFeedbackWindow window(text);
-    RecordedWeb web({"sent"});
-    SendFeedback(window, web);
-    EXPECT_THAT(web.Asked, ElementsAre(Request(kAnonymousCode, "%6F%6E%65%0D%0A%74%77%6F")));
-  }
-}
-
-TEST(SendFeedback, ReplyThatHoldsSentEmptiesTheBoxAndAnyOtherKeepsItsText) {
-  struct Case {
-    const char* rule;
-    std::deque<std::string> replies;
-    bool sent;
-  };
-  const std::vector<Case> cases = {
-      {"the word alone", {"sent"}, true},
-      {"the word in a page", {"<p>Your mail was sent.</p>"}, true},
-      {"the word inside another", {"Our postman is absent."}, true},
-      {"another case", {"Sent SENT"}, false},
-      {"another reply", {"sen t"}, false},
-      {"a failed request", {}, false},
-  };
-  for (const Case& c : cases) {
-    RecordedFeedbackWindow window("abc");
-    RecordedWeb web(c.replies);
-    SendFeedback(window, web);
-    EXPECT_THAT(window.Boxes.Shown, ElementsAre(c.sent ? Sent() : NotSent())) << c.rule;
-    EXPECT_EQ(window.Text, c.sent ? "" : "abc") << c.rule;
-  }
-}
-
-TEST(SendFeedback, WaitsFiveSecondsUnderTheHourglassBeforeTheRequest) {
-  RecordedFeedbackWindow window("abc");
-  window.OnYield = [&] {
-    EXPECT_THAT(window.Hourglass, ElementsAre(true));
-    EXPECT_EQ(window.Questions.Asked.size(), 1U) << "the question comes before the wait";
-  };
-  RecordedWeb web({"sent"});
-  web.WhileAsked = [&] {
-    EXPECT_EQ(window.Yields, 5001);
-    EXPECT_THAT(window.Hourglass, ElementsAre(true));
-    EXPECT_THAT(window.Boxes.Shown, IsEmpty());
-  };
-  SendFeedback(window, web);
-  EXPECT_THAT(window.Hourglass, ElementsAre(true, false));
-  EXPECT_EQ(web.Asked.size(), 1U);
-}
-
-TEST(SendFeedback, WhatTheBoxHoldsAfterTheWaitIsSentWhateverItsLength) {
-  for (const std::string& changed : {std::string("a"), std::string(), std::string(1001, 'a')}) {
-    RecordedFeedbackWindow window("abc");
-    window.OnYield = [&] { window.Text = changed; };
-    RecordedWeb web({"sent"});
-    SendFeedback(window, web);
-    EXPECT_THAT(web.Asked, ElementsAre(Request(kAnonymousCode, EncodeForUrl(changed))));
-    EXPECT_THAT(window.Boxes.Shown, ElementsAre(Sent()));
-  }
-}
-
-TEST(SendFeedback, SecondClickDuringTheWaitSendsInsideTheFirst) {
-  RecordedFeedbackWindow window("abc");
-  window.Questions.Answers = {"x@y", "@"};
-  RecordedWeb web({"no", "sent"});
-  window.OnYield = [&] {
-    SendFeedback(window, web);
-    EXPECT_THAT(window.Boxes.Shown, ElementsAre(NotSent()));
-    EXPECT_THAT(window.Hourglass, ElementsAre(true, true, false));
-  };
-  SendFeedback(window, web);
-  EXPECT_THAT(web.Asked, ElementsAre(Request("%40", "%61%62%63"), Request(kWriterCode, "%61%62%63")));
-  EXPECT_THAT(window.Boxes.Shown, ElementsAre(NotSent(), Sent()));
-}
-
-TEST(SendFeedback, SecondClickThatSendsLeavesTheFirstAnEmptyNote) {
-  RecordedFeedbackWindow window("abc");
-  RecordedWeb web({"sent", "sent"});
-  window.OnYield = [&] { SendFeedback(window, web); };
-  SendFeedback(window, web);
-  EXPECT_THAT(web.Asked, ElementsAre(Request(kAnonymousCode, "%61%62%63"), Request(kAnonymousCode, "")));
-}
-
-TEST(SendFeedback, CounterThatTurnsIsFatalAndSendsNothing) {
-  RecordedFeedbackWindow window("abc");
-  window.Now = 2147483647;
-  RecordedWeb web({"sent"});
-  EXPECT_THROW(SendFeedback(window, web), RunTimeError);
-  EXPECT_THAT(web.Asked, IsEmpty());
-  EXPECT_EQ(window.Text, "abc");
-}
-
-TEST(SendFeedback, AnonymousAddressReachesNobody) {
+TEST(FeedbackWriter, AnonymousAddressReachesNobody) {
   EXPECT_EQ(kAnonymousAddress.size(), 13U);
-  EXPECT_THAT(std::string(kAnonymousAddress), HasSubstr("@"));
+  EXPECT_NE(kAnonymousAddress.find('@'), std::string_view::npos);
   EXPECT_TRUE(kAnonymousAddress.ends_with(".test"));
+}
+
+TEST(FeedbackRequest, HasBothTextsInItsQueryAndLineEndsAsCrLf) {
+  const std::string script = "http://" + std::string(WebHost()) + "/quillon/register/benice.php";
+  EXPECT_EQ(FeedbackRequest("x@y", "abc"), script + "?email_name=%78%40%79&email_body=%61%62%63");
+  for (const char* text : {"one\r\ntwo", "one\ntwo"})
+    EXPECT_EQ(FeedbackRequest("@", text), script + "?email_name=%40&email_body=%6F%6E%65%0D%0A%74%77%6F");
+  EXPECT_EQ(FeedbackRequest("@", ""), script + "?email_name=%40&email_body=");
+}
+
+TEST(TellsSent, IsTheWordAnywhere) {
+  for (const char* reply : {"sent", "<p>Your mail was sent.</p>", "Our postman is absent."})
+    EXPECT_TRUE(TellsSent(reply)) << reply;
+  for (const char* reply : {"Sent SENT", "sen t", ""})
+    EXPECT_FALSE(TellsSent(reply)) << reply;
+}
+
+TEST(FeedbackOutcome, IsTold) {
+  EXPECT_EQ(FeedbackOutcome(true),
+            (Message{"Quillon", "Your message has been sent.", MessageIcon::kInformation, MessageButtons::kOk}));
+  EXPECT_EQ(FeedbackOutcome(false),
+            (Message{"Error", "There was a problem sending your message.", MessageIcon::kStop, MessageButtons::kOk}));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "shell/upgrade_check.h"
 
-#include <string>
-
 #include "results/web_addresses.h"
 #include "shell/settings_file.h"
 #include "shell/version.h"
@@ -20,7 +18,9 @@ constexpr std::string_view kFirstLinkCaption = "Download Upgrade";
 constexpr std::string_view kDownloadCaption = "Download latest version of Quillon";
 constexpr std::string_view kLatestCaption = "You have the latest version of Quillon";
 
-CheckBoxState StoredState(const ProgramFolder& folder) {
+}  // namespace
+
+CheckBoxState StoredUpgradeBox(const ProgramFolder& folder) {
   const std::string value = ReadIniValue(kSection, kKey, folder);
   const std::int16_t state = RoundToInt16(LeadingNumber(value));
   if (state < 0 || state > static_cast<std::int16_t>(CheckBoxState::kGrayed)) {
@@ -30,50 +30,32 @@ CheckBoxState StoredState(const ProgramFolder& folder) {
   return static_cast<CheckBoxState>(state);
 }
 
-}  // namespace
+void StoreUpgradeBox(CheckBoxState state, const ProgramFolder& folder) {
+  WriteIniValue(kSection, kKey, std::to_string(static_cast<std::int16_t>(state)), folder);
+}
 
-void CheckForUpgrade(UpgradeWindow& window, WebClient& web, const ProgramFolder& folder) {
-  const std::string version = VersionText();
-  window.SetVersionCaption(version);
-  window.SetCurrentVersionCaption("N/A");
-
-  const CheckBoxState state = StoredState(folder);
-  window.SetUpgradeBox(state);
-  if (state != CheckBoxState::kChecked) {
-    window.SetUpgradeLinkVisible(false);
-    return;
-  }
-
-  window.SetCurrentVersionCaption("Checking website...");
-  const std::string reply = web.Get(VersionFileAddress());
-  if (reply.empty()) {
-    window.SetUpgradeLinkVisible(false);
-    window.SetCurrentVersionCaption("Error Connecting");
-    return;
-  }
-
+UpgradeLook UpgradeLookOf(std::string_view reply) {
+  if (reply.empty()) return {.CurrentVersion = "Error Connecting", .Link = {}};
   const std::string latest = NumberText(LeadingNumber(reply));
-  window.SetUpgradeLinkVisible(true);
-  window.SetCurrentVersionCaption(latest);
   // The user must be able to follow the outcome, so the captions are what is compared, digit for digit.
-  const bool upToDate = LeadingNumber(version) >= LeadingNumber(latest);
-  window.SetUpgradeLinkCaption(upToDate ? kLatestCaption : kDownloadCaption);
+  const bool upToDate = LeadingNumber(VersionText()) >= LeadingNumber(latest);
+  return {.CurrentVersion = latest, .Link = upToDate ? kLatestCaption : kDownloadCaption};
 }
 
-void ClickUpgrade(UpgradeWindow& window, WebClient& web, const ProgramFolder& folder) {
-  const auto state = static_cast<std::int16_t>(window.UpgradeBox());
-  WriteIniValue(kSection, kKey, std::to_string(state), folder);
-  CheckForUpgrade(window, web, folder);
-}
-
-void ClickLink(std::string_view caption, LinkWindow& window) {
+LinkTarget TargetOfLink(std::string_view caption) {
   if (caption == kLatestCaption) {
-    window.Messages().Show(
-        {std::string(kApplicationTitle), "You're good to go!", MessageIcon::kInformation, MessageButtons::kOk});
-    return;
+    return {.Told = Message{std::string(kApplicationTitle), "You're good to go!", MessageIcon::kInformation,
+                            MessageButtons::kOk},
+            .Address = {}};
   }
   const bool leadsToDownload = caption == kFirstLinkCaption || caption == kDownloadCaption;
-  window.OpenAddress(leadsToDownload ? DownloadAddress() : std::string());
+  return {.Told = {}, .Address = leadsToDownload ? DownloadAddress() : std::string()};
+}
+
+Message NoBrowserMessage(std::string_view address) {
+  return {std::string(kApplicationTitle),
+          "No browser was found on this machine. The address is:\r\n\r\n" + std::string(address),
+          MessageIcon::kExclamation, MessageButtons::kOk};
 }
 
 }  // namespace quillon

@@ -14,10 +14,11 @@
 //     newer one exists      the number              "Download latest version of Quillon"
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "ranges/range_files.h"
-#include "shell/web_client.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
@@ -25,54 +26,40 @@ namespace quillon {
 /// The states of a check box, under their customary numbers.
 enum class CheckBoxState : std::int16_t { kUnchecked = 0, kChecked = 1, kGrayed = 2 };
 
-/// What the check needs of the About screen.
-class UpgradeWindow {
- public:
-  virtual ~UpgradeWindow() = default;
+inline constexpr std::string_view kUpgradeOffCaption = "N/A";
+inline constexpr std::string_view kUpgradeAskedCaption = "Checking website...";
 
-  virtual void SetVersionCaption(std::string_view caption) = 0;  // lblVersion
+/// The outcome of a request, as the About screen shows it.
+struct UpgradeLook {
+  std::string CurrentVersion;  // lblCurrentVersion
+  std::string_view Link;  // lblLink(3); the link is hidden where this is empty
 
-  /// `lblCurrentVersion`. The caption must be on the screen when this comes back: a request may block what follows.
-  virtual void SetCurrentVersionCaption(std::string_view caption) = 0;
-
-  /// `chkUpgrade`. Setting a state that it has not got counts as a click: ClickUpgrade runs to its end inside.
-  [[nodiscard]] virtual CheckBoxState UpgradeBox() const = 0;
-  virtual void SetUpgradeBox(CheckBoxState state) = 0;
-
-  /// `lblLink(3)`.
-  virtual void SetUpgradeLinkVisible(bool visible) = 0;
-  virtual void SetUpgradeLinkCaption(std::string_view caption) = 0;
+  bool operator==(const UpgradeLook&) const = default;
 };
 
-/// What a link of the program's needs to be followed.
-class LinkWindow {
- public:
-  virtual ~LinkWindow() = default;
+/// The state of `chkUpgrade` by the setting, whose leading number is rounded to a whole one. Where that is neither 0, 1
+/// nor 2, which is the greyed box and asks for nothing, the box cannot show it: RunTimeError "Invalid property value".
+[[nodiscard]] CheckBoxState StoredUpgradeBox(const ProgramFolder& folder);
 
-  /// Opens an address in the user's browser, or says that there is none. The empty address opens nothing.
-  virtual void OpenAddress(std::string_view address) = 0;
+/// Stores the state as a digit. It never fails ("shell/settings_file.h").
+void StoreUpgradeBox(CheckBoxState state, const ProgramFolder& folder);
 
-  [[nodiscard]] virtual MessageBoxes& Messages() = 0;
+/// What a reply of the web host says. The empty text is a request that failed, and one without a number counts as
+/// version 0.
+[[nodiscard]] UpgradeLook UpgradeLookOf(std::string_view reply);
+
+/// What a click on a link does: a message to show, or an address to open in the browser. The empty one opens nothing.
+struct LinkTarget {
+  std::optional<Message> Told;
+  std::string Address;
 };
 
-/// Shows this version, brings `chkUpgrade` to the state of the setting, and, if that is on, asks the web host for the
-/// newest version and shows the outcome. Blocks for as long as the request takes. A request that fails is told in the
-/// caption alone, and a reply without a number counts as version 0.
-///
-/// Where the box was in another state, as at a start with the setting on, ClickUpgrade runs inside and a second request
-/// follows the first. That is meant; the second result stays.
-///
-/// The setting's leading number is rounded to a whole one. Where it is neither 0, 1 nor 2, which is the greyed box and
-/// asks for nothing, the box cannot show it: RunTimeError "Invalid property value".
-void CheckForUpgrade(UpgradeWindow& window, WebClient& web, const ProgramFolder& folder);
+/// The target of `lblLink`, by the link's caption, compared exactly: "Download Upgrade" and "Download latest version of
+/// Quillon" open the download page, "You have the latest version of Quillon" shows a message, and any other opens the
+/// empty address. The tutorials' link on the grid screen is such another; it leads nowhere so far.
+[[nodiscard]] LinkTarget TargetOfLink(std::string_view caption);
 
-/// The click on `chkUpgrade`: stores the state that the box has now as a digit, at once, and runs CheckForUpgrade. A
-/// setting that cannot be written therefore brings the box back to its old state.
-void ClickUpgrade(UpgradeWindow& window, WebClient& web, const ProgramFolder& folder);
-
-/// The click on `lblLink(index)`, which goes by the link's caption, compared exactly: "Download Upgrade" and "Download
-/// latest version of Quillon" open the download page, "You have the latest version of Quillon" shows a message, and any
-/// other opens the empty address. The tutorials' link on the grid screen is such another; it leads nowhere so far.
-void ClickLink(std::string_view caption, LinkWindow& window);
+/// What the user is told where no browser opens an address.
+[[nodiscard]] Message NoBrowserMessage(std::string_view address);
 
 }  // namespace quillon

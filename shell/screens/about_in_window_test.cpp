@@ -121,6 +121,15 @@ TEST_F(UpgradeInWindow, TheLinkOfTheLatestVersionSaysSo) {
   EXPECT_EQ(opener.Opened(), "");
 }
 
+TEST_F(UpgradeInWindow, ASettingThatCannotBeWrittenBringsTheBoxBack) {
+  std::filesystem::create_directory(Program.Folder().Path / "settings.ini");
+  Start();
+  Click("chkUpgrade");
+  EXPECT_EQ(BoxState(), Qt::Unchecked);
+  EXPECT_TRUE(Web.Asked.empty());
+  ExpectOutcome("N/A", "");
+}
+
 TEST_F(UpgradeInWindow, AStateThatNoBoxHasEndsTheProgram) {
   WriteSettings("[Upgrade]\r\nAuto=3\r\n");
   EXPECT_EQ(FaultOf([this] {

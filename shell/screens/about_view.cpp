@@ -7,8 +7,12 @@
 #include <QTextDocument>
 #include <QUrl>
 #include <chrono>
+#include <optional>
 #include <utility>
 
+#include "results/web_addresses.h"
+#include "shell/feedback.h"
+#include "shell/version.h"
 #include "toolkit/browser.h"
 #include "toolkit/text.h"
 
@@ -23,27 +27,30 @@ std::int32_t SystemMilliseconds() {
   return static_cast<std::int32_t>(std::chrono::duration_cast<milliseconds>(now).count());
 }
 
-}  // namespace
-
-AboutView::AboutView(FormControls& controls, MessageBoxes& messages, InputBoxes& inputs,
-                     std::function<std::int32_t()> clock)
-    : controls_(controls),
-      messages_(messages),
-      inputs_(inputs),
-      clock_(clock ? std::move(clock) : SystemMilliseconds) {}
-
-void AboutView::SetVersionCaption(std::string_view caption) {
-  controls_.LabelAt("lblVersion").SetText(ToQt(caption));
+// The hourglass as mouse pointer over the whole program, or the default pointer again, whoever has asked for it.
+void ShowHourglass(bool shown) {
+  if (shown) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    return;
+  }
+  while (QGuiApplication::overrideCursor() != nullptr)
+    QGuiApplication::restoreOverrideCursor();
 }
 
-void AboutView::SetCurrentVersionCaption(std::string_view caption) {
-  Label& label = controls_.LabelAt("lblCurrentVersion");
-  label.SetText(ToQt(caption));
-  if (label.isVisible()) label.repaint();
+Qt::CheckState CheckStateOf(CheckBoxState state) {
+  switch (state) {
+    case CheckBoxState::kUnchecked:
+      return Qt::Unchecked;
+    case CheckBoxState::kGrayed:
+      return Qt::PartiallyChecked;
+    case CheckBoxState::kChecked:
+      break;
+  }
+  return Qt::Checked;
 }
 
-CheckBoxState AboutView::UpgradeBox() const {
-  switch (controls_.Get<QCheckBox>("chkUpgrade").checkState()) {
+CheckBoxState StateOf(const QCheckBox& box) {
+  switch (box.checkState()) {
     case Qt::Unchecked:
       return CheckBoxState::kUnchecked;
     case Qt::PartiallyChecked:
@@ -54,36 +61,62 @@ CheckBoxState AboutView::UpgradeBox() const {
   return CheckBoxState::kChecked;
 }
 
-void AboutView::SetUpgradeBox(CheckBoxState state) {
-  auto& box = controls_.Get<QCheckBox>("chkUpgrade");
-  switch (state) {
-    case CheckBoxState::kUnchecked:
-      box.setCheckState(Qt::Unchecked);
-      break;
-    case CheckBoxState::kChecked:
-      box.setCheckState(Qt::Checked);
-      break;
-    case CheckBoxState::kGrayed:
-      box.setCheckState(Qt::PartiallyChecked);
-      break;
+}  // namespace
+
+AboutView::AboutView(const FormControls& controls, Surroundings surroundings)
+    : controls_(controls), around_(std::move(surroundings)) {
+  if (!around_.Clock) around_.Clock = SystemMilliseconds;
+}
+
+void AboutView::CheckForUpgrade() {
+  Label& link = controls_.LabelAt("lblLink", kUpgradeLink);
+  controls_.LabelAt("lblVersion").SetText(ToQt(VersionText()));
+  ShowCurrentVersion(kUpgradeOffCaption);
+  const CheckBoxState state = StoredUpgradeBox(around_.Folder);
+  controls_.Get<QCheckBox>("chkUpgrade").setCheckState(CheckStateOf(state));
+  if (state != CheckBoxState::kChecked) return link.hide();
+
+  ShowCurrentVersion(kUpgradeAskedCaption);
+  const UpgradeLook look = UpgradeLookOf(around_.Web.Get(VersionFileAddress()));
+  ShowCurrentVersion(look.CurrentVersion);
+  link.setVisible(!look.Link.empty());
+  if (!look.Link.empty()) link.SetText(ToQt(look.Link));
+}
+
+void AboutView::ClickUpgrade() {
+  StoreUpgradeBox(StateOf(controls_.Get<QCheckBox>("chkUpgrade")), around_.Folder);
+  CheckForUpgrade();
+}
+
+void AboutView::ClickLink(const Label& link) {
+  const LinkTarget target = TargetOfLink(FromQt(link.Text()));
+  if (target.Told) around_.Messages.Show(*target.Told);
+  if (target.Address.empty()) return;
+  OpenInBrowser(QUrl(ToQt(target.Address)),
+                [this, address = target.Address] { around_.Messages.Show(NoBrowserMessage(address)); });
+}
+
+void AboutView::SendFeedback() {
+  if (const std::optional<Message> complaint = FeedbackComplaint(FeedbackText())) {
+    around_.Messages.Show(*complaint);
+    return;
   }
+  const std::string writer = FeedbackWriter(around_.Inputs.Ask(kAskAddress, kApplicationTitle, {}));
+
+  ShowHourglass(true);
+  WaitToSend();
+  const bool sent = TellsSent(around_.Web.Get(FeedbackRequest(writer, FeedbackText())));
+  ShowHourglass(false);
+
+  if (sent) controls_.Get<QPlainTextEdit>("txtFeedback").setPlainText({});
+  around_.Messages.Show(FeedbackOutcome(sent));
 }
 
-void AboutView::SetUpgradeLinkVisible(bool visible) {
-  controls_.LabelAt("lblLink", kUpgradeLink).setVisible(visible);
-}
-
-void AboutView::SetUpgradeLinkCaption(std::string_view caption) {
-  controls_.LabelAt("lblLink", kUpgradeLink).SetText(ToQt(caption));
-}
-
-void AboutView::OpenAddress(std::string_view address) {
-  if (address.empty()) return;
-  OpenInBrowser(QUrl(ToQt(address)), [this, text = std::string(address)] {
-    messages_.Show({.title = std::string(kApplicationTitle),
-                    .text = "No browser was found on this machine. The address is:\r\n\r\n" + text,
-                    .icon = MessageIcon::kExclamation});
-  });
+// At once on the screen: a request may block what follows.
+void AboutView::ShowCurrentVersion(std::string_view caption) {
+  Label& label = controls_.LabelAt("lblCurrentVersion");
+  label.SetText(ToQt(caption));
+  if (label.isVisible()) label.repaint();
 }
 
 std::string AboutView::FeedbackText() const {
@@ -94,21 +127,12 @@ std::string AboutView::FeedbackText() const {
   return LinesFromQt(text);
 }
 
-void AboutView::SetFeedbackText(std::string_view text) {
-  controls_.Get<QPlainTextEdit>("txtFeedback").setPlainText(ToQt(text));
-}
-
-void AboutView::SetHourglass(bool shown) {
-  if (shown) {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    return;
-  }
-  while (QGuiApplication::overrideCursor() != nullptr)
-    QGuiApplication::restoreOverrideCursor();
-}
-
-void AboutView::Yield() {
-  QCoreApplication::processEvents();
+// At full speed, and at least once: all that is pending is handled meanwhile, also the start of another wait.
+void AboutView::WaitToSend() {
+  const std::int32_t start = around_.Clock();
+  do {
+    QCoreApplication::processEvents();
+  } while (!IsTimeToSend(start, around_.Clock()));
 }
 
 }  // namespace quillon

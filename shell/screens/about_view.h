@@ -1,44 +1,65 @@
 #pragma once
 
-// The About screen: this version and the newest one, the links of the program, and the feedback box.
+// The About screen: this version and the newest one ("shell/upgrade_check.h"), the links of the program, and the
+// feedback box ("shell/feedback.h").
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
-#include "shell/feedback.h"
+#include "ranges/range_files.h"
 #include "shell/upgrade_check.h"
+#include "shell/web_client.h"
+#include "support/input_boxes.h"
+#include "support/message_boxes.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
 
-class AboutView : public UpgradeWindow, public LinkWindow, public FeedbackWindow {
+class AboutView {
  public:
-  /// `clock` gives the milliseconds that a wait is measured by; by default those of the system.
-  AboutView(FormControls& controls, MessageBoxes& messages, InputBoxes& inputs,
-            std::function<std::int32_t()> clock = {});
+  /// What the screen finds round it. All of it outlives the screen.
+  struct Surroundings {
+    ProgramFolder Folder;
+    MessageBoxes& Messages;
+    InputBoxes& Inputs;
+    WebClient& Web;
+    std::function<std::int32_t()> Clock;  // the milliseconds that a wait is measured by; none: the system's
+  };
 
-  void SetVersionCaption(std::string_view caption) override;
-  void SetCurrentVersionCaption(std::string_view caption) override;
-  [[nodiscard]] CheckBoxState UpgradeBox() const override;
-  void SetUpgradeBox(CheckBoxState state) override;
-  void SetUpgradeLinkVisible(bool visible) override;
-  void SetUpgradeLinkCaption(std::string_view caption) override;
+  AboutView(const FormControls& controls, Surroundings surroundings);
 
-  void OpenAddress(std::string_view address) override;
-  [[nodiscard]] MessageBoxes& Messages() override { return messages_; }
-  [[nodiscard]] InputBoxes& Inputs() override { return inputs_; }
+  /// Shows this version, brings `chkUpgrade` to the state of the setting, and, if that is on, asks the web host for the
+  /// newest version and shows the outcome. Blocks for as long as the request takes.
+  ///
+  /// Intentional: where the box was in another state, as at a start with the setting on, that is a click, so the same
+  /// runs inside and a second request follows the first. The second result stays.
+  ///
+  /// RunTimeError as told at StoredUpgradeBox.
+  void CheckForUpgrade();
 
-  [[nodiscard]] std::string FeedbackText() const override;
-  void SetFeedbackText(std::string_view text) override;
-  void SetHourglass(bool shown) override;
-  std::int32_t TickCount() override { return clock_(); }
-  void Yield() override;
+  /// The click on `chkUpgrade`: stores its state at once and checks. A setting that cannot be written therefore brings
+  /// the box back to its old state.
+  void ClickUpgrade();
+
+  /// The click on a link, which goes by its caption.
+  void ClickLink(const Label& link);
+
+  /// The click on `cmdSendFeedback`. A note too long or too short is refused with a message. Then the user is asked for
+  /// an address. Five seconds later, under the hourglass, the note is sent as it reads by then, whatever its length. A
+  /// reply that tells so empties the box; any other leaves the text for a second attempt. Either is told in a message.
+  ///
+  /// A second click during the five seconds runs to its end inside the first, which then goes on: both send.
+  /// RunTimeError as told at IsTimeToSend.
+  void SendFeedback();
 
  private:
-  FormControls& controls_;
-  MessageBoxes& messages_;
-  InputBoxes& inputs_;
-  std::function<std::int32_t()> clock_;
+  void ShowCurrentVersion(std::string_view caption);
+  [[nodiscard]] std::string FeedbackText() const;
+  void WaitToSend();
+
+  const FormControls& controls_;
+  Surroundings around_;
 };
 
 }  // namespace quillon

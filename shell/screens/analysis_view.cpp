@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 
 #include "results/results_grid.h"
-#include "shell/screens/number_box_view.h"
 #include "shell/screens/results_view.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -11,7 +10,7 @@
 namespace quillon {
 
 std::string AnalysisView::BoxText(std::int16_t index) const {
-  return NumberBoxText(parts_.Controls, index);
+  return parts_.Amounts.Text(index);
 }
 
 std::string AnalysisView::SelectedRange(std::int16_t index) const {

@@ -10,6 +10,7 @@
 #include "ranges/dialogs/range_choosers.h"
 #include "results/results_window.h"
 #include "shell/screens/navigation_view.h"
+#include "shell/screens/number_box_view.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
@@ -18,6 +19,7 @@ class AnalysisView : public AnalysisWindow {
  public:
   struct Parts {
     FormControls& Controls;
+    const NumberBoxView& Amounts;
     const RangeChoosers& Choosers;
     FormCardGrid& Grid;
     NavigationView& Screens;

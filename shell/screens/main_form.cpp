@@ -5,10 +5,8 @@
 #include <QComboBox>
 #include <QIcon>
 #include <QKeySequence>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -25,7 +23,6 @@
 #include "shell/screens/main_layout.h"
 #include "shell/start_up.h"
 #include "toolkit/text.h"
-#include "toolkit/text_box.h"
 #include "toolkit/twip_geometry.h"
 
 namespace quillon {
@@ -55,11 +52,16 @@ MainForm::MainForm(Surroundings surroundings)
           {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
-      boxes_(controls_, results_, around_.Messages),
+      boxes_(controls_, around_.Messages, [this] { SetResultsShown(results_, false); }),
       report_(controls_),
-      about_(controls_, around_.Messages, around_.Inputs, around_.Clock),
+      about_(controls_, {.Folder = around_.Folder,
+                         .Messages = around_.Messages,
+                         .Inputs = around_.Inputs,
+                         .Web = around_.Web,
+                         .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages),
       analysis_({.Controls = controls_,
+                 .Amounts = boxes_,
                  .Choosers = dialogs_.Choosers(),
                  .Grid = grid_,
                  .Screens = navigation_,
@@ -71,7 +73,6 @@ MainForm::MainForm(Surroundings surroundings)
   controls_.PictureAt("imgGridBack").raise();
   BindSidePanel();
   BindScreens();
-  BindNumberBoxes();
   BindGrid();
   BindDetails();
   BindAbout();
@@ -85,7 +86,7 @@ void MainForm::Start() {
   ShowAboutContent();
   LoadStartupState();
   show();
-  CheckForUpgrade(about_, around_.Web, around_.Folder);
+  about_.CheckForUpgrade();
   LoadEquityTable();
   OrderTabs();
 }
@@ -93,12 +94,9 @@ void MainForm::Start() {
 void MainForm::closeEvent(QCloseEvent* event) {
   event->accept();
   hide();
-  std::vector<std::string> texts;
-  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i)
-    texts.push_back(NumberBoxText(controls_, i));
   // In one go: each write of its own would wait anew for another copy of the program that holds the file.
   std::vector<IniSetting> settings = PlaceSettings(kMainSection, *this);
-  std::ranges::move(BoxTextSettings(texts), std::back_inserter(settings));
+  std::ranges::move(BoxTextSettings(boxes_.Texts()), std::back_inserter(settings));
   WriteIniValues(settings, around_.Folder);
   around_.EndProcess();
 }
@@ -115,7 +113,7 @@ void MainForm::ShowAboutContent() {
 }
 
 void MainForm::LoadStartupState() {
-  RestoreBoxTexts();
+  boxes_.Restore(StoredBoxTexts(controls_.CountOf("txtNumber"), around_.Folder));
   dialogs_.RefreshLists();
   SetResultsShown(results_, false);
   // The first screen has the design's width still; those that have been shown are as wide as the window was.
@@ -131,20 +129,6 @@ void MainForm::LoadStartupState() {
   for (const std::string& entry : HandListEntries())
     hands.addItem(ToQt(entry));
   hands.setCurrentIndex(-1);  // none is picked yet, "None" neither
-}
-
-void MainForm::RestoreBoxTexts() {
-  std::int16_t index = 0;
-  for (const std::string& text : StoredBoxTexts(controls_.CountOf("txtNumber"), around_.Folder)) {
-    if (!text.empty()) {
-      {
-        const QSignalBlocker quiet(controls_.Get<TextBox>("txtNumber", index));
-        SetNumberBoxText(controls_, index, text);
-      }
-      RestoredNumberBox(index, boxes_);
-    }
-    ++index;
-  }
 }
 
 // "Details" always opens with a new report of the first form.
@@ -191,16 +175,6 @@ void MainForm::BindScreens() {
   OnClick("lblStopCalc", kNoIndex, [this] { StopAnalysis(state_); });
 }
 
-void MainForm::BindNumberBoxes() {
-  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i) {
-    const auto& box = controls_.Get<TextBox>("txtNumber", i);
-    connect(&box, &TextBox::textChanged, this, [this, i] { ChangeNumberBox(i, boxes_); });
-    connect(&box, &TextBox::FocusGot, this, [this, i] { EnterNumberBox(i, boxes_); });
-    connect(&box, &TextBox::FocusLost, this, [this, i] { LeaveNumberBox(i, boxes_); });
-    connect(&box, &TextBox::EnterPressed, this, [this, i] { PressKeyInNumberBox(i, kEnterKey, boxes_); });
-  }
-}
-
 void MainForm::BindGrid() {
   connect(&grid_, &FormCardGrid::CellReached, this,
           [this](qint16 index) { ShowHandHover(ToIndex(index), state_, hover_); });
@@ -223,14 +197,14 @@ void MainForm::BindDetails() {
 
 void MainForm::BindAbout() {
   for (const std::int16_t i : {std::int16_t{0}, std::int16_t{3}}) {
-    OnClick("lblLink", i, [this, i] { ClickLink(FromQt(controls_.LabelAt("lblLink", i).Text()), about_); });
+    OnClick("lblLink", i, [this, i] { about_.ClickLink(controls_.LabelAt("lblLink", i)); });
   }
   auto& upgrade = controls_.Get<QCheckBox>("chkUpgrade");
   // A click leads out of the third state, and never into it.
   connect(&upgrade, &QCheckBox::pressed, &upgrade, [&upgrade] { upgrade.setTristate(false); });
-  connect(&upgrade, &QCheckBox::stateChanged, this, [this] { ClickUpgrade(about_, around_.Web, around_.Folder); });
+  connect(&upgrade, &QCheckBox::stateChanged, this, [this] { about_.ClickUpgrade(); });
   connect(&controls_.Get<QPushButton>("cmdSendFeedback"), &QPushButton::clicked, this,
-          [this] { SendFeedback(about_, around_.Web); });
+          [this] { about_.SendFeedback(); });
 }
 
 void MainForm::BindShortcuts() {

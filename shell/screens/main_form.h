@@ -55,11 +55,9 @@ class MainForm : public QWidget {
  private:
   void ShowAboutContent();
   void LoadStartupState();
-  void RestoreBoxTexts();
   void ClickNav(std::int16_t link);
   void BindSidePanel();
   void BindScreens();
-  void BindNumberBoxes();
   void BindGrid();
   void BindDetails();
   void BindAbout();

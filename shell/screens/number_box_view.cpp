@@ -1,43 +1,75 @@
 #include "shell/screens/number_box_view.h"
 
-#include <QLineEdit>
+#include <QSignalBlocker>
+#include <utility>
 
-#include "results/results_grid.h"
+#include "shell/expressions.h"
 #include "toolkit/text.h"
 
 namespace quillon {
 
-std::string NumberBoxView::BoxText(std::int16_t index) const {
-  return NumberBoxText(controls_, index);
+NumberBoxView::NumberBoxView(const FormControls& controls, MessageBoxes& messages, std::function<void()> hideResults)
+    : controls_(controls), messages_(messages), hideResults_(std::move(hideResults)) {
+  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i)
+    Bind(i);
 }
 
-void NumberBoxView::SetBoxText(std::int16_t index, std::string_view text) {
-  SetNumberBoxText(controls_, index, text);
+std::string NumberBoxView::Text(std::int16_t index) const {
+  return FromQt(Box(index).text());
 }
 
-void NumberBoxView::MoveCaretToEnd(std::int16_t index) {
-  controls_.Get<QLineEdit>("txtNumber", index).end(false);
+std::vector<std::string> NumberBoxView::Texts() const {
+  std::vector<std::string> texts;
+  for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i)
+    texts.push_back(Text(i));
+  return texts;
 }
 
-void NumberBoxView::SetBoxBorderWidth(std::int16_t index, int width) {
-  controls_.ShapeAt("ShapeBorder", index).SetLineWidth(width);
+void NumberBoxView::Restore(std::span<const std::string> texts) {
+  for (std::int16_t i = 0; i < static_cast<std::int16_t>(texts.size()); ++i) {
+    const std::string& text = texts[static_cast<std::size_t>(i)];
+    if (text.empty()) continue;
+    {
+      const QSignalBlocker quiet(Box(i));
+      Box(i).setText(ToQt(text));
+    }
+    hideResults_();
+    if (i == kRaiseShoveBox) ShowOdds(OddsOfRestoredBoxes);
+  }
 }
 
-void NumberBoxView::SetResultsShown(bool shown) {
-  quillon::SetResultsShown(results_, shown);
+void NumberBoxView::Bind(std::int16_t index) {
+  TextBox& box = Box(index);
+  Shape& border = controls_.ShapeAt("ShapeBorder", index);
+  QObject::connect(&box, &TextBox::textChanged, &box, [this, index] { Change(index); });
+  QObject::connect(&box, &TextBox::FocusGot, &border, [&border] { border.SetLineWidth(kFocusedBorderWidth); });
+  QObject::connect(&box, &TextBox::FocusLost, &border, [this, index, &border] {
+    border.SetLineWidth(kRestingBorderWidth);
+    WorkOut(index);
+  });
+  QObject::connect(&box, &TextBox::EnterPressed, &box, [this, index, &box] {
+    WorkOut(index);
+    box.end(false);
+  });
 }
 
-void NumberBoxView::ShowOpponentOdds(const OpponentOdds& texts) {
-  controls_.LabelAt("lblHisOdds").SetText(ToQt(texts.HisOdds));
-  controls_.LabelAt("lblHisBEP").SetText(ToQt(texts.HisBreakEven));
+void NumberBoxView::Change(std::int16_t index) {
+  hideResults_();
+  if (index == kRaiseShoveBox) ShowOdds(OddsOfBoxes);
 }
 
-std::string NumberBoxText(const FormControls& controls, std::int16_t index) {
-  return FromQt(controls.Get<QLineEdit>("txtNumber", index).text());
+void NumberBoxView::WorkOut(std::int16_t index) {
+  const std::string before = Text(index);
+  const std::string after = EvalTextBox(before, messages_);
+  // A text that stays is not set: that would count as a change and take the results away from whoever only looks in.
+  if (after != before) Box(index).setText(ToQt(after));
 }
 
-void SetNumberBoxText(FormControls& controls, std::int16_t index, std::string_view text) {
-  controls.Get<QLineEdit>("txtNumber", index).setText(ToQt(text));
+void NumberBoxView::ShowOdds(OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes)) {
+  const OpponentOdds odds =
+      oddsOf({.Pot = Text(kRaisePotBox), .Call = Text(kRaiseCallBox), .Shove = Text(kRaiseShoveBox)});
+  controls_.LabelAt("lblHisOdds").SetText(ToQt(odds.HisOdds));
+  controls_.LabelAt("lblHisBEP").SetText(ToQt(odds.HisBreakEven));
 }
 
 }  // namespace quillon

@@ -1,36 +1,43 @@
 #pragma once
 
-// The amount boxes with their borders, and the two labels that follow the last of them.
+// The amount boxes with their borders, and the two labels that follow the last of them ("shell/number_boxes.h"). An
+// index is that of a box, 0 to 4.
 
-#include "results/results_window.h"
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
 #include "shell/number_boxes.h"
+#include "support/message_boxes.h"
 #include "toolkit/form_builder.h"
+#include "toolkit/text_box.h"
 
 namespace quillon {
 
-class NumberBoxView : public NumberBoxWindow {
+class NumberBoxView {
  public:
-  NumberBoxView(FormControls& controls, ResultsWindow& results, MessageBoxes& messages)
-      : controls_(controls), results_(results), messages_(messages) {}
+  /// `hideResults` hides the links that lead to results.
+  NumberBoxView(const FormControls& controls, MessageBoxes& messages, std::function<void()> hideResults);
 
-  [[nodiscard]] std::string BoxText(std::int16_t index) const override;
-  void SetBoxText(std::int16_t index, std::string_view text) override;
-  void MoveCaretToEnd(std::int16_t index) override;
-  void SetBoxBorderWidth(std::int16_t index, int width) override;
-  void SetResultsShown(bool shown) override;
-  void ShowOpponentOdds(const OpponentOdds& texts) override;
-  [[nodiscard]] MessageBoxes& Messages() override { return messages_; }
+  /// The text of a box.
+  [[nodiscard]] std::string Text(std::int16_t index) const;
+  [[nodiscard]] std::vector<std::string> Texts() const;
+
+  /// Sets texts that the last run left; an empty one leaves its box as it is.
+  void Restore(std::span<const std::string> texts);
 
  private:
-  FormControls& controls_;
-  ResultsWindow& results_;
+  void Bind(std::int16_t index);
+  void Change(std::int16_t index);
+  void WorkOut(std::int16_t index);
+  void ShowOdds(OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes));
+  [[nodiscard]] TextBox& Box(std::int16_t index) const { return controls_.Get<TextBox>("txtNumber", index); }
+
+  const FormControls& controls_;
   MessageBoxes& messages_;
+  std::function<void()> hideResults_;
 };
-
-/// The text of `txtNumber(index)`.
-[[nodiscard]] std::string NumberBoxText(const FormControls& controls, std::int16_t index);
-
-/// Sets it, which counts as the user's typing where it is another text.
-void SetNumberBoxText(FormControls& controls, std::int16_t index, std::string_view text);
 
 }  // namespace quillon
