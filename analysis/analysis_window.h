@@ -11,6 +11,7 @@
 #include "analysis/analysis_state.h"
 #include "analysis/expected_value.h"
 #include "support/message_boxes.h"
+#include "support/number_text.h"
 
 namespace quillon {
 
@@ -24,6 +25,9 @@ class AnalysisWindow : public AmountBoxes {
  public:
   /// The text of the selected entry of `cmboRanges(index)`, the empty text if none is selected.
   [[nodiscard]] virtual std::string SelectedRange(std::int16_t index) const = 0;
+
+  /// How the user writes amounts, besides the plain way.
+  [[nodiscard]] virtual NumberMarks Marks() const { return {}; }
 
   /// Where the input checks complain.
   [[nodiscard]] virtual MessageBoxes& Messages() = 0;

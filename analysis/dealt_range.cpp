@@ -97,12 +97,16 @@ HandList BuildCombos(std::string_view dead1, std::string_view dead2) {
 HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
                    std::string_view card2, std::string& rangeText) {
   if (rangeText.empty()) rangeText = LoadRangeText(folder, rangeName);
-  if (rangeText.empty()) return {};
+  if (rangeText.empty() && rangeName.empty()) return {};
+  const std::string fileName = RangeFileName(rangeName);
+  if (rangeText.empty()) {
+    throw RunTimeError(RunTimeFault::kSubscriptOutOfRange, "the range file \"" + fileName + "\" is missing or empty");
+  }
 
   HandList hands = BuildCombos(card1, card2);
   for (HandRecord& hand : hands) {
     // Read for blocked hands too: a text that cannot be read fails whichever hands are blocked.
-    const double weight = RangeWeightOf(rangeText, hand.Label);
+    const double weight = RangeWeightOf(rangeText, hand.Label, fileName);
     if (hand.Weight != 0) hand.Weight = weight;
   }
   return hands;

@@ -188,13 +188,39 @@ TEST(DealRange, ATextAtHandIsNotReadAgain) {
   EXPECT_EQ(text, RangeWith({{"AKs", 1}}));
 }
 
-TEST(DealRange, WithoutAFileThereAreNoRecords) {
+TEST(DealRange, WithoutAChosenRangeThereAreNoRecords) {
+  const RangeFolder ranges;
+  std::string text;
+  EXPECT_THAT(DealRange(ranges.Folder(), "", "Xx", "Yy", text), SizeIs(0));
+  EXPECT_EQ(text, "");
+}
+
+TEST(DealRange, AFaultNamesTheRangesFile) {
+  struct Row {
+    const char* range;
+    const char* fault;
+  };
   const RangeFolder ranges;
   ranges.Save("Hollow", "");
-  std::string text;
-  EXPECT_THAT(DealRange(ranges.Folder(), "Missing", "Xx", "Yy", text), SizeIs(0));
-  EXPECT_THAT(DealRange(ranges.Folder(), "Hollow", "Xx", "Yy", text), SizeIs(0));
-  EXPECT_EQ(text, "");
+  ranges.Save("Broken", "AA (1");
+  for (const Row& row : {
+           Row{"Missing",
+               "Run-time error '9': Subscript out of range (the range file \"Missing.txt\" is missing or empty)"},
+           Row{"Hollow",
+               "Run-time error '9': Subscript out of range (the range file \"Hollow.txt\" is missing or empty)"},
+           Row{"Broken",
+               "Run-time error '5': Invalid procedure call or argument (the range file \"Broken.txt\" holds no weight "
+               "for "
+               "AA)"},
+       }) {
+    std::string text;
+    try {
+      static_cast<void>(DealRange(ranges.Folder(), row.range, "Xx", "Yy", text));
+      ADD_FAILURE() << row.range << " was dealt";
+    } catch (const RunTimeError& error) {
+      EXPECT_STREQ(error.what(), row.fault);
+    }
+  }
 }
 
 TEST(DealRange, ATextWithoutBracketsFailsEvenIfEveryHandIsBlocked) {

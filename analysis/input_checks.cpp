@@ -26,6 +26,7 @@ struct CallInputs {
   double Call;
   std::string PotText;
   std::string CallText;
+  NumberMarks Marks;
 };
 
 struct RaiseInputs {
@@ -37,6 +38,7 @@ struct RaiseInputs {
   std::string PotText;
   std::string CallText;
   std::string ShoveText;
+  NumberMarks Marks;
 };
 
 struct EquityInputs {
@@ -57,9 +59,9 @@ constexpr std::array<Complaint<CallInputs>, 7> kCallComplaints = {{
     {"Call Size Error", "The amount to call must be greater than zero.",
      [](const CallInputs& in) { return in.Call <= 0; }},
     {"Pot Size Error", "The pot size contains non-numeric characters",
-     [](const CallInputs& in) { return !IsNumericText(in.PotText); }},
+     [](const CallInputs& in) { return !IsNumericText(in.PotText, in.Marks); }},
     {"Call Size Error", "The call size contains non-numeric characters",
-     [](const CallInputs& in) { return !IsNumericText(in.CallText); }},
+     [](const CallInputs& in) { return !IsNumericText(in.CallText, in.Marks); }},
 }};
 
 // The title "Pot Size" over the complaint about the shove is meant, and so is the wording that differs from row to row.
@@ -75,11 +77,11 @@ constexpr std::array<Complaint<RaiseInputs>, 8> kRaiseComplaints = {{
     {"Pot Size", "The amount your opponent must call must be greater than zero.",
      [](const RaiseInputs& in) { return in.Shove <= 0; }},
     {"Pot Size", "The pot size contains non-numeric characters",
-     [](const RaiseInputs& in) { return !IsNumericText(in.PotText); }},
+     [](const RaiseInputs& in) { return !IsNumericText(in.PotText, in.Marks); }},
     {"Call Size", "The call size contains illegal characters",
-     [](const RaiseInputs& in) { return !in.CallText.empty() && !IsNumericText(in.CallText); }},
+     [](const RaiseInputs& in) { return !in.CallText.empty() && !IsNumericText(in.CallText, in.Marks); }},
     {"Shove Size", "The amount your opponent must call when you shove contains illegal characters.",
-     [](const RaiseInputs& in) { return !IsNumericText(in.ShoveText); }},
+     [](const RaiseInputs& in) { return !IsNumericText(in.ShoveText, in.Marks); }},
 }};
 
 constexpr std::array<Complaint<EquityInputs>, 2> kEquityComplaints = {{
@@ -113,15 +115,21 @@ bool CheckCallInputs(AnalysisWindow& window, const ProgramFolder& folder) {
                           GetBoxValue(window, kCallPotBox),
                           GetBoxValue(window, kCallCallBox),
                           window.BoxText(kCallPotBox),
-                          window.BoxText(kCallCallBox)};
+                          window.BoxText(kCallCallBox),
+                          window.Marks()};
   return Pass(inputs, kCallComplaints, window.Messages());
 }
 
 bool CheckRaiseInputs(AnalysisWindow& window) {
-  const RaiseInputs inputs{window.SelectedRange(kRaiseRangeList), window.SelectedRange(kRaiseCallingRangeList),
-                           GetBoxValue(window, kRaisePotBox),     GetBoxValue(window, kRaiseCallBox),
-                           GetBoxValue(window, kRaiseShoveBox),   window.BoxText(kRaisePotBox),
-                           window.BoxText(kRaiseCallBox),         window.BoxText(kRaiseShoveBox)};
+  const RaiseInputs inputs{window.SelectedRange(kRaiseRangeList),
+                           window.SelectedRange(kRaiseCallingRangeList),
+                           GetBoxValue(window, kRaisePotBox),
+                           GetBoxValue(window, kRaiseCallBox),
+                           GetBoxValue(window, kRaiseShoveBox),
+                           window.BoxText(kRaisePotBox),
+                           window.BoxText(kRaiseCallBox),
+                           window.BoxText(kRaiseShoveBox),
+                           window.Marks()};
   return Pass(inputs, kRaiseComplaints, window.Messages());
 }
 

@@ -5,8 +5,8 @@
 // and shows nothing. Nothing else changes.
 //
 // Amounts are tested for their value (GetBoxValue) before they are tested for being numbers at all (IsNumericText of
-// the raw text). So "abc" is complained of as an amount of 0, "12abc" as not numeric, and "1,000" passes as an amount
-// of 1.
+// the raw text, in the plain notation and the user's own). So "abc" is complained of as an amount of 0, "12abc" as not
+// numeric, and "1,000" passes as an amount of 1.
 
 #include "analysis/analysis_window.h"
 #include "ranges/range_files.h"

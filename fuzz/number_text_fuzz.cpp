@@ -30,6 +30,26 @@ void CheckText(std::string_view text) {
   Require(IsNumericText(text) == plain::IsNumeric(text), "a text is numeric where it has the shape of an amount");
 }
 
+void EraseOnce(std::string& text, std::string_view unwanted) {
+  if (const std::size_t place = text.find(unwanted); place != std::string::npos) text.erase(place, unwanted.size());
+}
+
+// With the marks of a German user: what is numeric without them stays so, and what they add is a number but for them.
+void CheckMarks(std::string_view text) {
+  const bool numeric = IsNumericText(text, {"€", ",", "."});
+  Require(numeric || !plain::IsNumeric(text), "marks take nothing away");
+  if (!numeric) return;
+
+  std::string rest(text);
+  for (const char* const unwanted : {"€", "\u00A0", "\u202F"})
+    EraseOnce(rest, unwanted);
+  std::erase(rest, ' ');
+  std::string swapped = rest;
+  for (char& c : swapped)
+    c = c == '.' ? ',' : c == ',' ? '.' : c;
+  Require(plain::IsNumeric(rest) || plain::IsNumeric(swapped), "a numeric text is a number but for the marks");
+}
+
 void CheckNumber(double value, std::size_t digits) {
   if (!std::isfinite(value)) {
     try {
@@ -54,6 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
   FuzzInput input(data, size);
   CheckText(input.Rest());
+  CheckMarks(input.Rest());
   const std::size_t digits = input.TakeBelow(16);
   CheckNumber(input.TakeDouble(), digits);
   return 0;

@@ -117,7 +117,7 @@ std::string GridSummary(const CellColors& cells) {
 }
 
 void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
-  const ClassWeights weights = RangeWeightsOf(LoadRangeText(folder, name));
+  const ClassWeights weights = RangeWeightsOf(LoadRangeText(folder, name), RangeFileName(name));
   for (std::size_t index = 0; index < weights.size(); ++index) {
     if (weights.at(index) == 1) cells.at(index) = kFullColor;
     if (weights.at(index) == 0.5) cells.at(index) = kHalfColor;

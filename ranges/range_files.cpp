@@ -37,7 +37,7 @@ bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem:
 
 // Joined as text: the path operator would let a name that starts with a separator replace the folder.
 std::filesystem::path PathOfBytes(const ProgramFolder& folder, std::string_view name) {
-  return RangeFolderPath(folder).string().append("/").append(name).append(".txt");
+  return RangeFolderPath(folder).string().append("/").append(RangeFileName(name));
 }
 
 }  // namespace
@@ -46,11 +46,15 @@ std::filesystem::path RangeFolderPath(const ProgramFolder& folder) {
   return folder.Path / "Ranges";
 }
 
+std::string RangeFileName(std::string_view name) {
+  return std::string(name).append(".txt");
+}
+
 std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name) {
-  const std::filesystem::path usual = PathOfBytes(folder, name);
+  std::filesystem::path usual = PathOfBytes(folder, name);
   const std::string bytes = Windows1252FromUtf8(name);
   if (bytes == name || TextOfFileName(bytes) != name || !ErrorOfFile(usual)) return usual;
-  const std::filesystem::path old = PathOfBytes(folder, bytes);
+  std::filesystem::path old = PathOfBytes(folder, bytes);
   return ErrorOfFile(old) ? usual : old;
 }
 

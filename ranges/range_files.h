@@ -22,6 +22,9 @@ struct ProgramFolder {
 /// The folder of the range files: "Ranges" in the program's folder.
 [[nodiscard]] std::filesystem::path RangeFolderPath(const ProgramFolder& folder);
 
+/// The name of a range's file, for messages: "Button" -> "Button.txt".
+[[nodiscard]] std::string RangeFileName(std::string_view name);
+
 /// The file of the range called `name`: the range folder, a separator, the name, ".txt". The name is UTF-8, as file
 /// names on disk are, and is put in as it is; the empty name gives the file ".txt". Where no such file is there but one
 /// whose name is not UTF-8 and is shown as this one (TextOfFileName), that file is meant. Names are told apart as the

@@ -8,6 +8,7 @@
 #include "support/files.h"
 #include "support/letter_case.h"
 #include "support/run_time_error.h"
+#include "support/utf8.h"
 #include "support/windows_1252.h"
 
 namespace quillon {
@@ -21,17 +22,13 @@ constexpr int kExtensionLength = 4;
                      TextOfFileName(folder.string()) + ": " + error.message());
 }
 
-bool ContinuesCharacter(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
 // Where the last four characters of a file's name begin; nothing if it has fewer.
 std::optional<std::size_t> StartOfExtension(std::string_view fileName) {
   std::size_t start = fileName.size();
   for (int taken = 0; taken < kExtensionLength; ++taken) {
     if (start == 0) return std::nullopt;
     --start;
-    while (start > 0 && ContinuesCharacter(fileName[start]))
+    while (start > 0 && !StartsUtf8Character(fileName[start]))
       --start;
   }
   return start;

@@ -17,8 +17,10 @@ constexpr std::size_t kLongestUsualEntry = 11;  // "AKs (0.5), "
 constexpr std::size_t kBetweenLabelAndNumber = 2;  // " ("
 constexpr std::string_view kEntryEnd = "), ";
 
-[[noreturn]] void FailWithoutWeight(std::string_view label) {
-  throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "the range text holds no weight for " + std::string(label));
+[[noreturn]] void FailWithoutWeight(std::string_view label, std::string_view fileName) {
+  std::string source = "the range text";
+  if (!fileName.empty()) source = "the range file \"" + std::string(fileName) + "\"";
+  throw RunTimeError(RunTimeFault::kInvalidProcedureCall, source.append(" holds no weight for ").append(label));
 }
 
 // The weight of an entry like "AKs (1)", one digit between brackets, as nearly all are; of any other, nothing. A label
@@ -73,7 +75,7 @@ double WeightShownOnGrid(double weight) {
 
 }  // namespace
 
-double RangeWeightOf(std::string_view text, std::string_view label) {
+double RangeWeightOf(std::string_view text, std::string_view label, std::string_view fileName) {
   const std::size_t found = FindText(text, label);
   if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;
 
@@ -83,14 +85,14 @@ double RangeWeightOf(std::string_view text, std::string_view label) {
   const std::size_t start =
       missing ? PlaceBehind(text, 0, length + 1) : PlaceBehind(text, found + label.size(), kBetweenLabelAndNumber);
   const std::size_t end = text.find(')', missing ? 0 : found + 1);
-  if (end == std::string_view::npos || end < start) FailWithoutWeight(label);
+  if (end == std::string_view::npos || end < start) FailWithoutWeight(label, fileName);
   return LeadingNumber(text.substr(start, end - start));
 }
 
-ClassWeights RangeWeightsOf(std::string_view text) {
+ClassWeights RangeWeightsOf(std::string_view text, std::string_view fileName) {
   ClassWeights weights{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    weights[static_cast<std::size_t>(index)] = RangeWeightOf(text, HandLabel(index));
+    weights[static_cast<std::size_t>(index)] = RangeWeightOf(text, HandLabel(index), fileName);
   return weights;
 }
 

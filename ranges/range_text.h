@@ -37,11 +37,11 @@ using ClassWeights = std::array<double, kHandClassCount>;
 /// reads 0, since its number starts at the fourth, and "(1" is none. The text is UTF-8, and characters are counted.
 ///
 /// RunTimeError "Invalid procedure call or argument" if there is no ")" behind the label, as in the empty text, or it
-/// comes before the number's place.
-[[nodiscard]] double RangeWeightOf(std::string_view text, std::string_view label);
+/// comes before the number's place. It names the file that the text is from, where one is given.
+[[nodiscard]] double RangeWeightOf(std::string_view text, std::string_view label, std::string_view fileName = {});
 
 /// The weights of all classes in a range text, each as RangeWeightOf reads it. Fails as that does.
-[[nodiscard]] ClassWeights RangeWeightsOf(std::string_view text);
+[[nodiscard]] ClassWeights RangeWeightsOf(std::string_view text, std::string_view fileName = {});
 
 /// The range text of 169 weights in class index order, each in the general number form. With weights of one character
 /// it has 1508 characters. RunTimeError "Overflow" for a weight that is not finite.

@@ -19,6 +19,10 @@ RunTimeFault FaultOfMaking(int systemError) {
 
 }  // namespace
 
+std::filesystem::path ExecutableFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
 bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
   std::string text = path.string();
   if (!text.ends_with('/')) text += '/';

@@ -2,7 +2,6 @@
 
 #include <clocale>
 #include <cwctype>
-#include <wctype.h>
 
 #include "support/utf8.h"
 

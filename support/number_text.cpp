@@ -9,7 +9,9 @@
 #include <cstring>
 #include <limits>
 
+#include "support/letter_case.h"
 #include "support/run_time_error.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
@@ -219,6 +221,80 @@ std::string WholeDigits(const ScientificForm& form, int decimals) {
   return std::to_string((mantissa + unit / 2) / unit);
 }
 
+// A blank, a no-break one, and the narrow no-break one that groups digits in French.
+constexpr std::array<std::string_view, 3> kBlanks = {" ", "\u00A0", "\u202F"};
+
+bool HasLetter(std::string_view text) {
+  while (!text.empty()) {
+    const Utf8Character first = FirstCharacter(text);
+    if (IsLetter(first.Character)) return true;
+    text.remove_prefix(first.Length);
+  }
+  return false;
+}
+
+// Takes an amount apart from its start. A mark that is empty is never there.
+class AmountScanner {
+ public:
+  AmountScanner(std::string_view text, std::string_view currency, std::string_view decimal, std::string_view group)
+      : rest_(text), currency_(currency), decimal_(decimal), group_(group) {}
+
+  bool IsAmount() {
+    bool currency = TakeCurrency();
+    const bool sign = Take("+") || Take("-");
+    if (sign && !currency) currency = TakeCurrency();
+    const bool whole = TakeDigits(true);
+    const bool fraction = Take(decimal_) && TakeDigits(false);
+    if (!whole && !fraction) return false;
+    if (Take("e") || Take("E")) {
+      if (!Take("+")) Take("-");
+      if (!TakeDigits(false)) return false;
+    }
+    if (rest_.empty()) return true;
+    TakeBlank();
+    return !currency && Take(currency_) && rest_.empty();
+  }
+
+ private:
+  bool Take(std::string_view wanted) {
+    if (wanted.empty() || !rest_.starts_with(wanted)) return false;
+    rest_.remove_prefix(wanted.size());
+    return true;
+  }
+
+  bool TakeBlank() {
+    return std::ranges::any_of(kBlanks, [this](std::string_view blank) { return Take(blank); });
+  }
+
+  bool TakeCurrency() {
+    if (!Take(currency_)) return Take("$");
+    TakeBlank();
+    return true;
+  }
+
+  bool TakeGroup() { return std::ranges::find(kBlanks, group_) != kBlanks.end() ? TakeBlank() : Take(group_); }
+
+  // A mark between groups counts between two digits alone.
+  bool TakeDigits(bool grouped) {
+    bool taken = false;
+    for (;;) {
+      const std::string_view before = rest_;
+      if (grouped && taken) TakeGroup();
+      if (rest_.empty() || !IsDigit(rest_[0])) {
+        rest_ = before;
+        return taken;
+      }
+      rest_.remove_prefix(1);
+      taken = true;
+    }
+  }
+
+  std::string_view rest_;
+  std::string_view currency_;
+  std::string_view decimal_;
+  std::string_view group_;
+};
+
 std::string GeneralForm(double value, int significantDigits) {
   if (!std::isfinite(value)) throw RunTimeError(RunTimeFault::kOverflow);
   if (value == 0) return "0";
@@ -262,38 +338,14 @@ double LeadingNumberBefore(std::string_view text, char end) {
   return LeadingNumber(text.substr(0, text.find(end)));
 }
 
-bool IsNumericText(std::string_view text) {
+bool IsNumericText(std::string_view text, const NumberMarks& marks) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return false;
   text = text.substr(first, text.find_last_not_of(' ') - first + 1);
 
-  const auto take = [&text](char wanted) {
-    if (text.empty() || text.front() != wanted) return false;
-    text.remove_prefix(1);
-    return true;
-  };
-  const auto takeDigits = [&text](bool commas) {
-    bool taken = false;
-    while (!text.empty()) {
-      const bool comma = commas && taken && text[0] == ',' && text.size() > 1 && IsDigit(text[1]);
-      if (!comma && !IsDigit(text[0])) break;
-      text.remove_prefix(comma ? 2 : 1);
-      taken = true;
-    }
-    return taken;
-  };
-
-  const bool currencySeen = take('$');
-  const bool signSeen = take('+') || take('-');
-  if (signSeen && !currencySeen) take('$');
-  const bool whole = takeDigits(true);
-  const bool fraction = take('.') && takeDigits(false);
-  if (!whole && !fraction) return false;
-  if (take('e') || take('E')) {
-    if (!take('+')) take('-');
-    if (!takeDigits(false)) return false;
-  }
-  return text.empty();
+  const std::string_view currency = HasLetter(marks.Currency) ? std::string_view() : marks.Currency;
+  return AmountScanner(text, currency, ".", ",").IsAmount() ||
+         AmountScanner(text, currency, marks.Decimal, marks.Group).IsAmount();
 }
 
 std::string PatternText(double value, int digits) {

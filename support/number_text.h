@@ -39,13 +39,25 @@ namespace quillon {
 /// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there, without looking for the cut first.
 [[nodiscard]] double LeadingNumberBefore(std::string_view text, char end);
 
+/// How amounts are written where the user lives, each mark as UTF-8 text: (€)(,)(.) in Germany. An empty one is none.
+struct NumberMarks {
+  std::string Currency;
+  std::string Decimal;
+  std::string Group;
+};
+
 /// Whether the whole of a text is a number as people write amounts: spaces at both ends, one sign, one "$" before or
 /// after the sign, digits with single commas between them as thousands separators, a fraction after a point, and an
 /// exponent. It must hold a digit before any exponent.
 ///
+/// The user's marks count as well. The currency may also follow the digits, with a space or without; one that holds a
+/// letter does not count, since letters after a number must be noticed. The other two take the places of point and
+/// comma, both or none; where digits are grouped by a space, any kind of space does it.
+///
 ///     true:  "150"  "$1,000.50"  "-5"  "+5"  "-$5"  "$-5"  ".5"  "5."  "1e3"  " 7 "
 ///     false: ""  "12abc"  "$"  "."  "1 000"  "--5"  "1.5.2"  "1.5,0"  ",5"  "5,"  "5-"  "(5)"  "=5"
-[[nodiscard]] bool IsNumericText(std::string_view text);
+///     in Germany also true:  "100 €"  "100€"  "-€5"  "1.000,50"      false:  "1.000,5.5"  "€5€"  "100 EUR"
+[[nodiscard]] bool IsNumericText(std::string_view text, const NumberMarks& marks = {});
 
 /// A number with exactly `digits` decimals (0 to 15) and at least one digit before the point: the number patterns
 /// "0.000" (digits 3) and, with the leading 0 taken off by the caller, ".00". It rounds the general form, the number as

@@ -418,6 +418,59 @@ TEST(IsNumericText, TakesAmountsAsPeopleWriteThem) {
     EXPECT_EQ(IsNumericText(c.text), c.numeric) << c.rule << ": " << c.text;
 }
 
+TEST(IsNumericText, HeedsTheUsersMarks) {
+  const NumberMarks german = {"€", ",", "."};
+  const NumberMarks french = {"€", ",", "\u202F"};
+  const NumberMarks swiss = {"CHF", ".", "’"};
+  const NumberMarks polish = {"zł", ",", "\u00A0"};
+  const NumberMarks american = {"$", ".", ","};
+  const NumberMarks brazilian = {"R$", ",", "."};
+  struct Case {
+    const char* rule;
+    NumberMarks marks;
+    const char* text;
+    bool numeric;
+  };
+  const std::vector<Case> cases = {
+      {"the currency after a blank", german, "100 €", true},
+      {"the currency right after the digits", german, "100€", true},
+      {"the currency after a no-break blank", german, "100\u00A0€", true},
+      {"the currency before the digits", german, "€100", true},
+      {"the currency and a blank before the digits", german, "€ 100", true},
+      {"the currency between sign and digits", german, "-€100", true},
+      {"a sign and the currency at the end", german, "-100 €", true},
+      {"the dollar", german, "$100", true},
+      {"both marks", german, "1.000.000,50", true},
+      {"both marks and the currency", german, " 1.000,50 € ", true},
+      {"the marks of everywhere", german, "1,000.50", true},
+      {"the marks of everywhere and the currency", german, "12.5 €", true},
+      {"an exponent", german, "1,5e3 €", true},
+      {"marks of two kinds", german, "1.000,50.5", false},
+      {"a group after the fraction", german, "1,000,000.5.5", false},
+      {"two currencies", german, "€100€", false},
+      {"two kinds of currency", german, "$100 €", false},
+      {"two blanks before the currency", german, "100  €", false},
+      {"the currency alone", german, "€", false},
+      {"the currency and the decimal mark", german, "€,", false},
+      {"the name of the currency", german, "100 EUR", false},
+      {"another currency", german, "100 £", false},
+      {"a blank that is no mark", german, "1 000", false},
+      {"blanks between groups, of any kind", french, "1 000\u00A0000\u202F000,5 €", true},
+      {"two blanks between groups", french, "1  000", false},
+      {"an apostrophe between groups", swiss, "1’000.50", true},
+      {"a currency of letters", swiss, "100 CHF", false},
+      {"a currency of letters before the digits", swiss, "CHF 100", false},
+      {"a currency of other letters", polish, "100 zł", false},
+      {"a currency with a letter", brazilian, "100 R$", false},
+      {"the dollar after the digits where it is the currency", american, "100 $", true},
+      {"the dollar before the digits where it is the currency", american, "$100", true},
+      {"the dollar twice", american, "$100$", false},
+      {"no marks", {}, "100 €", false},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(IsNumericText(c.text, c.marks), c.numeric) << c.rule << ": " << c.text;
+}
+
 struct PatternCase {
   const char* rule;
   double value;

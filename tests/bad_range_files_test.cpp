@@ -313,9 +313,10 @@ TEST_P(BadRangeInRun, EndsAsTold) {
   EXPECT_EQ(outcome.Output.empty(), !wanted.empty());
 }
 
-constexpr const char* kSubscript = "Run-time error '9': Subscript out of range\n";
+constexpr const char* kSubscript =
+    "Run-time error '9': Subscript out of range (the range file \"Bad.txt\" is missing or empty)\n";
 constexpr const char* kProcedureCall =
-    "Run-time error '5': Invalid procedure call or argument (the range text holds no weight for AA)\n";
+    "Run-time error '5': Invalid procedure call or argument (the range file \"Bad.txt\" holds no weight for AA)\n";
 constexpr const char* kTooLarge = "Run-time error '6': Overflow\n";
 
 std::vector<RunCase> Runs() {

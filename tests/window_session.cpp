@@ -121,6 +121,14 @@ std::unique_ptr<RunningProgram> WindowSession::StartBeside(const std::string& pr
   return std::make_unique<RunningProgram>(Prepare(program, arguments));
 }
 
+fs::path WindowSession::StartFromAnother(const std::string& folderName) {
+  const fs::path folder = programFolder_ / folderName;
+  fs::create_directory(folder);
+  fs::copy_file(QUILLON_PROGRAM, folder / "quillon");
+  programs_.push_back(std::make_unique<RunningProgram>(Prepare((folder / "quillon").string(), {})));
+  return folder;
+}
+
 int WindowSession::WaitForEnd() const {
   std::optional<int> status;
   const auto limit = steady_clock::now() + kLimit;

@@ -61,6 +61,9 @@ class WindowSession {
 
   /// Starts the program. It may be started more than once; the last one is the one that is watched.
   void Start(const std::vector<std::string>& arguments = {});
+
+  /// Starts it from a folder of that name in the executable's own, with a copy of the executable. Returns the folder.
+  std::filesystem::path StartFromAnother(const std::string& folderName);
   [[nodiscard]] RunningProgram& Running() const { return *programs_.back(); }
 
   /// The exit status of the program, which ends now.

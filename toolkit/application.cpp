@@ -75,7 +75,8 @@ void EndWithFault(const std::string& text) {
   std::fflush(stderr);
   if (qApp != nullptr) {
     QMessageBox box(QApplication::activeWindow());
-    FillMessageBox(box, {.title = std::string(kApplicationTitle), .text = text, .icon = MessageIcon::kStop});
+    const std::string told = text + "\r\n\r\nQuillon ends now.";
+    FillMessageBox(box, {.title = std::string(kApplicationTitle), .text = told, .icon = MessageIcon::kStop});
     box.exec();
     HandOverClipboard();
   }

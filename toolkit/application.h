@@ -23,7 +23,8 @@ class Application : public QApplication {
 /// process ends with status 1.
 [[nodiscard]] std::unique_ptr<Application> StartApplication(int& argc, char** argv);
 
-/// Tells of the fault and ends the process. With no window system to show it in, the text on standard error is all.
+/// Tells of the fault and ends the process; the box says that it does. With no window system to show it in, the text on
+/// standard error is all.
 [[noreturn]] void EndWithFault(const std::string& text);
 
 /// The text of the exception being handled: that of a RunTimeError as it is; of another, the nearest

@@ -76,8 +76,8 @@ class ApplicationEnd : public testing::Test {
 TEST_F(ApplicationEnd, OfAFaultInAHandlerIsABoxAndStatusOne) {
   EXPECT_EXIT(FailInAHandler(), ExitedWithCode(1),
               AllOf(HasSubstr("Run-time error '61': Disk full (a.txt)\n"),
-                    HasSubstr("[Quillon|3|Run-time error '61': Disk full (a.txt)]\n"), Not(HasSubstr("went on")),
-                    Not(HasSubstr("caught outside")), Not(HasSubstr("at exit"))));
+                    HasSubstr("[Quillon|3|Run-time error '61': Disk full (a.txt)\n\nQuillon ends now.]\n"),
+                    Not(HasSubstr("went on")), Not(HasSubstr("caught outside")), Not(HasSubstr("at exit"))));
 }
 
 TEST_F(ApplicationEnd, OfAFaultOutsideAHandlerIsTheSame) {
@@ -85,7 +85,8 @@ TEST_F(ApplicationEnd, OfAFaultOutsideAHandlerIsTheSame) {
     TellOfTheBox();
     EndWithFault("It is over.");
   };
-  EXPECT_EXIT(end(), ExitedWithCode(1), AllOf(HasSubstr("It is over.\n"), HasSubstr("[Quillon|3|It is over.]\n")));
+  EXPECT_EXIT(end(), ExitedWithCode(1),
+              AllOf(HasSubstr("It is over.\n"), HasSubstr("[Quillon|3|It is over.\n\nQuillon ends now.]\n")));
 }
 
 TEST(Application, LooksTheSameOnEveryDesktop) {

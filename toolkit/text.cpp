@@ -15,4 +15,8 @@ std::string LinesFromQt(const QString& text) {
   return QString(text).replace(QStringLiteral("\n"), QStringLiteral("\r\n")).toStdString();
 }
 
+NumberMarks MarksOf(const QLocale& locale) {
+  return {FromQt(locale.currencySymbol()), FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator())};
+}
+
 }  // namespace quillon

@@ -2,9 +2,12 @@
 
 // The border between the program's text (UTF-8, lines end in CR LF) and Qt's (UTF-16, lines end in LF).
 
+#include <QLocale>
 #include <QString>
 #include <string>
 #include <string_view>
+
+#include "support/number_text.h"
 
 namespace quillon {
 
@@ -16,5 +19,8 @@ namespace quillon {
 
 /// UTF-8, with LF as CR LF: the text of a box of several lines.
 [[nodiscard]] std::string LinesFromQt(const QString& text);
+
+/// How amounts are written where the locale is spoken.
+[[nodiscard]] NumberMarks MarksOf(const QLocale& locale);
 
 }  // namespace quillon

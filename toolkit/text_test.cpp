@@ -23,6 +23,14 @@ TEST(Text, GoesThereAndBackWhateverItsCharacters) {
   }
 }
 
+TEST(MarksOf, AreThoseOfTheLocale) {
+  const NumberMarks german = MarksOf(QLocale(QLocale::German, QLocale::Germany));
+  EXPECT_EQ(german.Currency + german.Decimal + german.Group, "€,.");
+  const NumberMarks american = MarksOf(QLocale(QLocale::English, QLocale::UnitedStates));
+  EXPECT_EQ(american.Currency + american.Decimal + american.Group, "$.,");
+  EXPECT_TRUE(IsNumericText("1\u202F000,50 €", MarksOf(QLocale(QLocale::French, QLocale::France))));
+}
+
 TEST(Text, BytesThatAreNoTextBecomeTheReplacementCharacter) {
   EXPECT_EQ(FromQt(ToQt("a\xFF"
                         "b")),

@@ -8,6 +8,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "support/folders.h"
 #include "support/run_time_error.h"
 #include "tools/companion.h"
 #include "tools/terminal.h"
@@ -20,9 +21,8 @@ std::string Variable(const char* name) {
 }
 
 int Run(const std::vector<std::string>& arguments) {
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
   const quillon::Surroundings surroundings{
-      std::cout, std::cerr, program.parent_path(),
+      std::cout, std::cerr, quillon::ExecutableFolder(),
       quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable)};
   const int status = quillon::RunCompanion(arguments, surroundings);
   // An answer that did not get out is no answer.

@@ -26,12 +26,14 @@ class AnalysisView : public AnalysisWindow {
     std::function<void(std::int16_t link)> ClickNav;
     ResultsWindow& Results;
     MessageBoxes& Boxes;
+    NumberMarks Marks;
   };
 
   explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
 
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
   [[nodiscard]] std::string SelectedRange(std::int16_t index) const override;
+  [[nodiscard]] NumberMarks Marks() const override { return parts_.Marks; }
   [[nodiscard]] MessageBoxes& Messages() override { return parts_.Boxes; }
   void ShowFrame(std::string_view name) override;
   void ClickNav(std::int16_t index) override;

@@ -137,6 +137,33 @@ TEST_F(ChecksInWindow, AThousandsSeparatorEndsTheValue) {
   EXPECT_EQ(Form.State().PotSize, 1);
 }
 
+// A user of German amounts.
+class GermanChecksInWindow : public testing::Test, public MainStage {
+ protected:
+  GermanChecksInWindow() : MainStage(StageClock::kHurried, {"€", ",", "."}) {}
+  void SetUp() override { Start(); }
+};
+
+TEST_F(GermanChecksInWindow, TheUsersMarksPassAndTheValueIsWhatItIs) {
+  EnterCall("", "", "Tight");
+  // Keys that are not of ASCII cannot be pressed.
+  Get<QLineEdit>("txtNumber", 0).insert(ToQt("100 €"));
+  Get<QLineEdit>("txtNumber", 1).insert(ToQt("12,5€"));
+  Click("cmdPreflopEV", 0);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+  EXPECT_EQ(Form.State().PotSize, 100);
+  EXPECT_EQ(Form.State().CallAmount, 12);
+}
+
+TEST_F(ChecksInWindow, AnotherCurrencyIsNotNumeric) {
+  EnterCall("", "50", "Tight");
+  Get<QLineEdit>("txtNumber", 0).insert(ToQt("100 €"));
+  ExpectMessageBox({.title = "Pot Size Error",
+                    .text = "The pot size contains non-numeric characters",
+                    .icon = MessageIcon::kExclamation});
+  Click("cmdPreflopEV", 0);
+}
+
 TEST_F(ChecksInWindow, SeveralFaultsAreMetOneClickAtATime) {
   Open(kCallNav);
   ExpectMessageBox({.title = "Missing Range",
@@ -198,7 +225,7 @@ TEST_F(ChecksInWindow, ARangeWhoseFileIsGoneEndsTheProgram) {
   EnterEquity("Tight");
   std::filesystem::remove(Program.RangeFile("Tight.txt"));
   EXPECT_EXIT(Click("cmdPreflopEV", 2), testing::ExitedWithCode(EXIT_FAILURE),
-              "Run-time error '9': Subscript out of range");
+              "Run-time error '9': Subscript out of range .the range file \"Tight.txt\" is missing or empty");
 }
 
 }  // namespace

@@ -67,7 +67,8 @@ MainForm::MainForm(Surroundings surroundings)
                  .Screens = navigation_,
                  .ClickNav = [this](std::int16_t link) { ClickNav(link); },
                  .Results = results_,
-                 .Boxes = around_.Messages}) {
+                 .Boxes = around_.Messages,
+                 .Marks = around_.Marks}) {
   setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
   // It covers the cells until a run brings them up one by one.
   controls_.PictureAt("imgGridBack").raise();

@@ -58,13 +58,14 @@ enum class StageClock : std::uint8_t {
 /// before.
 class MainStage {
  public:
-  explicit MainStage(StageClock clock = StageClock::kHurried)
+  explicit MainStage(StageClock clock = StageClock::kHurried, NumberMarks marks = {})
       : Form({.Folder = Program.Folder(),
               .Messages = Boxes,
               .Inputs = Boxes,
               .Web = Web,
               .Shift = Shift,
               .EndProcess = [this] { End(); },
+              .Marks = std::move(marks),
               .Clock = ClockOf(clock)}) {
     Program.Write("Everything.txt", EveryHandAt(1));
     Program.Write("Nothing.txt", TextWith(""));

@@ -7,6 +7,7 @@
 
 #include "shell/screens/http_client.h"
 #include "shell/screens/main_form.h"
+#include "support/folders.h"
 #include "toolkit/application.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/posix_signals.h"
@@ -19,14 +20,21 @@ namespace {
 constexpr int kWrongUsage = 2;
 
 int RunWindow() {
-  const ProgramFolder folder{FromQt(QCoreApplication::applicationDirPath())};
+  const ProgramFolder folder{ExecutableFolder()};
   MessageDialogs boxes;
   HttpClient web;
   ShiftWatch shift;
-  MainForm window({.Folder = folder, .Messages = boxes, .Inputs = boxes, .Web = web, .Shift = shift, .EndProcess = [] {
-                     HandOverClipboard();
-                     std::_Exit(EXIT_SUCCESS);
-                   }});
+  MainForm window({.Folder = folder,
+                   .Messages = boxes,
+                   .Inputs = boxes,
+                   .Web = web,
+                   .Shift = shift,
+                   .EndProcess =
+                       [] {
+                         HandOverClipboard();
+                         std::_Exit(EXIT_SUCCESS);
+                       },
+                   .Marks = MarksOf(QLocale::system())});
   const EndSignals signals([&window] { window.close(); });
   window.Start();
   return QApplication::exec();
