@@ -1,4 +1,4 @@
-# cpp-httplib, for the web client and for the web hosts of tests; "third_party/httplib/README.md" says why it is here.
+# cpp-httplib, for the web client; "third_party/httplib/README.md" says why it is here.
 add_library(quillon_httplib INTERFACE)
 target_include_directories(quillon_httplib SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/third_party/httplib)
 target_link_libraries(quillon_httplib INTERFACE Threads::Threads)

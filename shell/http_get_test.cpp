@@ -10,7 +10,7 @@
 #include <string_view>
 #include <thread>
 
-#include "shell/loopback_host.h"
+#include "testing/loopback_host.h"
 
 namespace quillon {
 namespace {

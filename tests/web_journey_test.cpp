@@ -23,11 +23,9 @@
 #include <vector>
 
 #include "results/web_addresses.h"
-#include "shell/loopback_host.h"
 #include "shell/screens/http_client.h"
 #include "shell/screens/main_form_fixture.h"
-#include "tests/deaf_host.h"
-#include "tests/web_host.h"
+#include "testing/loopback_host.h"
 
 namespace quillon {
 namespace {

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "shell/loopback_host.h"
+#include "testing/loopback_host.h"
 
 namespace quillon {
 namespace {
