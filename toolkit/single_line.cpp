@@ -19,7 +19,7 @@ class SingleLine : public QValidator {
 
   // The caret stands after the text that has come in, and all that was there before is clean.
   State validate(QString& text, int& caret) const override {
-    const auto start = text.cbegin();
+    const QChar* start = text.cbegin();
     const auto kept = static_cast<int>(std::find_if(start, start + caret, IsLineEnd) - start);
     text.remove(kept, caret - kept);
     caret = kept;
