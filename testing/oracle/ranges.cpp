@@ -7,6 +7,19 @@
 #include "testing/oracle/numbers.h"
 
 namespace quillon::plain {
+namespace {
+
+std::vector<std::vector<std::size_t>> LinesOfIndexes() {
+  std::vector<std::vector<std::size_t>> lines;
+  for (const std::vector<std::string>& line : Lines()) {
+    lines.emplace_back();
+    for (const std::string& label : line)
+      lines.back().push_back(IndexOf(label));
+  }
+  return lines;
+}
+
+}  // namespace
 
 std::optional<double> WeightOf(std::string_view text, std::string_view label) {
   // Places count from 1, and 0 is that of a text which is missing.
@@ -36,21 +49,19 @@ double SelectedCombos(const Weights& weights) {
 }
 
 std::string RunsAt(const Weights& weights, double target) {
-  const auto weightOf = [&weights](const std::string& label) { return weights[IndexOf(label)]; };
+  static const std::vector<std::vector<std::size_t>> lines = LinesOfIndexes();
   std::string text;
-  for (const std::vector<std::string>& line : Lines()) {
+  for (const std::vector<std::size_t>& line : lines) {
     for (std::size_t first = 0; first < line.size();) {
       std::size_t end = first;
-      while (end < line.size() && weightOf(line[end]) == target)
+      while (end < line.size() && weights[line[end]] == target)
         ++end;
       // A run that meets a class of more weight below it is left out.
-      const bool shown = end > first && (end == line.size() || weightOf(line[end]) < target);
+      const bool shown = end > first && (end == line.size() || weights[line[end]] < target);
       if (shown && !text.empty()) text += ",";
-      if (shown && end == first + 1) {
-        text += line[first];
-      } else if (shown) {
-        text += first == 0 ? line[end - 1] + "+" : line[first] + "-" + line[end - 1];
-      }
+      if (shown && end > first + 1 && first > 0) text += Labels()[line[first]] + "-";
+      if (shown) text += Labels()[line[end - 1]];
+      if (shown && end > first + 1 && first == 0) text += "+";
       first = end + 1;
     }
   }
