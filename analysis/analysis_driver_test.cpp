@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "analysis/range_folder.h"
-#include "analysis/recording_window.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "support/run_time_error.h"
+#include "testing/recording_window.h"
 
 namespace quillon {
 namespace {

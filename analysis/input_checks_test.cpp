@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "analysis/range_folder.h"
-#include "analysis/recording_window.h"
 #include "support/run_time_error.h"
+#include "testing/recording_window.h"
 
 namespace quillon {
 namespace {

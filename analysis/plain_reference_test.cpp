@@ -14,13 +14,13 @@
 #include "analysis/dealt_range.h"
 #include "analysis/range_equity.h"
 #include "analysis/range_folder.h"
-#include "analysis/recording_window.h"
 #include "hand/equity_table.h"
 #include "support/number_text.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/ranges.h"
 #include "testing/oracle/runs.h"
+#include "testing/recording_window.h"
 
 namespace quillon {
 namespace {

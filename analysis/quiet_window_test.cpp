@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/recording_window.h"
+#include "testing/recording_window.h"
 
 namespace quillon {
 namespace {

@@ -8,10 +8,10 @@
 #include "analysis/analysis_state.h"
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
-#include "results/recording_report_screen.h"
 #include "results/report.h"
-#include "results/sample_analysis.h"
 #include "testing/range_texts.h"
+#include "testing/recording_report_screen.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

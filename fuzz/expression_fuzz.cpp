@@ -5,9 +5,9 @@
 #include "fuzz/fuzz_target.h"
 #include "shell/expressions.h"
 #include "support/number_text.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 #include "testing/oracle/numbers.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

@@ -8,9 +8,9 @@
 #include "ranges/range_files.h"
 #include "ranges/range_lists.h"
 #include "ranges/range_names.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 #include "testing/memory_files.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "support/recorded_messages.h"
 #include "testing/range_dialog_messages.h"
+#include "testing/recorded_messages.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "results/recording_report_screen.h"
-#include "results/sample_analysis.h"
+#include "testing/recording_report_screen.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

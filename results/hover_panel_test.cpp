@@ -12,9 +12,9 @@
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
-#include "results/sample_analysis.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
+#include "testing/recorded_messages.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

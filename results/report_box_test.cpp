@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "results/recording_report_screen.h"
 #include "support/run_time_error.h"
+#include "testing/recording_report_screen.h"
 
 namespace quillon {
 namespace {

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "results/hand_line.h"
-#include "results/recording_report_screen.h"
-#include "results/sample_analysis.h"
 #include "results/web_addresses.h"
 #include "support/run_time_error.h"
+#include "testing/recording_report_screen.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "hand/hand_classes.h"
-#include "results/sample_analysis.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

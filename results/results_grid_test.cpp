@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "results/grid_colors.h"
-#include "results/sample_analysis.h"
 #include "support/run_time_error.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "analysis/expected_value.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "support/recorded_messages.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

@@ -19,10 +19,10 @@
 
 #include "shell/grid_image.h"
 #include "shell/settings_file.h"
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 #include "testing/file_calls.h"
 #include "testing/range_texts.h"
+#include "testing/recorded_messages.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {

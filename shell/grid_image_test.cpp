@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "support/recorded_messages.h"
 #include "support/run_time_error.h"
 #include "testing/file_calls.h"
+#include "testing/recorded_messages.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/runs.h"

@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/runs.h"
 #include "testing/oracle/settings.h"

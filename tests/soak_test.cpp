@@ -16,7 +16,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 #include "tests/address_sanitizer.h"
 
 namespace quillon {

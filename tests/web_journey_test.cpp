@@ -24,8 +24,8 @@
 
 #include "results/web_addresses.h"
 #include "shell/screens/http_client.h"
-#include "shell/screens/main_form_fixture.h"
 #include "testing/loopback_host.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -14,7 +14,7 @@
 #include "ranges/range_lists.h"
 #include "results/results_grid.h"
 #include "shell/screens/main_layout.h"
-#include "support/recorded_messages.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

@@ -11,8 +11,8 @@
 #include <stdexcept>
 
 #include "support/run_time_error.h"
+#include "testing/expected_boxes.h"
 #include "toolkit/control.h"
-#include "toolkit/expected_boxes.h"
 
 namespace quillon {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/fake_opener.h"
+#include "testing/fake_opener.h"
 
 namespace quillon {
 namespace {

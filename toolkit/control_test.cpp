@@ -7,7 +7,7 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
-#include "toolkit/expected_boxes.h"
+#include "testing/expected_boxes.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/shape.h"

@@ -25,7 +25,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "toolkit/expected_boxes.h"
+#include "testing/expected_boxes.h"
 #include "toolkit/label.h"
 
 namespace quillon {

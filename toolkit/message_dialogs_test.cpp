@@ -7,7 +7,7 @@
 #include <array>
 #include <gtest/gtest.h>
 
-#include "toolkit/expected_boxes.h"
+#include "testing/expected_boxes.h"
 
 namespace quillon {
 namespace {

@@ -16,15 +16,15 @@
 
 #include "analysis/analysis_driver.h"
 #include "analysis/quiet_window.h"
-#include "analysis/recording_window.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
 #include "ranges/range_summary.h"
 #include "results/hand_line.h"
-#include "results/recording_report_screen.h"
 #include "results/results_grid.h"
 #include "testing/range_texts.h"
+#include "testing/recording_report_screen.h"
+#include "testing/recording_window.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {

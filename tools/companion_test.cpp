@@ -15,11 +15,11 @@
 
 #include "analysis/analysis_driver.h"
 #include "analysis/quiet_window.h"
-#include "analysis/recording_window.h"
 #include "hand/equity_table.h"
 #include "shell/version.h"
 #include "support/run_time_error.h"
 #include "testing/range_texts.h"
+#include "testing/recording_window.h"
 #include "testing/temporary_program.h"
 #include "tools/analysis_output.h"
 

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "ranges/dialogs/dialog_fixtures.h"
 #include "ranges/range_text.h"
+#include "testing/dialog_stage.h"
 #include "toolkit/colors.h"
 #include "toolkit/twip_geometry.h"
 

@@ -8,9 +8,9 @@
 #include <set>
 #include <vector>
 
-#include "ranges/dialogs/dialog_fixtures.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
+#include "testing/dialog_stage.h"
 #include "toolkit/twip_geometry.h"
 
 namespace quillon {

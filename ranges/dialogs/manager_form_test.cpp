@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
+#include "testing/dialog_stage.h"
 #include "testing/range_dialog_messages.h"
 
 namespace quillon {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "ranges/dialogs/dialog_fixtures.h"
 #include "shell/settings_file.h"
+#include "testing/dialog_stage.h"
 #include "testing/range_dialog_messages.h"
 #include "toolkit/text_box.h"
 

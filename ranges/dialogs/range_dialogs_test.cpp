@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <gtest/gtest.h>
 
-#include "ranges/dialogs/dialog_fixtures.h"
+#include "testing/dialog_stage.h"
 
 namespace quillon {
 namespace {

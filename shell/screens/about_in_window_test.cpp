@@ -3,8 +3,8 @@
 #include <QPlainTextEdit>
 
 #include "results/web_addresses.h"
-#include "shell/screens/main_form_fixture.h"
-#include "toolkit/fake_opener.h"
+#include "testing/fake_opener.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

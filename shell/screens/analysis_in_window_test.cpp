@@ -4,8 +4,8 @@
 #include "analysis/quiet_window.h"
 #include "analysis/results_table.h"
 #include "shell/field_help.h"
-#include "shell/screens/main_form_fixture.h"
-#include "support/recorded_messages.h"
+#include "testing/main_stage.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {

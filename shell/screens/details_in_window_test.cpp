@@ -7,8 +7,8 @@
 #include <set>
 #include <vector>
 
-#include "results/sample_analysis.h"
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
+#include "testing/sample_analysis.h"
 #include "tools/analysis_output.h"
 
 namespace quillon {

@@ -1,5 +1,5 @@
 #include "shell/field_help.h"
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -7,8 +7,8 @@
 #include <QScreen>
 #include <set>
 
-#include "shell/screens/main_form_fixture.h"
-#include "shell/screens/opened_files.h"
+#include "testing/main_stage.h"
+#include "testing/opened_files.h"
 
 namespace quillon {
 namespace {

@@ -1,5 +1,5 @@
-#include "results/sample_analysis.h"
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
+#include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {

@@ -1,6 +1,6 @@
 #include <optional>
 
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

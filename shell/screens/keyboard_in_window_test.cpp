@@ -5,8 +5,8 @@
 #include <set>
 #include <vector>
 
-#include "shell/screens/main_form_fixture.h"
 #include "shell/screens/main_layout.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

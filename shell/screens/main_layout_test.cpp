@@ -7,7 +7,7 @@
 #include <string>
 
 #include "results/web_addresses.h"
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -4,9 +4,9 @@
 #include <array>
 #include <vector>
 
-#include "shell/screens/main_form_fixture.h"
 #include "shell/screens/main_layout.h"
-#include "toolkit/fake_opener.h"
+#include "testing/fake_opener.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -6,8 +6,8 @@
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 #include "results/results_grid.h"
-#include "shell/screens/main_form_fixture.h"
 #include "support/rgb.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -1,7 +1,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "shell/screens/main_form_fixture.h"
+#include "testing/main_stage.h"
 
 namespace quillon {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: input boxes that answer by themselves, and that keep what they asked.
+// Input boxes that answer by themselves, and that keep what they asked.
 
 #include <deque>
 #include <ostream>

@@ -1,4 +1,4 @@
-#include "toolkit/expected_boxes.h"
+#include "testing/expected_boxes.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>

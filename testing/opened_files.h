@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: takes the place of the desktop's image program, and keeps what it was to open.
+// Takes the place of the desktop's image program, and keeps what it was to open.
 
 #include <QDesktopServices>
 #include <QObject>

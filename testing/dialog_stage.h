@@ -1,7 +1,7 @@
 #pragma once
 
-// For tests: a program folder with some ranges, a main window that has nothing but the four choosers, and the dialogs
-// themselves, which speak in real boxes ("toolkit/expected_boxes.h").
+// A program folder with some ranges, a main window that has nothing but the four choosers, and the dialogs
+// themselves, which speak in real boxes ("testing/expected_boxes.h").
 
 #include <QTest>
 #include <cstdint>
@@ -11,10 +11,10 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/range_dialogs.h"
+#include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
 #include "testing/temporary_program.h"
-#include "toolkit/expected_boxes.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: a web that answers what it is told to, or what a web behind it says, and keeps what it was asked for.
+// A web that answers what it is told to, or what a web behind it says, and keeps what it was asked for.
 
 #include <deque>
 #include <functional>

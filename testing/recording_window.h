@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: a window that writes down what an analysis does with it, one line a call.
+// A window that writes down what an analysis does with it, one line a call.
 
 #include <algorithm>
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 #include "analysis/quiet_window.h"
 #include "support/number_text.h"
-#include "support/recorded_messages.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 

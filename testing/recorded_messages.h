@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: message boxes that nobody has to click, and that keep what they showed.
+// Message boxes that nobody has to click, and that keep what they showed.
 
 #include <deque>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: the boxes that stop the program until somebody answers them. A test says beforehand which ones will come,
+// The boxes that stop the program until somebody answers them. A test says beforehand which ones will come,
 // in their order, and how each is answered:
 //
 //   ExpectMessageBox({.title = "Delete?", .text = "...", .icon = MessageIcon::kQuestion,
@@ -16,7 +16,7 @@
 #include <string_view>
 
 #include "support/message_boxes.h"
-#include "support/recorded_input.h"
+#include "testing/recorded_input.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// For tests: the main window with its dialogs on a program folder of its own. It speaks in real boxes
-// ("toolkit/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web but one that a test gives it.
+// The main window with its dialogs on a program folder of its own. It speaks in real boxes
+// ("testing/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web but one that a test gives it.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -18,13 +18,13 @@
 #include <utility>
 
 #include "hand/hand_classes.h"
-#include "ranges/dialogs/dialog_fixtures.h"
-#include "shell/recorded_web.h"
 #include "shell/screens/main_form.h"
+#include "testing/dialog_stage.h"
+#include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
+#include "testing/recorded_web.h"
 #include "testing/temporary_program.h"
-#include "toolkit/expected_boxes.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"

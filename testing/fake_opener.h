@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: takes the place of `xdg-open` in the program's PATH, writes down what it is to open, and ends with a
+// Takes the place of `xdg-open` in the program's PATH, writes down what it is to open, and ends with a
 // status of the test's choice.
 
 #include <QByteArray>

@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 #include <iostream>
 
+#include "testing/expected_boxes.h"
 #include "toolkit/application.h"
-#include "toolkit/expected_boxes.h"
 #include "toolkit/fonts.h"
 
 namespace {

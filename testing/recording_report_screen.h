@@ -1,6 +1,6 @@
 #pragma once
 
-// A report screen for tests. It keeps the text with its insertion point and writes down every call.
+// A report screen. It keeps the text with its insertion point and writes down every call.
 
 #include <cstddef>
 #include <string>
