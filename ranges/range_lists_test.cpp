@@ -69,7 +69,7 @@ TEST(RangeFolderEntries, NameThatIsNotUtf8IsShownAsWindows1252) {
 
 TEST(RangeFolderEntries, ScratchFilesDoNotShow) {
   const TemporaryProgram program;
-  for (const char* name : {".quillon-4711-0.tmp", ".quillon-mine.txt", "a.txt"})
+  for (const char* name : {".quillon-4711-0.tmp", ".quillon-4711-0.copy", ".quillon-mine.txt", "a.txt"})
     program.Write(name);
   EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre(".quillon-mine.txt", "a.txt"));
 }

@@ -1,5 +1,6 @@
 #include "support/files.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -27,6 +28,7 @@ constexpr mode_t kPermissions = 0777;  // what of a file's mode is its permissio
 
 constexpr std::string_view kScratchStart = ".quillon-";
 constexpr std::string_view kScratchEnd = ".tmp";
+constexpr std::string_view kCopyEnd = ".copy";
 constexpr std::chrono::hours kStaleAge{1};
 constexpr int kMostScratchNames = 100;  // that are tried in one folder
 
@@ -82,15 +84,16 @@ int WriteToDisk(int file, std::string_view bytes, FileCalls& calls) {
 }
 
 // Two programs, or two saves of one, must never share a scratch file.
-std::string ScratchName() {
+std::string ScratchName(std::string_view end) {
   static std::atomic<unsigned> count{0};
   return std::string(kScratchStart) + std::to_string(::getpid()) + "-" + std::to_string(count.fetch_add(1)) +
-         std::string(kScratchEnd);
+         std::string(end);
 }
 
 bool IsStaleScratch(const std::filesystem::directory_entry& entry) {
   std::error_code unknown;
-  if (!IsScratchName(entry.path().filename().string())) return false;
+  const std::string name = entry.path().filename().string();
+  if (!IsScratchName(name) || !name.ends_with(kScratchEnd)) return false;
   if (entry.is_symlink(unknown) || !entry.is_regular_file(unknown)) return false;
   const std::filesystem::file_time_type written = entry.last_write_time(unknown);
   return !unknown && std::filesystem::file_time_type::clock::now() - written > kStaleAge;
@@ -103,10 +106,10 @@ struct Scratch {
 
 // A process that was killed may have had this one's number and left its scratch files, so there may be names to pass
 // over.
-Scratch OpenScratch(const std::filesystem::path& folder, mode_t mode, FileCalls& calls) {
+Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, mode_t mode, FileCalls& calls) {
   Scratch scratch{-EEXIST, {}};
   for (int attempt = 0; scratch.file == -EEXIST && attempt < kMostScratchNames; ++attempt) {
-    scratch.path = (folder / ScratchName()).string();
+    scratch.path = (folder / ScratchName(end)).string();
     scratch.file =
         Uninterrupted([&] { return calls.Open(scratch.path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
   }
@@ -147,21 +150,32 @@ bool IsRefusal(int negatedError) {
   return negatedError == -EACCES || negatedError == -EPERM || negatedError == -EROFS || negatedError == -EBUSY;
 }
 
+// Makes the new name itself last through a power failure. The content is whole either way, so a system that cannot sync
+// a folder stops nobody.
+void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
+  const int file = Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
+  if (file < 0) return;
+  static_cast<void>(Uninterrupted([&] { return calls.Sync(file); }));
+  calls.Close(file);
+}
+
 struct Rewriting {
   int result;
   std::string copy;  // where the new content is whole if writing the file has failed; otherwise empty
 };
 
-// Writes into the file itself, with a copy of the new content in a scratch file until it is on the disk. Where no
-// folder takes the copy, it goes without one.
+// Writes into the file itself, with a copy of the new content in a scratch file until it is on the disk. A crash in the
+// middle leaves the copy alone whole, so its name is one that no start clears away. Where no folder takes the copy, it
+// goes without one.
 Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
                   const std::filesystem::path& scratchFolder, mode_t mode, FileCalls& calls) {
-  Scratch copy = OpenScratch(scratchFolder, mode, calls);
-  if (copy.file < 0) copy = OpenScratch(target.parent_path(), mode, calls);
+  Scratch copy = OpenScratch(scratchFolder, kCopyEnd, mode, calls);
+  if (copy.file < 0) copy = OpenScratch(target.parent_path(), kCopyEnd, mode, calls);
   if (copy.file < 0 && !IsRefusal(copy.file)) return {copy.file, {}};
 
   int result = copy.file < 0 ? 0 : WriteToDisk(copy.file, bytes, calls);
   if (result >= 0) {
+    if (copy.file >= 0) SyncFolder(std::filesystem::path(copy.path).parent_path(), calls);
     const int file = Uninterrupted([&] { return calls.Open(target.string(), O_WRONLY | O_TRUNC | O_CLOEXEC, 0); });
     result = file < 0 ? file : WriteToDisk(file, bytes, calls);
     if (file >= 0 && result < 0) return {result, copy.file < 0 ? std::string() : copy.path};
@@ -176,15 +190,6 @@ std::filesystem::path EndOfLinks(std::filesystem::path path) {
   for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(path, none); ++link)
     path = path.parent_path() / std::filesystem::read_symlink(path, none);
   return path;
-}
-
-// Makes the new name itself last through a power failure. The content is whole either way, so a system that cannot sync
-// a folder stops nobody.
-void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
-  const int file = Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
-  if (file < 0) return;
-  static_cast<void>(Uninterrupted([&] { return calls.Sync(file); }));
-  calls.Close(file);
 }
 
 }  // namespace
@@ -204,9 +209,10 @@ void FailOnFile(int systemError, const std::filesystem::path& path, std::string_
 }
 
 bool IsScratchName(std::string_view name) {
-  if (!name.starts_with(kScratchStart) || !name.ends_with(kScratchEnd)) return false;
+  if (!name.starts_with(kScratchStart)) return false;
   const std::string_view numbers = name.substr(kScratchStart.size());
-  return numbers.find_first_not_of("0123456789-") == numbers.size() - kScratchEnd.size();
+  const std::string_view end = numbers.substr(std::min(numbers.find_first_not_of("0123456789-"), numbers.size()));
+  return end == kScratchEnd || end == kCopyEnd;
 }
 
 bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls) {
@@ -250,10 +256,10 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
   const mode_t mode = old.mode.value_or(kFileMode);
 
   int result = -EXDEV;
-  const Scratch apart = OpenScratch(scratchFolder, mode, calls);
+  const Scratch apart = OpenScratch(scratchFolder, kScratchEnd, mode, calls);
   if (apart.file >= 0) result = ReplaceThrough(apart, target.string(), old.mode, bytes, calls);
   if (apart.file < 0 || result == -EXDEV) {
-    const Scratch beside = OpenScratch(target.parent_path(), mode, calls);
+    const Scratch beside = OpenScratch(target.parent_path(), kScratchEnd, mode, calls);
     result = beside.file < 0 ? beside.file : ReplaceThrough(beside, target.string(), old.mode, bytes, calls);
   }
   if (IsRefusal(result) && old.mode) {

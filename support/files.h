@@ -47,7 +47,8 @@ class FileCalls {
 /// RunTimeFaultOf says. The detail is the path, the system's reason and `addition`.
 [[noreturn]] void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition = {});
 
-/// Whether a file of this name is a scratch file of ReplaceFile: ".quillon-4711-0.tmp".
+/// Whether a file of this name is a scratch file of ReplaceFile, ".quillon-4711-0.tmp", or ".quillon-4711-0.copy" while
+/// a file is written in place.
 [[nodiscard]] bool IsScratchName(std::string_view name);
 
 /// Whether the file system refuses a path because it, or a name in it, is too long.
@@ -82,8 +83,8 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
                  FileCalls& calls = SystemFileCalls());
 
 /// Deletes the scratch files that processes have left in the folder by being killed in the middle of ReplaceFile. They
-/// are told by their name and by their age, an hour, since a scratch file in use is there for moments only. Never
-/// fails: what cannot be listed or deleted stays.
+/// are told by their name and by their age, an hour, since a scratch file in use is there for moments only. A ".copy"
+/// stays, for it may be the one whole copy of what was saved. Never fails: what cannot be listed or deleted stays.
 void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());
 
 /// Deletes the file. Of a link only the link goes, and the file it names stays. Failure is a RunTimeError as of

@@ -698,6 +698,7 @@ TEST_F(WritingInPlace, CopyIsKeptUntilTheFileIsOnTheDisk) {
     if (opened) order.push_back(entry.call);
   }
   EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
+  EXPECT_THAT(calls.ScratchFiles().back(), testing::EndsWith(".copy")) << "a name that no start clears away";
 }
 
 TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
@@ -846,6 +847,7 @@ TEST_F(RemovingStaleScratchFiles, OnlyOldFilesWithSuchANameGo) {
       Case{"quillon-1-0.tmp", 6000, false},      Case{".quillon-notes.tmp", 6000, false},
       Case{".quillon-1-0.tmp.txt", 6000, false}, Case{".quillon-1-0x.tmp", 6000, false},
       Case{".quillon-1-0", 6000, false},         Case{"settings.ini", 6000, false},
+      Case{".quillon-1-0.copy", 6000, false},  // may be all that is whole
   };
   const auto now = fs::file_time_type::clock::now();
   for (const Case& c : kCases) {
