@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "analysis/range_folder.h"
+#include "ranges/range_text.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -173,7 +175,7 @@ TEST(DealRange, AMissingClassReadsWhatStandsBeforeTheFirstBracket) {
 }
 
 TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   ranges.Save("Aces", RangeWith({{"AA", 1}}));
   std::string text;
   EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 6);
@@ -181,7 +183,7 @@ TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
 }
 
 TEST(DealRange, ATextAtHandIsNotReadAgain) {
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   ranges.Save("Aces", RangeWith({{"AA", 1}}));
   std::string text = RangeWith({{"AKs", 1}});
   EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4);
@@ -189,7 +191,7 @@ TEST(DealRange, ATextAtHandIsNotReadAgain) {
 }
 
 TEST(DealRange, WithoutAChosenRangeThereAreNoRecords) {
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   std::string text;
   EXPECT_THAT(DealRange(ranges.Folder(), "", "Xx", "Yy", text), SizeIs(0));
   EXPECT_EQ(text, "");
@@ -200,7 +202,7 @@ TEST(DealRange, AFaultNamesTheRangesFile) {
     const char* range;
     const char* fault;
   };
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   ranges.Save("Hollow", "");
   ranges.Save("Broken", "AA (1");
   for (const Row& row : {

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "analysis/range_folder.h"
 #include "hand/equity_table.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {

@@ -19,6 +19,7 @@ namespace quillon {
 [[nodiscard]] inline std::string RangeWith(std::initializer_list<std::pair<std::string_view, double>> weights,
                                            double others = 0) {
   std::ostringstream text;
+  text.precision(15);
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     double weight = others;
     for (const auto& [label, wanted] : weights)

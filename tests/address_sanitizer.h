@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: what they do otherwise where AddressSanitizer and its leak detector watch them.
+// For tests: what differs under AddressSanitizer and its leak detector.
 
 #if defined(__SANITIZE_ADDRESS__)
 #define QUILLON_ADDRESS_SANITIZER
@@ -16,7 +16,7 @@
 
 namespace quillon {
 
-/// While it lives, no leak counts. A run-time error that passes through Qt ends the program, so Qt lets go of nothing
+/// While it lives, no leak counts. A run-time error that passes through Qt ends the program, so Qt frees nothing
 /// on its way; a test goes on after it.
 class LeaksDoNotCount {
  public:

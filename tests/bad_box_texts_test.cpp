@@ -36,7 +36,7 @@ plain::Run RunOf(const Texts& texts) {
   return {plain::Mode::kRaise, texts[0], texts[1], texts[2], kRange, kCallingRange};
 }
 
-/// What a plain reader makes of the texts: those that the boxes are left with, and what comes of a run with them.
+/// What the oracle makes of the texts: those that stay in the boxes, and the outcome of a run with them.
 struct PlainStory {
   Texts Left;
   plain::Outcome InBoxes;  // of the first text that stops the companion
@@ -250,7 +250,7 @@ TEST(BadBoxTexts, AreTakenAsTold) {
   EXPECT_TRUE(ranges.State() == before) << "a file was written to";
 }
 
-// Good texts in all boxes but one, more often than not: it takes one bad text to be told of.
+// Good texts in all boxes but one, more often than not: one bad text is enough for a message.
 Texts RandomTexts(BadInputs& inputs) {
   Texts texts(2 + inputs.Below(2));
   for (std::string& text : texts)
@@ -312,7 +312,7 @@ TEST(BadBoxTexts, ThatAreRandomAreTakenByTheCompanionAsByThePlainReader) {
 
 class BadBoxTextsInWindow : public MainFormTest {
  protected:
-  /// The text takes the place of the box's own, as from the clipboard.
+  /// Replaces the box's text, as from the clipboard.
   void Paste(std::int16_t box, const std::string& text) {
     auto& edit = Get<QLineEdit>("txtNumber", box);
     edit.setFocus(Qt::TabFocusReason);
@@ -331,7 +331,7 @@ class BadBoxTextsInWindow : public MainFormTest {
         {.title = outcome.Title, .text = text, .icon = sum ? MessageIcon::kInformation : MessageIcon::kExclamation});
   }
 
-  /// Puts a text into a box and leaves it. The text that is there in the end.
+  /// Puts a text into a box and leaves it. Returns the text that is there in the end.
   std::string Fill(std::int16_t box, const std::string& text, std::int16_t chooser) {
     Paste(box, text);
     const std::string held = BoxText(box);

@@ -1,7 +1,7 @@
 #pragma once
 
 // For tests: input as it comes from broken disks, strange editors and people who try things out. A good range file,
-// settings file or amount is drawn first and then spoilt: cut, doubled, mixed up, filled with odd characters, written
+// settings file or amount is drawn first and then damaged: cut, doubled, mixed up, filled with odd characters, written
 // in another encoding, blown up. The same seed gives the same inputs each time.
 
 #include <cstddef>
@@ -13,8 +13,8 @@
 
 namespace quillon {
 
-/// How many random inputs a test takes, given its share of all in hundredths. There are 300 of them every day, and as
-/// many as QUILLON_BAD_INPUTS in the environment says where it is set.
+/// How many random inputs a test takes, given its share of all in hundredths. There are 300 of them by default, and as
+/// many as QUILLON_BAD_INPUTS in the environment says if it is set.
 [[nodiscard]] int RandomInputs(int share);
 
 class BadInputs {
@@ -51,10 +51,10 @@ class BadInputs {
   std::mt19937_64 random_;
 };
 
-/// A text as some editors save it, with two bytes for each character and a mark in front.
+/// A text as some editors save it, with two bytes for each character and a byte order mark.
 [[nodiscard]] std::string InWideCharacters(std::string_view text);
 
-/// What became of the inputs of one kind, for whoever wants to know how bad they were: "120 range files: 93 read, ...".
+/// What became of the inputs of one kind, printed at the end: "120 range files: 93 read, ...".
 class Tally {
  public:
   explicit Tally(std::string_view kind) : kind_(kind) {}

@@ -1,5 +1,5 @@
 // Range files that are not ranges, that are broken, or that somebody has edited by hand, given to the real companion: a
-// table of files with what each must be read as, and random ones beside a plain reader.
+// table of files with what each must be read as, and random ones beside the oracle.
 
 #include <algorithm>
 #include <filesystem>
@@ -39,7 +39,7 @@ std::string AcesAt(const std::string& weight) {
   return "AA (" + weight + ")" + TextWith("").substr("AA (0)"s.size());
 }
 
-// The same with the entry of the aces put otherwise.
+// The same with another entry for the aces.
 std::string AcesAs(const std::string& entry) {
   return entry + TextWith("").substr("AA (0)"s.size());
 }

@@ -1,5 +1,5 @@
-// Settings files that are broken, or that somebody has edited by hand, in front of the main window as it starts: a
-// table of files with what each must bring up, and random ones beside a plain reader. What the window shows of such a
+// Settings files that are broken, or that somebody has edited by hand, given to the main window as it starts: a
+// table of files with what each must bring up, and random ones beside the oracle. What the window shows of such a
 // file it also stores, and leaves the rest of the file alone.
 
 #include <QCheckBox>
@@ -62,7 +62,7 @@ int PixelOf(const std::string& text) {
   return outside ? 0 : static_cast<int>(std::floor(static_cast<double>(static_cast<float>(twips)) / 15 + 0.5));
 }
 
-// By the plain reader.
+// By the oracle.
 Start PlainStart(const std::string& file) {
   Start start;
   start.Odds = "X:1, 0%";
@@ -124,7 +124,7 @@ std::vector<std::string> LinesOf(const std::string& text) {
 }
 
 // How many lines of `before` are not in `after`, where the others are in the same order: all but those of the longest
-// common row of lines. The last line may have got the end that it lacked.
+// common row of lines. The last line may have gained its line end.
 std::size_t LostLines(const std::string& before, const std::string& after) {
   const std::vector<std::string> kept = LinesOf(after);
   std::vector<std::size_t> common(kept.size() + 1);  // with the first so many lines of `after`

@@ -58,7 +58,7 @@ class Household {
   [[nodiscard]] fs::path Program() const { return ProgramFolder() / "quillon-cli"; }
   [[nodiscard]] fs::path Elsewhere() const { return home_ / "Elsewhere"; }
 
-  /// A run of the program with everything that it could be tempted to write to within the home.
+  /// A run of the program with every place it might write to inside the home.
   [[nodiscard]] ProgramRun Prepare(const Arguments& arguments) const {
     ProgramRun run;
     run.Program = Program();

@@ -215,7 +215,7 @@ ProgramOutcome RunProgram(const ProgramRun& run) {
 
   ProgramOutcome outcome;
   const pid_t process = Start(run, preparation);
-  // Read while it runs: a terminal that nobody reads holds the program up.
+  // Read while it runs: a terminal that nobody reads blocks the program.
   if (terminal) outcome.Terminal = terminal->ReadToEnd();
   outcome.Status = WaitForEnd(process);
   outcome.Output = output.Text();

@@ -36,8 +36,8 @@ struct ProgramOutcome {
   std::string Terminal;  // what came to the terminal by either stream, in that order
 };
 
-/// Runs the program to its end. std::system_error if it cannot be started. Not for runs that fill a terminal and a
-/// kept stream without end: nothing limits what is kept.
+/// Runs the program to its end. std::system_error if it cannot be started. Not for endless output:
+/// nothing limits what is kept.
 [[nodiscard]] ProgramOutcome RunProgram(const ProgramRun& run);
 
 /// A program that runs beside the test, and is killed with this object if it still does. Its streams are not terminals.
@@ -60,8 +60,8 @@ class RunningProgram {
   /// As ProgramOutcome::Status, nothing while it runs.
   [[nodiscard]] std::optional<int> Status();
 
-  /// Holds it up, and lets it go on. What it is sent meanwhile reaches it then. It has come to a halt when this is
-  /// back.
+  /// Stops it, and lets it continue. What it is sent meanwhile reaches it then. It is stopped when the first of them
+  /// returns.
   void HoldUp();
   void LetGoOn();
 

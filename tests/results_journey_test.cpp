@@ -1,4 +1,4 @@
-// The roads that a player takes with ranges and results: a range painted by hand, a result that becomes a range, a
+// What a player does with ranges and results: a range painted by hand, a result that becomes a range, a
 // report on the clipboard, and the grid as a picture.
 
 #include <QImage>

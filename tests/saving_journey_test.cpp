@@ -1,5 +1,5 @@
 // Saving while processes are killed, and while several save at once. QUILLON_KILLS in the environment makes the first
-// longer than it is in everyday checks.
+// longer than by default.
 
 #include <chrono>
 #include <cstdlib>

@@ -16,8 +16,8 @@ namespace quillon {
 /// The settings that each of several loops keeps for itself.
 inline constexpr int kKeysOfALoop = 5;
 
-/// The range that all loops save, beside one of their own under the loop's name, which moves to and fro between that
-/// and the name with this end.
+/// The range that all loops save, beside one of their own under the loop's name, which is renamed back and forth
+/// between that and the name with this ending.
 inline constexpr std::string_view kSharedRange = "Shared";
 inline constexpr std::string_view kMovedEnd = " moved";
 

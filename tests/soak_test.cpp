@@ -1,6 +1,6 @@
-// The main window in use for a long time: no memory is lost and nothing becomes slower. The everyday form is short and
-// looks at memory alone; QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of
-// "docs/reliability.md", and holds the durations against each other too, for which the machine has to be quiet.
+// The main window in use for a long time: no memory is lost and nothing becomes slower. The default form is short and
+// checks memory alone; QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of
+// "docs/reliability.md", and compares durations too, for which the machine has to be quiet.
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -22,7 +22,7 @@
 namespace quillon {
 namespace {
 
-/// How many times as long as in its everyday form a soak is: 0 where nothing says so, and it is everyday.
+/// How many times as long as by default a soak is: 0 by default.
 int SoakFactor() {
   const char* const factor = std::getenv("QUILLON_SOAK");
   return factor == nullptr ? 0 : std::max(std::atoi(factor), 1);
@@ -69,7 +69,7 @@ class Soak : public MainFormTest {
 #endif
   }
 
-  /// Does `act` so many times. The first tenth is left out of account: caches fill, and so do the pools of fonts.
+  /// Does `act` so many times. The first tenth does not count: caches fill, and so do the pools of fonts.
   void Repeat(const char* name, int times, const std::function<void(int)>& act) {
     const int settled = std::min(std::max(times / 10, 10), 100);
     std::vector<double> durations;
@@ -82,7 +82,7 @@ class Soak : public MainFormTest {
       }
       const double start = Seconds();
       act(turn);
-      // What was closed is let go from the event loop, which a test has to run itself.
+      // The event loop, which a test has to run itself, frees what was closed.
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       durations.push_back(Seconds() - start);
     }

@@ -147,7 +147,7 @@ class WebJourney : public testing::Test, public WebStage {
     }
   }
 
-  // One after the other, so that neither is taken for the state that was there before.
+  // One after the other, so that neither is mistaken for the state before.
   void ExpectTheCheckToWork() {
     Client.Port = Host.Port();
     Client.Limit = kGenerous;
@@ -250,7 +250,7 @@ TEST_F(WebJourney, AStartWithAHostThatDoesNotAnswerTakesTheLimitTwice) {
   EXPECT_FALSE(Form.State().HandInfo.empty()) << "the start went on after it";
 }
 
-// What a host can do to a request that no good one would. It says "0.9" and "sent", yet never as a reply that is whole.
+// What a bad host can do to a request. It says "0.9" and "sent", yet never as a reply that is whole.
 struct BadHostCase {
   const char* Name;
   LoopbackHost::Serve Serve;

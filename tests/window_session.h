@@ -88,7 +88,7 @@ class WindowSession {
   /// How many windows of the program can be seen, opened lists among them.
   [[nodiscard]] std::size_t WindowCount() const;
   void WaitUntilGone(const Window& window) const;
-  /// Lays a small window of another program there, in front of all, and leaves the keyboard with `keeper`. Gives back
+  /// Lays a small window of another program there, in front of all, and leaves the keyboard with `keeper`. Returns
   /// its inner area.
   QRect LayNote(QPoint corner, const Window& keeper);
   /// Moves the outer corner of the window.
