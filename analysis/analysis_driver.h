@@ -1,9 +1,8 @@
 #pragma once
 
-// The analysis itself, from the click on a button to the finished results table. A run walks the 169 classes in index
-// order on the window's own thread. For each class it deals the ranges around the class's sample cards, weighs them,
-// writes three cells into the table and lets the window system run once, so that the progress bar moves and the stop
-// label can be clicked.
+// The click on an Analyze button: the checks, the screens and captions, and a run of the engine on the window's own
+// thread. After each class the window system runs once, so that the progress bar moves and the stop label can be
+// clicked.
 //
 // Every control stays live during a run, the start buttons too, and all runs work on the same state. A run started from
 // within another ends before the other goes on; the other then finds itself stopped at its next class. A click within a
@@ -29,17 +28,17 @@ inline constexpr std::string_view kNoResultsCaption = "There are no results to d
 /// The width of the full progress bar, in twips.
 inline constexpr double kProgressBarWidth = 7815;
 
-/// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check answers false,
-/// the click ends there, and the label goes on saying "Please wait..." although nothing runs; that is meant, the next
-/// run sets it right. Otherwise the situation is stored in the state, the Progress screen comes up and the run goes
-/// through the classes.
+/// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check has a
+/// complaint, the click ends with it. Intentional: the label goes on saying "Please wait..." although nothing runs, and
+/// the next run sets it right. Otherwise the situation is stored in the state, the Progress screen comes up and the run
+/// goes through the classes.
 ///
 /// A finished run stores its table in `HandInfo`, has it presented, shows the results entries and clicks the third
 /// navigation entry, the grid. A stop, noticed at the end of the class after the yield in which it came, throws the
 /// table away: the scenario's input screen returns, and `HandInfo` is as it was.
 ///
-/// Nothing is caught: a range file that vanishes after the check, or that does not exist in "Preflop Raise", ends in
-/// the failures of "analysis/dealt_range.h". `Running` is then left true, for the program ends.
+/// Nothing is caught: it fails as the checks and Analyze do, as over a range file that vanishes after the check, or
+/// that does not exist in "Preflop Raise". `Running` is then left true, for the program ends.
 void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder);
 
 /// The click on the stop label `lblStopCalc`: clears `Running` and does nothing else.

@@ -1,35 +1,33 @@
 #pragma once
 
-// The main window as an analysis sees it: the boxes and lists that state the situation, and the few things on the
-// screens that change while a run goes on. The window implements it; the companion program and the tests do so without
-// one ("analysis/quiet_window.h"). Controls go by their names in the main window.
+// The main window as the click on an Analyze button sees it: the boxes and lists that state the situation, and the few
+// things on the screens that change while a run goes on. The order of the calls is the behaviour. Controls go by their
+// names in the main window.
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
-#include "analysis/expected_value.h"
+#include "analysis/analysis.h"
 #include "support/message_boxes.h"
 #include "support/number_text.h"
 
 namespace quillon {
 
-/// The lists from which ranges are chosen, by their index in `cmboRanges`.
-inline constexpr std::int16_t kCallRangeList = 0;
-inline constexpr std::int16_t kRaiseRangeList = 1;
-inline constexpr std::int16_t kRaiseCallingRangeList = 2;
-inline constexpr std::int16_t kEquityRangeList = 3;
-
-class AnalysisWindow : public AmountBoxes {
+class AnalysisWindow {
  public:
+  virtual ~AnalysisWindow() = default;
+
+  /// The text of `txtNumber(index)` at this moment.
+  [[nodiscard]] virtual std::string BoxText(std::int16_t index) const = 0;
+
   /// The text of the selected entry of `cmboRanges(index)`, the empty text if none is selected.
   [[nodiscard]] virtual std::string SelectedRange(std::int16_t index) const = 0;
 
   /// How the user writes amounts, besides the plain way.
   [[nodiscard]] virtual NumberMarks Marks() const { return {}; }
 
-  /// Where the input checks complain.
+  /// Where the complaint of an input check is shown.
   [[nodiscard]] virtual MessageBoxes& Messages() = 0;
 
   /// Brings up the screen of that name: "Progress", or the input screen of a scenario.
@@ -59,12 +57,12 @@ class AnalysisWindow : public AmountBoxes {
   /// Hides `imgGridBack`.
   virtual void HideGridBack() = 0;
 
-  /// Lets the window system handle everything that is pending, then comes back. Anything the user can click may happen
+  /// Lets the window system handle everything that is pending, then returns. Anything the user can click may happen
   /// inside: a click on the stop label, an edit of a box, even the start of another run.
   virtual void Yield() = 0;
 
   /// Colours the grid and writes the texts of a finished run.
-  virtual void PresentResults(const AnalysisState& state) = 0;
+  virtual void PresentResults(const Analysis& analysis) = 0;
 };
 
 }  // namespace quillon

@@ -94,11 +94,10 @@ HandList BuildCombos(std::string_view dead1, std::string_view dead2) {
   return hands;
 }
 
-HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
-                   std::string_view card2, std::string& rangeText) {
-  if (rangeText.empty()) rangeText = LoadRangeText(folder, rangeName);
+HandList DealText(std::string_view rangeName, std::string_view card1, std::string_view card2,
+                  std::string_view rangeText) {
   if (rangeText.empty() && rangeName.empty()) return {};
-  const std::string fileName = RangeFileName(rangeName);
+  const std::string fileName = rangeName.empty() ? "" : RangeFileName(rangeName);
   if (rangeText.empty()) {
     throw RunTimeError(RunTimeFault::kSubscriptOutOfRange, "the range file \"" + fileName + "\" is missing or empty");
   }
@@ -110,6 +109,12 @@ HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std:
     if (hand.Weight != 0) hand.Weight = weight;
   }
   return hands;
+}
+
+HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
+                   std::string_view card2, std::string& rangeText) {
+  if (rangeText.empty()) rangeText = LoadRangeText(folder, rangeName);
+  return DealText(rangeName, card1, card2, rangeText);
 }
 
 double TotalWeight(const HandList& list) {

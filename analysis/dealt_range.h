@@ -48,11 +48,14 @@ using HandList = std::vector<HandRecord>;
 
 /// The range dealt around the hero's two cards: the list of BuildCombos, each hand that is not blocked having the
 /// weight of its class in `rangeText`, whatever number stands there. The cards "Xx" and "Yy" block nothing and deal the
-/// whole range. An empty `rangeText` is filled from the file of `rangeName`, and the caller keeps what was read. Where
-/// no range is chosen and `rangeName` is empty, the list has no records at all.
+/// whole range. Without a name and a text there is no range, and the list has no records at all.
 ///
-/// A chosen range whose file is missing or empty is a RunTimeError "Subscript out of range", and a text without any ")"
-/// cannot be read: RunTimeError "Invalid procedure call or argument". Both name the range's file.
+/// A named range with an empty text is a RunTimeError "Subscript out of range", and a text without any ")" cannot be
+/// read: RunTimeError "Invalid procedure call or argument". Both name the range's file.
+[[nodiscard]] HandList DealText(std::string_view rangeName, std::string_view card1, std::string_view card2,
+                                std::string_view rangeText);
+
+/// The same, with an empty `rangeText` filled from the range's file first, and the caller keeps what was read.
 [[nodiscard]] HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
                                  std::string_view card2, std::string& rangeText);
 

@@ -1,6 +1,5 @@
 #include "analysis/expected_value.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "support/number_text.h"
@@ -14,16 +13,6 @@ double OpponentOddsOf(double pot, double call, double shove) {
 }
 
 }  // namespace
-
-double BoxValue(std::string_view text) {
-  std::string amount(text);
-  std::erase(amount, '$');
-  return LeadingNumber(amount);
-}
-
-double GetBoxValue(const AmountBoxes& boxes, std::int16_t index) {
-  return BoxValue(boxes.BoxText(index));
-}
 
 double CallExpectedValue(double pot, double call, double equity) {
   return (call + pot) * equity - call;

@@ -1,38 +1,12 @@
 #pragma once
 
 // What a move is worth. The user either folds, which is worth 0, or puts chips in, and the expected value is what the
-// move brings on average in chips, or dollars: the unit is that of the amount boxes. Nothing here is rounded but the
-// two texts of OpponentOddsTexts.
+// move brings on average in chips, or dollars: the unit is that of the amounts. Nothing here is rounded but the two
+// texts of OpponentOddsTexts.
 
-#include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace quillon {
-
-/// The boxes in which the user states the situation, by their index in `txtNumber`.
-inline constexpr std::int16_t kCallPotBox = 0;  // "Preflop Call": the pot, the opponent's bet included
-inline constexpr std::int16_t kCallCallBox = 1;  // what the user must put in
-inline constexpr std::int16_t kRaisePotBox = 2;  // "Preflop Raise": the pot
-inline constexpr std::int16_t kRaiseCallBox = 3;  // what the user must put in to stay in, 0 if he is first to act
-inline constexpr std::int16_t kRaiseShoveBox = 4;  // what the opponent must put in to call the user's shove
-
-/// The amount boxes as an analysis sees them.
-class AmountBoxes {
- public:
-  virtual ~AmountBoxes() = default;
-
-  /// The text of `txtNumber(index)` as it stands at this moment.
-  [[nodiscard]] virtual std::string BoxText(std::int16_t index) const = 0;
-};
-
-/// The value of a box's text: every "$" is taken out, and the leading number of the rest counts. It never fails.
-///
-///     "150" -> 150      "$12.50" -> 12.5      "1,000" -> 1      "12abc" -> 12      "abc" -> 0      "" -> 0
-[[nodiscard]] double BoxValue(std::string_view text);
-
-/// The value of `txtNumber(index)`.
-[[nodiscard]] double GetBoxValue(const AmountBoxes& boxes, std::int16_t index);
 
 /// Calling a bet for all the chips: the user pays `call` and with probability `equity` takes the whole pot, his own
 /// call included.
@@ -55,7 +29,7 @@ class AmountBoxes {
 /// RunTimeError "Division by zero" at odds of -1.
 [[nodiscard]] double BreakEvenEquity(double odds);
 
-/// What `lblHisOdds` and `lblHisBEP` show.
+/// What a shove offers the opponent, as texts.
 struct OpponentOdds {
   std::string HisOdds;
   std::string HisBreakEven;

@@ -3,19 +3,11 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <optional>
-#include <string>
 
 #include "support/run_time_error.h"
 
 namespace quillon {
 namespace {
-
-class FiveBoxes : public AmountBoxes {
- public:
-  [[nodiscard]] std::string BoxText(std::int16_t index) const override {
-    return "$" + std::to_string(10 * (index + 1));
-  }
-};
 
 template <class Action>
 std::optional<RunTimeFault> FaultOf(Action action) {
@@ -25,23 +17,6 @@ std::optional<RunTimeFault> FaultOf(Action action) {
     return error.Fault();
   }
   return std::nullopt;
-}
-
-TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
-  struct Row {
-    const char* text;
-    double value;
-  };
-  for (const Row& row : {Row{"150", 150}, Row{"12.5", 12.5}, Row{"$100", 100}, Row{"1$0$0", 100}, Row{"-$5", -5},
-                         Row{"$-5", -5}, Row{"1,000", 1}, Row{"12abc", 12}, Row{"abc", 0}, Row{"", 0}, Row{"$", 0},
-                         Row{"1 000", 1000}, Row{"1e3", 1000}, Row{"1$e$3", 1000}, Row{"=5+5", 0}, Row{".5", 0.5}}) {
-    EXPECT_EQ(BoxValue(row.text), row.value) << row.text;
-  }
-}
-
-TEST(GetBoxValue, ReadsTheBoxOfTheIndex) {
-  EXPECT_EQ(GetBoxValue(FiveBoxes(), kCallPotBox), 10);
-  EXPECT_EQ(GetBoxValue(FiveBoxes(), kRaiseShoveBox), 50);
 }
 
 TEST(CallExpectedValue, IsTheShareOfTheWholePotLessTheCall) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
-#include <string_view>
 
 #include "analysis/dealt_range.h"
 #include "support/number_text.h"
@@ -11,93 +11,67 @@
 namespace quillon {
 namespace {
 
-// One row of a table of complaints: the message, and the test of the inputs that brings it up.
-template <class Inputs>
-struct Complaint {
-  std::string_view Title;
-  std::string_view Text;
-  bool (*Applies)(const Inputs&);
+struct Inputs {
+  const EnteredSituation& Entered;
+  Amounts Values;
+  HandList Range;  // the opponent's whole range, where a check opens it
 };
 
-struct CallInputs {
-  std::string RangeName;
-  HandList Range;
-  double Pot;
-  double Call;
-  std::string PotText;
-  std::string CallText;
-  NumberMarks Marks;
-};
-
-struct RaiseInputs {
-  std::string RangeName;
-  std::string CallingRangeName;
-  double Pot;
-  double Call;
-  double Shove;
-  std::string PotText;
-  std::string CallText;
-  std::string ShoveText;
-  NumberMarks Marks;
-};
-
-struct EquityInputs {
-  std::string RangeName;
-  HandList Range;
+// One row of a table: the complaint, and the test of the inputs that brings it up.
+struct Check {
+  Complaint Message;
+  bool (*Applies)(const Inputs&) = nullptr;
 };
 
 // The order of the rows is the order of the tests.
-constexpr std::array<Complaint<CallInputs>, 7> kCallComplaints = {{
-    {"Missing Range", "Please choose a range for your opponent.",  //
-     [](const CallInputs& in) { return in.RangeName.empty(); }},
-    {"No Hands in Range", "No hands in your opponent's current range.",
-     [](const CallInputs& in) { return TotalWeight(in.Range) == 0; }},
-    {"Pot Size Error", "The pot size must be greater than the amount you have to call.",
-     [](const CallInputs& in) { return in.Call >= in.Pot; }},
-    {"Pot Size Error", "The pot size must be greater than zero.",  //
-     [](const CallInputs& in) { return in.Pot <= 0; }},
-    {"Call Size Error", "The amount to call must be greater than zero.",
-     [](const CallInputs& in) { return in.Call <= 0; }},
-    {"Pot Size Error", "The pot size contains non-numeric characters",
-     [](const CallInputs& in) { return !IsNumericText(in.PotText, in.Marks); }},
-    {"Call Size Error", "The call size contains non-numeric characters",
-     [](const CallInputs& in) { return !IsNumericText(in.CallText, in.Marks); }},
+constexpr std::array<Check, 7> kCallChecks = {{
+    {{"Missing Range", "Please choose a range for your opponent."},
+     [](const Inputs& in) { return in.Entered.Range.empty(); }},
+    {{"No Hands in Range", "No hands in your opponent's current range."},
+     [](const Inputs& in) { return TotalWeight(in.Range) == 0; }},
+    {{"Pot Size Error", "The pot size must be greater than the amount you have to call."},
+     [](const Inputs& in) { return in.Values.Call >= in.Values.Pot; }},
+    {{"Pot Size Error", "The pot size must be greater than zero."},
+     [](const Inputs& in) { return in.Values.Pot <= 0; }},
+    {{"Call Size Error", "The amount to call must be greater than zero."},
+     [](const Inputs& in) { return in.Values.Call <= 0; }},
+    {{"Pot Size Error", "The pot size contains non-numeric characters"},
+     [](const Inputs& in) { return !IsNumericText(in.Entered.Pot, in.Entered.Marks); }},
+    {{"Call Size Error", "The call size contains non-numeric characters"},
+     [](const Inputs& in) { return !IsNumericText(in.Entered.Call, in.Entered.Marks); }},
 }};
 
-// The title "Pot Size" over the complaint about the shove is meant, and so is the wording that differs from row to row.
-constexpr std::array<Complaint<RaiseInputs>, 8> kRaiseComplaints = {{
-    {"Missing Range", "You must assign or create a range of hands for your opponent.",
-     [](const RaiseInputs& in) { return in.RangeName.empty(); }},
-    {"Missing Range", "You must assign or create a range of hands for your opponent to call with.",
-     [](const RaiseInputs& in) { return in.CallingRangeName.empty(); }},
-    {"Pot Size", "The pot size must be greater than zero.",  //
-     [](const RaiseInputs& in) { return in.Pot <= 0; }},
-    {"Call Amount", "The amount you must call cannot be a negative number.",
-     [](const RaiseInputs& in) { return in.Call < 0; }},
-    {"Pot Size", "The amount your opponent must call must be greater than zero.",
-     [](const RaiseInputs& in) { return in.Shove <= 0; }},
-    {"Pot Size", "The pot size contains non-numeric characters",
-     [](const RaiseInputs& in) { return !IsNumericText(in.PotText, in.Marks); }},
-    {"Call Size", "The call size contains illegal characters",
-     [](const RaiseInputs& in) { return !in.CallText.empty() && !IsNumericText(in.CallText, in.Marks); }},
-    {"Shove Size", "The amount your opponent must call when you shove contains illegal characters.",
-     [](const RaiseInputs& in) { return !IsNumericText(in.ShoveText, in.Marks); }},
+// Intentional: the complaint about the shove has the title "Pot Size", and the wording differs from row to row; these
+// are the messages that users know.
+constexpr std::array<Check, 8> kRaiseChecks = {{
+    {{"Missing Range", "You must assign or create a range of hands for your opponent."},
+     [](const Inputs& in) { return in.Entered.Range.empty(); }},
+    {{"Missing Range", "You must assign or create a range of hands for your opponent to call with."},
+     [](const Inputs& in) { return in.Entered.CallingRange.empty(); }},
+    {{"Pot Size", "The pot size must be greater than zero."}, [](const Inputs& in) { return in.Values.Pot <= 0; }},
+    {{"Call Amount", "The amount you must call cannot be a negative number."},
+     [](const Inputs& in) { return in.Values.Call < 0; }},
+    {{"Pot Size", "The amount your opponent must call must be greater than zero."},
+     [](const Inputs& in) { return in.Values.Shove <= 0; }},
+    {{"Pot Size", "The pot size contains non-numeric characters"},
+     [](const Inputs& in) { return !IsNumericText(in.Entered.Pot, in.Entered.Marks); }},
+    {{"Call Size", "The call size contains illegal characters"},
+     [](const Inputs& in) { return !in.Entered.Call.empty() && !IsNumericText(in.Entered.Call, in.Entered.Marks); }},
+    {{"Shove Size", "The amount your opponent must call when you shove contains illegal characters."},
+     [](const Inputs& in) { return !IsNumericText(in.Entered.Shove, in.Entered.Marks); }},
 }};
 
-constexpr std::array<Complaint<EquityInputs>, 2> kEquityComplaints = {{
-    {"Select Range", "Please select a range for your opponent.",
-     [](const EquityInputs& in) { return in.RangeName.empty(); }},
-    {"Empty Range", "Your opponent's range is empty. Please select another range.",
-     [](const EquityInputs& in) { return TotalWeight(in.Range) == 0; }},
+constexpr std::array<Check, 2> kEquityChecks = {{
+    {{"Select Range", "Please select a range for your opponent."},
+     [](const Inputs& in) { return in.Entered.Range.empty(); }},
+    {{"Empty Range", "Your opponent's range is empty. Please select another range."},
+     [](const Inputs& in) { return TotalWeight(in.Range) == 0; }},
 }};
 
-template <class Inputs, std::size_t Count>
-bool Pass(const Inputs& inputs, const std::array<Complaint<Inputs>, Count>& complaints, MessageBoxes& messages) {
-  const auto complaint =
-      std::find_if(complaints.begin(), complaints.end(), [&](const auto& row) { return row.Applies(inputs); });
-  if (complaint == complaints.end()) return true;
-  messages.Show({std::string(complaint->Title), std::string(complaint->Text), MessageIcon::kExclamation});
-  return false;
+std::optional<Complaint> FirstComplaint(std::span<const Check> checks, const Inputs& inputs) {
+  const auto check = std::find_if(checks.begin(), checks.end(), [&](const Check& row) { return row.Applies(inputs); });
+  if (check == checks.end()) return std::nullopt;
+  return check->Message;
 }
 
 // Dealt around two cards that are in no deck, so that nothing is blocked.
@@ -108,35 +82,16 @@ HandList WholeRange(const ProgramFolder& folder, std::string_view name) {
 
 }  // namespace
 
-bool CheckCallInputs(AnalysisWindow& window, const ProgramFolder& folder) {
-  const std::string rangeName = window.SelectedRange(kCallRangeList);
-  const CallInputs inputs{rangeName,
-                          WholeRange(folder, rangeName),
-                          GetBoxValue(window, kCallPotBox),
-                          GetBoxValue(window, kCallCallBox),
-                          window.BoxText(kCallPotBox),
-                          window.BoxText(kCallCallBox),
-                          window.Marks()};
-  return Pass(inputs, kCallComplaints, window.Messages());
+std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
+  return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered.Range)});
 }
 
-bool CheckRaiseInputs(AnalysisWindow& window) {
-  const RaiseInputs inputs{window.SelectedRange(kRaiseRangeList),
-                           window.SelectedRange(kRaiseCallingRangeList),
-                           GetBoxValue(window, kRaisePotBox),
-                           GetBoxValue(window, kRaiseCallBox),
-                           GetBoxValue(window, kRaiseShoveBox),
-                           window.BoxText(kRaisePotBox),
-                           window.BoxText(kRaiseCallBox),
-                           window.BoxText(kRaiseShoveBox),
-                           window.Marks()};
-  return Pass(inputs, kRaiseComplaints, window.Messages());
+std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& /*folder*/) {
+  return FirstComplaint(kRaiseChecks, {entered, AmountsOf(entered), {}});
 }
 
-bool CheckEquityInputs(AnalysisWindow& window, const ProgramFolder& folder) {
-  const std::string rangeName = window.SelectedRange(kEquityRangeList);
-  const EquityInputs inputs{rangeName, WholeRange(folder, rangeName)};
-  return Pass(inputs, kEquityComplaints, window.Messages());
+std::optional<Complaint> CheckEquityInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
+  return FirstComplaint(kEquityChecks, {entered, AmountsOf(entered), WholeRange(folder, entered.Range)});
 }
 
 }  // namespace quillon

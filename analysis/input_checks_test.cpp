@@ -1,6 +1,7 @@
 #include "analysis/input_checks.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,18 +12,12 @@
 namespace quillon {
 namespace {
 
-// The faults' own texts, for tables in which a row that passes has none.
-struct Complaint {
-  std::string title;
-  std::string text;
-};
-
-const Complaint kNone;
+const std::optional<Complaint> kNone;
 
 struct Row {
   const char* name;
-  Situation situation;
-  Complaint complaint;
+  EnteredSituation entered;
+  std::optional<Complaint> complaint;
 };
 
 class InputChecks : public testing::Test {
@@ -36,34 +31,15 @@ class InputChecks : public testing::Test {
   }
 
   template <class Check>
-  void ExpectRow(const Row& row, Check check) const {
-    RecordedMessages messages;
-    RecordingWindow window(row.situation, messages);
-    EXPECT_EQ(check(window), row.complaint.title.empty()) << row.name;
-    std::vector<Message> expected;
-    if (!row.complaint.title.empty()) {
-      expected.push_back({row.complaint.title, row.complaint.text, MessageIcon::kExclamation, MessageButtons::kOk});
-    }
-    EXPECT_EQ(messages.Shown, expected) << row.name;
-    EXPECT_EQ(window.Log, std::vector<std::string>{}) << "a check touches nothing on the screen: " << row.name;
-  }
-
-  void ExpectCall(const Row& row) const {
-    ExpectRow(row, [this](AnalysisWindow& window) { return CheckCallInputs(window, ranges_.Folder()); });
-  }
-  void ExpectRaise(const Row& row) const {
-    ExpectRow(row, [](AnalysisWindow& window) { return CheckRaiseInputs(window); });
-  }
-  void ExpectEquity(const Row& row) const {
-    ExpectRow(row, [this](AnalysisWindow& window) { return CheckEquityInputs(window, ranges_.Folder()); });
+  void ExpectRows(const std::vector<Row>& rows, Check check) const {
+    for (const Row& row : rows)
+      EXPECT_EQ(check(row.entered, ranges_.Folder()), row.complaint) << row.name;
   }
 
   template <class Check>
   [[nodiscard]] int FaultNumberOf(const std::string& range, Check check) const {
-    RecordedMessages messages;
-    QuietWindow window({"100", "50", "", range, ""}, messages);
     try {
-      (void)check(window, ranges_.Folder());
+      (void)check({"100", "50", "", range, ""}, ranges_.Folder());
     } catch (const RunTimeError& error) {
       return error.Number();
     }
@@ -82,33 +58,34 @@ const Complaint kPotNotNumeric = {"Pot Size Error", "The pot size contains non-n
 const Complaint kCallNotNumeric = {"Call Size Error", "The call size contains non-numeric characters"};
 
 TEST_F(InputChecks, PreflopCall) {
-  for (const Row& row : std::vector<Row>{
-           {"a good situation passes", {"100", "50", "", "Full", ""}, kNone},
-           {"a range with any weight passes", {"100", "50", "", "Half Aces", ""}, kNone},
-           {"no range chosen", {"100", "50", "", "", ""}, kNoRange},
-           {"a range without weight", {"100", "50", "", "Nothing", ""}, kNoHands},
-           {"call above the pot", {"100", "101", "", "Full", ""}, kPotNotAboveCall},
-           {"call equal to the pot", {"100", "100", "", "Full", ""}, kPotNotAboveCall},
-           {"both 0 are equal", {"0", "0", "", "Full", ""}, kPotNotAboveCall},
-           {"both empty are 0", {"", "", "", "Full", ""}, kPotNotAboveCall},
-           {"letters are 0", {"abc", "50", "", "Full", ""}, kPotNotAboveCall},
-           {"pot 0 and a call below it", {"0", "-5", "", "Full", ""}, kPotNotPositive},
-           {"pot below 0 and a call further below", {"-1", "-5", "", "Full", ""}, kPotNotPositive},
-           {"call 0", {"100", "0", "", "Full", ""}, kCallNotPositive},
-           {"call below 0", {"100", "-5", "", "Full", ""}, kCallNotPositive},
-           {"call of letters is 0", {"100", "abc", "", "Full", ""}, kCallNotPositive},
-           {"pot with letters behind a good number", {"12abc", "5", "", "Full", ""}, kPotNotNumeric},
-           {"call with letters behind a good number", {"100", "12abc", "", "Full", ""}, kCallNotNumeric},
-           {"pot is looked at before call", {"100x", "50x", "", "Full", ""}, kPotNotNumeric},
-           {"a dollar sign is numeric", {"$100", "$50", "", "Full", ""}, kNone},
-           {"a thousands separator is numeric, but the value ends there", {"1,000", "0.5", "", "Full", ""}, kNone},
-           {"so a pot of 1,000 does not cover a call of 1", {"1,000", "1", "", "Full", ""}, kPotNotAboveCall},
-           {"call is looked at before letters in the pot", {"100x", "0", "", "Full", ""}, kCallNotPositive},
-           {"letters are 0, and a call may lie below", {"abc", "-5", "", "Full", ""}, kPotNotPositive},
-           {"the range is tested before the amounts", {"0", "0", "", "", ""}, kNoRange},
-           {"its weight is tested before the amounts", {"0", "0", "", "Nothing", ""}, kNoHands},
-       })
-    ExpectCall(row);
+  ExpectRows(
+      {
+          {"a good situation passes", {"100", "50", "", "Full", ""}, kNone},
+          {"a range with any weight passes", {"100", "50", "", "Half Aces", ""}, kNone},
+          {"no range chosen", {"100", "50", "", "", ""}, kNoRange},
+          {"a range without weight", {"100", "50", "", "Nothing", ""}, kNoHands},
+          {"call above the pot", {"100", "101", "", "Full", ""}, kPotNotAboveCall},
+          {"call equal to the pot", {"100", "100", "", "Full", ""}, kPotNotAboveCall},
+          {"both 0 are equal", {"0", "0", "", "Full", ""}, kPotNotAboveCall},
+          {"both empty are 0", {"", "", "", "Full", ""}, kPotNotAboveCall},
+          {"letters are 0", {"abc", "50", "", "Full", ""}, kPotNotAboveCall},
+          {"pot 0 and a call below it", {"0", "-5", "", "Full", ""}, kPotNotPositive},
+          {"pot below 0 and a call further below", {"-1", "-5", "", "Full", ""}, kPotNotPositive},
+          {"call 0", {"100", "0", "", "Full", ""}, kCallNotPositive},
+          {"call below 0", {"100", "-5", "", "Full", ""}, kCallNotPositive},
+          {"call of letters is 0", {"100", "abc", "", "Full", ""}, kCallNotPositive},
+          {"pot with letters behind a good number", {"12abc", "5", "", "Full", ""}, kPotNotNumeric},
+          {"call with letters behind a good number", {"100", "12abc", "", "Full", ""}, kCallNotNumeric},
+          {"pot is looked at before call", {"100x", "50x", "", "Full", ""}, kPotNotNumeric},
+          {"a dollar sign is numeric", {"$100", "$50", "", "Full", ""}, kNone},
+          {"a thousands separator is numeric, but the value ends there", {"1,000", "0.5", "", "Full", ""}, kNone},
+          {"so a pot of 1,000 does not cover a call of 1", {"1,000", "1", "", "Full", ""}, kPotNotAboveCall},
+          {"call is looked at before letters in the pot", {"100x", "0", "", "Full", ""}, kCallNotPositive},
+          {"letters are 0, and a call may lie below", {"abc", "-5", "", "Full", ""}, kPotNotPositive},
+          {"the range is tested before the amounts", {"0", "0", "", "", ""}, kNoRange},
+          {"its weight is tested before the amounts", {"0", "0", "", "Nothing", ""}, kNoHands},
+      },
+      CheckCallInputs);
 }
 
 TEST_F(InputChecks, PreflopCallFailsOnARangeThatCannotBeRead) {
@@ -129,91 +106,59 @@ const Complaint kShoveNotNumeric = {"Shove Size",
                                     "The amount your opponent must call when you shove contains illegal characters."};
 
 TEST_F(InputChecks, PreflopRaise) {
-  for (const Row& row : std::vector<Row>{
-           {"a good situation passes", {"15", "5", "100", "Full", "Half Aces"}, kNone},
-           {"a call of 0 passes", {"15", "0", "100", "Full", "Full"}, kNone},
-           {"an empty call box passes", {"15", "", "100", "Full", "Full"}, kNone},
-           {"a call above the pot passes", {"15", "20", "100", "Full", "Full"}, kNone},
-           {"ranges without weight pass", {"15", "5", "100", "Nothing", "Nothing"}, kNone},
-           {"ranges are not opened", {"15", "5", "100", "Missing", "Scribble"}, kNone},
-           {"no current range", {"15", "5", "100", "", "Full"}, kNoCurrentRange},
-           {"no calling range", {"15", "5", "100", "Full", ""}, kNoCallingRange},
-           {"neither range", {"0", "-1", "0", "", ""}, kNoCurrentRange},
-           {"the calling range is missed before the pot", {"0", "5", "100", "Full", ""}, kNoCallingRange},
-           {"the pot is looked at before the call", {"0", "-1", "0", "Full", "Full"}, kRaisePotNotPositive},
-           {"the call is looked at before the shove", {"15", "-1", "0", "Full", "Full"}, kCallNegative},
-           {"letters in the pot before those in the call", {"15x", "5x", "100x", "Full", "Full"}, kRaisePotNotNumeric},
-           {"letters in the call before those in the shove",
-            {"15", "5x", "100x", "Full", "Full"},
-            kRaiseCallNotNumeric},
-           {"pot 0", {"0", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
-           {"pot below 0", {"-1", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
-           {"pot of letters", {"abc", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
-           {"call below 0", {"15", "-1", "100", "Full", "Full"}, kCallNegative},
-           {"shove 0, under the pot's title", {"15", "5", "0", "Full", "Full"}, kShoveNotPositive},
-           {"shove below 0", {"15", "5", "-1", "Full", "Full"}, kShoveNotPositive},
-           {"shove empty", {"15", "5", "", "Full", "Full"}, kShoveNotPositive},
-           {"pot with letters behind a good number", {"15x", "5", "100", "Full", "Full"}, kRaisePotNotNumeric},
-           {"call with letters behind a good number", {"15", "5x", "100", "Full", "Full"}, kRaiseCallNotNumeric},
-           {"call of letters is a good 0 but no number", {"15", "abc", "100", "Full", "Full"}, kRaiseCallNotNumeric},
-           {"call of one blank is not empty", {"15", " ", "100", "Full", "Full"}, kRaiseCallNotNumeric},
-           {"shove with letters behind a good number", {"15", "5", "100x", "Full", "Full"}, kShoveNotNumeric},
-           {"dollar signs and separators pass", {"$15", "$5", "1,000", "Full", "Full"}, kNone},
-           {"values are tested before texts", {"15x", "5x", "0", "Full", "Full"}, kShoveNotPositive},
-       })
-    ExpectRaise(row);
+  ExpectRows(
+      {
+          {"a good situation passes", {"15", "5", "100", "Full", "Half Aces"}, kNone},
+          {"a call of 0 passes", {"15", "0", "100", "Full", "Full"}, kNone},
+          {"an empty call box passes", {"15", "", "100", "Full", "Full"}, kNone},
+          {"a call above the pot passes", {"15", "20", "100", "Full", "Full"}, kNone},
+          {"ranges without weight pass", {"15", "5", "100", "Nothing", "Nothing"}, kNone},
+          {"ranges are not opened", {"15", "5", "100", "Missing", "Scribble"}, kNone},
+          {"no current range", {"15", "5", "100", "", "Full"}, kNoCurrentRange},
+          {"no calling range", {"15", "5", "100", "Full", ""}, kNoCallingRange},
+          {"neither range", {"0", "-1", "0", "", ""}, kNoCurrentRange},
+          {"the calling range is missed before the pot", {"0", "5", "100", "Full", ""}, kNoCallingRange},
+          {"the pot is looked at before the call", {"0", "-1", "0", "Full", "Full"}, kRaisePotNotPositive},
+          {"the call is looked at before the shove", {"15", "-1", "0", "Full", "Full"}, kCallNegative},
+          {"letters in the pot before those in the call", {"15x", "5x", "100x", "Full", "Full"}, kRaisePotNotNumeric},
+          {"letters in the call before those in the shove", {"15", "5x", "100x", "Full", "Full"}, kRaiseCallNotNumeric},
+          {"pot 0", {"0", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
+          {"pot below 0", {"-1", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
+          {"pot of letters", {"abc", "5", "100", "Full", "Full"}, kRaisePotNotPositive},
+          {"call below 0", {"15", "-1", "100", "Full", "Full"}, kCallNegative},
+          {"shove 0, under the pot's title", {"15", "5", "0", "Full", "Full"}, kShoveNotPositive},
+          {"shove below 0", {"15", "5", "-1", "Full", "Full"}, kShoveNotPositive},
+          {"shove empty", {"15", "5", "", "Full", "Full"}, kShoveNotPositive},
+          {"pot with letters behind a good number", {"15x", "5", "100", "Full", "Full"}, kRaisePotNotNumeric},
+          {"call with letters behind a good number", {"15", "5x", "100", "Full", "Full"}, kRaiseCallNotNumeric},
+          {"call of letters is a good 0 but no number", {"15", "abc", "100", "Full", "Full"}, kRaiseCallNotNumeric},
+          {"call of one blank is not empty", {"15", " ", "100", "Full", "Full"}, kRaiseCallNotNumeric},
+          {"shove with letters behind a good number", {"15", "5", "100x", "Full", "Full"}, kShoveNotNumeric},
+          {"dollar signs and separators pass", {"$15", "$5", "1,000", "Full", "Full"}, kNone},
+          {"values are tested before texts", {"15x", "5x", "0", "Full", "Full"}, kShoveNotPositive},
+      },
+      CheckRaiseInputs);
 }
 
 TEST_F(InputChecks, EquityOnly) {
-  for (const Row& row : std::vector<Row>{
-           {"a range with weight passes", {"", "", "", "Half Aces", ""}, kNone},
-           {"amounts do not matter", {"abc", "-5", "x", "Full", ""}, kNone},
-           {"no range chosen", {"", "", "", "", ""}, {"Select Range", "Please select a range for your opponent."}},
-           {"a range without weight",
-            {"", "", "", "Nothing", ""},
-            {"Empty Range", "Your opponent's range is empty. Please select another range."}},
-       })
-    ExpectEquity(row);
+  ExpectRows(
+      {
+          {"a range with weight passes", {"", "", "", "Half Aces", ""}, kNone},
+          {"amounts do not matter", {"abc", "-5", "x", "Full", ""}, kNone},
+          {"no range chosen",
+           {"", "", "", "", ""},
+           Complaint{"Select Range", "Please select a range for your opponent."}},
+          {"a range without weight",
+           {"", "", "", "Nothing", ""},
+           Complaint{"Empty Range", "Your opponent's range is empty. Please select another range."}},
+      },
+      CheckEquityInputs);
 }
 
 TEST_F(InputChecks, EquityOnlyFailsOnARangeThatCannotBeRead) {
   EXPECT_EQ(FaultNumberOf("Missing", CheckEquityInputs), 9);
   EXPECT_EQ(FaultNumberOf("Hollow", CheckEquityInputs), 9);
   EXPECT_EQ(FaultNumberOf("Scribble", CheckEquityInputs), 5);
-}
-
-TEST_F(InputChecks, EachScenarioReadsItsOwnBoxesAndLists) {
-  class Indexes : public RecordingWindow {
-   public:
-    using RecordingWindow::RecordingWindow;
-    [[nodiscard]] std::string BoxText(std::int16_t index) const override {
-      boxes += std::to_string(index);
-      return RecordingWindow::BoxText(index);
-    }
-    [[nodiscard]] std::string SelectedRange(std::int16_t index) const override {
-      lists += std::to_string(index);
-      return RecordingWindow::SelectedRange(index);
-    }
-    mutable std::string boxes;
-    mutable std::string lists;
-  };
-  RecordedMessages messages;
-  const Situation situation{"15", "5", "100", "Full", "Full"};
-
-  Indexes call(situation, messages);
-  EXPECT_TRUE(CheckCallInputs(call, ranges_.Folder()));
-  EXPECT_EQ(call.boxes.find_first_not_of("01"), std::string::npos) << call.boxes;
-  EXPECT_EQ(call.lists, "0");
-
-  Indexes raise(situation, messages);
-  EXPECT_TRUE(CheckRaiseInputs(raise));
-  EXPECT_EQ(raise.boxes.find_first_not_of("234"), std::string::npos) << raise.boxes;
-  EXPECT_EQ(raise.lists, "12");
-
-  Indexes equity(situation, messages);
-  EXPECT_TRUE(CheckEquityInputs(equity, ranges_.Folder()));
-  EXPECT_EQ(equity.boxes, "");
-  EXPECT_EQ(equity.lists, "3");
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
 #include "analysis/dealt_range.h"
+#include "analysis/entered_situation.h"
 #include "analysis/range_equity.h"
 #include "analysis/range_folder.h"
 #include "hand/equity_table.h"
@@ -73,16 +73,27 @@ class PlainReference : public testing::Test {
 
   // The results table of the program, by way of range files.
   [[nodiscard]] std::string TableOf(const plain::Run& run) const {
-    ranges_.Save("Range", run.RangeFile);
-    ranges_.Save("Calling Range", run.CallingRangeFile);
-    AnalysisState state;
-    RecordedMessages messages;
-    QuietWindow window({run.Pot, run.Call, run.Shove, "Range", "Calling Range"}, messages);
-    RunAnalysis(state, static_cast<std::int16_t>(run.Scenario), window, ranges_.Folder());
-    EXPECT_TRUE(messages.Shown.empty());
-    return state.HandInfo;
+    const Situation situation = SituationFor(run);
+    const auto analysis = Analyze(situation);
+    EXPECT_EQ(Analyze(situation, NumbersOf(situation)), analysis) << "both sources agree";
+    return analysis->HandInfo;
   }
 
+ private:
+  [[nodiscard]] Situation SituationFor(const plain::Run& run) const {
+    ranges_.Save("Range", run.RangeFile);
+    ranges_.Save("Calling Range", run.CallingRangeFile);
+    const AnalysisMode mode = kScenarios.at(static_cast<std::size_t>(run.Scenario)).Mode;
+    return SituationOf(mode, {run.Pot, run.Call, run.Shove, "Range", "Calling Range"}, ranges_.Folder());
+  }
+
+  static RangeNumbers NumbersOf(const Situation& situation) {
+    static const HandNumbers hands;
+    const std::string& calling = situation.CallingRangeText;
+    return {hands, RangeWeightsOf(situation.RangeText), calling.empty() ? ClassWeights{} : RangeWeightsOf(calling)};
+  }
+
+ protected:
   RangeFolder ranges_;
 };
 

@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-QuietWindow::QuietWindow(Situation situation, MessageBoxes& messages)
+QuietWindow::QuietWindow(EnteredSituation situation, MessageBoxes& messages)
     : situation_(std::move(situation)), messages_(messages) {}
 
 std::string QuietWindow::BoxText(std::int16_t index) const {

@@ -8,24 +8,16 @@
 #include <string_view>
 
 #include "analysis/analysis_window.h"
+#include "analysis/entered_situation.h"
+#include "analysis/input_screens.h"
 
 namespace quillon {
-
-/// A situation as the user would enter it on the input screen of any of the three scenarios: amounts as the texts of
-/// their boxes, ranges by name. What a scenario does not ask for may be left empty.
-struct Situation {
-  std::string Pot;
-  std::string Call;
-  std::string Shove;
-  std::string Range;
-  std::string CallingRange;
-};
 
 /// The window that is none. Whoever wants to see some of a run derives from it and overrides those operations.
 class QuietWindow : public AnalysisWindow {
  public:
   /// Messages of the input checks go to `messages`, which must outlive the window.
-  QuietWindow(Situation situation, MessageBoxes& messages);
+  QuietWindow(EnteredSituation situation, MessageBoxes& messages);
 
   /// The situation's amount that belongs into the box; the empty text for a box of no amount.
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
@@ -36,7 +28,7 @@ class QuietWindow : public AnalysisWindow {
   [[nodiscard]] MessageBoxes& Messages() override { return messages_; }
 
   /// The situation, to be changed between runs or, from within Yield, during one.
-  [[nodiscard]] Situation& CurrentSituation() { return situation_; }
+  [[nodiscard]] EnteredSituation& CurrentSituation() { return situation_; }
 
   void ShowFrame(std::string_view /*name*/) override {}
   void ClickNav(std::int16_t /*index*/) override {}
@@ -52,7 +44,7 @@ class QuietWindow : public AnalysisWindow {
   void PresentResults(const AnalysisState& /*state*/) override {}
 
  private:
-  Situation situation_;
+  EnteredSituation situation_;
   MessageBoxes& messages_;
 };
 

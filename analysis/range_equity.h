@@ -4,11 +4,41 @@
 // each counted by its weight. The table of equities is one of class against class, so which suits survive decides how
 // much a class counts and nothing else.
 
+#include <algorithm>
 #include <string_view>
 
 #include "analysis/dealt_range.h"
+#include "support/rounding.h"
 
 namespace quillon {
+
+/// The sums over an opponent's concrete hands, added one by one. Their order decides the last digits, so it is the
+/// order of the deck, wherever weights and equities come from.
+class RangeSums {
+ public:
+  /// A hand that he holds with one weight and plays on with another, the same or smaller; `equity` is the hero's
+  /// against it. It counts for the equity only if it is played on with a weight above 0, and may be anything finite
+  /// otherwise.
+  void Add(double held, double played, double equity) {
+    const double counted = std::max(played, 0.0);  // what adds 0 changes no digit
+    held_ += held;
+    played_ += played;
+    counted_ += counted;
+    weightedEquity_ += counted * equity;
+  }
+
+  [[nodiscard]] double Held() const { return held_; }
+  [[nodiscard]] double Played() const { return played_; }
+
+  /// The mean equity. RunTimeError "Overflow" if nothing is played.
+  [[nodiscard]] double Equity() const { return Divide(weightedEquity_, counted_); }
+
+ private:
+  double held_ = 0;
+  double played_ = 0;
+  double counted_ = 0;
+  double weightedEquity_ = 0;
+};
 
 /// The equity, 0 to 1, of the class `heroLabel` against a dealt range:
 ///

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "hand/hand_classes.h"
 #include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
@@ -46,6 +47,23 @@ std::string_view CellOf(std::string_view row, std::int16_t column) {
 
 double ValueOf(std::string_view row, std::int16_t column) {
   return LeadingNumber(CellOf(row, column));
+}
+
+// The first row with the key `label`, empty if there is none. A report asks some hundred times: looking for the label,
+// and then whether it is a row's key, goes over many bytes at a time where a walk from row to row goes over one.
+std::string_view RowOf(std::string_view table, std::string_view label) {
+  std::size_t from = 0;
+  while (from <= table.size()) {
+    const std::size_t found = FindText(table.substr(from), label);
+    if (found == std::string_view::npos) break;
+    const std::size_t place = from + found;
+    if (BeginsRow(table, place)) {
+      const std::string_view row = RowAt(table, place);
+      if (!row.empty() && KeyOf(row) == label) return row;
+    }
+    from = place + 1;
+  }
+  return {};
 }
 
 void AppendTabs(std::string& table, int count) {
@@ -95,20 +113,22 @@ std::string SetHandInfo(std::string_view table, std::string_view label, std::int
 }
 
 double GetHandInfo(std::string_view table, std::string_view label, std::int16_t column) {
-  // A report asks some hundred times. Looking for the label, and then whether it is a row's key, goes over many bytes
-  // at a time where a walk from row to row goes over one.
-  std::size_t from = 0;
-  while (from <= table.size()) {
-    const std::size_t found = FindText(table.substr(from), label);
-    if (found == std::string_view::npos) break;
-    const std::size_t place = from + found;
-    if (BeginsRow(table, place)) {
-      const std::string_view row = RowAt(table, place);
-      if (!row.empty() && KeyOf(row) == label) return ValueOf(row, column);
-    }
-    from = place + 1;
-  }
-  return 0;
+  return ValueOf(RowOf(table, label), column);
+}
+
+HandResult GetHandResult(std::string_view table, std::string_view label) {
+  const std::string_view row = RowOf(table, label);
+  return {.Label = label,
+          .Combos = ComboCount(label),
+          .ExpectedValue = ValueOf(row, kExpectedValueColumn),
+          .Equity = ValueOf(row, kEquityColumn),
+          .FoldShare = ValueOf(row, kFoldShareColumn)};
+}
+
+std::string ResultRow(const HandResult& result) {
+  std::string row = SetHandInfo({}, result.Label, kExpectedValueColumn, result.ExpectedValue, kLastColumn);
+  row = SetHandInfo(row, result.Label, kEquityColumn, result.Equity, kLastColumn);
+  return SetHandInfo(row, result.Label, kFoldShareColumn, result.FoldShare, kLastColumn);
 }
 
 std::string BestHand(std::string_view table, std::int16_t column) {

@@ -25,6 +25,17 @@ inline constexpr std::int16_t kEquityColumn = 2;
 inline constexpr std::int16_t kFoldShareColumn = 3;
 inline constexpr std::int16_t kLastColumn = 3;
 
+/// What an analysis says of one class: a row of the table as values.
+struct HandResult {
+  std::string_view Label{};
+  std::int16_t Combos = 0;  // how many concrete hands the class has
+  double ExpectedValue = 0;
+  double Equity = 0;
+  double FoldShare = 0;
+
+  bool operator==(const HandResult&) const = default;
+};
+
 /// The table with `value` added to cell `column` of the row that has the key `label`; an empty cell counts as 0, so
 /// what is written twice adds up. The row comes out with the cells 0 to `lastColumn`, each followed by a tab, and cells
 /// beyond are dropped. If there is no such row, one with that cell alone is put at the end:
@@ -41,6 +52,15 @@ inline constexpr std::int16_t kLastColumn = 3;
 /// The leading number of cell `column` in the first row with the key `label`, a last row without line end included; 0
 /// if there is no such row.
 [[nodiscard]] double GetHandInfo(std::string_view table, std::string_view label, std::int16_t column);
+
+/// The row with the key `label` as values, each as GetHandInfo reads it. `label` must outlive the result.
+[[nodiscard]] HandResult GetHandResult(std::string_view table, std::string_view label);
+
+/// The finished row of a class, made by three calls of SetHandInfo; a table is such rows one after the other. Fails as
+/// SetHandInfo does.
+///
+///     {"AA", 6, 120, 0.85, 1} -> "AA\t120\t0.85\t1\t\r\n"
+[[nodiscard]] std::string ResultRow(const HandResult& result);
 
 /// The label of a row with a high value in `column`, the empty text if no value is above -10000. It is not always the
 /// highest: the best value so far is kept rounded to a whole number, ties to even, so a later row that is a little

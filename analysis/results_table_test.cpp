@@ -183,5 +183,17 @@ TEST(ResultsTable, EveryCellOfAFinishedTableReadsBack) {
   EXPECT_EQ(WorstHand(table, 1), "AA");
 }
 
+TEST(ResultRow, IsTheFinishedRow) {
+  EXPECT_EQ(ResultRow({"AA", 6, 120, 0.85, 1}), "AA\t120\t0.85\t1\t\r\n");
+  EXPECT_EQ(ResultRow({"72o", 12, -25.32, -1, 0.0}), "72o\t-25.32\t-1\t0\t\r\n");
+}
+
+TEST(GetHandResult, ReadsARow) {
+  const std::string table = ResultRow({"AA", 6, 120, 0.85, 1}) + ResultRow({"AKs", 4, -0.5, 0.25, 0.1});
+  EXPECT_EQ(GetHandResult(table, "AA"), (HandResult{"AA", 6, 120, 0.85, 1}));
+  EXPECT_EQ(GetHandResult(table, "AKs"), (HandResult{"AKs", 4, -0.5, 0.25, 0.1}));
+  EXPECT_EQ(GetHandResult(table, "AKo"), (HandResult{"AKo", 12, 0, 0, 0})) << "no row";
+}
+
 }  // namespace
 }  // namespace quillon

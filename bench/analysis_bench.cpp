@@ -3,52 +3,56 @@
 
 #include <benchmark/benchmark.h>
 #include <string>
-#include <string_view>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/analysis.h"
 #include "hand/equity_table.h"
-#include "ranges/range_files.h"
 #include "testing/oracle/runs.h"
 #include "testing/range_texts.h"
-#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
 
-constexpr std::string_view kFullRange = "Everything";
+Situation FullRange(AnalysisMode mode) {
+  Situation situation;
+  situation.Mode = mode;
+  situation.PotSize = 150;
+  situation.CallAmount = 50;
+  situation.ShoveAmount = 400;
+  situation.RangeText = EveryHandAt(1);
+  situation.CallingRangeText = situation.RangeText;
+  return situation;
+}
 
-class NoMessages final : public MessageBoxes {
- public:
-  MessageAnswer Show(const Message& /*message*/) override { return MessageAnswer::kOk; }
-};
-
-void RunFullRange(benchmark::State& timing, std::int16_t button) {
+void RunFullRange(benchmark::State& timing, AnalysisMode mode) {
   LoadEquityTable();
-  const TemporaryProgram program;
-  SaveRangeText(program.Folder(), kFullRange, EveryHandAt(1));
-  NoMessages messages;
-  QuietWindow window({"150", "50", "400", std::string(kFullRange), std::string(kFullRange)}, messages);
-  while (timing.KeepRunning()) {
-    AnalysisState state;
-    RunAnalysis(state, button, window, program.Folder());
-    benchmark::DoNotOptimize(state.HandInfo);
-    if (state.HandInfo.empty()) timing.SkipWithError("the run did not finish");
-  }
+  const Situation situation = FullRange(mode);
+  while (timing.KeepRunning())
+    benchmark::DoNotOptimize(Analyze(situation));
 }
 
 void PreflopCall(benchmark::State& timing) {
-  RunFullRange(timing, 0);
+  RunFullRange(timing, AnalysisMode::kPreflopCall);
 }
 void PreflopRaise(benchmark::State& timing) {
-  RunFullRange(timing, 1);
+  RunFullRange(timing, AnalysisMode::kPreflopRaise);
 }
 void EquityOnly(benchmark::State& timing) {
-  RunFullRange(timing, 2);
+  RunFullRange(timing, AnalysisMode::kEquityOnly);
 }
 BENCHMARK(PreflopCall)->Unit(benchmark::kMillisecond);
 BENCHMARK(PreflopRaise)->Unit(benchmark::kMillisecond);
 BENCHMARK(EquityOnly)->Unit(benchmark::kMillisecond);
+
+// Each with ranges of its own, read once, as in a batch.
+void PreflopRaiseFromNumbers(benchmark::State& timing) {
+  LoadEquityTable();
+  const HandNumbers hands;
+  const Situation situation = FullRange(AnalysisMode::kPreflopRaise);
+  const ClassWeights weights = RangeWeightsOf(situation.RangeText);
+  while (timing.KeepRunning())
+    benchmark::DoNotOptimize(Analyze(situation, RangeNumbers(hands, weights, weights)));
+}
+BENCHMARK(PreflopRaiseFromNumbers)->Unit(benchmark::kMillisecond);
 
 void RunPlain(benchmark::State& timing, const plain::Run& run) {
   while (timing.KeepRunning())

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
 #include "results/report.h"
@@ -17,8 +17,8 @@ namespace quillon {
 namespace {
 
 // Both ranges full, and every hand with figures of its own.
-AnalysisState FinishedRaise() {
-  AnalysisState state = sample::RaiseState();
+Analysis FinishedRaise() {
+  Analysis state = sample::RaiseState();
   state.RangeText = EveryHandAt(1);
   state.CallingRangeText = state.RangeText;
   state.HandInfo.clear();
@@ -33,7 +33,7 @@ AnalysisState FinishedRaise() {
 }
 
 void BuildReports(benchmark::State& timing, ReportForm form) {
-  AnalysisState state = FinishedRaise();
+  Analysis state = FinishedRaise();
   while (timing.KeepRunning()) {
     RecordingReportScreen screen;
     screen.Form = form;

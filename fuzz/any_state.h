@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "analysis/results_table.h"
 #include "fuzz/fuzz_target.h"
 #include "hand/hand_classes.h"
@@ -51,8 +51,8 @@ inline std::string AnyResults(FuzzInput& input) {
   return table;
 }
 
-inline AnalysisState AnyState(FuzzInput& input) {
-  AnalysisState state;
+inline Analysis AnyState(FuzzInput& input) {
+  Analysis state;
   state.Mode = static_cast<AnalysisMode>(input.TakeBelow(4));
   state.PotSize = AnyAmount(input);
   state.CallAmount = AnyAmount(input);

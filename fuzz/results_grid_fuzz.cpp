@@ -47,7 +47,7 @@ class Panel final : public HoverWindow {
   bool Shown = false;
 };
 
-void CheckColors(const AnalysisState& state) {
+void CheckColors(const Analysis& state) {
   const std::array<Rgb, kHandClassCount> colors = GridColors(state);
   if (state.Mode == AnalysisMode::kEquityOnly) return;
   const plain::ResultsTable table(state.HandInfo);
@@ -59,7 +59,7 @@ void CheckColors(const AnalysisState& state) {
   }
 }
 
-void CheckTexts(const AnalysisState& state, bool twice) {
+void CheckTexts(const Analysis& state, bool twice) {
   try {
     const GridTexts texts = MakeGridTexts(state);
     Require(texts.LegendVisible == (state.Mode != AnalysisMode::kEquityOnly), "equities have no legend");
@@ -69,7 +69,7 @@ void CheckTexts(const AnalysisState& state, bool twice) {
   }
 }
 
-void CheckHover(const AnalysisState& state, std::int16_t index) {
+void CheckHover(const Analysis& state, std::int16_t index) {
   Panel panel;
   panel.Hand = "none";
   try {
@@ -94,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FuzzInput input(data, size);
   const ChecksOfRun checks(input, 3);
   const auto index = static_cast<std::int16_t>(input.TakeBelow(kHandClassCount));
-  const AnalysisState state = AnyState(input);
+  const Analysis state = AnyState(input);
   if (checks.Has(0)) CheckColors(state);
   if (checks.Has(1)) CheckTexts(state, checks.All());
   if (checks.Has(2)) CheckHover(state, index);

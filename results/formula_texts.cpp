@@ -10,15 +10,15 @@ std::string RoundedText(double value, int digits) {
   return NumberText(RoundTo(value, digits));
 }
 
-std::string ShoveFormulaText(const AnalysisState& state, double foldShare, double equity) {
-  const std::string fold = RoundedText(foldShare, 4);
-  const std::string pot = RoundedText(state.PotSize, 2);
-  const std::string call = RoundedText(state.CallAmount, 2);
+std::string ShoveFormulaText(const Analysis& analysis, const HandResult& hand) {
+  const std::string fold = RoundedText(hand.FoldShare, 4);
+  const std::string pot = RoundedText(analysis.PotSize, 2);
+  const std::string call = RoundedText(analysis.CallAmount, 2);
 
-  const std::string whenFolded = Joined({"(", fold, "*", RoundedText(state.PotSize, 4), ")"});
-  const std::string everything = Joined({"(", pot, "+", call, "+2*", RoundedText(state.ShoveAmount, 0), ")"});
-  const std::string invested = Joined({"(", call, "+", RoundedText(state.ShoveAmount, 2), ")"});
-  return Joined({whenFolded, "+(1-", fold, ")*(", RoundedText(equity, 7), "*", everything, "-", invested, ")"});
+  const std::string whenFolded = Joined({"(", fold, "*", RoundedText(analysis.PotSize, 4), ")"});
+  const std::string everything = Joined({"(", pot, "+", call, "+2*", RoundedText(analysis.ShoveAmount, 0), ")"});
+  const std::string invested = Joined({"(", call, "+", RoundedText(analysis.ShoveAmount, 2), ")"});
+  return Joined({whenFolded, "+(1-", fold, ")*(", RoundedText(hand.Equity, 7), "*", everything, "-", invested, ")"});
 }
 
 }  // namespace quillon

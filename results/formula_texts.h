@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 
 namespace quillon {
 
@@ -13,11 +13,12 @@ namespace quillon {
 [[nodiscard]] std::string RoundedText(double value, int digits);
 
 /// What a shove is worth, with the fold share first: the pot when the opponent folds, else the equity's share of
-/// everything less the money put in. The number of decimals differs from term to term and is meant so: 4 for the fold
-/// share and the first pot, 7 for the equity, 0 for the doubled shove, 2 for the other amounts.
+/// everything less the money put in. Intentional: the number of decimals differs from term to term, as in the posts
+/// that players compare with: 4 for the fold share and the first pot, 7 for the equity, 0 for the doubled shove, 2 for
+/// the other amounts.
 ///
 ///     pot 150, call 50, shove 100, fold share 0.4, equity 0.55 ->
 ///     "(0.4*150)+(1-0.4)*(0.55*(150+50+2*100)-(50+100))"
-[[nodiscard]] std::string ShoveFormulaText(const AnalysisState& state, double foldShare, double equity);
+[[nodiscard]] std::string ShoveFormulaText(const Analysis& analysis, const HandResult& hand);
 
 }  // namespace quillon

@@ -54,11 +54,11 @@ TEST(ShoveFormulaText, RoundsEachTermToItsOwnDecimals) {
       {"an opponent who never calls", 150, 0, 100, 1, -1, "(1*150)+(1-1)*(-1*(150+0+2*100)-(0+100))"},
   };
   for (const Case& c : cases) {
-    AnalysisState state;
+    Analysis state;
     state.PotSize = c.pot;
     state.CallAmount = c.call;
     state.ShoveAmount = c.shove;
-    EXPECT_EQ(ShoveFormulaText(state, c.foldShare, c.equity), c.text) << c.rule;
+    EXPECT_EQ(ShoveFormulaText(state, {.Equity = c.equity, .FoldShare = c.foldShare}), c.text) << c.rule;
   }
 }
 

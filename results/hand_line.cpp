@@ -5,6 +5,7 @@
 
 #include "analysis/results_table.h"
 #include "results/formula_texts.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 
 namespace quillon {
@@ -14,49 +15,43 @@ std::string SignedMoneyText(double value) {
   return (value > 0 ? "+" : "") + RoundedText(value, 2);
 }
 
-std::string CallText(const AnalysisState& state, const std::string& hand) {
-  const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
-  const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
-  return "EV for " + hand + " = " + RoundedText(equity, 4) + " * (" + NumberText(state.PotSize + state.CallAmount) +
-         ") - " + NumberText(state.CallAmount) + " = " + SignedMoneyText(expectedValue);
+std::string CallText(const Analysis& analysis, const HandResult& hand) {
+  return Joined({"EV for ", hand.Label, " = ", RoundedText(hand.Equity, 4), " * (",
+                 NumberText(analysis.PotSize + analysis.CallAmount), ") - ", NumberText(analysis.CallAmount), " = ",
+                 SignedMoneyText(hand.ExpectedValue)});
 }
 
-std::string RaiseText(const AnalysisState& state, const std::string& hand) {
-  const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
-  const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
-  const double foldShare = GetHandInfo(state.HandInfo, hand, kFoldShareColumn);
-  return "EV for " + hand + " = " + ShoveFormulaText(state, foldShare, equity) + " = " + SignedMoneyText(expectedValue);
+std::string RaiseText(const Analysis& analysis, const HandResult& hand) {
+  return Joined(
+      {"EV for ", hand.Label, " = ", ShoveFormulaText(analysis, hand), " = ", SignedMoneyText(hand.ExpectedValue)});
 }
 
-std::string EquityText(const AnalysisState& state, const std::string& hand) {
-  return "Equity for " + hand + " : " + NumberText(GetHandInfo(state.HandInfo, hand, kEquityColumn));
+std::string EquityText(const Analysis& /*analysis*/, const HandResult& hand) {
+  return Joined({"Equity for ", hand.Label, " : ", NumberText(hand.Equity)});
 }
 
-// Empty before any analysis.
-std::string WorkingText(const AnalysisState& state, const std::string& hand) {
-  switch (state.Mode) {
-    case AnalysisMode::kPreflopCall:
-      return CallText(state, hand);
-    case AnalysisMode::kPreflopRaise:
-      return RaiseText(state, hand);
-    case AnalysisMode::kEquityOnly:
-      return EquityText(state, hand);
-    case AnalysisMode::kNone:
-      break;
-  }
-  return {};
-}
+struct WorkingRow {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::string (*Text)(const Analysis& analysis, const HandResult& hand) = nullptr;
+};
+
+constexpr ScenarioTable<WorkingRow> kWorkings = {{
+    {AnalysisMode::kPreflopCall, CallText},
+    {AnalysisMode::kPreflopRaise, RaiseText},
+    {AnalysisMode::kEquityOnly, EquityText},
+}};
+static_assert(CoversEveryScenario(kWorkings));
 
 }  // namespace
 
-void AddSpecificHand(ReportBox& box, const AnalysisState& state, std::string_view hand) {
+void AddSpecificHand(ReportBox& box, const Analysis& analysis, std::string_view hand) {
   constexpr std::int16_t kSize = 10;
 
-  if (hand == "None") return;
-  const std::string working = WorkingText(state, std::string(hand));
-  if (working.empty()) return;
+  const WorkingRow* const row = FindRow(kWorkings, analysis.Mode);
+  if (row == nullptr || hand == "None") return;
 
   SetReportFont(box, kFixedWidthFontCode, kSize, kBlack);
+  const std::string working = row->Text(analysis, GetHandResult(analysis.HandInfo, hand));
   std::string line = "\r\n[COLOR=\"DimGray\"]" + working + "[/COLOR]";
   AppendReportLine(box, line, kNameColumn);
 }

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "results/report_box.h"
 
 namespace quillon {
@@ -17,6 +17,6 @@ namespace quillon {
 ///     Preflop Call:  EV for AA = 0.8523 * (200) - 50 = +120.46
 ///     Preflop Raise: EV for AKs = (0.4*150)+(1-0.4)*(0.55*(150+50+2*100)-(50+100)) = +98.2
 ///     Equity Only:   Equity for AA : 0.8523      (with a tab behind the colon)
-void AddSpecificHand(ReportBox& box, const AnalysisState& state, std::string_view hand);
+void AddSpecificHand(ReportBox& box, const Analysis& analysis, std::string_view hand);
 
 }  // namespace quillon

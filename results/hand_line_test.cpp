@@ -16,21 +16,21 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 // What is written for one hand with the given cells: expected value, equity, fold share.
-std::string LineFor(AnalysisState state, std::string_view hand, std::string_view cells) {
+std::string LineFor(Analysis state, std::string_view hand, std::string_view cells) {
   state.HandInfo = sample::ResultsTable({{hand, cells}}, "7\t0.7\t0.7");
   RecordingReportScreen screen;
   AddSpecificHand(screen, state, hand);
   return screen.Text;
 }
 
-AnalysisState ShoveOf(double shove) {
-  AnalysisState state = sample::RaiseState();
+Analysis ShoveOf(double shove) {
+  Analysis state = sample::RaiseState();
   state.ShoveAmount = shove;
   return state;
 }
 
-AnalysisState CallFor(double pot, double call) {
-  AnalysisState state = sample::CallState();
+Analysis CallFor(double pot, double call) {
+  Analysis state = sample::CallState();
   state.PotSize = pot;
   state.CallAmount = call;
   return state;
@@ -38,7 +38,7 @@ AnalysisState CallFor(double pot, double call) {
 
 struct LineCase {
   const char* rule;
-  AnalysisState state;
+  Analysis state;
   const char* hand;
   const char* cells;
   const char* line;  // without line breaks and mark-up
@@ -84,7 +84,7 @@ TEST(HandLine, IsBlackCourierOfTenPoints) {
 }
 
 TEST(HandLine, NoneAddsNothing) {
-  for (const AnalysisState& state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+  for (const Analysis& state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
     RecordingReportScreen screen;
     AddSpecificHand(screen, state, "None");
     EXPECT_THAT(screen.Calls, IsEmpty());
@@ -93,7 +93,7 @@ TEST(HandLine, NoneAddsNothing) {
 
 TEST(HandLine, BeforeAnyAnalysisThereIsNoWorking) {
   RecordingReportScreen screen;
-  AddSpecificHand(screen, AnalysisState{}, "AA");
+  AddSpecificHand(screen, Analysis{}, "AA");
   EXPECT_THAT(screen.Calls, IsEmpty());
 }
 
@@ -106,7 +106,7 @@ TEST(HandLine, GoesInAtTheCaretAndNotAtTheEnd) {
 }
 
 TEST(HandLine, EachPickAddsALineUntilTheReportIsBuiltAfresh) {
-  AnalysisState state = sample::EquityState();
+  Analysis state = sample::EquityState();
   RecordingReportScreen screen;
   screen.Form = ReportForm::kForum;
   BuildReport(screen, state);

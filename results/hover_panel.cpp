@@ -11,20 +11,6 @@
 namespace quillon {
 namespace {
 
-struct HandFigures {
-  std::string_view Hand;
-  double ExpectedValue;
-  double Equity;
-  double FoldShare;
-};
-
-HandFigures FiguresOf(std::string_view hand, std::string_view table) {
-  return {.Hand = hand,
-          .ExpectedValue = GetHandInfo(table, hand, kExpectedValueColumn),
-          .Equity = GetHandInfo(table, hand, kEquityColumn),
-          .FoldShare = GetHandInfo(table, hand, kFoldShareColumn)};
-}
-
 std::string PercentText(double share, int digits) {
   return RoundedText(share * 100, digits) + "%";
 }
@@ -50,53 +36,44 @@ std::string_view AdviceOn(double expectedValue) {
   return expectedValue > 0 ? "You should go ALL IN" : "FOLD or ALL IN";
 }
 
-void FillMove(const HandFigures& figures, const AnalysisState& state, HoverWindow& window) {
-  const bool raise = state.Mode == AnalysisMode::kPreflopRaise;
-  window.SetHoverPicture(figures.ExpectedValue > 0 ? HoverPicture::kGreen : HoverPicture::kRed);
-  window.SetHoverHand(figures.Hand);
+void FillMove(const HandResult& result, const Scenario& scenario, double callAmount, HoverWindow& window) {
+  const bool raise = scenario.HasCallingRange;
+  window.SetHoverPicture(result.ExpectedValue > 0 ? HoverPicture::kGreen : HoverPicture::kRed);
+  window.SetHoverHand(result.Label);
   window.SetHoverFoldLineVisible(raise);
-  if (raise) window.SetHoverFoldShare(PercentText(figures.FoldShare, 2));
+  if (raise) window.SetHoverFoldShare(PercentText(result.FoldShare, 2));
   window.SetHoverEquityTitle(raise ? "Equity when Called:" : "Equity:");
-  window.SetHoverEquity(EquityText(figures.Equity));
-  window.SetHoverValue(ValueText(figures.ExpectedValue));
-  window.SetHoverReturn(ReturnText(figures.ExpectedValue, state.CallAmount));
-  window.SetHoverAdvice(AdviceOn(figures.ExpectedValue));
+  window.SetHoverEquity(EquityText(result.Equity));
+  window.SetHoverValue(ValueText(result.ExpectedValue));
+  window.SetHoverReturn(ReturnText(result.ExpectedValue, callAmount));
+  window.SetHoverAdvice(AdviceOn(result.ExpectedValue));
 }
 
-void FillEquity(const HandFigures& figures, HoverWindow& window) {
+void FillEquity(const HandResult& result, HoverWindow& window) {
   constexpr double kGoodEquity = 0.25;
-  window.SetHoverHand(figures.Hand);
+  window.SetHoverHand(result.Label);
   window.SetHoverPicture(HoverPicture::kBlue);
   window.SetHoverEquityTitle("Equity:");
-  // Unlike the other scenarios this one rounds before it multiplies, and -1 is a number to it as any other. It is
-  // meant.
-  window.SetHoverEquity(NumberText(RoundTo(figures.Equity, 4) * 100) + "%");
-  window.SetHoverAdvice(figures.Equity >= kGoodEquity ? ":)" : ":(");
-}
-
-void FillHover(std::string_view hand, const AnalysisState& state, HoverWindow& window) {
-  const HandFigures figures = FiguresOf(hand, state.HandInfo);
-  switch (state.Mode) {
-    case AnalysisMode::kPreflopCall:
-    case AnalysisMode::kPreflopRaise:
-      return FillMove(figures, state, window);
-    case AnalysisMode::kEquityOnly:
-      return FillEquity(figures, window);
-    case AnalysisMode::kNone:
-      return;
-  }
+  // Intentional: unlike the other scenarios this one rounds before it multiplies, and -1 is a number to it as any
+  // other.
+  window.SetHoverEquity(NumberText(RoundTo(result.Equity, 4) * 100) + "%");
+  window.SetHoverAdvice(result.Equity >= kGoodEquity ? ":)" : ":(");
 }
 
 }  // namespace
 
-void ShowHandHover(std::int16_t index, const AnalysisState& state, HoverWindow& window) {
-  if (state.HandInfo.empty()) return;
+void ShowHandHover(std::int16_t index, const Analysis& analysis, HoverWindow& window) {
+  const Scenario* const scenario = FindRow(kScenarios, analysis.Mode);
+  if (scenario == nullptr || analysis.HandInfo.empty()) return;
 
-  const std::string_view hand = HandLabel(index);
-  const bool equityOnly = state.Mode == AnalysisMode::kEquityOnly;
-  window.SetHoverValueLinesVisible(!equityOnly);
-  if (equityOnly) window.SetHoverFoldLineVisible(false);
-  if (window.HoverHand() != hand) FillHover(hand, state, window);
+  const HandResult result = GetHandResult(analysis.HandInfo, HandLabel(index));
+  const bool hasValue = scenario->HasExpectedValue();
+  window.SetHoverValueLinesVisible(hasValue);
+  if (!hasValue) window.SetHoverFoldLineVisible(false);
+  if (window.HoverHand() != result.Label) {
+    if (hasValue) FillMove(result, *scenario, analysis.CallAmount, window);
+    if (!hasValue) FillEquity(result, window);
+  }
   PlaceHover(index, window);
 }
 

@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "support/twips.h"
 
 namespace quillon {
@@ -66,7 +66,7 @@ class HoverWindow {
 ///
 /// The return is the expected value over the call amount, in a shove too. Where it is no finite number, as with nothing
 /// to call, its line reads "N/A"; so does the equity line of a hand that nobody calls, whose equity is -1.
-void ShowHandHover(std::int16_t index, const AnalysisState& state, HoverWindow& window);
+void ShowHandHover(std::int16_t index, const Analysis& analysis, HoverWindow& window);
 
 /// Moves the panel to the cell and brings it up.
 void PlaceHover(std::int16_t index, HoverWindow& window);

@@ -6,14 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/analysis.h"
 #include "analysis/range_folder.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
 #include "support/run_time_error.h"
-#include "testing/recorded_messages.h"
 #include "testing/sample_analysis.h"
 
 namespace quillon {
@@ -81,25 +79,25 @@ class RecordedHover final : public HoverWindow {
   }
 };
 
-void Hover(std::string_view hand, const AnalysisState& state, RecordedHover& window) {
+void Hover(std::string_view hand, const Analysis& state, RecordedHover& window) {
   ShowHandHover(HandIndex(hand), state, window);
 }
 
-RecordedHover HoverOver(std::string_view hand, const AnalysisState& state) {
+RecordedHover HoverOver(std::string_view hand, const Analysis& state) {
   RecordedHover window;
   Hover(hand, state, window);
   return window;
 }
 
 // The state of one scenario with the row of KQs as given: "value, tab, equity, tab, fold share".
-AnalysisState WithCells(AnalysisState state, std::string_view cells) {
+Analysis WithCells(Analysis state, std::string_view cells) {
   state.HandInfo = sample::ResultsTable({{"KQs", cells}}, "7\t0.7\t0.7");
   return state;
 }
 
 TEST(HoverPanel, BeforeAnyAnalysisNothingHappens) {
   for (const AnalysisMode mode : {AnalysisMode::kNone, AnalysisMode::kPreflopCall, AnalysisMode::kEquityOnly}) {
-    AnalysisState state;
+    Analysis state;
     state.Mode = mode;
     EXPECT_THAT(HoverOver("KQs", state).Calls, IsEmpty());
   }
@@ -171,7 +169,7 @@ TEST(HoverPanel, NumbersAndVerdictFollowTheTable) {
       {"and the other way", "0.375\t0.5\t1", "green", "50%", "+0.375", "0.8%", "You should go ALL IN"},
   };
   for (const MoveCase& c : cases) {
-    for (const AnalysisState& state : {sample::CallState(), sample::RaiseState()}) {
+    for (const Analysis& state : {sample::CallState(), sample::RaiseState()}) {
       const RecordedHover window = HoverOver("KQs", WithCells(state, c.cells));
       EXPECT_EQ(window.Hand, "KQs") << c.rule;
       EXPECT_EQ(window.Picture, c.picture) << c.rule;
@@ -198,7 +196,7 @@ TEST(HoverPanel, FoldShareIsRoundedToTwoDecimalsOfPercent) {
 }
 
 TEST(HoverPanel, ReturnIsMeasuredByTheCallAmountAlone) {
-  AnalysisState state = WithCells(sample::RaiseState(), "100\t0.5\t0.5");
+  Analysis state = WithCells(sample::RaiseState(), "100\t0.5\t0.5");
   state.CallAmount = 80;
   state.ShoveAmount = 1000;
   EXPECT_EQ(HoverOver("KQs", state).Return, "125%");
@@ -221,7 +219,7 @@ TEST(HoverPanel, ReturnThatIsNoNumberReadsAsSuch) {
       {"a negative amount is one", "150\t0.5\t0.5", -100, "+150", "-150%"},
   };
   for (const Case& c : cases) {
-    AnalysisState state = WithCells(sample::RaiseState(), c.cells);
+    Analysis state = WithCells(sample::RaiseState(), c.cells);
     state.CallAmount = c.call;
     const RecordedHover window = HoverOver("KQs", state);
     EXPECT_EQ(window.Value, c.value) << c.rule;
@@ -371,14 +369,12 @@ TEST(PlaceHover, MovesThePanelToItsCellAndBringsItUp) {
 // Shoves with nothing to call pass the input checks, and each of their hands can be hovered.
 TEST(HoverPanel, RealShoveWithNothingToCallHoversEveryHand) {
   LoadEquityTable();
-  const RangeFolder ranges;
-  ranges.Save("Tight", RangeWith({{"AA", 1}, {"KK", 1}, {"AKs", 0.5}}));
-  RecordedMessages messages;
-  QuietWindow situation({.Pot = "150", .Call = "0", .Shove = "62.5", .Range = "Tight", .CallingRange = "Tight"},
-                        messages);
-  AnalysisState state;
-  RunAnalysis(state, 1, situation, ranges.Folder());
-  ASSERT_FALSE(state.HandInfo.empty());
+  const std::string range = RangeWith({{"AA", 1}, {"KK", 1}, {"AKs", 0.5}});
+  const Analysis state = *Analyze({.Mode = AnalysisMode::kPreflopRaise,
+                                   .PotSize = 150,
+                                   .ShoveAmount = 62.5,
+                                   .RangeText = range,
+                                   .CallingRangeText = range});
 
   RecordedHover window;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {

@@ -36,56 +36,51 @@ class PlainReport {
     AppendReportLine(box_, text, kNameColumn);
   }
   void Line(std::string text) { AppendReportLine(box_, text, kNameColumn); }
-  void LineOf(std::string& text) { AppendReportLine(box_, text, kNameColumn); }
   void BlankLine() { Line("\r\n"); }
 
  private:
   ReportBox& box_;
 };
 
-std::string HandAndCombos(std::string_view hand) {
-  return Joined({hand, "\t", std::to_string(ComboCount(hand)), "\t"});
+std::string HandAndCombos(const HandResult& hand) {
+  return Joined({hand.Label, "\t", std::to_string(hand.Combos), "\t"});
 }
 
 // The equity column rounds half away from zero and the formula to even; the two may differ in the last digit.
-std::string CallRow(const AnalysisState& state, std::string_view hand) {
-  const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
-  const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
-  const std::string call = RoundedText(state.CallAmount, 2);
-  const std::string pot = RoundedText(state.PotSize, 2);
-  return Joined({HandAndCombos(hand), PatternText(equity, 3), "\t", MoneyColumn(expectedValue, 13),
-                 "\t=", RoundedText(equity, 3), "*(", pot, "+", call, ")-", call});
+std::string CallRow(const Analysis& analysis, const HandResult& hand) {
+  const std::string call = RoundedText(analysis.CallAmount, 2);
+  const std::string pot = RoundedText(analysis.PotSize, 2);
+  return Joined({HandAndCombos(hand), PatternText(hand.Equity, 3), "\t", MoneyColumn(hand.ExpectedValue, 13),
+                 "\t=", RoundedText(hand.Equity, 3), "*(", pot, "+", call, ")-", call});
 }
 
-std::string RaiseRow(const AnalysisState& state, std::string_view hand) {
-  const double expectedValue = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
-  const double equity = GetHandInfo(state.HandInfo, hand, kEquityColumn);
-  const double foldShare = GetHandInfo(state.HandInfo, hand, kFoldShareColumn);
-  return Joined({HandAndCombos(hand), "    ", PatternText(equity, 3), "\t", MoneyColumn(expectedValue, 10),
-                 "\t=", ShoveFormulaText(state, foldShare, equity)});
+std::string RaiseRow(const Analysis& analysis, const HandResult& hand) {
+  return Joined({HandAndCombos(hand), "    ", PatternText(hand.Equity, 3), "\t", MoneyColumn(hand.ExpectedValue, 10),
+                 "\t=", ShoveFormulaText(analysis, hand)});
 }
 
-std::string EquityRow(const AnalysisState& state, std::string_view hand) {
-  return HandAndCombos(hand) + NumberText(GetHandInfo(state.HandInfo, hand, kEquityColumn));
+std::string EquityRow(const Analysis& /*analysis*/, const HandResult& hand) {
+  return HandAndCombos(hand) + NumberText(hand.Equity);
 }
 
-using RowText = std::string (*)(const AnalysisState&, std::string_view hand);
+using RowText = std::string (*)(const Analysis& analysis, const HandResult& hand);
 
-void WriteRows(PlainReport& report, const AnalysisState& state, RowText rowText) {
+void WriteRows(PlainReport& report, const Analysis& analysis, RowText rowText) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    report.Line(rowText(state, HandLabel(index)));
+    report.Line(rowText(analysis, GetHandResult(analysis.HandInfo, HandLabel(index))));
 }
 
-void WritePlainCall(PlainReport& report, const AnalysisState& state) {
-  const double odds = PotOdds(state.PotSize, state.CallAmount);
+void WritePlainCall(ReportBox& box, const Analysis& analysis) {
+  PlainReport report(box);
+  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
 
   report.Heading("Situation");
   report.Body("Type: Preflop Call ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(state.PotSize, 2));
-  report.Line("Amount To Call: " + RoundedText(state.CallAmount, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.PotSize, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.CallAmount, 2));
   report.Heading("\r\n\r\nRange");
-  report.Body("Opponent Range Name: " + state.RangeName);
-  report.Line("Range: " + RangeSummary(state.RangeText));
+  report.Body("Opponent Range Name: " + analysis.RangeName);
+  report.Line("Range: " + RangeSummary(analysis.RangeText));
   report.BlankLine();
   report.Heading("Details");
   report.Body("Pot Odds: " + RoundedText(odds, 3) + " : 1");
@@ -93,54 +88,42 @@ void WritePlainCall(PlainReport& report, const AnalysisState& state) {
   report.BlankLine();
   report.Heading("Calculations");
   report.Body("Hand\tCombs\tEquity\tEV      \tFormula");
-  WriteRows(report, state, CallRow);
+  WriteRows(report, analysis, CallRow);
 }
 
-void WriteDroppedHands(PlainReport& report, AnalysisState& state) {
+void WriteDroppedHands(PlainReport& report, const Analysis& analysis) {
   report.Body("Some hands were dropped because they do not appear in the current range:");
-  report.LineOf(state.DroppedHands);
+  report.Line(analysis.DroppedHands);
   report.BlankLine();
 }
 
-void WritePlainRaise(PlainReport& report, AnalysisState& state) {
+void WritePlainRaise(ReportBox& box, const Analysis& analysis) {
+  PlainReport report(box);
   report.Heading("Situation");
   report.Body("Type: Preflop Raise ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(state.PotSize, 2));
-  report.Line("Amount To Call: " + RoundedText(state.CallAmount, 2));
-  report.Line("Amount Behind: " + RoundedText(state.ShoveAmount, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.PotSize, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.CallAmount, 2));
+  report.Line("Amount Behind: " + RoundedText(analysis.ShoveAmount, 2));
   report.Heading("\r\n\r\nRange");
-  report.Body("Current Range: " + state.RangeName);
-  report.Line("Range: " + RangeSummary(state.RangeText));
-  report.Line("Calling Range: " + state.CallingRangeName);
-  report.Line("Range: " + RangeSummary(state.CallingRangeText));
+  report.Body("Current Range: " + analysis.RangeName);
+  report.Line("Range: " + RangeSummary(analysis.RangeText));
+  report.Line("Calling Range: " + analysis.CallingRangeName);
+  report.Line("Range: " + RangeSummary(analysis.CallingRangeText));
   report.BlankLine();
-  if (!state.DroppedHands.empty()) WriteDroppedHands(report, state);
+  if (!analysis.DroppedHands.empty()) WriteDroppedHands(report, analysis);
   report.Heading("Calculations");
   report.Body("Hand\tCombs\t    Equity\t        EV\tFormula");
-  WriteRows(report, state, RaiseRow);
+  WriteRows(report, analysis, RaiseRow);
 }
 
-void WritePlainEquity(PlainReport& report, const AnalysisState& state) {
+void WritePlainEquity(ReportBox& box, const Analysis& analysis) {
+  PlainReport report(box);
   report.Heading("Range");
-  report.Body("Current Range: " + state.RangeName);
-  report.Line("Range: " + RangeSummary(state.RangeText));
+  report.Body("Current Range: " + analysis.RangeName);
+  report.Line("Range: " + RangeSummary(analysis.RangeText));
   report.Heading("\r\n\r\nCalculations");
   report.Body("Hand\tCombs\tEquity");
-  WriteRows(report, state, EquityRow);
-}
-
-void WritePlainReport(ReportBox& box, AnalysisState& state) {
-  PlainReport report(box);
-  switch (state.Mode) {
-    case AnalysisMode::kPreflopCall:
-      return WritePlainCall(report, state);
-    case AnalysisMode::kPreflopRaise:
-      return WritePlainRaise(report, state);
-    case AnalysisMode::kEquityOnly:
-      return WritePlainEquity(report, state);
-    case AnalysisMode::kNone:
-      return;
-  }
+  WriteRows(report, analysis, EquityRow);
 }
 
 void WriteForumLine(ReportBox& box, std::string text) {
@@ -148,24 +131,24 @@ void WriteForumLine(ReportBox& box, std::string text) {
 }
 
 // The hands with an expected value of 0 or more, in the notation of a range.
-std::string ProfitableHandsText(const AnalysisState& state) {
+std::string ProfitableHandsText(const Analysis& analysis) {
   std::array<double, kHandClassCount> weights{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const bool profitable = GetHandInfo(state.HandInfo, HandLabel(index), kExpectedValueColumn) >= 0;
+    const bool profitable = GetHandInfo(analysis.HandInfo, HandLabel(index), kExpectedValueColumn) >= 0;
     weights[static_cast<std::size_t>(index)] = profitable ? 1 : 0;
   }
   return RangeSummary(RangeTextOf(weights));
 }
 
 // Five hands to a line; the separator behind the last hand is cut off.
-std::string EquityBlockText(const AnalysisState& state) {
+std::string EquityBlockText(const Analysis& analysis) {
   constexpr std::int16_t kHandsPerLine = 5;
   constexpr std::size_t kSeparatorLength = 2;
 
   std::string block;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string_view hand = HandLabel(index);
-    block.append(hand).append(": ").append(RoundedText(GetHandInfo(state.HandInfo, hand, kEquityColumn), 4));
+    block.append(hand).append(": ").append(RoundedText(GetHandInfo(analysis.HandInfo, hand, kEquityColumn), 4));
     block += (index + 1) % kHandsPerLine == 0 ? "\r\n" : ", ";
   }
   block.resize(block.size() - kSeparatorLength);
@@ -176,63 +159,66 @@ void WriteForumTitle(ReportBox& box, const std::string& title) {
   WriteForumLine(box, "[URL=\"" + HomeAddress() + "\"]Quillon[/URL] - " + title + ":\r\n");
 }
 
-void WriteForumProfitableHands(ReportBox& box, const AnalysisState& state) {
+void WriteForumProfitableHands(ReportBox& box, const Analysis& analysis) {
   WriteForumLine(box, "[b][COLOR=\"DarkGreen\"]Profitable Hands:[/COLOR][/b]");
-  WriteForumLine(box, ProfitableHandsText(state));
+  WriteForumLine(box, ProfitableHandsText(analysis));
 }
 
-void WriteForumCall(ReportBox& box, const AnalysisState& state) {
-  const double odds = PotOdds(state.PotSize, state.CallAmount);
+void WriteForumCall(ReportBox& box, const Analysis& analysis) {
+  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
 
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box, "Pot Size: " + NumberText(state.PotSize) + " | To Call: " + NumberText(state.CallAmount));
+  WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount));
   // Here the break-even point is the fraction, where the plain form has the percentage; it is meant.
   WriteForumLine(box, "[COLOR=\"GRAY\"](Pot Odds: " + RoundedText(odds, 2) +
                           ":1, BEP: " + RoundedText(BreakEvenEquity(odds), 2) + ")[/COLOR]");
-  WriteForumLine(box, "Villain Range: " + RangeSummary(state.RangeText) + "\r\n");
-  WriteForumProfitableHands(box, state);
+  WriteForumLine(box, "Villain Range: " + RangeSummary(analysis.RangeText) + "\r\n");
+  WriteForumProfitableHands(box, analysis);
 }
 
-void WriteForumRaise(ReportBox& box, const AnalysisState& state) {
+void WriteForumRaise(ReportBox& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box, "Pot Size: " + NumberText(state.PotSize) + " | To Call: " + NumberText(state.CallAmount) +
-                          " | Shove Amount: " + NumberText(state.ShoveAmount));
-  WriteForumLine(box, "Villain Current Range: " + RangeSummary(state.RangeText));
-  WriteForumLine(box, "Villain Calling Range: " + RangeSummary(state.CallingRangeText) + "\r\n");
-  WriteForumProfitableHands(box, state);
+  WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount) +
+                          " | Shove Amount: " + NumberText(analysis.ShoveAmount));
+  WriteForumLine(box, "Villain Current Range: " + RangeSummary(analysis.RangeText));
+  WriteForumLine(box, "Villain Calling Range: " + RangeSummary(analysis.CallingRangeText) + "\r\n");
+  WriteForumProfitableHands(box, analysis);
 }
 
-void WriteForumEquity(ReportBox& box, const AnalysisState& state) {
+void WriteForumEquity(ReportBox& box, const Analysis& analysis) {
   WriteForumTitle(box, "Equity Analysis");
-  WriteForumLine(box, "Villain Range: " + RangeSummary(state.RangeText));
+  WriteForumLine(box, "Villain Range: " + RangeSummary(analysis.RangeText));
   WriteForumLine(box, "[COLOR=\"BLUE\"]");
-  WriteForumLine(box, EquityBlockText(state));
+  WriteForumLine(box, EquityBlockText(analysis));
   WriteForumLine(box, "[/COLOR]");
 }
 
-void WriteForumReport(ReportBox& box, const AnalysisState& state) {
-  switch (state.Mode) {
-    case AnalysisMode::kPreflopCall:
-      return WriteForumCall(box, state);
-    case AnalysisMode::kPreflopRaise:
-      return WriteForumRaise(box, state);
-    case AnalysisMode::kEquityOnly:
-      return WriteForumEquity(box, state);
-    case AnalysisMode::kNone:
-      return;
-  }
-}
+// The writers of the two forms.
+struct ReportRow {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  void (*Plain)(ReportBox& box, const Analysis& analysis) = nullptr;
+  void (*Forum)(ReportBox& box, const Analysis& analysis) = nullptr;
+};
+
+constexpr ScenarioTable<ReportRow> kReports = {{
+    {AnalysisMode::kPreflopCall, WritePlainCall, WriteForumCall},
+    {AnalysisMode::kPreflopRaise, WritePlainRaise, WriteForumRaise},
+    {AnalysisMode::kEquityOnly, WritePlainEquity, WriteForumEquity},
+}};
+static_assert(CoversEveryScenario(kReports));
 
 }  // namespace
 
-void BuildReport(ReportScreen& screen, AnalysisState& state) {
+void BuildReport(ReportScreen& screen, const Analysis& analysis) {
   screen.SetText("");
   const ReportForm form = screen.SelectedForm();
   screen.SetSpecificHandVisible(form == ReportForm::kForum);
-  if (form == ReportForm::kPlainText) return WritePlainReport(screen, state);
-  WriteForumReport(screen, state);
+  const ReportRow* const row = FindRow(kReports, analysis.Mode);
+  if (row == nullptr) return;
+  const auto write = form == ReportForm::kPlainText ? row->Plain : row->Forum;
+  write(screen, analysis);
 }
 
 }  // namespace quillon

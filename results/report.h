@@ -9,7 +9,7 @@
 #include <array>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "results/report_box.h"
 
 namespace quillon {
@@ -28,12 +28,11 @@ class ReportScreen : public ReportBox {
   virtual void SetSpecificHandVisible(bool visible) = 0;
 };
 
-/// Empties the box and writes the report of the selected form and of the state's scenario; before any analysis it only
-/// empties. The list of single hands is shown with the forum form alone.
+/// Empties the box and writes the report of the selected form and of the analysis's scenario; before any analysis it
+/// only empties. The list of single hands is shown with the forum form alone.
 ///
-/// The state is only read, but for DroppedHands: the plain form writes that very text as a line, so a colon in it would
-/// gain a tab in the state too. A Preflop Call needs a call amount that is not 0: its pot odds fail as Divide does, and
-/// so does its break-even point where pot and call come to 0 together.
-void BuildReport(ReportScreen& screen, AnalysisState& state);
+/// A Preflop Call needs a call amount that is not 0: its pot odds fail as Divide does, and so does its break-even point
+/// where pot and call come to 0 together.
+void BuildReport(ReportScreen& screen, const Analysis& analysis);
 
 }  // namespace quillon

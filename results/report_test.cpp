@@ -21,7 +21,7 @@ using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-std::string Report(AnalysisState state, ReportForm form) {
+std::string Report(Analysis state, ReportForm form) {
   RecordingReportScreen screen;
   screen.Form = form;
   BuildReport(screen, state);
@@ -96,11 +96,11 @@ TEST(Report, PlainPreflopRaise) {
 
 // Both doubles lie below the tie that their digits show.
 TEST(Report, ColumnsRoundTheNumberAsItReadsAndTheFormulaItsBinaryValue) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.HandInfo = sample::ResultsTable({{"AA", "199738.115\t0.4135\t1"}});
   EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("AA\t6\t0.414\t    199738.12\t=0.413*(150+50)-50\r"));
 
-  AnalysisState raise = sample::RaiseState();
+  Analysis raise = sample::RaiseState();
   raise.HandInfo = state.HandInfo;
   EXPECT_THAT(Report(raise, ReportForm::kPlainText), HasSubstr("AA\t6\t    0.414\t 199738.12\t=("));
 }
@@ -183,7 +183,7 @@ TEST(Report, ForumEquityOnly) {
 }
 
 TEST(Report, TheEquityBlockIsThirtyThreeLinesOfFiveAndOneOfFour) {
-  AnalysisState state = sample::EquityState();
+  Analysis state = sample::EquityState();
   RecordingReportScreen screen;
   screen.Form = ReportForm::kForum;
   BuildReport(screen, state);
@@ -197,7 +197,7 @@ TEST(Report, TheEquityBlockIsThirtyThreeLinesOfFiveAndOneOfFour) {
 }
 
 // Every call up to the heading of the table, texts cut short.
-std::vector<std::string> CallsBeforeRows(AnalysisState state) {
+std::vector<std::string> CallsBeforeRows(Analysis state) {
   RecordingReportScreen screen;
   BuildReport(screen, state);
   const auto firstRow = std::find_if(screen.Calls.begin(), screen.Calls.end(),
@@ -223,7 +223,7 @@ TEST(Report, PlainPreflopCallSetsAFontForEachHeadingAndTheLineUnderIt) {
 }
 
 TEST(Report, PlainPreflopRaiseSetsTheBodyFontAgainForDroppedHands) {
-  AnalysisState state = sample::RaiseState();
+  Analysis state = sample::RaiseState();
   state.DroppedHands = "QQ, JJ";
   EXPECT_THAT(
       CallsBeforeRows(state),
@@ -254,7 +254,7 @@ TEST(Report, PlainEquityOnlySetsAFontForEachHeadingAndTheLineUnderIt) {
 }
 
 TEST(Report, TheRowsSetNoFont) {
-  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+  for (Analysis state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
     RecordingReportScreen screen;
     BuildReport(screen, state);
     const std::vector<std::string> rows(screen.Calls.end() - 169, screen.Calls.end());
@@ -264,7 +264,7 @@ TEST(Report, TheRowsSetNoFont) {
 }
 
 TEST(Report, TheForumFormSetsNoFont) {
-  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+  for (Analysis state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
     RecordingReportScreen screen;
     screen.Form = ReportForm::kForum;
     BuildReport(screen, state);
@@ -275,7 +275,7 @@ TEST(Report, TheForumFormSetsNoFont) {
 }
 
 TEST(Report, TheListOfHandsIsShownWithTheForumFormAlone) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   RecordingReportScreen screen;
   screen.Form = ReportForm::kForum;
   BuildReport(screen, state);
@@ -288,7 +288,7 @@ TEST(Report, TheListOfHandsIsShownWithTheForumFormAlone) {
 
 TEST(Report, BuildingTwiceGivesTheSameText) {
   for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
-    AnalysisState state = sample::RaiseState();
+    Analysis state = sample::RaiseState();
     state.DroppedHands = "QQ, JJ";
     RecordingReportScreen screen;
     screen.Form = form;
@@ -300,7 +300,7 @@ TEST(Report, BuildingTwiceGivesTheSameText) {
 }
 
 TEST(Report, BeforeAnyAnalysisItOnlyEmptiesTheBox) {
-  AnalysisState state;
+  Analysis state;
   RecordingReportScreen screen;
   BuildReport(screen, state);
   EXPECT_THAT(screen.Calls, ElementsAre("text ", "hands hidden"));
@@ -317,30 +317,18 @@ TEST(Report, TheFormsStandInTheListUnderTheirTexts) {
 }
 
 TEST(Report, AColonInARangeNameDoesNotMoveTheSplit) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.RangeName = "Villain: tight";
   EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("\rOpponent Range Name:\t Villain: tight\r"));
 }
 
-TEST(Report, AColonInTheDroppedHandsIsSplitInTheStateToo) {
-  AnalysisState state = sample::RaiseState();
-  state.DroppedHands = "QQ: 6";
-  RecordingReportScreen screen;
-  BuildReport(screen, state);
-  EXPECT_THAT(screen.Text, HasSubstr("\rQQ:                 \t 6\r\r\n\rCalculations\r"));
-  EXPECT_EQ(state.DroppedHands, "QQ:                 \t 6");
-}
-
-TEST(Report, NoOtherFormOrScenarioTouchesTheDroppedHands) {
-  for (AnalysisState state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+TEST(Report, OnlyThePlainFormOfAShoveTellsTheDroppedHands) {
+  for (Analysis state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
     for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
-      if (state.Mode == AnalysisMode::kPreflopRaise && form == ReportForm::kPlainText) continue;
       state.DroppedHands = "QQ: 6";
-      RecordingReportScreen screen;
-      screen.Form = form;
-      BuildReport(screen, state);
-      EXPECT_EQ(state.DroppedHands, "QQ: 6");
-      EXPECT_THAT(screen.Text, Not(HasSubstr("QQ: 6")));
+      const bool told = state.Mode == AnalysisMode::kPreflopRaise && form == ReportForm::kPlainText;
+      EXPECT_EQ(Report(state, form).find("\rQQ:                 \t 6\r\r\n\rCalculations\r") != std::string::npos,
+                told);
     }
   }
 }
@@ -361,7 +349,7 @@ TEST(Report, ProfitableHandsAreThoseAtZeroOrAbove) {
       {"a run", sample::ResultsTable({{"AA", "9\t0\t1"}, {"KK", "8\t0\t1"}, {"QQ", "7\t0\t1"}}, "-1\t0.1\t1"), "QQ+"},
   };
   for (const Case& c : cases) {
-    for (AnalysisState state : {sample::CallState(), sample::RaiseState()}) {
+    for (Analysis state : {sample::CallState(), sample::RaiseState()}) {
       state.HandInfo = c.table;
       EXPECT_THAT(Report(state, ReportForm::kForum),
                   EndsWith(std::string("Profitable Hands:[/COLOR][/b]\r") + c.hands + "\r"))
@@ -375,7 +363,7 @@ TEST(Report, RangesAtTheirEndsAreWordsInBrackets) {
   for (const std::string_view hand : sample::kAllHands)
     everything.append(hand).append(" (1), ");
 
-  AnalysisState state = sample::RaiseState();
+  Analysis state = sample::RaiseState();
   state.RangeText = everything;
   state.CallingRangeText = sample::RangeText({});
   const std::string plain = Report(state, ReportForm::kPlainText);
@@ -384,7 +372,7 @@ TEST(Report, RangesAtTheirEndsAreWordsInBrackets) {
 }
 
 TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
-  AnalysisState call = sample::CallState();
+  Analysis call = sample::CallState();
   call.PotSize = 12.345;
   call.CallAmount = 7.001;
   EXPECT_THAT(Report(call, ReportForm::kPlainText),
@@ -392,7 +380,7 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
   EXPECT_THAT(Report(call, ReportForm::kPlainText), HasSubstr("*(12.35+7)-7\r"));
   EXPECT_THAT(Report(call, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001\r"));
 
-  AnalysisState raise = sample::RaiseState();
+  Analysis raise = sample::RaiseState();
   raise.PotSize = 12.345;
   raise.CallAmount = 7.001;
   raise.ShoveAmount = 100.0625;
@@ -404,7 +392,7 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
 }
 
 TEST(Report, TheBreakEvenPointIsAPercentageInThePlainFormAndAFractionInTheForumForm) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.PotSize = 100;
   state.CallAmount = 50;
   EXPECT_THAT(Report(state, ReportForm::kPlainText),
@@ -413,7 +401,7 @@ TEST(Report, TheBreakEvenPointIsAPercentageInThePlainFormAndAFractionInTheForumF
 }
 
 TEST(Report, PotOddsHaveThreeDecimalsInThePlainFormAndTwoInTheForumForm) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.PotSize = 100;
   state.CallAmount = 30;
   EXPECT_THAT(Report(state, ReportForm::kPlainText), HasSubstr("\t 3.333 : 1\r"));
@@ -421,7 +409,7 @@ TEST(Report, PotOddsHaveThreeDecimalsInThePlainFormAndTwoInTheForumForm) {
 }
 
 TEST(Report, TheEquityColumnRoundsTiesAwayFromZeroAndTheFormulaToEven) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.HandInfo = sample::ResultsTable({{"AA", "0\t0.0625\t1"}, {"KK", "0\t0.6875\t1"}, {"QQ", "0\t-1\t1"}});
   const std::string report = Report(state, ReportForm::kPlainText);
   EXPECT_THAT(report, HasSubstr("\rAA\t6\t0.063\t          .00\t=0.062*(150+50)-50\r"));
@@ -431,11 +419,11 @@ TEST(Report, TheEquityColumnRoundsTiesAwayFromZeroAndTheFormulaToEven) {
 
 TEST(Report, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
   for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
-    AnalysisState call = sample::CallState();
+    Analysis call = sample::CallState();
     call.CallAmount = 0;
     EXPECT_THROW(Report(call, form), RunTimeError);
 
-    AnalysisState raise = sample::RaiseState();
+    Analysis raise = sample::RaiseState();
     raise.CallAmount = 0;
     EXPECT_NO_THROW(Report(raise, form));
   }

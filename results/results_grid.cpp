@@ -18,60 +18,61 @@ namespace {
 
 constexpr Rgb kResultsNavColor = {255, 255, 192};
 
-std::string ProfitablePercentText(const AnalysisState& state) {
+std::string ProfitablePercentText(const Analysis& analysis) {
   // Intentional: one less than the number of concrete hands. With all of them profitable the text still says 100.
   constexpr double kDivisor = 1325;
 
   double combos = 0;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string_view hand = HandLabel(index);
-    if (GetHandInfo(state.HandInfo, hand, kExpectedValueColumn) >= 0) combos += ComboCount(hand);
+    if (GetHandInfo(analysis.HandInfo, hand, kExpectedValueColumn) >= 0) combos += ComboCount(hand);
   }
   return NumberText(PercentOf(combos, kDivisor, 0));
 }
 
-std::string ProfitableSentence(const AnalysisState& state) {
-  return "In this situation, " + ProfitablePercentText(state) + "% of hands are profitable.";
+std::string ProfitableSentence(const Analysis& analysis) {
+  return "In this situation, " + ProfitablePercentText(analysis) + "% of hands are profitable.";
 }
 
-std::string PotAndCallText(const AnalysisState& state) {
-  return "Pot Size: " + RoundedText(state.PotSize, 2) + " | Call Amount: " + RoundedText(state.CallAmount, 2);
+std::string PotAndCallText(const Analysis& analysis) {
+  return "Pot Size: " + RoundedText(analysis.PotSize, 2) + " | Call Amount: " + RoundedText(analysis.CallAmount, 2);
 }
 
-GridTexts CallTexts(const AnalysisState& state) {
-  const double odds = PotOdds(state.PotSize, state.CallAmount);
+GridTexts CallTexts(const Analysis& analysis) {
+  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
   const std::string oddsText = RoundedText(odds, 2) + ":1";
   return {
       .Title = "ALL IN Grid",
-      .HandInfo = PotAndCallText(state) + " | Odds: " + oddsText + "\r\nHis Range: " + RangeSummary(state.RangeText),
+      .HandInfo =
+          PotAndCallText(analysis) + " | Odds: " + oddsText + "\r\nHis Range: " + RangeSummary(analysis.RangeText),
       .Results =
           "If you call with all of the hands in green you will profit in the long run. You should fold "
           "everything else.\r\n\r\nSince you are getting " +
           oddsText + " odds, you need " + RoundedText(BreakEvenEquity(odds) * 100, 2) +
-          "% equity in order to call.\r\n\r\n" + ProfitableSentence(state),
+          "% equity in order to call.\r\n\r\n" + ProfitableSentence(analysis),
       .LegendVisible = true,
   };
 }
 
-GridTexts RaiseTexts(const AnalysisState& state) {
+GridTexts RaiseTexts(const Analysis& analysis) {
   return {
       .Title = "ALL IN Grid",
-      .HandInfo = PotAndCallText(state) + " | Shove Amount: " + RoundedText(state.ShoveAmount, 2) +
-                  "\r\nHis Calling Range: " + RangeSummary(state.CallingRangeText),
+      .HandInfo = PotAndCallText(analysis) + " | Shove Amount: " + RoundedText(analysis.ShoveAmount, 2) +
+                  "\r\nHis Calling Range: " + RangeSummary(analysis.CallingRangeText),
       .Results =
           "If you raise with all of the hands in green you will profit in the long run. For any hand, you "
           "should also consider how well you and your opponent play after the flop to decide whether or not "
           "calling is an option.\r\n\r\n" +
-          ProfitableSentence(state),
+          ProfitableSentence(analysis),
       .LegendVisible = true,
   };
 }
 
 // Intentional: the spelling of "meausrement", which is the program's own.
-GridTexts EquityTexts(const AnalysisState& state) {
+GridTexts EquityTexts(const Analysis& analysis) {
   return {
       .Title = "Equity Grid",
-      .HandInfo = "His Range: " + RangeSummary(state.RangeText),
+      .HandInfo = "His Range: " + RangeSummary(analysis.RangeText),
       .Results =
           "Equity is a meausrement of how much value you have in the current hand. In other words, it is what "
           "percentage you will win against your opponent's range.",
@@ -84,44 +85,52 @@ double FractionOf(double value, double span) {
 }
 
 // The colour of a cell by its value, where `high` and `low` span the shown column.
-Rgb CellColor(AnalysisMode mode, double value, double high, double low) {
-  if (mode == AnalysisMode::kEquityOnly) return EquityColor(FractionOf(value - low, high - low));
+Rgb CellColor(std::int16_t column, double value, double high, double low) {
+  if (column == kEquityColumn) return EquityColor(FractionOf(value - low, high - low));
   if (value >= 0) return EVColor(FractionOf(value, high), "+");
   return EVColor(FractionOf(value, low), "-");
 }
 
+struct GridRow {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  GridTexts (*Texts)(const Analysis& analysis) = nullptr;
+};
+
+constexpr ScenarioTable<GridRow> kGridRows = {{
+    {AnalysisMode::kPreflopCall, CallTexts},
+    {AnalysisMode::kPreflopRaise, RaiseTexts},
+    {AnalysisMode::kEquityOnly, EquityTexts},
+}};
+static_assert(CoversEveryScenario(kGridRows));
+
 }  // namespace
 
-GridTexts MakeGridTexts(const AnalysisState& state) {
-  switch (state.Mode) {
-    case AnalysisMode::kPreflopCall:
-      return CallTexts(state);
-    case AnalysisMode::kPreflopRaise:
-      return RaiseTexts(state);
-    case AnalysisMode::kEquityOnly:
-      return EquityTexts(state);
-    case AnalysisMode::kNone:
-      break;
-  }
-  return {};
+std::int16_t ShownColumn(const Analysis& analysis) {
+  const Scenario* const scenario = FindRow(kScenarios, analysis.Mode);
+  return scenario != nullptr && !scenario->HasExpectedValue() ? kEquityColumn : kExpectedValueColumn;
 }
 
-std::array<Rgb, kHandClassCount> GridColors(const AnalysisState& state) {
-  const std::string_view table = state.HandInfo;
-  const std::int16_t column = state.Mode == AnalysisMode::kEquityOnly ? kEquityColumn : kExpectedValueColumn;
+GridTexts MakeGridTexts(const Analysis& analysis) {
+  const GridRow* const row = FindRow(kGridRows, analysis.Mode);
+  return row == nullptr ? GridTexts() : row->Texts(analysis);
+}
+
+std::array<Rgb, kHandClassCount> GridColors(const Analysis& analysis) {
+  const std::string_view table = analysis.HandInfo;
+  const std::int16_t column = ShownColumn(analysis);
   const double high = GetHandInfo(table, BestHand(table, column), column);
   const double low = GetHandInfo(table, WorstHand(table, column), column);
 
   std::array<Rgb, kHandClassCount> colors;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const double value = GetHandInfo(table, HandLabel(index), column);
-    colors[static_cast<std::size_t>(index)] = CellColor(state.Mode, value, high, low);
+    colors[static_cast<std::size_t>(index)] = CellColor(column, value, high, low);
   }
   return colors;
 }
 
-void FillResults(ResultsWindow& window, const AnalysisState& state) {
-  const GridTexts texts = MakeGridTexts(state);
+void FillResults(ResultsWindow& window, const Analysis& analysis) {
+  const GridTexts texts = MakeGridTexts(analysis);
   window.SetHandInfoText(texts.HandInfo);
   window.SetResultsCaption(texts.Results);
   window.SetGridTitle(texts.Title);
@@ -137,11 +146,11 @@ void SetResultsShown(ResultsWindow& window, bool shown) {
   window.SetNoResultsCaption(kNoResultsCaption);
 }
 
-void PresentResults(const AnalysisState& state, ResultsWindow& window) {
-  const std::array<Rgb, kHandClassCount> colors = GridColors(state);
+void PresentResults(const Analysis& analysis, ResultsWindow& window) {
+  const std::array<Rgb, kHandClassCount> colors = GridColors(analysis);
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     window.SetCellColor(index, colors[static_cast<std::size_t>(index)]);
-  FillResults(window, state);
+  FillResults(window, analysis);
 }
 
 }  // namespace quillon

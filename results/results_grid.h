@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "hand/hand_classes.h"
 #include "results/results_window.h"
 #include "support/rgb.h"
@@ -28,24 +28,28 @@ struct GridTexts {
   bool operator==(const GridTexts&) const = default;
 };
 
+/// The column of the results table that a scenario is about: the equity where nothing else is known, otherwise the
+/// expected value.
+[[nodiscard]] std::int16_t ShownColumn(const Analysis& analysis);
+
 /// The texts for the last finished analysis. A Preflop Call needs a call amount that is not 0: its pot odds fail as
 /// Divide does.
-[[nodiscard]] GridTexts MakeGridTexts(const AnalysisState& state);
+[[nodiscard]] GridTexts MakeGridTexts(const Analysis& analysis);
 
 /// The colours of the cells, in class index order. High and Low are the values of the rows that BestHand and WorstHand
 /// name, in the equity column for Equity Only and the expected value column for the others. High can fall short of the
 /// true maximum, so a cell can come out darker than the darkest green. Never fails: what is measured against 0, such as
 /// a best value of exactly 0 or equities that are all alike, has the palest shade.
-[[nodiscard]] std::array<Rgb, kHandClassCount> GridColors(const AnalysisState& state);
+[[nodiscard]] std::array<Rgb, kHandClassCount> GridColors(const Analysis& analysis);
 
 /// Puts the texts and the legend on the screen.
-void FillResults(ResultsWindow& window, const AnalysisState& state);
+void FillResults(ResultsWindow& window, const Analysis& analysis);
 
 /// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take
 /// their own colour again.
 void SetResultsShown(ResultsWindow& window, bool shown);
 
 /// Paints the cells in index order, then fills in the texts. Fails as MakeGridTexts does.
-void PresentResults(const AnalysisState& state, ResultsWindow& window);
+void PresentResults(const Analysis& analysis, ResultsWindow& window);
 
 }  // namespace quillon

@@ -48,20 +48,20 @@ std::size_t IndexOf(std::string_view hand) {
   return static_cast<std::size_t>(found - sample::kAllHands.begin());
 }
 
-std::string CellOf(const AnalysisState& state, std::string_view hand) {
+std::string CellOf(const Analysis& state, std::string_view hand) {
   const Rgb color = GridColors(state)[IndexOf(hand)];
   return std::to_string(color.Red) + ", " + std::to_string(color.Green) + ", " + std::to_string(color.Blue);
 }
 
-AnalysisState WithTable(AnalysisMode mode, std::string table) {
-  AnalysisState state = mode == AnalysisMode::kPreflopRaise ? sample::RaiseState() : sample::CallState();
+Analysis WithTable(AnalysisMode mode, std::string table) {
+  Analysis state = mode == AnalysisMode::kPreflopRaise ? sample::RaiseState() : sample::CallState();
   state.Mode = mode;
   state.HandInfo = std::move(table);
   return state;
 }
 
 TEST(GridTexts, OfAPreflopCall) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.PotSize = 100.126;
   state.CallAmount = 50;
   EXPECT_EQ(MakeGridTexts(state),
@@ -97,14 +97,14 @@ TEST(GridTexts, OfEquityOnlyHaveNoLegendAndNoProfit) {
 }
 
 TEST(GridTexts, BeforeAnyAnalysisSaySo) {
-  EXPECT_EQ(MakeGridTexts(AnalysisState{}), (GridTexts{.Title = "ALL IN Grid",
-                                                       .HandInfo = "",
-                                                       .Results = "No analysis has been performed.",
-                                                       .LegendVisible = true}));
+  EXPECT_EQ(MakeGridTexts(Analysis{}), (GridTexts{.Title = "ALL IN Grid",
+                                                  .HandInfo = "",
+                                                  .Results = "No analysis has been performed.",
+                                                  .LegendVisible = true}));
 }
 
 TEST(GridTexts, RangesAtTheirEndsAreWordsInBrackets) {
-  AnalysisState state = sample::EquityState();
+  Analysis state = sample::EquityState();
   state.RangeText = sample::RangeText({});
   EXPECT_EQ(MakeGridTexts(state).HandInfo, "His Range: [None]");
 
@@ -115,7 +115,7 @@ TEST(GridTexts, RangesAtTheirEndsAreWordsInBrackets) {
 }
 
 TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.PotSize = 10.125;
   state.CallAmount = 3;
   EXPECT_THAT(MakeGridTexts(state).HandInfo,
@@ -124,7 +124,7 @@ TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
   state.CallAmount = 3.125;
   EXPECT_THAT(MakeGridTexts(state).HandInfo, ::testing::HasSubstr("Call Amount: 3.12 |"));
 
-  AnalysisState raise = sample::RaiseState();
+  Analysis raise = sample::RaiseState();
   raise.PotSize = 10.125;
   raise.CallAmount = 3.125;
   raise.ShoveAmount = 62.125;
@@ -169,11 +169,11 @@ TEST(GridTexts, TheShareOfProfitableHandsCountsCombosAgainst1325) {
 }
 
 TEST(GridTexts, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
-  AnalysisState call = sample::CallState();
+  Analysis call = sample::CallState();
   call.CallAmount = 0;
   EXPECT_THROW(static_cast<void>(MakeGridTexts(call)), RunTimeError);
 
-  AnalysisState raise = sample::RaiseState();
+  Analysis raise = sample::RaiseState();
   raise.CallAmount = 0;
   EXPECT_EQ(MakeGridTexts(raise).HandInfo,
             "Pot Size: 150 | Call Amount: 0 | Shove Amount: 62.5\r\nHis Calling Range: AA");
@@ -245,7 +245,7 @@ TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
 }
 
 TEST(GridColors, WithNothingButLossesNoGreenShows) {
-  const AnalysisState state =
+  const Analysis state =
       WithTable(AnalysisMode::kPreflopCall, sample::ResultsTable({{"72o", "-20\t0.1\t1"}}, "-1\t0.2\t1"));
   for (const Rgb color : GridColors(state))
     EXPECT_LE(color.Green, color.Red);
@@ -254,14 +254,14 @@ TEST(GridColors, WithNothingButLossesNoGreenShows) {
 }
 
 TEST(GridColors, WithNoValueAboveTheSearchsStartLossesAreMeasuredAsEver) {
-  const AnalysisState state =
+  const Analysis state =
       WithTable(AnalysisMode::kPreflopRaise, sample::ResultsTable({{"72o", "-40000\t0.1\t1"}}, "-20000\t0.2\t1"));
   EXPECT_EQ(CellOf(state, "72o"), "120, 0, 0");
   EXPECT_EQ(CellOf(state, "AA"), "255, 33, 33");
 }
 
 TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
-  const AnalysisState state = sample::CallState();
+  const Analysis state = sample::CallState();
   const std::array<Rgb, 169> colors = GridColors(state);
   for (std::size_t i = 0; i < colors.size(); ++i) {
     const std::string_view hand = sample::kAllHands[i];
@@ -280,7 +280,7 @@ TEST(ResultsGrid, TextsAreSetInOrder) {
 }
 
 TEST(ResultsGrid, TheLegendComesBackWithTheTwoColourGrids) {
-  for (const AnalysisState& state : {sample::CallState(), sample::RaiseState()}) {
+  for (const Analysis& state : {sample::CallState(), sample::RaiseState()}) {
     RecordingResultsWindow window;
     FillResults(window, state);
     EXPECT_THAT(window.Calls,
@@ -317,7 +317,7 @@ TEST(ResultsGrid, EveryLinkFromTheGridsOnLeadsToResults) {
 }
 
 TEST(ResultsGrid, PresentingPaintsTheCellsInOrderAndThenFillsInTheTexts) {
-  const AnalysisState state = sample::CallState();
+  const Analysis state = sample::CallState();
   RecordingResultsWindow window;
   PresentResults(state, window);
 

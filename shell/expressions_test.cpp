@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/expected_value.h"
+#include "analysis/entered_situation.h"
 #include "support/run_time_error.h"
 #include "testing/recorded_messages.h"
 

@@ -1,5 +1,7 @@
 #include "shell/number_boxes.h"
 
+#include "analysis/entered_situation.h"
+
 namespace quillon {
 
 OpponentOdds OddsOfBoxes(const ShoveBoxTexts& boxes) {

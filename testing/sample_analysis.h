@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 
 namespace quillon::sample {
 
@@ -55,8 +55,8 @@ inline std::string ResultsTable(const TextsByHand& cells, std::string_view other
 }
 
 /// Pot 150, 50 to call: odds of 3 to 1. 72o loses, 22 loses half a chip, AKs breaks even.
-inline AnalysisState CallState() {
-  AnalysisState state;
+inline Analysis CallState() {
+  Analysis state;
   state.Mode = AnalysisMode::kPreflopCall;
   state.PotSize = 150;
   state.CallAmount = 50;
@@ -68,8 +68,8 @@ inline AnalysisState CallState() {
 }
 
 /// Pot 150, 50 to call, a shove of 62.5. Nobody calls a shove when the hero holds AA.
-inline AnalysisState RaiseState() {
-  AnalysisState state;
+inline Analysis RaiseState() {
+  Analysis state;
   state.Mode = AnalysisMode::kPreflopRaise;
   state.PotSize = 150;
   state.CallAmount = 50;
@@ -86,8 +86,8 @@ inline AnalysisState RaiseState() {
   return state;
 }
 
-inline AnalysisState EquityState() {
-  AnalysisState state;
+inline Analysis EquityState() {
+  Analysis state;
   state.Mode = AnalysisMode::kEquityOnly;
   state.RangeName = "Wide";
   state.RangeText = RangeText({{"AA", "1"}, {"KK", "1"}});

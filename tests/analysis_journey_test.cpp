@@ -17,30 +17,30 @@
 namespace quillon {
 namespace {
 
-Situation ACall(std::string pot, std::string call, std::string range = {}) {
+EnteredSituation ACall(std::string pot, std::string call, std::string range = {}) {
   return {std::move(pot), std::move(call), {}, std::move(range), {}};
 }
 
-Situation ARaise(std::string pot, std::string call, std::string shove, std::string range = {},
-                 std::string callingRange = {}) {
+EnteredSituation ARaise(std::string pot, std::string call, std::string shove, std::string range = {},
+                        std::string callingRange = {}) {
   return {std::move(pot), std::move(call), std::move(shove), std::move(range), std::move(callingRange)};
 }
 
-Situation AnEquity(std::string range = {}) {
+EnteredSituation AnEquity(std::string range = {}) {
   return {{}, {}, {}, std::move(range), {}};
 }
 
-const Situation kCall = ACall("110", "90", "Button Shove");
-const Situation kRaise = ARaise("150", "50", "400", "Button Shove", "Big Blind Call");
-const Situation kEquity = AnEquity("Tight Open");
+const EnteredSituation kCall = ACall("110", "90", "Button Shove");
+const EnteredSituation kRaise = ARaise("150", "50", "400", "Button Shove", "Big Blind Call");
+const EnteredSituation kEquity = AnEquity("Tight Open");
 
 // ---- whole runs
 
 struct RunCase {
   const char* name;
   std::int16_t button;
-  Situation typed;
-  Situation meant;
+  EnteredSituation typed;
+  EnteredSituation meant;
 };
 
 std::ostream& operator<<(std::ostream& stream, const RunCase& run) {
@@ -73,7 +73,7 @@ TEST_F(AnalysisJourney, KeyboardAloneDoesForACall) {
   Session().Press({"Tab", "Tab"});
   Session().Type("90");
   Session().Press({"Tab", "Tab", "Down", "Down", "Tab", "Tab", "Tab", "Return"});
-  const GridColorTable expected = GridColors(StateAfter(kCallRun, kCall, Session().Program()));
+  const GridColorTable expected = GridColors(AnalysisOf(kCallRun, kCall, Session().Program()));
   Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
 }
 
@@ -130,7 +130,7 @@ TEST_F(AnalysisJourney, StopAtOnceGoesBackToTheInputScreenWithoutResults) {
 struct Refusal {
   std::string_view rule;
   std::int16_t button;
-  Situation typed;
+  EnteredSituation typed;
   std::string_view title;
   std::string_view text;
 };

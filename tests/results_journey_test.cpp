@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const Situation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
+const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
 const std::vector<std::string> kRaiseCommand = {"raise",        "--pot",           "150",           "--call",
                                                 "50",           "--shove",         "400",           "--range",
                                                 "Button Shove", "--calling-range", "Big Blind Call"};
@@ -95,7 +95,7 @@ TEST_F(ResultsJourney, ProfitableHandsBecomeARange) {
   Answer(saved, {"Return"});
   Session().WaitUntilGone(dialog);
 
-  const AnalysisState state = StateAfter(kRaiseRun, kRaise, Session().Program());
+  const Analysis state = AnalysisOf(kRaiseRun, kRaise, Session().Program());
   std::string profitable;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string_view label = HandLabel(index);

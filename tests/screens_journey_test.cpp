@@ -22,9 +22,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const Situation kCall = {"110", "90", "", "Button Shove", ""};
-const Situation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const Situation kEquity = {"", "", "", "Tight Open", ""};
+const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
+const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
+const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
 
 // How far a colour may be off, and how much of any one tile of a picture may be further off than that: edges of letters
 // are not drawn alike by every version of the font library. Over a whole picture a lost word would hardly count.
@@ -121,7 +121,7 @@ TEST_P(ScreensJourney, LookAsTheyShould) {
   Session().PutMouseAside();
   Session().Running().LetGoOn();
 
-  const GridColorTable colors = GridColors(StateAfter(kRaiseRun, kRaise, Session().Program()));
+  const GridColorTable colors = GridColors(AnalysisOf(kRaiseRun, kRaise, Session().Program()));
   Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == colors; });
   ExpectLook("grid");
   Session().MoveTo(OnScreen(ObjectName("lblCards", HandIndex("KTs"))).center());

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
+#include "analysis/input_screens.h"
 #include "hand/equity_table.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
@@ -21,26 +21,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What a scenario's input screen is reached by, and what it asks for.
-struct InputScreen {
-  std::string_view Link;
-  std::string_view Button;
-  std::int16_t PotBox;  // the call and the shove are the next ones
-  std::int16_t RangeList;  // the calling range is the next one
-};
-
-constexpr std::array kInputScreens = {
-    InputScreen{"lblNav(0)", "cmdPreflopEV(0)", 0, 0},
-    InputScreen{"lblNav(1)", "cmdPreflopEV(1)", 2, 1},
-    InputScreen{"lblNav(2)", "cmdPreflopEV(2)", -1, 3},
-};
-
-const InputScreen& ScreenOf(std::int16_t button) {
-  return kInputScreens.at(static_cast<std::size_t>(button));
-}
-
 std::string Indexed(std::string_view name, std::int16_t index) {
   return ObjectName(name, index);
+}
+
+// A start button and the link to its screen have the same index.
+std::string ButtonOf(std::int16_t button) {
+  return Indexed("cmdPreflopEV", button);
+}
+std::string LinkOf(std::int16_t button) {
+  return Indexed("lblNav", button);
 }
 
 }  // namespace
@@ -60,13 +50,9 @@ const FormPlan& NewRangePlan() {
   return kPlan;
 }
 
-AnalysisState StateAfter(std::int16_t button, const Situation& situation, const ProgramFolder& folder) {
+Analysis AnalysisOf(std::int16_t button, const EnteredSituation& situation, const ProgramFolder& folder) {
   LoadEquityTable();
-  RecordedMessages messages;
-  QuietWindow window(situation, messages);
-  AnalysisState state;
-  RunAnalysis(state, button, window, folder);
-  return state;
+  return *Analyze(SituationOf(ScreenOfButton(button).Mode, situation, folder));
 }
 
 void WindowJourney::TearDown() {
@@ -135,24 +121,23 @@ std::string WindowJourney::BoxText(std::int16_t box) const {
   return Session().CopyAllText();
 }
 
-void WindowJourney::FillIn(std::int16_t button, const Situation& situation) const {
-  const InputScreen& screen = ScreenOf(button);
-  Click(screen.Link);
-  if (button != kEquityRun) {
-    Fill(screen.PotBox, situation.Pot);
-    Fill(static_cast<std::int16_t>(screen.PotBox + 1), situation.Call);
+void WindowJourney::FillIn(std::int16_t button, const EnteredSituation& situation) const {
+  const InputScreen& screen = ScreenOfButton(button);
+  const std::array amounts = {situation.Pot, situation.Call, situation.Shove};
+  const std::array ranges = {situation.Range, situation.CallingRange};
+  Click(LinkOf(button));
+  for (std::size_t i = 0; i < amounts.size(); ++i) {
+    if (screen.AmountBoxes.at(i) != kNoControl) Fill(screen.AmountBoxes.at(i), amounts.at(i));
   }
-  if (button == kRaiseRun) Fill(static_cast<std::int16_t>(screen.PotBox + 2), situation.Shove);
-  if (!situation.Range.empty()) Choose(screen.RangeList, situation.Range);
-  if (!situation.CallingRange.empty()) {
-    Choose(static_cast<std::int16_t>(screen.RangeList + 1), situation.CallingRange);
+  for (std::size_t i = 0; i < ranges.size(); ++i) {
+    if (!ranges.at(i).empty()) Choose(screen.RangeLists.at(i), ranges.at(i));
   }
 }
 
-void WindowJourney::Analyze(std::int16_t button, const Situation& typed, const Situation& meant) const {
+void WindowJourney::Analyze(std::int16_t button, const EnteredSituation& typed, const EnteredSituation& meant) const {
   FillIn(button, typed);
-  const GridColorTable expected = GridColors(StateAfter(button, meant, Session().Program()));
-  Click(ScreenOf(button).Button);
+  const GridColorTable expected = GridColors(AnalysisOf(button, meant, Session().Program()));
+  Click(ButtonOf(button));
   Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
   Session().PutMouseAside();
 }
@@ -163,7 +148,7 @@ void WindowJourney::AnalyzeAndHoldUp(std::int16_t button) {
     if (HoldUpOneRun(button)) return;
     Session().Running().LetGoOn();
     Session().WaitUntil("the run is over", [&] { return IsSelected("lblNav(3)"); });
-    Click(ScreenOf(button).Link);
+    Click(LinkOf(button));
   }
   throw std::runtime_error("no run was ever seen under way");
 }
@@ -174,7 +159,7 @@ bool WindowJourney::HoldUpOneRun(std::int16_t button) {
   const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(5);
   // The click waits until the eyes are on the bar.
   Session().Running().HoldUp();
-  Click(ScreenOf(button).Button);
+  Click(ButtonOf(button));
   Session().Running().LetGoOn();
   while (!BarReaches(kFrom) && std::chrono::steady_clock::now() < limit) {
   }

@@ -11,8 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "analysis/analysis_state.h"
-#include "analysis/quiet_window.h"
+#include "analysis/entered_situation.h"
 #include "hand/hand_classes.h"
 #include "support/rgb.h"
 #include "tests/form_plan.h"
@@ -34,8 +33,8 @@ inline constexpr std::int16_t kCallRun = 0;
 inline constexpr std::int16_t kRaiseRun = 1;
 inline constexpr std::int16_t kEquityRun = 2;
 
-/// The state after an analysis without a window.
-[[nodiscard]] AnalysisState StateAfter(std::int16_t button, const Situation& situation, const ProgramFolder& folder);
+/// The same by the engine alone.
+[[nodiscard]] Analysis AnalysisOf(std::int16_t button, const EnteredSituation& situation, const ProgramFolder& folder);
 
 class WindowJourney : public testing::Test {
  protected:
@@ -79,10 +78,10 @@ class WindowJourney : public testing::Test {
   // ---- whole actions
 
   /// Fills in the input screen of a scenario, from the link in the side panel on.
-  void FillIn(std::int16_t button, const Situation& situation) const;
+  void FillIn(std::int16_t button, const EnteredSituation& situation) const;
   /// The same, with the click on Analyze, up to the painted grid, which must be that of the situation `meant`.
-  void Analyze(std::int16_t button, const Situation& typed, const Situation& meant) const;
-  void Analyze(std::int16_t button, const Situation& situation) const { Analyze(button, situation, situation); }
+  void Analyze(std::int16_t button, const EnteredSituation& typed, const EnteredSituation& meant) const;
+  void Analyze(std::int16_t button, const EnteredSituation& situation) const { Analyze(button, situation, situation); }
 
   /// Clicks on Analyze on the input screen, and holds the program up between two classes, with the Progress screen
   /// showing and its bar between a third and nine tenths of its length. Where a run was over before that, it is done

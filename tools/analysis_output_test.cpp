@@ -82,7 +82,7 @@ std::string HexColor(Rgb color) {
 
 // ---- one finished run of each scenario
 
-AnalysisState FinishedRun(std::int16_t button, const Situation& situation) {
+AnalysisState FinishedRun(std::int16_t button, const EnteredSituation& situation) {
   const TemporaryProgram program;
   program.Write("Now.txt", TextWith("AA KK QQ AKs AKo", "JJ ATs"));
   program.Write("Calls.txt", TextWith("AA KK JJ 77", "AKs"));

@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "analysis/analysis_driver.h"
-#include "analysis/expected_value.h"
 #include "analysis/quiet_window.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
@@ -61,7 +60,7 @@ class PrintedMessages final : public MessageBoxes {
 // are over before anyone could read it, and show none.
 class CompanionWindow final : public QuietWindow {
  public:
-  CompanionWindow(Situation situation, MessageBoxes& messages, const Surroundings& surroundings)
+  CompanionWindow(EnteredSituation situation, MessageBoxes& messages, const Surroundings& surroundings)
       : QuietWindow(std::move(situation), messages), surroundings_(surroundings), start_(surroundings.Now()) {}
   CompanionWindow(const CompanionWindow&) = delete;
   CompanionWindow(CompanionWindow&&) = delete;
@@ -97,7 +96,7 @@ class CompanionWindow final : public QuietWindow {
 };
 
 struct Request {
-  Situation situation;
+  EnteredSituation situation;
   std::string folder;
   std::string format{kOutputFormatNames[0]};
   std::vector<std::string> hands;
@@ -182,7 +181,7 @@ void WarnOfComma(std::string_view option, const std::string& amount, std::ostrea
 
 int Analyze(std::int16_t button, Request request, const Surroundings& surroundings) {
   PrintedMessages messages(surroundings.Errors);
-  Situation& situation = request.situation;
+  EnteredSituation& situation = request.situation;
   for (std::string* const amount : {&situation.Pot, &situation.Call, &situation.Shove}) {
     *amount = EvalTextBox(*amount, messages);
     if (messages.Shown()) return kRefused;
@@ -257,7 +256,7 @@ class CommandLine {
     app_.require_subcommand(0, 1);
     app_.set_version_flag("--version", "quillon-cli " + VersionText());
     app_.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
-    Situation& situation = request_.situation;
+    EnteredSituation& situation = request_.situation;
     AddText(call_, "--pot", situation.Pot, "Everything in the pot, his bet included");
     AddText(call_, "--call", situation.Call, "What you must put in to call");
     AddText(call_, "--range", situation.Range, "His range");

@@ -114,7 +114,7 @@ struct CommandCase {
   const char* name;
   const Arguments* arguments;
   std::int16_t button;
-  Situation situation;
+  EnteredSituation situation;
 };
 
 class EachCommand : public testing::TestWithParam<CommandCase> {};

@@ -1,11 +1,10 @@
 #include <vector>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/entered_situation.h"
+#include "analysis/input_screens.h"
 #include "analysis/results_table.h"
 #include "shell/field_help.h"
 #include "testing/main_stage.h"
-#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {
@@ -30,13 +29,8 @@ class PaintCount : public QObject {
 class AnalysisInWindow : public MainFormTest {
  protected:
   /// The results that the engine alone comes to.
-  std::string EngineTable(std::int16_t button, const Situation& situation) {
-    RecordedMessages messages;
-    QuietWindow window(situation, messages);
-    AnalysisState state;
-    RunAnalysis(state, button, window, Program.Folder());
-    EXPECT_TRUE(messages.Shown.empty());
-    return state.HandInfo;
+  std::string EngineTable(std::int16_t button, const EnteredSituation& situation) {
+    return Analyze(SituationOf(ScreenOfButton(button).Mode, situation, Program.Folder()))->HandInfo;
   }
 
   QWidget& Bar() { return Get("picProgBar"); }

@@ -64,8 +64,8 @@ void AnalysisView::Yield() {
   QCoreApplication::processEvents();
 }
 
-void AnalysisView::PresentResults(const AnalysisState& state) {
-  quillon::PresentResults(state, parts_.Results);
+void AnalysisView::PresentResults(const Analysis& analysis) {
+  quillon::PresentResults(analysis, parts_.Results);
 }
 
 }  // namespace quillon

@@ -46,7 +46,7 @@ class AnalysisView : public AnalysisWindow {
   void RaiseCell(std::int16_t index) override;
   void HideGridBack() override;
   void Yield() override;
-  void PresentResults(const AnalysisState& state) override;
+  void PresentResults(const Analysis& analysis) override;
 
  private:
   Parts parts_;

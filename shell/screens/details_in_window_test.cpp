@@ -20,9 +20,9 @@ class DetailsInWindow : public MainFormTest {
   std::string ReportText() { return FromQt(Report().toPlainText()); }
 
   /// The Details screen of a made-up analysis.
-  void ShowDetailsOf(const AnalysisState& state) {
+  void ShowDetailsOf(const Analysis& state) {
     if (!Shows("lblNav", kDetailsNavIndex)) RunEquity("Tight");
-    Form.State() = state;
+    static_cast<Analysis&>(Form.State()) = state;
     Open(kDetailsNavIndex);
   }
 
@@ -68,17 +68,17 @@ class DetailsInWindow : public MainFormTest {
 
 struct ReportCase {
   const char* Name;
-  AnalysisState (*State)();
+  Analysis (*State)();
 };
 
-AnalysisState ShoveWithDroppedHands() {
-  AnalysisState state = sample::RaiseState();
+Analysis ShoveWithDroppedHands() {
+  Analysis state = sample::RaiseState();
   state.DroppedHands = "QQ, AKs";
   return state;
 }
 
-AnalysisState CallWithOddDigits() {
-  AnalysisState state = sample::CallState();
+Analysis CallWithOddDigits() {
+  Analysis state = sample::CallState();
   state.PotSize = 12.345;
   state.CallAmount = 0.125;
   state.RangeName = "Über: \"alles\"";
@@ -89,7 +89,7 @@ class ReportInWindow : public DetailsInWindow, public testing::WithParamInterfac
 
 TEST_P(ReportInWindow, IsTheCompanionsCharacterForCharacter) {
   ShowDetailsOf(GetParam().State());
-  AnalysisState state = GetParam().State();
+  Analysis state = GetParam().State();
   EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
   PickForum();
   EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, {}));
@@ -102,7 +102,7 @@ TEST_P(ReportInWindow, OfAPickedHandIsTheCompanionsToo) {
   PickForum();
   PickHand("72o");
   PickHand("AKs");
-  AnalysisState state = GetParam().State();
+  Analysis state = GetParam().State();
   const std::array<std::string, 2> hands = {"72o", "AKs"};
   EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
 }
@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportInWindow,
 TEST_F(DetailsInWindow, OneRunFeedsWindowAndCompanion) {
   RunRaise("150", "50", "62.5", "Pairs", "Tight");
   Open(kDetailsNavIndex);
-  AnalysisState state = Form.State();
+  Analysis state = Form.State();
   EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
 }
 
@@ -159,21 +159,21 @@ TEST_F(DetailsInWindow, TheForumReportHasTheBoxsOwnFont) {
             QStringLiteral("Courier New"));
 }
 
-AnalysisState LargestCall() {
-  AnalysisState state = sample::CallState();
+Analysis LargestCall() {
+  Analysis state = sample::CallState();
   state.PotSize = 9999999.99;
   state.HandInfo = sample::ResultsTable({{"AA", "9999999.99\t0.85\t1"}, {"72o", "-9999999.99\t0.1234\t1"}});
   return state;
 }
 
-AnalysisState LargestRaise() {
-  AnalysisState state = sample::RaiseState();
+Analysis LargestRaise() {
+  Analysis state = sample::RaiseState();
   state.HandInfo =
       sample::ResultsTable({{"AA", "9999999.99\t-1\t1"}, {"72o", "-9999999.99\t0.1234\t1"}}, "0.5\t0.5\t0.5");
   return state;
 }
 
-AnalysisState SmallestCall() {
+Analysis SmallestCall() {
   return sample::CallState();
 }
 
@@ -237,7 +237,7 @@ TEST_F(DetailsInWindow, NoneAddsNothing) {
 
 struct LineCase {
   const char* Name;
-  AnalysisState (*State)();
+  Analysis (*State)();
   std::string_view Hand;
   std::string_view Line;
 };
@@ -337,7 +337,7 @@ TEST_F(DetailsInWindow, ANewRunLeavesTheReportUntilItIsOpened) {
 }
 
 TEST_F(DetailsInWindow, ProfitsAreAllOrNone) {
-  AnalysisState state = sample::CallState();
+  Analysis state = sample::CallState();
   state.HandInfo = sample::ResultsTable({}, "-1\t0.1\t1");
   ShowDetailsOf(state);
   PickForum();

@@ -7,9 +7,9 @@ namespace {
 class HoverInWindow : public MainFormTest {
  protected:
   /// The grid screen, with a made-up analysis behind it.
-  void ShowGridOf(const AnalysisState& state) {
+  void ShowGridOf(const Analysis& state) {
     RunEquity("Tight");
-    Form.State() = state;
+    static_cast<Analysis&>(Form.State()) = state;
   }
 
   QPoint CellOf(std::string_view hand) { return MiddleOf("lblCards", HandIndex(hand)); }
@@ -32,7 +32,7 @@ TEST_F(HoverInWindow, WithoutResultsNothingShows) {
 
 struct HoverCase {
   const char* Name;
-  AnalysisState (*State)();
+  Analysis (*State)();
   std::string_view Hand;
   std::string_view Picture;
   std::string_view EquityTitle;
@@ -71,14 +71,14 @@ TEST_P(HoverTexts, TellWhatTheRunFound) {
   EXPECT_EQ(Caption("lblHov_Advice"), row.Advice);
 }
 
-AnalysisState NothingToCall() {
-  AnalysisState state = sample::RaiseState();
+Analysis NothingToCall() {
+  Analysis state = sample::RaiseState();
   state.CallAmount = 0;
   return state;
 }
 
-AnalysisState QuarterEquity() {
-  AnalysisState state = sample::EquityState();
+Analysis QuarterEquity() {
+  Analysis state = sample::EquityState();
   state.HandInfo = sample::ResultsTable({{"AA", "0\t0.25\t1"}, {"22", "0\t0.2499\t1"}});
   return state;
 }
@@ -180,7 +180,7 @@ TEST_F(HoverInWindow, OtherControlsLeaveThePanelOpen) {
 TEST_F(HoverInWindow, TheSameHandKeepsItsOldNumbersAfterANewRun) {
   ShowGridOf(sample::CallState());
   Hover("AA");
-  Form.State() = sample::RaiseState();
+  static_cast<Analysis&>(Form.State()) = sample::RaiseState();
   Hover("AA");
   EXPECT_EQ(Caption("lblHov_EV"), "+120");
   EXPECT_FALSE(Shows("lblHov_FoldPerc"));
@@ -194,7 +194,7 @@ TEST_F(HoverInWindow, ACallAfterARaiseHidesTheFoldLine) {
   ShowGridOf(sample::RaiseState());
   Hover("AA");
   EXPECT_TRUE(Shows("lblHov_FoldPerc"));
-  Form.State() = sample::CallState();
+  static_cast<Analysis&>(Form.State()) = sample::CallState();
   Hover("AKs");
   EXPECT_FALSE(Shows("lblHov_FoldPerc"));
   EXPECT_FALSE(Shows("lblHovDesc_FoldPerc"));
@@ -203,11 +203,11 @@ TEST_F(HoverInWindow, ACallAfterARaiseHidesTheFoldLine) {
 TEST_F(HoverInWindow, EquityHidesTheOtherLinesAlsoForTheSameHand) {
   ShowGridOf(sample::RaiseState());
   Hover("AA");
-  Form.State() = sample::EquityState();
+  static_cast<Analysis&>(Form.State()) = sample::EquityState();
   Hover("AA");
   for (const char* name : {"lblHov_EV", "lblHov_ROI", "lblHov_FoldPerc", "lblHovDesc_FoldPerc"})
     EXPECT_FALSE(Shows(name)) << name;
-  Form.State() = sample::CallState();
+  static_cast<Analysis&>(Form.State()) = sample::CallState();
   Hover("AKs");
   EXPECT_TRUE(Shows("lblHov_EV"));
 }

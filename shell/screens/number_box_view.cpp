@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "analysis/input_screens.h"
 #include "shell/expressions.h"
 #include "toolkit/text.h"
 

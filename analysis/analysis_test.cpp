@@ -1,0 +1,230 @@
+#include "analysis/analysis.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "analysis/range_folder.h"
+#include "hand/equity_table.h"
+#include "support/number_text.h"
+#include "support/run_time_error.h"
+
+namespace quillon {
+namespace {
+
+using testing::EndsWith;
+using testing::StartsWith;
+
+const std::string kEveryHand = EveryHandAt(1);
+const std::string kNoHand = EveryHandAt(0);
+const std::string kAces = RangeWith({{"AA", 1}});
+const std::string kPairs = RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 1}, {"22", 0.5}});
+
+Situation ACall(const std::string& range) {
+  return {.Mode = AnalysisMode::kPreflopCall, .PotSize = 100, .CallAmount = 50, .RangeText = range};
+}
+
+Situation ARaise(const std::string& range, const std::string& callingRange) {
+  return {.Mode = AnalysisMode::kPreflopRaise,
+          .PotSize = 100,
+          .CallAmount = 50,
+          .ShoveAmount = 200,
+          .RangeText = range,
+          .CallingRangeText = callingRange};
+}
+
+Situation AnEquity(const std::string& range) {
+  return {.Mode = AnalysisMode::kEquityOnly, .RangeText = range};
+}
+
+class AnalyzeTest : public testing::Test {
+ public:
+  void SetUp() override { LoadEquityTable(); }
+
+  static int FaultNumberOf(const Situation& situation) {
+    try {
+      (void)Analyze(situation);
+    } catch (const RunTimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  }
+};
+
+// The rows of a results table without their line ends.
+std::vector<std::string> RowsOf(const std::string& table) {
+  std::vector<std::string> rows;
+  for (std::size_t start = 0; start < table.size();) {
+    const std::size_t end = table.find("\r\n", start);
+    rows.push_back(table.substr(start, end - start));
+    start = end + 2;
+  }
+  return rows;
+}
+
+TEST_F(AnalyzeTest, RowsAreInClassOrder) {
+  for (const Situation& situation : {ACall(kPairs), ARaise(kEveryHand, kPairs), AnEquity(kPairs)}) {
+    const auto rows = RowsOf(Analyze(situation)->HandInfo);
+    ASSERT_EQ(rows.size(), 169U);
+    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+      const std::string& row = rows[static_cast<std::size_t>(index)];
+      EXPECT_EQ(row.substr(0, row.find('\t')), HandLabel(index));
+      EXPECT_EQ(std::count(row.begin(), row.end(), '\t'), 4) << row;
+    }
+  }
+}
+
+TEST_F(AnalyzeTest, TheSituationComesBackAsItWas) {
+  Situation situation = ARaise(kPairs, kAces);
+  situation.RangeName = "Pairs";
+  situation.CallingRangeName = "Aces";
+  EXPECT_EQ(static_cast<const Situation&>(*Analyze(situation)), situation);
+}
+
+TEST_F(AnalyzeTest, RowsAgainstARangeOfAces) {
+  const auto call = RowsOf(Analyze(ACall(kAces))->HandInfo);
+  EXPECT_EQ(call[0], "AA\t25\t0.5\t1\t") << "150 * 0.5 - 50";
+  EXPECT_EQ(call[14], "KK\t-22.91915\t0.180539\t1\t") << "150 * 0.180539 - 50";
+  const auto equity = RowsOf(Analyze(AnEquity(kAces))->HandInfo);
+  EXPECT_EQ(equity[0], "AA\t0\t0.5\t1\t");
+  EXPECT_EQ(equity[14], "KK\t0\t0.180539\t1\t");
+}
+
+TEST_F(AnalyzeTest, AShoveAgainstAcesOutOfAllHands) {
+  const std::string table = Analyze(ARaise(kEveryHand, kAces))->HandInfo;
+  // KK blocks no ace: 6 of the 1225 other hands call, and the equity against them is that against aces.
+  const double callShare = 6.0 / 1225;
+  const HandResult kings = GetHandResult(table, "KK");
+  EXPECT_EQ(kings.FoldShare, LeadingNumber(NumberText(1 - callShare)));
+  EXPECT_NEAR(kings.Equity, 0.180539, 1e-14);
+  EXPECT_NEAR(kings.ExpectedValue, (0.180539 * 550 - 250) * callShare + (1 - callShare) * 100, 1e-12);
+  EXPECT_EQ(GetHandResult(table, "AA").FoldShare, LeadingNumber(NumberText(1 - 1.0 / 1225)));
+}
+
+TEST_F(AnalyzeTest, ACallingRangeBeyondTheCurrentOneAlwaysCalls) {
+  const auto analysis = Analyze(ARaise(kAces, kPairs));
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    EXPECT_EQ(GetHandResult(analysis->HandInfo, HandLabel(index)).FoldShare, 0) << HandLabel(index);
+  EXPECT_EQ(analysis->DroppedHands, "KK, QQ");
+}
+
+TEST_F(AnalyzeTest, AnOpponentWhoNeverCallsLeavesThePot) {
+  for (const Situation& situation :
+       {ARaise(kEveryHand, kNoHand), ARaise(kNoHand, kEveryHand), ARaise(kNoHand, kNoHand)}) {
+    for (const std::string& row : RowsOf(Analyze(situation)->HandInfo))
+      EXPECT_THAT(row, EndsWith("\t100\t-1\t1\t"));
+  }
+}
+
+TEST_F(AnalyzeTest, OnlyAScenarioWithACallingRangeDropsHands) {
+  Situation call = ACall(kAces);
+  call.CallingRangeText = kPairs;
+  EXPECT_EQ(Analyze(call)->DroppedHands, "");
+}
+
+TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
+  struct Row {
+    const char* name;
+    Situation situation;
+    int number;
+  };
+  Situation beyond = ARaise(kEveryHand, kEveryHand);
+  beyond.PotSize = beyond.CallAmount = beyond.ShoveAmount = 1e308;
+  for (const Row& row :
+       {Row{"a call without a range text", ACall(""), 9}, Row{"equities without a range text", AnEquity(""), 9},
+        Row{"a shove without a range text", ARaise("", kEveryHand), 9},
+        Row{"a shove without a calling range text", ARaise(kEveryHand, ""), 9},
+        Row{"a text that is no range", ACall("no weights here"), 5}, Row{"a range without weight", ACall(kNoHand), 6},
+        Row{"a value beyond all numbers", beyond, 6}}) {
+    EXPECT_EQ(FaultNumberOf(row.situation), row.number) << row.name;
+  }
+}
+
+TEST_F(AnalyzeTest, AListenerHearsOfEachClassBeforeAndAfterIt) {
+  std::string heard;
+  const auto rowsIn = [](const Analysis& soFar) { return std::to_string(RowsOf(soFar.HandInfo).size()); };
+  const auto analysis = Analyze(
+      AnEquity(kAces), {.Begins = [&](std::int16_t index) { heard += "begins " + std::to_string(index) + ", "; },
+                        .AmountsNow =
+                            [&] {
+                              heard += "amounts, ";
+                              return Amounts{};
+                            },
+                        .GoesOn =
+                            [&](std::int16_t index, const Analysis& soFar) {
+                              heard += "done " + std::to_string(index) + " with " + rowsIn(soFar) + " rows, ";
+                              return true;
+                            }});
+  EXPECT_TRUE(analysis);
+  EXPECT_THAT(heard, StartsWith("begins 0, amounts, done 0 with 1 rows, begins 1, amounts, done 1 with 2 rows, "));
+  EXPECT_THAT(heard, EndsWith("begins 168, amounts, done 168 with 169 rows, "));
+}
+
+TEST_F(AnalyzeTest, AListenerStopsAfterAnyClass) {
+  for (const int last : {0, 84, 168}) {
+    int done = -1;
+    std::string dropped = "none yet";
+    const auto analysis = Analyze(ARaise(kAces, kPairs), {.GoesOn = [&](std::int16_t index, const Analysis& soFar) {
+                                    done = index;
+                                    dropped = soFar.DroppedHands;
+                                    return index < last;
+                                  }});
+    EXPECT_FALSE(analysis) << last;
+    EXPECT_EQ(done, last);
+    EXPECT_EQ(dropped, last == 168 ? "KK, QQ" : "") << "they come with the last class";
+  }
+}
+
+TEST_F(AnalyzeTest, AmountsAreThoseOfTheMoment) {
+  const Amounts later = {120, 40, 300};
+  for (const Situation& before : {ACall(kPairs), ARaise(kEveryHand, kPairs)}) {
+    Situation after = before;
+    after.PotSize = later.Pot;
+    after.CallAmount = later.Call;
+    after.ShoveAmount = later.Shove;
+    Amounts now = {before.PotSize, before.CallAmount, before.ShoveAmount};
+    const auto mixed = Analyze(before, {.AmountsNow = [&] { return now; },
+                                        .GoesOn =
+                                            [&](std::int16_t index, const Analysis& /*soFar*/) {
+                                              if (index == 49) now = later;
+                                              return true;
+                                            }});
+    const auto rows = RowsOf(mixed->HandInfo);
+    const auto rowsBefore = RowsOf(Analyze(before)->HandInfo);
+    const auto rowsAfter = RowsOf(Analyze(after)->HandInfo);
+    for (std::size_t index = 0; index < rows.size(); ++index)
+      EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
+    EXPECT_EQ(mixed->PotSize, 100);
+  }
+}
+
+// Weights that a grid cannot show, below 0 and above 1 among them, and callers that hold what the range lacks.
+TEST_F(AnalyzeTest, NumbersReadBeforeGiveTheSameAnalysis) {
+  const HandNumbers hands;
+  const std::string odd = RangeWith({{"AA", 2}, {"KK", -0.5}, {"AKo", 0.1}, {"72o", 0.7}, {"T9s", 0.3}}, 0.45);
+  const std::string other = RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 0.6}, {"AKo", -1}, {"T9s", 0.2}}, 0.1);
+  const std::string dropping = RangeWith({{"AA", 1}, {"A2s", 1}, {"KQo", 1}, {"22", 1}}, 0.5);
+  for (const Situation& situation :
+       {ACall(odd), AnEquity(other), ARaise(odd, other), ARaise(other, odd), ARaise(kNoHand, dropping),
+        ARaise(EveryHandAt(0.5), dropping), ARaise(kEveryHand, kNoHand)}) {
+    const std::string& calling = situation.CallingRangeText;
+    const RangeNumbers numbers(hands, RangeWeightsOf(situation.RangeText),
+                               calling.empty() ? ClassWeights{} : RangeWeightsOf(calling));
+    EXPECT_EQ(Analyze(situation, numbers), Analyze(situation));
+  }
+}
+
+TEST_F(AnalyzeTest, ATableHasTheRowsOfItsFigures) {
+  const Situation situation = ARaise(kEveryHand, kPairs);
+  const Scenario& scenario = ScenarioOf(situation.Mode);
+  const RangeTexts ranges({"", situation.RangeText}, {"", situation.CallingRangeText});
+  std::string table;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    table += ResultRow(ResultOf(scenario, index, ranges.FiguresOf(scenario, index), {100, 50, 200}));
+  EXPECT_EQ(Analyze(situation)->HandInfo, table);
+}
+
+}  // namespace
+}  // namespace quillon

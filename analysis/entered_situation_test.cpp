@@ -1,0 +1,49 @@
+#include "analysis/entered_situation.h"
+
+#include <gtest/gtest.h>
+
+#include "analysis/range_folder.h"
+
+namespace quillon {
+namespace {
+
+TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
+  struct Row {
+    const char* text;
+    double value;
+  };
+  for (const Row& row : {Row{"150", 150}, Row{"12.5", 12.5}, Row{"$100", 100}, Row{"1$0$0", 100}, Row{"-$5", -5},
+                         Row{"$-5", -5}, Row{"1,000", 1}, Row{"12abc", 12}, Row{"abc", 0}, Row{"", 0}, Row{"$", 0},
+                         Row{"1 000", 1000}, Row{"1e3", 1000}, Row{"1$e$3", 1000}, Row{"=5+5", 0}, Row{".5", 0.5}}) {
+    EXPECT_EQ(BoxValue(row.text), row.value) << row.text;
+  }
+}
+
+TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
+  const RangeFolder ranges;
+  ranges.Save("Aces", RangeWith({{"AA", 1}}));
+  ranges.Save("Full", EveryHandAt(1));
+  const EnteredSituation entered = {"$100", "1,000", "30x", "Full", "Aces"};
+  const Situation equity = {.Mode = AnalysisMode::kEquityOnly, .RangeName = "Full", .RangeText = EveryHandAt(1)};
+  Situation call = equity;
+  call.Mode = AnalysisMode::kPreflopCall;
+  call.PotSize = 100;
+  call.CallAmount = 1;
+  Situation raise = call;
+  raise.Mode = AnalysisMode::kPreflopRaise;
+  raise.ShoveAmount = 30;
+  raise.CallingRangeName = "Aces";
+  raise.CallingRangeText = RangeWith({{"AA", 1}});
+  for (const Situation& situation : {equity, call, raise})
+    EXPECT_EQ(SituationOf(situation.Mode, entered, ranges.Folder()), situation) << ScenarioOf(situation.Mode).Name;
+}
+
+TEST(SituationOf, ARangeWithoutAFileHasNoText) {
+  const RangeFolder ranges;
+  const Situation situation = SituationOf(AnalysisMode::kEquityOnly, {"", "", "", "Missing", ""}, ranges.Folder());
+  EXPECT_EQ(situation.RangeName, "Missing");
+  EXPECT_EQ(situation.RangeText, "");
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,91 @@
+#pragma once
+
+// Where an analysis takes weights and equities from. RangeTexts reads the range texts and the equity table on every
+// lookup, as an analysis does. RangeNumbers has read both before, which is what thousands of analyses in a row can
+// afford. Both deal the same hands in the same order into the same sums (RangeSums), so their figures agree to the last
+// digit.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "analysis/scenarios.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+
+/// What a class's cards and the ranges say, whatever the amounts are.
+struct ClassFigures {
+  double Equity = 0;  // 0 to 1; -1 if the opponent never calls
+  double CallShare = 0;  // the share of his hands with which he calls; 0 in a scenario without a calling range
+
+  bool operator==(const ClassFigures&) const = default;
+};
+
+/// Reads on every lookup. The texts and the equity table, loaded, must outlive it.
+class RangeTexts {
+ public:
+  /// A range's text, and the name by which a failure tells of it.
+  struct Range {
+    std::string_view Name;
+    std::string_view Text;
+  };
+
+  /// The calling range is not looked at in a scenario without one.
+  RangeTexts(Range range, Range callingRange) : range_(range), callingRange_(callingRange) {}
+
+  /// The figures of the class `index`, 0 to 168. RunTimeError "Subscript out of range" for an empty text, "Overflow"
+  /// for a range without any weight above 0 in a scenario without a calling range; otherwise it fails as DealText does.
+  [[nodiscard]] ClassFigures FiguresOf(const Scenario& scenario, std::int16_t index) const;
+
+  /// What ListDroppedHands says of the two ranges dealt around the last class.
+  [[nodiscard]] std::string DroppedHands() const;
+
+ private:
+  Range range_;
+  Range callingRange_;
+};
+
+/// The equity table as numbers, and for each class of the hero's the classes of the 1225 concrete hands that its two
+/// cards leave, in deck order: what does not depend on the situation. About half a megabyte, made in a few
+/// milliseconds.
+class HandNumbers {
+ public:
+  static constexpr std::size_t kDealtHandCount = 1225;  // 50 * 49 / 2
+  using DealtClasses = std::array<std::uint8_t, kDealtHandCount>;
+  using EquityRow = std::array<double, kHandClassCount>;
+
+  /// Reads the equity table. Fails as HandEquity does before that has been loaded.
+  HandNumbers();
+
+  [[nodiscard]] const DealtClasses& Dealt(std::int16_t hero) const { return dealt_[static_cast<std::size_t>(hero)]; }
+  [[nodiscard]] const EquityRow& Equities(std::int16_t hero) const { return equities_[static_cast<std::size_t>(hero)]; }
+
+ private:
+  std::vector<DealtClasses> dealt_;
+  std::vector<EquityRow> equities_;
+};
+
+/// Has read everything before.
+class RangeNumbers {
+ public:
+  /// The weights are those of RangeWeightsOf; in a scenario without a calling range those of `callingRange` are not
+  /// looked at. `hands` must outlive it.
+  RangeNumbers(const HandNumbers& hands, const ClassWeights& range, const ClassWeights& callingRange = {});
+
+  /// What RangeTexts says of the texts of these weights. It fails only where there is no mean: RunTimeError "Overflow".
+  [[nodiscard]] ClassFigures FiguresOf(const Scenario& scenario, std::int16_t index) const;
+  [[nodiscard]] std::string DroppedHands() const;
+
+ private:
+  const HandNumbers* hands_;
+  ClassWeights range_;
+  ClassWeights callingRange_;
+  ClassWeights limited_{};
+};
+
+}  // namespace quillon

@@ -1,0 +1,99 @@
+#pragma once
+
+// The three questions that an analysis answers, as a table: what each is called, which amounts and ranges it asks for,
+// and what a move is worth in it. Whoever must know which question it is reads the row. What belongs to the input
+// screens or to the results is in tables of their own, which hold one row for each row here and say so in a
+// static_assert.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "analysis/expected_value.h"
+
+namespace quillon {
+
+/// The scenario: the opponent has moved all in and the user may call; the user may shove; or only equities are wanted.
+enum class AnalysisMode : std::int32_t { kNone = 0, kPreflopCall = 1, kPreflopRaise = 2, kEquityOnly = 3 };
+
+/// The amounts of a situation, in the user's own unit. What a scenario does not ask for is 0.
+struct Amounts {
+  double Pot = 0;
+  double Call = 0;  // what the user must put in
+  double Shove = 0;  // what the opponent must put in to call the user's shove
+
+  bool operator==(const Amounts&) const = default;
+};
+
+struct Scenario {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::string_view Name;
+  std::string_view Command;  // the one word for it, where it is typed or written into data
+  int AmountCount = 0;  // how many of pot, call and shove it asks for, in this order
+  bool HasCallingRange = false;  // the opponent may fold: a second range says what he calls with
+
+  /// What the move is worth, from the equity and the share of the opponent's hands that call. Null where nothing is
+  /// put in: every expected value is 0 then.
+  double (*ExpectedValue)(const Amounts& amounts, double equity, double callShare) = nullptr;
+
+  [[nodiscard]] constexpr bool HasExpectedValue() const { return ExpectedValue != nullptr; }
+};
+
+inline constexpr std::array<Scenario, 3> kScenarios = {{
+    {.Mode = AnalysisMode::kPreflopCall,
+     .Name = "Preflop Call",
+     .Command = "call",
+     .AmountCount = 2,
+     .HasCallingRange = false,
+     .ExpectedValue = [](const Amounts& amounts, double equity,
+                         double /*callShare*/) { return CallExpectedValue(amounts.Pot, amounts.Call, equity); }},
+    {.Mode = AnalysisMode::kPreflopRaise,
+     .Name = "Preflop Raise",
+     .Command = "raise",
+     .AmountCount = 3,
+     .HasCallingRange = true,
+     .ExpectedValue =
+         [](const Amounts& amounts, double equity, double callShare) {
+           return ShoveExpectedValue(amounts.Pot, amounts.Call, amounts.Shove, equity, callShare);
+         }},
+    {.Mode = AnalysisMode::kEquityOnly,
+     .Name = "Equity Only",
+     .Command = "equity",
+     .AmountCount = 0,
+     .HasCallingRange = false,
+     .ExpectedValue = nullptr},
+}};
+
+/// A table with one row for each scenario, in the order of kScenarios. A row names its scenario in `Mode`.
+template <class Row>
+using ScenarioTable = std::array<Row, kScenarios.size()>;
+
+/// Whether a table lacks no scenario. Every ScenarioTable is followed by a static_assert on it.
+template <class Row>
+[[nodiscard]] constexpr bool CoversEveryScenario(const ScenarioTable<Row>& table) {
+  return std::equal(table.begin(), table.end(), kScenarios.begin(),
+                    [](const Row& row, const Scenario& scenario) { return row.Mode == scenario.Mode; });
+}
+
+/// The row of a scenario; not to be asked for with kNone, which is none.
+template <class Row>
+[[nodiscard]] constexpr const Row& RowOf(const ScenarioTable<Row>& table, AnalysisMode mode) {
+  return table.at(static_cast<std::size_t>(mode) - 1);
+}
+
+/// The row of a scenario, and null for kNone.
+template <class Row>
+[[nodiscard]] constexpr const Row* FindRow(const ScenarioTable<Row>& table, AnalysisMode mode) {
+  return mode == AnalysisMode::kNone ? nullptr : &RowOf(table, mode);
+}
+
+[[nodiscard]] constexpr const Scenario& ScenarioOf(AnalysisMode mode) {
+  return RowOf(kScenarios, mode);
+}
+
+static_assert(std::all_of(kScenarios.begin(), kScenarios.end(),
+                          [](const Scenario& scenario) { return &ScenarioOf(scenario.Mode) == &scenario; }));
+
+}  // namespace quillon
