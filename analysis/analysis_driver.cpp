@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "analysis/entered_situation.h"
+#include "analysis/input_checks.h"
 #include "analysis/input_screens.h"
 #include "hand/hand_classes.h"
 #include "support/number_text.h"
@@ -99,7 +101,8 @@ void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow&
   window.SetResultsShown(false);
   window.SetNoResultsCaption(kWaitCaption);
   state.Mode = screen.Mode;
-  if (const auto complaint = screen.Check(EnteredOn(screen, window), folder)) return ShowComplaint(*complaint, window);
+  const auto complaint = CheckInputs(screen.Mode, EnteredOn(screen, window), folder);
+  if (complaint) return ShowComplaint(*complaint, window);
 
   Situation situation = SituationOf(screen.Mode, EnteredOn(screen, window), folder);
   window.SetProgressMessage(ProgressMessage(screen, situation.RangeName));

@@ -80,7 +80,23 @@ HandList WholeRange(const ProgramFolder& folder, std::string_view name) {
   return DealRange(folder, name, "Xx", "Yy", rangeText);
 }
 
+struct ScenarioCheck {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::optional<Complaint> (*Run)(const EnteredSituation& entered, const ProgramFolder& folder) = nullptr;
+};
+
+constexpr ScenarioTable<ScenarioCheck> kScenarioChecks = {{
+    {AnalysisMode::kPreflopCall, CheckCallInputs},
+    {AnalysisMode::kPreflopRaise, CheckRaiseInputs},
+    {AnalysisMode::kEquityOnly, CheckEquityInputs},
+}};
+static_assert(CoversEveryScenario(kScenarioChecks));
+
 }  // namespace
+
+std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder) {
+  return RowOf(kScenarioChecks, mode).Run(entered, folder);
+}
 
 std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
   return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered.Range)});

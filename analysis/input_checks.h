@@ -23,6 +23,10 @@ struct Complaint {
   bool operator==(const Complaint&) const = default;
 };
 
+/// The check of a scenario, one of the three below.
+[[nodiscard]] std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered,
+                                                   const ProgramFolder& folder);
+
 /// "Preflop Call": a range is chosen and has weight, the pot is above the call and both are above 0, and both are
 /// numbers. The range is read from its file; if there is no such file, or nothing in it, that is no complaint but a
 /// RunTimeError "Subscript out of range", and a file that cannot be read as a range fails as DealRange does.

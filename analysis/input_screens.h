@@ -1,14 +1,12 @@
 #pragma once
 
-// The input screens, one for each scenario: which boxes and lists of the main window state its situation, how they are
-// checked, and what the Progress screen says while its run goes on. A row's place is the index of its start button.
+// The input screens, one for each scenario: which boxes and lists of the main window state its situation, and what
+// the Progress screen says while its run goes on. A row's place is the index of its start button.
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
-#include "analysis/input_checks.h"
 #include "analysis/scenarios.h"
 
 namespace quillon {
@@ -33,7 +31,6 @@ struct InputScreen {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::array<std::int16_t, 3> AmountBoxes{};  // pot, call, shove
   std::array<std::int16_t, 2> RangeLists{};  // the opponent's range, the one he calls with
-  std::optional<Complaint> (*Check)(const EnteredSituation& entered, const ProgramFolder& folder) = nullptr;
   std::string_view ProgressMessage;
   bool MessageNamesRange = false;  // the range's name follows the message
 };
@@ -42,19 +39,16 @@ inline constexpr ScenarioTable<InputScreen> kInputScreens = {{
     {.Mode = AnalysisMode::kPreflopCall,
      .AmountBoxes = {kCallPotBox, kCallCallBox, kNoControl},
      .RangeLists = {kCallRangeList, kNoControl},
-     .Check = CheckCallInputs,
      .ProgressMessage = "Please wait while we determine what hands you should go ALL IN with...",
      .MessageNamesRange = false},
     {.Mode = AnalysisMode::kPreflopRaise,
      .AmountBoxes = {kRaisePotBox, kRaiseCallBox, kRaiseShoveBox},
      .RangeLists = {kRaiseRangeList, kRaiseCallingRangeList},
-     .Check = CheckRaiseInputs,
      .ProgressMessage = "Please wait while we determine what hands you should go ALL IN with...",
      .MessageNamesRange = false},
     {.Mode = AnalysisMode::kEquityOnly,
      .AmountBoxes = {kNoControl, kNoControl, kNoControl},
      .RangeLists = {kEquityRangeList, kNoControl},
-     .Check = CheckEquityInputs,
      // "determing" is how the program has always put it.
      .ProgressMessage = "Quillon is determing your equity vs the following range: \r\n",
      .MessageNamesRange = true},
@@ -64,8 +58,7 @@ static_assert(CoversEveryScenario(kInputScreens));
 /// The screen of the button `cmdPreflopEV(index)`; an index that no button has gives "Preflop Raise".
 [[nodiscard]] constexpr const InputScreen& ScreenOfButton(std::int16_t index) {
   const bool exists = index >= 0 && static_cast<std::size_t>(index) < kInputScreens.size();
-  return exists ? kInputScreens.at(static_cast<std::size_t>(index))
-                : *FindRow(kInputScreens, AnalysisMode::kPreflopRaise);
+  return exists ? kInputScreens.at(static_cast<std::size_t>(index)) : RowOf(kInputScreens, AnalysisMode::kPreflopRaise);
 }
 
 }  // namespace quillon

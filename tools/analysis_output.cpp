@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <utility>
+#include <vector>
 
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
@@ -41,73 +41,39 @@ class TextScreen final : public ReportScreen {
   std::string text_;
 };
 
-std::string ReportOutput(ReportForm form, AnalysisState& state, std::span<const std::string> hands) {
+std::string ReportOutput(ReportForm form, const Analysis& analysis, std::span<const std::string> hands) {
   TextScreen screen(form);
-  BuildReport(screen, state);
+  BuildReport(screen, analysis);
   for (const std::string& hand : hands)
-    AddSpecificHand(screen, state, hand);
+    AddSpecificHand(screen, analysis, hand);
   return UnixLineEnds(screen.Text());
 }
 
-bool HasAmounts(const AnalysisState& state) {
-  return state.Mode != AnalysisMode::kEquityOnly;
-}
+// A class with the colour of its cell.
+using ShownHand = std::pair<HandResult, std::string>;
 
-bool IsRaise(const AnalysisState& state) {
-  return state.Mode == AnalysisMode::kPreflopRaise;
+std::vector<ShownHand> ShownHands(const Analysis& analysis) {
+  const std::array<Rgb, kHandClassCount> colors = GridColors(analysis);
+  std::vector<ShownHand> hands;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    hands.emplace_back(GetHandResult(analysis.HandInfo, HandLabel(index)),
+                       ColorText(colors[static_cast<std::size_t>(index)]));
+  }
+  return hands;
 }
 
 // What the scenario does not have is left out: a value where only equity was asked for, a fold share where nobody
 // folds.
-struct HandRow {
-  std::string_view hand;
-  std::int16_t combos;
-  std::optional<double> expectedValue;
-  double equity;
-  std::optional<double> foldShare;
-  std::string color;
-};
-
-std::array<HandRow, kHandClassCount> HandRows(const AnalysisState& state) {
-  const std::array<Rgb, kHandClassCount> colors = GridColors(state);
-  std::array<HandRow, kHandClassCount> rows{};
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    HandRow& row = rows[i];
-    row.hand = HandLabel(static_cast<std::int16_t>(i));
-    row.combos = ComboCount(row.hand);
-    row.equity = GetHandInfo(state.HandInfo, row.hand, kEquityColumn);
-    row.color = ColorText(colors[i]);
-    if (HasAmounts(state)) row.expectedValue = GetHandInfo(state.HandInfo, row.hand, kExpectedValueColumn);
-    if (IsRaise(state)) row.foldShare = GetHandInfo(state.HandInfo, row.hand, kFoldShareColumn);
-  }
-  return rows;
-}
-
-std::string TextOf(std::optional<double> value) {
-  return value ? NumberText(*value) : std::string();
-}
-
-std::string CsvOutput(const AnalysisState& state) {
+std::string CsvOutput(const Analysis& analysis) {
+  const Scenario& scenario = ScenarioOf(analysis.Mode);
   std::string text = "hand,combos,ev,equity,fold,colour\n";
-  for (const HandRow& row : HandRows(state)) {
-    text += Joined({row.hand, ",", std::to_string(row.combos), ",", TextOf(row.expectedValue), ",",
-                    NumberText(row.equity), ",", TextOf(row.foldShare), ",", row.color, "\n"});
+  for (const auto& [hand, color] : ShownHands(analysis)) {
+    const std::string value = scenario.HasExpectedValue() ? NumberText(hand.ExpectedValue) : "";
+    const std::string fold = scenario.HasCallingRange ? NumberText(hand.FoldShare) : "";
+    text += Joined({hand.Label, ",", std::to_string(hand.Combos), ",", value, ",", NumberText(hand.Equity), ",", fold,
+                    ",", color, "\n"});
   }
   return text;
-}
-
-std::string_view ModeName(AnalysisMode mode) {
-  switch (mode) {
-    case AnalysisMode::kPreflopCall:
-      return "call";
-    case AnalysisMode::kPreflopRaise:
-      return "raise";
-    case AnalysisMode::kEquityOnly:
-      return "equity";
-    case AnalysisMode::kNone:
-      break;
-  }
-  return "none";
 }
 
 template <typename Value>
@@ -115,13 +81,13 @@ Json ValueIf(bool present, Value&& value) {
   return present ? Json(std::forward<Value>(value)) : Json();
 }
 
-Json JsonOf(std::optional<double> value) {
-  return value ? Json(*value) : Json();
-}
-
-Json HandJson(const HandRow& row) {
-  return {{"hand", row.hand},     {"combos", row.combos},          {"ev", JsonOf(row.expectedValue)},
-          {"equity", row.equity}, {"fold", JsonOf(row.foldShare)}, {"colour", row.color}};
+Json HandJson(const Scenario& scenario, const HandResult& hand, const std::string& color) {
+  return {{"hand", hand.Label},
+          {"combos", hand.Combos},
+          {"ev", ValueIf(scenario.HasExpectedValue(), hand.ExpectedValue)},
+          {"equity", hand.Equity},
+          {"fold", ValueIf(scenario.HasCallingRange, hand.FoldShare)},
+          {"colour", color}};
 }
 
 // The classes that the report names, each a text such as "JJ (½'d)".
@@ -136,27 +102,27 @@ Json DroppedHandsJson(std::string_view text) {
   return hands;
 }
 
-std::string JsonOutput(const AnalysisState& state) {
-  const bool amounts = HasAmounts(state);
-  const bool raise = IsRaise(state);
-  const std::int16_t column = amounts ? kExpectedValueColumn : kEquityColumn;
-  const std::string best = BestHand(state.HandInfo, column);
-  const std::string worst = WorstHand(state.HandInfo, column);
-  const GridTexts texts = MakeGridTexts(state);
+std::string JsonOutput(const Analysis& analysis) {
+  const Scenario& scenario = ScenarioOf(analysis.Mode);
+  const bool called = scenario.HasCallingRange;
+  const std::int16_t column = ShownColumn(analysis);
+  const std::string best = BestHand(analysis.HandInfo, column);
+  const std::string worst = WorstHand(analysis.HandInfo, column);
+  const GridTexts texts = MakeGridTexts(analysis);
 
   Json hands = Json::array();
-  for (const HandRow& row : HandRows(state))
-    hands.push_back(HandJson(row));
+  for (const auto& [hand, color] : ShownHands(analysis))
+    hands.push_back(HandJson(scenario, hand, color));
 
-  const Json object = {{"mode", ModeName(state.Mode)},
-                       {"pot", ValueIf(amounts, state.PotSize)},
-                       {"call", ValueIf(amounts, state.CallAmount)},
-                       {"shove", ValueIf(raise, state.ShoveAmount)},
-                       {"range", state.RangeName},
-                       {"calling_range", ValueIf(raise, state.CallingRangeName)},
-                       {"range_summary", RangeSummary(state.RangeText)},
-                       {"calling_range_summary", raise ? Json(RangeSummary(state.CallingRangeText)) : Json()},
-                       {"dropped_hands", ValueIf(raise, DroppedHandsJson(state.DroppedHands))},
+  const Json object = {{"mode", scenario.Command},
+                       {"pot", ValueIf(scenario.AmountCount > 0, analysis.PotSize)},
+                       {"call", ValueIf(scenario.AmountCount > 1, analysis.CallAmount)},
+                       {"shove", ValueIf(scenario.AmountCount > 2, analysis.ShoveAmount)},
+                       {"range", analysis.RangeName},
+                       {"calling_range", ValueIf(called, analysis.CallingRangeName)},
+                       {"range_summary", RangeSummary(analysis.RangeText)},
+                       {"calling_range_summary", called ? Json(RangeSummary(analysis.CallingRangeText)) : Json()},
+                       {"dropped_hands", ValueIf(called, DroppedHandsJson(analysis.DroppedHands))},
                        {"title", texts.Title},
                        {"situation", UnixLineEnds(texts.HandInfo)},
                        {"explanation", UnixLineEnds(texts.Results)},
@@ -199,18 +165,18 @@ std::string UnixLineEnds(std::string_view text) {
   return result;
 }
 
-std::string AnalysisOutput(OutputFormat format, AnalysisState& state, std::span<const std::string> hands) {
+std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::span<const std::string> hands) {
   switch (format) {
     case OutputFormat::kPlain:
-      return ReportOutput(ReportForm::kPlainText, state, {});
+      return ReportOutput(ReportForm::kPlainText, analysis, {});
     case OutputFormat::kForum:
-      return ReportOutput(ReportForm::kForum, state, hands);
+      return ReportOutput(ReportForm::kForum, analysis, hands);
     case OutputFormat::kTable:
-      return state.HandInfo;
+      return analysis.HandInfo;
     case OutputFormat::kJson:
-      return JsonOutput(state);
+      return JsonOutput(analysis);
     case OutputFormat::kCsv:
-      return CsvOutput(state);
+      return CsvOutput(analysis);
   }
   return {};
 }

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "analysis/analysis_state.h"
+#include "analysis/analysis.h"
 #include "support/rgb.h"
 
 namespace quillon {
@@ -32,7 +32,8 @@ inline constexpr std::array<std::string_view, 5> kOutputFormatNames = {"plain", 
 /// combos, ev, equity, fold and colour for each class, and kJson is one object: what the scenario does not have, such
 /// as the fold share of a call, is nothing in the one and null in the other. Numbers read back as those of the table;
 /// an equity of -1 says that the opponent never calls. Fails as BuildReport and MakeGridTexts do.
-[[nodiscard]] std::string AnalysisOutput(OutputFormat format, AnalysisState& state, std::span<const std::string> hands);
+[[nodiscard]] std::string AnalysisOutput(OutputFormat format, const Analysis& analysis,
+                                         std::span<const std::string> hands);
 
 /// The 13 by 13 grid in its colours, for a terminal that takes 24-bit colour sequences: one line for each row, with
 /// class labels in black or white, whichever reads better.

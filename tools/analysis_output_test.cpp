@@ -14,8 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/entered_situation.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
@@ -24,7 +23,6 @@
 #include "results/results_grid.h"
 #include "testing/range_texts.h"
 #include "testing/recording_report_screen.h"
-#include "testing/recording_window.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -82,48 +80,45 @@ std::string HexColor(Rgb color) {
 
 // ---- one finished run of each scenario
 
-AnalysisState FinishedRun(std::int16_t button, const EnteredSituation& situation) {
+Analysis FinishedRun(AnalysisMode mode, const EnteredSituation& situation) {
   const TemporaryProgram program;
   program.Write("Now.txt", TextWith("AA KK QQ AKs AKo", "JJ ATs"));
   program.Write("Calls.txt", TextWith("AA KK JJ 77", "AKs"));
   program.Write("Nothing.txt", TextWith(""));
   LoadEquityTable();
-  RecordedMessages messages;
-  QuietWindow window(situation, messages);
-  AnalysisState state;
-  RunAnalysis(state, button, window, program.Folder());
-  EXPECT_THAT(messages.Shown, IsEmpty());
-  return state;
+  return *Analyze(SituationOf(mode, situation, program.Folder()));
 }
 
-AnalysisState CallRun() {
-  return FinishedRun(0, {.Pot = "150.125", .Call = "50", .Shove = "", .Range = "Now", .CallingRange = ""});
+Analysis CallRun() {
+  return FinishedRun(AnalysisMode::kPreflopCall,
+                     {.Pot = "150.125", .Call = "50", .Shove = "", .Range = "Now", .CallingRange = ""});
 }
 
-AnalysisState RaiseRun() {
-  return FinishedRun(1, {.Pot = "150", .Call = "50", .Shove = "400", .Range = "Now", .CallingRange = "Calls"});
+Analysis RaiseRun() {
+  return FinishedRun(AnalysisMode::kPreflopRaise,
+                     {.Pot = "150", .Call = "50", .Shove = "400", .Range = "Now", .CallingRange = "Calls"});
 }
 
-AnalysisState EquityRun() {
-  return FinishedRun(2, {.Pot = "", .Call = "", .Shove = "", .Range = "Now", .CallingRange = ""});
+Analysis EquityRun() {
+  return FinishedRun(AnalysisMode::kEquityOnly,
+                     {.Pot = "", .Call = "", .Shove = "", .Range = "Now", .CallingRange = ""});
 }
 
-struct Scenario {
+struct RunCase {
   const char* name;
-  AnalysisState (*run)();
+  Analysis (*run)();
   bool hasValue;
   bool hasFold;
 };
 
-class EachScenario : public testing::TestWithParam<Scenario> {};
+class EachScenario : public testing::TestWithParam<RunCase> {};
 
 INSTANTIATE_TEST_SUITE_P(AnalysisOutput, EachScenario,
-                         testing::Values(Scenario{"Call", CallRun, true, false},
-                                         Scenario{"Raise", RaiseRun, true, true},
-                                         Scenario{"Equity", EquityRun, false, false}),
+                         testing::Values(RunCase{"Call", CallRun, true, false}, RunCase{"Raise", RaiseRun, true, true},
+                                         RunCase{"Equity", EquityRun, false, false}),
                          [](const auto& entry) { return std::string(entry.param.name); });
 
-std::string BoxText(ReportForm form, AnalysisState& state, const std::vector<std::string>& hands) {
+std::string BoxText(ReportForm form, Analysis& state, const std::vector<std::string>& hands) {
   RecordingReportScreen screen;
   screen.Form = form;
   BuildReport(screen, state);
@@ -180,7 +175,7 @@ INSTANTIATE_TEST_SUITE_P(UnixLineEnds, LineEnds, testing::ValuesIn(kLineEndCases
 // ---- the two reports and the table
 
 TEST_P(EachScenario, PrintsThePlainReportOfTheWindow) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
   EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), expected);
   EXPECT_EQ(expected.find('\r'), std::string::npos);
@@ -188,14 +183,14 @@ TEST_P(EachScenario, PrintsThePlainReportOfTheWindow) {
 }
 
 TEST_P(EachScenario, PrintsTheForumReportOfTheWindow) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
   EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), expected);
   EXPECT_TRUE(expected.starts_with("[URL="));
 }
 
 TEST_P(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::vector<std::string> hands = {"72o", "AA", "72o"};
   const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, hands));
   EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, hands), expected);
@@ -204,13 +199,13 @@ TEST_P(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
 }
 
 TEST_P(EachScenario, PrintsTheTableByteForByte) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   EXPECT_EQ(AnalysisOutput(OutputFormat::kTable, state, {}), state.HandInfo);
   EXPECT_THAT(Cells(state.HandInfo), SizeIs(169));
 }
 
 TEST_P(EachScenario, AddsNoWorkingToOtherFormats) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::vector<std::string> hands = {"AA"};
   for (const OutputFormat format :
        {OutputFormat::kPlain, OutputFormat::kTable, OutputFormat::kJson, OutputFormat::kCsv})
@@ -220,7 +215,7 @@ TEST_P(EachScenario, AddsNoWorkingToOtherFormats) {
 // ---- csv
 
 TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::array<Rgb, 169> colors = GridColors(state);
   std::string expected = "hand,combos,ev,equity,fold,colour\n";
   const auto rows = Cells(state.HandInfo);
@@ -234,7 +229,7 @@ TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
 }
 
 TEST(CsvOutput, HoldsEachClassOnceInIndexOrder) {
-  AnalysisState state = CallRun();
+  Analysis state = CallRun();
   const auto lines = Split(AnalysisOutput(OutputFormat::kCsv, state, {}), "\n");
   ASSERT_THAT(lines, SizeIs(171));  // the header, 169 rows, and nothing behind the last line end
   EXPECT_EQ(lines[0], "hand,combos,ev,equity,fold,colour");
@@ -267,7 +262,7 @@ std::vector<std::string> NullKeys(const Json& object) {
 }
 
 TEST_P(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
   EXPECT_TRUE(text.ends_with("}\n"));
   const Json object = Json::parse(text);
@@ -280,7 +275,7 @@ TEST_P(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
 }
 
 TEST_P(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   const std::array<Rgb, 169> colors = GridColors(state);
   const auto rows = Cells(state.HandInfo);
@@ -298,7 +293,7 @@ TEST_P(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
 }
 
 TEST_P(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
-  AnalysisState state = GetParam().run();
+  Analysis state = GetParam().run();
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   const GridTexts texts = MakeGridTexts(state);
   EXPECT_EQ(object["situation"], WithUnixLineEnds(texts.HandInfo));
@@ -306,7 +301,7 @@ TEST_P(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
 }
 
 TEST(JsonOutput, HoldsNumbersOfAnySize) {
-  AnalysisState state = CallRun();
+  Analysis state = CallRun();
   state.PotSize = std::numeric_limits<double>::max();
   const std::string& table = state.HandInfo;
   state.HandInfo = "AA\t7.92119999999999E-02\t-1E+300\t1\t\r\n" + table.substr(table.find("AKs"));
@@ -317,7 +312,7 @@ TEST(JsonOutput, HoldsNumbersOfAnySize) {
 }
 
 TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
-  AnalysisState state = CallRun();
+  Analysis state = CallRun();
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   EXPECT_THAT(NullKeys(object), ElementsAre("shove", "calling_range", "calling_range_summary", "dropped_hands"));
   EXPECT_EQ(object["mode"], "call");
@@ -334,7 +329,7 @@ TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
 }
 
 TEST(JsonOutput, OfARaiseHasEverything) {
-  AnalysisState state = RaiseRun();
+  Analysis state = RaiseRun();
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   EXPECT_THAT(NullKeys(object), IsEmpty());
   EXPECT_EQ(object["mode"], "raise");
@@ -354,7 +349,7 @@ TEST(JsonOutput, OfARaiseHasEverything) {
 }
 
 TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
-  AnalysisState state = EquityRun();
+  Analysis state = EquityRun();
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   EXPECT_THAT(NullKeys(object),
               ElementsAre("pot", "call", "shove", "calling_range", "calling_range_summary", "dropped_hands"));
@@ -368,8 +363,8 @@ TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
 }
 
 TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyList) {
-  AnalysisState state =
-      FinishedRun(1, {.Pot = "3", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
+  Analysis state = FinishedRun(AnalysisMode::kPreflopRaise,
+                               {.Pot = "3", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   EXPECT_EQ(object["dropped_hands"], Json::array());
   EXPECT_EQ(object["call"], 0);
@@ -380,15 +375,15 @@ TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyList) {
 }
 
 TEST(JsonOutput, HasNoWorstHandWhereNoneIsBelowTenThousand) {
-  AnalysisState state =
-      FinishedRun(1, {.Pot = "20000", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
+  Analysis state = FinishedRun(AnalysisMode::kPreflopRaise,
+                               {.Pot = "20000", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
   const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
   EXPECT_EQ(object["best"], "AA");
   EXPECT_THAT(NullKeys(object), ElementsAre("worst"));
 }
 
 TEST(JsonOutput, HasNoBestHandWhereNoneIsAboveMinusTenThousand) {
-  AnalysisState state = CallRun();
+  Analysis state = CallRun();
   state.HandInfo.clear();
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     state.HandInfo.append(HandLabel(index)).append("\t-20000\t0\t1\t\r\n");
@@ -398,7 +393,7 @@ TEST(JsonOutput, HasNoBestHandWhereNoneIsAboveMinusTenThousand) {
 }
 
 TEST(JsonOutput, IsValidWhateverBytesARangeNameHolds) {
-  AnalysisState state = EquityRun();
+  Analysis state = EquityRun();
   state.RangeName =
       "Gr\xfc\xdf"
       "e \"\\\x01";
@@ -407,7 +402,7 @@ TEST(JsonOutput, IsValidWhateverBytesARangeNameHolds) {
 }
 
 TEST(JsonOutput, KeepsANameInUtf8) {
-  AnalysisState state = EquityRun();
+  Analysis state = EquityRun();
   state.RangeName = "Überfall ½";
   const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
   EXPECT_NE(text.find(R"("range": "Überfall ½")"), std::string::npos);

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -14,8 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/input_checks.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
 #include "ranges/range_files.h"
@@ -27,6 +27,7 @@
 #include "shell/version.h"
 #include "support/message_boxes.h"
 #include "support/number_text.h"
+#include "support/rounding.h"
 #include "support/run_time_error.h"
 #include "tools/analysis_output.h"
 #include "tools/nearest_names.h"
@@ -34,9 +35,28 @@
 namespace quillon {
 namespace {
 
-constexpr std::int16_t kCallButton = 0;
-constexpr std::int16_t kRaiseButton = 1;
-constexpr std::int16_t kEquityButton = 2;
+// How an analysis is asked for on the command line: what its help says of the command, of each amount, and of each
+// range.
+struct AnalysisCommand {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  const char* Description = nullptr;
+  std::array<const char*, 3> Amounts{};  // pot, call, shove
+  std::array<const char*, 2> Ranges{};  // his range, the one he calls with
+};
+
+constexpr ScenarioTable<AnalysisCommand> kAnalysisCommands = {{
+    {AnalysisMode::kPreflopCall,
+     "What each hand wins or loses by calling an all-in",
+     {"Everything in the pot, his bet included", "What you must put in to call"},
+     {"His range"}},
+    {AnalysisMode::kPreflopRaise,
+     "What each hand wins or loses by going all in",
+     {"Everything in the pot", "What you must put in to call, 0 if you are first to act",
+      "What he must put in to call your shove"},
+     {"His range now", "The range he calls your shove with"}},
+    {AnalysisMode::kEquityOnly, "The equity of each hand against a range", {}, {"His range"}},
+}};
+static_assert(CoversEveryScenario(kAnalysisCommands));
 
 // Message boxes on standard error. A message has one button there, and nobody to press it.
 class PrintedMessages final : public MessageBoxes {
@@ -56,43 +76,35 @@ class PrintedMessages final : public MessageBoxes {
   bool shown_ = false;
 };
 
-// The window of a run that has none: only its progress bar is to be seen, drawn over and over on one line. Most runs
-// are over before anyone could read it, and show none.
-class CompanionWindow final : public QuietWindow {
+// The progress of a run, drawn over and over on one line. Most runs are over before anyone could read it, and show
+// none.
+class ProgressBar {
  public:
-  CompanionWindow(EnteredSituation situation, MessageBoxes& messages, const Surroundings& surroundings)
-      : QuietWindow(std::move(situation), messages), surroundings_(surroundings), start_(surroundings.Now()) {}
-  CompanionWindow(const CompanionWindow&) = delete;
-  CompanionWindow(CompanionWindow&&) = delete;
-  CompanionWindow& operator=(const CompanionWindow&) = delete;
-  CompanionWindow& operator=(CompanionWindow&&) = delete;
+  explicit ProgressBar(const Surroundings& surroundings) : surroundings_(surroundings), start_(surroundings.Now()) {}
+  ProgressBar(const ProgressBar&) = delete;
+  ProgressBar(ProgressBar&&) = delete;
+  ProgressBar& operator=(const ProgressBar&) = delete;
+  ProgressBar& operator=(ProgressBar&&) = delete;
   // A run that fails half-way leaves its bar, and the failure's text must not follow it on the line.
-  ~CompanionWindow() override { ClearProgress(); }
+  ~ProgressBar() {
+    if (shows_) surroundings_.Errors << "\r\x1b[K" << std::flush;
+  }
 
-  void SetProgressPercent(std::string_view caption) override { percent_ = caption; }
-
-  void SetProgressBarWidth(float twips) override {
+  void Show(std::size_t classesDone) {
     constexpr std::chrono::milliseconds kPatience(500);
     if (!surroundings_.Terminal.ShowProgress || surroundings_.Now() - start_ <= kPatience) return;
     constexpr std::size_t kCharacters = 40;
-    const auto filled = static_cast<std::size_t>(kCharacters * static_cast<double>(twips) / kProgressBarWidth);
+    const std::size_t filled = kCharacters * classesDone / kHandClassCount;
     const std::string bar = std::string(filled, '#') + std::string(kCharacters - filled, ' ');
-    surroundings_.Errors << "\r[" << bar << "] " << percent_ << std::flush;
-    barShows_ = true;
+    const double percent = PercentOf(static_cast<double>(classesDone), kHandClassCount, 0);
+    surroundings_.Errors << "\r[" << bar << "] " << NumberText(percent) << '%' << std::flush;
+    shows_ = true;
   }
-
-  void PresentResults(const AnalysisState& /*state*/) override { ClearProgress(); }
 
  private:
-  void ClearProgress() {
-    if (barShows_) surroundings_.Errors << "\r\x1b[K" << std::flush;
-    barShows_ = false;
-  }
-
   const Surroundings& surroundings_;
   std::chrono::steady_clock::time_point start_;
-  std::string percent_;
-  bool barShows_ = false;
+  bool shows_ = false;
 };
 
 struct Request {
@@ -179,7 +191,15 @@ void WarnOfComma(std::string_view option, const std::string& amount, std::ostrea
          << "; a comma ends a number.\n";
 }
 
-int Analyze(std::int16_t button, Request request, const Surroundings& surroundings) {
+Analysis AnalyzeWithProgress(Situation situation, const Surroundings& surroundings) {
+  ProgressBar bar(surroundings);
+  return *Analyze(std::move(situation), {.GoesOn = [&bar](std::int16_t index, const Analysis& /*soFar*/) {
+                    bar.Show(static_cast<std::size_t>(index) + 1);
+                    return true;
+                  }});
+}
+
+int PrintAnalysis(AnalysisMode mode, Request request, const Surroundings& surroundings) {
   PrintedMessages messages(surroundings.Errors);
   EnteredSituation& situation = request.situation;
   for (std::string* const amount : {&situation.Pot, &situation.Call, &situation.Shove}) {
@@ -195,17 +215,17 @@ int Analyze(std::int16_t button, Request request, const Surroundings& surroundin
   WarnOfComma("--pot", situation.Pot, surroundings.Errors);
   WarnOfComma("--call", situation.Call, surroundings.Errors);
   WarnOfComma("--shove", situation.Shove, surroundings.Errors);
+  if (const auto complaint = CheckInputs(mode, situation, folder)) {
+    surroundings.Errors << complaint->Title << ": " << complaint->Text << '\n';
+    return kRefused;
+  }
 
   LoadEquityTable();
-  AnalysisState state;
-  CompanionWindow window(situation, messages, surroundings);
-  RunAnalysis(state, button, window, folder);
-  if (messages.Shown()) return kRefused;
-
+  const Analysis analysis = AnalyzeWithProgress(SituationOf(mode, situation, folder), surroundings);
   const OutputFormat format = OutputFormatOf(request.format);
-  const std::string text = AnalysisOutput(format, state, request.hands);
+  const std::string text = AnalysisOutput(format, analysis, request.hands);
   if (format == OutputFormat::kPlain && surroundings.Terminal.ShowColors) {
-    surroundings.Output << TerminalGrid(GridColors(state)) << '\n';
+    surroundings.Output << TerminalGrid(GridColors(analysis)) << '\n';
   }
   surroundings.Output << text;
   return kDone;
@@ -255,26 +275,10 @@ class CommandLine {
   CommandLine() {
     app_.require_subcommand(0, 1);
     app_.set_version_flag("--version", "quillon-cli " + VersionText());
+    AddText(summary_, "--range", request_.situation.Range, "The range");
+    AddFolder(summary_);
+    AddFolder(ranges_);
     app_.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
-    EnteredSituation& situation = request_.situation;
-    AddText(call_, "--pot", situation.Pot, "Everything in the pot, his bet included");
-    AddText(call_, "--call", situation.Call, "What you must put in to call");
-    AddText(call_, "--range", situation.Range, "His range");
-    AddText(raise_, "--pot", situation.Pot, "Everything in the pot");
-    AddText(raise_, "--call", situation.Call, "What you must put in to call, 0 if you are first to act");
-    AddText(raise_, "--shove", situation.Shove, "What he must put in to call your shove");
-    AddText(raise_, "--range", situation.Range, "His range now");
-    AddText(raise_, "--calling-range", situation.CallingRange, "The range he calls your shove with");
-    AddText(equity_, "--range", situation.Range, "His range");
-    AddText(summary_, "--range", situation.Range, "The range");
-    for (CLI::App* const command : {call_, raise_, equity_})
-      AddOutputOptions(command);
-    for (CLI::App* const command : {call_, raise_, equity_, summary_, ranges_}) {
-      command
-          ->add_option("--folder", request_.folder,
-                       "The program folder that holds \"Ranges\" (default: the executable's own)")
-          ->type_name("DIR");
-    }
   }
 
   /// Nothing, or the exit status with which the program is to end after what has been printed.
@@ -295,9 +299,9 @@ class CommandLine {
   }
 
   int Run(const Surroundings& surroundings) {
-    if (call_->parsed()) return Analyze(kCallButton, request_, surroundings);
-    if (raise_->parsed()) return Analyze(kRaiseButton, request_, surroundings);
-    if (equity_->parsed()) return Analyze(kEquityButton, request_, surroundings);
+    for (std::size_t i = 0; i < analyses_.size(); ++i) {
+      if (analyses_[i]->parsed()) return PrintAnalysis(kScenarios[i].Mode, request_, surroundings);
+    }
     if (summary_->parsed()) return Summarize(request_, surroundings);
     return ListRanges(request_, surroundings);
   }
@@ -308,6 +312,33 @@ class CommandLine {
   static void AddText(CLI::App* command, const char* option, std::string& text, const char* description) {
     const bool name = std::string_view(option).ends_with("range");
     command->add_option(option, text, description)->required()->type_name(name ? "NAME" : "TEXT");
+  }
+
+  std::array<CLI::App*, kScenarios.size()> AddAnalyses() {
+    std::array<CLI::App*, kScenarios.size()> commands{};
+    std::transform(kAnalysisCommands.begin(), kAnalysisCommands.end(), commands.begin(),
+                   [this](const AnalysisCommand& row) { return AddAnalysis(ScenarioOf(row.Mode), row); });
+    return commands;
+  }
+
+  CLI::App* AddAnalysis(const Scenario& scenario, const AnalysisCommand& row) {
+    CLI::App* const command = app_.add_subcommand(std::string(scenario.Command), row.Description);
+    EnteredSituation& situation = request_.situation;
+    if (scenario.AmountCount > 0) AddText(command, "--pot", situation.Pot, row.Amounts[0]);
+    if (scenario.AmountCount > 1) AddText(command, "--call", situation.Call, row.Amounts[1]);
+    if (scenario.AmountCount > 2) AddText(command, "--shove", situation.Shove, row.Amounts[2]);
+    AddText(command, "--range", situation.Range, row.Ranges[0]);
+    if (scenario.HasCallingRange) AddText(command, "--calling-range", situation.CallingRange, row.Ranges[1]);
+    AddOutputOptions(command);
+    AddFolder(command);
+    return command;
+  }
+
+  void AddFolder(CLI::App* command) {
+    command
+        ->add_option("--folder", request_.folder,
+                     "The program folder that holds \"Ranges\" (default: the executable's own)")
+        ->type_name("DIR");
   }
 
   void AddOutputOptions(CLI::App* command) {
@@ -331,9 +362,7 @@ class CommandLine {
 
   Request request_;
   CLI::App app_{"Call the all-in, or shove yourself? The answer for all 169 starting hands.", "quillon-cli"};
-  CLI::App* call_ = app_.add_subcommand("call", "What each hand wins or loses by calling an all-in");
-  CLI::App* raise_ = app_.add_subcommand("raise", "What each hand wins or loses by going all in");
-  CLI::App* equity_ = app_.add_subcommand("equity", "The equity of each hand against a range");
+  std::array<CLI::App*, kScenarios.size()> analyses_ = AddAnalyses();
   CLI::App* summary_ = app_.add_subcommand("summary", "The short notation of one range");
   CLI::App* ranges_ = app_.add_subcommand("ranges", "Every range: name, percent selected, short notation");
 };

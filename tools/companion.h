@@ -36,7 +36,7 @@ struct Surroundings {
 /// input checks run as they do after a click on the window's button: a refusal is printed as "title: message". A range
 /// that there is no file of is refused, with the names that are nearest to its own; one whose file cannot be read is
 /// pointed out before the run fails over it. Where the terminal takes it, a run that goes on for more than half a
-/// second shows a bar. Fails as RunAnalysis and AnalysisOutput do; nothing is written anywhere.
+/// second shows a bar. Fails as the input checks, Analyze and AnalysisOutput do; nothing is written anywhere.
 [[nodiscard]] int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings);
 
 }  // namespace quillon

@@ -13,13 +13,11 @@
 #include <string_view>
 #include <vector>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/quiet_window.h"
+#include "analysis/entered_situation.h"
 #include "hand/equity_table.h"
 #include "shell/version.h"
 #include "support/run_time_error.h"
 #include "testing/range_texts.h"
-#include "testing/recording_window.h"
 #include "testing/temporary_program.h"
 #include "tools/analysis_output.h"
 
@@ -113,31 +111,28 @@ Arguments Raise(const char* pot, const char* call, const char* shove, const char
 struct CommandCase {
   const char* name;
   const Arguments* arguments;
-  std::int16_t button;
+  AnalysisMode mode;
   EnteredSituation situation;
 };
 
 class EachCommand : public testing::TestWithParam<CommandCase> {};
 
-INSTANTIATE_TEST_SUITE_P(Companion, EachCommand,
-                         testing::Values(CommandCase{"Call", &kCall, 0, {"150", "50", "", "Tight", ""}},
-                                         CommandCase{"Raise", &kRaise, 1, {"150", "50", "400", "Loose", "Tight"}},
-                                         CommandCase{"Equity", &kEquity, 2, {"", "", "", "Loose", ""}}),
-                         [](const auto& entry) { return std::string(entry.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Companion, EachCommand,
+    testing::Values(CommandCase{"Call", &kCall, AnalysisMode::kPreflopCall, {"150", "50", "", "Tight", ""}},
+                    CommandCase{"Raise", &kRaise, AnalysisMode::kPreflopRaise, {"150", "50", "400", "Loose", "Tight"}},
+                    CommandCase{"Equity", &kEquity, AnalysisMode::kEquityOnly, {"", "", "", "Loose", ""}}),
+    [](const auto& entry) { return std::string(entry.param.name); });
 
-// The same run behind the window's button.
-AnalysisState ClickButton(const CommandCase& command, const ProgramFolder& folder) {
+// The same run by the engine alone.
+Analysis EngineRun(const CommandCase& command, const ProgramFolder& folder) {
   LoadEquityTable();
-  RecordedMessages messages;
-  QuietWindow window(command.situation, messages);
-  AnalysisState state;
-  RunAnalysis(state, command.button, window, folder);
-  return state;
+  return *Analyze(SituationOf(command.mode, command.situation, folder));
 }
 
 TEST_P(EachCommand, PrintsItsRunInEveryFormat) {
   const CompanionProgram program;
-  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  Analysis state = EngineRun(GetParam(), program.Folder());
   for (const std::string_view name : kOutputFormatNames) {
     const Outcome outcome = program.Run(With(*GetParam().arguments, {"--format", std::string(name)}));
     EXPECT_EQ(outcome.Status, kDone) << name;
@@ -148,7 +143,7 @@ TEST_P(EachCommand, PrintsItsRunInEveryFormat) {
 
 TEST_P(EachCommand, PrintsThePlainReportUnlessToldOtherwise) {
   const CompanionProgram program;
-  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  Analysis state = EngineRun(GetParam(), program.Folder());
   const Outcome outcome = program.Run(*GetParam().arguments);
   EXPECT_EQ(outcome.Status, kDone);
   EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormat::kPlain, state, {}));
@@ -156,7 +151,7 @@ TEST_P(EachCommand, PrintsThePlainReportUnlessToldOtherwise) {
 
 TEST_P(EachCommand, AddsTheWorkingOfEachHand) {
   const CompanionProgram program;
-  AnalysisState state = ClickButton(GetParam(), program.Folder());
+  Analysis state = EngineRun(GetParam(), program.Folder());
   const std::vector<std::string> hands = {"AKo", "22", "AKo"};
   const std::string expected = AnalysisOutput(OutputFormat::kForum, state, hands);
   for (const Arguments& options : {Arguments{"--hand", "AKo", "--format", "2+2", "--hand", "22", "--hand", "AKo"},
