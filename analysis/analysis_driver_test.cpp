@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "analysis/range_folder.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "support/run_time_error.h"
 #include "testing/recording_window.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -69,7 +69,7 @@ class AnalysisDriver : public testing::Test {
     return 0;
   }
 
-  RangeFolder ranges_;
+  TemporaryProgram ranges_;
   RecordingWindow window_{{"100", "50", "200", "Pairs", "Aces"}};
   AnalysisState state_;
 };
@@ -446,7 +446,7 @@ TEST_F(AnalysisDriver, ARangeFileChangedDuringARunIsNotReadAgain) {
 // A window in which a range's file goes while the run starts, after the check has read it.
 class VanishingRange : public RecordingWindow {
  public:
-  VanishingRange(EnteredSituation entered, const RangeFolder& ranges)
+  VanishingRange(EnteredSituation entered, const TemporaryProgram& ranges)
       : RecordingWindow(std::move(entered)), ranges_(ranges) {}
 
   [[nodiscard]] std::string SelectedRange(std::int16_t index) const override {
@@ -455,7 +455,7 @@ class VanishingRange : public RecordingWindow {
   }
 
  private:
-  const RangeFolder& ranges_;
+  const TemporaryProgram& ranges_;
   mutable int asked_ = 0;
 };
 

@@ -6,10 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "analysis/range_folder.h"
 #include "hand/equity_table.h"
+#include "ranges/range_text.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {

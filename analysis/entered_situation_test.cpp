@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/range_folder.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -20,7 +21,7 @@ TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
 }
 
 TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   ranges.Save("Aces", RangeWith({{"AA", 1}}));
   ranges.Save("Full", EveryHandAt(1));
   const EnteredSituation entered = {"$100", "1,000", "30x", "Full", "Aces"};
@@ -39,7 +40,7 @@ TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
 }
 
 TEST(SituationOf, ARangeWithoutAFileHasNoText) {
-  const RangeFolder ranges;
+  const TemporaryProgram ranges;
   const Situation situation = SituationOf(AnalysisMode::kEquityOnly, {"", "", "", "Missing", ""}, ranges.Folder());
   EXPECT_EQ(situation.RangeName, "Missing");
   EXPECT_EQ(situation.RangeText, "");

@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "analysis/range_folder.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
 #include "testing/recording_window.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -46,7 +47,7 @@ class InputChecks : public testing::Test {
     return 0;
   }
 
-  RangeFolder ranges_;
+  TemporaryProgram ranges_;
 };
 
 const Complaint kNoRange = {"Missing Range", "Please choose a range for your opponent."};

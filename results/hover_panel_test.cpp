@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "analysis/analysis.h"
-#include "analysis/range_folder.h"
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
 #include "support/run_time_error.h"
+#include "testing/range_texts.h"
 #include "testing/sample_analysis.h"
 
 namespace quillon {

@@ -13,14 +13,16 @@
 #include "analysis/dealt_range.h"
 #include "analysis/entered_situation.h"
 #include "analysis/range_equity.h"
-#include "analysis/range_folder.h"
 #include "hand/equity_table.h"
+#include "ranges/range_text.h"
 #include "support/number_text.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/ranges.h"
 #include "testing/oracle/runs.h"
+#include "testing/range_texts.h"
 #include "testing/recording_window.h"
+#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -67,7 +69,7 @@ class RangeMaker {
   std::mt19937 random_;
 };
 
-class PlainReference : public testing::Test {
+class Oracle : public testing::Test {
  public:
   void SetUp() override { LoadEquityTable(); }
 
@@ -94,7 +96,7 @@ class PlainReference : public testing::Test {
   }
 
  protected:
-  RangeFolder ranges_;
+  TemporaryProgram ranges_;
 };
 
 void ExpectSameDeal(const std::string& text, std::string_view card1, std::string_view card2) {
@@ -110,7 +112,7 @@ void ExpectSameDeal(const std::string& text, std::string_view card1, std::string
   }
 }
 
-TEST_F(PlainReference, EveryEquityOfTheTable) {
+TEST_F(Oracle, EveryEquityOfTheTable) {
   // Every seventh column will do: the plain lookup splits the row anew for each.
   for (const std::string& hand : plain::Labels()) {
     for (std::size_t column = 0; column < plain::Labels().size(); column += 7) {
@@ -120,7 +122,7 @@ TEST_F(PlainReference, EveryEquityOfTheTable) {
   }
 }
 
-TEST_F(PlainReference, DealsOfAllClasses) {
+TEST_F(Oracle, DealsOfAllClasses) {
   RangeMaker maker(1);
   const std::string text = maker.ByHand();
   for (const std::string& label : plain::Labels()) {
@@ -129,7 +131,7 @@ TEST_F(PlainReference, DealsOfAllClasses) {
   }
 }
 
-TEST_F(PlainReference, DealsAroundAnyText) {
+TEST_F(Oracle, DealsAroundAnyText) {
   RangeMaker maker(2);
   const std::string text = maker.Saved();
   for (const std::string_view dead :
@@ -140,7 +142,7 @@ TEST_F(PlainReference, DealsAroundAnyText) {
   }
 }
 
-TEST_F(PlainReference, WeightsOfManyRanges) {
+TEST_F(Oracle, WeightsOfManyRanges) {
   RangeMaker maker(3);
   for (int i = 0; i < 200; ++i) {
     const std::string text = i % 2 == 0 ? maker.Saved() : maker.ByHand();
@@ -149,7 +151,7 @@ TEST_F(PlainReference, WeightsOfManyRanges) {
   }
 }
 
-TEST_F(PlainReference, EquitiesOfManyRanges) {
+TEST_F(Oracle, EquitiesOfManyRanges) {
   RangeMaker maker(4);
   for (int i = 0; i < 30; ++i) {
     std::string text = i % 2 == 0 ? maker.Saved() : maker.ByHand();
@@ -188,7 +190,7 @@ std::vector<RunCase> RunCases() {
   };
 }
 
-TEST_F(PlainReference, WholeRuns) {
+TEST_F(Oracle, WholeRuns) {
   for (const auto& [name, run] : RunCases()) {
     const plain::Result result = plain::ResultOf(run);
     EXPECT_TRUE(result.Outcome.GoesThrough()) << name;
@@ -196,7 +198,7 @@ TEST_F(PlainReference, WholeRuns) {
   }
 }
 
-TEST_F(PlainReference, NumbersAsText) {
+TEST_F(Oracle, NumbersAsText) {
   std::mt19937_64 random(9);
   for (int i = 0; i < 20000; ++i) {
     double value = 0;
@@ -211,7 +213,7 @@ TEST_F(PlainReference, NumbersAsText) {
 
 // From a weight for each class to the weight of the dealt range, by way of the text and the file: what comes out must
 // be what the numbers of hands a class has say, without any list.
-TEST_F(PlainReference, ARangeWrittenReadAndDealtWeighsWhatItsClassesDo) {
+TEST_F(Oracle, ARangeWrittenReadAndDealtWeighsWhatItsClassesDo) {
   RangeMaker maker(10);
   for (int round = 0; round < 50; ++round) {
     std::array<double, kHandClassCount> weights{};
