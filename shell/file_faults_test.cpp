@@ -17,12 +17,11 @@
 #include <utility>
 #include <vector>
 
-#include "shell/grid_image.h"
 #include "shell/settings_file.h"
+#include "support/files.h"
 #include "support/run_time_error.h"
 #include "testing/file_calls.h"
 #include "testing/range_texts.h"
-#include "testing/recorded_messages.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -51,22 +50,6 @@ bool IsScratch(const std::string& name) {
 void RemoveScratch(Files& files) {
   std::erase_if(files, [](const auto& file) { return IsScratch(file.first) && !file.first.starts_with("Ranges/"); });
 }
-
-// The grid's screen, on which every picture is the same.
-class ImageScreen final : public GridImageWindow {
- public:
-  explicit ImageScreen(std::string name) : name_(std::move(name)) {}
-
-  [[nodiscard]] TwipRect GridContainer() const override { return {240, 180, 6135, 7815}; }
-  std::string AskSaveName(const SaveDialog&) override { return name_; }
-  [[nodiscard]] std::string CaptureRegion(const CaptureRect&) override { return "BM new picture"; }
-  [[nodiscard]] MessageBoxes& Messages() override { return boxes_; }
-  void OpenImage(const std::string&) override {}
-
- private:
-  std::string name_;
-  RecordedMessages boxes_;
-};
 
 // What the range dialogs write.
 std::string Edited() {
@@ -100,14 +83,12 @@ const std::vector<Action>& Actions() {
        true},
       {"NewImage",
        [](const ProgramFolder& folder) {
-         ImageScreen screen((folder.Path / "Saved Grids" / "new.bmp").string());
-         static_cast<void>(SaveGridImage("", screen, folder));
+         ReplaceFile(folder.Path / "Saved Grids" / "new.bmp", "BM new picture", folder.Path, *folder.Calls);
        },
        {}},
       {"ImageOverAnother",
        [](const ProgramFolder& folder) {
-         ImageScreen screen((folder.Path / "old.bmp").string());
-         static_cast<void>(SaveGridImage("", screen, folder));
+         ReplaceFile(folder.Path / "old.bmp", "BM new picture", folder.Path, *folder.Calls);
        },
        {"old.bmp"}},
   };
@@ -142,6 +123,7 @@ class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
 
   static Outcome Run(FileCalls& calls) {
     const TemporaryProgram program;
+    fs::create_directory(program.Folder().Path / "Saved Grids");
     program.Write("Old.txt", TextWith("AA", "KK") + "\r\n");
     program.Write("Temp Range1.txt", TextWith("22") + "\r\n");
     program.Write("zzz.txt", TextWith("72o") + "\r\n");

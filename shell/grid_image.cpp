@@ -1,7 +1,5 @@
 #include "shell/grid_image.h"
 
-#include "support/files.h"
-#include "support/folders.h"
 #include "support/rounding.h"
 
 namespace quillon {
@@ -13,11 +11,6 @@ std::int32_t Whole(double value) {
 
 std::int32_t WholeTwips(float twips) {
   return Whole(static_cast<double>(twips));
-}
-
-bool WantsToSeeIt(MessageBoxes& messages) {
-  return messages.Show({"Open Now?", "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
-                        MessageIcon::kQuestion, MessageButtons::kYesNo}) == MessageAnswer::kYes;
 }
 
 }  // namespace
@@ -32,18 +25,9 @@ PixelRect PixelsOf(const CaptureRect& rect, double twipsPerPixelX, double twipsP
           Whole((rect.Right - rect.Left) / twipsPerPixelX), Whole((rect.Bottom - rect.Top) / twipsPerPixelY)};
 }
 
-std::string SaveGridImage(const std::string& earlierName, GridImageWindow& window, const ProgramFolder& folder) {
-  const std::filesystem::path savedGrids = folder.Path / "Saved Grids";
-  MakeFolderIfMissing(savedGrids, *folder.Calls);
-
-  const std::string fileName =
-      window.AskSaveName({"24-bit Bitmap | *.bmp", "Save Expected Value Grid", savedGrids, earlierName});
-  if (fileName.empty()) return earlierName;
-
-  const std::string bitmap = window.CaptureRegion(CaptureRectOf(window.GridContainer()));
-  ReplaceFile(fileName, bitmap, folder.Path, *folder.Calls);
-  if (WantsToSeeIt(window.Messages())) window.OpenImage(fileName);
-  return fileName;
+Message OpenImageQuestion() {
+  return {"Open Now?", "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
+          MessageIcon::kQuestion, MessageButtons::kYesNo};
 }
 
 }  // namespace quillon

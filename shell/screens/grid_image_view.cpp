@@ -13,8 +13,13 @@
 #include <QTimer>
 #include <QUrl>
 #include <climits>
+#include <utility>
 
+#include "shell/grid_image.h"
 #include "shell/screens/main_layout.h"
+#include "shell/start_up.h"
+#include "support/files.h"
+#include "support/folders.h"
 #include "support/run_time_error.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
@@ -83,20 +88,42 @@ void WaitForTheScreen() {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-}  // namespace
-
-TwipRect GridImageView::GridContainer() const {
-  return TwipsOf(controls_.ShapeAt("GridContainer").geometry());
+// In the image program of the desktop.
+void OpenImage(const std::string& fileName) {
+  if (QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(fileName)))) return;
+  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + fileName);
 }
 
-std::string GridImageView::AskSaveName(const SaveDialog& dialog) {
-  FileNameDialog box(&form_, ToQt(dialog.Title), ToQt(dialog.StartFolder.string()), NameFilter(dialog.Filter));
-  if (!dialog.FileName.empty()) box.selectFile(ToQt(dialog.FileName));
+}  // namespace
+
+GridImageView::GridImageView(QWidget& form, const FormControls& controls, MessageBoxes& messages, ProgramFolder folder)
+    : form_(form), controls_(controls), messages_(messages), folder_(std::move(folder)) {}
+
+void GridImageView::Save() {
+  MakeFolderIfMissing(SavedGridsFolderPath(folder_), *folder_.Calls);
+  const std::string fileName = AskName();
+  if (fileName.empty()) return;
+
+  lastName_ = fileName;
+  ReplaceFile(fileName, CaptureGrid(), folder_.Path, *folder_.Calls);
+  if (messages_.Show(OpenImageQuestion()) == MessageAnswer::kYes) OpenImage(fileName);
+}
+
+// As it was typed: no extension is added, quotes are part of it, and a file that is there is no reason to ask. Empty if
+// the dialog is cancelled.
+std::string GridImageView::AskName() {
+  const QString folder = ToQt(SavedGridsFolderPath(folder_).string());
+  FileNameDialog box(&form_, ToQt(kSaveImageTitle), folder, NameFilter(kSaveImageFilter));
+  if (!lastName_.empty()) box.selectFile(ToQt(lastName_));
   return box.exec() == QDialog::Accepted ? FromQt(box.FileName()) : std::string();
 }
 
-std::string GridImageView::CaptureRegion(const CaptureRect& rect) {
+// The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that
+// does not let itself be copied gives the window's own drawing instead. At a higher scale these are the screen's own,
+// finer pixels.
+std::string GridImageView::CaptureGrid() {
   WaitForTheScreen();
+  const CaptureRect rect = CaptureRectOf(TwipsOf(controls_.ShapeAt("GridContainer").geometry()));
   const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
   constexpr auto kPixel = static_cast<double>(kTwipsPerPixel);
   const PixelRect place = PixelsOf(rect, kPixel, kPixel);
@@ -111,11 +138,6 @@ std::string GridImageView::CaptureRegion(const CaptureRect& rect) {
   file.open(QIODevice::WriteOnly);
   copy.toImage().convertToFormat(QImage::Format_RGB32).save(&file, "BMP");
   return file.data().toStdString();
-}
-
-void GridImageView::OpenImage(const std::string& fileName) {
-  if (QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(fileName)))) return;
-  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + fileName);
 }
 
 }  // namespace quillon

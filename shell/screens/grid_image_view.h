@@ -1,31 +1,38 @@
 #pragma once
 
-// The grid screen as the saving of its image sees it.
+// The saving of the grid's image ("shell/grid_image.h") from the grid screen.
 
-#include "shell/grid_image.h"
+#include <QWidget>
+#include <string>
+
+#include "ranges/range_files.h"
+#include "support/message_boxes.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
 
-class GridImageView : public GridImageWindow {
+class GridImageView {
  public:
-  GridImageView(QWidget& form, FormControls& controls, MessageBoxes& messages)
-      : form_(form), controls_(controls), messages_(messages) {}
+  /// The boxes and the folder's calls outlive the view, as the form and its controls do.
+  GridImageView(QWidget& form, const FormControls& controls, MessageBoxes& messages, ProgramFolder folder);
 
-  [[nodiscard]] TwipRect GridContainer() const override;
-  std::string AskSaveName(const SaveDialog& dialog) override;
-
-  /// The pixels of the screen itself, whatever lies over the window there. A screen that does not let itself be copied
-  /// gives the window's own drawing instead. At a higher scale these are the screen's own, finer pixels.
-  [[nodiscard]] std::string CaptureRegion(const CaptureRect& rect) override;
-
-  [[nodiscard]] MessageBoxes& Messages() override { return messages_; }
-  void OpenImage(const std::string& fileName) override;
+  /// The click on `imgSave`: makes the folder "Saved Grids" if it is missing, asks for a file name, captures the grid,
+  /// writes the file, and offers to open it. The dialog offers the name of the last save; a cancelled one saves
+  /// nothing.
+  ///
+  /// RunTimeError, with the path and the reason, if the folder cannot be made, the file not be written, in which case
+  /// an old file of that name is still there, or the picture not be opened.
+  void Save();
 
  private:
+  [[nodiscard]] std::string AskName();
+  [[nodiscard]] std::string CaptureGrid();
+
   QWidget& form_;
-  FormControls& controls_;
+  const FormControls& controls_;
   MessageBoxes& messages_;
+  ProgramFolder folder_;
+  std::string lastName_;  // of the file that was saved last
 };
 
 }  // namespace quillon

@@ -59,7 +59,7 @@ MainForm::MainForm(Surroundings surroundings)
                          .Inputs = around_.Inputs,
                          .Web = around_.Web,
                          .Clock = around_.Clock}),
-      image_(*this, controls_, around_.Messages),
+      image_(*this, controls_, around_.Messages, around_.Folder),
       analysis_({.Controls = controls_,
                  .Amounts = boxes_,
                  .Choosers = dialogs_.Choosers(),
@@ -179,7 +179,7 @@ void MainForm::BindScreens() {
 void MainForm::BindGrid() {
   connect(&grid_, &FormCardGrid::CellReached, this,
           [this](qint16 index) { ShowHandHover(ToIndex(index), state_, hover_); });
-  OnClick("imgSave", kNoIndex, [this] { imageName_ = SaveGridImage(imageName_, image_, around_.Folder); });
+  OnClick("imgSave", kNoIndex, [this] { image_.Save(); });
   OnClick("imgSaveAsRange", kNoIndex, [this] {
     if (state_.HandInfo.empty()) return;
     dialogs_.ShowNewRange().Propose(ProfitableHands(state_.HandInfo));

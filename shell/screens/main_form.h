@@ -79,7 +79,6 @@ class MainForm : public QWidget {
   AboutView about_;
   GridImageView image_;
   AnalysisView analysis_;
-  std::string imageName_;  // of the grid image that was saved last
 };
 
 }  // namespace quillon
