@@ -1,11 +1,12 @@
 // The grid and the hover panel of analyses that never ran: green is profit, red is loss, and each cell shows its own
 // hand.
 
-#include <array>
-#include <string>
+#include <cstddef>
+#include <optional>
 
 #include "fuzz/any_state.h"
 #include "fuzz/fuzz_target.h"
+#include "ranges/card_grid.h"
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
 #include "testing/oracle/hands.h"
@@ -14,41 +15,8 @@
 namespace quillon {
 namespace {
 
-class Panel final : public HoverWindow {
- public:
-  void SetHoverPicture(HoverPicture picture) override { Picture = picture; }
-  [[nodiscard]] std::string HoverHand() const override { return Hand; }
-  void SetHoverHand(std::string_view caption) override { Hand = caption; }
-  void SetHoverEquityTitle(std::string_view /*caption*/) override {}
-  void SetHoverEquity(std::string_view caption) override { Equity = caption; }
-  void SetHoverValue(std::string_view caption) override { Value = caption; }
-  void SetHoverReturn(std::string_view caption) override { Return = caption; }
-  void SetHoverValueLinesVisible(bool /*visible*/) override {}
-  void SetHoverFoldShare(std::string_view /*caption*/) override {}
-  void SetHoverFoldLineVisible(bool /*visible*/) override {}
-  void SetHoverAdvice(std::string_view caption) override { Advice = caption; }
-  [[nodiscard]] TwipRect HoverRect() const override { return {0, 0, 2000, 1500}; }
-  void SetHoverRect(const TwipRect& rect) override { Place = rect; }
-  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override {
-    const int column = index % 13;
-    const int row = index / 13;
-    return {static_cast<float>(300 + column * 465), static_cast<float>(900 + row * 465), 465, 465};
-  }
-  [[nodiscard]] TwipRect GridScreenRect() const override { return {0, 0, 9000, 9000}; }
-  void ShowHover() override { Shown = true; }
-
-  HoverPicture Picture = HoverPicture::kBlue;
-  std::string Hand;
-  std::string Equity;
-  std::string Value;
-  std::string Return;
-  std::string Advice;
-  TwipRect Place;
-  bool Shown = false;
-};
-
 void CheckColors(const Analysis& state) {
-  const std::array<Rgb, kHandClassCount> colors = GridColors(state);
+  const CellColors colors = GridColors(state);
   if (state.Mode == AnalysisMode::kEquityOnly) return;
   const plain::ResultsTable table(state.HandInfo);
   for (std::size_t index = 0; index < colors.size(); ++index) {
@@ -70,20 +38,22 @@ void CheckTexts(const Analysis& state, bool twice) {
 }
 
 void CheckHover(const Analysis& state, std::int16_t index) {
-  Panel panel;
-  panel.Hand = "none";
   try {
-    ShowHandHover(index, state, panel);
+    const std::optional<HoverTexts> texts = MakeHoverTexts(index, state);
+    Require(texts.has_value() == (!state.HandInfo.empty() && state.Mode != AnalysisMode::kNone),
+            "the panel is for results");
+    if (!texts) return;
+    Require(texts->Hand == HandLabel(index), "the panel shows the cell's hand");
+    Require(!texts->Equity.empty() && !texts->Advice.empty(), "the panel has its lines");
+    Require(texts->Value.has_value() == (state.Mode != AnalysisMode::kEquityOnly), "equities have no value");
   } catch (const RunTimeError& error) {
     Require(IsFaultOfAnalysis(error.Fault()), "the panel fails for its numbers");
-    return;
   }
-  Require(panel.Shown == !state.HandInfo.empty(), "the panel is for results");
-  if (!panel.Shown || state.Mode == AnalysisMode::kNone) return;
-  Require(panel.Hand == HandLabel(index), "the panel shows the cell's hand");
-  Require(!panel.Equity.empty() && !panel.Advice.empty(), "the panel has its lines");
-  Require(panel.Place.Left + panel.Place.Width <= 9000 && panel.Place.Top + panel.Place.Height <= 9000,
-          "the panel stays on the screen");
+  const CardGridPlaces grid = PlaceCardGrid(200, 800, {405, 405});
+  const TwipRect square = grid.Cells.at(static_cast<std::size_t>(index)).Square;
+  const TwipRect place = HoverPlace({0, 0, 2000, 1500}, square, {0, 0, 9000, 9000});
+  Require(place.Left >= 0 && place.Left + place.Width <= 9000, "the panel stays on the screen");
+  Require(place.Top >= 0 && place.Top + place.Height <= 9000, "the panel stays on the screen");
 }
 
 }  // namespace

@@ -65,10 +65,10 @@ CardGridPlaces PlaceCardGrid(float left, float top, TwipSize square) {
                   .Height = RowLength(square.Height) + 2 * kFrameMargin};
   for (std::size_t index = 0; index < places.Cells.size(); ++index) {
     const auto column = static_cast<float>(index % kRankCount);
-    const auto row = static_cast<float>(index / kRankCount);
+    const std::size_t above = index / kRankCount;
     CellPlace& cell = places.Cells.at(index);
     cell.Square = {.Left = left + kFrameMargin + column * (square.Width + kCellGap),
-                   .Top = top + kFrameMargin + row * (square.Height + kCellGap),
+                   .Top = top + kFrameMargin + static_cast<float>(above) * (square.Height + kCellGap),
                    .Width = square.Width,
                    .Height = square.Height};
     cell.Label = PlaceOfLabel(cell.Square);

@@ -36,50 +36,41 @@ std::string_view AdviceOn(double expectedValue) {
   return expectedValue > 0 ? "You should go ALL IN" : "FOLD or ALL IN";
 }
 
-void FillMove(const HandResult& result, const Scenario& scenario, double callAmount, HoverWindow& window) {
+HoverTexts MoveTexts(const HandResult& result, const Scenario& scenario, double callAmount) {
   const bool raise = scenario.HasCallingRange;
-  window.SetHoverPicture(result.ExpectedValue > 0 ? HoverPicture::kGreen : HoverPicture::kRed);
-  window.SetHoverHand(result.Label);
-  window.SetHoverFoldLineVisible(raise);
-  if (raise) window.SetHoverFoldShare(PercentText(result.FoldShare, 2));
-  window.SetHoverEquityTitle(raise ? "Equity when Called:" : "Equity:");
-  window.SetHoverEquity(EquityText(result.Equity));
-  window.SetHoverValue(ValueText(result.ExpectedValue));
-  window.SetHoverReturn(ReturnText(result.ExpectedValue, callAmount));
-  window.SetHoverAdvice(AdviceOn(result.ExpectedValue));
+  HoverTexts texts{.Picture = result.ExpectedValue > 0 ? HoverPicture::kGreen : HoverPicture::kRed,
+                   .Hand = result.Label,
+                   .EquityTitle = raise ? "Equity when Called:" : "Equity:",
+                   .Equity = EquityText(result.Equity),
+                   .Value = ValueText(result.ExpectedValue),
+                   .Return = ReturnText(result.ExpectedValue, callAmount),
+                   .FoldShare = {},
+                   .Advice = AdviceOn(result.ExpectedValue)};
+  if (raise) texts.FoldShare = PercentText(result.FoldShare, 2);
+  return texts;
 }
 
-void FillEquity(const HandResult& result, HoverWindow& window) {
+HoverTexts EquityTexts(const HandResult& result) {
   constexpr double kGoodEquity = 0.25;
-  window.SetHoverHand(result.Label);
-  window.SetHoverPicture(HoverPicture::kBlue);
-  window.SetHoverEquityTitle("Equity:");
   // Intentional: unlike the other scenarios this one rounds before it multiplies, and -1 is a number to it as any
   // other.
-  window.SetHoverEquity(NumberText(RoundTo(result.Equity, 4) * 100) + "%");
-  window.SetHoverAdvice(result.Equity >= kGoodEquity ? ":)" : ":(");
+  return {.Picture = HoverPicture::kBlue,
+          .Hand = result.Label,
+          .EquityTitle = "Equity:",
+          .Equity = NumberText(RoundTo(result.Equity, 4) * 100) + "%",
+          .Value = {},
+          .Return = {},
+          .FoldShare = {},
+          .Advice = result.Equity >= kGoodEquity ? ":)" : ":("};
 }
 
 }  // namespace
 
-void ShowHandHover(std::int16_t index, const Analysis& analysis, HoverWindow& window) {
+std::optional<HoverTexts> MakeHoverTexts(std::int16_t index, const Analysis& analysis) {
   const Scenario* const scenario = FindRow(kScenarios, analysis.Mode);
-  if (scenario == nullptr || analysis.HandInfo.empty()) return;
-
+  if (scenario == nullptr || analysis.HandInfo.empty()) return std::nullopt;
   const HandResult result = GetHandResult(analysis.HandInfo, HandLabel(index));
-  const bool hasValue = scenario->HasExpectedValue();
-  window.SetHoverValueLinesVisible(hasValue);
-  if (!hasValue) window.SetHoverFoldLineVisible(false);
-  if (window.HoverHand() != result.Label) {
-    if (hasValue) FillMove(result, *scenario, analysis.CallAmount, window);
-    if (!hasValue) FillEquity(result, window);
-  }
-  PlaceHover(index, window);
-}
-
-void PlaceHover(std::int16_t index, HoverWindow& window) {
-  window.SetHoverRect(HoverPlace(window.HoverRect(), window.SquareRect(index), window.GridScreenRect()));
-  window.ShowHover();
+  return scenario->HasExpectedValue() ? MoveTexts(result, *scenario, analysis.CallAmount) : EquityTexts(result);
 }
 
 TwipRect HoverPlace(const TwipRect& panel, const TwipRect& square, const TwipRect& screen) {

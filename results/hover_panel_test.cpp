@@ -1,7 +1,7 @@
 #include "results/hover_panel.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,76 +17,11 @@
 namespace quillon {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
-// A panel without a window, on a grid of cells of 405 that stand 25 apart. What it shows is in the fields, and every
-// call that changes something is a line of the log.
-class RecordedHover final : public HoverWindow {
- public:
-  void SetHoverPicture(HoverPicture picture) override {
-    Picture = picture == HoverPicture::kGreen ? "green" : picture == HoverPicture::kRed ? "red" : "blue";
-    Calls.push_back("picture " + Picture);
-  }
-  [[nodiscard]] std::string HoverHand() const override { return Hand; }
-  void SetHoverHand(std::string_view caption) override { Set("hand", Hand, caption); }
-  void SetHoverEquityTitle(std::string_view caption) override { Set("equity title", EquityTitle, caption); }
-  void SetHoverEquity(std::string_view caption) override { Set("equity", Equity, caption); }
-  void SetHoverValue(std::string_view caption) override { Set("value", Value, caption); }
-  void SetHoverReturn(std::string_view caption) override { Set("return", Return, caption); }
-  void SetHoverValueLinesVisible(bool visible) override { Show("value lines", ValueLines, visible); }
-  void SetHoverFoldShare(std::string_view caption) override { Set("fold share", FoldShare, caption); }
-  void SetHoverFoldLineVisible(bool visible) override { Show("fold line", FoldLine, visible); }
-  void SetHoverAdvice(std::string_view caption) override { Set("advice", Advice, caption); }
-  [[nodiscard]] TwipRect HoverRect() const override { return Panel; }
-  void SetHoverRect(const TwipRect& rect) override {
-    Panel = rect;
-    Calls.emplace_back("place");
-  }
-  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override {
-    const int row = index / 13;
-    const int column = index % 13;
-    return {.Left = static_cast<float>(520 + 430 * column),
-            .Top = static_cast<float>(940 + 430 * row),
-            .Width = 405,
-            .Height = 405};
-  }
-  [[nodiscard]] TwipRect GridScreenRect() const override { return Screen; }
-  void ShowHover() override { Calls.emplace_back("show"); }
-
-  std::string Picture;
-  std::string Hand;
-  std::string EquityTitle = "Equity (Win %):";
-  std::string Equity = "0.50";
-  std::string Value = "+200";
-  std::string Return = "20%";
-  std::string FoldShare = "50%";
-  std::string Advice = "You should go ALLIN";
-  bool ValueLines = true;
-  bool FoldLine = true;
-  TwipRect Panel = {.Left = 7620, .Top = 1740, .Width = 3780, .Height = 3315};
-  TwipRect Screen = {.Left = 3300, .Top = 0, .Width = 12000, .Height = 8645};
-  std::vector<std::string> Calls;
-
- private:
-  void Set(const std::string& name, std::string& field, std::string_view caption) {
-    field = caption;
-    Calls.push_back(name + " " + field);
-  }
-  void Show(const std::string& name, bool& field, bool visible) {
-    field = visible;
-    Calls.push_back(name + (visible ? " shown" : " hidden"));
-  }
-};
-
-void Hover(std::string_view hand, const Analysis& state, RecordedHover& window) {
-  ShowHandHover(HandIndex(hand), state, window);
-}
-
-RecordedHover HoverOver(std::string_view hand, const Analysis& state) {
-  RecordedHover window;
-  Hover(hand, state, window);
-  return window;
+// What the panel shows of a hand: for tests of its texts, which are there.
+HoverTexts TextsOf(std::string_view hand, const Analysis& state) {
+  const std::optional<HoverTexts> texts = MakeHoverTexts(HandIndex(hand), state);
+  EXPECT_TRUE(texts.has_value());
+  return texts.value_or(HoverTexts{});
 }
 
 // The state of one scenario with the row of KQs as given: "value, tab, equity, tab, fold share".
@@ -95,44 +30,27 @@ Analysis WithCells(Analysis state, std::string_view cells) {
   return state;
 }
 
-TEST(HoverPanel, BeforeAnyAnalysisNothingHappens) {
+TEST(HoverPanel, BeforeAnyAnalysisThereIsNothing) {
   for (const AnalysisMode mode : {AnalysisMode::kNone, AnalysisMode::kPreflopCall, AnalysisMode::kEquityOnly}) {
     Analysis state;
     state.Mode = mode;
-    EXPECT_THAT(HoverOver("KQs", state).Calls, IsEmpty());
+    EXPECT_EQ(MakeHoverTexts(HandIndex("KQs"), state), std::nullopt);
   }
 }
 
-TEST(HoverPanel, CallShowsValueReturnAndVerdict) {
-  RecordedHover window;
-  Hover("AA", sample::CallState(), window);
-  EXPECT_THAT(window.Calls, ElementsAre("value lines shown", "picture green", "hand AA", "fold line hidden",
-                                        "equity title Equity:", "equity 85%", "value +120", "return 240%",
-                                        "advice You should go ALL IN", "place", "show"));
-}
-
-TEST(HoverPanel, RaiseShowsTheFoldShareToo) {
-  RecordedHover window;
-  Hover("AKs", sample::RaiseState(), window);
-  EXPECT_THAT(window.Calls,
-              ElementsAre("value lines shown", "picture green", "hand AKs", "fold line shown", "fold share 40%",
-                          "equity title Equity when Called:", "equity 55%", "value +98.2", "return 196.4%",
-                          "advice You should go ALL IN", "place", "show"));
-}
-
-TEST(HoverPanel, EquityOnlyShowsEquityAndASmiley) {
-  RecordedHover window;
-  Hover("AA", sample::EquityState(), window);
-  EXPECT_THAT(window.Calls, ElementsAre("value lines hidden", "fold line hidden", "hand AA", "picture blue",
-                                        "equity title Equity:", "equity 85.23%", "advice :)", "place", "show"));
-  EXPECT_EQ(window.Value, "+200") << "hidden lines keep their texts";
-  EXPECT_EQ(window.Return, "20%");
+TEST(HoverPanel, EachScenarioHasItsLines) {
+  EXPECT_EQ(TextsOf("AA", sample::CallState()),
+            (HoverTexts{HoverPicture::kGreen, "AA", "Equity:", "85%", "+120", "240%", {}, "You should go ALL IN"}));
+  EXPECT_EQ(TextsOf("AKs", sample::RaiseState()), (HoverTexts{HoverPicture::kGreen, "AKs", "Equity when Called:", "55%",
+                                                              "+98.2", "196.4%", "40%", "You should go ALL IN"}));
+  EXPECT_EQ(TextsOf("AA", sample::EquityState()),
+            (HoverTexts{HoverPicture::kBlue, "AA", "Equity:", "85.23%", {}, {}, {}, ":)"}));
 }
 
 struct MoveCase {
   const char* rule;
   const char* cells;
-  const char* picture;
+  HoverPicture picture;
   const char* equity;
   const char* value;
   const char* back;
@@ -142,41 +60,45 @@ struct MoveCase {
 TEST(HoverPanel, NumbersAndVerdictFollowTheTable) {
   // 50 to call
   const std::vector<MoveCase> cases = {
-      {"a profit", "12.5\t0.55\t1", "green", "55%", "+12.5", "25%", "You should go ALL IN"},
-      {"a loss", "-25.32\t0.1234\t1", "red", "12.34%", "-25.32", "-50.6%", "You should FOLD"},
-      {"a value of 0 is red, has no sign and leaves the choice", "0\t0.25\t1", "red", "25%", "0", "0%",
+      {"a profit", "12.5\t0.55\t1", HoverPicture::kGreen, "55%", "+12.5", "25%", "You should go ALL IN"},
+      {"a loss", "-25.32\t0.1234\t1", HoverPicture::kRed, "12.34%", "-25.32", "-50.6%", "You should FOLD"},
+      {"a value of 0 is red, has no sign and leaves the choice", "0\t0.25\t1", HoverPicture::kRed, "25%", "0", "0%",
        "FOLD or ALL IN"},
-      {"no cells at all read as 0", "", "red", "0%", "0", "0%", "FOLD or ALL IN"},
-      {"nobody calls", "150\t-1\t1", "green", "N/A", "+150", "300%", "You should go ALL IN"},
-      {"an equity that is nearly -1 is a number", "150\t-0.999999\t1", "green", "-100%", "+150", "300%",
+      {"no cells at all read as 0", "", HoverPicture::kRed, "0%", "0", "0%", "FOLD or ALL IN"},
+      {"nobody calls", "150\t-1\t1", HoverPicture::kGreen, "N/A", "+150", "300%", "You should go ALL IN"},
+      {"an equity that is nearly -1 is a number", "150\t-0.999999\t1", HoverPicture::kGreen, "-100%", "+150", "300%",
        "You should go ALL IN"},
-      {"equity to two decimals of percent", "1\t0.123456789\t1", "green", "12.35%", "+1", "2%", "You should go ALL IN"},
-      {"an equity tie goes to even", "1\t0.50125\t1", "green", "50.12%", "+1", "2%", "You should go ALL IN"},
-      {"and the other way", "1\t0.50375\t1", "green", "50.38%", "+1", "2%", "You should go ALL IN"},
-      {"the multiplied value is what is rounded", "1\t0.30125\t1", "green", "30.12%", "+1", "2%",
+      {"equity to two decimals of percent", "1\t0.123456789\t1", HoverPicture::kGreen, "12.35%", "+1", "2%",
        "You should go ALL IN"},
-      {"and the other way", "1\t0.30195\t1", "green", "30.2%", "+1", "2%", "You should go ALL IN"},
-      {"value to eight decimals", "12.123456789012\t0.5\t1", "green", "50%", "+12.12345679", "24.2%",
+      {"an equity tie goes to even", "1\t0.50125\t1", HoverPicture::kGreen, "50.12%", "+1", "2%",
        "You should go ALL IN"},
-      {"a profit too small to show keeps its sign", "0.000000001\t0.5\t1", "green", "50%", "+0", "0%",
+      {"and the other way", "1\t0.50375\t1", HoverPicture::kGreen, "50.38%", "+1", "2%", "You should go ALL IN"},
+      {"the multiplied value is what is rounded", "1\t0.30125\t1", HoverPicture::kGreen, "30.12%", "+1", "2%",
        "You should go ALL IN"},
-      {"a loss too small to show does not", "-0.000000001\t0.5\t1", "red", "50%", "0", "0%", "You should FOLD"},
-      {"a value in the exponent form", "0.00000001\t0.5\t1", "green", "50%", "+0.00000001", "0%",
+      {"and the other way", "1\t0.30195\t1", HoverPicture::kGreen, "30.2%", "+1", "2%", "You should go ALL IN"},
+      {"value to eight decimals", "12.123456789012\t0.5\t1", HoverPicture::kGreen, "50%", "+12.12345679", "24.2%",
        "You should go ALL IN"},
-      {"no thousands separators", "1234567.5\t0.5\t1", "green", "50%", "+1234567.5", "2469135%",
+      {"a profit too small to show keeps its sign", "0.000000001\t0.5\t1", HoverPicture::kGreen, "50%", "+0", "0%",
        "You should go ALL IN"},
-      {"a return tie goes to even", "0.125\t0.5\t1", "green", "50%", "+0.125", "0.2%", "You should go ALL IN"},
-      {"and the other way", "0.375\t0.5\t1", "green", "50%", "+0.375", "0.8%", "You should go ALL IN"},
+      {"a loss too small to show does not", "-0.000000001\t0.5\t1", HoverPicture::kRed, "50%", "0", "0%",
+       "You should FOLD"},
+      {"a value in the exponent form", "0.00000001\t0.5\t1", HoverPicture::kGreen, "50%", "+0.00000001", "0%",
+       "You should go ALL IN"},
+      {"no thousands separators", "1234567.5\t0.5\t1", HoverPicture::kGreen, "50%", "+1234567.5", "2469135%",
+       "You should go ALL IN"},
+      {"a return tie goes to even", "0.125\t0.5\t1", HoverPicture::kGreen, "50%", "+0.125", "0.2%",
+       "You should go ALL IN"},
+      {"and the other way", "0.375\t0.5\t1", HoverPicture::kGreen, "50%", "+0.375", "0.8%", "You should go ALL IN"},
   };
   for (const MoveCase& c : cases) {
     for (const Analysis& state : {sample::CallState(), sample::RaiseState()}) {
-      const RecordedHover window = HoverOver("KQs", WithCells(state, c.cells));
-      EXPECT_EQ(window.Hand, "KQs") << c.rule;
-      EXPECT_EQ(window.Picture, c.picture) << c.rule;
-      EXPECT_EQ(window.Equity, c.equity) << c.rule;
-      EXPECT_EQ(window.Value, c.value) << c.rule;
-      EXPECT_EQ(window.Return, c.back) << c.rule;
-      EXPECT_EQ(window.Advice, c.advice) << c.rule;
+      const HoverTexts texts = TextsOf("KQs", WithCells(state, c.cells));
+      EXPECT_EQ(texts.Hand, "KQs") << c.rule;
+      EXPECT_EQ(texts.Picture, c.picture) << c.rule;
+      EXPECT_EQ(texts.Equity, c.equity) << c.rule;
+      EXPECT_EQ(texts.Value, c.value) << c.rule;
+      EXPECT_EQ(texts.Return, c.back) << c.rule;
+      EXPECT_EQ(texts.Advice, c.advice) << c.rule;
     }
   }
 }
@@ -192,14 +114,14 @@ TEST(HoverPanel, FoldShareIsRoundedToTwoDecimalsOfPercent) {
       {"1\t0.5\t0.50125", "50.12%"}, {"1\t0.5\t0.333333333333333", "33.33%"},
   };
   for (const Case& c : cases)
-    EXPECT_EQ(HoverOver("KQs", WithCells(sample::RaiseState(), c.cells)).FoldShare, c.text);
+    EXPECT_EQ(TextsOf("KQs", WithCells(sample::RaiseState(), c.cells)).FoldShare, c.text);
 }
 
 TEST(HoverPanel, ReturnIsMeasuredByTheCallAmountAlone) {
   Analysis state = WithCells(sample::RaiseState(), "100\t0.5\t0.5");
   state.CallAmount = 80;
   state.ShoveAmount = 1000;
-  EXPECT_EQ(HoverOver("KQs", state).Return, "125%");
+  EXPECT_EQ(TextsOf("KQs", state).Return, "125%");
 }
 
 TEST(HoverPanel, ReturnThatIsNoNumberReadsAsSuch) {
@@ -221,11 +143,10 @@ TEST(HoverPanel, ReturnThatIsNoNumberReadsAsSuch) {
   for (const Case& c : cases) {
     Analysis state = WithCells(sample::RaiseState(), c.cells);
     state.CallAmount = c.call;
-    const RecordedHover window = HoverOver("KQs", state);
-    EXPECT_EQ(window.Value, c.value) << c.rule;
-    EXPECT_EQ(window.Return, c.back) << c.rule;
-    EXPECT_EQ(window.FoldShare, "50%") << c.rule;
-    EXPECT_EQ(window.Calls.back(), "show") << c.rule;
+    const HoverTexts texts = TextsOf("KQs", state);
+    EXPECT_EQ(texts.Value, c.value) << c.rule;
+    EXPECT_EQ(texts.Return, c.back) << c.rule;
+    EXPECT_EQ(texts.FoldShare, "50%") << c.rule;
   }
 }
 
@@ -249,74 +170,20 @@ TEST(HoverPanel, EquityOnlyRoundsBeforeItMultiplies) {
       {"-1 is a number here", "0\t-1\t1", "-100%", ":("},
   };
   for (const Case& c : cases) {
-    const RecordedHover window = HoverOver("KQs", WithCells(sample::EquityState(), c.cells));
-    EXPECT_EQ(window.Equity, c.equity) << c.rule;
-    EXPECT_EQ(window.Advice, c.advice) << c.rule;
-    EXPECT_EQ(window.Picture, "blue") << c.rule;
+    const HoverTexts texts = TextsOf("KQs", WithCells(sample::EquityState(), c.cells));
+    EXPECT_EQ(texts.Equity, c.equity) << c.rule;
+    EXPECT_EQ(texts.Advice, c.advice) << c.rule;
+    EXPECT_EQ(texts.Picture, HoverPicture::kBlue) << c.rule;
   }
 }
 
-TEST(HoverPanel, SameHandIsPlacedAndNotFilledAgain) {
-  RecordedHover window;
-  Hover("AA", sample::CallState(), window);
-  window.Calls.clear();
-  Hover("AA", sample::CallState(), window);
-  EXPECT_THAT(window.Calls, ElementsAre("value lines shown", "place", "show"));
-
-  window = HoverOver("AA", sample::EquityState());
-  window.Calls.clear();
-  Hover("AA", sample::EquityState(), window);
-  EXPECT_THAT(window.Calls, ElementsAre("value lines hidden", "fold line hidden", "place", "show"));
+TEST(HoverPanel, EveryCellHasItsOwnHand) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    EXPECT_EQ(TextsOf(HandLabel(index), sample::CallState()).Hand, HandLabel(index));
 }
 
-TEST(HoverPanel, OldNumbersOfAHandStayUntilAnotherIsHovered) {
-  RecordedHover window;
-  Hover("AA", sample::CallState(), window);
-  Hover("AA", sample::RaiseState(), window);
-  EXPECT_EQ(window.Value, "+120");
-  EXPECT_EQ(window.EquityTitle, "Equity:");
-  EXPECT_FALSE(window.FoldLine);
-
-  Hover("KK", sample::RaiseState(), window);
-  Hover("AA", sample::RaiseState(), window);
-  EXPECT_EQ(window.Value, "+150");
-  EXPECT_EQ(window.Equity, "N/A");
-  EXPECT_TRUE(window.FoldLine);
-}
-
-TEST(HoverPanel, NewScenarioOverTheSameHandShowsOldTextsInItsOwnLines) {
-  RecordedHover window;
-  Hover("AA", sample::RaiseState(), window);
-  Hover("AA", sample::EquityState(), window);
-  EXPECT_EQ(window.Picture, "green");
-  EXPECT_EQ(window.Advice, "You should go ALL IN");
-  EXPECT_FALSE(window.ValueLines);
-  EXPECT_FALSE(window.FoldLine);
-
-  Hover("AA", sample::CallState(), window);
-  EXPECT_TRUE(window.ValueLines);
-  EXPECT_FALSE(window.FoldLine);
-}
-
-TEST(HoverPanel, CallAfterRaiseHidesTheFoldLineWithTheNextHand) {
-  RecordedHover window;
-  Hover("AKs", sample::RaiseState(), window);
-  EXPECT_TRUE(window.FoldLine);
-  Hover("AKs", sample::CallState(), window);
-  EXPECT_TRUE(window.FoldLine);
-  Hover("22", sample::CallState(), window);
-  EXPECT_FALSE(window.FoldLine);
-  EXPECT_EQ(window.EquityTitle, "Equity:");
-}
-
-TEST(HoverPanel, EveryCellFillsInItsOwnHand) {
-  RecordedHover window;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    ShowHandHover(index, sample::CallState(), window);
-    EXPECT_EQ(window.Hand, HandLabel(index));
-    EXPECT_EQ(window.Panel.Top < window.SquareRect(index).Top, index >= 10 * 13) << index;
-  }
-}
+constexpr TwipRect kPanel = {.Left = 7620, .Top = 1740, .Width = 3780, .Height = 3315};
+constexpr TwipRect kScreen = {.Left = 3300, .Top = 0, .Width = 12000, .Height = 8645};
 
 TEST(HoverPlace, HangsBelowTheCellAndFlipsWhereItWouldLeaveTheScreen) {
   struct Case {
@@ -337,16 +204,14 @@ TEST(HoverPlace, HangsBelowTheCellAndFlipsWhereItWouldLeaveTheScreen) {
       {"half a twip too far", {8220.5F, 4900.5F, 405, 405}, 4440.5F, 1560.5F},
   };
   for (const Case& c : cases) {
-    const RecordedHover window;
     const TwipRect expected = {.Left = c.left, .Top = c.top, .Width = 3780, .Height = 3315};
-    EXPECT_EQ(HoverPlace(window.Panel, c.square, window.Screen), expected) << c.rule;
+    EXPECT_EQ(HoverPlace(kPanel, c.square, kScreen), expected) << c.rule;
   }
 }
 
 TEST(HoverPlace, FlippedPanelTouchesTheCellAtItsLeftAndLeavesAGapAbove) {
-  const RecordedHover window;
   const TwipRect square = {.Left = 10000, .Top = 7000, .Width = 405, .Height = 405};
-  const TwipRect place = HoverPlace(window.Panel, square, window.Screen);
+  const TwipRect place = HoverPlace(kPanel, square, kScreen);
   EXPECT_EQ(place.Left + place.Width, square.Left);
   EXPECT_EQ(place.Top + place.Height + 25, square.Top);
 }
@@ -359,13 +224,6 @@ TEST(HoverPlace, SumsHaveThePrecisionOfA32BitFloat) {
   EXPECT_EQ(HoverPlace(panel, square, screen).Left, 0.0001F);
 }
 
-TEST(PlaceHover, MovesThePanelToItsCellAndBringsItUp) {
-  RecordedHover window;
-  PlaceHover(HandIndex("22"), window);
-  EXPECT_THAT(window.Calls, ElementsAre("place", "show"));
-  EXPECT_EQ(window.Panel, (TwipRect{.Left = 5680, .Top = 2760, .Width = 3780, .Height = 3315}));
-}
-
 // Shoves with nothing to call pass the input checks, and each of their hands can be hovered.
 TEST(HoverPanel, RealShoveWithNothingToCallHoversEveryHand) {
   LoadEquityTable();
@@ -376,14 +234,14 @@ TEST(HoverPanel, RealShoveWithNothingToCallHoversEveryHand) {
                                    .RangeText = range,
                                    .CallingRangeText = range});
 
-  RecordedHover window;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    ShowHandHover(index, state, window);
-    const double value = GetHandInfo(state.HandInfo, HandLabel(index), kExpectedValueColumn);
-    EXPECT_EQ(window.Return, "N/A") << HandLabel(index);
-    EXPECT_EQ(window.Picture, value > 0 ? "green" : "red") << HandLabel(index);
-    EXPECT_EQ(window.Value.front() == '+', value > 0) << window.Value;
-    EXPECT_EQ(window.FoldShare, "0%") << HandLabel(index);
+    const std::string_view hand = HandLabel(index);
+    const HoverTexts texts = TextsOf(hand, state);
+    const double value = GetHandInfo(state.HandInfo, hand, kExpectedValueColumn);
+    EXPECT_EQ(texts.Return, "N/A") << hand;
+    EXPECT_EQ(texts.Picture, value > 0 ? HoverPicture::kGreen : HoverPicture::kRed) << hand;
+    EXPECT_EQ(texts.Value.value_or("").starts_with('+'), value > 0) << hand;
+    EXPECT_EQ(texts.FoldShare, "0%") << hand;
   }
 }
 

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <string_view>
 
-#include "analysis/analysis_driver.h"
 #include "analysis/expected_value.h"
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
@@ -15,8 +14,6 @@
 
 namespace quillon {
 namespace {
-
-constexpr Rgb kResultsNavColor = {255, 255, 192};
 
 std::string ProfitablePercentText(const Analysis& analysis) {
   // Intentional: one less than the number of concrete hands. With all of them profitable the text still says 100.
@@ -115,42 +112,18 @@ GridTexts MakeGridTexts(const Analysis& analysis) {
   return row == nullptr ? GridTexts() : row->Texts(analysis);
 }
 
-std::array<Rgb, kHandClassCount> GridColors(const Analysis& analysis) {
+CellColors GridColors(const Analysis& analysis) {
   const std::string_view table = analysis.HandInfo;
   const std::int16_t column = ShownColumn(analysis);
   const double high = GetHandInfo(table, BestHand(table, column), column);
   const double low = GetHandInfo(table, WorstHand(table, column), column);
 
-  std::array<Rgb, kHandClassCount> colors;
+  CellColors colors{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const double value = GetHandInfo(table, HandLabel(index), column);
     colors[static_cast<std::size_t>(index)] = CellColor(column, value, high, low);
   }
   return colors;
-}
-
-void FillResults(ResultsWindow& window, const Analysis& analysis) {
-  const GridTexts texts = MakeGridTexts(analysis);
-  window.SetHandInfoText(texts.HandInfo);
-  window.SetResultsCaption(texts.Results);
-  window.SetGridTitle(texts.Title);
-  window.SetLegendVisible(texts.LegendVisible);
-}
-
-void SetResultsShown(ResultsWindow& window, bool shown) {
-  for (std::int16_t index = kFirstResultsNav; index < window.NavCount(); ++index) {
-    window.SetNavColor(index, kResultsNavColor);
-    window.SetNavVisible(index, shown);
-  }
-  window.SetNoResultsVisible(!shown);
-  window.SetNoResultsCaption(kNoResultsCaption);
-}
-
-void PresentResults(const Analysis& analysis, ResultsWindow& window) {
-  const std::array<Rgb, kHandClassCount> colors = GridColors(analysis);
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    window.SetCellColor(index, colors[static_cast<std::size_t>(index)]);
-  FillResults(window, analysis);
 }
 
 }  // namespace quillon

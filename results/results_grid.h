@@ -4,14 +4,11 @@
 // explanation beside it, and the links that lead there. A hand is profitable when its expected value is 0 or more: it
 // is painted green and counted in the percentage.
 
-#include <array>
 #include <cstdint>
 #include <string>
 
 #include "analysis/analysis.h"
-#include "hand/hand_classes.h"
-#include "results/results_window.h"
-#include "support/rgb.h"
+#include "ranges/card_grid.h"
 
 namespace quillon {
 
@@ -40,16 +37,6 @@ struct GridTexts {
 /// name, in the equity column for Equity Only and the expected value column for the others. High can fall short of the
 /// true maximum, so a cell can come out darker than the darkest green. Never fails: what is measured against 0, such as
 /// a best value of exactly 0 or equities that are all alike, has the palest shade.
-[[nodiscard]] std::array<Rgb, kHandClassCount> GridColors(const Analysis& analysis);
-
-/// Puts the texts and the legend on the screen.
-void FillResults(ResultsWindow& window, const Analysis& analysis);
-
-/// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take
-/// their own colour again.
-void SetResultsShown(ResultsWindow& window, bool shown);
-
-/// Paints the cells in index order, then fills in the texts. Fails as MakeGridTexts does.
-void PresentResults(const Analysis& analysis, ResultsWindow& window);
+[[nodiscard]] CellColors GridColors(const Analysis& analysis);
 
 }  // namespace quillon

@@ -1,7 +1,6 @@
 #include "results/results_grid.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,31 +16,7 @@
 namespace quillon {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::EndsWith;
-
-class RecordingResultsWindow final : public ResultsWindow {
- public:
-  std::int16_t Links = 5;
-  std::vector<std::string> Calls;
-
-  void SetCellColor(std::int16_t index, Rgb color) override {
-    Calls.push_back("cell " + std::to_string(index) + " " + ColorText(color));
-  }
-  void SetHandInfoText(std::string_view text) override { Calls.push_back("info " + std::string(text)); }
-  void SetResultsCaption(std::string_view caption) override { Calls.push_back("results " + std::string(caption)); }
-  void SetGridTitle(std::string_view caption) override { Calls.push_back("title " + std::string(caption)); }
-  void SetLegendVisible(bool visible) override { Calls.emplace_back(visible ? "legend shown" : "legend hidden"); }
-  [[nodiscard]] std::int16_t NavCount() const override { return Links; }
-  void SetNavColor(std::int16_t index, Rgb color) override {
-    Calls.push_back("link " + std::to_string(index) + " " + ColorText(color));
-  }
-  void SetNavVisible(std::int16_t index, bool visible) override {
-    Calls.push_back("link " + std::to_string(index) + (visible ? " shown" : " hidden"));
-  }
-  void SetNoResultsVisible(bool visible) override { Calls.emplace_back(visible ? "note shown" : "note hidden"); }
-  void SetNoResultsCaption(std::string_view caption) override { Calls.push_back("note " + std::string(caption)); }
-};
 
 std::size_t IndexOf(std::string_view hand) {
   const auto* const found = std::find(sample::kAllHands.begin(), sample::kAllHands.end(), hand);
@@ -262,7 +237,7 @@ TEST(GridColors, WithNoValueAboveTheSearchsStartLossesAreMeasuredAsEver) {
 
 TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
   const Analysis state = sample::CallState();
-  const std::array<Rgb, 169> colors = GridColors(state);
+  const CellColors colors = GridColors(state);
   for (std::size_t i = 0; i < colors.size(); ++i) {
     const std::string_view hand = sample::kAllHands[i];
     Rgb expected = EVColor(0, "+");
@@ -270,65 +245,6 @@ TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
     if (hand == "22") expected = EVColor(0.5 / 25.32, "-");
     EXPECT_EQ(colors[i], expected) << hand;
   }
-}
-
-TEST(ResultsGrid, TextsAreSetInOrder) {
-  RecordingResultsWindow window;
-  FillResults(window, sample::EquityState());
-  EXPECT_THAT(window.Calls, ElementsAre("info His Range: KK+", ::testing::StartsWith("results Equity is a "),
-                                        "title Equity Grid", "legend hidden"));
-}
-
-TEST(ResultsGrid, TheLegendComesBackWithTheTwoColourGrids) {
-  for (const Analysis& state : {sample::CallState(), sample::RaiseState()}) {
-    RecordingResultsWindow window;
-    FillResults(window, state);
-    EXPECT_THAT(window.Calls,
-                ElementsAre(::testing::StartsWith("info Pot Size: "), ::testing::StartsWith("results If you "),
-                            "title ALL IN Grid", "legend shown"));
-  }
-}
-
-TEST(ResultsGrid, ShowingResultsShowsTheirLinksAndHidesTheNote) {
-  RecordingResultsWindow window;
-  SetResultsShown(window, true);
-  EXPECT_THAT(window.Calls, ElementsAre("link 3 #ffffc0", "link 3 shown", "link 4 #ffffc0", "link 4 shown",
-                                        "note hidden", "note There are no results to display at this time."));
-}
-
-TEST(ResultsGrid, HidingResultsHidesTheirLinksAndShowsTheNote) {
-  RecordingResultsWindow window;
-  SetResultsShown(window, false);
-  EXPECT_THAT(window.Calls, ElementsAre("link 3 #ffffc0", "link 3 hidden", "link 4 #ffffc0", "link 4 hidden",
-                                        "note shown", "note There are no results to display at this time."));
-}
-
-TEST(ResultsGrid, EveryLinkFromTheGridsOnLeadsToResults) {
-  struct Case {
-    std::int16_t links;
-    std::size_t calls;
-  };
-  for (const Case& c : {Case{3, 2}, Case{4, 4}, Case{7, 10}}) {
-    RecordingResultsWindow window;
-    window.Links = c.links;
-    SetResultsShown(window, true);
-    EXPECT_EQ(window.Calls.size(), c.calls) << c.links;
-  }
-}
-
-TEST(ResultsGrid, PresentingPaintsTheCellsInOrderAndThenFillsInTheTexts) {
-  const Analysis state = sample::CallState();
-  RecordingResultsWindow window;
-  PresentResults(state, window);
-
-  ASSERT_EQ(window.Calls.size(), 173U);
-  const std::array<Rgb, 169> colors = GridColors(state);
-  for (std::size_t i = 0; i < colors.size(); ++i)
-    EXPECT_EQ(window.Calls[i], "cell " + std::to_string(i) + " " + ColorText(colors[i]));
-
-  RecordingResultsWindow texts;
-  FillResults(texts, state);
-  EXPECT_TRUE(std::equal(texts.Calls.begin(), texts.Calls.end(), window.Calls.begin() + 169));
 }
 
 }  // namespace

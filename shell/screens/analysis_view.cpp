@@ -2,8 +2,6 @@
 
 #include <QCoreApplication>
 
-#include "results/results_grid.h"
-#include "shell/screens/results_view.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
@@ -26,11 +24,11 @@ void AnalysisView::ClickNav(std::int16_t index) {
 }
 
 void AnalysisView::SetResultsShown(bool shown) {
-  quillon::SetResultsShown(parts_.Results, shown);
+  parts_.Results.SetResultsShown(shown);
 }
 
 void AnalysisView::SetNoResultsCaption(std::string_view caption) {
-  ShowNoResultsCaption(parts_.Controls, caption);
+  parts_.Results.ShowNoResultsCaption(caption);
 }
 
 void AnalysisView::SetNoResultsUnderline(bool underline) {
@@ -65,7 +63,7 @@ void AnalysisView::Yield() {
 }
 
 void AnalysisView::PresentResults(const Analysis& analysis) {
-  quillon::PresentResults(analysis, parts_.Results);
+  parts_.Results.Present(analysis);
 }
 
 }  // namespace quillon

@@ -8,9 +8,9 @@
 #include "analysis/analysis_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_choosers.h"
-#include "results/results_window.h"
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
+#include "shell/screens/results_view.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
@@ -24,7 +24,7 @@ class AnalysisView : public AnalysisWindow {
     FormCardGrid& Grid;
     NavigationView& Screens;
     std::function<void(std::int16_t link)> ClickNav;
-    ResultsWindow& Results;
+    ResultsView& Results;
     MessageBoxes& Boxes;
     NumberMarks Marks;
   };

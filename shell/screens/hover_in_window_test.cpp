@@ -43,9 +43,9 @@ struct HoverCase {
   std::string_view Advice;
 };
 
-class HoverTexts : public HoverInWindow, public testing::WithParamInterface<HoverCase> {};
+class HoverTextsInWindow : public HoverInWindow, public testing::WithParamInterface<HoverCase> {};
 
-TEST_P(HoverTexts, TellWhatTheRunFound) {
+TEST_P(HoverTextsInWindow, TellWhatTheRunFound) {
   const HoverCase& row = GetParam();
   ShowGridOf(row.State());
   Hover(row.Hand);
@@ -84,7 +84,7 @@ Analysis QuarterEquity() {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    HoverInWindow, HoverTexts,
+    HoverInWindow, HoverTextsInWindow,
     testing::Values(
         HoverCase{"CallThatWins", sample::CallState, "AA", "hover_green", "Equity:", "85%", "+120", "240%", "",
                   "You should go ALL IN"},

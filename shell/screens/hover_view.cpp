@@ -1,5 +1,6 @@
 #include "shell/screens/hover_view.h"
 
+#include "shell/screens/main_layout.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
@@ -21,67 +22,36 @@ std::string_view StoredPicture(HoverPicture picture) {
 
 }  // namespace
 
-void HoverView::SetHoverPicture(HoverPicture picture) {
-  controls_.PictureAt("imgHover").SetArtwork(controls_.PictureAt(StoredPicture(picture)).Artwork());
+HoverView::HoverView(const FormControls& controls, const FormCardGrid& grid) : controls_(controls), grid_(grid) {
+  controls_.FrameAt("frameHover").resize(controls_.ShapeAt("rectHov").size());
+  SetCaption("lblHov_Cards", {});
 }
 
-std::string HoverView::HoverHand() const {
-  return FromQt(controls_.LabelAt("lblHov_Cards").Text());
+void HoverView::Show(std::int16_t index, const Analysis& analysis) {
+  const std::optional<HoverTexts> texts = MakeHoverTexts(index, analysis);
+  if (!texts) return;
+  SetValueLinesVisible(texts->Value.has_value());
+  if (!texts->Value) SetFoldLineVisible(false);
+  if (controls_.LabelAt("lblHov_Cards").Text() != ToQt(texts->Hand)) Fill(*texts);
+  BringUpBeside(index);
 }
 
-void HoverView::SetHoverHand(std::string_view caption) {
-  SetCaption("lblHov_Cards", caption);
+void HoverView::Fill(const HoverTexts& texts) {
+  controls_.PictureAt("imgHover").SetArtwork(controls_.PictureAt(StoredPicture(texts.Picture)).Artwork());
+  SetCaption("lblHov_Cards", texts.Hand);
+  SetCaption("lblHovDesc_Eq", texts.EquityTitle);
+  SetCaption("lblHov_Eq", texts.Equity);
+  if (texts.Value) SetCaption("lblHov_EV", *texts.Value);
+  if (texts.Return) SetCaption("lblHov_ROI", *texts.Return);
+  SetFoldLineVisible(texts.FoldShare.has_value());
+  if (texts.FoldShare) SetCaption("lblHov_FoldPerc", *texts.FoldShare);
+  SetCaption("lblHov_Advice", texts.Advice);
 }
 
-void HoverView::SetHoverEquityTitle(std::string_view caption) {
-  SetCaption("lblHovDesc_Eq", caption);
-}
-
-void HoverView::SetHoverEquity(std::string_view caption) {
-  SetCaption("lblHov_Eq", caption);
-}
-
-void HoverView::SetHoverValue(std::string_view caption) {
-  SetCaption("lblHov_EV", caption);
-}
-
-void HoverView::SetHoverReturn(std::string_view caption) {
-  SetCaption("lblHov_ROI", caption);
-}
-
-void HoverView::SetHoverValueLinesVisible(bool visible) {
-  for (const std::string_view name : {"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"}) {
-    SetVisible(name, visible);
-  }
-}
-
-void HoverView::SetHoverFoldShare(std::string_view caption) {
-  SetCaption("lblHov_FoldPerc", caption);
-}
-
-void HoverView::SetHoverFoldLineVisible(bool visible) {
-  SetVisible("lblHovDesc_FoldPerc", visible);
-  SetVisible("lblHov_FoldPerc", visible);
-}
-
-void HoverView::SetHoverAdvice(std::string_view caption) {
-  SetCaption("lblHov_Advice", caption);
-}
-
-TwipRect HoverView::HoverRect() const {
-  return TwipsOf(controls_.FrameAt("frameHover").geometry());
-}
-
-void HoverView::SetHoverRect(const TwipRect& rect) {
-  controls_.FrameAt("frameHover").setGeometry(PixelPlace(rect));
-}
-
-TwipRect HoverView::GridScreenRect() const {
-  return TwipsOf(controls_.FrameAt("frameContent", 1).geometry());
-}
-
-void HoverView::ShowHover() {
+void HoverView::BringUpBeside(std::int16_t index) {
   Frame& panel = controls_.FrameAt("frameHover");
+  const TwipRect screen = TwipsOf(controls_.FrameAt("frameContent", kGridScreen).geometry());
+  panel.setGeometry(PixelPlace(HoverPlace(TwipsOf(panel.geometry()), grid_.SquarePlace(index), screen)));
   panel.raise();
   panel.show();
 }
@@ -90,8 +60,14 @@ void HoverView::SetCaption(std::string_view name, std::string_view caption) {
   controls_.LabelAt(name).SetText(ToQt(caption));
 }
 
-void HoverView::SetVisible(std::string_view name, bool visible) {
-  controls_.LabelAt(name).setVisible(visible);
+void HoverView::SetValueLinesVisible(bool visible) {
+  for (const std::string_view name : {"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"})
+    controls_.LabelAt(name).setVisible(visible);
+}
+
+void HoverView::SetFoldLineVisible(bool visible) {
+  controls_.LabelAt("lblHovDesc_FoldPerc").setVisible(visible);
+  controls_.LabelAt("lblHov_FoldPerc").setVisible(visible);
 }
 
 }  // namespace quillon

@@ -1,6 +1,9 @@
 #pragma once
 
-// The hover panel of the grid screen.
+// The hover panel of the grid screen ("results/hover_panel.h").
+
+#include <cstdint>
+#include <string_view>
 
 #include "ranges/dialogs/form_card_grid.h"
 #include "results/hover_panel.h"
@@ -8,35 +11,27 @@
 
 namespace quillon {
 
-class HoverView : public HoverWindow {
+class HoverView {
  public:
-  HoverView(FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
+  /// The panel takes the size of its border. It shows no hand yet, so that the first one that is hovered is a new one
+  /// to it, AA too.
+  HoverView(const FormControls& controls, const FormCardGrid& grid);
 
-  void SetHoverPicture(HoverPicture picture) override;
-  [[nodiscard]] std::string HoverHand() const override;
-  void SetHoverHand(std::string_view caption) override;
-  void SetHoverEquityTitle(std::string_view caption) override;
-  void SetHoverEquity(std::string_view caption) override;
-  void SetHoverValue(std::string_view caption) override;
-  void SetHoverReturn(std::string_view caption) override;
-  void SetHoverValueLinesVisible(bool visible) override;
-  void SetHoverFoldShare(std::string_view caption) override;
-  void SetHoverFoldLineVisible(bool visible) override;
-  void SetHoverAdvice(std::string_view caption) override;
-  [[nodiscard]] TwipRect HoverRect() const override;
-  void SetHoverRect(const TwipRect& rect) override;
-  [[nodiscard]] TwipRect SquareRect(std::int16_t index) const override { return grid_.SquarePlace(index); }
-  [[nodiscard]] TwipRect GridScreenRect() const override;
-  void ShowHover() override;
+  /// The mouse over the cell `index`: fills the panel if it shows another hand, and brings it up beside the cell. Lines
+  /// that the hand has not are hidden at once. Before any analysis nothing happens.
+  void Show(std::int16_t index, const Analysis& analysis);
 
   void Hide() { controls_.FrameAt("frameHover").hide(); }
 
  private:
+  void Fill(const HoverTexts& texts);
+  void BringUpBeside(std::int16_t index);
   void SetCaption(std::string_view name, std::string_view caption);
-  void SetVisible(std::string_view name, bool visible);
+  void SetValueLinesVisible(bool visible);
+  void SetFoldLineVisible(bool visible);
 
-  FormControls& controls_;
-  FormCardGrid& grid_;
+  const FormControls& controls_;
+  const FormCardGrid& grid_;
 };
 
 }  // namespace quillon

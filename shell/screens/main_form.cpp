@@ -52,7 +52,7 @@ MainForm::MainForm(Surroundings surroundings)
           {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
-      boxes_(controls_, around_.Messages, [this] { SetResultsShown(results_, false); }),
+      boxes_(controls_, around_.Messages, [this] { results_.SetResultsShown(false); }),
       report_(controls_),
       about_(controls_, {.Folder = around_.Folder,
                          .Messages = around_.Messages,
@@ -81,8 +81,6 @@ MainForm::MainForm(Surroundings surroundings)
 }
 
 void MainForm::Start() {
-  // The first hand that is hovered must be a new one to the panel, AA too.
-  hover_.SetHoverHand({});
   PrepareFolders(around_.Folder);
   ShowAboutContent();
   LoadStartupState();
@@ -116,13 +114,12 @@ void MainForm::ShowAboutContent() {
 void MainForm::LoadStartupState() {
   boxes_.Restore(StoredBoxTexts(controls_.CountOf("txtNumber"), around_.Folder));
   dialogs_.RefreshLists();
-  SetResultsShown(results_, false);
+  results_.SetResultsShown(false);
   // The first screen has the design's width still; those that have been shown are as wide as the window was.
   const float designed = TwipsOf(controls_.FrameAt("frameContent", 0).geometry()).Width;
   const TwipSize size = MainWindowSize(navigation_.PanelPlace(), designed);
   setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height}).size());
   RestorePlace(*this, kMainSection, around_.Folder);
-  controls_.FrameAt("frameHover").resize(controls_.ShapeAt("rectHov").size());
   for (const std::string_view type : kReportFormTexts)
     controls_.Get<QComboBox>("cmboOutputType").addItem(ToQt(type));
   navigation_.ClickLogo();
@@ -177,8 +174,7 @@ void MainForm::BindScreens() {
 }
 
 void MainForm::BindGrid() {
-  connect(&grid_, &FormCardGrid::CellReached, this,
-          [this](qint16 index) { ShowHandHover(ToIndex(index), state_, hover_); });
+  connect(&grid_, &FormCardGrid::CellReached, this, [this](qint16 index) { hover_.Show(ToIndex(index), state_); });
   OnClick("imgSave", kNoIndex, [this] { image_.Save(); });
   OnClick("imgSaveAsRange", kNoIndex, [this] {
     if (state_.HandInfo.empty()) return;

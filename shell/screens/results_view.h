@@ -1,35 +1,33 @@
 #pragma once
 
 // The results on the main window: the cells of the grid, the texts round it, and the links of the side panel that lead
-// to it.
+// to it ("results/results_grid.h").
+
+#include <string_view>
 
 #include "ranges/dialogs/form_card_grid.h"
-#include "results/results_window.h"
+#include "results/results_grid.h"
 #include "toolkit/form_builder.h"
 
 namespace quillon {
 
-class ResultsView : public ResultsWindow {
+class ResultsView {
  public:
-  ResultsView(FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
+  ResultsView(const FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
-  void SetCellColor(std::int16_t index, Rgb color) override;
-  void SetHandInfoText(std::string_view text) override;
-  void SetResultsCaption(std::string_view caption) override;
-  void SetGridTitle(std::string_view caption) override;
-  void SetLegendVisible(bool visible) override;
-  [[nodiscard]] std::int16_t NavCount() const override;
-  void SetNavColor(std::int16_t index, Rgb color) override;
-  void SetNavVisible(std::int16_t index, bool visible) override;
-  void SetNoResultsVisible(bool visible) override;
-  void SetNoResultsCaption(std::string_view caption) override;
+  /// Paints the cells in index order, then shows the texts. Fails as MakeGridTexts does.
+  void Present(const Analysis& analysis);
+
+  /// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take
+  /// their own colour again.
+  void SetResultsShown(bool shown);
+
+  /// Changes the caption of `lblNoResults`, which is a link for as long as it says that a run goes on.
+  void ShowNoResultsCaption(std::string_view caption);
 
  private:
-  FormControls& controls_;
+  const FormControls& controls_;
   FormCardGrid& grid_;
 };
-
-/// Changes the caption of `lblNoResults`, which is a link for as long as it says that a run goes on.
-void ShowNoResultsCaption(FormControls& controls, std::string_view caption);
 
 }  // namespace quillon
