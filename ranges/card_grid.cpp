@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "ranges/range_lists.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 
@@ -117,7 +118,10 @@ std::string GridSummary(const CellColors& cells) {
 }
 
 void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
-  const ClassWeights weights = RangeWeightsOf(LoadRangeText(folder, name), RangeFileName(name));
+  const std::string text = LoadRangeText(folder, name);
+  // A file with another extension reads as missing. A start that fails over it must name it as it is.
+  const std::string file = text.empty() ? ListedFileName(folder, name) : RangeFileName(name);
+  const ClassWeights weights = RangeWeightsOf(text, file);
   for (std::size_t index = 0; index < weights.size(); ++index) {
     if (weights.at(index) == 1) cells.at(index) = kFullColor;
     if (weights.at(index) == 0.5) cells.at(index) = kHalfColor;

@@ -93,8 +93,8 @@ void ToggleCell(CellColors& cells, std::int16_t index, CellClick click);
 /// square stays as it is, so the caller starts with unselected cells, and a weight such as 0.25 shows as not selected
 /// though an analysis counts it.
 ///
-/// RunTimeError as told at RangeWeightOf, which names the file, so also for a range whose file is missing or empty; the
-/// grid is as it was.
+/// RunTimeError as told at RangeWeightOf, so also for a range whose file is missing or empty; it names the file as
+/// ListedFileName does. The grid is as it was.
 void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name);
 
 }  // namespace quillon

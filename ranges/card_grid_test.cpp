@@ -1,8 +1,11 @@
 #include "ranges/card_grid.h"
 
 #include <cstddef>
+#include <filesystem>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ranges/range_text.h"
@@ -296,6 +299,32 @@ TEST(ShowRangeOnGrid, WithoutARangeTextIsFatalAndPaintsNothing) {
     EXPECT_EQ(FaultOf(show), RunTimeFault::kInvalidProcedureCall) << name;
     EXPECT_EQ(grid, GridWith("QQ")) << name;
   }
+}
+
+TEST(ShowRangeOnGrid, FailureNamesTheFileThatIsListed) {
+  const TemporaryProgram program;
+  for (const char* const file : {"Empty.txt", "Button.TXT", "notes.html", "Both.txt", "Both.bak", "K\xE4se.txt"})
+    program.Write(file);
+  const std::vector<std::pair<const char*, const char*>> cases = {
+      {"Empty", "Empty.txt"}, {"Button", "Button.TXT"}, {"notes.", "notes.html"},
+      {"Both", "Both.txt"},   {"Käse", "Käse.txt"},     {"Missing", "Missing.txt"},
+  };
+  for (const auto& [name, file] : cases) {
+    CellColors grid{};
+    try {
+      ShowRangeOnGrid(grid, program.Folder(), name);
+      ADD_FAILURE() << name << " has been painted";
+    } catch (const RunTimeError& error) {
+      EXPECT_THAT(error.what(), testing::HasSubstr("the range file \"" + std::string(file) + "\" holds")) << name;
+    }
+  }
+  std::filesystem::remove_all(RangeFolderPath(program.Folder()));
+  CellColors grid{};
+  const auto show = [&] {
+    ShowRangeOnGrid(grid, program.Folder(), "Empty");
+    return 0;
+  };
+  EXPECT_EQ(FaultOf(show), RunTimeFault::kInvalidProcedureCall) << "the folder has gone";
 }
 
 }  // namespace

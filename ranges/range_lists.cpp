@@ -77,6 +77,23 @@ std::string RangeNameOfFile(std::string_view fileName) {
   return std::string(fileName.substr(0, *start));
 }
 
+std::string ListedFileName(const ProgramFolder& folder, std::string_view name) {
+  std::string usual = RangeFileName(name);
+  std::vector<std::string> files;
+  try {
+    files = RangeFolderEntries(folder);
+  } catch (const RunTimeError&) {
+    return usual;  // whoever asks has a fault of his own to tell
+  }
+  if (std::ranges::find(files, usual) != files.end()) return usual;
+  const auto isListedSo = [name](std::string_view file) {
+    const std::optional<std::size_t> start = StartOfExtension(file);
+    return start && file.substr(0, *start) == name;
+  };
+  const auto found = std::ranges::find_if(files, isListedSo);
+  return found == files.end() ? usual : *found;
+}
+
 std::optional<int> EntryIndex(std::span<const std::string> entries, std::string_view name) {
   const auto found = std::find(entries.begin(), entries.end(), name);
   if (found == entries.end()) return std::nullopt;

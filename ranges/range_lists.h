@@ -41,6 +41,10 @@ enum class ListStart : std::uint8_t { kBlankEntry, kFirstRange };
 /// RunTimeError "Invalid procedure call or argument", with the file's name, if it has fewer than four characters.
 [[nodiscard]] std::string RangeNameOfFile(std::string_view fileName);
 
+/// The file behind a listed name, for messages: "Button" -> "Button.txt", or, where there is none, the first file that
+/// is listed under the name, such as "Button.TXT". A folder that cannot be read is taken for an empty one.
+[[nodiscard]] std::string ListedFileName(const ProgramFolder& folder, std::string_view name);
+
 /// The index of the first entry equal to `name`; nothing if there is none.
 [[nodiscard]] std::optional<int> EntryIndex(std::span<const std::string> entries, std::string_view name);
 
