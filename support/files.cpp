@@ -165,13 +165,15 @@ struct Rewriting {
 };
 
 // Writes into the file itself, with a copy of the new content in a scratch file until it is on the disk. A crash in the
-// middle leaves the copy alone whole, so its name is one that no start clears away. Where no folder takes the copy, it
-// goes without one.
+// middle leaves the copy alone whole, so its name is one that no start clears away. It goes without a copy where both
+// folders refuse one, but not on a full disk.
 Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
                   const std::filesystem::path& scratchFolder, mode_t mode, FileCalls& calls) {
   Scratch copy = OpenScratch(scratchFolder, kCopyEnd, mode, calls);
+  const int apart = copy.file;
   if (copy.file < 0) copy = OpenScratch(target.parent_path(), kCopyEnd, mode, calls);
-  if (copy.file < 0 && !IsRefusal(copy.file)) return {copy.file, {}};
+  const bool refused = IsRefusal(copy.file) && (IsRefusal(apart) || apart == -ENOENT);
+  if (copy.file < 0 && !refused) return {IsRefusal(copy.file) ? apart : copy.file, {}};
 
   int result = copy.file < 0 ? 0 : WriteToDisk(copy.file, bytes, calls);
   if (result >= 0) {

@@ -73,7 +73,7 @@ class FileCalls {
 /// replaced. The new file has the permissions of the old one.
 ///
 /// A folder may refuse a new file under the name although the old file may be written. Then that file is written in
-/// place, and the scratch file stays until its content is on the disk; where neither folder takes a scratch file, there
+/// place, and the scratch file stays until its content is on the disk; where both folders refuse a scratch file, there
 /// is none.
 ///
 /// Failure of any step is a RunTimeError as of FailOnFile. The old content is then still there and the scratch file is

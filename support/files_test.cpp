@@ -669,6 +669,17 @@ TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
   EXPECT_EQ(Content(File()), kNew);
 }
 
+TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
+  FaultyFileCalls calls([this](const FaultyFileCalls::Entry& entry, int) -> std::optional<int> {
+    if (entry.call != Call::kOpen || (entry.flags & O_CREAT) == 0) return std::nullopt;
+    return fs::path(entry.path).parent_path() == ScratchFolder() ? -ENOSPC : -EACCES;
+  });
+  const auto error = Replace(calls);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
+  EXPECT_EQ(Content(File()), kOld);
+}
+
 TEST_F(WritingInPlace, NewFileIsStillRefused) {
   fs::permissions(Folder(), kReadOnly);
   const OrdinaryUser user;
