@@ -32,11 +32,12 @@ struct Surroundings {
 };
 
 /// Does what the arguments (without the program's name) ask for, and returns the exit status. An amount is taken as an
-/// amount box takes it, a sum such as "=735+220-178" included, with a warning where a comma cuts it short, and the
-/// input checks run as they do after a click on the window's button: a refusal is printed as "title: message". A range
-/// that there is no file of is refused, with the names that are nearest to its own; one whose file cannot be read is
-/// pointed out before the run fails over it. Where the terminal takes it, a run that goes on for more than half a
-/// second shows a bar. Fails as the input checks, Analyze and AnalysisOutput do; nothing is written anywhere.
+/// amount box takes it, a sum such as "=735+220-178" included, but without the marks of a locale, so that a script
+/// means the same everywhere. A comma that cuts it short is warned of, and the input checks run as they do after a
+/// click on the window's button: a refusal is printed as "title: message". A range that there is no file of is refused,
+/// with the names that are nearest to its own; one whose file cannot be read is pointed out before the run fails over
+/// it. Where the terminal takes it, a run that goes on for more than half a second shows a bar. Fails as the input
+/// checks, Analyze and AnalysisOutput do; nothing is written anywhere.
 [[nodiscard]] int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings);
 
 }  // namespace quillon

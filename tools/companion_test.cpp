@@ -454,6 +454,7 @@ std::vector<RefusalCase> Refusals() {
       {"CallOfAWord", Call("150", "abc"), "Call Size Error: The amount to call must be greater than zero."},
       {"CallIntoAPotWithLetters", Call("150x", "50"), "Pot Size Error: The pot size contains non-numeric characters"},
       {"CallWithLetters", Call("150", "50x"), "Call Size Error: The call size contains non-numeric characters"},
+      {"CallIntoAPotInEuros", Call("100 €", "50"), "Pot Size Error: The pot size contains non-numeric characters"},
 
       {"RaiseWithoutRange", Raise("150", "50", "400", ""),
        "Missing Range: You must assign or create a range of hands for your opponent."},
