@@ -63,7 +63,7 @@ void Block(HandRecord& hand) {
   hand.WeightText = "0";
 }
 
-// Any other dead text than a card is one that is looked for in the cards of each hand.
+// If `dead` is not a card, block every hand whose text contains it.
 void BlockHandsThatHold(std::string_view dead, HandList& hands) {
   std::size_t card = 0;
   while (card < kDeckSize && DeckCard(card) != dead)
@@ -80,7 +80,7 @@ void BlockHandsThatHold(std::string_view dead, HandList& hands) {
   }
 }
 
-// What lies beyond a list's end cannot be looked at, and no list ends before its first record.
+// Throws if the list has fewer than `count` records.
 void DemandRecords(const HandList& list, std::size_t count) {
   if (list.empty() || list.size() < count) throw RunTimeError(RunTimeFault::kSubscriptOutOfRange);
 }

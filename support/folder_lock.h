@@ -24,7 +24,7 @@ class FolderLock {
   FolderLock& operator=(FolderLock&&) = delete;
   ~FolderLock();
 
-  /// Whether the lock was had.
+  /// Whether the lock was acquired.
   [[nodiscard]] bool Held() const { return held_; }
 
  private:
