@@ -2,10 +2,10 @@
 # Measures the window on a virtual screen of its own: bench/window_bench.cpp, and the time from the start of the real
 # program to its window on the screen, over ten starts.
 #
-#   bench/window.sh [PRESET]    release unless named
+#   bench/window.sh [PRESET]    bench unless named
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
-bin=build/${1:-release}/bin
+bin=build/${1:-bench}/bin
 
 scratch=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null || true; wait 2>/dev/null || true; rm -rf "$scratch"' EXIT

@@ -1,5 +1,8 @@
 # Qt, for the folders of the window. What does not link quillon_qt cannot include a header of Qt's.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+if(QUILLON_TESTS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb) # hands the clipboard over as the program ends
 

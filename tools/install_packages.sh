@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and says nothing where none is.
 #
-#   tools/install_packages.sh build    what ./run and ./check need
-#   tools/install_packages.sh lint     what .ci/run needs on top of that
+#   tools/install_packages.sh run      what ./run needs: to build the programs and to run them
+#   tools/install_packages.sh check    what ./check needs: that, and what tests and benchmarks are made of
+#   tools/install_packages.sh lint     what .ci/run needs on top of ./check
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
@@ -11,12 +12,13 @@
 # This is the one place that names packages.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
+run=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 # The window, the fonts that stand in for those of its layouts, and what opens its links and pictures.
-build+=(qt6-base-dev qt6-svg-dev qt6-qpa-plugins libxcb1-dev pkg-config xdg-utils)
-build+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
+run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
+run+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
+check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
 # A screen in memory for the tests that use it.
-build+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
+check+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)
@@ -24,14 +26,15 @@ screens=(optipng)
 reliability=(valgrind python3)
 
 case "${1:-}" in
-  build) wanted=("${build[@]}") ;;
-  lint) wanted=("${build[@]}" "${lint[@]}") ;;
-  fuzz) wanted=("${build[@]}" "${fuzz[@]}") ;;
-  coverage) wanted=("${build[@]}" "${coverage[@]}") ;;
-  reliability) wanted=("${build[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
-  screens) wanted=("${build[@]}" "${screens[@]}") ;;
+  run) wanted=("${run[@]}") ;;
+  check) wanted=("${check[@]}") ;;
+  lint) wanted=("${check[@]}" "${lint[@]}") ;;
+  fuzz) wanted=("${check[@]}" "${fuzz[@]}") ;;
+  coverage) wanted=("${check[@]}" "${coverage[@]}") ;;
+  reliability) wanted=("${check[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
+  screens) wanted=("${check[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 build|lint|fuzz|coverage|screens|reliability" >&2
+    echo "Usage: $0 run|check|lint|fuzz|coverage|screens|reliability" >&2
     exit 2
     ;;
 esac
