@@ -1,20 +1,37 @@
-// Balanced ranges from nothing, the reading of the equity table included, beside the analyses of "analysis_bench.cpp"
-// in the same run. The argument is the effective stack in big blinds, with blinds of 0.5 and 1.
+// What asks many questions at once, from nothing, the reading of the equity table included, beside the analyses of
+// "analysis_bench.cpp" in the same run.
 
 #include <benchmark/benchmark.h>
+#include <string>
+#include <variant>
 
 #include "hand/equity_table.h"
 #include "study/equilibrium.h"
+#include "study/sweep.h"
 
 namespace quillon {
 namespace {
 
+// A raise at so many shoves, one hand told.
+void ShoveSweep(benchmark::State& timing) {
+  LoadEquityTable();
+  const auto steps = std::get<Steps>(Steps::Read("1:" + std::to_string(timing.range(0)) + ":1"));
+  const SweepQuestion question = {AnalysisMode::kPreflopRaise, {150, 50, 0}, {HandIndex("A5s")}};
+  while (timing.KeepRunning()) {
+    const HandNumbers hands;
+    benchmark::DoNotOptimize(
+        SweepAmount(question, RangeNumbers(hands, AllHands(), AllHands()), SweptAmount::kShove, steps));
+  }
+}
+BENCHMARK(ShoveSweep)->Unit(benchmark::kMillisecond)->Arg(1)->Arg(1000);
+
+// The argument is the effective stack in big blinds, with blinds of 0.5 and 1.
 void BalancedRanges(benchmark::State& timing) {
   LoadEquityTable();
   const auto stack = static_cast<double>(timing.range(0));
   double exploitability = 0;
   while (timing.KeepRunning()) {
-    const auto found = FindEquilibrium(ClassPairs(), {.Pot = 1.5, .Call = 0.5, .Shove = stack - 1});
+    const auto found = FindEquilibrium(HandNumbers(), {.Pot = 1.5, .Call = 0.5, .Shove = stack - 1});
     exploitability = found->Exploitability / 1.5;
     benchmark::DoNotOptimize(found);
   }

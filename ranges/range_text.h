@@ -24,6 +24,13 @@ namespace quillon {
 /// A weight for each class, in class index order.
 using ClassWeights = std::array<double, kHandClassCount>;
 
+/// Every class at weight 1.
+[[nodiscard]] constexpr ClassWeights AllHands() {
+  ClassWeights weights{};
+  weights.fill(1);
+  return weights;
+}
+
 /// The weight of the class `label` in a range text: the leading number of what stands between the two characters behind
 /// the label's first occurrence and the next ")". Labels are compared with case. A text without a number there reads as
 /// 0, and a weight such as 0.25, 2 or -1 is given back as it stands.

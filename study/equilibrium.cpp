@@ -4,15 +4,14 @@
 #include <bit>
 #include <cstddef>
 #include <numeric>
+#include <vector>
 
-#include "analysis/dealt_range.h"
-#include "hand/equity_table.h"
 #include "support/rounding.h"
 
 namespace quillon {
 namespace {
 
-using PerClass = ClassPairs::Row;
+using PerClass = ClassWeights;
 using Table = std::vector<PerClass>;
 
 constexpr std::size_t kClasses = kHandClassCount;
@@ -42,14 +41,16 @@ double BestGain(const PerClass& gains) {
 // The gains in pots of each pair of classes, by how often it is dealt.
 class Game {
  public:
-  Game(const ClassPairs& pairs, const BalanceQuestion& question) : called_(kClasses), mirrored_(kClasses) {
+  Game(const HandNumbers& hands, const BalanceQuestion& question) : called_(kClasses), mirrored_(kClasses) {
     const double afterCall = question.Pot + question.Call + 2 * question.Shove;
     const double lost = question.Call + question.Shove + question.Pot;  // the pot, too, that a fold would have won
     for (std::size_t i = 0; i < kClasses; ++i) {
+      const PairCounts counts = CountPairs(hands, static_cast<std::int16_t>(i));
+      const HandNumbers::EquityRow& equities = hands.Equities(static_cast<std::int16_t>(i));
       for (std::size_t j = 0; j < kClasses; ++j) {
-        const double dealt = pairs.Counts(i)[j] * question.OwnHands[i] * question.HisHands[j];
+        const double dealt = counts[j] * question.OwnHands[i] * question.HisHands[j];
         folded_[i] += dealt;
-        called_[i][j] = dealt * (pairs.Equities(i)[j] * afterCall - lost) / question.Pot;
+        called_[i][j] = dealt * (equities[j] * afterCall - lost) / question.Pot;
       }
     }
     dealt_ = std::accumulate(folded_.begin(), folded_.end(), 0.0);
@@ -211,21 +212,17 @@ ClassWeights Played(const ClassWeights& held, const PerClass& plays) {
 
 }  // namespace
 
-ClassPairs::ClassPairs() : counts_(kClasses), equities_(kClasses) {
-  for (std::size_t i = 0; i < kClasses; ++i) {
-    const std::string_view label = HandLabel(static_cast<std::int16_t>(i));
-    const FixedText<5> cards = HandCards(label);
-    const double combos = ComboCount(label);
-    // Each of a class's hands leaves as many of another class as its sample hand does.
-    for (const HandRecord& hand : BuildCombos(cards.View().substr(0, 2), cards.View().substr(3, 2)))
-      counts_[i][static_cast<std::size_t>(HandIndex(hand.Label))] += combos * hand.Weight;
-    for (std::size_t j = 0; j < kClasses; ++j)
-      equities_[i][j] = HandEquity(label, HandLabel(static_cast<std::int16_t>(j)));
-  }
+PairCounts CountPairs(const HandNumbers& hands, std::int16_t index) {
+  // Each of a class's hands leaves as many of another class as its sample hand does.
+  const double combos = ComboCount(HandLabel(index));
+  PairCounts counts{};
+  for (const std::uint8_t other : hands.Dealt(index))
+    counts[other] += combos;
+  return counts;
 }
 
-std::optional<Equilibrium> FindEquilibrium(const ClassPairs& pairs, const BalanceQuestion& question) {
-  const Game game(pairs, question);
+std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question) {
+  const Game game(hands, question);
   if (!game.HasDeals()) return std::nullopt;
   const Answer answer = Solve(game);
   return Equilibrium{Played(question.OwnHands, answer.shove), Played(question.HisHands, answer.call),

@@ -19,39 +19,19 @@
 // how far the answer is from balance is known at every moment.
 
 #include <array>
+#include <cstdint>
 #include <optional>
-#include <vector>
 
+#include "analysis/range_sources.h"
 #include "hand/hand_classes.h"
 #include "ranges/range_text.h"
 
 namespace quillon {
 
-/// What two hands know of each other before the flop, for every pair of classes.
-class ClassPairs {
- public:
-  using Row = std::array<double, kHandClassCount>;
-
-  /// Reads the equity table. Fails as HandEquity does before that has been loaded.
-  ClassPairs();
-
-  /// How many pairs of concrete hands of the two classes share no card: 36 for AA and KK, 6 for AA and AA.
-  [[nodiscard]] const Row& Counts(std::size_t hero) const { return counts_[hero]; }
-
-  /// The equity of the class against each other.
-  [[nodiscard]] const Row& Equities(std::size_t hero) const { return equities_[hero]; }
-
- private:
-  std::vector<Row> counts_;
-  std::vector<Row> equities_;
-};
-
-/// Every class at weight 1.
-[[nodiscard]] constexpr ClassWeights AllHands() {
-  ClassWeights weights{};
-  weights.fill(1);
-  return weights;
-}
+/// For one class, how many pairs of its concrete hands with those of each class share no card: 36 for AA and KK, 6 for
+/// AA and AA.
+using PairCounts = std::array<double, kHandClassCount>;
+[[nodiscard]] PairCounts CountPairs(const HandNumbers& hands, std::int16_t index);
 
 /// The situation, in the user's own unit. The pot and the shove are above 0, the call is not below it.
 struct BalanceQuestion {
@@ -72,6 +52,6 @@ struct Equilibrium {
 
 /// Balanced ranges for a question; nothing if one of the players can hold no hand. Which of several balanced pairs is
 /// found is not said, and a class that is never faced with a shove may have any weight.
-[[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const ClassPairs& pairs, const BalanceQuestion& question);
+[[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question);
 
 }  // namespace quillon

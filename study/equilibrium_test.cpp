@@ -7,21 +7,18 @@
 #include <string>
 #include <vector>
 
-#include "analysis/dealt_range.h"
-#include "analysis/expected_value.h"
-#include "analysis/range_equity.h"
+#include "analysis/analysis.h"
 #include "hand/equity_table.h"
-#include "ranges/range_files.h"
 
 namespace quillon {
 namespace {
 
-const ClassPairs& Pairs() {
-  static const ClassPairs pairs = [] {
+const HandNumbers& Hands() {
+  static const HandNumbers hands = [] {
     LoadEquityTable();
-    return ClassPairs();
+    return HandNumbers();
   }();
-  return pairs;
+  return hands;
 }
 
 std::size_t Index(std::string_view label) {
@@ -44,12 +41,12 @@ BalanceQuestion HeadsUp(double stack) {
 }
 
 Equilibrium Find(const BalanceQuestion& question) {
-  const std::optional<Equilibrium> found = FindEquilibrium(Pairs(), question);
+  const std::optional<Equilibrium> found = FindEquilibrium(Hands(), question);
   EXPECT_TRUE(found);
   return found.value_or(Equilibrium{});
 }
 
-TEST(ClassPairs, CountsHandsThatShareNoCard) {
+TEST(PairCounts, CountHandsThatShareNoCard) {
   struct Case {
     const char* hero;
     const char* other;
@@ -57,15 +54,17 @@ TEST(ClassPairs, CountsHandsThatShareNoCard) {
   };
   for (const Case& c : {Case{"AA", "KK", 36}, Case{"AA", "AA", 6}, Case{"AKs", "AKs", 12}, Case{"AKs", "AKo", 24},
                         Case{"AKo", "AKs", 24}, Case{"AKo", "AKo", 84}, Case{"AA", "AKs", 12}, Case{"AKo", "QJo", 144}})
-    EXPECT_EQ(Pairs().Counts(Index(c.hero)).at(Index(c.other)), c.count) << c.hero << " and " << c.other;
+    EXPECT_EQ(CountPairs(Hands(), HandIndex(c.hero)).at(Index(c.other)), c.count) << c.hero << " and " << c.other;
   double all = 0;
-  for (std::size_t i = 0; i < kHandClassCount; ++i) {
-    all += std::accumulate(Pairs().Counts(i).begin(), Pairs().Counts(i).end(), 0.0);
-    for (std::size_t j = 0; j < kHandClassCount; ++j)
-      ASSERT_EQ(Pairs().Counts(i)[j], Pairs().Counts(j)[i]) << Label(i) << " and " << Label(j);
+  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
+    const PairCounts counts = CountPairs(Hands(), i);
+    all += std::accumulate(counts.begin(), counts.end(), 0.0);
+    for (std::int16_t j = 0; j < i; ++j) {
+      ASSERT_EQ(counts[static_cast<std::size_t>(j)], CountPairs(Hands(), j)[static_cast<std::size_t>(i)])
+          << HandLabel(i) << " and " << HandLabel(j);
+    }
   }
   EXPECT_EQ(all, 1326 * 1225);
-  EXPECT_EQ(Pairs().Equities(Index("AA")).at(Index("KK")), 0.819461);
 }
 
 TEST(Equilibrium, AgreesWithWhatIsPublishedOfHeadsUpPlay) {
@@ -121,10 +120,10 @@ TEST(Equilibrium, OfOneHandEachIsWorkedOutByHand) {
 TEST(Equilibrium, WithoutAHandThereIsNone) {
   BalanceQuestion question = HeadsUp(10);
   question.OwnHands = ClassWeights{};
-  EXPECT_FALSE(FindEquilibrium(Pairs(), question));
+  EXPECT_FALSE(FindEquilibrium(Hands(), question));
   question = HeadsUp(10);
   question.HisHands = ClassWeights{};
-  EXPECT_FALSE(FindEquilibrium(Pairs(), question));
+  EXPECT_FALSE(FindEquilibrium(Hands(), question));
 }
 
 // What a player gains by playing each class as well as can be, beyond what he gains by the weights found, each class
@@ -135,44 +134,48 @@ class OrdinaryAnalysis {
 
   // In "Preflop Raise", against the calling range found.
   [[nodiscard]] double HeroCouldGain() const {
-    double gain = 0;
-    double dealt = 0;
-    for (std::size_t i = 0; i < kHandClassCount; ++i) {
-      const HandList held = Deal(i, question_.HisHands);
-      const HandList called = LimitToRange(held, Deal(i, found_.Call));
-      const double weight = question_.OwnHands[i] * ComboCount(Label(i)) * TotalWeight(held);
-      const double share = TotalWeight(called) / TotalWeight(held);
-      const double equity = share > 0 ? EquityVsRange(Label(i), called) : -1;
-      const double ev = ShoveExpectedValue(question_.Pot, question_.Call, question_.Shove, equity, share);
-      gain += weight * (std::max(ev, 0.0) - Played(question_.OwnHands[i], found_.Shove[i]) * ev);
-      dealt += weight;
-    }
-    return gain / dealt;
+    const Analysis analysis = Finished({.Mode = AnalysisMode::kPreflopRaise,
+                                        .PotSize = question_.Pot,
+                                        .CallAmount = question_.Call,
+                                        .ShoveAmount = question_.Shove,
+                                        .RangeText = SearchableRangeText(question_.HisHands),
+                                        .CallingRangeText = SearchableRangeText(found_.Call)});
+    return CouldGain(analysis, question_.OwnHands, found_.Shove, question_.HisHands);
   }
 
   // In "Preflop Call", facing the range found. The pot holds the hero's call and shove then.
   [[nodiscard]] double OpponentCouldGain() const {
-    double gain = 0;
-    double dealt = 0;
-    for (std::size_t j = 0; j < kHandClassCount; ++j) {
-      const double held = question_.HisHands[j] * ComboCount(Label(j));
-      dealt += held * TotalWeight(Deal(j, question_.OwnHands));
-      const HandList shoving = Deal(j, found_.Shove);
-      if (TotalWeight(shoving) == 0) continue;
-      const double pot = question_.Pot + question_.Call + question_.Shove;
-      const double ev = CallExpectedValue(pot, question_.Shove, EquityVsRange(Label(j), shoving));
-      gain += held * TotalWeight(shoving) * (std::max(ev, 0.0) - Played(question_.HisHands[j], found_.Call[j]) * ev);
-    }
-    return gain / dealt;
+    const Analysis analysis = Finished({.Mode = AnalysisMode::kPreflopCall,
+                                        .PotSize = question_.Pot + question_.Call + question_.Shove,
+                                        .CallAmount = question_.Shove,
+                                        .RangeText = SearchableRangeText(found_.Shove)});
+    return CouldGain(analysis, question_.HisHands, found_.Call, found_.Shove);
   }
 
  private:
-  static double Played(double held, double played) { return held > 0 ? played / held : 0; }
+  static Analysis Finished(const Situation& situation) {
+    LoadEquityTable();
+    return Analyze(situation).value_or(Analysis{});
+  }
 
-  static HandList Deal(std::size_t hero, const ClassWeights& weights) {
-    const FixedText<5> cards = HandCards(Label(hero));
-    std::string text = SearchableRangeText(weights);
-    return DealRange(ProgramFolder{}, "", cards.View().substr(0, 2), cards.View().substr(3, 2), text);
+  // How often the two of a class of one player and the other's hands are dealt, as pairs of concrete hands.
+  static double Dealt(std::int16_t index, const ClassWeights& others) {
+    const PairCounts counts = CountPairs(Hands(), index);
+    return std::inner_product(counts.begin(), counts.end(), others.begin(), 0.0);
+  }
+
+  [[nodiscard]] double CouldGain(const Analysis& analysis, const ClassWeights& held, const ClassWeights& played,
+                                 const ClassWeights& against) const {
+    double gain = 0;
+    double dealt = 0;
+    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+      const auto i = static_cast<std::size_t>(index);
+      const double ev = GetHandResult(analysis.HandInfo, HandLabel(index)).ExpectedValue;
+      const double share = held[i] > 0 ? played[i] / held[i] : 0;
+      gain += held[i] * Dealt(index, against) * (std::max(ev, 0.0) - share * ev);
+      dealt += question_.OwnHands[i] * Dealt(index, question_.HisHands);
+    }
+    return gain / dealt;
   }
 
   const BalanceQuestion& question_;

@@ -1,0 +1,50 @@
+#pragma once
+
+// Up to which amount a class is good. What a move is worth is linear in each amount, so the amount at which it is worth
+// nothing follows from the formula and needs no search.
+
+#include <array>
+#include <string>
+
+#include "analysis/range_sources.h"
+#include "hand/hand_classes.h"
+
+namespace quillon {
+
+enum class LimitKind {
+  kUpTo,  // does not lose up to the amount, and loses above it
+  kAlways,  // does not lose, whatever the amount
+  kNever,  // loses, whatever the amount
+  kFrom,  // loses below the amount, and does not from there on
+};
+
+struct Limit {
+  LimitKind Kind = LimitKind::kNever;
+  double Amount = 0;  // of kUpTo and kFrom alone; above 0
+
+  bool operator==(const Limit&) const = default;
+};
+
+using Limits = std::array<Limit, kHandClassCount>;
+
+/// The largest amount that a class with this equity may call for the pot, pot * equity / (1 - equity). One that is not
+/// below the pot is "always", since no larger call is accepted. The pot is above 0.
+///
+///     pot 100, equity 0.2 -> up to 25      0.5 -> always      0 -> never
+[[nodiscard]] Limit CallLimit(double pot, double equity);
+
+/// The largest amount that a class may shove with pot and call as they are; the pot is above 0, the call not below it.
+/// A class that is never called always wins. At an equity of 0.5 the amount does not matter, and above it a class that
+/// pays more for the call than it gains may win only from an amount on.
+[[nodiscard]] Limit ShoveLimit(double pot, double call, const ClassFigures& figures);
+
+/// The limits of all classes, by class index. `range` must have some weight above 0; fails as FiguresOf does.
+[[nodiscard]] Limits CallLimits(const RangeNumbers& range, double pot);
+[[nodiscard]] Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call);
+
+/// A limit in words; the amount has the general number form.
+///
+///     "12.5"      "always"      "never"      "from 12.5"
+[[nodiscard]] std::string LimitText(const Limit& limit);
+
+}  // namespace quillon

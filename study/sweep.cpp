@@ -1,0 +1,160 @@
+#include "study/sweep.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "analysis/scenarios.h"
+#include "support/number_text.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::size_t kMostDigits = 15;
+constexpr std::size_t kParts = 3;
+
+struct Decimal {
+  std::int64_t digits = 0;
+  int decimals = 0;
+};
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+std::optional<Decimal> ReadDecimal(std::string_view text) {
+  const std::size_t point = std::min(text.find('.'), text.size());
+  std::string digits(text.substr(0, point));
+  if (point < text.size()) digits += text.substr(point + 1);
+  if (digits.empty() || digits.size() > kMostDigits || !std::ranges::all_of(digits, IsDigit)) return std::nullopt;
+  Decimal decimal;
+  std::from_chars(digits.data(), digits.data() + digits.size(), decimal.digits);
+  decimal.decimals = static_cast<int>(digits.size() - point);
+  return decimal;
+}
+
+// The digits of a decimal with so many decimals, nothing if they are more than a 64-bit integer holds.
+std::optional<std::int64_t> Scaled(const Decimal& decimal, int decimals) {
+  constexpr std::int64_t kMost = 1'000'000'000'000'000'000;
+  std::int64_t digits = decimal.digits;
+  for (int i = decimal.decimals; i < decimals; ++i) {
+    if (digits >= kMost / 10) return std::nullopt;
+    digits *= 10;
+  }
+  return digits;
+}
+
+std::vector<std::string_view> Parts(std::string_view text) {
+  std::vector<std::string_view> parts;
+  for (std::size_t start = 0; start <= text.size();) {
+    const std::size_t end = std::min(text.find(':', start), text.size());
+    parts.push_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  return parts;
+}
+
+double& AmountOf(Amounts& amounts, SweptAmount which) {
+  switch (which) {
+    case SweptAmount::kPot:
+      return amounts.Pot;
+    case SweptAmount::kCall:
+      return amounts.Call;
+    case SweptAmount::kShove:
+      break;
+  }
+  return amounts.Shove;
+}
+
+using AllFigures = std::array<ClassFigures, kHandClassCount>;
+
+AllFigures FiguresOf(const Scenario& scenario, const RangeNumbers& ranges) {
+  AllFigures figures;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    figures[static_cast<std::size_t>(index)] = ranges.FiguresOf(scenario, index);
+  return figures;
+}
+
+// A cell of a table loses what is beyond 15 digits. Its sign it keeps, so only what is told goes through the text.
+double AsTableHolds(double value) {
+  return LeadingNumber(NumberText(value));
+}
+
+SweepRow RowOf(const SweepQuestion& question, const Amounts& amounts, const AllFigures& figures, std::string at) {
+  const Scenario& scenario = ScenarioOf(question.Mode);
+  SweepRow row;
+  row.At = std::move(at);
+  const auto resultOf = [&](std::int16_t index) {
+    return ResultOf(scenario, index, figures[static_cast<std::size_t>(index)], amounts);
+  };
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const HandResult result = resultOf(index);
+    if (result.ExpectedValue >= 0) row.ProfitableCombos += result.Combos;
+  }
+  for (const std::int16_t index : question.Hands)
+    row.ExpectedValues.push_back(AsTableHolds(resultOf(index).ExpectedValue));
+  return row;
+}
+
+}  // namespace
+
+std::variant<Steps, std::string> Steps::Read(std::string_view text) {
+  const std::vector<std::string_view> parts = Parts(text);
+  if (parts.size() != kParts) return "steps are written FROM:TO:STEP, such as 5:20:0.5";
+  std::array<Decimal, kParts> decimals;
+  for (std::size_t i = 0; i < kParts; ++i) {
+    const std::optional<Decimal> decimal = ReadDecimal(parts[i]);
+    if (!decimal) return "\"" + std::string(parts[i]) + "\" is not a plain decimal of at most 15 digits";
+    decimals[i] = *decimal;
+  }
+  const int places = std::max({decimals[0].decimals, decimals[1].decimals, decimals[2].decimals});
+  std::array<std::int64_t, kParts> scaled{};
+  for (std::size_t i = 0; i < kParts; ++i) {
+    const std::optional<std::int64_t> digits = Scaled(decimals[i], places);
+    if (!digits) return "the numbers have more digits together than can be counted in";
+    scaled[i] = *digits;
+  }
+  const auto [from, to, step] = scaled;
+  if (step == 0) return "the step must be above 0";
+  if (to < from) return "the end may not be below the start";
+  const std::int64_t count = (to - from) / step + 1;
+  if (count > kMostSteps) return "there may be at most " + std::to_string(kMostSteps) + " steps";
+  return Steps(from, step, count, places);
+}
+
+std::string Steps::Text(std::int64_t step) const {
+  std::string digits = std::to_string(from_ + step * step_);
+  if (decimals_ == 0) return digits;
+  const auto decimals = static_cast<std::size_t>(decimals_);
+  if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+  digits.insert(digits.size() - decimals, ".");
+  digits.erase(digits.find_last_not_of('0') + 1);
+  if (digits.back() == '.') digits.pop_back();
+  return digits;
+}
+
+std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges, SweptAmount amount,
+                                  const Steps& steps) {
+  const AllFigures figures = FiguresOf(ScenarioOf(question.Mode), ranges);
+  std::vector<SweepRow> rows;
+  Amounts amounts = question.Fixed;
+  for (std::int64_t step = 0; step < steps.Count(); ++step) {
+    std::string at = steps.Text(step);
+    AmountOf(amounts, amount) = LeadingNumber(at);
+    rows.push_back(RowOf(question, amounts, figures, std::move(at)));
+  }
+  return rows;
+}
+
+std::vector<SweepRow> SweepRanges(const SweepQuestion& question,
+                                  const std::function<RangeNumbers(std::string_view at)>& rangesAt,
+                                  const Steps& steps) {
+  std::vector<SweepRow> rows;
+  for (std::int64_t step = 0; step < steps.Count(); ++step) {
+    std::string at = steps.Text(step);
+    const AllFigures figures = FiguresOf(ScenarioOf(question.Mode), rangesAt(at));
+    rows.push_back(RowOf(question, question.Fixed, figures, std::move(at)));
+  }
+  return rows;
+}
+
+}  // namespace quillon

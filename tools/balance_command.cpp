@@ -1,0 +1,110 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <numeric>
+#include <ostream>
+#include <string>
+
+#include "ranges/range_notation.h"
+#include "study/equilibrium.h"
+#include "support/number_text.h"
+#include "support/rounding.h"
+#include "tools/commands.h"
+#include "tools/saved_range.h"
+
+namespace quillon {
+namespace {
+
+struct Request {
+  std::string pot;
+  std::string call;
+  std::string shove;
+  RangeOption his;
+  RangeOption own;
+  std::string saveShove;
+  std::string saveCall;
+  bool replace = false;
+  std::string format;
+  std::string folder;
+};
+
+// How much of all hands a range is, in percent.
+double PercentOfHands(const ClassWeights& weights) {
+  double combos = 0;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    combos += weights[static_cast<std::size_t>(index)] * ComboCount(HandLabel(index));
+  return PercentOf(combos, kConcreteHandCount, 2);
+}
+
+std::string PlainOutput(const Equilibrium& found, double pot) {
+  const auto range = [](std::string_view what, const ClassWeights& weights) {
+    return std::string(what) + NumberText(PercentOfHands(weights)) + "% of hands: " + RangeNotation(weights) + "\n";
+  };
+  return range("Shove ", found.Shove) + range("Call  ", found.Call) + "Worth " + NumberText(RoundTo(found.Value, 6)) +
+         " on average\nBoth together could gain at most " + NumberText(PercentOf(found.Exploitability, pot, 9)) +
+         "% of the pot by changing\n";
+}
+
+std::string JsonOutput(const Equilibrium& found, const BalanceQuestion& question) {
+  const auto range = [](const ClassWeights& weights) {
+    return nlohmann::ordered_json{{"hands", RangeNotation(weights)}, {"percent", PercentOfHands(weights)}};
+  };
+  const nlohmann::ordered_json object = {{"pot", question.Pot},
+                                         {"call", question.Call},
+                                         {"shove", question.Shove},
+                                         {"shove_range", range(found.Shove)},
+                                         {"call_range", range(found.Call)},
+                                         {"value", found.Value},
+                                         {"exploitability", found.Exploitability}};
+  return object.dump(2) + "\n";
+}
+
+// Whether what was not given is everything, and what was given has hands.
+std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& inputs) {
+  if (!option.Given()) return AllHands();
+  const std::optional<GivenRange> range = inputs.RangeWithHands(option);
+  if (!range) return std::nullopt;
+  if (std::ranges::all_of(range->Weights, [](double weight) { return weight >= 0 && weight <= 1; }))
+    return range->Weights;
+  inputs.Refuse("The range \"" + range->Name + "\" has weights that are not from 0 to 1.");
+  return std::nullopt;
+}
+
+int Print(const Request& request, const Surroundings& surroundings) {
+  CommandInputs inputs(surroundings, request.folder);
+  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
+  const auto call = inputs.Amount("--call", request.call, LeastAmount::kZero);
+  const auto shove = inputs.Amount("--shove", request.shove, LeastAmount::kAboveZero);
+  const auto own = HandsOf(request.own, inputs);
+  const auto his = HandsOf(request.his, inputs);
+  if (!pot || !call || !shove || !own || !his) return inputs.Status();
+  for (const std::string& name : {request.saveShove, request.saveCall}) {
+    if (!name.empty() && !MaySave(inputs, name, request.replace, surroundings)) return inputs.Status();
+  }
+
+  const BalanceQuestion question = {*pot, *call, *shove, *own, *his};
+  const Equilibrium found = *FindEquilibrium(inputs.Hands(), question);
+  if (!request.saveShove.empty()) SaveRangeText(inputs.Folder(), request.saveShove, SearchableRangeText(found.Shove));
+  if (!request.saveCall.empty()) SaveRangeText(inputs.Folder(), request.saveCall, SearchableRangeText(found.Call));
+  surroundings.Output << (request.format == "json" ? JsonOutput(found, question) : PlainOutput(found, *pot));
+  return kDone;
+}
+
+}  // namespace
+
+RunCommand OfferBalance(CLI::App& options) {
+  const auto request = std::make_shared<Request>();
+  OfferAmount(options, "--pot", request->pot, "Everything in the pot");
+  OfferAmount(options, "--call", request->call, "What you must put in to call, 0 if you are first to act");
+  OfferAmount(options, "--shove", request->shove, "What he must put in to call your shove");
+  OfferRange(options, "--range", "--hands", request->his, "What he can hold (default: any hand)");
+  OfferRange(options, "--own-range", "--own-hands", request->own, "What you can hold (default: any hand)");
+  options.add_option("--save-shove", request->saveShove, "Saves the range to shove")->type_name("NAME");
+  options.add_option("--save-call", request->saveCall, "Saves the range to call with")->type_name("NAME");
+  options.add_flag("--replace", request->replace, "Replaces ranges of these names");
+  OfferFormat(options, request->format, {"plain", "json"});
+  OfferFolder(options, request->folder);
+  return [request](const Surroundings& surroundings) { return Print(*request, surroundings); };
+}
+
+}  // namespace quillon

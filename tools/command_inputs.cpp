@@ -1,0 +1,155 @@
+#include "tools/command_inputs.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+#include <istream>
+#include <ostream>
+#include <variant>
+
+#include "analysis/entered_situation.h"
+#include "hand/equity_table.h"
+#include "hand/hand_classes.h"
+#include "ranges/range_notation.h"
+#include "shell/expressions.h"
+#include "study/hand_order.h"
+#include "support/number_text.h"
+#include "tools/analysis_output.h"
+#include "tools/range_lookup.h"
+
+namespace quillon {
+namespace {
+
+HandNumbers ReadHandNumbers() {
+  LoadEquityTable();
+  return {};
+}
+
+// Thousands separators pass for a number, but the value ends at the first. What is no number at all is refused.
+void WarnOfComma(std::string_view option, const std::string& amount, std::ostream& errors) {
+  std::string whole = amount;
+  std::erase(whole, ',');
+  const double value = BoxValue(amount);
+  if (!IsNumericText(amount) || value == BoxValue(whole)) return;
+  errors << "Warning: " << option << ' ' << amount << " counts as " << NumberText(value)
+         << "; a comma ends a number.\n";
+}
+
+}  // namespace
+
+MessageAnswer PrintedMessages::Show(const Message& message) {
+  errors_ << message.title << ": " << UnixLineEnds(message.text) << '\n';
+  shown_ = true;
+  return message.buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kCancel;
+}
+
+void OfferRange(CLI::App& command, const std::string& nameOption, const std::string& handsOption, RangeOption& range,
+                const std::string& description) {
+  range.Options = nameOption + " or " + handsOption;
+  CLI::Option* const name = command.add_option(nameOption, range.Name, description)->type_name("NAME");
+  command
+      .add_option(handsOption, range.Hands,
+                  description + ", as \"88+,ATs+,KQ:0.5\" or \"top 15%\"; - reads it from standard input")
+      ->type_name("NOTATION")
+      ->excludes(name);
+}
+
+void OfferFolder(CLI::App& command, std::string& folder) {
+  command.add_option("--folder", folder, "The program folder that holds \"Ranges\" (default: the executable's own)")
+      ->type_name("DIR");
+}
+
+void OfferFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
+  format = names.front();
+  std::string list = names.front() + " (default)";
+  for (std::size_t i = 1; i < names.size(); ++i)
+    list.append(i + 1 == names.size() ? " or " : ", ").append(names[i]);
+  command.add_option("--format", format, list)->type_name("F")->check(CLI::IsMember(names));
+}
+
+void OfferAmount(CLI::App& command, const std::string& option, std::string& amount, const std::string& description) {
+  command.add_option(option, amount, description)->required()->type_name("TEXT");
+}
+
+std::string CheckLabel(const std::string& label) {
+  if (HandLabel(HandIndex(label)) == label) return {};
+  return "\"" + label + "\" is no starting hand; hands are written as AA, AKs or AKo";
+}
+
+CommandInputs::CommandInputs(const Surroundings& surroundings, const std::string& folder)
+    : surroundings_(surroundings),
+      folder_{folder.empty() ? surroundings.ProgramFolder : std::filesystem::path(folder)},
+      hands_(ReadHandNumbers()) {}
+
+bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
+  PrintedMessages messages(surroundings_.Errors);
+  text = EvalTextBox(text, messages);
+  if (messages.Shown()) return false;
+  WarnOfComma(option, text, surroundings_.Errors);
+  return true;
+}
+
+std::optional<double> CommandInputs::Amount(std::string_view option, std::string text, LeastAmount least) {
+  if (!EvaluateAmount(option, text)) return std::nullopt;
+  const double value = BoxValue(text);
+  if (!IsNumericText(text)) {
+    Refuse(std::string(option) + ": \"" + text + "\" is not an amount");
+    return std::nullopt;
+  }
+  if (value > 0 || (value == 0 && least == LeastAmount::kZero)) return value;
+  Refuse(std::string(option) + (least == LeastAmount::kZero ? " must not be below 0" : " must be above 0"));
+  return std::nullopt;
+}
+
+std::optional<GivenRange> CommandInputs::Range(const RangeOption& option) {
+  if (option.Hands) return TypedRange(*option.Hands);
+  if (!option.Name) throw CLI::RequiredError(option.Options);
+  return NamedRange(*option.Name);
+}
+
+std::optional<GivenRange> CommandInputs::RangeWithHands(const RangeOption& option) {
+  std::optional<GivenRange> range = Range(option);
+  if (!range || std::ranges::any_of(range->Weights, [](double weight) { return weight > 0; })) return range;
+  Refuse("The range \"" + range->Name + "\" has no hands.");
+  return std::nullopt;
+}
+
+void CommandInputs::Refuse(std::string_view reason) {
+  surroundings_.Errors << reason << '\n';
+}
+
+std::optional<GivenRange> CommandInputs::NamedRange(const std::string& name) {
+  if (RefuseUnknown({name}, folder_, surroundings_.Errors)) return std::nullopt;
+  PointOutUnreadable(name, folder_, surroundings_.Errors);
+  GivenRange range{name, LoadRangeText(folder_, name)};
+  range.Weights = RangeWeightsOf(range.Text);
+  if (IsReadable(name, folder_)) return range;
+  status_ = kFailed;
+  return std::nullopt;
+}
+
+std::optional<GivenRange> CommandInputs::TypedRange(const std::string& notation) {
+  constexpr std::string_view kStandardInput = "-";
+  const std::optional<std::string> typed = notation == kStandardInput ? StandardInput() : notation;
+  if (!typed) return std::nullopt;
+  const NotationReading reading = ReadRangeNotation(*typed, HandsBestFirst(hands_));
+  if (const auto* const error = std::get_if<NotationError>(&reading)) {
+    Refuse(MarkedPlace(*typed, *error));
+    return std::nullopt;
+  }
+  const auto& weights = std::get<ClassWeights>(reading);
+  return GivenRange{RangeNotation(weights), SearchableRangeText(weights), weights};
+}
+
+std::optional<std::string> CommandInputs::StandardInput() {
+  if (inputTaken_) throw CLI::ValidationError("Standard input can be read for one range only");
+  inputTaken_ = true;
+  // One more than a notation may have is enough to see that it is too long.
+  std::string text(kLongestNotation + 1, '\0');
+  if (surroundings_.Input == nullptr) return "";
+  surroundings_.Input->read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(surroundings_.Input->gcount()));
+  return text;
+}
+
+}  // namespace quillon

@@ -1,0 +1,291 @@
+// The commands that study a situation and that take ranges as they are typed, run as the program runs them.
+
+#include "tools/commands.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "analysis/analysis.h"
+#include "hand/equity_table.h"
+#include "ranges/range_notation.h"
+#include "study/equilibrium.h"
+#include "study/limits.h"
+#include "support/number_text.h"
+#include "support/run_time_error.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
+
+namespace quillon {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using Arguments = std::vector<std::string>;
+using Json = nlohmann::json;
+
+struct Outcome {
+  int Status = -1;
+  std::string Output;
+  std::string Errors;
+};
+
+class StudyProgram {
+ public:
+  StudyProgram() { program_.Write("Tight.txt", TextWith("AA KK QQ AKs AKo") + "\r\n"); }
+
+  [[nodiscard]] const TemporaryProgram& Files() const { return program_; }
+
+  [[nodiscard]] Outcome Run(const Arguments& arguments, const std::string& typed = {}) const {
+    std::ostringstream output;
+    std::ostringstream errors;
+    std::istringstream input(typed);
+    Outcome outcome;
+    try {
+      outcome.Status =
+          RunCompanion(arguments, {output, errors, program_.Folder().Path, {}, std::chrono::steady_clock::now, &input});
+    } catch (const RunTimeError& error) {
+      outcome.Status = kFailed;
+      errors << error.what() << '\n';
+    }
+    outcome.Output = output.str();
+    outcome.Errors = errors.str();
+    return outcome;
+  }
+
+ private:
+  TemporaryProgram program_;
+};
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);)
+    lines.push_back(line);
+  return lines;
+}
+
+Arguments With(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+TEST(TypedRange, IsTakenWhereverANameIs) {
+  const StudyProgram program;
+  const Arguments tight = {"--hands", "QQ+,AK"};
+  struct Case {
+    Arguments arguments;
+    Arguments named;
+    Arguments typed;
+  };
+  for (const Case& c : std::vector<Case>{
+           {{"call", "--pot", "150", "--call", "50", "--format", "table"}, {"--range", "Tight"}, tight},
+           {{"equity", "--format", "table"}, {"--range", "Tight"}, tight},
+           {{"summary"}, {"--range", "Tight"}, tight},
+           {{"notation"}, {"--range", "Tight"}, tight},
+           {{"limits", "call", "--pot", "150"}, {"--range", "Tight"}, tight},
+           {{"raise", "--pot", "150", "--call", "50", "--shove", "400", "--format", "table"},
+            {"--range", "Tight", "--calling-range", "Tight"},
+            {"--hands", "AK,QQ+", "--calling-hands", "QQ+ AK"}},
+       }) {
+    const Outcome named = program.Run(With(c.arguments, c.named));
+    const Outcome typed = program.Run(With(c.arguments, c.typed));
+    EXPECT_EQ(typed.Status, kDone) << typed.Errors;
+    EXPECT_EQ(typed.Output, named.Output) << c.arguments.front();
+    EXPECT_FALSE(typed.Output.empty()) << c.arguments.front();
+  }
+}
+
+TEST(TypedRange, IsReportedByItsNotation) {
+  const StudyProgram program;
+  const Outcome outcome = program.Run({"call", "--pot", "150", "--call", "50", "--hands", "ak qq kk AA:0.99"});
+  EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
+  EXPECT_THAT(outcome.Output, HasSubstr("AA:0.99,KK-QQ,AKs,AKo"));
+}
+
+// The digits of such a weight are the label of a pair that comes later.
+TEST(TypedRange, MayHaveAnyWeight) {
+  const StudyProgram program;
+  const Outcome outcome = program.Run({"equity", "--hands", "AA:0.99,99:0.22", "--format", "csv"});
+  EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
+  EXPECT_EQ(Lines(outcome.Output).size(), 170U);
+}
+
+TEST(TypedRange, IsReadFromStandardInputOnce) {
+  const StudyProgram program;
+  EXPECT_EQ(program.Run({"notation", "--hands", "-"}, "AA, KK\nQQ\n").Output, "QQ+\n");
+  const Outcome twice =
+      program.Run({"raise", "--pot", "1", "--call", "1", "--shove", "1", "--hands", "-", "--calling-hands", "-"}, "AA");
+  EXPECT_EQ(twice.Status, kWrongUsage);
+  EXPECT_THAT(twice.Errors, HasSubstr("Standard input can be read for one range only"));
+}
+
+TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
+  const StudyProgram program;
+  const Arguments sweep = {"sweep", "call", "--hands", "AA"};
+  const Arguments balance = {"balance", "--pot", "1", "--call", "1"};
+  struct Case {
+    Arguments arguments;
+    int status;
+    const char* errors;
+  };
+  for (const Case& c : std::vector<Case>{
+           {{"notation", "--hands", "AKs, KXs+"}, kRefused, "AKs, KXs+\n     ^ \"X\" is not a rank\n"},
+           {{"notation", "--hands", ""}, kRefused, "there is no hand here"},
+           {{"notation", "--range", "Tihgt"}, kRefused, "The nearest names: \"Tight\""},
+           {{"notation", "--range", "Tight", "--hands", "AA"}, kWrongUsage, "excludes"},
+           {{"notation"}, kWrongUsage, "--range or --hands is required"},
+           {{"save", "a/b", "--hands", "AA"}, kRefused, "not allowed in the range name"},
+           {{"save", "", "--hands", "AA"}, kRefused, "You must choose a name"},
+           {{"save", "Tight", "--hands", "AA"}, kRefused, "already exists"},
+           {{"save", "New", "--hands", "AA:2"}, kRefused, "a weight is from 0 to 1"},
+           {{"limits", "call", "--pot", "0", "--hands", "AA"}, kRefused, "--pot must be above 0"},
+           {{"limits", "call", "--pot", "x", "--hands", "AA"}, kRefused, "--pot: \"x\" is not an amount"},
+           {{"limits", "call", "--pot", "nan", "--hands", "AA"}, kRefused, "--pot: \"nan\" is not an amount"},
+           {{"limits", "call", "--pot", "1", "--hands", "none"}, kRefused, "The range \"none\" has no hands."},
+           {{"limits", "raise", "--pot", "1", "--call", "-1", "--hands", "AA", "--calling-hands", "AA"},
+            kRefused,
+            "--call must not be below 0"},
+           {With(sweep, {"--pot", "9", "--call", "1:2:0"}), kRefused, "--call: the step must be above 0"},
+           {With(sweep, {"--pot", "9", "--call", "1:1000000000:1"}), kRefused, "at most 100000 steps"},
+           {With(sweep, {"--pot", "9", "--call", "1:9:1"}), kRefused, "--pot must be greater than --call"},
+           {With(sweep, {"--pot", "9", "--call", "0:5:1"}), kRefused, "--call must be above 0"},
+           {With(sweep, {"--pot", "9", "--call", "1"}), kWrongUsage, "is given as FROM:TO:STEP"},
+           {With(sweep, {"--pot", "5:9:1", "--call", "1:2:1"}), kWrongUsage, "is given as FROM:TO:STEP"},
+           {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:101:5"}, kDone, ""},
+           {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:105:5"},
+            kRefused,
+            "--width: a share is from 0% to 100%"},
+           {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "0:5:5"}, kRefused, "has no hands"},
+           {With(sweep, {"--pot", "9", "--call", "1", "--width", "5:10:5"}), kWrongUsage, "leave --range"},
+           {With(balance, {"--shove", "0"}), kRefused, "--shove must be above 0"},
+           {With(balance, {"--shove", "9", "--hands", "none"}), kRefused, "has no hands"},
+           {With(balance, {"--shove", "9", "--save-call", "Tight"}), kRefused, "already exists"},
+       }) {
+    const Outcome outcome = program.Run(c.arguments);
+    EXPECT_EQ(outcome.Status, c.status) << testing::PrintToString(c.arguments) << outcome.Errors;
+    EXPECT_THAT(outcome.Errors, HasSubstr(c.errors)) << testing::PrintToString(c.arguments);
+    EXPECT_EQ(outcome.Output.empty(), c.status != kDone) << testing::PrintToString(c.arguments);
+  }
+  EXPECT_EQ(program.Files().Read("Tight.txt"), TextWith("AA KK QQ AKs AKo") + "\r\n");
+  EXPECT_FALSE(RangeExists(program.Files().Folder(), "New"));
+}
+
+TEST(Save, WritesWhatCanBeReadAgain) {
+  const StudyProgram program;
+  const std::string notation = "AA:0.99,KK-TT,A5s-A2s:0.5,AKo:0.333333333333333";
+  EXPECT_EQ(program.Run({"save", "Mine", "--hands", notation}).Status, kDone);
+  EXPECT_EQ(program.Run({"notation", "--range", "Mine"}).Output, notation + "\n");
+  EXPECT_EQ(program.Run({"equity", "--range", "Mine"}).Status, kDone);
+
+  EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA"}).Status, kRefused);
+  EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA", "--replace"}).Status, kDone);
+  EXPECT_EQ(program.Files().Read("Mine.txt"), TextWith("AA") + "\r\n");
+}
+
+TEST(Matrix, HoldsTheWholeTable) {
+  LoadEquityTable();
+  const StudyProgram program;
+  const auto lines = Lines(program.Run({"matrix"}).Output);
+  ASSERT_EQ(lines.size(), 170U);
+  EXPECT_THAT(lines.at(0), StartsWith("hand,AA,AKs,AQs"));
+  EXPECT_THAT(lines.at(1), StartsWith("AA,0.5,0.878595,0.874609"));
+  const Json json = Json::parse(program.Run({"matrix", "--format", "json"}).Output);
+  for (std::int16_t row = 0; row < kHandClassCount; row += 7) {
+    for (std::int16_t column = 0; column < kHandClassCount; ++column) {
+      const double equity = HandEquity(HandLabel(row), HandLabel(column));
+      ASSERT_EQ(json["equities"][static_cast<std::size_t>(row)][static_cast<std::size_t>(column)], equity)
+          << HandLabel(row) << " against " << HandLabel(column);
+    }
+  }
+  EXPECT_EQ(json["hands"][168], "22");
+}
+
+TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
+  LoadEquityTable();
+  const HandNumbers hands;
+  const auto weights = RangeWeightsOf(TextWith("AA KK QQ AKs AKo"));
+  const Limits expected = ShoveLimits(RangeNumbers(hands, AllHands(), weights), 15, 5);
+  const StudyProgram program;
+  const Arguments raise = {"limits",  "raise", "--pot",           "15",   "--call", "5",
+                           "--hands", "any",   "--calling-range", "Tight"};
+  const Json json = Json::parse(program.Run(With(raise, {"--format", "json"})).Output);
+  const auto csv = Lines(program.Run(With(raise, {"--format", "csv"})).Output);
+  ASSERT_EQ(json["hands"].size(), 169U);
+  ASSERT_EQ(csv.size(), 170U);
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    const std::string label(HandLabel(static_cast<std::int16_t>(i)));
+    const Limit& limit = expected.at(i);
+    EXPECT_EQ(json["hands"][i]["hand"], label);
+    if (limit.Kind == LimitKind::kAlways) {
+      EXPECT_EQ(csv.at(i + 1), label + ",always,");
+      EXPECT_TRUE(json["hands"][i]["amount"].is_null()) << label;
+    } else {
+      EXPECT_EQ(csv.at(i + 1), label + ",up to," + NumberText(limit.Amount));
+      EXPECT_EQ(json["hands"][i]["amount"], limit.Amount) << label;
+    }
+  }
+  EXPECT_THAT(program.Run(raise).Output, StartsWith("AA  always   AKs 5332.15  AQs 1756.09  "));
+  EXPECT_EQ(Lines(program.Run(raise).Output).size(), 13U);
+}
+
+// Each row holds the figures that a command of its own prints.
+TEST(SweepCommand, AgreesWithSingleAnalyses) {
+  const StudyProgram program;
+  const Arguments shared = {"--pot", "15", "--call", "5", "--hands", "any", "--calling-range", "Tight"};
+  const auto rows = Lines(program
+                              .Run(With(With({"sweep", "raise", "--shove", "0.1:0.4:0.1"}, shared),
+                                        {"--hand", "72o", "AA", "--format", "csv"}))
+                              .Output);
+  ASSERT_EQ(rows.size(), 5U);
+  EXPECT_EQ(rows.front(), "shove,profitable,72o,AA");
+  for (const std::string shove : {"0.1", "0.2", "0.3", "0.4"}) {
+    const Outcome single = program.Run(With(With({"raise", "--shove", shove}, shared), {"--format", "table"}));
+    const auto value = [&](std::string_view hand) {
+      return NumberText(GetHandResult(single.Output, hand).ExpectedValue);
+    };
+    EXPECT_THAT(rows, testing::Contains(shove + ",100," + value("72o") + "," + value("AA")));
+  }
+}
+
+TEST(SweepCommand, GoesThroughWidthsInEachFormat) {
+  const StudyProgram program;
+  const Arguments width = {"sweep", "call", "--pot", "100", "--call", "90", "--width", "10:100:45", "--hand", "KTo"};
+  const Json json = Json::parse(program.Run(With(width, {"--format", "json"})).Output);
+  ASSERT_EQ(json["steps"].size(), 3U);
+  for (const Json& step : json["steps"]) {
+    const std::string share = "top " + NumberText(step["width"]) + "%";
+    const Outcome single = program.Run({"call", "--pot", "100", "--call", "90", "--hands", share, "--format", "table"});
+    EXPECT_EQ(step["ev"]["KTo"], GetHandResult(single.Output, "KTo").ExpectedValue) << share;
+  }
+  EXPECT_EQ(Lines(program.Run(width).Output).at(0), "width  profitable       KTo");
+}
+
+TEST(BalanceCommand, PrintsAndSavesBothRanges) {
+  const StudyProgram program;
+  const Arguments balance = {"balance", "--pot", "1.5", "--call", "0.5", "--shove", "9"};
+  LoadEquityTable();
+  const auto found = FindEquilibrium(HandNumbers(), {.Pot = 1.5, .Call = 0.5, .Shove = 9});
+  ASSERT_TRUE(found);
+  const std::string shove = RangeNotation(found->Shove);
+  const Outcome plain = program.Run(With(balance, {"--save-shove", "Balanced shove", "--save-call", "Balanced call"}));
+  EXPECT_EQ(plain.Status, kDone) << plain.Errors;
+  EXPECT_THAT(plain.Output, HasSubstr("% of hands: " + shove + "\n"));
+  EXPECT_EQ(program.Run({"notation", "--range", "Balanced shove"}).Output, shove + "\n");
+  EXPECT_EQ(program.Run({"notation", "--range", "Balanced call"}).Output, RangeNotation(found->Call) + "\n");
+
+  const Json json = Json::parse(program.Run(With(balance, {"--format", "json"})).Output);
+  EXPECT_EQ(json["shove_range"]["hands"], shove);
+  EXPECT_EQ(json["value"], found->Value);
+  EXPECT_LE(json["exploitability"], 1.5e-6);
+
+  const Json own = Json::parse(program.Run(With(balance, {"--own-hands", "AA", "--format", "json"})).Output);
+  EXPECT_EQ(own["shove_range"]["hands"], "AA");
+  EXPECT_NEAR(own["value"], 1.5 - 1.0 / 1225, 1e-9) << "other aces alone call, and split the pot";
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,128 @@
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+
+#include "study/limits.h"
+#include "support/number_text.h"
+#include "support/rounding.h"
+#include "tools/class_grid.h"
+#include "tools/commands.h"
+
+namespace quillon {
+namespace {
+
+struct Request {
+  std::string pot;
+  std::string call;
+  RangeOption range;
+  RangeOption callingRange;
+  std::string format;
+  std::string folder;
+};
+
+bool HasAmount(const Limit& limit) {
+  return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
+}
+
+// In a grid two decimals are enough.
+std::string GridText(Limit limit) {
+  limit.Amount = RoundTo(limit.Amount, 2);
+  return LimitText(limit);
+}
+
+std::string_view KindName(LimitKind kind) {
+  switch (kind) {
+    case LimitKind::kUpTo:
+      return "up to";
+    case LimitKind::kFrom:
+      return "from";
+    case LimitKind::kAlways:
+      return "always";
+    case LimitKind::kNever:
+      break;
+  }
+  return "never";
+}
+
+std::string GridOutput(const Limits& limits) {
+  std::array<std::string, kHandClassCount> texts;
+  std::ranges::transform(limits, texts.begin(), GridText);
+  return ClassGrid(texts);
+}
+
+std::string CsvOutput(const Limits& limits) {
+  std::string text = "hand,limit,amount\n";
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const Limit& limit = limits[static_cast<std::size_t>(index)];
+    text.append(HandLabel(index)).append(",").append(KindName(limit.Kind)).append(",");
+    text.append(HasAmount(limit) ? NumberText(limit.Amount) : "").append("\n");
+  }
+  return text;
+}
+
+std::string JsonOutput(const Limits& limits) {
+  nlohmann::ordered_json hands = nlohmann::ordered_json::array();
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const Limit& limit = limits[static_cast<std::size_t>(index)];
+    nlohmann::ordered_json hand = {{"hand", HandLabel(index)}, {"limit", KindName(limit.Kind)}, {"amount", nullptr}};
+    if (HasAmount(limit)) hand["amount"] = limit.Amount;
+    hands.push_back(hand);
+  }
+  return nlohmann::ordered_json{{"hands", hands}}.dump(2) + "\n";
+}
+
+int Print(const Limits& limits, const std::string& format, const Surroundings& surroundings) {
+  surroundings.Output << (format == "json"  ? JsonOutput(limits)
+                          : format == "csv" ? CsvOutput(limits)
+                                            : GridOutput(limits));
+  return kDone;
+}
+
+int PrintCallLimits(const Request& request, const Surroundings& surroundings) {
+  CommandInputs inputs(surroundings, request.folder);
+  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
+  const auto range = inputs.RangeWithHands(request.range);
+  if (!pot || !range) return inputs.Status();
+  return Print(CallLimits(RangeNumbers(inputs.Hands(), range->Weights), *pot), request.format, surroundings);
+}
+
+int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
+  CommandInputs inputs(surroundings, request.folder);
+  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
+  const auto call = inputs.Amount("--call", request.call, LeastAmount::kZero);
+  const auto range = inputs.Range(request.range);
+  const auto callingRange = inputs.Range(request.callingRange);
+  if (!pot || !call || !range || !callingRange) return inputs.Status();
+  const RangeNumbers ranges(inputs.Hands(), range->Weights, callingRange->Weights);
+  return Print(ShoveLimits(ranges, *pot, *call), request.format, surroundings);
+}
+
+void OfferOutput(CLI::App& options, Request& request) {
+  OfferFormat(options, request.format, {"plain", "csv", "json"});
+  OfferFolder(options, request.folder);
+}
+
+}  // namespace
+
+RunCommand OfferLimits(CLI::App& options) {
+  const auto request = std::make_shared<Request>();
+  CLI::App* const call = options.add_subcommand("call", "The largest all-in that each hand can call");
+  OfferAmount(*call, "--pot", request->pot, "Everything in the pot, his bet included");
+  OfferRange(*call, "--range", "--hands", request->range, "His range");
+  OfferOutput(*call, *request);
+  CLI::App* const raise = options.add_subcommand("raise", "The largest shove that is good with each hand");
+  OfferAmount(*raise, "--pot", request->pot, "Everything in the pot");
+  OfferAmount(*raise, "--call", request->call, "What you must put in to call, 0 if you are first to act");
+  OfferRange(*raise, "--range", "--hands", request->range, "His range now");
+  OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
+  OfferOutput(*raise, *request);
+  options.require_subcommand(1);
+  return [request, call](const Surroundings& surroundings) {
+    return call->parsed() ? PrintCallLimits(*request, surroundings) : PrintShoveLimits(*request, surroundings);
+  };
+}
+
+}  // namespace quillon

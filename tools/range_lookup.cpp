@@ -1,0 +1,71 @@
+#include "tools/range_lookup.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <ostream>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "hand/hand_classes.h"
+#include "ranges/range_lists.h"
+#include "ranges/range_text.h"
+#include "tools/nearest_names.h"
+
+namespace quillon {
+namespace {
+
+// A text may be read as a range and still be none: a letter, a picture. A range has at least one class with a weight.
+bool HoldsAnEntry(std::string_view text) {
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    if (text.find(std::string(HandLabel(index)) + " (") != std::string_view::npos) return true;
+  }
+  return false;
+}
+
+std::vector<std::string> RangeNames(const ProgramFolder& folder) {
+  std::vector<std::string> names;
+  for (const std::string& file : RangeFolderEntries(folder)) {
+    if (auto name = Attempt([&] { return RangeNameOfFile(file); })) names.push_back(*std::move(name));
+  }
+  return names;
+}
+
+bool HasFile(const std::string& name, const ProgramFolder& folder) {
+  std::error_code none;
+  return std::filesystem::exists(std::filesystem::symlink_status(RangeFilePath(folder, name), none));
+}
+
+}  // namespace
+
+bool IsReadable(const std::string& name, const ProgramFolder& folder) {
+  const std::string text = LoadRangeText(folder, name);
+  return HoldsAnEntry(text) && Attempt([&] { return SelectedCombos(text); });
+}
+
+void PointOutUnreadable(const std::string& name, const ProgramFolder& folder, std::ostream& errors) {
+  if (IsReadable(name, folder)) return;
+  errors << "The range \"" << name << "\" cannot be read: " << RangeFilePath(folder, name).string()
+         << " is missing, empty or no range file.\n";
+}
+
+bool RefuseUnknown(const std::vector<std::string>& names, const ProgramFolder& folder, std::ostream& errors) {
+  constexpr std::size_t kSuggestions = 3;
+  bool refused = false;
+  for (const std::string& name : names) {
+    if (HasFile(name, folder)) continue;
+    refused = true;
+    const std::vector<std::string> nearest = NearestNames(name, RangeNames(folder), kSuggestions);
+    errors << "There is no range \"" << name << "\" in " << RangeFolderPath(folder).string() << ".";
+    std::string_view separator = " The nearest names: ";
+    for (const std::string& near : nearest) {
+      errors << separator << '"' << near << '"';
+      separator = ", ";
+    }
+    errors << '\n';
+  }
+  return refused;
+}
+
+}  // namespace quillon

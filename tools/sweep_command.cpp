@@ -1,0 +1,241 @@
+#include <CLI/CLI.hpp>
+#include <array>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ranges/range_notation.h"
+#include "study/hand_order.h"
+#include "study/sweep.h"
+#include "support/number_text.h"
+#include "support/rounding.h"
+#include "tools/commands.h"
+
+namespace quillon {
+namespace {
+
+struct Request {
+  std::array<std::string, 3> amounts;  // pot, call, shove
+  std::string width;
+  RangeOption range;
+  RangeOption callingRange;
+  std::vector<std::string> hands;
+  std::string format;
+  std::string folder;
+};
+
+constexpr std::array<const char*, 3> kAmountOptions = {"--pot", "--call", "--shove"};
+constexpr std::string_view kWidthOption = "--width";
+
+double SharePercent(const SweepRow& row) {
+  return PercentOf(row.ProfitableCombos, kConcreteHandCount, 2);
+}
+
+using Rows = std::vector<SweepRow>;
+
+enum class Figures { kExact, kRounded };
+
+std::vector<std::string> Cells(const SweepRow& row, Figures figures) {
+  constexpr int kDecimals = 4;
+  std::vector<std::string> cells = {row.At, NumberText(SharePercent(row))};
+  for (const double value : row.ExpectedValues)
+    cells.push_back(NumberText(figures == Figures::kExact ? value : RoundTo(value, kDecimals)));
+  return cells;
+}
+
+// `what` the steps go through is the first.
+std::vector<std::string> Headings(std::string_view what, const Request& request) {
+  std::vector<std::string> headings = {std::string(what), "profitable"};
+  headings.insert(headings.end(), request.hands.begin(), request.hands.end());
+  return headings;
+}
+
+std::string CsvOutput(std::string_view what, const Request& request, const Rows& rows) {
+  std::string text;
+  const auto line = [&text](const std::vector<std::string>& cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i)
+      text.append(i == 0 ? "" : ",").append(cells[i]);
+    text += '\n';
+  };
+  line(Headings(what, request));
+  for (const SweepRow& row : rows)
+    line(Cells(row, Figures::kExact));
+  return text;
+}
+
+// Columns to the right, as numbers are read.
+std::string TableOutput(std::string_view what, const Request& request, const Rows& rows) {
+  std::vector<std::vector<std::string>> lines = {Headings(what, request)};
+  for (const SweepRow& row : rows)
+    lines.push_back(Cells(row, Figures::kRounded));
+  std::vector<std::size_t> widths(lines.front().size());
+  for (const auto& line : lines) {
+    for (std::size_t i = 0; i < line.size(); ++i)
+      widths[i] = std::max(widths[i], line[i].size());
+  }
+  std::string text;
+  for (const auto& line : lines) {
+    for (std::size_t i = 0; i < line.size(); ++i)
+      text.append(i == 0 ? "" : "  ").append(widths[i] - line[i].size(), ' ').append(line[i]);
+    text += '\n';
+  }
+  return text;
+}
+
+std::string JsonOutput(std::string_view what, const Request& request, const Rows& rows) {
+  nlohmann::ordered_json steps = nlohmann::ordered_json::array();
+  for (const SweepRow& row : rows) {
+    nlohmann::ordered_json values = nlohmann::ordered_json::object();
+    for (std::size_t i = 0; i < request.hands.size(); ++i)
+      values[request.hands[i]] = row.ExpectedValues[i];
+    steps.push_back({{what, LeadingNumber(row.At)}, {"profitable_percent", SharePercent(row)}, {"ev", values}});
+  }
+  return nlohmann::ordered_json{{"steps", steps}}.dump(2) + "\n";
+}
+
+int Print(std::string_view what, const Request& request, const Rows& rows, const Surroundings& surroundings) {
+  surroundings.Output << (request.format == "json"  ? JsonOutput(what, request, rows)
+                          : request.format == "csv" ? CsvOutput(what, request, rows)
+                                                    : TableOutput(what, request, rows));
+  return kDone;
+}
+
+std::optional<Steps> ReadSteps(std::string_view option, const std::string& text, CommandInputs& inputs) {
+  auto read = Steps::Read(text);
+  if (auto* const steps = std::get_if<Steps>(&read)) return *steps;
+  inputs.Refuse(std::string(option) + ": " + std::get<std::string>(read));
+  return std::nullopt;
+}
+
+// The one amount that has steps, by its place.
+std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count) {
+  std::optional<std::size_t> swept;
+  int found = request.width.empty() ? 0 : 1;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (request.amounts[i].find(':') == std::string::npos) continue;
+    swept = i;
+    ++found;
+  }
+  if (found != 1) throw CLI::ValidationError("One amount, or --width, is given as FROM:TO:STEP");
+  return swept;
+}
+
+// A call is smaller than the pot, and only a raise's call may be 0.
+bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& inputs) {
+  const bool raise = mode == AnalysisMode::kPreflopRaise;
+  if (amounts.Pot <= 0)
+    inputs.Refuse("--pot must be above 0");
+  else if (raise ? amounts.Call < 0 : amounts.Call <= 0)
+    inputs.Refuse("--call must be above 0");
+  else if (raise && amounts.Shove <= 0)
+    inputs.Refuse("--shove must be above 0");
+  else if (!raise && amounts.Call >= amounts.Pot)
+    inputs.Refuse("--pot must be greater than --call");
+  else
+    return true;
+  return false;
+}
+
+int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place, SweepQuestion question,
+                   CommandInputs& inputs, const Surroundings& surroundings) {
+  const auto steps = ReadSteps(kAmountOptions[place], request.amounts[place], inputs);
+  if (!steps) return inputs.Status();
+  const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
+  for (const std::int64_t end : {std::int64_t{0}, steps->Count() - 1}) {
+    *fields[place] = LeadingNumber(steps->Text(end));
+    if (!AreAccepted(mode, question.Fixed, inputs)) return inputs.Status();
+  }
+  const bool raise = mode == AnalysisMode::kPreflopRaise;
+  const auto range = raise ? inputs.Range(request.range) : inputs.RangeWithHands(request.range);
+  const auto calling = raise ? inputs.Range(request.callingRange) : GivenRange{};
+  if (!range || !calling) return inputs.Status();
+  const RangeNumbers ranges(inputs.Hands(), range->Weights, calling->Weights);
+  return Print(kAmountOptions[place] + 2, request,
+               SweepAmount(question, ranges, static_cast<SweptAmount>(place), *steps), surroundings);
+}
+
+int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion& question, CommandInputs& inputs,
+                  const Surroundings& surroundings) {
+  const auto steps = ReadSteps(kWidthOption, request.width, inputs);
+  if (!steps || !AreAccepted(mode, question.Fixed, inputs)) return inputs.Status();
+  const auto order = HandsBestFirst(inputs.Hands());
+  const auto top = [&](std::string_view share) { return ReadRangeNotation(std::string(share) + "%", order); };
+  const NotationReading widest = top(steps->Text(steps->Count() - 1));
+  if (const auto* const error = std::get_if<NotationError>(&widest)) {
+    inputs.Refuse(std::string(kWidthOption) + ": " + error->Reason);
+    return inputs.Status();
+  }
+  const auto weightsAt = [&](std::string_view share) { return std::get<ClassWeights>(top(share)); };
+  if (mode == AnalysisMode::kPreflopCall) {
+    if (request.range.Given()) throw CLI::ValidationError("--width is his range; leave --range and --hands out");
+    if (weightsAt(steps->Text(0)) == ClassWeights{}) {
+      inputs.Refuse(std::string(kWidthOption) + ": the narrowest range has no hands");
+      return inputs.Status();
+    }
+    const auto rangesAt = [&](std::string_view share) { return RangeNumbers(inputs.Hands(), weightsAt(share)); };
+    return Print("width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+  }
+  if (request.callingRange.Given()) {
+    throw CLI::ValidationError("--width is his calling range; leave --calling-range and --calling-hands out");
+  }
+  const auto range = inputs.Range(request.range);
+  if (!range) return inputs.Status();
+  const auto rangesAt = [&](std::string_view share) {
+    return RangeNumbers(inputs.Hands(), range->Weights, weightsAt(share));
+  };
+  return Print("width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+}
+
+int Sweep(AnalysisMode mode, const Request& request, const Surroundings& surroundings) {
+  const auto count = static_cast<std::size_t>(ScenarioOf(mode).AmountCount);
+  const std::optional<std::size_t> swept = SweptPlace(request, count);
+  CommandInputs inputs(surroundings, request.folder);
+  SweepQuestion question{mode, {}, {}};
+  const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
+  for (std::size_t i = 0; i < count; ++i) {
+    if (i == swept) continue;
+    const auto amount = inputs.Amount(kAmountOptions[i], request.amounts[i], LeastAmount::kZero);
+    if (!amount) return inputs.Status();
+    *fields[i] = *amount;
+  }
+  for (const std::string& hand : request.hands)
+    question.Hands.push_back(HandIndex(hand));
+  if (swept) return SweepTheAmount(mode, request, *swept, std::move(question), inputs, surroundings);
+  return SweepTheWidth(mode, request, question, inputs, surroundings);
+}
+
+void OfferShared(CLI::App& options, Request& request, const char* width) {
+  options.add_option(std::string(kWidthOption), request.width, width)->type_name("FROM:TO:STEP");
+  options.add_option("--hand", request.hands, "Adds the expected value of these hands")
+      ->type_name("LABEL")
+      ->check(CLI::Validator(CheckLabel, ""));
+  OfferFormat(options, request.format, {"table", "csv", "json"});
+  OfferFolder(options, request.folder);
+}
+
+}  // namespace
+
+RunCommand OfferSweep(CLI::App& options) {
+  const auto request = std::make_shared<Request>();
+  CLI::App* const call = options.add_subcommand("call", "Calling an all-in; one amount is FROM:TO:STEP");
+  OfferAmount(*call, "--pot", request->amounts[0], "Everything in the pot, his bet included");
+  OfferAmount(*call, "--call", request->amounts[1], "What you must put in to call");
+  OfferRange(*call, "--range", "--hands", request->range, "His range");
+  OfferShared(*call, *request, "His range instead, as the top percent of hands");
+  CLI::App* const raise = options.add_subcommand("raise", "Going all in; one amount is FROM:TO:STEP");
+  OfferAmount(*raise, "--pot", request->amounts[0], "Everything in the pot");
+  OfferAmount(*raise, "--call", request->amounts[1], "What you must put in to call, 0 if you are first to act");
+  OfferAmount(*raise, "--shove", request->amounts[2], "What he must put in to call your shove");
+  OfferRange(*raise, "--range", "--hands", request->range, "His range now");
+  OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
+  OfferShared(*raise, *request, "His calling range instead, as the top percent of hands");
+  options.require_subcommand(1);
+  return [request, call](const Surroundings& surroundings) {
+    return Sweep(call->parsed() ? AnalysisMode::kPreflopCall : AnalysisMode::kPreflopRaise, *request, surroundings);
+  };
+}
+
+}  // namespace quillon
