@@ -1,6 +1,13 @@
 #include "analysis/entered_situation.h"
 
 namespace quillon {
+namespace {
+
+std::string TextOr(const std::string& text, const std::string& name, const ProgramFolder& folder) {
+  return text.empty() ? LoadRangeText(folder, name) : text;
+}
+
+}  // namespace
 
 double BoxValue(std::string_view text) {
   std::string amount(text);
@@ -21,10 +28,10 @@ Situation SituationOf(AnalysisMode mode, const EnteredSituation& entered, const 
   if (scenario.AmountCount > 1) situation.CallAmount = amounts.Call;
   if (scenario.AmountCount > 2) situation.ShoveAmount = amounts.Shove;
   situation.RangeName = entered.Range;
-  situation.RangeText = LoadRangeText(folder, entered.Range);
+  situation.RangeText = TextOr(entered.RangeText, entered.Range, folder);
   if (scenario.HasCallingRange) {
     situation.CallingRangeName = entered.CallingRange;
-    situation.CallingRangeText = LoadRangeText(folder, entered.CallingRange);
+    situation.CallingRangeText = TextOr(entered.CallingRangeText, entered.CallingRange, folder);
   }
   return situation;
 }

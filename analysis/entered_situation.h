@@ -11,7 +11,8 @@
 
 namespace quillon {
 
-/// What a scenario does not ask for may be left empty.
+/// What a scenario does not ask for may be left empty. A range is read from the file of its name, unless its text is
+/// there.
 struct EnteredSituation {
   std::string Pot;
   std::string Call;
@@ -19,6 +20,8 @@ struct EnteredSituation {
   std::string Range;
   std::string CallingRange;
   NumberMarks Marks{};  // how the user writes amounts, besides the plain way
+  std::string RangeText{};
+  std::string CallingRangeText{};
 };
 
 /// The value of a typed amount: every "$" is taken out, and the leading number of the rest counts. It never fails.

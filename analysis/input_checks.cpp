@@ -75,9 +75,9 @@ std::optional<Complaint> FirstComplaint(std::span<const Check> checks, const Inp
 }
 
 // Dealt around two cards that are in no deck, so that nothing is blocked.
-HandList WholeRange(const ProgramFolder& folder, std::string_view name) {
-  std::string rangeText;
-  return DealRange(folder, name, "Xx", "Yy", rangeText);
+HandList WholeRange(const ProgramFolder& folder, const EnteredSituation& entered) {
+  std::string rangeText = entered.RangeText;
+  return DealRange(folder, entered.Range, "Xx", "Yy", rangeText);
 }
 
 struct ScenarioCheck {
@@ -99,7 +99,7 @@ std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& 
 }
 
 std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
-  return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered.Range)});
+  return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
 }
 
 std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& /*folder*/) {
@@ -107,7 +107,7 @@ std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const
 }
 
 std::optional<Complaint> CheckEquityInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
-  return FirstComplaint(kEquityChecks, {entered, AmountsOf(entered), WholeRange(folder, entered.Range)});
+  return FirstComplaint(kEquityChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
 }
 
 }  // namespace quillon

@@ -29,6 +29,7 @@ struct Surroundings {
   std::filesystem::path ProgramFolder;  // where "Ranges" is looked for unless --folder names another folder
   quillon::Terminal Terminal{};
   std::function<std::chrono::steady_clock::time_point()> Now = std::chrono::steady_clock::now;
+  std::istream* Input = nullptr;  // where "-" reads a range; without it there is nothing to read
 };
 
 /// Does what the arguments (without the program's name) ask for, and returns the exit status. An amount is taken as an
@@ -37,7 +38,8 @@ struct Surroundings {
 /// click on the window's button: a refusal is printed as "title: message". A range that there is no file of is refused,
 /// with the names that are nearest to its own; one whose file cannot be read is pointed out before the run fails over
 /// it. Where the terminal takes it, a run that goes on for more than half a second shows a bar. Fails as the input
-/// checks, Analyze and AnalysisOutput do; nothing is written anywhere.
+/// checks, Analyze and AnalysisOutput do. Only
+/// saving a range writes anything.
 [[nodiscard]] int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings);
 
 }  // namespace quillon

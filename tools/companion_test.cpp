@@ -669,7 +669,7 @@ TEST_P(WrongUsage, IsToldWithItsStatus) {
 
 std::vector<UsageCase> WrongUsages() {
   return {
-      {"NoCommand", {}, "Say what to do: call, raise, equity, summary or ranges"},
+      {"NoCommand", {}, "Say what to do: call, raise, equity, summary, "},
       {"UnknownCommand", {"fold"}, "fold"},
       {"TwoCommands", With(kEquity, {"ranges"}), "ranges"},
       {"UnknownOption", With(kEquity, {"--quick"}), "--quick"},
@@ -677,15 +677,15 @@ std::vector<UsageCase> WrongUsages() {
       {"StrayWord", With(kEquity, {"Tight"}), "Tight"},
       {"CallWithoutPot", {"call", "--call", "50", "--range", "Tight"}, "--pot is required"},
       {"CallWithoutCall", {"call", "--pot", "150", "--range", "Tight"}, "--call is required"},
-      {"CallWithoutRange", {"call", "--pot", "150", "--call", "50"}, "--range is required"},
+      {"CallWithoutRange", {"call", "--pot", "150", "--call", "50"}, "--range or --hands is required"},
       {"RaiseWithoutShove",
        {"raise", "--pot", "150", "--call", "50", "--range", "Loose", "--calling-range", "Tight"},
        "--shove is required"},
       {"RaiseWithoutCallingRange",
        {"raise", "--pot", "150", "--call", "50", "--shove", "400", "--range", "Loose"},
-       "--calling-range is required"},
-      {"EquityWithoutRange", {"equity"}, "--range is required"},
-      {"SummaryWithoutRange", {"summary"}, "--range is required"},
+       "--calling-range or --calling-hands is required"},
+      {"EquityWithoutRange", {"equity"}, "--range or --hands is required"},
+      {"SummaryWithoutRange", {"summary"}, "--range or --hands is required"},
       {"EquityTakesNoPot", With(kEquity, {"--pot", "150"}), "--pot"},
       {"CallTakesNoShove", With(kCall, {"--shove", "400"}), "--shove"},
       {"SummaryTakesNoFormat", {"summary", "--range", "Tight", "--format", "csv"}, "--format"},

@@ -1,5 +1,6 @@
 // quillon-cli: the command-line companion's outermost frame.
 
+#include <chrono>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
@@ -22,8 +23,12 @@ std::string Variable(const char* name) {
 
 int Run(const std::vector<std::string>& arguments) {
   const quillon::Surroundings surroundings{
-      std::cout, std::cerr, quillon::ExecutableFolder(),
-      quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable)};
+      std::cout,
+      std::cerr,
+      quillon::ExecutableFolder(),
+      quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable),
+      std::chrono::steady_clock::now,
+      &std::cin};
   const int status = quillon::RunCompanion(arguments, surroundings);
   // An answer that did not get out is no answer.
   if (!std::cout.flush()) throw quillon::RunTimeError(quillon::RunTimeFault::kDeviceError, "standard output");
