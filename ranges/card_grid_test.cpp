@@ -96,7 +96,8 @@ TEST(PlaceCardGrid, GoesByTheFramesPlaceAndTheSizeOfASquare) {
   for (std::size_t index = 0; index < places.Cells.size(); ++index) {
     const CellPlace& cell = places.Cells.at(index);
     const auto left = static_cast<float>(1360 + 325 * (index % 13));
-    const auto top = static_cast<float>(60 + 225 * (index / 13));
+    const std::size_t row = index / 13;
+    const auto top = static_cast<float>(60 + 225 * row);
     EXPECT_EQ(cell.Square, (TwipRect{left, top, 300, 200})) << index;
     EXPECT_EQ(cell.Label, (TwipRect{left + 10, top + 100, 280, 100})) << index;
   }
