@@ -17,7 +17,7 @@
 #include "support/message_boxes.h"
 #include "tools/companion.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library's own
 class App;
 }  // namespace CLI
 
