@@ -205,7 +205,7 @@ std::vector<StatusCase> Statuses() {
        "Run-time error '6': Overflow"},
       {"NoCommand", {}, 2, "Say what to do"},
       {"UnknownOption", With(kCall, {"--quick"}), 2, "The following argument was not expected: --quick"},
-      {"MissingOption", {"equity"}, 2, "--range is required"},
+      {"MissingOption", {"equity"}, 2, "--range or --hands is required"},
       {"CallOfNothing",
        {"call", "--pot", "150", "--call", "-5", "--range", "Everything"},
        3,
