@@ -48,8 +48,8 @@ struct AnalysisListener {
 };
 
 /// The analysis of a situation, which must have a scenario, or nothing if the listener stopped it, be it after the last
-/// class. The equity table must have been loaded. Amounts that the listener gives go into the rows; the situation that
-/// comes back is the one that was asked about.
+/// class. The equity table must have been loaded. Amounts that the listener gives go into the rows; the situation
+/// returned is the one that was asked about.
 ///
 /// Fails as RangeTexts does, on the first class, and as ResultRow does where an amount makes a value beyond all
 /// numbers.

@@ -69,9 +69,9 @@ using HandList = std::vector<HandRecord>;
 [[nodiscard]] HandList LimitToRange(const HandList& current, HandList calling);
 
 /// The classes that LimitToRange cuts, for the report's warning, in the order in which the deck brings them up: a class
-/// absent from `current` stands by its label, one at half weight there with "½'d" behind it, as in
-/// "AA, AKs (½'d), KQo". Only classes at full weight in the calling range are named; a half one that is cut is not, and
-/// that is meant. The empty text if there is none. Fails as LimitToRange does.
+/// absent from `current` is given by its label, one at half weight there with "½'d" after it, as in
+/// "AA, AKs (½'d), KQo". Only classes at full weight in the calling range are named; a half one that is cut is not.
+/// Intentional: half a hand is expected to go. The empty text if there is none. Fails as LimitToRange does.
 [[nodiscard]] std::string ListDroppedHands(const HandList& current, const HandList& calling);
 
 }  // namespace quillon

@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kUsualRowSize = 64;
 
-// Takes the first row off `rest` and gives it back without its line end; nothing if no line end is left.
+// Takes the first row off `rest` and returns it without its line end; nothing if no line end is left.
 std::optional<std::string_view> TakeRow(std::string_view& rest) {
   const std::size_t length = rest.find(kLineEnd);
   if (length == std::string_view::npos) return std::nullopt;

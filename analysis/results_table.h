@@ -1,7 +1,7 @@
 #pragma once
 
 // The results table: everything an analysis finds out, as one text. There are no numbers beside it. Each class has one
-// row, each row ends in CR LF, and its cells are parted by tabs:
+// row, each row ends in CR LF, and its cells are separated by tabs:
 //
 //     AKs <tab> -12.3456789012345 <tab> 0.67 <tab> 0.25 <tab> <CR LF>
 //
@@ -44,7 +44,7 @@ struct HandResult {
 ///     ("AA\t1.5\t\t\r\n", "AA", 2, 0.85, 3)              -> "AA\t1.5\t0.85\t\t\r\n"
 ///     ("AA\t1.5\t0.85\t\t\r\n", "AA", 3, 0.25, 3)        -> "AA\t1.5\t0.85\t0.25\t\r\n"
 ///
-/// What stands behind the last line end is no row and is dropped. A value that is not finite has no text: RunTimeError
+/// Text after the last line end is not a row and is dropped. A value that is not finite has no text: RunTimeError
 /// "Overflow".
 [[nodiscard]] std::string SetHandInfo(std::string_view table, std::string_view label, std::int16_t column, double value,
                                       std::int16_t lastColumn);

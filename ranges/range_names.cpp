@@ -22,14 +22,14 @@ bool Refuse(MessageBoxes& messages, std::string_view title, std::string text) {
 
 }  // namespace
 
-bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages) {
+bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages, bool mayReplace) {
   if (name.empty()) return Refuse(messages, kErrorTitle, "You must choose a name for this range.");
   if (name.find_first_of(kRefusedCharacters) != std::string_view::npos) {
     return Refuse(
         messages, kApplicationTitle,
         "The following characters are not allowed in the range name: \r\n\r\n" + std::string(kForbiddenCharacters));
   }
-  if (name != kScratchRangeName && RangeExists(folder, name)) {
+  if (!mayReplace && name != kScratchRangeName && RangeExists(folder, name)) {
     return Refuse(
         messages, kErrorTitle,
         "A range with the name \"" + std::string(name) + "\" already exists.\r\n\r\nPlease choose another name.");

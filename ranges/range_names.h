@@ -17,7 +17,9 @@ inline constexpr std::string_view kScratchRangeName = "Temp Range1";
 /// Whether a new range may take this name. The first of these that the name fails is told to the user in one message
 /// box, and the answer is false: it must not be empty; it must hold none of the eight characters / \ : * ? " < > (the
 /// message names "|" as a ninth, which is let through); no range of that name may exist, unless it is the scratch
-/// range; its file's name must not be longer than the file system takes, 255 bytes as a rule.
-[[nodiscard]] bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages);
+/// range; its file's name must not be longer than the file system takes, 255 bytes as a rule. With `mayReplace` an
+/// existing range of that name is no reason to refuse it.
+[[nodiscard]] bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages,
+                                     bool mayReplace = false);
 
 }  // namespace quillon

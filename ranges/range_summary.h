@@ -19,7 +19,7 @@ namespace quillon {
 ///     JJ, TT, 99, 88, AQs, AJs, ATs, A9s, KQs, A2o at 1   -> "JJ-88,AQs-A9s,KQs,A2o"
 ///     AA, 22 at 1 -> "AA,22"      33, 22 at 1 -> "33-22"      A3s, A2s at 1 -> "A3s-A2s"      32s at 1 -> "32s"
 ///
-/// A run at `target` whose next class down has a higher weight is left out. It is meant so: with AA at 0.5 and KK at 1,
+/// A run at `target` whose next class down has a higher weight is left out. Intentional: with AA at 0.5 and KK at 1,
 /// SummarizeWeight(text, 0.5) is the empty text.
 ///
 /// Fails as RangeWeightOf does.

@@ -170,7 +170,7 @@ void WriteForumCall(ReportBox& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
   WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount));
-  // Here the break-even point is the fraction, where the plain form has the percentage; it is meant.
+  // Intentional: the break-even point is the fraction in a post, where the plain form has the percentage.
   WriteForumLine(box, "[COLOR=\"GRAY\"](Pot Odds: " + RoundedText(odds, 2) +
                           ":1, BEP: " + RoundedText(BreakEvenEquity(odds), 2) + ")[/COLOR]");
   WriteForumLine(box, "Villain Range: " + RangeSummary(analysis.RangeText) + "\r\n");

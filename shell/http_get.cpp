@@ -103,7 +103,7 @@ std::string Follow(httplib::Client& client, std::optional<Place> place) {
   return {};
 }
 
-// A system that has run out of memory or threads fails a request like any other.
+// A system that has run out of memory fails a request like any other.
 std::string ValueOf(std::future<std::string>& body) {
   try {
     return body.get();
@@ -127,7 +127,13 @@ void HttpGet(std::string_view address, milliseconds limit, std::function<void(st
     client.set_read_timeout(limit);
     client.set_write_timeout(limit);
 
-    std::future<std::string> body = std::async(std::launch::async, [&] { return Follow(client, place); });
+    std::future<std::string> body;
+    try {
+      body = std::async(std::launch::async, [&] { return Follow(client, place); });
+    } catch (const std::system_error&) {  // no thread to be had
+      answer({});
+      return;
+    }
     const bool isInTime = body.wait_until(deadline) == std::future_status::ready;
     answer(isInTime ? ValueOf(body) : std::string());
     // To stop the client blocks while it looks up the host or connects, and does nothing between two redirects.

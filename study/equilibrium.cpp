@@ -19,9 +19,11 @@ constexpr std::size_t kClasses = kHandClassCount;
 constexpr double kWanted = 1e-9;
 constexpr double kGoodEnough = 5e-7;
 constexpr int kPatience = 4096;
+// Six decimals are enough but for shoves of many pots, where a millionth of a range is worth more than is promised.
+constexpr int kShareDecimals = 6;
+constexpr int kFineShareDecimals = 12;
 constexpr int kRoundsBetweenLooks = 64;
 constexpr int kMostRounds = 1 << 20;  // far beyond any that was seen, so that no input runs for ever
-constexpr int kShareDecimals = 6;
 
 double Dot(const PerClass& a, const PerClass& b) {
   return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
@@ -139,8 +141,8 @@ class Learner {
   }
 
   // As played now, and in the mean of the rounds counted; both rounded.
-  [[nodiscard]] PerClass Last() const { return Rounded(plays_, 1); }
-  [[nodiscard]] PerClass Mean() const { return Rounded(sum_, rounds_); }
+  [[nodiscard]] PerClass Last(int decimals) const { return Rounded(plays_, 1, decimals); }
+  [[nodiscard]] PerClass Mean(int decimals) const { return Rounded(sum_, rounds_, decimals); }
 
   [[nodiscard]] const PerClass& Plays() const { return plays_; }
 
@@ -151,9 +153,9 @@ class Learner {
     return plays;
   }
 
-  static PerClass Rounded(const PerClass& sums, int rounds) {
+  static PerClass Rounded(const PerClass& sums, int rounds, int decimals) {
     PerClass rounded{};
-    std::ranges::transform(sums, rounded.begin(), [&](double sum) { return RoundTo(sum / rounds, kShareDecimals); });
+    std::ranges::transform(sums, rounded.begin(), [&](double sum) { return RoundTo(sum / rounds, decimals); });
     return rounded;
   }
 
@@ -179,7 +181,7 @@ Answer AnswerOf(const Game& game, const PerClass& shove, const PerClass& call) {
 Answer Solve(const Game& game) {
   Learner hero;
   Learner opponent;
-  Answer best = AnswerOf(game, hero.Last(), opponent.Last());
+  Answer best = AnswerOf(game, hero.Last(kShareDecimals), opponent.Last(kShareDecimals));
   for (int round = 0; round < kMostRounds;) {
     // Worked out anew after each look, so that no error of rounding adds up.
     PerClass shoveGains = game.ShoveGains(opponent.Plays());
@@ -190,8 +192,9 @@ Answer Solve(const Game& game) {
       hero.Count();
       opponent.Count();
     }
-    for (const Answer& answer :
-         {AnswerOf(game, hero.Last(), opponent.Last()), AnswerOf(game, hero.Mean(), opponent.Mean())}) {
+    const int decimals = round < kPatience ? kShareDecimals : kFineShareDecimals;
+    for (const Answer& answer : {AnswerOf(game, hero.Last(decimals), opponent.Last(decimals)),
+                                 AnswerOf(game, hero.Mean(decimals), opponent.Mean(decimals))}) {
       if (answer.exploitability < best.exploitability) best = answer;
     }
     if (best.exploitability <= (round < kPatience ? kWanted : kGoodEnough)) break;

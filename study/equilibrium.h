@@ -42,12 +42,14 @@ struct BalanceQuestion {
   ClassWeights HisHands = AllHands();
 };
 
-/// Balanced ranges. How often a hand that is held is played is rounded to six decimals.
+/// Balanced ranges. How often a hand that is held is played is rounded to six decimals, or to twelve where six
+/// cannot tell it well enough.
 struct Equilibrium {
   ClassWeights Shove{};  // no weight above that of the hands held
   ClassWeights Call{};
   double Value = 0;  // what the hero gains on average against folding everything
-  double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot
+  double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot for shoves of
+                              // up to several hundred pots, and told as it is beyond
 };
 
 /// Balanced ranges for a question; nothing if one of the players can hold no hand. Which of several balanced pairs is

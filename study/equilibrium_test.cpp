@@ -228,6 +228,16 @@ TEST(Equilibrium, NobodyPlaysWhatHeCannotHold) {
   }
 }
 
+// He calls so seldom that a millionth of his range is worth more than a millionth of the pot.
+TEST(Equilibrium, IsFoundWhereASmallShareDecides) {
+  for (const double shove : {49.0, 99.0, 1000.0}) {
+    BalanceQuestion question = {
+        .Pot = 1.5, .Call = 0.5, .Shove = shove, .OwnHands = Only("AA"), .HisHands = Only("KK")};
+    question.OwnHands.at(Index("72o")) = 1;
+    EXPECT_LE(Find(question).Exploitability, 1e-6 * question.Pot) << shove;
+  }
+}
+
 TEST(Equilibrium, TheUnitOfTheAmountsDoesNotMatter) {
   const Equilibrium chips = Find(HeadsUp(12));
   const Equilibrium cents = Find({.Pot = 150, .Call = 50, .Shove = 1100});

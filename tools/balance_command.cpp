@@ -78,6 +78,10 @@ int Print(const Request& request, const Surroundings& surroundings) {
   const auto own = HandsOf(request.own, inputs);
   const auto his = HandsOf(request.his, inputs);
   if (!pot || !call || !shove || !own || !his) return inputs.Status();
+  if (!request.saveShove.empty() && request.saveShove == request.saveCall) {
+    inputs.Refuse("--save-shove and --save-call need different names");
+    return inputs.Status();
+  }
   for (const std::string& name : {request.saveShove, request.saveCall}) {
     if (!name.empty() && !MaySave(inputs, name, request.replace, surroundings)) return inputs.Status();
   }

@@ -138,7 +138,10 @@ std::optional<GivenRange> CommandInputs::TypedRange(const std::string& notation)
     return std::nullopt;
   }
   const auto& weights = std::get<ClassWeights>(reading);
-  return GivenRange{RangeNotation(weights), SearchableRangeText(weights), weights};
+  GivenRange range{RangeNotation(weights), SearchableRangeText(weights)};
+  // As an analysis reads them: a text holds 15 digits of a weight.
+  range.Weights = RangeWeightsOf(range.Text);
+  return range;
 }
 
 std::optional<std::string> CommandInputs::StandardInput() {

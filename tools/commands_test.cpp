@@ -141,6 +141,8 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {{"save", "a/b", "--hands", "AA"}, kRefused, "not allowed in the range name"},
            {{"save", "", "--hands", "AA"}, kRefused, "You must choose a name"},
            {{"save", "Tight", "--hands", "AA"}, kRefused, "already exists"},
+           {{"save", "../Ranges/Tight", "--hands", "AA", "--replace"}, kRefused, "not allowed in the range name"},
+           {{"save", "New\nrange", "--hands", "AA"}, kRefused, "A range name is one line"},
            {{"save", "New", "--hands", "AA:2"}, kRefused, "a weight is from 0 to 1"},
            {{"limits", "call", "--pot", "0", "--hands", "AA"}, kRefused, "--pot must be above 0"},
            {{"limits", "call", "--pot", "x", "--hands", "AA"}, kRefused, "--pot: \"x\" is not an amount"},
@@ -164,6 +166,7 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {With(balance, {"--shove", "0"}), kRefused, "--shove must be above 0"},
            {With(balance, {"--shove", "9", "--hands", "none"}), kRefused, "has no hands"},
            {With(balance, {"--shove", "9", "--save-call", "Tight"}), kRefused, "already exists"},
+           {With(balance, {"--shove", "9", "--save-call", "One", "--save-shove", "One"}), kRefused, "different names"},
        }) {
     const Outcome outcome = program.Run(c.arguments);
     EXPECT_EQ(outcome.Status, c.status) << testing::PrintToString(c.arguments) << outcome.Errors;
@@ -249,6 +252,17 @@ TEST(SweepCommand, AgreesWithSingleAnalyses) {
     };
     EXPECT_THAT(rows, testing::Contains(shove + ",100," + value("72o") + "," + value("AA")));
   }
+}
+
+// 33.3% is not the double 0.333, but an analysis reads it from a text, where it is.
+TEST(SweepCommand, TakesWeightsAsAnAnalysisReadsThem) {
+  const StudyProgram program;
+  const Arguments shared = {"--hands", "AA:33.3%,KK:7.7%,QJs:12.3%,72o:91.7%", "--pot", "100", "--call"};
+  const Outcome single = program.Run(With(With({"call"}, shared), {"50", "--format", "table"}));
+  const Outcome sweep =
+      program.Run(With(With({"sweep", "call"}, shared), {"50:50:1", "--hand", "72o", "--format", "csv"}));
+  EXPECT_THAT(sweep.Output,
+              testing::EndsWith("," + NumberText(GetHandResult(single.Output, "72o").ExpectedValue) + "\n"));
 }
 
 TEST(SweepCommand, GoesThroughWidthsInEachFormat) {

@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-/// Whether a range may be saved under this name; if not, the reason has been told. With `replace` a range of that name
-/// is no reason.
+/// Whether a range may be saved under this name; if not, the reason has been told. With `replace` an existing
+/// range of that name is no reason to refuse it.
 [[nodiscard]] bool MaySave(CommandInputs& inputs, const std::string& name, bool replace,
                            const Surroundings& surroundings);
 
