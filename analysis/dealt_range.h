@@ -71,7 +71,7 @@ using HandList = std::vector<HandRecord>;
 /// The classes that LimitToRange cuts, for the report's warning, in the order in which the deck brings them up: a class
 /// absent from `current` is given by its label, one at half weight there with "½'d" after it, as in
 /// "AA, AKs (½'d), KQo". Only classes at full weight in the calling range are named; a half one that is cut is not.
-/// Intentional: half a hand is expected to go. The empty text if there is none. Fails as LimitToRange does.
+/// Intentional: a half one says "maybe" already. The empty text if there is none. Fails as LimitToRange does.
 [[nodiscard]] std::string ListDroppedHands(const HandList& current, const HandList& calling);
 
 }  // namespace quillon
