@@ -122,7 +122,7 @@ std::unique_ptr<RunningProgram> WindowSession::StartBeside(const std::string& pr
 }
 
 fs::path WindowSession::StartFromAnother(const std::string& folderName) {
-  const fs::path folder = programFolder_ / folderName;
+  fs::path folder = programFolder_ / folderName;
   fs::create_directory(folder);
   fs::copy_file(QUILLON_PROGRAM, folder / "quillon");
   programs_.push_back(std::make_unique<RunningProgram>(Prepare((folder / "quillon").string(), {})));

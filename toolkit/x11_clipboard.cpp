@@ -78,7 +78,9 @@ void HandOverClipboard() {
   xcb_convert_selection(screen, requestor, manager, all, all, XCB_CURRENT_TIME);
   xcb_flush(screen);
   // The manager asks for the texts, and Qt answers it from the loop.
-  QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+  QTimer patience;
+  QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+  patience.start(kPatience);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -49,7 +49,7 @@ void OfferRange(CLI::App& command, const std::string& nameOption, const std::str
   CLI::Option* const name = command.add_option(nameOption, range.Name, description)->type_name("NAME");
   command
       .add_option(handsOption, range.Hands,
-                  description + ", as \"88+,ATs+,KQ:0.5\" or \"top 15%\"; - reads it from standard input")
+                  description + R"(, as "88+,ATs+,KQ:0.5" or "top 15%"; - reads it from standard input)")
       ->type_name("NOTATION")
       ->excludes(name);
 }

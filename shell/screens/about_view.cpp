@@ -128,7 +128,7 @@ std::string AboutView::FeedbackText() const {
 }
 
 // At full speed, and at least once: all that is pending is handled meanwhile, also the start of another wait.
-void AboutView::WaitToSend() {
+void AboutView::WaitToSend() const {
   const std::int32_t start = around_.Clock();
   do {
     QCoreApplication::processEvents();

@@ -56,7 +56,7 @@ class AboutView {
  private:
   void ShowCurrentVersion(std::string_view caption);
   [[nodiscard]] std::string FeedbackText() const;
-  void WaitToSend();
+  void WaitToSend() const;
 
   const FormControls& controls_;
   Surroundings around_;
