@@ -1,6 +1,6 @@
 #pragma once
 
-// A web that answers what it is told to, or what a web behind it says, and keeps what it was asked for.
+// A web client that returns a given answer, or asks another client, and records each address.
 
 #include <deque>
 #include <functional>
