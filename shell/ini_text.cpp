@@ -94,8 +94,8 @@ std::string StoredForm(std::string_view value) {
 }  // namespace
 
 bool IsUtf16(std::string_view text) {
-  if (text.size() < 2) return false;
-  return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF") || (text[0] == '\0') != (text[1] == '\0');
+  const std::string_view start = text.substr(0, 2);
+  return start == "\xFF\xFE" || start == "\xFE\xFF" || std::count(start.begin(), start.end(), '\0') == 1;
 }
 
 std::string IniValue(std::string_view text, std::string_view section, std::string_view key) {

@@ -21,8 +21,8 @@
 
 namespace quillon {
 
-/// Whether a text is in UTF-16, by its mark or by a zero byte in one of the first two, as a Latin letter has it there.
-/// The routines below do not know its lines.
+/// Whether a text is in UTF-16, by its mark or by a zero byte as exactly one of its first two, as a Latin letter has it
+/// there. A single zero byte counts: with a line added after it, it would. The routines below do not know its lines.
 [[nodiscard]] bool IsUtf16(std::string_view text);
 
 /// The value of a key, the empty text where there is none. One pair of quotes, double or single, that encloses the

@@ -136,7 +136,7 @@ TEST(SettingsFile, InUtf16IsNeitherReadNorWritten) {
   using namespace std::string_literals;
   const TemporaryProgram program;
   for (const std::string& text : {"\xFF\xFE[\0M\0a\0i\0n\0]\0\n\0L\0=\0005\0"s, "\xFE\xFF\0[\0M"s, "[\0M\0"s, "\0[\0M"s,
-                                  "\xFF\xFE\n[Main]\nLeft=5\n"s}) {
+                                  "\0"s, "\xFF\xFE\n[Main]\nLeft=5\n"s}) {
     Put(program.Folder(), text);
     EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "");
     WriteIniValue("Main", "Left", "7", program.Folder());

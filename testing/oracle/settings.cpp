@@ -97,8 +97,9 @@ std::string IniValue(std::string_view file, std::string_view section, std::strin
 }
 
 bool IsUtf16(std::string_view file) {
-  const std::string_view start = file.substr(0, 2);
-  return start == "\xFF\xFE" || start == "\xFE\xFF" || (start.size() == 2 && (start[0] == 0) != (start[1] == 0));
+  const bool firstIsZero = file.starts_with('\0');
+  const bool secondIsZero = file.size() > 1 && file[1] == '\0';
+  return file.starts_with("\xFF\xFE") || file.starts_with("\xFE\xFF") || firstIsZero != secondIsZero;
 }
 
 std::string SettingIn(std::string_view file, std::string_view section, std::string_view key) {
