@@ -22,6 +22,7 @@
 #include "support/files.h"
 #include "testing/temporary_folder.h"
 #include "tests/program_run.h"
+#include "tools/commands.h"
 
 namespace quillon {
 namespace {
@@ -130,6 +131,35 @@ INSTANTIATE_TEST_SUITE_P(Companion, GoldenReport,
                                          GoldenCase{"PlainEquity", &kEquity, "plain", "equity_plain.txt"},
                                          GoldenCase{"ForumEquity", &kEquity, "2+2", "equity_forum.txt"}),
                          [](const auto& entry) { return std::string(entry.param.name); });
+
+// ---- examples
+
+// The words of a command line; a pair of quotes keeps spaces together.
+Arguments Words(const std::string& line) {
+  Arguments words;
+  bool quoted = false;
+  bool inWord = false;
+  for (const char c : line) {
+    if (c == '"') quoted = !quoted;
+    if (c == '"' || (c == ' ' && !quoted)) {
+      inWord = inWord && c == '"';
+      continue;
+    }
+    if (!inWord) words.emplace_back();
+    inWord = true;
+    words.back() += c;
+  }
+  return words;
+}
+
+TEST(CompanionJourney, DoesWhatTheHelpOfEachCommandGivesAsItsExample) {
+  for (const Command& command : kCommands) {
+    const Household household;
+    const ProgramOutcome outcome = household.Run(With({command.Name}, Words(command.Example)));
+    EXPECT_EQ(outcome.Status, 0) << command.Name << ": " << outcome.Errors;
+    EXPECT_EQ(outcome.Errors, "") << command.Name;
+  }
+}
 
 // ---- where ranges are looked for
 

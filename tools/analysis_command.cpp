@@ -1,6 +1,5 @@
 #include <CLI/CLI.hpp>
 #include <array>
-#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -13,10 +12,9 @@
 #include "analysis/input_checks.h"
 #include "hand/hand_classes.h"
 #include "results/results_grid.h"
-#include "support/number_text.h"
-#include "support/rounding.h"
 #include "tools/analysis_output.h"
 #include "tools/commands.h"
+#include "tools/progress_bar.h"
 #include "tools/range_lookup.h"
 
 namespace quillon {
@@ -41,37 +39,6 @@ constexpr ScenarioTable<AnalysisCommand> kAnalysisCommands = {{
 }};
 static_assert(CoversEveryScenario(kAnalysisCommands));
 
-// The progress of a run, drawn over and over on one line. Most runs are over before anyone could read it, and show
-// none.
-class ProgressBar {
- public:
-  explicit ProgressBar(const Surroundings& surroundings) : surroundings_(surroundings), start_(surroundings.Now()) {}
-  ProgressBar(const ProgressBar&) = delete;
-  ProgressBar(ProgressBar&&) = delete;
-  ProgressBar& operator=(const ProgressBar&) = delete;
-  ProgressBar& operator=(ProgressBar&&) = delete;
-  // A run that fails half-way leaves its bar, and the failure's text must not follow it on the line.
-  ~ProgressBar() {
-    if (shows_) surroundings_.Errors << "\r\x1b[K" << std::flush;
-  }
-
-  void Show(std::size_t classesDone) {
-    constexpr std::chrono::milliseconds kPatience(500);
-    if (!surroundings_.Terminal.ShowProgress || surroundings_.Now() - start_ <= kPatience) return;
-    constexpr std::size_t kCharacters = 40;
-    const std::size_t filled = kCharacters * classesDone / kHandClassCount;
-    const std::string bar = std::string(filled, '#') + std::string(kCharacters - filled, ' ');
-    const double percent = PercentOf(static_cast<double>(classesDone), kHandClassCount, 0);
-    surroundings_.Errors << "\r[" << bar << "] " << NumberText(percent) << '%' << std::flush;
-    shows_ = true;
-  }
-
- private:
-  const Surroundings& surroundings_;
-  std::chrono::steady_clock::time_point start_;
-  bool shows_ = false;
-};
-
 struct Request {
   EnteredSituation situation;
   std::array<RangeOption, 2> ranges;
@@ -83,7 +50,7 @@ struct Request {
 Analysis AnalyzeWithProgress(Situation situation, const Surroundings& surroundings) {
   ProgressBar bar(surroundings);
   return *Analyze(std::move(situation), {.GoesOn = [&bar](std::int16_t index, const Analysis& /*soFar*/) {
-                    bar.Show(static_cast<std::size_t>(index) + 1);
+                    bar.Show(static_cast<std::size_t>(index) + 1, kHandClassCount);
                     return true;
                   }});
 }
@@ -149,7 +116,7 @@ RunCommand OfferAnalysis(AnalysisMode mode, CLI::App& options) {
   if (scenario.HasCallingRange) {
     OfferRange(options, "--calling-range", "--calling-hands", request->ranges[1], row.Ranges[1]);
   }
-  OfferFormat(options, request->format, {kOutputFormatNames.begin(), kOutputFormatNames.end()});
+  OfferFormat(options, request->format, kAnalysisFormats);
   options.add_option("--hand", request->hands, "With 2+2: adds the working of these hands")
       ->type_name("LABEL")
       ->check(CLI::Validator(CheckLabel, ""));

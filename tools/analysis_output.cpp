@@ -146,9 +146,9 @@ std::string Channels(Rgb color) {
 }  // namespace
 
 OutputFormat OutputFormatOf(std::string_view name) {
-  const auto* const found = std::find(kOutputFormatNames.begin(), kOutputFormatNames.end(), name);
-  if (found == kOutputFormatNames.end()) return OutputFormat::kPlain;
-  return static_cast<OutputFormat>(found - kOutputFormatNames.begin());
+  const auto* const found = std::find_if(kAnalysisFormats.begin(), kAnalysisFormats.end(),
+                                         [name](const OutputFormatRow& row) { return row.Name == name; });
+  return found == kAnalysisFormats.end() ? OutputFormat::kPlain : found->Format;
 }
 
 std::string UnixLineEnds(std::string_view text) {

@@ -9,13 +9,24 @@
 
 #include "analysis/analysis.h"
 #include "support/rgb.h"
+#include "tools/formats.h"
 
 namespace quillon {
 
 enum class OutputFormat { kPlain, kForum, kTable, kJson, kCsv };
 
-/// The names by which the formats are asked for, in the order of OutputFormat.
-inline constexpr std::array<std::string_view, 5> kOutputFormatNames = {"plain", "2+2", "table", "json", "csv"};
+struct OutputFormatRow : FormatName {
+  OutputFormat Format;
+};
+
+inline constexpr std::array<OutputFormatRow, 5> kAnalysisFormats = {{
+    {{"plain", "the report to read, under the grid where a terminal shows 24-bit colours"}, OutputFormat::kPlain},
+    {{"2+2", "the report as forum mark-up, with the working of each --hand"}, OutputFormat::kForum},
+    {{"table", "the results table: label, expected value, equity, fold share, separated by tabs"},
+     OutputFormat::kTable},
+    {{"csv", "hand, combos, ev, equity, fold, colour; what a question does not have is empty"}, OutputFormat::kCsv},
+    {{"json", "all of it as one object; what a question does not have is null"}, OutputFormat::kJson},
+}};
 
 /// The format of that name; kPlain for a text that names none.
 [[nodiscard]] OutputFormat OutputFormatOf(std::string_view name);

@@ -36,16 +36,23 @@ double PercentOfHands(const ClassWeights& weights) {
   return PercentOf(combos, kConcreteHandCount, 2);
 }
 
-std::string PlainOutput(const Equilibrium& found, double pot) {
+struct Answer {
+  BalanceQuestion question;
+  Equilibrium found;
+};
+
+std::string PlainOutput(const Answer& answer) {
+  const Equilibrium& found = answer.found;
   const auto range = [](std::string_view what, const ClassWeights& weights) {
     return std::string(what) + NumberText(PercentOfHands(weights)) + "% of hands: " + RangeNotation(weights) + "\n";
   };
   return range("Shove ", found.Shove) + range("Call  ", found.Call) + "Worth " + NumberText(RoundTo(found.Value, 6)) +
-         " on average\nBoth together could gain at most " + NumberText(PercentOf(found.Exploitability, pot, 9)) +
-         "% of the pot by changing\n";
+         " on average\nBoth together could gain at most " +
+         NumberText(PercentOf(found.Exploitability, answer.question.Pot, 9)) + "% of the pot by changing\n";
 }
 
-std::string JsonOutput(const Equilibrium& found, const BalanceQuestion& question) {
+std::string JsonOutput(const Answer& answer) {
+  const auto& [question, found] = answer;
   const auto range = [](const ClassWeights& weights) {
     return nlohmann::ordered_json{{"hands", RangeNotation(weights)}, {"percent", PercentOfHands(weights)}};
   };
@@ -58,6 +65,11 @@ std::string JsonOutput(const Equilibrium& found, const BalanceQuestion& question
                                          {"exploitability", found.Exploitability}};
   return object.dump(2) + "\n";
 }
+
+constexpr std::array<Format<Answer>, 2> kFormats = {{
+    {{"plain", "both ranges as notation, what they are worth, and how near they are to balance"}, PlainOutput},
+    {{"json", "the same as one object, with the situation"}, JsonOutput},
+}};
 
 // Whether what was not given is everything, and what was given has hands.
 std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& inputs) {
@@ -87,10 +99,11 @@ int Print(const Request& request, const Surroundings& surroundings) {
   }
 
   const BalanceQuestion question = {*pot, *call, *shove, *own, *his};
-  const Equilibrium found = *FindEquilibrium(inputs.Hands(), question);
+  const Answer answer = {question, *FindEquilibrium(inputs.Hands(), question)};
+  const Equilibrium& found = answer.found;
   if (!request.saveShove.empty()) SaveRangeText(inputs.Folder(), request.saveShove, SearchableRangeText(found.Shove));
   if (!request.saveCall.empty()) SaveRangeText(inputs.Folder(), request.saveCall, SearchableRangeText(found.Call));
-  surroundings.Output << (request.format == "json" ? JsonOutput(found, question) : PlainOutput(found, *pot));
+  surroundings.Output << InFormat(kFormats, request.format, answer);
   return kDone;
 }
 
@@ -106,7 +119,7 @@ RunCommand OfferBalance(CLI::App& options) {
   options.add_option("--save-shove", request->saveShove, "Saves the range to shove")->type_name("NAME");
   options.add_option("--save-call", request->saveCall, "Saves the range to call with")->type_name("NAME");
   options.add_flag("--replace", request->replace, "Replaces ranges of these names");
-  OfferFormat(options, request->format, {"plain", "json"});
+  OfferFormat(options, request->format, kFormats);
   OfferFolder(options, request->folder);
   return [request](const Surroundings& surroundings) { return Print(*request, surroundings); };
 }

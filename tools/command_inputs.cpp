@@ -20,6 +20,9 @@
 namespace quillon {
 namespace {
 
+// Names of formats and statuses, in their lists.
+constexpr std::size_t kHelpNameWidth = 6;
+
 HandNumbers ReadHandNumbers() {
   LoadEquityTable();
   return {};
@@ -59,12 +62,20 @@ void OfferFolder(CLI::App& command, std::string& folder) {
       ->type_name("DIR");
 }
 
-void OfferFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
-  format = names.front();
-  std::string list = names.front() + " (default)";
-  for (std::size_t i = 1; i < names.size(); ++i)
-    list.append(i + 1 == names.size() ? " or " : ", ").append(names[i]);
+void OfferFormat(CLI::App& command, std::string& format, std::vector<FormatName> formats) {
+  format = formats.front().Name;
+  std::vector<std::string> names;
+  std::string list;
+  std::string meanings = "Formats:\n";
+  for (const FormatName& row : formats) {
+    names.emplace_back(row.Name);
+    list.append(list.empty() ? "" : ", ").append(row.Name).append(list.empty() ? " (default)" : "");
+    std::string name = row.Name;
+    name.resize(std::max(name.size(), kHelpNameWidth), ' ');
+    meanings += "  " + name + " " + row.Meaning + "\n";
+  }
   command.add_option("--format", format, list)->type_name("F")->check(CLI::IsMember(names));
+  command.footer(meanings + "\n" + command.get_footer());
 }
 
 void OfferAmount(CLI::App& command, const std::string& option, std::string& amount, const std::string& description) {

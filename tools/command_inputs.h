@@ -4,6 +4,8 @@
 // ranges by name or by notation. What is wrong is told on standard error, and the command then ends with the status for
 // it.
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <iosfwd>
 #include <optional>
@@ -16,6 +18,7 @@
 #include "ranges/range_text.h"
 #include "support/message_boxes.h"
 #include "tools/companion.h"
+#include "tools/formats.h"
 
 namespace CLI {  // NOLINT(readability-identifier-naming): the library's own
 class App;
@@ -26,11 +29,13 @@ namespace quillon {
 /// Does what a command was asked for, and returns the exit status.
 using RunCommand = std::function<int(const Surroundings& surroundings)>;
 
-/// A command of the companion. `Offer` adds its options to its part of the command line; what it returns is called when
-/// they have been read.
+/// A command of the companion and what its help says. `Offer` adds its options to its part of the command line; what it
+/// returns is called when they have been read.
 struct Command {
   const char* Name;
-  const char* Description;
+  const char* Description;  // one line
+  const char* About;  // what the line leaves out
+  const char* Example;  // a command line after the program's name
   RunCommand (*Offer)(CLI::App& options);
 };
 
@@ -75,8 +80,13 @@ void OfferAmount(CLI::App& command, const std::string& option, std::string& amou
 /// Adds "--folder".
 void OfferFolder(CLI::App& command, std::string& folder);
 
-/// Adds "--format" with the names of formats, the first of which is the default.
-void OfferFormat(CLI::App& command, std::string& format, const std::vector<std::string>& names);
+/// Adds "--format" with formats, the first of which is the default, and tells their meanings in the command's help.
+void OfferFormat(CLI::App& command, std::string& format, std::vector<FormatName> formats);
+
+template <typename Row, std::size_t count>
+void OfferFormat(CLI::App& command, std::string& format, const std::array<Row, count>& formats) {
+  OfferFormat(command, format, std::vector<FormatName>(formats.begin(), formats.end()));
+}
 
 /// Nothing for the label of a class, and otherwise why it is none.
 [[nodiscard]] std::string CheckLabel(const std::string& label);

@@ -21,17 +21,44 @@ namespace quillon {
 [[nodiscard]] RunCommand OfferBalance(CLI::App& options);
 
 inline constexpr std::array<Command, 11> kCommands = {{
-    {"call", "What each hand wins or loses by calling an all-in", OfferCall},
-    {"raise", "What each hand wins or loses by going all in", OfferRaise},
-    {"equity", "The equity of each hand against a range", OfferEquity},
-    {"summary", "The short notation of one range", OfferSummary},
-    {"notation", "The same, exact and with every weight: what --hands reads", OfferNotation},
-    {"ranges", "Every range: name, percent selected, short notation", OfferRanges},
-    {"save", "Saves a range under a name", OfferSave},
-    {"limits", "Up to which amount each hand can call or shove", OfferLimits},
-    {"sweep", "How the answer moves with an amount, or with the width of his range", OfferSweep},
-    {"balance", "The ranges to shove and to call with in which neither player gains by changing", OfferBalance},
-    {"matrix", "The equity of every class against every other", OfferMatrix},
+    {"call", "What each hand wins or loses by calling an all-in",
+     "He is all in. For each of the 169 starting hands: its equity against his range, and what calling is\n"
+     "worth against folding, in the unit of the amounts.",
+     R"(--pot 150 --call 50 --range "Button Shove")", OfferCall},
+    {"raise", "What each hand wins or loses by going all in",
+     "You may go all in over him; he calls with some of his hands and folds the others. For each of the 169\n"
+     "starting hands: its equity when he calls, how often he folds, and what the shove is worth against\n"
+     "folding, in the unit of the amounts.",
+     R"(--pot 1.5 --call 0.5 --shove 9 --hands any --calling-hands "top 30%" --format csv)", OfferRaise},
+    {"equity", "The equity of each hand against a range",
+     "How often each of the 169 starting hands wins against his range, a split pot counted as half.",
+     R"(--range "Tight Open" --format csv)", OfferEquity},
+    {"summary", "The short notation of a range",
+     "A summary is for reading. It leaves out some hands at half weight, and all weights other than 1 and a\n"
+     "half; the command notation prints all of it.",
+     R"(--range "Tight Open")", OfferSummary},
+    {"notation", "The exact notation of a range, with every weight",
+     "What it prints reads as the same range after --hands, whatever the weights.", R"(--hands "top 15%, 76s-54s:0.5")",
+     OfferNotation},
+    {"ranges", "Lists the saved ranges: name, percent selected, short notation",
+     "A file that is no range is left out, told on standard error, and makes the exit status 1.", "", OfferRanges},
+    {"save", "Saves a range under a name",
+     "A range that exists is replaced with --replace alone, and then as a whole or not at all. \"Temp Range1\",\n"
+     "the scratch range, is always replaced.",
+     R"("Small Blind" --hands "22+,A2s+,KT+,QJ:0.5")", OfferSave},
+    {"limits", "The largest amount that each hand can call or shove",
+     "\"always\" does not lose, whatever the amount; \"never\" always does. A few hands win only \"from\" an\n"
+     "amount on: they gain so little where he folds that they need a large pot where he calls.",
+     R"(raise --pot 1.5 --call 0.5 --hands any --calling-hands "top 30%")", OfferLimits},
+    {"sweep", "How the answer changes with an amount, or with the width of his range",
+     "One amount, or --width, is given as FROM:TO:STEP. A line for each step tells how many of all hands are\n"
+     "profitable, in percent, and what each --hand is worth.",
+     R"(raise --pot 1.5 --call 0.5 --shove 5:20:5 --hands any --calling-hands "top 30%" --hand K9o 22)", OfferSweep},
+    {"balance", "The ranges to shove and to call with in which neither player gains by changing",
+     "A weight below 1 is how often to play a hand that is worth the same either way.",
+     "--pot 1.5 --call 0.5 --shove 9", OfferBalance},
+    {"matrix", "The equity of every class against every other", "A row for each of the 169 classes, a column for each.",
+     "--format csv", OfferMatrix},
 }};
 
 }  // namespace quillon

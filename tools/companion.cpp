@@ -3,8 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <ostream>
 #include <span>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,6 +24,30 @@ struct OfferedCommand {
   CLI::App* options;
   RunCommand run;
 };
+
+constexpr const char* kExitStatuses =
+    "Exit status:\n"
+    "  0  the question was answered\n"
+    "  1  a run-time error, or an answer that lacks something; standard error says what\n"
+    "  2  the command line makes no sense\n"
+    "  3  the input was refused, or there is no such range\n";
+
+// A list of commands has a line for each; the rest of a description is for the help of the command itself.
+class ManualFormatter : public CLI::Formatter {
+ public:
+  std::string make_subcommand(const CLI::App* command) const override {
+    std::ostringstream line;
+    const std::string description = command->get_description();
+    CLI::detail::format_help(line, command->get_display_name(true), description.substr(0, description.find('\n')),
+                             get_column_width());
+    return line.str();
+  }
+};
+
+// What the help of a command says after its options.
+std::string Epilogue(const Command& command) {
+  return std::string(kExitStatuses) + "\nExample:\n  quillon-cli " + command.Name + " " + command.Example;
+}
 
 std::string CommandNames() {
   std::string names;
@@ -52,10 +78,13 @@ int Run(const std::vector<OfferedCommand>& commands, const Surroundings& surroun
 int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings) {
   CLI::App app("Call the all-in, or shove yourself? The answer for all 169 starting hands.", "quillon-cli");
   app.require_subcommand(0, 1);
+  app.formatter(std::make_shared<ManualFormatter>());
   app.set_version_flag("--version", "quillon-cli " + VersionText());
   std::vector<OfferedCommand> commands;
   for (const Command& command : kCommands) {
-    CLI::App* const options = app.add_subcommand(command.Name, command.Description);
+    CLI::App* const options =
+        app.add_subcommand(command.Name, std::string(command.Description) + "\n\n" + command.About + "\n");
+    options->footer(Epilogue(command));
     commands.push_back({options, command.Offer(*options)});
   }
   app.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");

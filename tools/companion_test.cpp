@@ -20,6 +20,7 @@
 #include "testing/range_texts.h"
 #include "testing/temporary_program.h"
 #include "tools/analysis_output.h"
+#include "tools/commands.h"
 
 namespace quillon {
 namespace {
@@ -133,11 +134,11 @@ Analysis EngineRun(const CommandCase& command, const ProgramFolder& folder) {
 TEST_P(EachCommand, PrintsItsRunInEveryFormat) {
   const CompanionProgram program;
   Analysis state = EngineRun(GetParam(), program.Folder());
-  for (const std::string_view name : kOutputFormatNames) {
-    const Outcome outcome = program.Run(With(*GetParam().arguments, {"--format", std::string(name)}));
-    EXPECT_EQ(outcome.Status, kDone) << name;
-    EXPECT_EQ(outcome.Errors, "") << name;
-    EXPECT_EQ(outcome.Output, AnalysisOutput(OutputFormatOf(name), state, {})) << name;
+  for (const OutputFormatRow& row : kAnalysisFormats) {
+    const Outcome outcome = program.Run(With(*GetParam().arguments, {"--format", row.Name}));
+    EXPECT_EQ(outcome.Status, kDone) << row.Name;
+    EXPECT_EQ(outcome.Errors, "") << row.Name;
+    EXPECT_EQ(outcome.Output, AnalysisOutput(row.Format, state, {})) << row.Name;
   }
 }
 
@@ -191,8 +192,11 @@ TEST(Help, IsPrintedOnStandardOutput) {
     const Outcome outcome = RunIn("", arguments);
     EXPECT_EQ(outcome.Status, kDone);
     EXPECT_EQ(outcome.Errors, "");
-    for (const char* command : {"call", "raise", "equity", "summary", "ranges", "help"})
-      EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(command) + " ")) << "a line of its own";
+    for (const Command& command : kCommands) {
+      EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(command.Name) + " ")) << "a line of its own";
+      EXPECT_THAT(outcome.Output, Not(HasSubstr(command.About))) << command.Name;
+    }
+    EXPECT_THAT(outcome.Output, HasSubstr("\n  help "));
   }
 }
 
@@ -203,6 +207,28 @@ TEST(Help, OfACommandNamesItsOptions) {
     for (const char* option :
          {"--pot", "--call", "--shove", "--range", "--calling-range", "--folder", "--format", "--hand"})
       EXPECT_THAT(outcome.Output, HasSubstr("\n  " + std::string(option) + " ")) << "a line of its own";
+  }
+}
+
+TEST(Help, OfACommandIsItsManual) {
+  for (const Command& command : kCommands) {
+    const Outcome outcome = RunIn("", {"help", command.Name});
+    EXPECT_EQ(outcome.Status, kDone) << command.Name;
+    EXPECT_THAT(outcome.Output, StartsWith(std::string(command.Description) + "\n\n" + command.About));
+    EXPECT_THAT(outcome.Output, HasSubstr("\nUsage: quillon-cli " + std::string(command.Name))) << outcome.Output;
+    EXPECT_THAT(outcome.Output, HasSubstr("\nExit status:\n  0  ")) << command.Name;
+    EXPECT_THAT(outcome.Output, HasSubstr(std::string("\nExample:\n  quillon-cli ") + command.Name)) << command.Name;
+  }
+}
+
+TEST(Help, OfACommandTellsWhatItsFormatsAre) {
+  for (const Arguments& arguments :
+       {Arguments{"help", "call"}, Arguments{"help", "limits"}, Arguments{"help", "limits", "raise"},
+        Arguments{"sweep", "call", "--help"}, Arguments{"help", "balance"}, Arguments{"help", "matrix"}}) {
+    const std::string help = RunIn("", arguments).Output;
+    EXPECT_THAT(help, HasSubstr("\nFormats:\n  ")) << testing::PrintToString(arguments);
+    EXPECT_THAT(help, HasSubstr("\n  json   ")) << testing::PrintToString(arguments);
+    EXPECT_THAT(Split(help, "Formats:"), SizeIs(2)) << testing::PrintToString(arguments);
   }
 }
 
@@ -606,12 +632,11 @@ TEST_P(OddRun, IsPrintedInEveryFormat) {
   program.Files().Write("Aces.txt", TextWith("AA"));
   std::string trace = TextWith("AA");
   program.Files().Write("Trace.txt", trace.replace(trace.find("(1)"), 3, "(5e-324)"));
-  for (const std::string_view format : kOutputFormatNames) {
-    const Outcome outcome =
-        program.Run(With(GetParam().arguments, {"--format", std::string(format)}), {.ShowColors = true});
-    EXPECT_EQ(outcome.Status, kDone) << format;
-    EXPECT_EQ(outcome.Errors, "") << format;
-    EXPECT_NE(outcome.Output, "") << format;
+  for (const OutputFormatRow& row : kAnalysisFormats) {
+    const Outcome outcome = program.Run(With(GetParam().arguments, {"--format", row.Name}), {.ShowColors = true});
+    EXPECT_EQ(outcome.Status, kDone) << row.Name;
+    EXPECT_EQ(outcome.Errors, "") << row.Name;
+    EXPECT_NE(outcome.Output, "") << row.Name;
   }
 }
 
@@ -692,7 +717,7 @@ std::vector<UsageCase> WrongUsages() {
       {"RangesTakeNoRange", {"ranges", "--range", "Tight"}, "--range"},
       {"RangeWithoutItsName", {"equity", "--range"}, "--range"},
       {"RangeGivenTwice", With(kEquity, {"--range", "Tight"}), "--range"},
-      {"UnknownFormat", With(kEquity, {"--format", "xml"}), "--format: xml not in {plain,2+2,table,json,csv}"},
+      {"UnknownFormat", With(kEquity, {"--format", "xml"}), "--format: xml not in {plain,2+2,table,csv,json}"},
       {"FormatInCapitals", With(kEquity, {"--format", "JSON"}), "--format: JSON not in"},
       {"FormatWithoutItsName", With(kEquity, {"--format"}), "--format"},
       {"HandThatIsNone", With(kEquity, {"--format", "2+2", "--hand", "AAs"}), "\"AAs\" is no starting hand"},

@@ -74,10 +74,14 @@ std::string JsonOutput(const Limits& limits) {
   return nlohmann::ordered_json{{"hands", hands}}.dump(2) + "\n";
 }
 
+constexpr std::array<Format<Limits>, 3> kFormats = {{
+    {{"plain", "a grid to read, amounts rounded to two decimals"}, GridOutput},
+    {{"csv", "hand, limit, amount; always and never have no amount"}, CsvOutput},
+    {{"json", "the same as one object"}, JsonOutput},
+}};
+
 int Print(const Limits& limits, const std::string& format, const Surroundings& surroundings) {
-  surroundings.Output << (format == "json"  ? JsonOutput(limits)
-                          : format == "csv" ? CsvOutput(limits)
-                                            : GridOutput(limits));
+  surroundings.Output << InFormat(kFormats, format, limits);
   return kDone;
 }
 
@@ -101,7 +105,7 @@ int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
 }
 
 void OfferOutput(CLI::App& options, Request& request) {
-  OfferFormat(options, request.format, {"plain", "csv", "json"});
+  OfferFormat(options, request.format, kFormats);
   OfferFolder(options, request.folder);
 }
 
@@ -120,6 +124,7 @@ RunCommand OfferLimits(CLI::App& options) {
   OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
   OfferOutput(*raise, *request);
   options.require_subcommand(1);
+  options.footer(call->get_footer());
   return [request, call](const Surroundings& surroundings) {
     return call->parsed() ? PrintCallLimits(*request, surroundings) : PrintShoveLimits(*request, surroundings);
   };

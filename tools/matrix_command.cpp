@@ -11,40 +11,43 @@
 namespace quillon {
 namespace {
 
-void PrintCsv(const HandNumbers& hands, std::ostream& output) {
-  output << "hand";
+std::string CsvOutput(const HandNumbers& hands) {
+  std::string text = "hand";
   for (std::int16_t column = 0; column < kHandClassCount; ++column)
-    output << ',' << HandLabel(column);
-  output << '\n';
+    text.append(",").append(HandLabel(column));
+  text += '\n';
   for (std::int16_t row = 0; row < kHandClassCount; ++row) {
-    output << HandLabel(row);
+    text += HandLabel(row);
     for (const double equity : hands.Equities(row))
-      output << ',' << NumberText(equity);
-    output << '\n';
+      text.append(",").append(NumberText(equity));
+    text += '\n';
   }
+  return text;
 }
 
-void PrintJson(const HandNumbers& hands, std::ostream& output) {
+std::string JsonOutput(const HandNumbers& hands) {
   nlohmann::ordered_json labels;
   for (std::int16_t row = 0; row < kHandClassCount; ++row)
     labels.push_back(HandLabel(row));
-  output << "{\"hands\": " << labels.dump() << ",\n\"equities\": [";
+  std::string text = "{\"hands\": " + labels.dump() + ",\n\"equities\": [";
   for (std::int16_t row = 0; row < kHandClassCount; ++row)
-    output << (row == 0 ? "\n" : ",\n") << nlohmann::json(hands.Equities(row)).dump();
-  output << "\n]}\n";
+    text.append(row == 0 ? "\n" : ",\n").append(nlohmann::json(hands.Equities(row)).dump());
+  return text + "\n]}\n";
 }
+
+constexpr std::array<Format<HandNumbers>, 2> kFormats = {{
+    {{"csv", "a row of labels, then each label with its equities"}, CsvOutput},
+    {{"json", "the labels, and the equities as an array of arrays"}, JsonOutput},
+}};
 
 }  // namespace
 
 RunCommand OfferMatrix(CLI::App& options) {
   const auto format = std::make_shared<std::string>();
-  OfferFormat(options, *format, {"csv", "json"});
+  OfferFormat(options, *format, kFormats);
   return [format](const Surroundings& surroundings) {
     const CommandInputs inputs(surroundings, {});
-    if (*format == "json")
-      PrintJson(inputs.Hands(), surroundings.Output);
-    else
-      PrintCsv(inputs.Hands(), surroundings.Output);
+    surroundings.Output << InFormat(kFormats, *format, inputs.Hands());
     return kDone;
   };
 }

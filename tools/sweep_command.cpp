@@ -36,6 +36,12 @@ double SharePercent(const SweepRow& row) {
 
 using Rows = std::vector<SweepRow>;
 
+struct Answer {
+  std::string what;  // the steps go through
+  std::vector<std::string> hands;
+  Rows rows;
+};
+
 enum class Figures { kExact, kRounded };
 
 std::vector<std::string> Cells(const SweepRow& row, Figures figures) {
@@ -46,30 +52,29 @@ std::vector<std::string> Cells(const SweepRow& row, Figures figures) {
   return cells;
 }
 
-// `what` the steps go through is the first.
-std::vector<std::string> Headings(std::string_view what, const Request& request) {
-  std::vector<std::string> headings = {std::string(what), "profitable"};
-  headings.insert(headings.end(), request.hands.begin(), request.hands.end());
+std::vector<std::string> Headings(const Answer& answer) {
+  std::vector<std::string> headings = {answer.what, "profitable"};
+  headings.insert(headings.end(), answer.hands.begin(), answer.hands.end());
   return headings;
 }
 
-std::string CsvOutput(std::string_view what, const Request& request, const Rows& rows) {
+std::string CsvOutput(const Answer& answer) {
   std::string text;
   const auto line = [&text](const std::vector<std::string>& cells) {
     for (std::size_t i = 0; i < cells.size(); ++i)
       text.append(i == 0 ? "" : ",").append(cells[i]);
     text += '\n';
   };
-  line(Headings(what, request));
-  for (const SweepRow& row : rows)
+  line(Headings(answer));
+  for (const SweepRow& row : answer.rows)
     line(Cells(row, Figures::kExact));
   return text;
 }
 
 // Columns to the right, as numbers are read.
-std::string TableOutput(std::string_view what, const Request& request, const Rows& rows) {
-  std::vector<std::vector<std::string>> lines = {Headings(what, request)};
-  for (const SweepRow& row : rows)
+std::string TableOutput(const Answer& answer) {
+  std::vector<std::vector<std::string>> lines = {Headings(answer)};
+  for (const SweepRow& row : answer.rows)
     lines.push_back(Cells(row, Figures::kRounded));
   std::vector<std::size_t> widths(lines.front().size());
   for (const auto& line : lines) {
@@ -85,21 +90,25 @@ std::string TableOutput(std::string_view what, const Request& request, const Row
   return text;
 }
 
-std::string JsonOutput(std::string_view what, const Request& request, const Rows& rows) {
+std::string JsonOutput(const Answer& answer) {
   nlohmann::ordered_json steps = nlohmann::ordered_json::array();
-  for (const SweepRow& row : rows) {
+  for (const SweepRow& row : answer.rows) {
     nlohmann::ordered_json values = nlohmann::ordered_json::object();
-    for (std::size_t i = 0; i < request.hands.size(); ++i)
-      values[request.hands[i]] = row.ExpectedValues[i];
-    steps.push_back({{what, LeadingNumber(row.At)}, {"profitable_percent", SharePercent(row)}, {"ev", values}});
+    for (std::size_t i = 0; i < answer.hands.size(); ++i)
+      values[answer.hands[i]] = row.ExpectedValues[i];
+    steps.push_back({{answer.what, LeadingNumber(row.At)}, {"profitable_percent", SharePercent(row)}, {"ev", values}});
   }
   return nlohmann::ordered_json{{"steps", steps}}.dump(2) + "\n";
 }
 
-int Print(std::string_view what, const Request& request, const Rows& rows, const Surroundings& surroundings) {
-  surroundings.Output << (request.format == "json"  ? JsonOutput(what, request, rows)
-                          : request.format == "csv" ? CsvOutput(what, request, rows)
-                                                    : TableOutput(what, request, rows));
+constexpr std::array<Format<Answer>, 3> kFormats = {{
+    {{"table", "columns to read, values rounded to four decimals"}, TableOutput},
+    {{"csv", "the same with every digit"}, CsvOutput},
+    {{"json", "the same as one object"}, JsonOutput},
+}};
+
+int Print(std::string what, const Request& request, Rows rows, const Surroundings& surroundings) {
+  surroundings.Output << InFormat(kFormats, request.format, Answer{std::move(what), request.hands, std::move(rows)});
   return kDone;
 }
 
@@ -212,7 +221,7 @@ void OfferShared(CLI::App& options, Request& request, const char* width) {
   options.add_option("--hand", request.hands, "Adds the expected value of these hands")
       ->type_name("LABEL")
       ->check(CLI::Validator(CheckLabel, ""));
-  OfferFormat(options, request.format, {"table", "csv", "json"});
+  OfferFormat(options, request.format, kFormats);
   OfferFolder(options, request.folder);
 }
 
@@ -233,6 +242,7 @@ RunCommand OfferSweep(CLI::App& options) {
   OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
   OfferShared(*raise, *request, "His calling range instead, as the top percent of hands");
   options.require_subcommand(1);
+  options.footer(call->get_footer());
   return [request, call](const Surroundings& surroundings) {
     return Sweep(call->parsed() ? AnalysisMode::kPreflopCall : AnalysisMode::kPreflopRaise, *request, surroundings);
   };
