@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "analysis/expressions.h"
 #include "fuzz/fuzz_target.h"
-#include "shell/expressions.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
 #include "testing/oracle/numbers.h"

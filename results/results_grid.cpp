@@ -10,6 +10,7 @@
 #include "results/formula_texts.h"
 #include "results/grid_colors.h"
 #include "support/number_text.h"
+#include "support/rgb.h"
 #include "support/rounding.h"
 
 namespace quillon {
@@ -124,6 +125,17 @@ CellColors GridColors(const Analysis& analysis) {
     colors[static_cast<std::size_t>(index)] = CellColor(column, value, high, low);
   }
   return colors;
+}
+
+std::vector<ShownHand> ShownHands(const Analysis& analysis) {
+  const CellColors colors = GridColors(analysis);
+  std::vector<ShownHand> hands;
+  hands.reserve(kHandClassCount);
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    hands.emplace_back(GetHandResult(analysis.HandInfo, HandLabel(index)),
+                       ColorText(colors[static_cast<std::size_t>(index)]));
+  }
+  return hands;
 }
 
 }  // namespace quillon

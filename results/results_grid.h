@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "analysis/analysis.h"
 #include "ranges/card_grid.h"
@@ -38,5 +40,11 @@ struct GridTexts {
 /// true maximum, so a cell can come out darker than the darkest green. Never fails: what is measured against 0, such as
 /// a best value of exactly 0 or equities that are all alike, has the palest shade.
 [[nodiscard]] CellColors GridColors(const Analysis& analysis);
+
+/// A class's row of the results table with the colour of its cell, as "#00ff00".
+using ShownHand = std::pair<HandResult, std::string>;
+
+/// All classes, in index order.
+[[nodiscard]] std::vector<ShownHand> ShownHands(const Analysis& analysis);
 
 }  // namespace quillon

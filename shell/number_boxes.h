@@ -2,8 +2,8 @@
 
 // What happens while the user works in one of the five amount boxes `txtNumber`. As soon as a text changes, earlier
 // results no longer fit it and their links go. A sum such as "=735+220-178" is worked out when the user presses Enter
-// or leaves the box ("shell/expressions.h"). The box for the opponent's call also keeps two labels up to date that tell
-// the odds as he sees them.
+// or leaves the box ("analysis/expressions.h"). The box for the opponent's call also keeps two labels up to date that
+// tell the odds as he sees them.
 
 #include <string_view>
 

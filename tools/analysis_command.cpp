@@ -11,11 +11,11 @@
 
 #include "analysis/input_checks.h"
 #include "hand/hand_classes.h"
+#include "ranges/range_lookup.h"
 #include "results/results_grid.h"
 #include "tools/analysis_output.h"
 #include "tools/commands.h"
 #include "tools/progress_bar.h"
-#include "tools/range_lookup.h"
 
 namespace quillon {
 namespace {
@@ -56,8 +56,7 @@ Analysis AnalyzeWithProgress(Situation situation, const Surroundings& surroundin
 }
 
 // A range by its notation goes in as text, one by its name is for the checks and the run to read.
-bool TakeRange(const RangeOption& option, CommandInputs& inputs, const Surroundings& surroundings, std::string& name,
-               std::string& text) {
+bool TakeRange(const RangeOption& option, CommandInputs& inputs, std::string& name, std::string& text) {
   if (option.Hands) {
     const std::optional<GivenRange> range = inputs.TypedRange(*option.Hands);
     if (range) name = range->Name;
@@ -67,8 +66,12 @@ bool TakeRange(const RangeOption& option, CommandInputs& inputs, const Surroundi
   if (!option.Name) throw CLI::RequiredError(option.Options);
   name = *option.Name;
   if (name.empty()) return true;  // the input checks have their own words for it
-  if (RefuseUnknown({name}, inputs.Folder(), surroundings.Errors)) return false;
-  PointOutUnreadable(name, inputs.Folder(), surroundings.Errors);
+  if (const auto unknown = WhyUnknown(name, inputs.Folder())) {
+    inputs.Refuse(*unknown);
+    return false;
+  }
+  if (const auto unreadable = WhyUnreadable(name, inputs.Folder()))
+    inputs.Refuse(*unreadable);  // the run fails over it
   return true;
 }
 
@@ -84,10 +87,9 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
   for (const auto& [option, text] : amounts) {
     if (!inputs.EvaluateAmount(option, *text)) return kRefused;
   }
-  bool rangesTaken = TakeRange(request.ranges[0], inputs, surroundings, situation.Range, situation.RangeText);
+  bool rangesTaken = TakeRange(request.ranges[0], inputs, situation.Range, situation.RangeText);
   if (ScenarioOf(mode).HasCallingRange) {
-    rangesTaken &=
-        TakeRange(request.ranges[1], inputs, surroundings, situation.CallingRange, situation.CallingRangeText);
+    rangesTaken &= TakeRange(request.ranges[1], inputs, situation.CallingRange, situation.CallingRangeText);
   }
   if (!rangesTaken) return kRefused;
   if (const auto complaint = CheckInputs(mode, situation, inputs.Folder())) {

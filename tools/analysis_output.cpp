@@ -4,22 +4,19 @@
 #include <cstddef>
 #include <cstdint>
 #include <nlohmann/json.hpp>
-#include <utility>
-#include <vector>
 
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
-#include "ranges/range_summary.h"
+#include "results/analysis_json.h"
 #include "results/hand_line.h"
 #include "results/report.h"
 #include "results/results_grid.h"
 #include "support/joined_text.h"
+#include "support/line_ends.h"
 #include "support/number_text.h"
 
 namespace quillon {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 // A report screen that keeps the text alone; a terminal has no fonts.
 class TextScreen final : public ReportScreen {
@@ -49,19 +46,6 @@ std::string ReportOutput(ReportForm form, const Analysis& analysis, std::span<co
   return UnixLineEnds(screen.Text());
 }
 
-// A class with the colour of its cell.
-using ShownHand = std::pair<HandResult, std::string>;
-
-std::vector<ShownHand> ShownHands(const Analysis& analysis) {
-  const std::array<Rgb, kHandClassCount> colors = GridColors(analysis);
-  std::vector<ShownHand> hands;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    hands.emplace_back(GetHandResult(analysis.HandInfo, HandLabel(index)),
-                       ColorText(colors[static_cast<std::size_t>(index)]));
-  }
-  return hands;
-}
-
 // What the scenario does not have is left out: a value where only equity was asked for, a fold share where nobody
 // folds.
 std::string CsvOutput(const Analysis& analysis) {
@@ -74,63 +58,6 @@ std::string CsvOutput(const Analysis& analysis) {
                     ",", color, "\n"});
   }
   return text;
-}
-
-template <typename Value>
-Json ValueIf(bool present, Value&& value) {
-  return present ? Json(std::forward<Value>(value)) : Json();
-}
-
-Json HandJson(const Scenario& scenario, const HandResult& hand, const std::string& color) {
-  return {{"hand", hand.Label},
-          {"combos", hand.Combos},
-          {"ev", ValueIf(scenario.HasExpectedValue(), hand.ExpectedValue)},
-          {"equity", hand.Equity},
-          {"fold", ValueIf(scenario.HasCallingRange, hand.FoldShare)},
-          {"colour", color}};
-}
-
-// The classes that the report names, each a text such as "JJ (½'d)".
-Json DroppedHandsJson(std::string_view text) {
-  constexpr std::string_view kSeparator = ", ";
-  Json hands = Json::array();
-  while (!text.empty()) {
-    const std::string_view hand = text.substr(0, text.find(kSeparator));
-    hands.push_back(hand);
-    text.remove_prefix(std::min(hand.size() + kSeparator.size(), text.size()));
-  }
-  return hands;
-}
-
-std::string JsonOutput(const Analysis& analysis) {
-  const Scenario& scenario = ScenarioOf(analysis.Mode);
-  const bool called = scenario.HasCallingRange;
-  const std::int16_t column = ShownColumn(analysis);
-  const std::string best = BestHand(analysis.HandInfo, column);
-  const std::string worst = WorstHand(analysis.HandInfo, column);
-  const GridTexts texts = MakeGridTexts(analysis);
-
-  Json hands = Json::array();
-  for (const auto& [hand, color] : ShownHands(analysis))
-    hands.push_back(HandJson(scenario, hand, color));
-
-  const Json object = {{"mode", scenario.Command},
-                       {"pot", ValueIf(scenario.AmountCount > 0, analysis.PotSize)},
-                       {"call", ValueIf(scenario.AmountCount > 1, analysis.CallAmount)},
-                       {"shove", ValueIf(scenario.AmountCount > 2, analysis.ShoveAmount)},
-                       {"range", analysis.RangeName},
-                       {"calling_range", ValueIf(called, analysis.CallingRangeName)},
-                       {"range_summary", RangeSummary(analysis.RangeText)},
-                       {"calling_range_summary", called ? Json(RangeSummary(analysis.CallingRangeText)) : Json()},
-                       {"dropped_hands", ValueIf(called, DroppedHandsJson(analysis.DroppedHands))},
-                       {"title", texts.Title},
-                       {"situation", UnixLineEnds(texts.HandInfo)},
-                       {"explanation", UnixLineEnds(texts.Results)},
-                       {"best", ValueIf(!best.empty(), best)},
-                       {"worst", ValueIf(!worst.empty(), worst)},
-                       {"hands", hands}};
-  // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
-  return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 // Black on light cells, white on dark ones. Source of the weights: ITU-R BT.601, luma.
@@ -151,20 +78,6 @@ OutputFormat OutputFormatOf(std::string_view name) {
   return found == kAnalysisFormats.end() ? OutputFormat::kPlain : found->Format;
 }
 
-std::string UnixLineEnds(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\r') {
-      result += text[i];
-      continue;
-    }
-    result += '\n';
-    if (text.substr(i + 1).starts_with('\n')) ++i;
-  }
-  return result;
-}
-
 std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::span<const std::string> hands) {
   switch (format) {
     case OutputFormat::kPlain:
@@ -174,7 +87,8 @@ std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::s
     case OutputFormat::kTable:
       return analysis.HandInfo;
     case OutputFormat::kJson:
-      return JsonOutput(analysis);
+      // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
+      return AnalysisJson(analysis).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     case OutputFormat::kCsv:
       return CsvOutput(analysis);
   }

@@ -31,11 +31,6 @@ inline constexpr std::array<OutputFormatRow, 5> kAnalysisFormats = {{
 /// The format of that name; kPlain for a text that names none.
 [[nodiscard]] OutputFormat OutputFormatOf(std::string_view name);
 
-/// A text of the report with each of its line ends (CR, CR LF) as one LF.
-///
-///     "Situation\r" -> "Situation\n"      "Hand\r\n\r" -> "Hand\n\n"
-[[nodiscard]] std::string UnixLineEnds(std::string_view text);
-
 /// The analysis in one format, the last line end included.
 ///
 /// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`

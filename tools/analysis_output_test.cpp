@@ -142,36 +142,6 @@ TEST(OutputFormat, IsPlainForANameThatIsNone) {
   EXPECT_EQ(OutputFormatOf("JSON"), OutputFormat::kPlain);
 }
 
-// ---- line ends
-
-struct LineEndCase {
-  const char* rule;
-  const char* text;
-  const char* expected;
-};
-
-class LineEnds : public testing::TestWithParam<LineEndCase> {};
-
-TEST_P(LineEnds, BecomeSingleLineFeeds) {
-  EXPECT_EQ(UnixLineEnds(GetParam().text), GetParam().expected);
-}
-
-constexpr auto kLineEndCases = std::to_array<LineEndCase>({
-    {"NothingStaysNothing", "", ""},
-    {"TextWithoutLineEndStays", "Hand\tCombs", "Hand\tCombs"},
-    {"ReturnIsALineEnd", "Situation\rType\r", "Situation\nType\n"},
-    {"ReturnAndFeedAreOneLineEnd", "a\r\nb", "a\nb"},
-    {"FeedStays", "a\nb\n", "a\nb\n"},
-    {"PairBeforeTheLinesOwnReturnIsTwo", "Hand\r\n\r", "Hand\n\n"},
-    {"TwoPairsAreTwo", "\r\n\r\nRange\r", "\n\nRange\n"},
-    {"TwoReturnsAreTwo", "\r\r", "\n\n"},
-    {"ReturnBeforeAPairIsItsOwn", "\r\r\n", "\n\n"},
-    {"FeedBeforeAReturnIsItsOwn", "\n\r", "\n\n"},
-});
-
-INSTANTIATE_TEST_SUITE_P(UnixLineEnds, LineEnds, testing::ValuesIn(kLineEndCases),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
-
 // ---- the two reports and the table
 
 TEST_P(EachScenario, PrintsThePlainReportOfTheWindow) {

@@ -4,18 +4,19 @@
 #include <algorithm>
 #include <filesystem>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <variant>
 
 #include "analysis/entered_situation.h"
+#include "analysis/expressions.h"
 #include "hand/equity_table.h"
 #include "hand/hand_classes.h"
+#include "ranges/range_lookup.h"
 #include "ranges/range_notation.h"
-#include "shell/expressions.h"
 #include "study/hand_order.h"
+#include "support/line_ends.h"
 #include "support/number_text.h"
-#include "tools/analysis_output.h"
-#include "tools/range_lookup.h"
 
 namespace quillon {
 namespace {
@@ -55,6 +56,23 @@ void OfferRange(CLI::App& command, const std::string& nameOption, const std::str
                   description + R"(, as "88+,ATs+,KQ:0.5" or "top 15%"; - reads it from standard input)")
       ->type_name("NOTATION")
       ->excludes(name);
+}
+
+RunCommand OfferRangeText(CLI::App& command, std::string (*write)(std::string_view rangeText)) {
+  struct Request {
+    RangeOption range;
+    std::string folder;
+  };
+  const auto request = std::make_shared<Request>();
+  OfferRange(command, "--range", "--hands", request->range, "The range");
+  OfferFolder(command, request->folder);
+  return [request, write](const Surroundings& surroundings) {
+    CommandInputs inputs(surroundings, request->folder);
+    const auto range = inputs.Range(request->range);
+    if (!range) return inputs.Status();
+    surroundings.Output << write(range->Text) << '\n';
+    return kDone;
+  };
 }
 
 void OfferFolder(CLI::App& command, std::string& folder) {
@@ -130,11 +148,15 @@ void CommandInputs::Refuse(std::string_view reason) {
 }
 
 std::optional<GivenRange> CommandInputs::NamedRange(const std::string& name) {
-  if (RefuseUnknown({name}, folder_, surroundings_.Errors)) return std::nullopt;
-  PointOutUnreadable(name, folder_, surroundings_.Errors);
+  if (const auto unknown = WhyUnknown(name, folder_)) {
+    Refuse(*unknown);
+    return std::nullopt;
+  }
+  const auto unreadable = WhyUnreadable(name, folder_);
+  if (unreadable) Refuse(*unreadable);
   GivenRange range{name, LoadRangeText(folder_, name)};
   range.Weights = RangeWeightsOf(range.Text);
-  if (IsReadable(name, folder_)) return range;
+  if (!unreadable) return range;
   status_ = kFailed;
   return std::nullopt;
 }

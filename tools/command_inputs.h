@@ -77,6 +77,10 @@ void OfferRange(CLI::App& command, const std::string& nameOption, const std::str
 /// Adds a required amount, such as "--pot".
 void OfferAmount(CLI::App& command, const std::string& option, std::string& amount, const std::string& description);
 
+/// Adds the options of a command that writes one range as text, and returns what writes it; `write` makes the text from
+/// the range's.
+[[nodiscard]] RunCommand OfferRangeText(CLI::App& command, std::string (*write)(std::string_view rangeText));
+
 /// Adds "--folder".
 void OfferFolder(CLI::App& command, std::string& folder);
 

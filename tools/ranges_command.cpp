@@ -4,9 +4,9 @@
 #include <string>
 
 #include "ranges/range_lists.h"
+#include "ranges/range_lookup.h"
 #include "ranges/range_summary.h"
 #include "tools/commands.h"
-#include "tools/range_lookup.h"
 
 namespace quillon {
 namespace {

@@ -3,8 +3,8 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "analysis/expressions.h"
 #include "analysis/input_screens.h"
-#include "shell/expressions.h"
 #include "toolkit/text.h"
 
 namespace quillon {

@@ -1,4 +1,4 @@
-#include "shell/expressions.h"
+#include "analysis/expressions.h"
 
 #include "support/number_text.h"
 

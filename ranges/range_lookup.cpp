@@ -1,17 +1,18 @@
-#include "tools/range_lookup.h"
+#include "ranges/range_lookup.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <ostream>
 #include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "hand/hand_classes.h"
+#include "ranges/nearest_names.h"
 #include "ranges/range_lists.h"
 #include "ranges/range_text.h"
-#include "tools/nearest_names.h"
+#include "support/joined_text.h"
 
 namespace quillon {
 namespace {
@@ -44,28 +45,22 @@ bool IsReadable(const std::string& name, const ProgramFolder& folder) {
   return HoldsAnEntry(text) && Attempt([&] { return SelectedCombos(text); });
 }
 
-void PointOutUnreadable(const std::string& name, const ProgramFolder& folder, std::ostream& errors) {
-  if (IsReadable(name, folder)) return;
-  errors << "The range \"" << name << "\" cannot be read: " << RangeFilePath(folder, name).string()
-         << " is missing, empty or no range file.\n";
+std::optional<std::string> WhyUnreadable(const std::string& name, const ProgramFolder& folder) {
+  if (IsReadable(name, folder)) return std::nullopt;
+  return Joined({"The range \"", name, "\" cannot be read: ", RangeFilePath(folder, name).string(),
+                 " is missing, empty or no range file."});
 }
 
-bool RefuseUnknown(const std::vector<std::string>& names, const ProgramFolder& folder, std::ostream& errors) {
+std::optional<std::string> WhyUnknown(const std::string& name, const ProgramFolder& folder) {
   constexpr std::size_t kSuggestions = 3;
-  bool refused = false;
-  for (const std::string& name : names) {
-    if (HasFile(name, folder)) continue;
-    refused = true;
-    const std::vector<std::string> nearest = NearestNames(name, RangeNames(folder), kSuggestions);
-    errors << "There is no range \"" << name << "\" in " << RangeFolderPath(folder).string() << ".";
-    std::string_view separator = " The nearest names: ";
-    for (const std::string& near : nearest) {
-      errors << separator << '"' << near << '"';
-      separator = ", ";
-    }
-    errors << '\n';
+  if (HasFile(name, folder)) return std::nullopt;
+  std::string reason = Joined({"There is no range \"", name, "\" in ", RangeFolderPath(folder).string(), "."});
+  std::string_view separator = " The nearest names: ";
+  for (const std::string& near : NearestNames(name, RangeNames(folder), kSuggestions)) {
+    reason += Joined({separator, "\"", near, "\""});
+    separator = ", ";
   }
-  return refused;
+  return reason;
 }
 
 }  // namespace quillon

@@ -1,4 +1,4 @@
-#include "tools/nearest_names.h"
+#include "ranges/nearest_names.h"
 
 #include <algorithm>
 #include <numeric>
