@@ -90,7 +90,7 @@ class NotationReader {
       if (!reason_.empty()) return NotationError{item, std::move(reason_)};
       empty = empty && mark;
     }
-    if (empty) return NotationError{0, "there is no hand here; an empty range is none"};
+    if (empty) return NotationError{0, "there is no hand here; write \"none\" for an empty range"};
     return weights_;
   }
 
@@ -256,29 +256,38 @@ class NotationReader {
 
   // The weight of the item: the one written after it, or the usual one.
   std::optional<double> ReadWeight() {
-    if (TakeWord(":")) return TakeWeight();
+    if (TakeWord(":")) {
+      const std::string_view written = WeightAtFront(Rest());
+      place_ += written.size();
+      return WeightOf(written);
+    }
     const std::size_t itemEnd = place_;
     Skip(kBlanks);
-    if (!TakeWord("(")) {
-      place_ = itemEnd;
-      return usualWeight_;
-    }
-    Skip(kBlanks);
-    const std::optional<double> weight = TakeWeight();
-    Skip(kBlanks);
-    if (!TakeWord(")")) Fail("\")\" is missing after the weight");
+    if (TakeWord("(")) return TakeWeightInBrackets();
+    place_ = itemEnd;
+    return usualWeight_;
+  }
+
+  // A range file may have a space between two digits of a weight, and reads without it.
+  std::optional<double> TakeWeightInBrackets() {
+    std::string inside(Rest().substr(0, Rest().find(')')));
+    place_ += inside.size();
+    std::erase_if(inside, [](char c) { return kBlanks.find(c) != std::string_view::npos; });
+    const std::string_view written = WeightAtFront(inside);
+    const std::optional<double> weight = WeightOf(written);
+    if (written.size() < inside.size() || !TakeWord(")")) Fail("\")\" is missing after the weight");
     return weight;
   }
 
-  std::optional<double> TakeWeight() {
+  static std::string_view WeightAtFront(std::string_view text) {
+    const std::size_t length = NumberLength(text);
+    return text.substr(0, length > 0 && text.substr(length).starts_with('%') ? length + 1 : length);
+  }
+
+  std::optional<double> WeightOf(std::string_view written) {
     constexpr double kPercent = 100;
-    if (NumberLength(Rest()) == 0) {
-      Fail(kBadWeight);
-      return std::nullopt;
-    }
-    double weight = TakeNumber();
-    if (TakeWord("%")) weight /= kPercent;
-    if (weight <= 1) return weight;
+    const double weight = LeadingNumber(written) / (written.ends_with('%') ? kPercent : 1);
+    if (!written.empty() && weight <= 1) return weight;
     Fail(kBadWeight);
     return std::nullopt;
   }

@@ -110,7 +110,7 @@ std::variant<Steps, std::string> Steps::Read(std::string_view text) {
   std::array<std::int64_t, kParts> scaled{};
   for (std::size_t i = 0; i < kParts; ++i) {
     const std::optional<std::int64_t> digits = Scaled(decimals[i], places);
-    if (!digits) return "the numbers have more digits together than can be counted in";
+    if (!digits) return "the numbers have too many digits, taken together, to be exact";
     scaled[i] = *digits;
   }
   const auto [from, to, step] = scaled;

@@ -77,7 +77,7 @@ TEST(Steps, RefuseWhatDoesNotEnd) {
            {"1:1e3:1", "\"1e3\"" + decimal},
            {"1:nan:1", "\"nan\"" + decimal},
            {"1:1234567890123456:1", "\"1234567890123456\"" + decimal},
-           {"1:100000000000000:0.00000000000001", "the numbers have more digits together than can be counted in"},
+           {"1:100000000000000:0.00000000000001", "the numbers have too many digits, taken together, to be exact"},
        })
     EXPECT_EQ(Read(c.text), c.reason) << c.text;
   EXPECT_EQ(StepsOf("0:99999:1").Count(), 100000);

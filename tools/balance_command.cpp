@@ -90,6 +90,11 @@ int Print(const Request& request, const Surroundings& surroundings) {
   const auto own = HandsOf(request.own, inputs);
   const auto his = HandsOf(request.his, inputs);
   if (!pot || !call || !shove || !own || !his) return inputs.Status();
+  constexpr double kMostTogether = 1e300;  // sums and shares of it stay numbers
+  if (*pot + *call + *shove > kMostTogether) {
+    inputs.Refuse("--pot, --call and --shove may be at most " + NumberText(kMostTogether) + " together");
+    return inputs.Status();
+  }
   if (!request.saveShove.empty() && request.saveShove == request.saveCall) {
     inputs.Refuse("--save-shove and --save-call need different names");
     return inputs.Status();

@@ -121,7 +121,7 @@ bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
 std::optional<double> CommandInputs::Amount(std::string_view option, std::string text, LeastAmount least) {
   if (!EvaluateAmount(option, text)) return std::nullopt;
   const double value = BoxValue(text);
-  if (!IsNumericText(text)) {
+  if (!IsNumericText(text) && !(text.empty() && least == LeastAmount::kZero)) {
     Refuse(std::string(option) + ": \"" + text + "\" is not an amount");
     return std::nullopt;
   }

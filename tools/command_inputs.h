@@ -104,7 +104,8 @@ class CommandInputs {
   CommandInputs(const Surroundings& surroundings, const std::string& folder);
 
   /// An amount, or nothing after it was told what is wrong with it: a number above 0, or not below it, or a sum such as
-  /// "=735+220-178". A comma that cuts it short gives a warning.
+  /// "=735+220-178". Where 0 is allowed, an empty text is 0, as in an amount box. A comma that cuts it short gives a
+  /// warning.
   [[nodiscard]] std::optional<double> Amount(std::string_view option, std::string text, LeastAmount least);
 
   /// The first half of that: whether the text is no sum or was replaced by the value of its sum.

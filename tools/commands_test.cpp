@@ -117,10 +117,34 @@ TEST(TypedRange, MayHaveAnyWeight) {
 TEST(TypedRange, IsReadFromStandardInputOnce) {
   const StudyProgram program;
   EXPECT_EQ(program.Run({"notation", "--hands", "-"}, "AA, KK\nQQ\n").Output, "QQ+\n");
-  const Outcome twice =
-      program.Run({"raise", "--pot", "1", "--call", "1", "--shove", "1", "--hands", "-", "--calling-hands", "-"}, "AA");
-  EXPECT_EQ(twice.Status, kWrongUsage);
-  EXPECT_THAT(twice.Errors, HasSubstr("Standard input can be read for one range only"));
+  const Arguments amounts = {"--pot", "1", "--call", "1"};
+  const Arguments ranges = {"--hands", "-", "--calling-hands", "-"};
+  for (const Arguments& twice : {
+           With(With({"raise", "--shove", "1"}, amounts), ranges),
+           With(With({"limits", "raise"}, amounts), ranges),
+           With(With({"sweep", "raise", "--shove", "1:2:1"}, amounts), ranges),
+           With(With({"balance", "--shove", "1"}, amounts), {"--hands", "-", "--own-hands", "-"}),
+       }) {
+    const Outcome outcome = program.Run(twice, "AA");
+    EXPECT_EQ(outcome.Status, kWrongUsage) << twice.front();
+    EXPECT_THAT(outcome.Errors, HasSubstr("Standard input can be read for one range only")) << twice.front();
+  }
+}
+
+// What is typed there need not be in the box of a raise: with no bet to call it is 0.
+TEST(EmptyCall, CountsAsNothing) {
+  const StudyProgram program;
+  const Arguments ranges = {"--hands", "any", "--calling-hands", "QQ+"};
+  for (const Arguments& arguments : {
+           With({"raise", "--pot", "15", "--shove", "40"}, ranges),
+           With({"limits", "raise", "--pot", "15"}, ranges),
+           With({"sweep", "raise", "--pot", "15", "--shove", "40:42:1", "--hand", "22"}, ranges),
+           {"balance", "--pot", "15", "--shove", "40"},
+       }) {
+    const Outcome empty = program.Run(With(arguments, {"--call", ""}));
+    EXPECT_EQ(empty.Status, kDone) << empty.Errors;
+    EXPECT_EQ(empty.Output, program.Run(With(arguments, {"--call", "0"})).Output) << arguments.front();
+  }
 }
 
 TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
@@ -157,13 +181,15 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {With(sweep, {"--pot", "9", "--call", "0:5:1"}), kRefused, "--call must be above 0"},
            {With(sweep, {"--pot", "9", "--call", "1"}), kWrongUsage, "is given as FROM:TO:STEP"},
            {With(sweep, {"--pot", "5:9:1", "--call", "1:2:1"}), kWrongUsage, "is given as FROM:TO:STEP"},
-           {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:101:5"}, kDone, ""},
+           {With(sweep, {"--pot", "", "--call", "1:2:1"}), kRefused, "--pot must be above 0"},
+           {{"limits", "call", "--pot", "", "--hands", "AA"}, kRefused, "--pot: \"\" is not an amount"},
            {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:105:5"},
             kRefused,
             "--width: a share is from 0% to 100%"},
            {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "0:5:5"}, kRefused, "has no hands"},
            {With(sweep, {"--pot", "9", "--call", "1", "--width", "5:10:5"}), kWrongUsage, "leave --range"},
            {With(balance, {"--shove", "0"}), kRefused, "--shove must be above 0"},
+           {With(balance, {"--shove", "1e400"}), kRefused, "--pot, --call and --shove may be at most 1E+300 together"},
            {With(balance, {"--shove", "9", "--hands", "none"}), kRefused, "has no hands"},
            {With(balance, {"--shove", "9", "--save-call", "Tight"}), kRefused, "already exists"},
            {With(balance, {"--shove", "9", "--save-call", "One", "--save-shove", "One"}), kRefused, "different names"},
@@ -231,8 +257,37 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
       EXPECT_EQ(json["hands"][i]["amount"], limit.Amount) << label;
     }
   }
-  EXPECT_THAT(program.Run(raise).Output, StartsWith("AA  always   AKs 5332.15  AQs 1756.09  "));
+  EXPECT_THAT(program.Run(raise).Output, StartsWith("AA  always   AKs 5332.15  AQs 1756.08  "));
   EXPECT_EQ(Lines(program.Run(raise).Output).size(), 13U);
+}
+
+// At what the grid shows no hand loses, so "up to" is rounded down and "from" up.
+TEST(LimitsCommand, RoundsToTheSideThatDoesNotLose) {
+  const StudyProgram program;
+  const Arguments call = {"limits", "call", "--pot", "100", "--hands", "AA"};
+  const Arguments raise = {"limits", "raise", "--pot", "1", "--call", "5", "--hands", "any", "--calling-hands", "any"};
+  struct Case {
+    const Arguments& arguments;
+    std::string_view line;
+    const char* cell;
+  };
+  for (const Case& c : {
+           Case{call, "AA,always,", "AA  always"},
+           Case{call, "AKs,up to,13.818084555455", "AKs 13.81 "},
+           Case{call, "ATs,up to,15.3885652239634", "ATs 15.38 "},
+           Case{raise, "A9s,from,4.82398269255826", "A9s from 4.83 "},
+           Case{raise, "A8s,from,5.37253405036127", "A8s from 5.38 "},
+           Case{raise, "J5s,never,", "J5s never "},
+       }) {
+    EXPECT_THAT(Lines(program.Run(With(c.arguments, {"--format", "csv"})).Output), testing::Contains(c.line));
+    EXPECT_THAT(program.Run(c.arguments).Output, HasSubstr(c.cell));
+  }
+  const Json json = Json::parse(program.Run(With(raise, {"--format", "json"})).Output);
+  const auto limitOf = [&](std::string_view hand) { return json["hands"][static_cast<std::size_t>(HandIndex(hand))]; };
+  EXPECT_EQ(limitOf("A9s")["limit"], "from");
+  EXPECT_NEAR(limitOf("A9s")["amount"], 4.823982692558, 1e-9);
+  EXPECT_EQ(limitOf("J5s")["limit"], "never");
+  EXPECT_TRUE(limitOf("J5s")["amount"].is_null());
 }
 
 // Each row holds the figures that a command of its own prints.
@@ -263,6 +318,16 @@ TEST(SweepCommand, TakesWeightsAsAnAnalysisReadsThem) {
       program.Run(With(With({"sweep", "call"}, shared), {"50:50:1", "--hand", "72o", "--format", "csv"}));
   EXPECT_THAT(sweep.Output,
               testing::EndsWith("," + NumberText(GetHandResult(single.Output, "72o").ExpectedValue) + "\n"));
+}
+
+TEST(SweepCommand, EndsAtTheLastStepThatIsNotAboveTheEnd) {
+  const StudyProgram program;
+  const Outcome outcome =
+      program.Run({"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:101:5", "--format", "csv"});
+  EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
+  const auto lines = Lines(outcome.Output);
+  ASSERT_EQ(lines.size(), 21U);
+  EXPECT_THAT(lines.back(), StartsWith("100,"));
 }
 
 TEST(SweepCommand, GoesThroughWidthsInEachFormat) {

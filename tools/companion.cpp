@@ -1,6 +1,7 @@
 #include "tools/companion.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <memory>
@@ -8,6 +9,7 @@
 #include <span>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -49,11 +51,22 @@ std::string Epilogue(const Command& command) {
   return std::string(kExitStatuses) + "\nExample:\n  quillon-cli " + command.Name + " " + command.Example;
 }
 
-std::string CommandNames() {
+std::string CommandNames(std::string_view beforeLast) {
   std::string names;
   for (std::size_t i = 0; i < kCommands.size(); ++i)
-    names.append(i == 0 ? "" : i + 1 == kCommands.size() ? " or " : ", ").append(kCommands[i].Name);
+    names.append(i == 0 ? "" : i + 1 == kCommands.size() ? beforeLast : ", ").append(kCommands[i].Name);
   return names;
+}
+
+bool IsCommand(const std::string& name) {
+  return std::ranges::any_of(kCommands, [&](const Command& command) { return command.Name == name; });
+}
+
+// Help on what is no command. An option after "help" is for the library to tell of.
+void CheckHelpOf(std::span<const std::string> arguments) {
+  if (arguments.size() < 2 || arguments[0] != kHelpCommand || arguments[1].starts_with('-')) return;
+  if (IsCommand(arguments[1]) || arguments[1] == kHelpCommand) return;
+  throw CLI::ValidationError("There is no command \"" + arguments[1] + "\"; there are " + CommandNames(" and "));
 }
 
 // The arguments in reverse, as the library takes them; "help call" as "call --help".
@@ -70,7 +83,7 @@ int Run(const std::vector<OfferedCommand>& commands, const Surroundings& surroun
   for (const OfferedCommand& command : commands) {
     if (command.options->parsed()) return command.run(surroundings);
   }
-  throw CLI::ValidationError("Say what to do: " + CommandNames());
+  throw CLI::ValidationError("Say what to do: " + CommandNames(" or "));
 }
 
 }  // namespace
@@ -89,6 +102,7 @@ int RunCompanion(std::span<const std::string> arguments, const Surroundings& sur
   }
   app.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
   try {
+    CheckHelpOf(arguments);
     app.parse(Reversed(arguments));
     return Run(commands, surroundings);
   } catch (const CLI::ParseError& error) {

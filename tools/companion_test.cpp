@@ -696,6 +696,7 @@ std::vector<UsageCase> WrongUsages() {
   return {
       {"NoCommand", {}, "Say what to do: call, raise, equity, summary, "},
       {"UnknownCommand", {"fold"}, "fold"},
+      {"HelpOnAnUnknownCommand", {"help", "fold"}, "There is no command \"fold\"; there are call, raise, "},
       {"TwoCommands", With(kEquity, {"ranges"}), "ranges"},
       {"UnknownOption", With(kEquity, {"--quick"}), "--quick"},
       {"OptionBeforeTheCommand", {"--range", "Loose", "equity"}, "--range"},

@@ -27,9 +27,14 @@ bool HasAmount(const Limit& limit) {
   return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
 }
 
-// In a grid two decimals are enough.
+// In a grid two decimals are enough, rounded to the side on which the hand does not lose.
 std::string GridText(Limit limit) {
-  limit.Amount = RoundTo(limit.Amount, 2);
+  constexpr double kStep = 0.01;
+  const double nearest = RoundTo(limit.Amount, 2);
+  double safe = nearest;
+  if (limit.Kind == LimitKind::kUpTo && nearest > limit.Amount) safe = RoundTo(nearest - kStep, 2);
+  if (limit.Kind == LimitKind::kFrom && nearest < limit.Amount) safe = RoundTo(nearest + kStep, 2);
+  limit.Amount = safe;
   return LimitText(limit);
 }
 

@@ -132,14 +132,14 @@ std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count)
   return swept;
 }
 
-// A call is smaller than the pot, and only a raise's call may be 0.
+// A call is smaller than the pot, and only a raise's call may be 0. No amount that was read is below it.
 bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& inputs) {
   const bool raise = mode == AnalysisMode::kPreflopRaise;
-  if (amounts.Pot <= 0)
+  if (amounts.Pot == 0)
     inputs.Refuse("--pot must be above 0");
-  else if (raise ? amounts.Call < 0 : amounts.Call <= 0)
+  else if (!raise && amounts.Call == 0)
     inputs.Refuse("--call must be above 0");
-  else if (raise && amounts.Shove <= 0)
+  else if (raise && amounts.Shove == 0)
     inputs.Refuse("--shove must be above 0");
   else if (!raise && amounts.Call >= amounts.Pot)
     inputs.Refuse("--pot must be greater than --call");
