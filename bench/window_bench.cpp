@@ -72,7 +72,7 @@ struct Program {
     QCoreApplication::processEvents();
   }
 
-  [[nodiscard]] FormControls& Controls() const { return Window->Controls(); }
+  [[nodiscard]] MainControls& Controls() const { return Window->Controls(); }
 
   void FillInRaise() const {
     Controls().LabelAt("lblNav", 1).Click();

@@ -4,10 +4,10 @@
 // themselves, which speak in real boxes ("testing/expected_boxes.h").
 
 #include <QTest>
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/range_dialogs.h"
@@ -20,22 +20,26 @@
 
 namespace quillon {
 
+inline constexpr auto kStagedRows = [] {
+  std::array<ControlRow, 1 + 4 * kChooserCount> rows{};
+  auto row = rows.begin();
+  *row++ = {.Name = "lblLastEdit", .Text = "0", .Place = {0, 0, 300, 300}, .Hidden = true};
+  for (std::int16_t i = 0; i < kChooserCount; ++i) {
+    const auto top = static_cast<float>(600 * i);
+    *row++ = {.Name = "cmboRanges", .Index = i, .Kind = ControlKind::kChooser, .Place = {0, top, 3000, 300}};
+    *row++ = {.Name = "lblOr", .Index = i, .Place = {3300, top, 300, 300}};
+    for (const std::string_view link : {"lblEditRange", "lblNewRange"})
+      *row++ = {.Name = link, .Index = i, .Place = {3900, top, 300, 300}, .Use = ControlUse::kLink};
+  }
+  return rows;
+}();
+inline constexpr std::array kStagedLayout = {
+    ControlTable{.Container = {}, .Font = {.Family = "Arial", .Points = 9}, .Rows = kStagedRows}};
+
 /// The main window as the dialogs know it.
 class StagedMain : public QWidget {
  public:
-  StagedMain() {
-    std::vector<ControlRow> rows = {{.Name = "lblLastEdit", .Text = "0", .Place = {0, 0, 300, 300}, .Hidden = true}};
-    for (std::int16_t i = 0; i < kChooserCount; ++i) {
-      const auto top = static_cast<float>(600 * i);
-      rows.push_back({.Name = "cmboRanges", .Index = i, .Kind = ControlKind::kChooser, .Place = {0, top, 3000, 300}});
-      rows.push_back({.Name = "lblOr", .Index = i, .Place = {3300, top, 300, 300}});
-      for (const std::string_view link : {"lblEditRange", "lblNewRange"})
-        rows.push_back({.Name = link, .Index = i, .Place = {3900, top, 300, 300}, .Use = ControlUse::kLink});
-    }
-    const ControlTable table{.Container = {}, .Font = {.Family = "Arial", .Points = 9}, .Rows = rows};
-    Controls = BuildForm(*this, {&table, 1});
-    setCursor(Qt::WaitCursor);
-  }
+  StagedMain() { setCursor(Qt::WaitCursor); }
 
   [[nodiscard]] bool HasDefaultPointer() const { return cursor().shape() == Qt::ArrowCursor; }
   [[nodiscard]] bool OffersEdit(std::int16_t index) const {
@@ -44,7 +48,7 @@ class StagedMain : public QWidget {
     return edit;
   }
 
-  FormControls Controls;
+  LayoutControls<kStagedLayout> Controls{*this};
 };
 
 /// Everything on stage. The ranges are "Button Shove", with AA full and AKs half, and "Tight", with AA, KK and QQ.
@@ -81,8 +85,9 @@ class DialogStage {
   MessageDialogs Boxes;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
   StagedMain Main;
-  RangeDialogs Dialogs{
-      Main, Main.Controls, {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
+  RangeDialogs Dialogs{Main,
+                       ChooserControls(Main.Controls),
+                       {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
 };
 
 /// A click of the left mouse button in the middle of the control, sent the way of the window's own events, so that it
@@ -92,11 +97,13 @@ inline void ClickOn(QWidget& control, Qt::KeyboardModifiers held = {}) {
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, held, control.mapTo(window, control.rect().center()));
 }
 
-inline void ClickOn(const FormControls& controls, std::string_view name, std::int16_t index = kNoIndex) {
-  ClickOn(controls.Get<QWidget>(name, index));
+template <typename Controls>
+void ClickOn(const Controls& controls, typename Controls::template Key<QWidget> name, std::int16_t index = kNoIndex) {
+  ClickOn(controls.template Get<QWidget>(name, index));
 }
 
-inline void ClickCell(const FormControls& controls, std::string_view label) {
+template <typename Controls>
+void ClickCell(const Controls& controls, std::string_view label) {
   ClickOn(controls, "lblCards", HandIndex(label));
 }
 

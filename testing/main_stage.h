@@ -15,6 +15,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "hand/hand_classes.h"
@@ -58,6 +59,9 @@ enum class StageClock : std::uint8_t {
 /// before.
 class MainStage {
  public:
+  using ControlName = MainControls::Key<>;
+  using LabelKey = MainControls::Key<Label>;
+
   explicit MainStage(StageClock clock = StageClock::kHurried, NumberMarks marks = {})
       : Form({.Folder = Program.Folder(),
               .Messages = Boxes,
@@ -87,17 +91,15 @@ class MainStage {
   }
 
   template <typename Kind = QWidget>
-  [[nodiscard]] Kind& Get(std::string_view name, std::int16_t index = kNoIndex) {
+  [[nodiscard]] Kind& Get(MainControls::Key<std::type_identity_t<Kind>> name, std::int16_t index = kNoIndex) {
     return Form.Controls().Get<Kind>(name, index);
   }
-  [[nodiscard]] Label& LabelAt(std::string_view name, std::int16_t index = kNoIndex) { return Get<Label>(name, index); }
-  [[nodiscard]] std::string Caption(std::string_view name, std::int16_t index = kNoIndex) {
+  [[nodiscard]] Label& LabelAt(LabelKey name, std::int16_t index = kNoIndex) { return Get<Label>(name, index); }
+  [[nodiscard]] std::string Caption(LabelKey name, std::int16_t index = kNoIndex) {
     return LinesFromQt(LabelAt(name, index).Text());
   }
   [[nodiscard]] std::string BoxText(std::int16_t index) { return FromQt(Get<QLineEdit>("txtNumber", index).text()); }
-  [[nodiscard]] bool Shows(std::string_view name, std::int16_t index = kNoIndex) {
-    return Get(name, index).isVisible();
-  }
+  [[nodiscard]] bool Shows(ControlName name, std::int16_t index = kNoIndex) { return Get(name, index).isVisible(); }
 
   /// The caption of the one screen that shows; a test fails where none or more than one does.
   [[nodiscard]] std::string Screen() {
@@ -112,13 +114,13 @@ class MainStage {
   /// The mouse, sent the way of the window's own events, so that what lies in front hears it.
   void ClickAt(const QPoint& point) { QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, point); }
   void MoveTo(const QPoint& point) { QTest::mouseMove(Form.windowHandle(), point); }
-  [[nodiscard]] QPoint MiddleOf(std::string_view name, std::int16_t index = kNoIndex) {
+  [[nodiscard]] QPoint MiddleOf(ControlName name, std::int16_t index = kNoIndex) {
     QWidget& control = Get(name, index);
-    EXPECT_TRUE(control.isVisible()) << name << "(" << index << ") cannot be reached";
+    EXPECT_TRUE(control.isVisible()) << name.Name() << "(" << index << ") cannot be reached";
     return control.mapTo(&Form, control.rect().center());
   }
-  void Click(std::string_view name, std::int16_t index = kNoIndex) { ClickAt(MiddleOf(name, index)); }
-  void MoveOver(std::string_view name, std::int16_t index = kNoIndex) { MoveTo(MiddleOf(name, index)); }
+  void Click(ControlName name, std::int16_t index = kNoIndex) { ClickAt(MiddleOf(name, index)); }
+  void MoveOver(ControlName name, std::int16_t index = kNoIndex) { MoveTo(MiddleOf(name, index)); }
   void Open(std::int16_t nav) { Click("lblNav", nav); }
 
   /// Keys go to whatever has the focus, as from the keyboard.

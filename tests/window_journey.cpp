@@ -36,17 +36,17 @@ std::string LinkOf(std::int16_t button) {
 }  // namespace
 
 const FormPlan& MainPlan() {
-  static const FormPlan kPlan(MainLayout());
+  static const FormPlan kPlan(main_layout::kTables);
   return kPlan;
 }
 
 const FormPlan& ManagerPlan() {
-  static const FormPlan kPlan(ManagerLayout());
+  static const FormPlan kPlan(manager_layout::kTables);
   return kPlan;
 }
 
 const FormPlan& NewRangePlan() {
-  static const FormPlan kPlan(NewRangeLayout());
+  static const FormPlan kPlan(new_range_layout::kTables);
   return kPlan;
 }
 

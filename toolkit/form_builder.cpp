@@ -119,6 +119,16 @@ QRect PlaceOf(const ControlRow& row) {
 
 }  // namespace
 
+FormControls::FormControls(QWidget& form, std::span<const ControlTable> layout) {
+  for (const ControlTable& table : layout) {
+    const std::string containerName(table.Container);
+    QWidget* container = containerName.empty() ? &form : Find(containerName);
+    if (container == nullptr) ControlMissing(containerName);
+    for (auto row = table.Rows.rbegin(); row != table.Rows.rend(); ++row)
+      Add(BuildControl(*container, *row, table.Font));
+  }
+}
+
 void FormControls::Add(QWidget* control) {
   controls_[control->objectName().toStdString()] = control;
 }
@@ -151,19 +161,6 @@ QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec&
   if (!row.ToolTip.empty()) control->setToolTip(ToQt(row.ToolTip));
   control->setVisible(!row.Hidden);
   return control;
-}
-
-FormControls BuildForm(QWidget& form, std::span<const ControlTable> tables) {
-  FormControls controls;
-  for (const ControlTable& table : tables) {
-    const std::string containerName(table.Container);
-    QWidget* container = containerName.empty() ? &form : controls.Find(containerName);
-    if (container == nullptr) ControlMissing(containerName);
-    for (auto row = table.Rows.rbegin(); row != table.Rows.rend(); ++row) {
-      controls.Add(BuildControl(*container, *row, table.Font));
-    }
-  }
-  return controls;
 }
 
 }  // namespace quillon

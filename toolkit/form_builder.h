@@ -8,7 +8,9 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
+#include "toolkit/control_key.h"
 #include "toolkit/control_row.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
@@ -17,30 +19,20 @@
 
 namespace quillon {
 
-/// The controls of one form by their names. It owns none of them; the form does.
+/// The controls of one form by their object names. It owns none of them; the form does.
 class FormControls {
  public:
+  /// Builds the controls of all tables, each in its container, which is in an earlier table. Every control gets its
+  /// name and index as object name; the rows of each table are stacked with the first in front.
+  FormControls(QWidget& form, std::span<const ControlTable> layout);
+
   void Add(QWidget* control);
 
-  /// The control of that name, as the kind that the caller knows it to be. A name that is not there, or is of another
-  /// kind, is a fault in the program and ends it.
-  template <typename Kind>
-  [[nodiscard]] Kind& Get(std::string_view name, std::int16_t index = kNoIndex) const;
-
+  /// Null for a name that is not there.
   [[nodiscard]] QWidget* Find(const std::string& objectName) const;
 
-  [[nodiscard]] Label& LabelAt(std::string_view name, std::int16_t index = kNoIndex) const {
-    return Get<Label>(name, index);
-  }
-  [[nodiscard]] Picture& PictureAt(std::string_view name, std::int16_t index = kNoIndex) const {
-    return Get<Picture>(name, index);
-  }
-  [[nodiscard]] Shape& ShapeAt(std::string_view name, std::int16_t index = kNoIndex) const {
-    return Get<Shape>(name, index);
-  }
-  [[nodiscard]] Frame& FrameAt(std::string_view name, std::int16_t index = kNoIndex) const {
-    return Get<Frame>(name, index);
-  }
+  /// The control that a row of the layout has become.
+  [[nodiscard]] QWidget& At(const ControlRow& row) const { return *controls_.at(ObjectName(row.Name, row.Index)); }
 
   /// How many controls there are of that name, counted from index 0 without a gap.
   [[nodiscard]] std::int16_t CountOf(std::string_view name) const;
@@ -51,17 +43,45 @@ class FormControls {
 
 [[noreturn]] void ControlMissing(const std::string& objectName);
 
-template <typename Kind>
-Kind& FormControls::Get(std::string_view name, std::int16_t index) const {
-  const std::string objectName = ObjectName(name, index);
-  auto* control = qobject_cast<Kind*>(Find(objectName));
-  if (control == nullptr) ControlMissing(objectName);
-  return *control;
-}
+/// The controls of the form that is built from `kLayout`, each as the kind that its row makes.
+template <const auto& kLayout>
+class LayoutControls : public FormControls {
+ public:
+  template <typename Widget = QWidget>
+  using Key = ControlKey<kLayout, Widget>;
 
-/// Builds the controls of all tables, each in its container, which is in an earlier table. Every control gets its
-/// name and index as object name; the rows of each table are stacked with the first in front.
-[[nodiscard]] FormControls BuildForm(QWidget& form, std::span<const ControlTable> tables);
+  explicit LayoutControls(QWidget& form) : FormControls(form, kLayout) {}
+
+  /// The control of that name. An index that is not there is a fault in the program and ends it.
+  template <typename Widget>
+  [[nodiscard]] Widget& Get(Key<Widget> key, std::int16_t index = kNoIndex) const {
+    const std::string objectName = ObjectName(key.Name(), index);
+    auto* control = qobject_cast<Widget*>(Find(objectName));
+    if (control == nullptr) ControlMissing(objectName);
+    return *control;
+  }
+
+  [[nodiscard]] Label& LabelAt(Key<Label> key, std::int16_t index = kNoIndex) const { return Get<Label>(key, index); }
+  [[nodiscard]] Picture& PictureAt(Key<Picture> key, std::int16_t index = kNoIndex) const {
+    return Get<Picture>(key, index);
+  }
+  [[nodiscard]] Shape& ShapeAt(Key<Shape> key, std::int16_t index = kNoIndex) const { return Get<Shape>(key, index); }
+  [[nodiscard]] Frame& FrameAt(Key<Frame> key, std::int16_t index = kNoIndex) const { return Get<Frame>(key, index); }
+
+  /// The controls of these names, those that share one in the order of their indexes.
+  [[nodiscard]] std::vector<QWidget*> All(std::span<const Key<>> keys) const {
+    std::vector<QWidget*> all;
+    for (const Key<>& key : keys) {
+      const std::int16_t count = CountOf(key);
+      if (count == 0) all.push_back(&Get<QWidget>(key));
+      for (std::int16_t index = 0; index < count; ++index)
+        all.push_back(&Get<QWidget>(key, index));
+    }
+    return all;
+  }
+
+  [[nodiscard]] std::int16_t CountOf(Key<> key) const { return FormControls::CountOf(key.Name()); }
+};
 
 /// Builds one control more.
 QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited);

@@ -19,13 +19,14 @@ namespace {
 constexpr TwipRect kPlace = {150, 300, 1500, 600};
 constexpr FontSpec kFont = {.Family = "Arial", .Points = 8.25F};
 
-FormControls Build(QWidget& form, std::span<const ControlRow> rows) {
-  const std::array tables = {ControlTable{.Container = "", .Font = kFont, .Rows = rows}};
-  return BuildForm(form, tables);
-}
+template <const auto& kRows>
+constexpr std::array kOneTable = {ControlTable{.Container = "", .Font = kFont, .Rows = kRows}};
+
+template <const auto& kRows>
+using OneTable = LayoutControls<kOneTable<kRows>>;
 
 TEST(FormBuilder, MakesOfEachKindTheControlThatItNames) {
-  constexpr std::array kRows = {
+  static constexpr std::array kRows = {
       ControlRow{.Name = "label", .Kind = ControlKind::kLabel, .Place = kPlace},
       ControlRow{.Name = "picture", .Kind = ControlKind::kPicture, .Place = kPlace},
       ControlRow{.Name = "shape", .Kind = ControlKind::kShape, .Place = kPlace},
@@ -42,7 +43,7 @@ TEST(FormBuilder, MakesOfEachKindTheControlThatItNames) {
       ControlRow{.Name = "rich", .Kind = ControlKind::kRichTextBox, .Place = kPlace},
   };
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   EXPECT_NO_THROW({
     std::ignore = controls.LabelAt("label");
@@ -65,13 +66,13 @@ TEST(FormBuilder, MakesOfEachKindTheControlThatItNames) {
 }
 
 TEST(FormBuilder, PutsTheFirstOfTwoRowsInFront) {
-  constexpr std::array kRows = {
+  static constexpr std::array kRows = {
       ControlRow{.Name = "front", .Place = kPlace},
       ControlRow{.Name = "middle", .Place = kPlace},
       ControlRow{.Name = "back", .Place = kPlace},
   };
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   EXPECT_EQ(form.childAt(20, 30), controls.Find("front"));
   controls.LabelAt("front").hide();
@@ -79,14 +80,14 @@ TEST(FormBuilder, PutsTheFirstOfTwoRowsInFront) {
 }
 
 TEST(FormBuilder, FindsControlsByNameAndIndex) {
-  constexpr std::array kRows = {
+  static constexpr std::array kRows = {
       ControlRow{.Name = "txtNumber", .Index = 0, .Kind = ControlKind::kTextBox, .Text = "zero", .Place = kPlace},
       ControlRow{.Name = "txtNumber", .Index = 1, .Kind = ControlKind::kTextBox, .Text = "one", .Place = kPlace},
       ControlRow{.Name = "txtNumber", .Index = 3, .Kind = ControlKind::kTextBox, .Text = "three", .Place = kPlace},
       ControlRow{.Name = "picLogo", .Kind = ControlKind::kPicture, .Place = kPlace},
   };
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   EXPECT_EQ(controls.Get<TextBox>("txtNumber", 1).text(), QStringLiteral("one"));
   EXPECT_EQ(controls.Get<TextBox>("txtNumber", 1).objectName(), QStringLiteral("txtNumber(1)"));
@@ -96,32 +97,30 @@ TEST(FormBuilder, FindsControlsByNameAndIndex) {
   EXPECT_EQ(controls.Find("txtNumber(2)"), nullptr);
 }
 
-TEST(FormBuilder, FailsWhereAControlIsNotThereOrOfAnotherKind) {
-  constexpr std::array kRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
+TEST(FormBuilder, FailsAtAnIndexThatIsNotThere) {
+  static constexpr std::array kRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   EXPECT_THROW(std::ignore = controls.LabelAt("lblPot", 0), std::logic_error);
-  EXPECT_THROW(std::ignore = controls.LabelAt("lblpot"), std::logic_error);
-  EXPECT_THROW(std::ignore = controls.PictureAt("lblPot"), std::logic_error);
 }
 
 TEST(FormBuilder, PutsEachTableIntoItsContainer) {
-  constexpr std::array kFormRows = {ControlRow{.Name = "frameContent",
-                                               .Index = 0,
-                                               .Kind = ControlKind::kFrame,
-                                               .Text = "Progress",
-                                               .Place = {3300, 0, 12000, 9045}}};
-  constexpr std::array kScreenRows = {
+  static constexpr std::array kFormRows = {ControlRow{.Name = "frameContent",
+                                                      .Index = 0,
+                                                      .Kind = ControlKind::kFrame,
+                                                      .Text = "Progress",
+                                                      .Place = {3300, 0, 12000, 9045}}};
+  static constexpr std::array kScreenRows = {
       ControlRow{.Name = "pane", .Kind = ControlKind::kFrame, .Place = {1500, 1500, 3000, 3000}}};
-  constexpr std::array kPaneRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
-  const std::array tables = {
+  static constexpr std::array kPaneRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
+  static constexpr std::array kTables = {
       ControlTable{.Container = "", .Font = kFont, .Rows = kFormRows},
       ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = kScreenRows},
       ControlTable{.Container = "pane", .Font = {.Family = "Verdana", .Points = 12}, .Rows = kPaneRows},
   };
   QWidget form;
-  const FormControls controls = BuildForm(form, tables);
+  const LayoutControls<kTables> controls(form);
 
   const Label& label = controls.LabelAt("lblPot");
   EXPECT_EQ(controls.FrameAt("frameContent", 0).Caption(), QStringLiteral("Progress"));
@@ -133,11 +132,11 @@ TEST(FormBuilder, FailsAtATableWithoutItsContainer) {
   const std::array tables = {ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = {}}};
   QWidget form;
 
-  EXPECT_THROW(std::ignore = BuildForm(form, tables), std::logic_error);
+  EXPECT_THROW(FormControls(form, tables), std::logic_error);
 }
 
 TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
-  constexpr std::array kRows = {
+  static constexpr std::array kRows = {
       ControlRow{.Name = "lblLink",
                  .Text = "First\r\nSecond",
                  .Place = kPlace,
@@ -158,7 +157,7 @@ TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
                  .LineWidth = 2},
   };
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   const Label& label = controls.LabelAt("lblLink");
   EXPECT_EQ(label.Text(), QStringLiteral("First\nSecond"));
@@ -182,20 +181,21 @@ TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
 }
 
 TEST(FormBuilder, GivesALineOfNoHeightAPixelToBeSeenBy) {
-  constexpr std::array kRows = {
+  static constexpr std::array kRows = {
       ControlRow{.Name = "across", .Kind = ControlKind::kLine, .Place = {150, 300, 1500, 0}},
       ControlRow{.Name = "down", .Kind = ControlKind::kLine, .Place = {150, 300, 0, 1500}},
   };
   QWidget form;
-  const FormControls controls = Build(form, kRows);
+  const OneTable<kRows> controls(form);
 
   EXPECT_EQ(controls.ShapeAt("across").geometry(), QRect(10, 20, 100, 1));
   EXPECT_EQ(controls.ShapeAt("down").geometry(), QRect(10, 20, 1, 100));
 }
 
 TEST(FormBuilder, BuildsOneControlMore) {
+  static constexpr std::array kRows = {ControlRow{.Name = "lblCards", .Index = 0, .Place = kPlace}};
   QWidget form;
-  FormControls controls;
+  OneTable<kRows> controls(form);
   controls.Add(BuildControl(form, {.Name = "lblCards", .Index = 168, .Text = "22", .Place = kPlace}, kFont));
 
   EXPECT_EQ(controls.LabelAt("lblCards", 168).Text(), QStringLiteral("22"));

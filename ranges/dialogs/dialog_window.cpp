@@ -10,40 +10,27 @@
 
 namespace quillon {
 
-FormControls BuildDialog(QWidget& form, const DialogDesign& design) {
+void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size) {
   InitArtwork();
-  form.setWindowTitle(ToQt(design.Title));
+  form.setWindowTitle(ToQt(title));
   form.setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
-  form.setFixedSize(PixelEdge(design.Size.Width), PixelEdge(design.Size.Height));
+  form.setFixedSize(PixelEdge(size.Width), PixelEdge(size.Height));
 
   form.setBackgroundRole(QPalette::Base);
   form.setAutoFillBackground(true);
+}
 
-  FormControls controls = BuildForm(form, design.Tables);
-  // No shapes are drawn round the boxes here.
+void FrameBoxes(QWidget& form) {
   for (TextBox* box : form.findChildren<TextBox*>())
     box->setFrame(true);
   for (QPlainTextEdit* memo : form.findChildren<QPlainTextEdit*>())
     memo->setFrameShape(QFrame::StyledPanel);
-  return controls;
 }
 
-void OrderTabs(const FormControls& controls, std::span<const std::string_view> names) {
-  QWidget* before = nullptr;
-  const auto goOnTo = [&before](QWidget* control) {
-    if (before == nullptr) {
-      control->setFocus(Qt::OtherFocusReason);
-    } else {
-      QWidget::setTabOrder(before, control);
-    }
-    before = control;
-  };
-  for (const std::string_view name : names) {
-    const std::int16_t count = controls.CountOf(name);
-    if (count == 0) goOnTo(&controls.Get<QWidget>(name));
-    for (std::int16_t index = 0; index < count; ++index)
-      goOnTo(&controls.Get<QWidget>(name, index));
-  }
+void OrderTabs(std::span<QWidget* const> controls) {
+  controls.front()->setFocus(Qt::OtherFocusReason);
+  for (std::size_t i = 1; i < controls.size(); ++i)
+    QWidget::setTabOrder(controls[i - 1], controls[i]);
 }
 
 void BringUp(QWidget& window) {

@@ -16,13 +16,6 @@
 
 namespace quillon {
 
-/// What sets one dialog off from the other.
-struct DialogDesign {
-  std::string_view Title;
-  TwipSize Size;  // the inner area
-  std::span<const ControlTable> Tables;
-};
-
 /// What a dialog finds round it. All of it outlives the dialog.
 struct DialogSurroundings {
   ProgramFolder Folder;
@@ -31,12 +24,23 @@ struct DialogSurroundings {
   ShiftWatch& Shift;
 };
 
-/// Makes `form` a window of that design, hidden, and builds its controls.
-[[nodiscard]] FormControls BuildDialog(QWidget& form, const DialogDesign& design);
+/// Makes `form` a window with that title and inner area, hidden.
+void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size);
 
-/// Lets Tab go from name to name, through every cell where the name is that of the grid's. The first has the focus when
-/// the window comes up.
-void OrderTabs(const FormControls& controls, std::span<const std::string_view> names);
+/// Draws frames round the boxes of the form, which has no shapes round them.
+void FrameBoxes(QWidget& form);
+
+/// The same with its controls.
+template <typename Controls>
+[[nodiscard]] Controls BuildDialog(QWidget& form, std::string_view title, const TwipSize& size) {
+  PrepareDialog(form, title, size);
+  Controls controls(form);
+  FrameBoxes(form);
+  return controls;
+}
+
+/// Lets Tab go from one control to the next. The first has the focus when the window comes up.
+void OrderTabs(std::span<QWidget* const> controls);
 
 /// Shows the window in front of all others and gives it the keyboard, also where it is shown already or minimised.
 void BringUp(QWidget& window);

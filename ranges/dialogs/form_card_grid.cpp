@@ -19,19 +19,24 @@ QString SpokenState(Rgb color) {
   return color == kHalfColor ? QStringLiteral("half as likely") : QStringLiteral("not selected");
 }
 
-CardGridPlaces PlacesIn(const FormControls& controls) {
-  const TwipRect frame = TwipsOf(controls.ShapeAt("shapeBlue").geometry());
-  const TwipRect square = TwipsOf(controls.ShapeAt("shapeCardBack", 0).geometry());
+CardGridPlaces PlacesIn(const Shape& frameShape, const Shape& squareShape) {
+  const TwipRect frame = TwipsOf(frameShape.geometry());
+  const TwipRect square = TwipsOf(squareShape.geometry());
   return PlaceCardGrid(frame.Left, frame.Top, {.Width = square.Width, .Height = square.Height});
 }
 
 }  // namespace
 
-FormCardGrid::FormCardGrid(FormControls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half)
-    : controls_(controls), container_(container), shift_(shift), half_(half), places_(PlacesIn(controls)) {
-  controls.ShapeAt("shapeBlue").setGeometry(PixelPlace(places_.Frame));
-  squares_[0] = &controls.ShapeAt("shapeCardBack", 0);
-  labels_[0] = &controls.LabelAt("lblCards", 0);
+FormCardGrid::FormCardGrid(const Patterns& patterns, FormControls& controls, QWidget& container, ShiftWatch& shift,
+                           const QCheckBox* half)
+    : controls_(controls),
+      container_(container),
+      shift_(shift),
+      half_(half),
+      places_(PlacesIn(patterns.Frame, patterns.Square)) {
+  patterns.Frame.setGeometry(PixelPlace(places_.Frame));
+  squares_[0] = &patterns.Square;
+  labels_[0] = &patterns.Cell;
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     BuildCell(index);
   MakeTabStop(0);

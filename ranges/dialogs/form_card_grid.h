@@ -24,7 +24,12 @@ class FormCardGrid : public QObject {
   /// Builds the cells, shown and unselected, each label in front of its square and all in front of what `container`,
   /// the form or screen, has besides. The captions keep the colour of label 0. `half` is the check box for half weight,
   /// null where the form has none. New cells are made known to `controls`.
-  FormCardGrid(FormControls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half);
+  template <typename Controls>
+  FormCardGrid(Controls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half)
+      : FormCardGrid({.Frame = controls.ShapeAt("shapeBlue"),
+                      .Square = controls.ShapeAt("shapeCardBack", 0),
+                      .Cell = controls.LabelAt("lblCards", 0)},
+                     controls, container, shift, half) {}
 
   /// The fills of the squares as they are.
   [[nodiscard]] CellColors Colors() const;
@@ -50,6 +55,15 @@ class FormCardGrid : public QObject {
   void CellReached(qint16 index);  // the mouse moved over it, or the keyboard went there
 
  private:
+  /// What the form has of the grid before it is built.
+  struct Patterns {
+    Shape& Frame;
+    Shape& Square;
+    Label& Cell;
+  };
+
+  FormCardGrid(const Patterns& patterns, FormControls& controls, QWidget& container, ShiftWatch& shift,
+               const QCheckBox* half);
   void BuildCell(std::int16_t index);
   void Listen(std::int16_t index);
   void MoveFocus(std::int16_t from, int key);

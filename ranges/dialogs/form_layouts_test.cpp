@@ -99,11 +99,9 @@ void ExpectNoOverlaps(const QWidget& form) {
   }
 }
 
-// Where Tab goes, once round, from the control that `first` names.
-std::vector<std::string> TabWay(QWidget& form, const FormControls& controls, std::string_view first,
-                                std::int16_t index) {
+// Where Tab goes, once round, from `start`.
+std::vector<std::string> TabWay(QWidget& form, QWidget* start) {
   std::vector<std::string> way;
-  QWidget* const start = &controls.Get<QWidget>(first, index);
   start->setFocus(Qt::TabFocusReason);
   do {
     way.push_back(form.focusWidget()->objectName().toStdString());
@@ -174,15 +172,15 @@ constexpr auto kNewRangeDesign = std::to_array<DesignedPlace>({
 });
 
 TEST(ManagerLayout, StandsAsDesigned) {
-  ExpectPlaces(ManagerLayout(), kManagerDesign);
+  ExpectPlaces(manager_layout::kTables, kManagerDesign);
 }
 
 TEST(NewRangeLayout, StandsAsDesigned) {
-  ExpectPlaces(NewRangeLayout(), kNewRangeDesign);
+  ExpectPlaces(new_range_layout::kTables, kNewRangeDesign);
 }
 
 TEST(RangeDialogLayouts, NoNameStandsTwice) {
-  for (const std::span<const ControlTable> tables : {ManagerLayout(), NewRangeLayout()}) {
+  for (const std::span<const ControlTable> tables : {manager_layout::kTables, new_range_layout::kTables}) {
     std::set<std::string> names;
     for (const ControlRow* row : RowsOf(tables))
       EXPECT_TRUE(names.insert(ObjectName(row->Name, row->Index)).second) << ObjectName(row->Name, row->Index);
@@ -231,25 +229,27 @@ TEST(NewRangeForm, NothingIsCutOffOrOverlaps) {
 
 TEST(ManagerForm, OnlyTheImagesAndTheCellsShowTheHand) {
   DialogStage stage;
-  const FormControls& controls = stage.OpenManager().Controls();
-  for (const std::string_view name : {"imgNew", "imgSave", "imgRename", "imgSaveAs", "imgDelete"})
-    EXPECT_EQ(controls.PictureAt(name).cursor().shape(), Qt::PointingHandCursor) << name;
+  const ManagerControls& controls = stage.OpenManager().Controls();
+  for (const auto name :
+       std::to_array<ManagerControls::Key<Picture>>({"imgNew", "imgSave", "imgRename", "imgSaveAs", "imgDelete"}))
+    EXPECT_EQ(controls.PictureAt(name).cursor().shape(), Qt::PointingHandCursor) << name.Name();
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     EXPECT_EQ(controls.LabelAt("lblCards", index).cursor().shape(), Qt::PointingHandCursor) << index;
-  for (const std::string_view name : {"lblRename", "lblSaveAs", "lblDelete", "lblRangeName"})
-    EXPECT_EQ(controls.LabelAt(name).cursor().shape(), Qt::ArrowCursor) << name;
+  for (const auto name :
+       std::to_array<ManagerControls::Key<Label>>({"lblRename", "lblSaveAs", "lblDelete", "lblRangeName"}))
+    EXPECT_EQ(controls.LabelAt(name).cursor().shape(), Qt::ArrowCursor) << name.Name();
 }
 
 TEST(NewRangeForm, NoCellShowsTheHand) {
   DialogStage stage;
-  const FormControls& controls = stage.OpenNewRange().Controls();
+  const NewRangeControls& controls = stage.OpenNewRange().Controls();
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     EXPECT_EQ(controls.LabelAt("lblCards", index).cursor().shape(), Qt::ArrowCursor) << index;
 }
 
 TEST(ManagerForm, AllCaptionsButThatOfDeleteTellOfDeleting) {
   DialogStage stage;
-  const FormControls& controls = stage.OpenManager().Controls();
+  const ManagerControls& controls = stage.OpenManager().Controls();
   const QString tip = QStringLiteral("Delete current range");
   EXPECT_EQ(controls.LabelAt("lblAction", 0).toolTip(), tip);
   EXPECT_EQ(controls.LabelAt("lblAction", 2).toolTip(), tip);
@@ -261,7 +261,7 @@ TEST(ManagerForm, AllCaptionsButThatOfDeleteTellOfDeleting) {
 
 TEST(NewRangeForm, TheKeyShowsTheColoursOfTheGrid) {
   DialogStage stage;
-  const FormControls& controls = stage.OpenNewRange().Controls();
+  const NewRangeControls& controls = stage.OpenNewRange().Controls();
   const std::array colors = {kUnselectedSuitedColor, kFullColor, kUnselectedOffsuitColor, kUnselectedPairColor,
                              kHalfColor};
   for (std::int16_t index = 0; index < 5; ++index) {
@@ -276,7 +276,7 @@ TEST(ManagerForm, TabGoesThroughAllThatCanBeDone) {
   ManagerForm& form = stage.OpenManager();
   const std::vector<std::string> way = {"lstRanges", "lblCards(0)", "txtRangeAbbr", "imgNew",  "imgSave",
                                         "imgRename", "imgSaveAs",   "imgDelete",    "chkHalf", "cmdOK"};
-  EXPECT_EQ(TabWay(form, form.Controls(), "lstRanges", kNoIndex), way);
+  EXPECT_EQ(TabWay(form, form.Controls().Find("lstRanges")), way);
 }
 
 TEST(NewRangeForm, TabGoesThroughAllThatCanBeDone) {
@@ -284,7 +284,7 @@ TEST(NewRangeForm, TabGoesThroughAllThatCanBeDone) {
   NewRangeForm& form = stage.OpenNewRange();
   const std::vector<std::string> way = {"lblCards(0)",  "txtRangeAbbr", "chkHalf", "txtRangeName",
                                         "chkSaveRange", "cmdCancel",    "cmdOK"};
-  EXPECT_EQ(TabWay(form, form.Controls(), "lblCards", 0), way);
+  EXPECT_EQ(TabWay(form, form.Controls().Find("lblCards(0)")), way);
 }
 
 TEST(RangeDialogLayouts, TheFirstOnTheWayHasTheFocusWhenTheWindowComesUp) {

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "ranges/dialogs/form_place.h"
-#include "ranges/dialogs/manager_layout.h"
 #include "ranges/range_names.h"
 #include "toolkit/text.h"
 
@@ -15,11 +14,11 @@ namespace quillon {
 
 ManagerForm::ManagerForm(DialogSurroundings surroundings)
     : around_(std::move(surroundings)),
-      controls_(BuildDialog(*this, {.Title = kManagerTitle, .Size = kManagerSize, .Tables = ManagerLayout()})),
+      controls_(BuildDialog<ManagerControls>(*this, kManagerTitle, kManagerSize)),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
       list_(controls_.Get<QListWidget>("lstRanges")) {
   RestorePlace(*this, kManagerSection, around_.Folder);
-  OrderTabs(controls_, ManagerTabOrder());
+  OrderTabs(controls_.All(manager_layout::kTabOrder));
   Bind();
 }
 

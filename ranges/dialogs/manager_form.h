@@ -16,8 +16,8 @@
 #include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/form_list.h"
+#include "ranges/dialogs/manager_layout.h"
 #include "ranges/range_messages.h"
-#include "toolkit/form_builder.h"
 
 namespace quillon {
 
@@ -28,7 +28,7 @@ class ManagerForm : public QWidget {
   /// The form where it stood last, hidden, with nothing selected on its grid and its list empty.
   explicit ManagerForm(DialogSurroundings surroundings);
 
-  [[nodiscard]] const FormControls& Controls() const { return controls_; }
+  [[nodiscard]] const ManagerControls& Controls() const { return controls_; }
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
   [[nodiscard]] FormListBox& RangeList() { return list_; }
 
@@ -66,7 +66,7 @@ class ManagerForm : public QWidget {
   void SetSummary(std::string_view text);
 
   DialogSurroundings around_;
-  FormControls controls_;
+  ManagerControls controls_;
   FormCardGrid grid_;
   FormListBox list_;
 };

@@ -27,8 +27,8 @@ class ManagerFormTest : public testing::Test {
   ManagerFormTest() { Stage.OpenManager(); }
 
   [[nodiscard]] ManagerForm& Form() const { return *Stage.Dialogs.LoadedManager(); }
-  [[nodiscard]] const FormControls& Controls() const { return Form().Controls(); }
-  void Click(std::string_view name) const { ClickOn(Controls(), name); }
+  [[nodiscard]] const ManagerControls& Controls() const { return Form().Controls(); }
+  void Click(ManagerControls::Key<> name) const { ClickOn(Controls(), name); }
   void Cell(std::string_view label) const { ClickCell(Controls(), label); }
   void SelectRow(int row) const {
     auto& list = Controls().Get<QListWidget>("lstRanges");
@@ -172,21 +172,21 @@ TEST_F(ManagerFormTest, ItIsToldBeforeOrAfterTheListsAreFilled) {
     refreshes = Stage.Refreshes;
     box.accept();
   };
-  for (const char* picture : {"imgSave", "imgSaveAs", "imgRename"}) {
-    SCOPED_TRACE(picture);
+  for (const auto picture : std::to_array<ManagerControls::Key<>>({"imgSave", "imgSaveAs", "imgRename"})) {
+    SCOPED_TRACE(picture.Name());
     SelectRow(0);
     Stage.Refreshes = 0;
-    const bool asksName = std::string_view(picture) != "imgSave";
+    const bool asksName = picture.Name() != "imgSave";
     if (asksName) {
       ExpectDialog([&](QDialog& box) {
-        box.findChild<QLineEdit*>()->setText(ToQt("Zz " + std::string(picture)));
+        box.findChild<QLineEdit*>()->setText(ToQt("Zz " + std::string(picture.Name())));
         box.accept();
       });
     }
     ExpectDialog(look);
     Click(picture);
     EXPECT_EQ(refreshes, asksName ? 1 : 0);
-    EXPECT_EQ(selected, asksName ? "Zz " + std::string(picture) : "Button Shove");
+    EXPECT_EQ(selected, asksName ? "Zz " + std::string(picture.Name()) : "Button Shove");
     EXPECT_EQ(Stage.Refreshes, 1);
   }
 }
@@ -399,19 +399,19 @@ TEST_F(ManagerFormTest, ClosingKeepsThePlaceAndGivesThePointerBack) {
 
 TEST(ManagerFormDeathTest, AFileThatIsGoneStopsTheProgramAndIsNamed) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  const auto startWithoutTight = [](const std::function<void(const FormControls&)>& act) {
+  const auto startWithoutTight = [](const std::function<void(const ManagerControls&)>& act) {
     DialogStage stage;
-    const FormControls& controls = stage.OpenManager().Controls();
+    const ManagerControls& controls = stage.OpenManager().Controls();
     QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Down);
     std::filesystem::remove(stage.Program.RangeFile("Tight.txt"));
     act(controls);
   };
-  EXPECT_EXIT(startWithoutTight([](const FormControls& controls) {
+  EXPECT_EXIT(startWithoutTight([](const ManagerControls& controls) {
                 QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Up);
                 QTest::keyClick(&controls.Get<QListWidget>("lstRanges"), Qt::Key_Down);
               }),
               testing::ExitedWithCode(1), "Invalid procedure call");
-  EXPECT_EXIT(startWithoutTight([](const FormControls& controls) {
+  EXPECT_EXIT(startWithoutTight([](const ManagerControls& controls) {
                 ExpectMessageBox(AskToDelete("Tight"), MessageAnswer::kYes);
                 ClickOn(controls, "imgDelete");
               }),

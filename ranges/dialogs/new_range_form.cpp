@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "ranges/dialogs/form_place.h"
-#include "ranges/dialogs/new_range_layout.h"
 #include "ranges/range_messages.h"
 #include "ranges/range_names.h"
 #include "toolkit/text.h"
@@ -16,13 +15,13 @@ namespace quillon {
 
 NewRangeForm::NewRangeForm(DialogSurroundings surroundings)
     : around_(std::move(surroundings)),
-      controls_(BuildDialog(*this, {.Title = kNewRangeTitle, .Size = kNewRangeSize, .Tables = NewRangeLayout()})),
+      controls_(BuildDialog<NewRangeControls>(*this, kNewRangeTitle, kNewRangeSize)),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
       name_(controls_.Get<TextBox>("txtRangeName")) {
   controls_.Get<QCheckBox>("chkSaveRange").setChecked(true);
 
   RestorePlace(*this, kNewRangeSection, around_.Folder);
-  OrderTabs(controls_, NewRangeTabOrder());
+  OrderTabs(controls_.All(new_range_layout::kTabOrder));
   Bind();
 }
 

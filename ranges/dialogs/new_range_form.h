@@ -14,7 +14,7 @@
 
 #include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/form_card_grid.h"
-#include "toolkit/form_builder.h"
+#include "ranges/dialogs/new_range_layout.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {
@@ -26,7 +26,7 @@ class NewRangeForm : public QWidget {
   /// The form where it stood last, hidden, with an empty grid.
   explicit NewRangeForm(DialogSurroundings surroundings);
 
-  [[nodiscard]] const FormControls& Controls() const { return controls_; }
+  [[nodiscard]] const NewRangeControls& Controls() const { return controls_; }
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
 
   /// Toggles these cells as clicks on them would, one after another, sums the grid up, and puts the focus on the name
@@ -50,7 +50,7 @@ class NewRangeForm : public QWidget {
   void ClickOk();
 
   DialogSurroundings around_;
-  FormControls controls_;
+  NewRangeControls controls_;
   FormCardGrid grid_;
   TextBox& name_;
 };

@@ -21,9 +21,9 @@ class NewRangeFormTest : public testing::Test {
   }
 
   [[nodiscard]] NewRangeForm& Form() const { return *Stage.Dialogs.LoadedNewRange(); }
-  [[nodiscard]] const FormControls& Controls() const { return Form().Controls(); }
+  [[nodiscard]] const NewRangeControls& Controls() const { return Form().Controls(); }
   [[nodiscard]] TextBox& Name() const { return Controls().Get<TextBox>("txtRangeName"); }
-  void Click(std::string_view name) const { ClickOn(Controls(), name); }
+  void Click(NewRangeControls::Key<> name) const { ClickOn(Controls(), name); }
   void Cell(std::string_view label) const { ClickCell(Controls(), label); }
   void Type(const char* text) const { QTest::keyClicks(&Name(), QString::fromUtf8(text)); }
   // The middle of the check box's place is beside its caption.

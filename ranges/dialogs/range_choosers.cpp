@@ -1,17 +1,20 @@
 #include "ranges/dialogs/range_choosers.h"
 
+#include <utility>
+
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "toolkit/text.h"
 
 namespace quillon {
 
-RangeChoosers::RangeChoosers(const FormControls& controls) : controls_(controls) {
-  for (std::int16_t i = 0; i < kChooserCount; ++i) {
-    lists_.push_back(std::make_unique<FormChooser>(controls.Get<QComboBox>("cmboRanges", i)));
+RangeChoosers::RangeChoosers(ChooserControls controls) : controls_(std::move(controls)) {
+  for (std::int16_t i = 0; const ChooserControls::Chooser& chooser : controls_.Choosers) {
+    lists_.push_back(std::make_unique<FormChooser>(chooser.List));
     connect(lists_.back().get(), &FormChooser::Clicked, this, [this, i] { ShowLinks(i); });
-    connect(&controls.LabelAt("lblEditRange", i), &Control::Clicked, this, [this, i] { Q_EMIT EditClicked(i); });
-    connect(&controls.LabelAt("lblNewRange", i), &Control::Clicked, this, [this, i] { Q_EMIT NewClicked(i); });
+    connect(&chooser.Edit, &Control::Clicked, this, [this, i] { Q_EMIT EditClicked(i); });
+    connect(&chooser.New, &Control::Clicked, this, [this, i] { Q_EMIT NewClicked(i); });
+    ++i;
   }
 }
 
@@ -21,17 +24,18 @@ void RangeChoosers::Refresh(const ProgramFolder& folder) {
 }
 
 std::int16_t RangeChoosers::LastEdit() const {
-  return RoundToInt16(LeadingNumber(FromQt(controls_.LabelAt("lblLastEdit").Text())));
+  return RoundToInt16(LeadingNumber(FromQt(controls_.LastEdit.Text())));
 }
 
 void RangeChoosers::SetLastEdit(std::int16_t index) {
-  controls_.LabelAt("lblLastEdit").SetText(QString::number(index));
+  controls_.LastEdit.SetText(QString::number(index));
 }
 
 void RangeChoosers::ShowLinks(std::int16_t index) {
   const bool isRange = !List(index).CurrentText().empty();
-  controls_.LabelAt("lblOr", index).setVisible(isRange);
-  controls_.LabelAt("lblEditRange", index).setVisible(isRange);
+  const ChooserControls::Chooser& chooser = controls_.Choosers.at(static_cast<std::size_t>(index));
+  chooser.Or.setVisible(isRange);
+  chooser.Edit.setVisible(isRange);
 }
 
 }  // namespace quillon

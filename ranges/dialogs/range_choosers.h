@@ -20,12 +20,35 @@ namespace quillon {
 
 inline constexpr std::int16_t kChooserCount = 4;
 
+/// What the main window has for the choosers.
+struct ChooserControls {
+  struct Chooser {
+    QComboBox& List;
+    Label& Or;
+    Label& Edit;
+    Label& New;
+  };
+
+  template <typename Controls>
+  explicit ChooserControls(const Controls& controls) : LastEdit(controls.LabelAt("lblLastEdit")) {
+    for (std::int16_t i = 0; i < kChooserCount; ++i) {
+      Choosers.push_back({.List = controls.template Get<QComboBox>("cmboRanges", i),
+                          .Or = controls.LabelAt("lblOr", i),
+                          .Edit = controls.LabelAt("lblEditRange", i),
+                          .New = controls.LabelAt("lblNewRange", i)});
+    }
+  }
+
+  std::vector<Chooser> Choosers;
+  Label& LastEdit;
+};
+
 class RangeChoosers : public QObject {
   Q_OBJECT
 
  public:
-  /// `controls` are those of the main window, which outlive this.
-  explicit RangeChoosers(const FormControls& controls);
+  /// The controls outlive this.
+  explicit RangeChoosers(ChooserControls controls);
 
   [[nodiscard]] FormChooser& List(std::int16_t index) const { return *lists_.at(static_cast<std::size_t>(index)); }
 
@@ -44,7 +67,7 @@ class RangeChoosers : public QObject {
  private:
   void ShowLinks(std::int16_t index);
 
-  const FormControls& controls_;
+  ChooserControls controls_;
   std::vector<std::unique_ptr<FormChooser>> lists_;
 };
 

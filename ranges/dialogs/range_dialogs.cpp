@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-RangeDialogs::RangeDialogs(QWidget& mainWindow, const FormControls& controls, DialogSurroundings surroundings)
-    : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(controls) {
+RangeDialogs::RangeDialogs(QWidget& mainWindow, ChooserControls controls, DialogSurroundings surroundings)
+    : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(std::move(controls)) {
   connect(&choosers_, &RangeChoosers::EditClicked, this, &RangeDialogs::EditRange);
   // Where the dialog is open already, for another chooser, its range goes to this one from now on.
   connect(&choosers_, &RangeChoosers::NewClicked, this, [this](qint16 index) {

@@ -20,7 +20,7 @@ class RangeDialogs : public QObject {
  public:
   /// `controls` are those of the main window, among them the choosers; the boxes stand over the dialog that asks. All
   /// that is given outlives the dialogs.
-  RangeDialogs(QWidget& mainWindow, const FormControls& controls, DialogSurroundings surroundings);
+  RangeDialogs(QWidget& mainWindow, ChooserControls controls, DialogSurroundings surroundings);
 
   [[nodiscard]] const RangeChoosers& Choosers() const { return choosers_; }
 

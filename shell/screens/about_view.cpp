@@ -63,7 +63,7 @@ CheckBoxState StateOf(const QCheckBox& box) {
 
 }  // namespace
 
-AboutView::AboutView(const FormControls& controls, Surroundings surroundings)
+AboutView::AboutView(const MainControls& controls, Surroundings surroundings)
     : controls_(controls), around_(std::move(surroundings)) {
   if (!around_.Clock) around_.Clock = SystemMilliseconds;
 }

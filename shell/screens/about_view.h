@@ -8,11 +8,11 @@
 #include <string>
 
 #include "ranges/range_files.h"
+#include "shell/screens/main_layout.h"
 #include "shell/upgrade_check.h"
 #include "shell/web_client.h"
 #include "support/input_boxes.h"
 #include "support/message_boxes.h"
-#include "toolkit/form_builder.h"
 
 namespace quillon {
 
@@ -27,7 +27,7 @@ class AboutView {
     std::function<std::int32_t()> Clock;  // the milliseconds that a wait is measured by; none: the system's
   };
 
-  AboutView(const FormControls& controls, Surroundings surroundings);
+  AboutView(const MainControls& controls, Surroundings surroundings);
 
   /// Shows this version, brings `chkUpgrade` to the state of the setting, and, if that is on, asks the web host for the
   /// newest version and shows the outcome. Blocks for as long as the request takes.
@@ -58,7 +58,7 @@ class AboutView {
   [[nodiscard]] std::string FeedbackText() const;
   void WaitToSend() const;
 
-  const FormControls& controls_;
+  const MainControls& controls_;
   Surroundings around_;
 };
 

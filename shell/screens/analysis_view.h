@@ -8,17 +8,17 @@
 #include "analysis/analysis_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_choosers.h"
+#include "shell/screens/main_layout.h"
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/results_view.h"
-#include "toolkit/form_builder.h"
 
 namespace quillon {
 
 class AnalysisView : public AnalysisWindow {
  public:
   struct Parts {
-    FormControls& Controls;
+    MainControls& Controls;
     const NumberBoxView& Amounts;
     const RangeChoosers& Choosers;
     FormCardGrid& Grid;

@@ -27,7 +27,7 @@ class DetailsInWindow : public MainFormTest {
   }
 
   /// Picks an entry with the keyboard.
-  void Pick(std::string_view list, const std::string& text) {
+  void Pick(MainControls::Key<QComboBox> list, const std::string& text) {
     auto& box = Get<QComboBox>(list);
     const int wanted = box.findText(ToQt(text));
     ASSERT_GE(wanted, 0);

@@ -96,7 +96,7 @@ void OpenImage(const std::string& fileName) {
 
 }  // namespace
 
-GridImageView::GridImageView(QWidget& form, const FormControls& controls, MessageBoxes& messages, ProgramFolder folder)
+GridImageView::GridImageView(QWidget& form, const MainControls& controls, MessageBoxes& messages, ProgramFolder folder)
     : form_(form), controls_(controls), messages_(messages), folder_(std::move(folder)) {}
 
 void GridImageView::Save() {

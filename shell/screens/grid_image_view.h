@@ -6,15 +6,15 @@
 #include <string>
 
 #include "ranges/range_files.h"
+#include "shell/screens/main_layout.h"
 #include "support/message_boxes.h"
-#include "toolkit/form_builder.h"
 
 namespace quillon {
 
 class GridImageView {
  public:
   /// The boxes and the folder's calls outlive the view, as the form and its controls do.
-  GridImageView(QWidget& form, const FormControls& controls, MessageBoxes& messages, ProgramFolder folder);
+  GridImageView(QWidget& form, const MainControls& controls, MessageBoxes& messages, ProgramFolder folder);
 
   /// The click on `imgSave`: makes the folder "Saved Grids" if it is missing, asks for a file name, captures the grid,
   /// writes the file, and offers to open it. The dialog offers the name of the last save; a cancelled one saves
@@ -29,7 +29,7 @@ class GridImageView {
   [[nodiscard]] std::string CaptureGrid();
 
   QWidget& form_;
-  const FormControls& controls_;
+  const MainControls& controls_;
   MessageBoxes& messages_;
   ProgramFolder folder_;
   std::string lastName_;  // of the file that was saved last

@@ -55,16 +55,17 @@ TEST_P(HoverTextsInWindow, TellWhatTheRunFound) {
   EXPECT_EQ(FromQt(Get<Picture>("imgHover").Artwork()), row.Picture);
   EXPECT_EQ(Caption("lblHovDesc_Eq"), row.EquityTitle);
   EXPECT_EQ(Caption("lblHov_Eq"), row.Equity);
-  for (const char* name : {"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"})
-    EXPECT_EQ(Shows(name), !row.Value.empty()) << name;
+  for (const ControlName name :
+       std::to_array<ControlName>({"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"}))
+    EXPECT_EQ(Shows(name), !row.Value.empty()) << name.Name();
   if (!row.Value.empty()) {
     EXPECT_EQ(Caption("lblHovDesc_EV"), "EV:");
     EXPECT_EQ(Caption("lblHov_EV"), row.Value);
     EXPECT_EQ(Caption("lblHovDesc_ROI"), "ROI:");
     EXPECT_EQ(Caption("lblHov_ROI"), row.Return);
   }
-  for (const char* name : {"lblHovDesc_FoldPerc", "lblHov_FoldPerc"})
-    EXPECT_EQ(Shows(name), !row.FoldShare.empty()) << name;
+  for (const ControlName name : std::to_array<ControlName>({"lblHovDesc_FoldPerc", "lblHov_FoldPerc"}))
+    EXPECT_EQ(Shows(name), !row.FoldShare.empty()) << name.Name();
   if (!row.FoldShare.empty()) {
     EXPECT_EQ(Caption("lblHov_FoldPerc"), row.FoldShare);
   }
@@ -205,8 +206,9 @@ TEST_F(HoverInWindow, EquityHidesTheOtherLinesAlsoForTheSameHand) {
   Hover("AA");
   static_cast<Analysis&>(Form.State()) = sample::EquityState();
   Hover("AA");
-  for (const char* name : {"lblHov_EV", "lblHov_ROI", "lblHov_FoldPerc", "lblHovDesc_FoldPerc"})
-    EXPECT_FALSE(Shows(name)) << name;
+  for (const ControlName name :
+       std::to_array<ControlName>({"lblHov_EV", "lblHov_ROI", "lblHov_FoldPerc", "lblHovDesc_FoldPerc"}))
+    EXPECT_FALSE(Shows(name)) << name.Name();
   static_cast<Analysis&>(Form.State()) = sample::CallState();
   Hover("AKs");
   EXPECT_TRUE(Shows("lblHov_EV"));

@@ -1,5 +1,7 @@
 #include "shell/screens/hover_view.h"
 
+#include <array>
+
 #include "shell/screens/main_layout.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -8,21 +10,21 @@ namespace quillon {
 namespace {
 
 // The pictures lie in the store, each under the name of its colour.
-std::string_view StoredPicture(HoverPicture picture) {
+MainControls::Key<Picture> StoredPicture(HoverPicture picture) {
   switch (picture) {
     case HoverPicture::kGreen:
       return "backGreen";
     case HoverPicture::kRed:
       return "backRed";
     case HoverPicture::kBlue:
-      return "backBlue";
+      break;
   }
-  return {};
+  return "backBlue";
 }
 
 }  // namespace
 
-HoverView::HoverView(const FormControls& controls, const FormCardGrid& grid) : controls_(controls), grid_(grid) {
+HoverView::HoverView(const MainControls& controls, const FormCardGrid& grid) : controls_(controls), grid_(grid) {
   controls_.FrameAt("frameHover").resize(controls_.ShapeAt("rectHov").size());
   SetCaption("lblHov_Cards", {});
 }
@@ -56,13 +58,15 @@ void HoverView::BringUpBeside(std::int16_t index) {
   panel.show();
 }
 
-void HoverView::SetCaption(std::string_view name, std::string_view caption) {
-  controls_.LabelAt(name).SetText(ToQt(caption));
+void HoverView::SetCaption(MainControls::Key<Label> label, std::string_view caption) {
+  controls_.LabelAt(label).SetText(ToQt(caption));
 }
 
 void HoverView::SetValueLinesVisible(bool visible) {
-  for (const std::string_view name : {"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"})
-    controls_.LabelAt(name).setVisible(visible);
+  constexpr auto kLines =
+      std::to_array<MainControls::Key<Label>>({"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"});
+  for (const MainControls::Key<Label>& line : kLines)
+    controls_.LabelAt(line).setVisible(visible);
 }
 
 void HoverView::SetFoldLineVisible(bool visible) {

@@ -7,7 +7,7 @@
 
 #include "ranges/dialogs/form_card_grid.h"
 #include "results/hover_panel.h"
-#include "toolkit/form_builder.h"
+#include "shell/screens/main_layout.h"
 
 namespace quillon {
 
@@ -15,7 +15,7 @@ class HoverView {
  public:
   /// The panel takes the size of its border. It shows no hand yet, so that the first one that is hovered is a new one
   /// to it, AA too.
-  HoverView(const FormControls& controls, const FormCardGrid& grid);
+  HoverView(const MainControls& controls, const FormCardGrid& grid);
 
   /// The mouse over the cell `index`: fills the panel if it shows another hand, and brings it up beside the cell. Lines
   /// that the hand has not are hidden at once. Before any analysis nothing happens.
@@ -26,11 +26,11 @@ class HoverView {
  private:
   void Fill(const HoverTexts& texts);
   void BringUpBeside(std::int16_t index);
-  void SetCaption(std::string_view name, std::string_view caption);
+  void SetCaption(MainControls::Key<Label> label, std::string_view caption);
   void SetValueLinesVisible(bool visible);
   void SetFoldLineVisible(bool visible);
 
-  const FormControls& controls_;
+  const MainControls& controls_;
   const FormCardGrid& grid_;
 };
 

@@ -44,9 +44,9 @@ class KeyboardInWindow : public MainFormTest {
   /// The names of all controls that show and that a user can do something with.
   std::set<std::string> Workable() {
     std::set<std::string> names;
-    for (const ControlTable& table : MainLayout()) {
+    for (const ControlTable& table : main_layout::kTables) {
       for (const ControlRow& row : table.Rows) {
-        const QWidget& control = Get(row.Name, row.Index);
+        const QWidget& control = Form.Controls().At(row);
         if (control.isVisible() && CanBeWorkedWith(control)) names.insert(FromQt(control.objectName()));
       }
     }
@@ -64,13 +64,13 @@ class KeyboardInWindow : public MainFormTest {
     return names;
   }
 
-  void Focus(std::string_view name, std::int16_t index = kNoIndex) {
+  void Focus(ControlName name, std::int16_t index = kNoIndex) {
     Get(name, index).setFocus(Qt::TabFocusReason);
     ASSERT_EQ(Form.focusWidget(), &Get(name, index));
   }
 
   /// What the window shows there.
-  QImage Look(std::string_view name, std::int16_t index = kNoIndex) {
+  QImage Look(ControlName name, std::int16_t index = kNoIndex) {
     QWidget& control = Get(name, index);
     return Form.grab(QRect(control.mapTo(&Form, QPoint(0, 0)), control.size())).toImage();
   }
@@ -269,7 +269,7 @@ TEST_F(KeyboardInWindow, TheMouseTakesNoFocusToTheGrid) {
 }
 
 struct RoleCase {
-  std::string_view Name;
+  MainControls::Key<> Name;
   std::int16_t Index;
   QAccessible::Role Role;
   std::string_view Says;
@@ -317,8 +317,9 @@ TEST_F(SpokenWindow, NamesAndRolesTellWhatAControlIs) {
   });
   for (const RoleCase& row : kRoles) {
     QWidget& control = Get(row.Name, row.Index);
-    EXPECT_EQ(NameOf(control), row.Says) << ObjectName(row.Name, row.Index);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&control)->role(), row.Role) << ObjectName(row.Name, row.Index);
+    EXPECT_EQ(NameOf(control), row.Says) << ObjectName(row.Name.Name(), row.Index);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&control)->role(), row.Role)
+        << ObjectName(row.Name.Name(), row.Index);
   }
 }
 

@@ -29,11 +29,11 @@ namespace quillon {
 namespace {
 
 // The design's own size is there from the start: the screens are fitted to the window as they come up.
-FormControls BuildMainControls(QWidget& form) {
+MainControls BuildMainControls(QWidget& form) {
   form.setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight}).size());
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
-  return BuildForm(form, MainLayout());
+  return MainControls(form);
 }
 
 std::int16_t ToIndex(qint16 index) {
@@ -48,7 +48,7 @@ MainForm::MainForm(Surroundings surroundings)
       navigation_(*this, controls_),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
       dialogs_(
-          *this, controls_,
+          *this, ChooserControls(controls_),
           {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
@@ -138,8 +138,8 @@ void MainForm::ClickNav(std::int16_t link) {
   BuildReport(report_, state_);
 }
 
-void MainForm::OnClick(std::string_view name, std::int16_t index, std::function<void()> action) {
-  connect(&controls_.Get<Control>(name, index), &Control::Clicked, this, std::move(action));
+void MainForm::OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action) {
+  connect(&controls_.Get<Control>(key, index), &Control::Clicked, this, std::move(action));
 }
 
 void MainForm::BindSidePanel() {
@@ -214,11 +214,11 @@ void MainForm::BindShortcuts() {
 // Each screen is read from top to bottom, and a line of it from left to right; the side panel comes first.
 void MainForm::OrderTabs() {
   QWidget* before = nullptr;
-  for (const ControlTable& table : MainLayout()) {
+  for (const ControlTable& table : main_layout::kTables) {
     std::vector<QWidget*> reached;
     for (const ControlRow& row : table.Rows) {
-      QWidget* control = controls_.Find(ObjectName(row.Name, row.Index));
-      if (control->focusPolicy() != Qt::NoFocus) reached.push_back(control);
+      QWidget& control = controls_.At(row);
+      if (control.focusPolicy() != Qt::NoFocus) reached.push_back(&control);
     }
     std::ranges::sort(reached, {}, [](const QWidget* control) { return std::pair(control->y(), control->x()); });
     for (QWidget* control : reached) {

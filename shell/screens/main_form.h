@@ -13,12 +13,12 @@
 #include "shell/screens/analysis_view.h"
 #include "shell/screens/grid_image_view.h"
 #include "shell/screens/hover_view.h"
+#include "shell/screens/main_layout.h"
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_view.h"
 #include "shell/web_client.h"
-#include "toolkit/form_builder.h"
 
 namespace quillon {
 
@@ -44,7 +44,7 @@ class MainForm : public QWidget {
   /// anything shows, if a folder cannot be made or the ranges cannot be listed ("ranges/range_lists.h").
   void Start();
 
-  [[nodiscard]] FormControls& Controls() { return controls_; }
+  [[nodiscard]] MainControls& Controls() { return controls_; }
   [[nodiscard]] AnalysisState& State() { return state_; }
   [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
 
@@ -63,11 +63,11 @@ class MainForm : public QWidget {
   void BindDetails();
   void BindAbout();
   void BindShortcuts();
-  void OnClick(std::string_view name, std::int16_t index, std::function<void()> action);
+  void OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action);
   void OrderTabs();
 
   Surroundings around_;
-  FormControls controls_;
+  MainControls controls_;
   AnalysisState state_;
   NavigationView navigation_;
   FormCardGrid grid_;

@@ -57,7 +57,7 @@ const auto kContainers = std::to_array<ContainerCase>({
 
 // One row of the design, with its place in twips and its font in pixels (4/3 of its points, to the nearest).
 struct LabelCase {
-  std::string_view Name;
+  MainControls::Key<Label> Name;
   std::int16_t Index;
   std::string_view Caption;  // empty: it is looked at elsewhere
   TwipRect Place;
@@ -188,7 +188,7 @@ const auto kLabels = std::to_array<LabelCase>({
 // clang-format on
 
 struct PlaceCase {
-  std::string_view Name;
+  MainControls::Key<> Name;
   std::int16_t Index;
   TwipRect Place;
 };
@@ -252,7 +252,7 @@ const auto kPlaces = std::to_array<PlaceCase>({
 });
 
 struct ShapeCase {
-  std::string_view Name;
+  MainControls::Key<Shape> Name;
   std::int16_t Index;
   std::string_view Fill;  // empty: none
   std::string_view Line;
@@ -304,7 +304,7 @@ class MainLayoutTest : public testing::Test {
   static void TearDownTestSuite() { delete stage; }
 
   static MainStage& Stage() { return *stage; }
-  static QWidget& Get(std::string_view name, std::int16_t index) { return stage->Get(name, index); }
+  static QWidget& Get(MainControls::Key<> name, std::int16_t index) { return stage->Get(name, index); }
 
  private:
   static inline MainStage* stage = nullptr;
@@ -313,7 +313,7 @@ class MainLayoutTest : public testing::Test {
 TEST_F(MainLayoutTest, EveryControlStandsInItsContainerUnderItsName) {
   for (const ContainerCase& row : kContainers) {
     std::set<std::string> built;
-    for (const ControlTable& table : MainLayout()) {
+    for (const ControlTable& table : main_layout::kTables) {
       if (table.Container != row.Container) continue;
       for (const ControlRow& control : table.Rows)
         built.insert(ObjectName(control.Name, control.Index));
@@ -333,7 +333,7 @@ TEST_F(MainLayoutTest, EveryControlStandsInItsContainerUnderItsName) {
 
 TEST_F(MainLayoutTest, LabelsReadAsDesigned) {
   for (const LabelCase& row : kLabels) {
-    SCOPED_TRACE(ObjectName(row.Name, row.Index));
+    SCOPED_TRACE(ObjectName(row.Name.Name(), row.Index));
     const Label& label = Stage().LabelAt(row.Name, row.Index);
     if (!row.Caption.empty()) {
       EXPECT_EQ(FromQt(label.Text()), row.Caption);
@@ -351,12 +351,12 @@ TEST_F(MainLayoutTest, LabelsReadAsDesigned) {
 
 TEST_F(MainLayoutTest, EverythingElseHasItsPlace) {
   for (const PlaceCase& row : kPlaces)
-    EXPECT_EQ(Get(row.Name, row.Index).geometry(), PixelPlace(row.Place)) << ObjectName(row.Name, row.Index);
+    EXPECT_EQ(Get(row.Name, row.Index).geometry(), PixelPlace(row.Place)) << ObjectName(row.Name.Name(), row.Index);
 }
 
 TEST_F(MainLayoutTest, ShapesLookAsDesigned) {
   for (const ShapeCase& row : kShapes) {
-    SCOPED_TRACE(ObjectName(row.Name, row.Index));
+    SCOPED_TRACE(ObjectName(row.Name.Name(), row.Index));
     const auto& shape = Stage().Get<Shape>(row.Name, row.Index);
     EXPECT_EQ(shape.Fill().alpha() == 0 ? "" : ColorName(shape.Fill()), row.Fill);
     EXPECT_EQ(ColorName(shape.LineColor()), row.Line);
@@ -380,10 +380,10 @@ TEST_F(MainLayoutTest, NumbersStandWhiteOnBlue) {
 
 TEST_F(MainLayoutTest, TheLegendAndTheUpgradeBoxStandOnWhite) {
   EXPECT_EQ(ColorName(Stage().LabelAt("Label", 12).BackColor()), "#ffffff");
-  for (const char* name : {"frameLegend", "chkUpgrade"}) {
+  for (const auto name : std::to_array<MainControls::Key<>>({"frameLegend", "chkUpgrade"})) {
     QWidget& control = Get(name, kNoIndex);
     const QImage picture = control.parentWidget()->grab(control.geometry()).toImage();
-    EXPECT_EQ(ColorName(picture.pixelColor(picture.width() - 1, 0)), "#ffffff") << name;
+    EXPECT_EQ(ColorName(picture.pixelColor(picture.width() - 1, 0)), "#ffffff") << name.Name();
   }
 }
 
@@ -422,9 +422,9 @@ TEST_F(MainLayoutTest, TheProductsAddressesStandInTheTexts) {
 }
 
 TEST_F(MainLayoutTest, HiddenControlsAreHidden) {
-  for (const char* name :
-       {"frameControls", "shapeBlue", "cmbo169", "lblSpecificHand", "frameHover", "lblLastEdit", "fileList"}) {
-    EXPECT_TRUE(Get(name, kNoIndex).isHidden()) << name;
+  for (const auto name : std::to_array<MainControls::Key<>>(
+           {"frameControls", "shapeBlue", "cmbo169", "lblSpecificHand", "frameHover", "lblLastEdit", "fileList"})) {
+    EXPECT_TRUE(Get(name, kNoIndex).isHidden()) << name.Name();
   }
   EXPECT_TRUE(Get("lblLink", 3).isHidden());
 }
@@ -452,16 +452,16 @@ TEST_F(MainLayoutTest, EverythingStaysWithinItsScreen) {
 
 // Text must not run into a neighbour: what does not overlap in the design does not on the screen.
 TEST_F(MainLayoutTest, NoLabelRunsIntoItsNeighbours) {
-  for (const ControlTable& table : MainLayout()) {
+  for (const ControlTable& table : main_layout::kTables) {
     for (const ControlRow& row : table.Rows) {
       if (row.Kind != ControlKind::kLabel || row.Hidden) continue;
-      const QRect grown = Get(row.Name, row.Index).geometry();
+      const QRect grown = Stage().Form.Controls().At(row).geometry();
       for (const ControlRow& other : table.Rows) {
         const bool plain = other.Kind == ControlKind::kShape || other.Kind == ControlKind::kRoundedShape ||
                            other.Kind == ControlKind::kLine;
         if (&other == &row || plain || other.Hidden) continue;
         if (PixelPlace(row.Place).intersects(PixelPlace(other.Place))) continue;
-        EXPECT_FALSE(grown.intersects(Get(other.Name, other.Index).geometry()))
+        EXPECT_FALSE(grown.intersects(Stage().Form.Controls().At(other).geometry()))
             << ObjectName(row.Name, row.Index) << " and " << ObjectName(other.Name, other.Index);
       }
     }
@@ -469,10 +469,10 @@ TEST_F(MainLayoutTest, NoLabelRunsIntoItsNeighbours) {
 }
 
 TEST_F(MainLayoutTest, EveryPictureIsThere) {
-  for (const ControlTable& table : MainLayout()) {
+  for (const ControlTable& table : main_layout::kTables) {
     for (const ControlRow& row : table.Rows) {
       if (row.Picture.empty()) continue;
-      const auto& picture = Stage().Get<Picture>(row.Name, row.Index);
+      const auto& picture = dynamic_cast<const Picture&>(Stage().Form.Controls().At(row));
       EXPECT_FALSE(ArtworkPixmap(picture.Artwork(), picture.size(), 1).isNull()) << ObjectName(row.Name, row.Index);
     }
   }

@@ -245,10 +245,10 @@ TEST_F(NavigationInWindow, TheHandCursorShowsOverLinksAlone) {
   constexpr std::array<std::string_view, 11> kLinkNames = {
       "cmdPreflopEV", "imgSave",     "imgSaveAsRange",  "lblEditRange", "lblLink", "lblNav",
       "lblNewRange",  "lblStopCalc", "lblRangeManager", "lblWhatsThis", "picLogo"};
-  for (const ControlTable& table : MainLayout()) {
+  for (const ControlTable& table : main_layout::kTables) {
     for (const ControlRow& row : table.Rows) {
       const bool link = std::ranges::find(kLinkNames, row.Name) != kLinkNames.end();
-      const bool hand = Get(row.Name, row.Index).cursor().shape() == Qt::PointingHandCursor;
+      const bool hand = Form.Controls().At(row).cursor().shape() == Qt::PointingHandCursor;
       EXPECT_EQ(hand, link) << ObjectName(row.Name, row.Index);
     }
   }
@@ -265,9 +265,9 @@ TEST_F(NavigationInWindow, TheTutorialsLinkLeadsNowhereYet) {
 TEST_F(NavigationInWindow, LinksLeaveTheFocusWhereItIs) {
   Open(kCallNav);
   Click("txtNumber", 0);
-  for (const char* name : {"lblRangeManager", "lblNoResults"}) {
+  for (const ControlName name : std::to_array<ControlName>({"lblRangeManager", "lblNoResults"})) {
     Click(name);
-    EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0)) << name;
+    EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0)) << name.Name();
     ComeToFront();
   }
   Click("lblNewRange", 0);

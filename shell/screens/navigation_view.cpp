@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view kScreenName = "frameContent";
 constexpr std::string_view kNavName = "lblNav";
 
-Frame& ScreenOfName(const FormControls& controls, std::string_view name) {
+Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
   for (std::int16_t index = 0; index < controls.CountOf(kScreenName); ++index) {
     Frame& screen = controls.FrameAt(kScreenName, index);
     if (FromQt(screen.Caption()) == name) return screen;

@@ -7,13 +7,13 @@
 #include <string_view>
 
 #include "shell/navigation.h"
-#include "toolkit/form_builder.h"
+#include "shell/screens/main_layout.h"
 
 namespace quillon {
 
 class NavigationView {
  public:
-  NavigationView(QWidget& form, const FormControls& controls) : form_(form), controls_(controls) {}
+  NavigationView(QWidget& form, const MainControls& controls) : form_(form), controls_(controls) {}
 
   /// Where the panel's background lies.
   [[nodiscard]] TwipRect PanelPlace() const;
@@ -39,7 +39,7 @@ class NavigationView {
   void SetLook(std::int16_t link, const LinkLook& look);
 
   QWidget& form_;
-  const FormControls& controls_;
+  const MainControls& controls_;
   std::int16_t selected_ = kNoNav;
 };
 

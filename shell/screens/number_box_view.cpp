@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-NumberBoxView::NumberBoxView(const FormControls& controls, MessageBoxes& messages, std::function<void()> hideResults)
+NumberBoxView::NumberBoxView(const MainControls& controls, MessageBoxes& messages, std::function<void()> hideResults)
     : controls_(controls), messages_(messages), hideResults_(std::move(hideResults)) {
   for (std::int16_t i = 0; i < controls_.CountOf("txtNumber"); ++i)
     Bind(i);

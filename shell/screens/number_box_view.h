@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "shell/number_boxes.h"
+#include "shell/screens/main_layout.h"
 #include "support/message_boxes.h"
-#include "toolkit/form_builder.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {
@@ -19,7 +19,7 @@ namespace quillon {
 class NumberBoxView {
  public:
   /// `hideResults` hides the links that lead to results.
-  NumberBoxView(const FormControls& controls, MessageBoxes& messages, std::function<void()> hideResults);
+  NumberBoxView(const MainControls& controls, MessageBoxes& messages, std::function<void()> hideResults);
 
   /// The text of a box.
   [[nodiscard]] std::string Text(std::int16_t index) const;
@@ -35,7 +35,7 @@ class NumberBoxView {
   void ShowOdds(OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes));
   [[nodiscard]] TextBox& Box(std::int16_t index) const { return controls_.Get<TextBox>("txtNumber", index); }
 
-  const FormControls& controls_;
+  const MainControls& controls_;
   MessageBoxes& messages_;
   std::function<void()> hideResults_;
 };

@@ -219,9 +219,9 @@ TEST_F(NumberBoxesInWindow, TheOddsLabelsGrowWithTheirText) {
   Open(kRaiseNav);
   Type(2, "9999999");
   Type(4, "7");
-  for (const char* name : {"lblHisOdds", "lblHisBEP"}) {
+  for (const LabelKey name : std::to_array<LabelKey>({"lblHisOdds", "lblHisBEP"})) {
     const Label& label = LabelAt(name);
-    EXPECT_GE(label.width(), label.TextSize().width()) << name;
+    EXPECT_GE(label.width(), label.TextSize().width()) << name.Name();
     EXPECT_FALSE(label.Wraps());
   }
   EXPECT_EQ(Caption("lblHisOdds"), "1428572.29 : 1");

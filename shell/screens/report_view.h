@@ -5,14 +5,14 @@
 #include <QTextCharFormat>
 
 #include "results/report.h"
-#include "toolkit/form_builder.h"
+#include "shell/screens/main_layout.h"
 #include "toolkit/rich_text_box.h"
 
 namespace quillon {
 
 class ReportView : public ReportScreen {
  public:
-  explicit ReportView(FormControls& controls) : controls_(controls) {}
+  explicit ReportView(MainControls& controls) : controls_(controls) {}
 
   void SetText(std::string_view text) override;
   void SetFontName(std::string_view name) override;
@@ -25,7 +25,7 @@ class ReportView : public ReportScreen {
  private:
   [[nodiscard]] RichTextBox& Box() const { return controls_.Get<RichTextBox>("rtfSummary"); }
 
-  FormControls& controls_;
+  MainControls& controls_;
   QTextCharFormat font_;  // of the insertion point
 };
 

@@ -7,13 +7,13 @@
 
 #include "ranges/dialogs/form_card_grid.h"
 #include "results/results_grid.h"
-#include "toolkit/form_builder.h"
+#include "shell/screens/main_layout.h"
 
 namespace quillon {
 
 class ResultsView {
  public:
-  ResultsView(const FormControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
+  ResultsView(const MainControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
   /// Paints the cells in index order, then shows the texts. Fails as MakeGridTexts does.
   void Present(const Analysis& analysis);
@@ -26,7 +26,7 @@ class ResultsView {
   void ShowNoResultsCaption(std::string_view caption);
 
  private:
-  const FormControls& controls_;
+  const MainControls& controls_;
   FormCardGrid& grid_;
 };
 
