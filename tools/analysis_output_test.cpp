@@ -12,6 +12,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "analysis/entered_situation.h"
@@ -23,6 +24,7 @@
 #include "results/results_grid.h"
 #include "testing/range_texts.h"
 #include "testing/recording_report_screen.h"
+#include "testing/split_text.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -36,24 +38,9 @@ using Json = nlohmann::ordered_json;
 
 // ---- what the tests compare with, written without the routines under test
 
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
-  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
-    text.replace(at, from.size(), to);
-  return text;
-}
-
 // First the pairs, then what is left: another road than a walk through the characters.
 std::string WithUnixLineEnds(const std::string& text) {
   return Replaced(Replaced(text, "\r\n", "\n"), "\r", "\n");
-}
-
-std::vector<std::string> Split(const std::string& text, std::string_view separator) {
-  std::vector<std::string> pieces;
-  std::size_t start = 0;
-  for (std::size_t at = 0; (at = text.find(separator, start)) != std::string::npos; start = at + separator.size())
-    pieces.push_back(text.substr(start, at - start));
-  pieces.push_back(text.substr(start));
-  return pieces;
 }
 
 // The cells of each row of a results table.
@@ -118,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(AnalysisOutput, EachScenario,
                                          RunCase{"Equity", EquityRun, false, false}),
                          [](const auto& entry) { return std::string(entry.param.name); });
 
-std::string BoxText(ReportForm form, Analysis& state, const std::vector<std::string>& hands) {
+std::string BoxText(ReportForm form, const Analysis& state, const std::vector<std::string>& hands) {
   RecordingReportScreen screen;
   screen.Form = form;
   BuildReport(screen, state);
@@ -129,34 +116,22 @@ std::string BoxText(ReportForm form, Analysis& state, const std::vector<std::str
 
 // ---- names of the formats
 
-TEST(OutputFormat, IsFoundByItsName) {
-  EXPECT_EQ(OutputFormatOf("plain"), OutputFormat::kPlain);
-  EXPECT_EQ(OutputFormatOf("2+2"), OutputFormat::kForum);
-  EXPECT_EQ(OutputFormatOf("table"), OutputFormat::kTable);
-  EXPECT_EQ(OutputFormatOf("json"), OutputFormat::kJson);
-  EXPECT_EQ(OutputFormatOf("csv"), OutputFormat::kCsv);
-}
-
-TEST(OutputFormat, IsPlainForANameThatIsNone) {
-  EXPECT_EQ(OutputFormatOf(""), OutputFormat::kPlain);
+TEST(OutputFormat, IsFoundByItsNameAndPlainForAnyOther) {
+  for (const OutputFormatRow& row : kAnalysisFormats)
+    EXPECT_EQ(OutputFormatOf(row.Name), row.Format) << row.Name;
   EXPECT_EQ(OutputFormatOf("JSON"), OutputFormat::kPlain);
 }
 
 // ---- the two reports and the table
 
-TEST_P(EachScenario, PrintsThePlainReportOfTheWindow) {
-  Analysis state = GetParam().run();
-  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), expected);
-  EXPECT_EQ(expected.find('\r'), std::string::npos);
-  EXPECT_TRUE(expected.ends_with('\n'));
-}
-
-TEST_P(EachScenario, PrintsTheForumReportOfTheWindow) {
-  Analysis state = GetParam().run();
-  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), expected);
-  EXPECT_TRUE(expected.starts_with("[URL="));
+TEST_P(EachScenario, PrintsTheReportsOfTheWindow) {
+  const Analysis state = GetParam().run();
+  const std::string plain = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), plain);
+  EXPECT_TRUE(plain.ends_with('\n'));
+  const std::string forum = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
+  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), forum);
+  EXPECT_TRUE(forum.starts_with("[URL="));
 }
 
 TEST_P(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
@@ -196,22 +171,6 @@ TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
                 "," + (GetParam().hasFold ? cells[3] : "") + "," + HexColor(colors[i]) + "\n";
   }
   EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
-}
-
-TEST(CsvOutput, HoldsEachClassOnceInIndexOrder) {
-  Analysis state = CallRun();
-  const auto lines = Split(AnalysisOutput(OutputFormat::kCsv, state, {}), "\n");
-  ASSERT_THAT(lines, SizeIs(171));  // the header, 169 rows, and nothing behind the last line end
-  EXPECT_EQ(lines[0], "hand,combos,ev,equity,fold,colour");
-  EXPECT_EQ(lines[170], "");
-  int combos = 0;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const auto cells = Split(lines[static_cast<std::size_t>(index) + 1], ",");
-    ASSERT_THAT(cells, SizeIs(6));
-    EXPECT_EQ(cells[0], HandLabel(index));
-    combos += std::atoi(cells[1].c_str());  // NOLINT(cert-err34-c): what is no number adds 0 and fails below
-  }
-  EXPECT_EQ(combos, 1326);
 }
 
 // ---- json
@@ -420,34 +379,21 @@ TEST(TerminalGrid, PaintsEachCellInItsColor) {
   }
 }
 
-struct LabelColorCase {
-  const char* rule;
-  Rgb cell;
-  bool white;
-};
-
-class LabelColor : public testing::TestWithParam<LabelColorCase> {};
-
-TEST_P(LabelColor, IsTheOneThatReadsBetter) {
-  const std::string first = Split(TerminalGrid(AllOf(GetParam().cell)), "AA")[0];
-  EXPECT_TRUE(first.ends_with(GetParam().white ? "\x1b[38;2;255;255;255m " : "\x1b[38;2;0;0;0m ")) << first.substr(1);
+TEST(TerminalGrid, HasLabelsInTheColorThatReadsBetter) {
+  for (const auto& [cell, white] : std::vector<std::pair<Rgb, bool>>{{{255, 255, 255}, false},
+                                                                     {{0, 0, 0}, true},
+                                                                     {{200, 255, 200}, false},
+                                                                     {{0, 120, 0}, true},
+                                                                     {{120, 0, 0}, true},
+                                                                     {{0, 0, 255}, true},
+                                                                     {{0, 255, 0}, false},
+                                                                     {{255, 0, 0}, true},
+                                                                     {{128, 128, 128}, false},
+                                                                     {{127, 127, 127}, true}}) {
+    const std::string first = Split(TerminalGrid(AllOf(cell)), "AA")[0];
+    EXPECT_TRUE(first.ends_with(white ? "\x1b[38;2;255;255;255m " : "\x1b[38;2;0;0;0m ")) << first.substr(1);
+  }
 }
-
-constexpr auto kLabelColorCases = std::to_array<LabelColorCase>({
-    {"BlackOnWhite", {255, 255, 255}, false},
-    {"WhiteOnBlack", {0, 0, 0}, true},
-    {"BlackOnTheSmallestWin", {200, 255, 200}, false},
-    {"WhiteOnTheBiggestWin", {0, 120, 0}, true},
-    {"WhiteOnTheBiggestLoss", {120, 0, 0}, true},
-    {"WhiteOnFullBlue", {0, 0, 255}, true},
-    {"BlackOnFullGreen", {0, 255, 0}, false},
-    {"WhiteOnFullRed", {255, 0, 0}, true},
-    {"BlackOnTheMiddleGrey", {128, 128, 128}, false},
-    {"WhiteJustBelowTheMiddleGrey", {127, 127, 127}, true},
-});
-
-INSTANTIATE_TEST_SUITE_P(TerminalGrid, LabelColor, testing::ValuesIn(kLabelColorCases),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
 
 }  // namespace
 }  // namespace quillon

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,66 +14,18 @@
 #include "study/equilibrium.h"
 #include "study/limits.h"
 #include "support/number_text.h"
-#include "support/run_time_error.h"
-#include "testing/range_texts.h"
-#include "testing/temporary_program.h"
+#include "testing/companion_program.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-using Arguments = std::vector<std::string>;
 using Json = nlohmann::json;
 
-struct Outcome {
-  int Status = -1;
-  std::string Output;
-  std::string Errors;
-};
-
-class StudyProgram {
- public:
-  StudyProgram() { program_.Write("Tight.txt", TextWith("AA KK QQ AKs AKo") + "\r\n"); }
-
-  [[nodiscard]] const TemporaryProgram& Files() const { return program_; }
-
-  [[nodiscard]] Outcome Run(const Arguments& arguments, const std::string& typed = {}) const {
-    std::ostringstream output;
-    std::ostringstream errors;
-    std::istringstream input(typed);
-    Outcome outcome;
-    try {
-      outcome.Status =
-          RunCompanion(arguments, {output, errors, program_.Folder().Path, {}, std::chrono::steady_clock::now, &input});
-    } catch (const RunTimeError& error) {
-      outcome.Status = kFailed;
-      errors << error.what() << '\n';
-    }
-    outcome.Output = output.str();
-    outcome.Errors = errors.str();
-    return outcome;
-  }
-
- private:
-  TemporaryProgram program_;
-};
-
-std::vector<std::string> Lines(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);)
-    lines.push_back(line);
-  return lines;
-}
-
-Arguments With(Arguments arguments, const Arguments& more) {
-  arguments.insert(arguments.end(), more.begin(), more.end());
-  return arguments;
-}
-
 TEST(TypedRange, IsTakenWhereverANameIs) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments tight = {"--hands", "QQ+,AK"};
   struct Case {
     Arguments arguments;
@@ -91,8 +42,8 @@ TEST(TypedRange, IsTakenWhereverANameIs) {
             {"--range", "Tight", "--calling-range", "Tight"},
             {"--hands", "AK,QQ+", "--calling-hands", "QQ+ AK"}},
        }) {
-    const Outcome named = program.Run(With(c.arguments, c.named));
-    const Outcome typed = program.Run(With(c.arguments, c.typed));
+    const CompanionOutcome named = program.Run(With(c.arguments, c.named));
+    const CompanionOutcome typed = program.Run(With(c.arguments, c.typed));
     EXPECT_EQ(typed.Status, kDone) << typed.Errors;
     EXPECT_EQ(typed.Output, named.Output) << c.arguments.front();
     EXPECT_FALSE(typed.Output.empty()) << c.arguments.front();
@@ -100,23 +51,23 @@ TEST(TypedRange, IsTakenWhereverANameIs) {
 }
 
 TEST(TypedRange, IsReportedByItsNotation) {
-  const StudyProgram program;
-  const Outcome outcome = program.Run({"call", "--pot", "150", "--call", "50", "--hands", "ak qq kk AA:0.99"});
+  const CompanionProgram program;
+  const CompanionOutcome outcome = program.Run({"call", "--pot", "150", "--call", "50", "--hands", "ak qq kk AA:0.99"});
   EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
   EXPECT_THAT(outcome.Output, HasSubstr("AA:0.99,KK-QQ,AKs,AKo"));
 }
 
 // The digits of such a weight are the label of a pair that comes later.
 TEST(TypedRange, MayHaveAnyWeight) {
-  const StudyProgram program;
-  const Outcome outcome = program.Run({"equity", "--hands", "AA:0.99,99:0.22", "--format", "csv"});
+  const CompanionProgram program;
+  const CompanionOutcome outcome = program.Run({"equity", "--hands", "AA:0.99,99:0.22", "--format", "csv"});
   EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
   EXPECT_EQ(Lines(outcome.Output).size(), 170U);
 }
 
 TEST(TypedRange, IsReadFromStandardInputOnce) {
-  const StudyProgram program;
-  EXPECT_EQ(program.Run({"notation", "--hands", "-"}, "AA, KK\nQQ\n").Output, "QQ+\n");
+  const CompanionProgram program;
+  EXPECT_EQ(program.Run({"notation", "--hands", "-"}, {.Typed = "AA, KK\nQQ\n"}).Output, "QQ+\n");
   const Arguments amounts = {"--pot", "1", "--call", "1"};
   const Arguments ranges = {"--hands", "-", "--calling-hands", "-"};
   for (const Arguments& twice : {
@@ -125,7 +76,7 @@ TEST(TypedRange, IsReadFromStandardInputOnce) {
            With(With({"sweep", "raise", "--shove", "1:2:1"}, amounts), ranges),
            With(With({"balance", "--shove", "1"}, amounts), {"--hands", "-", "--own-hands", "-"}),
        }) {
-    const Outcome outcome = program.Run(twice, "AA");
+    const CompanionOutcome outcome = program.Run(twice, {.Typed = "AA"});
     EXPECT_EQ(outcome.Status, kWrongUsage) << twice.front();
     EXPECT_THAT(outcome.Errors, HasSubstr("Standard input can be read for one range only")) << twice.front();
   }
@@ -133,7 +84,7 @@ TEST(TypedRange, IsReadFromStandardInputOnce) {
 
 // What is typed there need not be in the box of a raise: with no bet to call it is 0.
 TEST(EmptyCall, CountsAsNothing) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments ranges = {"--hands", "any", "--calling-hands", "QQ+"};
   for (const Arguments& arguments : {
            With({"raise", "--pot", "15", "--shove", "40"}, ranges),
@@ -141,14 +92,14 @@ TEST(EmptyCall, CountsAsNothing) {
            With({"sweep", "raise", "--pot", "15", "--shove", "40:42:1", "--hand", "22"}, ranges),
            {"balance", "--pot", "15", "--shove", "40"},
        }) {
-    const Outcome empty = program.Run(With(arguments, {"--call", ""}));
+    const CompanionOutcome empty = program.Run(With(arguments, {"--call", ""}));
     EXPECT_EQ(empty.Status, kDone) << empty.Errors;
     EXPECT_EQ(empty.Output, program.Run(With(arguments, {"--call", "0"})).Output) << arguments.front();
   }
 }
 
 TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments sweep = {"sweep", "call", "--hands", "AA"};
   const Arguments balance = {"balance", "--pot", "1", "--call", "1"};
   struct Case {
@@ -194,17 +145,17 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {With(balance, {"--shove", "9", "--save-call", "Tight"}), kRefused, "already exists"},
            {With(balance, {"--shove", "9", "--save-call", "One", "--save-shove", "One"}), kRefused, "different names"},
        }) {
-    const Outcome outcome = program.Run(c.arguments);
+    const CompanionOutcome outcome = program.Run(c.arguments);
     EXPECT_EQ(outcome.Status, c.status) << testing::PrintToString(c.arguments) << outcome.Errors;
     EXPECT_THAT(outcome.Errors, HasSubstr(c.errors)) << testing::PrintToString(c.arguments);
     EXPECT_EQ(outcome.Output.empty(), c.status != kDone) << testing::PrintToString(c.arguments);
   }
-  EXPECT_EQ(program.Files().Read("Tight.txt"), TextWith("AA KK QQ AKs AKo") + "\r\n");
-  EXPECT_FALSE(RangeExists(program.Files().Folder(), "New"));
+  EXPECT_EQ(program.Read("Tight.txt"), TextWith("AA KK QQ AKs AKo") + "\r\n");
+  EXPECT_FALSE(RangeExists(program.Folder(), "New"));
 }
 
 TEST(Save, WritesWhatCanBeReadAgain) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const std::string notation = "AA:0.99,KK-TT,A5s-A2s:0.5,AKo:0.333333333333333";
   EXPECT_EQ(program.Run({"save", "Mine", "--hands", notation}).Status, kDone);
   EXPECT_EQ(program.Run({"notation", "--range", "Mine"}).Output, notation + "\n");
@@ -212,12 +163,12 @@ TEST(Save, WritesWhatCanBeReadAgain) {
 
   EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA"}).Status, kRefused);
   EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA", "--replace"}).Status, kDone);
-  EXPECT_EQ(program.Files().Read("Mine.txt"), TextWith("AA") + "\r\n");
+  EXPECT_EQ(program.Read("Mine.txt"), TextWith("AA") + "\r\n");
 }
 
 TEST(Matrix, HoldsTheWholeTable) {
   LoadEquityTable();
-  const StudyProgram program;
+  const CompanionProgram program;
   const auto lines = Lines(program.Run({"matrix"}).Output);
   ASSERT_EQ(lines.size(), 170U);
   EXPECT_THAT(lines.at(0), StartsWith("hand,AA,AKs,AQs"));
@@ -238,7 +189,7 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
   const HandNumbers hands;
   const auto weights = RangeWeightsOf(TextWith("AA KK QQ AKs AKo"));
   const Limits expected = ShoveLimits(RangeNumbers(hands, AllHands(), weights), 15, 5);
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments raise = {"limits",  "raise", "--pot",           "15",   "--call", "5",
                            "--hands", "any",   "--calling-range", "Tight"};
   const Json json = Json::parse(program.Run(With(raise, {"--format", "json"})).Output);
@@ -263,7 +214,7 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
 
 // At what the grid shows no hand loses, so "up to" is rounded down and "from" up.
 TEST(LimitsCommand, RoundsToTheSideThatDoesNotLose) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments call = {"limits", "call", "--pot", "100", "--hands", "AA"};
   const Arguments raise = {"limits", "raise", "--pot", "1", "--call", "5", "--hands", "any", "--calling-hands", "any"};
   struct Case {
@@ -292,7 +243,7 @@ TEST(LimitsCommand, RoundsToTheSideThatDoesNotLose) {
 
 // Each row holds the figures that a command of its own prints.
 TEST(SweepCommand, AgreesWithSingleAnalyses) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments shared = {"--pot", "15", "--call", "5", "--hands", "any", "--calling-range", "Tight"};
   const auto rows = Lines(program
                               .Run(With(With({"sweep", "raise", "--shove", "0.1:0.4:0.1"}, shared),
@@ -301,7 +252,7 @@ TEST(SweepCommand, AgreesWithSingleAnalyses) {
   ASSERT_EQ(rows.size(), 5U);
   EXPECT_EQ(rows.front(), "shove,profitable,72o,AA");
   for (const std::string shove : {"0.1", "0.2", "0.3", "0.4"}) {
-    const Outcome single = program.Run(With(With({"raise", "--shove", shove}, shared), {"--format", "table"}));
+    const CompanionOutcome single = program.Run(With(With({"raise", "--shove", shove}, shared), {"--format", "table"}));
     const auto value = [&](std::string_view hand) {
       return NumberText(GetHandResult(single.Output, hand).ExpectedValue);
     };
@@ -311,18 +262,18 @@ TEST(SweepCommand, AgreesWithSingleAnalyses) {
 
 // 33.3% is not the double 0.333, but an analysis reads it from a text, where it is.
 TEST(SweepCommand, TakesWeightsAsAnAnalysisReadsThem) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments shared = {"--hands", "AA:33.3%,KK:7.7%,QJs:12.3%,72o:91.7%", "--pot", "100", "--call"};
-  const Outcome single = program.Run(With(With({"call"}, shared), {"50", "--format", "table"}));
-  const Outcome sweep =
+  const CompanionOutcome single = program.Run(With(With({"call"}, shared), {"50", "--format", "table"}));
+  const CompanionOutcome sweep =
       program.Run(With(With({"sweep", "call"}, shared), {"50:50:1", "--hand", "72o", "--format", "csv"}));
   EXPECT_THAT(sweep.Output,
               testing::EndsWith("," + NumberText(GetHandResult(single.Output, "72o").ExpectedValue) + "\n"));
 }
 
 TEST(SweepCommand, EndsAtTheLastStepThatIsNotAboveTheEnd) {
-  const StudyProgram program;
-  const Outcome outcome =
+  const CompanionProgram program;
+  const CompanionOutcome outcome =
       program.Run({"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:101:5", "--format", "csv"});
   EXPECT_EQ(outcome.Status, kDone) << outcome.Errors;
   const auto lines = Lines(outcome.Output);
@@ -331,26 +282,28 @@ TEST(SweepCommand, EndsAtTheLastStepThatIsNotAboveTheEnd) {
 }
 
 TEST(SweepCommand, GoesThroughWidthsInEachFormat) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments width = {"sweep", "call", "--pot", "100", "--call", "90", "--width", "10:100:45", "--hand", "KTo"};
   const Json json = Json::parse(program.Run(With(width, {"--format", "json"})).Output);
   ASSERT_EQ(json["steps"].size(), 3U);
   for (const Json& step : json["steps"]) {
     const std::string share = "top " + NumberText(step["width"]) + "%";
-    const Outcome single = program.Run({"call", "--pot", "100", "--call", "90", "--hands", share, "--format", "table"});
+    const CompanionOutcome single =
+        program.Run({"call", "--pot", "100", "--call", "90", "--hands", share, "--format", "table"});
     EXPECT_EQ(step["ev"]["KTo"], GetHandResult(single.Output, "KTo").ExpectedValue) << share;
   }
   EXPECT_EQ(Lines(program.Run(width).Output).at(0), "width  profitable       KTo");
 }
 
 TEST(BalanceCommand, PrintsAndSavesBothRanges) {
-  const StudyProgram program;
+  const CompanionProgram program;
   const Arguments balance = {"balance", "--pot", "1.5", "--call", "0.5", "--shove", "9"};
   LoadEquityTable();
   const auto found = FindEquilibrium(HandNumbers(), {.Pot = 1.5, .Call = 0.5, .Shove = 9});
   ASSERT_TRUE(found);
   const std::string shove = RangeNotation(found->Shove);
-  const Outcome plain = program.Run(With(balance, {"--save-shove", "Balanced shove", "--save-call", "Balanced call"}));
+  const CompanionOutcome plain =
+      program.Run(With(balance, {"--save-shove", "Balanced shove", "--save-call", "Balanced call"}));
   EXPECT_EQ(plain.Status, kDone) << plain.Errors;
   EXPECT_THAT(plain.Output, HasSubstr("% of hands: " + shove + "\n"));
   EXPECT_EQ(program.Run({"notation", "--range", "Balanced shove"}).Output, shove + "\n");

@@ -1,0 +1,37 @@
+#pragma once
+
+// Texts taken apart and changed the plain way, for what tests expect.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// The pieces of a text between separators, empty ones too: one more than there are separators.
+[[nodiscard]] inline std::vector<std::string> Split(std::string_view text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  for (std::size_t at = 0; (at = text.find(separator)) != std::string_view::npos;) {
+    pieces.emplace_back(text.substr(0, at));
+    text.remove_prefix(at + separator.size());
+  }
+  pieces.emplace_back(text);
+  return pieces;
+}
+
+/// The lines of a text, each without its line feed. Nothing follows the last line feed.
+[[nodiscard]] inline std::vector<std::string> Lines(std::string_view text) {
+  std::vector<std::string> lines = Split(text, "\n");
+  if (lines.back().empty()) lines.pop_back();
+  return lines;
+}
+
+/// The text with every `from` replaced.
+[[nodiscard]] inline std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+    text.replace(at, from.size(), to);
+  return text;
+}
+
+}  // namespace quillon
