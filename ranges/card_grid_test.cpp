@@ -70,27 +70,6 @@ TEST(CellBaseColor, LooksAtTheLastCharacterAlone) {
     EXPECT_EQ(CellBaseColor(c.label), c.color) << c.label;
 }
 
-TEST(PlaceCardGrid, PlacesCellsFromTheFrameOnAndFitsItRoundThem) {
-  struct Case {
-    const char* label;
-    TwipRect square;
-    TwipRect caption;
-  };
-  const std::vector<Case> cases = {
-      {"AA", {4960, 820, 405, 405}, {4970, 920, 385, 305}},     {"AKs", {5390, 820, 405, 405}, {5400, 920, 385, 305}},
-      {"A2s", {10120, 820, 405, 405}, {10130, 920, 385, 305}},  {"AKo", {4960, 1250, 405, 405}, {4970, 1350, 385, 305}},
-      {"KK", {5390, 1250, 405, 405}, {5400, 1350, 385, 305}},   {"A2o", {4960, 5980, 405, 405}, {4970, 6080, 385, 305}},
-      {"22", {10120, 5980, 405, 405}, {10130, 6080, 385, 305}},
-  };
-  const CardGridPlaces places = PlaceCardGrid(4860, 720, {405, 405});
-  for (const Case& c : cases) {
-    const CellPlace& cell = places.Cells.at(static_cast<std::size_t>(HandIndex(c.label)));
-    EXPECT_EQ(cell.Square, c.square) << c.label;
-    EXPECT_EQ(cell.Label, c.caption) << c.label;
-  }
-  EXPECT_EQ(places.Frame, (TwipRect{4860, 720, 5765, 5765}));
-}
-
 TEST(PlaceCardGrid, GoesByTheFramesPlaceAndTheSizeOfASquare) {
   const CardGridPlaces places = PlaceCardGrid(1260, -40, {300, 200});
   for (std::size_t index = 0; index < places.Cells.size(); ++index) {
@@ -150,32 +129,6 @@ TEST(ToggleCell, ClickSelectsAnUnselectedCellAndClearsAnyOther) {
   }
 }
 
-struct SweepCase {
-  const char* rule;
-  const char* label;
-  const char* painted;
-};
-
-TEST(ToggleCell, ShiftClickSweepsToTheBestHandOfTheKind) {
-  const std::vector<SweepCase> cases = {
-      {"suited, along the row", "A5s", "A5s A6s A7s A8s A9s ATs AJs AQs AKs"},
-      {"suited in the first row stops before index 0", "AKs", "AKs"},
-      {"suited beside the diagonal", "54s", "54s"},
-      {"suited at the right end", "K2s", "K2s K3s K4s K5s K6s K7s K8s K9s KTs KJs KQs"},
-      {"the last suited class", "32s", "32s"},
-      {"offsuit, up the column", "A5o", "A5o A6o A7o A8o A9o ATo AJo AQo AKo"},
-      {"offsuit in the first column stops before index 0", "AKo", "AKo"},
-      {"offsuit beside the diagonal", "54o", "54o"},
-      {"offsuit at the lower end", "K2o", "K2o K3o K4o K5o K6o K7o K8o K9o KTo KJo KQo"},
-      {"the last offsuit class", "32o", "32o"},
-      {"a pair, along the diagonal", "88", "88 99 TT JJ QQ KK AA"},
-      {"the best pair alone", "AA", "AA"},
-      {"the lowest pair takes all", "22", "22 33 44 55 66 77 88 99 TT JJ QQ KK AA"},
-  };
-  for (const SweepCase& c : cases)
-    EXPECT_EQ(Clicked(UnselectedCells(), c.label, kShiftClick), GridWith(c.painted)) << c.rule;
-}
-
 // A slow reading of the labels: the sweep from a class takes those with its higher rank and kind, from its lower rank
 // up.
 TEST(ToggleCell, SweepOfEveryClassIsWhatItsLabelSays) {
@@ -216,32 +169,13 @@ TEST(ToggleCell, SweepPaintsWhateverTheCellsHad) {
     EXPECT_EQ(Clicked(c.before, c.label, c.click), c.after) << c.rule;
 }
 
-struct CountCase {
-  const char* rule;
-  std::string full;
-  std::string half;
-  double combos;
-  const char* caption;
-};
-
-TEST(GridSelectedCombos, CountsFullAndHalfCells) {
-  const std::vector<CountCase> cases = {
-      {"nothing", "", "", 0, "0% selected"},
-      {"one pair", "88", "", 6, "0.5% selected"},
-      {"one half pair", "", "AA", 3, "0.2% selected"},
-      {"one suited class", "AKs", "", 4, "0.3% selected"},
-      {"one half suited class", "", "AKs", 2, "0.2% selected"},
-      {"one offsuit class", "AKo", "", 12, "0.9% selected"},
-      {"one half offsuit class", "", "AKo", 6, "0.5% selected"},
-      {"a mixture", "AA KK AKs", "AKo 72o", 28, "2.1% selected"},
-      {"all at full", AllLabels(), "", 1326, "100% selected"},
-      {"all at half", "", AllLabels(), 663, "50% selected"},
-  };
-  for (const CountCase& c : cases) {
-    const CellColors grid = GridWith(c.full, c.half);
-    EXPECT_EQ(SelectedCombos(grid), c.combos) << c.rule;
-    EXPECT_EQ(SelectedCombos(RangeTextFromGrid(grid)), c.combos) << c.rule;
-    EXPECT_EQ(GridCaption(grid), c.caption) << c.rule;
+TEST(GridSelectedCombos, AreThoseOfItsText) {
+  for (const auto& [full, half] : std::vector<std::pair<std::string, std::string>>{
+           {"", ""}, {"AA KK AKs", "AKo 72o"}, {AllLabels(), ""}, {"", AllLabels()}}) {
+    const CellColors grid = GridWith(full, half);
+    const double combos = SelectedCombos(TextWith(full, half));
+    EXPECT_EQ(SelectedCombos(grid), combos);
+    EXPECT_EQ(GridCaption(grid), SelectionCaption(combos));
   }
 }
 

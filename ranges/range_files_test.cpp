@@ -82,20 +82,11 @@ TEST(SaveRangeText, LeavesNothingButTheFile) {
 }
 
 TEST(SaveRangeText, WritesItsScratchFileWhereNoListShowsIt) {
-  class Watching : public PassingCalls {
-   public:
-    int Open(const std::string& path, int flags, mode_t mode) override {
-      if ((flags & O_CREAT) != 0) made.emplace_back(path);
-      return PassingCalls::Open(path, flags, mode);
-    }
-
-    std::vector<std::filesystem::path> made;
-  };
   const TemporaryProgram program;
-  Watching calls;
+  WatchedCalls calls;
   SaveRangeText({program.Folder().Path, &calls}, "x", "AA (1), ");
-  ASSERT_EQ(calls.made.size(), 1U);
-  EXPECT_EQ(calls.made[0].parent_path(), program.Folder().Path);
+  ASSERT_EQ(calls.ScratchFiles().size(), 1U);
+  EXPECT_EQ(std::filesystem::path(calls.ScratchFiles()[0]).parent_path(), program.Folder().Path);
 }
 
 TEST(SaveRangeText, NameThatNoFileCanHaveIsFatal) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "testing/fault_of.h"
+#include "testing/ordinary_user.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -105,30 +106,12 @@ TEST(RangeFolderEntries, FolderThatCannotBeReadIsFatalAndNamed) {
   ExpectListingFault({program.Folder().Path / std::string(300, 'x')}, RunTimeFault::kBadFileName);
 }
 
-// The system refuses nothing to its superuser, so a test run by him steps down for a while.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : changed_(::geteuid() == 0 && ::seteuid(65534) == 0) {}
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser(OrdinaryUser&&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(OrdinaryUser&&) = delete;
-  ~OrdinaryUser() {
-    if (changed_ && ::seteuid(0) != 0) std::abort();
-  }
-  [[nodiscard]] static bool Is() { return ::geteuid() != 0; }
-
- private:
-  bool changed_;
-};
-
 TEST(RangeFolderEntries, FolderThatMayNotBeReadIsFatalAndNamed) {
   const TemporaryProgram program;
   std::filesystem::permissions(program.Folder().Path, std::filesystem::perms::all);
   std::filesystem::permissions(RangeFolderPath(program.Folder()), std::filesystem::perms::none);
   {
     const OrdinaryUser user;
-    if (!OrdinaryUser::Is()) GTEST_SKIP() << "the superuser may read everything";
     ExpectListingFault(program.Folder(), RunTimeFault::kPermissionDenied);
   }
   std::filesystem::permissions(RangeFolderPath(program.Folder()), std::filesystem::perms::owner_all);

@@ -140,46 +140,26 @@ TEST(Report, ForumPreflopRaise) {
   EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kForum), expected);
 }
 
+// The block goes from aces down: a rank with each higher card offsuit, its pair, and with each lower card suited.
 TEST(Report, ForumEquityOnly) {
-  const std::string expected = Title("Equity Analysis") +
-                               "Villain Range: KK+\r"
-                               "[COLOR=\"BLUE\"]\r"
-                               "AA: 0.8523, AKs: 0.1235, AQs: 0, AJs: 0, ATs: 0\r\n"
-                               "A9s: 0, A8s: 0, A7s: 0, A6s: 0, A5s: 0\r\n"
-                               "A4s: 0, A3s: 0, A2s: 0, AKo: 0, KK: 0\r\n"
-                               "KQs: 0, KJs: 0, KTs: 0, K9s: 0, K8s: 0\r\n"
-                               "K7s: 0, K6s: 0, K5s: 0, K4s: 0, K3s: 0\r\n"
-                               "K2s: 0, AQo: 0, KQo: 0, QQ: 0, QJs: 0\r\n"
-                               "QTs: 0, Q9s: 0, Q8s: 0, Q7s: 0, Q6s: 0\r\n"
-                               "Q5s: 0, Q4s: 0, Q3s: 0, Q2s: 0, AJo: 0\r\n"
-                               "KJo: 0, QJo: 0, JJ: 0, JTs: 0, J9s: 0\r\n"
-                               "J8s: 0, J7s: 0, J6s: 0, J5s: 0, J4s: 0\r\n"
-                               "J3s: 0, J2s: 0, ATo: 0, KTo: 0, QTo: 0\r\n"
-                               "JTo: 0, TT: 0, T9s: 0, T8s: 0, T7s: 0\r\n"
-                               "T6s: 0, T5s: 0, T4s: 0, T3s: 0, T2s: 0\r\n"
-                               "A9o: 0, K9o: 0, Q9o: 0, J9o: 0, T9o: 0\r\n"
-                               "99: 0, 98s: 0, 97s: 0, 96s: 0, 95s: 0\r\n"
-                               "94s: 0, 93s: 0, 92s: 0, A8o: 0, K8o: 0\r\n"
-                               "Q8o: 0, J8o: 0, T8o: 0, 98o: 0, 88: 0\r\n"
-                               "87s: 0, 86s: 0, 85s: 0, 84s: 0, 83s: 0\r\n"
-                               "82s: 0, A7o: 0, K7o: 0, Q7o: 0, J7o: 0\r\n"
-                               "T7o: 0, 97o: 0, 87o: 0, 77: 0, 76s: 0\r\n"
-                               "75s: 0, 74s: 0, 73s: 0, 72s: 0, A6o: 0\r\n"
-                               "K6o: 0, Q6o: 0, J6o: 0, T6o: 0, 96o: 0\r\n"
-                               "86o: 0, 76o: 0, 66: 0, 65s: 0, 64s: 0\r\n"
-                               "63s: 0, 62s: 0, A5o: 0, K5o: 0, Q5o: 0\r\n"
-                               "J5o: 0, T5o: 0, 95o: 0, 85o: 0, 75o: 0\r\n"
-                               "65o: 0, 55: 0, 54s: 0, 53s: 0, 52s: 0\r\n"
-                               "A4o: 0, K4o: 0, Q4o: 0, J4o: 0, T4o: 0\r\n"
-                               "94o: 0, 84o: 0, 74o: 0, 64o: 0, 54o: 0\r\n"
-                               "44: 0, 43s: 0, 42s: 0, A3o: 0, K3o: 0\r\n"
-                               "Q3o: 0, J3o: 0, T3o: 0, 93o: 0, 83o: 0\r\n"
-                               "73o: 0, 63o: 0, 53o: 0, 43o: 0, 33: 0\r\n"
-                               "32s: 0, A2o: 0, K2o: 0, Q2o: 0, J2o: 0\r\n"
-                               "T2o: 0, 92o: 0, 82o: 0, 72o: -1, 62o: 0\r\n"
-                               "52o: 0, 42o: 0, 32o: 0, 22: 0.5\r"
-                               "[/COLOR]\r";
-  EXPECT_EQ(Report(sample::EquityState(), ReportForm::kForum), expected);
+  constexpr std::string_view kRanks = "AKQJT98765432";
+  std::string block;
+  int hands = 0;
+  const auto add = [&](const std::string& hand) {
+    const sample::TextsByHand equities = {{"AA", "0.8523"}, {"AKs", "0.1235"}, {"72o", "-1"}, {"22", "0.5"}};
+    if (hands > 0) block += hands % 5 == 0 ? "\r\n" : ", ";
+    block.append(hand).append(": ").append(sample::TextFor(equities, hand, "0"));
+    ++hands;
+  };
+  for (std::size_t rank = 0; rank < kRanks.size(); ++rank) {
+    for (const char higher : kRanks.substr(0, rank))
+      add({higher, kRanks[rank], 'o'});
+    add({kRanks[rank], kRanks[rank]});
+    for (const char lower : kRanks.substr(rank + 1))
+      add({kRanks[rank], lower, 's'});
+  }
+  EXPECT_EQ(Report(sample::EquityState(), ReportForm::kForum),
+            Title("Equity Analysis") + "Villain Range: KK+\r[COLOR=\"BLUE\"]\r" + block + "\r[/COLOR]\r");
 }
 
 TEST(Report, TheEquityBlockIsThirtyThreeLinesOfFiveAndOneOfFour) {

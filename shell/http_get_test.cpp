@@ -306,6 +306,13 @@ TEST_F(HttpGetTime, IsUpWithAHostThatDoesNotAnswer) {
   ExpectTheLimit();
 }
 
+TEST_F(HttpGetTime, IsUpWithAHostThatCannotBeReached) {
+  const DeafHost host;
+  ASSERT_NE(host.Port(), 0);
+  EXPECT_EQ(Get("http://127.0.0.1:" + std::to_string(host.Port()) + "/", kShort), "");
+  ExpectTheLimit();
+}
+
 TEST_F(HttpGetTime, IsUpWithABodyThatDripsIn) {
   const LoopbackHost host([](LoopbackConnection& connection) {
     connection.Send("HTTP/1.1 200 OK\r\n\r\n");

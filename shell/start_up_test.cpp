@@ -29,18 +29,14 @@ class EmptyProgram : public TemporaryProgram {
 };
 
 TEST(PrepareFolders, MakesBothTheRangesFirst) {
-  class Watching final : public PassingCalls {
-   public:
-    int MakeFolder(const std::string& path) override {
-      made.push_back(std::filesystem::path(path).filename().string());
-      return PassingCalls::MakeFolder(path);
-    }
-    std::vector<std::string> made;
-  };
   const EmptyProgram program;
-  Watching calls;
+  WatchedCalls calls;
   PrepareFolders({program.Folder().Path, &calls});
-  EXPECT_THAT(calls.made, ElementsAre("Ranges", "Saved Grids"));
+  std::vector<std::string> made;
+  for (const MadeCall& call : calls.Made()) {
+    if (call.Call == Call::kMakeFolder) made.push_back(std::filesystem::path(call.Path).filename().string());
+  }
+  EXPECT_THAT(made, ElementsAre("Ranges", "Saved Grids"));
   EXPECT_TRUE(FolderExists(program.Folder().Path / "Ranges"));
   EXPECT_TRUE(FolderExists(program.Folder().Path / "Saved Grids"));
   EXPECT_FALSE(std::filesystem::exists(SettingsFilePath(program.Folder()))) << "only a write makes it";

@@ -95,18 +95,6 @@ TEST_F(LockingAFolder, WaitForOneWhoHangsHasAnEnd) {
   EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(10));
 }
 
-// Answers a lock with errors first.
-class ReluctantCalls final : public PassingCalls {
- public:
-  ReluctantCalls(int error, int times) : error_(error), left_(times) {}
-
-  int TryLock(int file) override { return left_-- > 0 ? -error_ : PassingCalls::TryLock(file); }
-
- private:
-  int error_;
-  int left_;
-};
-
 TEST_F(LockingAFolder, IsTriedAgainWhereThatHelps) {
   struct Case {
     const char* rule;
@@ -120,7 +108,7 @@ TEST_F(LockingAFolder, IsTriedAgainWhereThatHelps) {
       Case{"a disk that wants more than a look", EBADF, false},
   };
   for (const Case& c : kCases) {
-    ReluctantCalls calls(c.error, 3);
+    WatchedCalls calls(FailAll(Call::kTryLock, c.error, 3));
     const FolderLock lock(Folder(), calls);
     EXPECT_EQ(lock.Held(), c.held) << c.rule;
   }

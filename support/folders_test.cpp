@@ -31,21 +31,6 @@ class Folders : public testing::Test {
   TemporaryFolder home_;
 };
 
-// Fails to open, so many times, and to make a folder, each with the error given.
-class RefusingCalls final : public PassingCalls {
- public:
-  int OpenError = 0;
-  int OpenErrorCount = 1000;
-  int MakeError = 0;
-
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    return OpenError != 0 && OpenErrorCount-- > 0 ? -OpenError : PassingCalls::Open(path, flags, mode);
-  }
-  int MakeFolder(const std::string& path) override {
-    return MakeError != 0 ? -MakeError : PassingCalls::MakeFolder(path);
-  }
-};
-
 std::optional<RunTimeError> FailureOfMaking(const fs::path& path, FileCalls& calls = SystemFileCalls()) {
   try {
     MakeFolder(path, calls);
@@ -97,16 +82,13 @@ TEST_F(Folders, AreSeenWithoutAStandardInput) {
 
 TEST_F(Folders, AnyErrorCountsAsNotExisting) {
   for (const int error : {EACCES, EIO, ELOOP, EMFILE, ENOMEM, ENOTDIR}) {
-    RefusingCalls calls;
-    calls.OpenError = error;
+    WatchedCalls calls(FailAll(Call::kOpen, error));
     EXPECT_FALSE(FolderExists(Home(), calls)) << "error number " << error;
   }
 }
 
 TEST_F(Folders, AnInterruptedLookIsTakenAgain) {
-  RefusingCalls calls;
-  calls.OpenError = EINTR;
-  calls.OpenErrorCount = 3;
+  WatchedCalls calls(FailAll(Call::kOpen, EINTR, 3));
   EXPECT_TRUE(FolderExists(Home(), calls));
 }
 
@@ -153,8 +135,7 @@ TEST_F(Folders, AFaultOfTheSystemsIsToldWithPathAndReason) {
       {EIO, RunTimeFault::kDeviceError},
   };
   for (const auto& [error, fault] : cases) {
-    RefusingCalls calls;
-    calls.MakeError = error;
+    WatchedCalls calls(FailAll(Call::kMakeFolder, error));
     const std::optional<RunTimeError> failure = FailureOfMaking(Home() / "Ranges", calls);
     ASSERT_TRUE(failure.has_value()) << "error number " << error;
     EXPECT_EQ(failure->Fault(), fault) << "error number " << error;
@@ -172,8 +153,7 @@ TEST_F(Folders, AreMadeIfMissingAndElseLeftAlone) {
 }
 
 TEST_F(Folders, OneThatMayNotBeListedIsFatalWhereItIsNeeded) {
-  RefusingCalls calls;
-  calls.OpenError = EACCES;
+  WatchedCalls calls(FailAll(Call::kOpen, EACCES));
   EXPECT_THROW(MakeFolderIfMissing(Home(), calls), RunTimeError);
 }
 

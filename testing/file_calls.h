@@ -5,82 +5,139 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <fcntl.h>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
+#include <utility>
+#include <vector>
 
 #include "support/files.h"
 
 namespace quillon {
 
-/// The system's own calls under another name. A test derives from it and overrides what it watches or makes fail.
-class PassingCalls : public FileCalls {
+enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFolder, kMode, kSetMode, kTryLock };
+
+/// A call as it was made. `Path` is empty for calls on an open file.
+struct MadeCall {
+  quillon::Call Call;
+  std::string Path;
+  int Flags = 0;
+};
+
+/// Passes every call on to the system, keeps a record of it, and makes the chosen ones fail.
+class WatchedCalls : public FileCalls {
  public:
-  int Open(const std::string& path, int flags, mode_t mode) override { return system_.Open(path, flags, mode); }
-  ssize_t Read(int file, std::span<char> buffer) override { return system_.Read(file, buffer); }
-  ssize_t Write(int file, std::string_view bytes) override { return system_.Write(file, bytes); }
-  int Sync(int file) override { return system_.Sync(file); }
-  int Close(int file) override { return system_.Close(file); }
-  int Rename(const std::string& from, const std::string& to) override { return system_.Rename(from, to); }
-  int Unlink(const std::string& path) override { return system_.Unlink(path); }
-  int MakeFolder(const std::string& path) override { return system_.MakeFolder(path); }
-  int Mode(int file) override { return system_.Mode(file); }
-  int SetMode(int file, mode_t mode) override { return system_.SetMode(file, mode); }
-  int TryLock(int file) override { return system_.TryLock(file); }
+  /// The negated error number that call number `number` (from 1) returns, or nothing for one that goes through.
+  using Fault = std::function<std::optional<int>(const MadeCall& call, int number)>;
+
+  /// Reads and writes are cut to `largestPiece`.
+  explicit WatchedCalls(Fault fault = {}, std::size_t largestPiece = std::string_view::npos)
+      : fault_(std::move(fault)), largestPiece_(largestPiece) {}
+
+  int Open(const std::string& path, int flags, mode_t mode) override {
+    const auto error = Record({Call::kOpen, path, flags});
+    return error ? *error : system_.Open(path, flags, mode);
+  }
+  ssize_t Read(int file, std::span<char> buffer) override {
+    const auto error = Record({Call::kRead, {}});
+    return error ? *error : system_.Read(file, buffer.first(std::min(buffer.size(), largestPiece_)));
+  }
+  ssize_t Write(int file, std::string_view bytes) override {
+    const auto error = Record({Call::kWrite, {}});
+    return error ? *error : system_.Write(file, bytes.substr(0, largestPiece_));
+  }
+  int Sync(int file) override {
+    const auto error = Record({Call::kSync, {}});
+    return error ? *error : system_.Sync(file);
+  }
+  /// As with the system's own, the file is closed even if this fails.
+  int Close(int file) override {
+    const auto error = Record({Call::kClose, {}});
+    const int closed = system_.Close(file);
+    return error ? *error : closed;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    const auto error = Record({Call::kRename, from});
+    return error ? *error : system_.Rename(from, to);
+  }
+  int Unlink(const std::string& path) override {
+    const auto error = Record({Call::kUnlink, path});
+    return error ? *error : system_.Unlink(path);
+  }
+  int MakeFolder(const std::string& path) override {
+    const auto error = Record({Call::kMakeFolder, path});
+    return error ? *error : system_.MakeFolder(path);
+  }
+  int Mode(int file) override {
+    const auto error = Record({Call::kMode, {}});
+    return error ? *error : system_.Mode(file);
+  }
+  int SetMode(int file, mode_t mode) override {
+    const auto error = Record({Call::kSetMode, {}});
+    return error ? *error : system_.SetMode(file, mode);
+  }
+  int TryLock(int file) override {
+    const auto error = Record({Call::kTryLock, {}});
+    return error ? *error : system_.TryLock(file);
+  }
+
+  [[nodiscard]] const std::vector<MadeCall>& Made() const { return made_; }
+  [[nodiscard]] std::ptrdiff_t Count(Call call) const { return std::ranges::count(made_, call, &MadeCall::Call); }
+
+  /// The paths at which a new file was to be made.
+  [[nodiscard]] std::vector<std::string> ScratchFiles() const {
+    std::vector<std::string> paths;
+    for (const MadeCall& call : made_) {
+      if (call.Call == Call::kOpen && (call.Flags & O_CREAT) != 0) paths.push_back(call.Path);
+    }
+    return paths;
+  }
 
  private:
+  std::optional<int> Record(MadeCall call) {
+    made_.push_back(std::move(call));
+    return fault_ ? fault_(made_.back(), static_cast<int>(made_.size())) : std::nullopt;
+  }
+
+  Fault fault_;
+  std::size_t largestPiece_;
+  std::vector<MadeCall> made_;
   FileCalls& system_ = SystemFileCalls();
 };
 
+/// The first `times` calls of this kind fail.
+[[nodiscard]] inline WatchedCalls::Fault FailAll(Call call, int error, int times = 1'000'000) {
+  return [call, error, left = times](const MadeCall& made, int /*number*/) mutable -> std::optional<int> {
+    if (made.Call != call || left-- <= 0) return std::nullopt;
+    return -error;
+  };
+}
+
 /// Calls of which one fails, or all from one on. Counting up through the calls of an action until none fails any more
 /// makes each of them fail in turn.
-class FailingCalls final : public PassingCalls {
+class FailingCalls final : public WatchedCalls {
  public:
   enum class Lasting { kOnce, kForGood };
 
-  /// Lets `callsUntilFailure` calls through. A call that fails returns `error`, negated; writes and reads that do not
-  /// are cut to `largestPiece`.
+  /// Lets `callsUntilFailure` calls through. A call that fails returns `error`, negated.
   explicit FailingCalls(int callsUntilFailure, int error = EIO, Lasting lasting = Lasting::kOnce,
                         std::size_t largestPiece = std::string_view::npos)
-      : left_(callsUntilFailure), error_(error), lasting_(lasting), largestPiece_(largestPiece) {}
+      : WatchedCalls(
+            [=](const MadeCall& /*call*/, int number) {
+              const bool fails =
+                  lasting == Lasting::kForGood ? number > callsUntilFailure : number == callsUntilFailure + 1;
+              return fails ? std::optional(-error) : std::nullopt;
+            },
+            largestPiece),
+        callsUntilFailure_(callsUntilFailure) {}
 
-  [[nodiscard]] bool HasFailed() const { return left_ < 0; }
-
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    return Fails() ? -error_ : PassingCalls::Open(path, flags, mode);
-  }
-  ssize_t Read(int file, std::span<char> buffer) override {
-    return Fails() ? -error_ : PassingCalls::Read(file, buffer.first(std::min(buffer.size(), largestPiece_)));
-  }
-  ssize_t Write(int file, std::string_view bytes) override {
-    return Fails() ? -error_ : PassingCalls::Write(file, bytes.substr(0, largestPiece_));
-  }
-  int Sync(int file) override { return Fails() ? -error_ : PassingCalls::Sync(file); }
-  /// As with the system's own, the file is closed even so.
-  int Close(int file) override {
-    const int closed = PassingCalls::Close(file);
-    return Fails() ? -error_ : closed;
-  }
-  int Rename(const std::string& from, const std::string& to) override {
-    return Fails() ? -error_ : PassingCalls::Rename(from, to);
-  }
-  int Unlink(const std::string& path) override { return Fails() ? -error_ : PassingCalls::Unlink(path); }
-  int MakeFolder(const std::string& path) override { return Fails() ? -error_ : PassingCalls::MakeFolder(path); }
-  int Mode(int file) override { return Fails() ? -error_ : PassingCalls::Mode(file); }
-  int SetMode(int file, mode_t mode) override { return Fails() ? -error_ : PassingCalls::SetMode(file, mode); }
-  int TryLock(int file) override { return Fails() ? -error_ : PassingCalls::TryLock(file); }
+  [[nodiscard]] bool HasFailed() const { return std::ssize(Made()) > callsUntilFailure_; }
 
  private:
-  bool Fails() {
-    left_ = std::max(left_ - 1, -2);
-    return lasting_ == Lasting::kForGood ? left_ < 0 : left_ == -1;
-  }
-
-  int left_;
-  int error_;
-  Lasting lasting_;
-  std::size_t largestPiece_;
+  int callsUntilFailure_;
 };
 
 }  // namespace quillon
