@@ -144,23 +144,6 @@ TEST_F(StartJourney, NameTooShortForARangeFileEndsTheProgram) {
   EXPECT_EQ(text, errors + "\nQuillon ends now.");
 }
 
-TEST_F(StartJourney, RangeFileThatEndsTheStartIsNamed) {
-  fs::create_directory(Session().Program().Path / "Ranges");
-  std::ofstream(Session().Program().Path / "Ranges" / "x.txt") << "AA";
-  Session().Start();
-  const std::string text = MessageText(Session().WaitForWindow("Quillon"));
-  EXPECT_THAT(text, HasSubstr("(the range file \"x.txt\" holds no weight for AA)"));
-  Session().Press({"Return"});
-  EXPECT_EQ(Session().WaitForEnd(), 1);
-}
-
-TEST_F(StartJourney, FreshScratchFileAmongTheRangesStopsNoStart) {
-  fs::create_directory(Session().Program().Path / "Ranges");
-  std::ofstream(Session().Program().Path / "Ranges" / ".quillon-4711-0.tmp") << "AA";
-  StartProgram();
-  EXPECT_EQ(CloseProgram(), 0);
-}
-
 TEST_F(StartJourney, FolderWhoseNameIsNotUtf8IsTheProgramsAllTheSame) {
   const fs::path folder = Session().StartFromAnother("K\xE4se");
   static_cast<void>(Session().WaitForWindow("Quillon 0.9"));

@@ -126,18 +126,6 @@ TEST_F(AnalysisInWindow, TheBarMovesAndIsPaintedForEachClass) {
   EXPECT_GE(bar.Paints, 169);
 }
 
-TEST_F(AnalysisInWindow, ASecondRunStartsWithTheBarOfTheFirst) {
-  EXPECT_EQ(Caption("lblProgressPerc"), "%...");
-  EXPECT_EQ(Bar().width(), 521);
-  RunEquity("Tight");
-  EXPECT_EQ(Caption("lblProgressPerc"), "100%");
-  EXPECT_EQ(Bar().width(), 521);
-  Open(kEquityNav);
-  DuringRun("1%", [this] { Click("lblStopCalc"); });
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Caption("lblProgressPerc"), "1%") << "nobody puts it back";
-}
-
 TEST_F(AnalysisInWindow, AStopIsNoticedAfterTheNextClass) {
   EnterCall("100", "50", "Tight");
   DuringRun("1%", [this] {
@@ -152,30 +140,6 @@ TEST_F(AnalysisInWindow, AStopIsNoticedAfterTheNextClass) {
   EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
   EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
   EXPECT_EQ(Form.State().HandInfo, "");
-}
-
-TEST_F(AnalysisInWindow, AStopInTheLastYieldStillCounts) {
-  EnterEquity("Tight");
-  DuringRun("100%", [this] { Click("lblStopCalc"); });
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_EQ(Bar().width(), BarWidthAfter(169));
-  EXPECT_EQ(Form.State().HandInfo, "");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
-}
-
-TEST_F(AnalysisInWindow, AStopTakesEarlierResultsFromThePanelAlone) {
-  RunCall("100", "50", "Tight");
-  const std::string table = Form.State().HandInfo;
-  const QColor color = Get<Shape>("shapeCardBack", 0).Fill();
-  EnterRaise("300", "20", "40", "Tight", "Pairs");
-  DuringRun("50%", [this] { Click("lblStopCalc"); });
-  Click("cmdPreflopEV", 1);
-  EXPECT_EQ(Screen(), "Preflop Raise");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
-  EXPECT_EQ(Form.State().HandInfo, table);
-  EXPECT_EQ(Form.State().PotSize, 300) << "the situation is the new one";
-  EXPECT_EQ(Get<Shape>("shapeCardBack", 0).Fill(), color);
 }
 
 TEST_F(AnalysisInWindow, OtherScreensStayUsableAndTheLinkLeadsBack) {
@@ -211,19 +175,6 @@ TEST_F(AnalysisInWindow, TypingDuringARunTakesItsLinkAway) {
   EXPECT_EQ(Screen(), "ALL IN Grid");
 }
 
-TEST_F(AnalysisInWindow, AmountsAreReadAnewForEachClass) {
-  EnterCall("100", "50", "Tight");
-  DuringRun("50%", [this] { Get<QLineEdit>("txtNumber", 1).setText(QStringLiteral("20")); });
-  Click("cmdPreflopEV", 0);
-
-  const std::string& table = Form.State().HandInfo;
-  const auto value = [&](std::string_view hand) { return GetHandInfo(table, hand, 1); };
-  const auto equity = [&](std::string_view hand) { return GetHandInfo(table, hand, 2); };
-  EXPECT_NEAR(value("AA"), equity("AA") * 150 - 50, 1e-9);
-  EXPECT_NEAR(value("22"), equity("22") * 120 - 20, 1e-9);
-  EXPECT_EQ(Form.State().CallAmount, 50) << "the situation is that of the start";
-}
-
 TEST_F(AnalysisInWindow, ANestedRunEndsFirstAndStopsTheOuterOne) {
   EnterCall("100", "50", "Tight");
   DuringRun("10%", [this] {
@@ -237,20 +188,6 @@ TEST_F(AnalysisInWindow, ANestedRunEndsFirstAndStopsTheOuterOne) {
   EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Pairs", ""}));
   EXPECT_TRUE(Shows("lblNav", kGridNavIndex)) << "the nested run's results stay";
   EXPECT_FALSE(Form.State().Running);
-}
-
-TEST_F(AnalysisInWindow, ANestedRunThatIsStoppedStopsBoth) {
-  EnterCall("100", "50", "Tight");
-  DuringRun("10%", [this] {
-    EnterEquity("Pairs");
-    DuringRun("90%", [this] { Click("lblStopCalc"); });
-    Click("cmdPreflopEV", 2);
-    EXPECT_EQ(Screen(), "Equity Only");
-  });
-  Click("cmdPreflopEV", 0);
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_EQ(Form.State().HandInfo, "");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
 }
 
 TEST_F(AnalysisInWindow, ARefusedClickLeavesPleaseWait) {
@@ -277,22 +214,6 @@ TEST_F(AnalysisInWindow, ARefusedClickLeavesPleaseWait) {
 
   RunEquity("Tight");
   EXPECT_EQ(Caption("lblNoResults"), kNothingYet) << "the next run sets it right";
-}
-
-TEST_F(AnalysisInWindow, TheLabelIsNoLinkWhileNothingRuns) {
-  Open(kCallNav);
-  Click("lblNoResults");
-  EXPECT_EQ(Screen(), "Preflop Call");
-  EXPECT_EQ(LabelAt("lblNoResults").cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(AnalysisInWindow, ARangeDeletedDuringTheRunIsStillPlayed) {
-  EnterRaise("100", "0", "50", "Pairs", "Tight");
-  DuringRun("50%", [this] { std::filesystem::remove(Program.RangeFile("Tight.txt")); });
-  Click("cmdPreflopEV", 1);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(FromQt(Get<QComboBox>("cmboRanges", 2).currentText()), "") << "the lists show the folder";
-  EXPECT_EQ(Form.State().CallingRangeName, "Tight");
 }
 
 TEST_F(AnalysisInWindow, ThePressedLookEndsWithTheClick) {

