@@ -18,12 +18,6 @@ struct RoundingCase {
   std::int64_t millionths;
 };
 
-class EachRounding : public testing::TestWithParam<RoundingCase> {};
-
-TEST_P(EachRounding, IsExact) {
-  EXPECT_EQ(Millionths(GetParam().points, GetParam().atStake), GetParam().millionths);
-}
-
 constexpr auto kRoundings = std::to_array<RoundingCase>({
     {"Nothing", 0, 7, 0},
     {"Everything", 7, 7, 1'000'000},
@@ -36,8 +30,11 @@ constexpr auto kRoundings = std::to_array<RoundingCase>({
     {"TheMostThatTwoClassesPlayFor", 288 * kBoardsPerPair - 1, 288 * kBoardsPerPair, 1'000'000},
 });
 
-INSTANTIATE_TEST_SUITE_P(EquityRowText, EachRounding, testing::ValuesIn(kRoundings),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
+TEST(EachRounding, IsExact) {
+  for (const RoundingCase& c : kRoundings) {
+    EXPECT_EQ(Millionths(c.points, c.atStake), c.millionths) << c.rule;
+  }
+}
 
 using Row = std::array<std::int64_t, kClassCount>;
 
@@ -72,18 +69,6 @@ struct EntryCase {
   const char* text;
 };
 
-class EachEntry : public testing::TestWithParam<EntryCase> {};
-
-TEST_P(EachEntry, IsWritten) {
-  constexpr std::int64_t kPairs = 36;
-  Row points = Filled(PointsFor(250'000, kPairs));
-  points[GetParam().column] = PointsFor(GetParam().millionths, kPairs);
-  const std::vector<std::string> fields = Fields(EquityRowText(GetParam().row, points, Filled(kPairs)));
-  ASSERT_EQ(fields.size(), kClassCount + 1);
-  EXPECT_EQ(fields[GetParam().column], GetParam().text);
-  EXPECT_EQ(fields.back(), "");
-}
-
 constexpr auto kEntries = std::to_array<EntryCase>({
     {"SixDecimalsAboveTheDiagonal", 0, 1, 878'595, "0.878595"},
     {"TrailingZerosAreDropped", 0, 1, 622'500, "0.6225"},
@@ -94,8 +79,18 @@ constexpr auto kEntries = std::to_array<EntryCase>({
     {"TheLastColumn", 3, 168, 700'000, "0.7"},
 });
 
-INSTANTIATE_TEST_SUITE_P(EquityRowText, EachEntry, testing::ValuesIn(kEntries),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
+TEST(EachEntry, IsWritten) {
+  for (const EntryCase& c : kEntries) {
+    SCOPED_TRACE(c.rule);
+    constexpr std::int64_t kPairs = 36;
+    Row points = Filled(PointsFor(250'000, kPairs));
+    points[c.column] = PointsFor(c.millionths, kPairs);
+    const std::vector<std::string> fields = Fields(EquityRowText(c.row, points, Filled(kPairs)));
+    ASSERT_EQ(fields.size(), kClassCount + 1);
+    EXPECT_EQ(fields[c.column], c.text);
+    EXPECT_EQ(fields.back(), "");
+  }
+}
 
 std::vector<std::string> TableRows() {
   std::vector<std::string> rows;
@@ -152,16 +147,6 @@ struct DamageCase {
   const char* problem;
 };
 
-class EachDamage : public testing::TestWithParam<DamageCase> {};
-
-TEST_P(EachDamage, IsNamed) {
-  std::vector<std::string> rows = TableRows();
-  GetParam().damage(rows);
-  const JoinedRows joined = JoinRows(std::vector<RowFile>{{"part.txt", LinesOf(rows)}});
-  EXPECT_EQ(joined.problem, GetParam().problem);
-  EXPECT_TRUE(joined.rows.empty());
-}
-
 void Replace(std::string& row, std::string_view from, std::string_view to) {
   row.replace(row.find(from), from.size(), to);
 }
@@ -186,8 +171,16 @@ const auto kDamages = std::to_array<DamageCase>({
      "the rows of AA and AKs do not add up to 1"},
 });
 
-INSTANTIATE_TEST_SUITE_P(EquityRowText, EachDamage, testing::ValuesIn(kDamages),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
+TEST(EachDamage, IsNamed) {
+  for (const DamageCase& c : kDamages) {
+    SCOPED_TRACE(c.rule);
+    std::vector<std::string> rows = TableRows();
+    c.damage(rows);
+    const JoinedRows joined = JoinRows(std::vector<RowFile>{{"part.txt", LinesOf(rows)}});
+    EXPECT_EQ(joined.problem, c.problem);
+    EXPECT_TRUE(joined.rows.empty());
+  }
+}
 
 TEST(EquityRowText, NoFilesHaveNoRows) {
   EXPECT_EQ(JoinRows({}).problem, "no row of AA");
