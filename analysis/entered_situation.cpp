@@ -1,5 +1,7 @@
 #include "analysis/entered_situation.h"
 
+#include "support/joined_text.h"
+
 namespace quillon {
 namespace {
 
@@ -13,6 +15,14 @@ double BoxValue(std::string_view text) {
   std::string amount(text);
   std::erase(amount, '$');
   return LeadingNumber(amount);
+}
+
+std::optional<std::string> CommaWarning(std::string_view name, const std::string& amount) {
+  std::string whole = amount;
+  std::erase(whole, ',');
+  const double value = BoxValue(amount);
+  if (!IsNumericText(amount) || value == BoxValue(whole)) return std::nullopt;
+  return Joined({"Warning: ", name, " ", amount, " counts as ", NumberText(value), "; a comma ends a number."});
 }
 
 Amounts AmountsOf(const EnteredSituation& entered) {

@@ -2,6 +2,7 @@
 
 // A situation as the user states it: amounts as typed, ranges by name. This is how it becomes what an analysis asks.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,12 @@ struct EnteredSituation {
 ///
 ///     "150" -> 150      "$12.50" -> 12.5      "1,000" -> 1      "12abc" -> 12      "abc" -> 0      "" -> 0
 [[nodiscard]] double BoxValue(std::string_view text);
+
+/// What to warn of where a comma cuts an amount short, which `name` has; nothing where the whole text counts, and for
+/// what is not a number at all and so will be refused.
+///
+///     ("pot", "1,000") -> "Warning: pot 1,000 counts as 1; a comma ends a number."
+[[nodiscard]] std::optional<std::string> CommaWarning(std::string_view name, const std::string& amount);
 
 /// The values of the three amounts.
 [[nodiscard]] Amounts AmountsOf(const EnteredSituation& entered);

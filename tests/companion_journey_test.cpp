@@ -145,6 +145,7 @@ Arguments Words(const std::string& line) {
 TEST(CompanionJourney, DoesWhatTheHelpOfEachCommandGivesAsItsExample) {
   for (const Command& command : kCommands) {
     const Household household;
+    std::ofstream(household.Elsewhere() / "situations.jsonl") << R"({"mode":"equity","range":"Tight Open"})";
     const ProgramOutcome outcome = household.Run(With({command.Name}, Words(command.Example)));
     EXPECT_EQ(outcome.Status, 0) << command.Name << ": " << outcome.Errors;
     EXPECT_EQ(outcome.Errors, "") << command.Name;

@@ -6,6 +6,7 @@
 #include <istream>
 #include <memory>
 #include <ostream>
+#include <utility>
 #include <variant>
 
 #include "analysis/entered_situation.h"
@@ -27,16 +28,6 @@ constexpr std::size_t kHelpNameWidth = 6;
 HandNumbers ReadHandNumbers() {
   LoadEquityTable();
   return {};
-}
-
-// Thousands separators pass for a number, but the value ends at the first. What is no number at all is refused.
-void WarnOfComma(std::string_view option, const std::string& amount, std::ostream& errors) {
-  std::string whole = amount;
-  std::erase(whole, ',');
-  const double value = BoxValue(amount);
-  if (!IsNumericText(amount) || value == BoxValue(whole)) return;
-  errors << "Warning: " << option << ' ' << amount << " counts as " << NumberText(value)
-         << "; a comma ends a number.\n";
 }
 
 }  // namespace
@@ -114,7 +105,7 @@ bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
   PrintedMessages messages(surroundings_.Errors);
   text = EvalTextBox(text, messages);
   if (messages.Shown()) return false;
-  WarnOfComma(option, text, surroundings_.Errors);
+  if (const auto comma = CommaWarning(option, text)) surroundings_.Errors << *comma << '\n';
   return true;
 }
 
@@ -165,16 +156,10 @@ std::optional<GivenRange> CommandInputs::TypedRange(const std::string& notation)
   constexpr std::string_view kStandardInput = "-";
   const std::optional<std::string> typed = notation == kStandardInput ? StandardInput() : notation;
   if (!typed) return std::nullopt;
-  const NotationReading reading = ReadRangeNotation(*typed, HandsBestFirst(hands_));
-  if (const auto* const error = std::get_if<NotationError>(&reading)) {
-    Refuse(MarkedPlace(*typed, *error));
-    return std::nullopt;
-  }
-  const auto& weights = std::get<ClassWeights>(reading);
-  GivenRange range{RangeNotation(weights), SearchableRangeText(weights)};
-  // As an analysis reads them: a text holds 15 digits of a weight.
-  range.Weights = RangeWeightsOf(range.Text);
-  return range;
+  RangeFinding finding = quillon::TypedRange(*typed, HandsBestFirst(hands_));
+  if (auto* const range = std::get_if<GivenRange>(&finding)) return std::move(*range);
+  Refuse(std::get<std::string>(finding));
+  return std::nullopt;
 }
 
 std::optional<std::string> CommandInputs::StandardInput() {

@@ -16,6 +16,7 @@
 #include "analysis/range_sources.h"
 #include "ranges/range_files.h"
 #include "ranges/range_text.h"
+#include "study/given_range.h"
 #include "support/message_boxes.h"
 #include "tools/companion.h"
 #include "tools/formats.h"
@@ -61,13 +62,6 @@ struct RangeOption {
   std::string Options;  // what they are called
 
   [[nodiscard]] bool Given() const { return Name || Hands; }
-};
-
-/// A range as it was found. `Name` is its notation where it was given by that.
-struct GivenRange {
-  std::string Name;
-  std::string Text;
-  ClassWeights Weights{};
 };
 
 /// Adds a pair of options for one range, such as "--range" and "--hands", of which one may be used.

@@ -19,8 +19,9 @@ namespace quillon {
 [[nodiscard]] RunCommand OfferLimits(CLI::App& options);
 [[nodiscard]] RunCommand OfferSweep(CLI::App& options);
 [[nodiscard]] RunCommand OfferBalance(CLI::App& options);
+[[nodiscard]] RunCommand OfferBatch(CLI::App& options);
 
-inline constexpr std::array<Command, 11> kCommands = {{
+inline constexpr std::array<Command, 12> kCommands = {{
     {"call", "What each hand wins or loses by calling an all-in",
      "He is all in. For each of the 169 starting hands: its equity against his range, and what calling is\n"
      "worth against folding, in the unit of the amounts.",
@@ -57,6 +58,12 @@ inline constexpr std::array<Command, 11> kCommands = {{
     {"balance", "The ranges to shove and to call with in which neither player gains by changing",
      "A weight below 1 is how often to play a hand that is worth the same either way.",
      "--pot 1.5 --call 0.5 --shove 9", OfferBalance},
+    {"batch", "Answers a file of situations, one a line",
+     "A line is a JSON object with what a command line of call, raise or equity says: mode, pot, call, shove,\n"
+     "range or hands, calling_range or calling_hands, and an id of yours. For each line one is printed, in the\n"
+     "same order: the object that --format json prints, after the id. A line that is refused gives its id, its\n"
+     "number and the error instead, and makes the exit status 1. Ctrl+C ends between two lines, with status 130.",
+     "situations.jsonl --fields best,ev,equity", OfferBatch},
     {"matrix", "The equity of every class against every other", "A row for each of the 169 classes, a column for each.",
      "--format csv", OfferMatrix},
 }};

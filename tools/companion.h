@@ -21,6 +21,7 @@ inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
 inline constexpr int kWrongUsage = 2;
 inline constexpr int kRefused = 3;
+inline constexpr int kInterrupted = 130;  // of a batch that Ctrl+C ended; what shells say of that signal
 
 /// What the companion finds around it.
 struct Surroundings {
@@ -29,7 +30,7 @@ struct Surroundings {
   std::filesystem::path ProgramFolder;  // where "Ranges" is looked for unless --folder names another folder
   quillon::Terminal Terminal{};
   std::function<std::chrono::steady_clock::time_point()> Now = std::chrono::steady_clock::now;
-  std::istream* Input = nullptr;  // where "-" reads a range; without it there is nothing to read
+  std::istream* Input = nullptr;  // where "-" reads a range, and a batch its lines; without it there is nothing
 };
 
 /// Does what the arguments (without the program's name) ask for, and returns the exit status. An amount is taken as an

@@ -12,6 +12,7 @@
 #include "support/folders.h"
 #include "support/run_time_error.h"
 #include "tools/companion.h"
+#include "tools/interrupt.h"
 #include "tools/terminal.h"
 
 namespace {
@@ -22,13 +23,15 @@ std::string Variable(const char* name) {
 }
 
 int Run(const std::vector<std::string>& arguments) {
+  quillon::DescriptorInput standardInput(STDIN_FILENO, "standard input");
+  std::istream input(&standardInput);
   const quillon::Surroundings surroundings{
       std::cout,
       std::cerr,
       quillon::ExecutableFolder(),
       quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable),
       std::chrono::steady_clock::now,
-      &std::cin};
+      &input};
   const int status = quillon::RunCompanion(arguments, surroundings);
   // An answer that did not get out is no answer.
   if (!std::cout.flush()) throw quillon::RunTimeError(quillon::RunTimeFault::kDeviceError, "standard output");

@@ -1,0 +1,211 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <fcntl.h>
+#include <future>
+#include <istream>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <sched.h>
+#include <streambuf>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include "results/analysis_json.h"
+#include "study/batch.h"
+#include "tools/bounded_queue.h"
+#include "tools/commands.h"
+#include "tools/interrupt.h"
+
+namespace quillon {
+namespace {
+
+constexpr unsigned kMostJobs = 256;
+constexpr const char* kStandardInput = "-";
+
+struct Request {
+  std::string file = kStandardInput;
+  std::string fields;
+  unsigned jobs = 0;
+  std::string folder;
+};
+
+// The cores that this process may use, which a queueing system may have made fewer than there are.
+unsigned UsableCores() {
+  cpu_set_t cores;
+  if (sched_getaffinity(0, sizeof cores, &cores) != 0) return 1;
+  return std::clamp(static_cast<unsigned>(CPU_COUNT(&cores)), 1U, kMostJobs);
+}
+
+std::vector<std::string> FieldsOf(const std::string& list) {
+  std::vector<std::string> fields;
+  if (list.empty()) return fields;
+  const std::vector<std::string> known = AnalysisFieldNames();
+  for (const std::string& field : CLI::detail::split(list, ',')) {
+    if (std::ranges::find(known, field) == known.end()) {
+      throw CLI::ValidationError("--fields: there is no field \"" + field + "\"; there are " +
+                                 CLI::detail::join(known, ", "));
+    }
+    fields.push_back(field);
+  }
+  return fields;
+}
+
+// The next line, or nothing at the end. Of a line that is too long, as much as shows that it is.
+std::optional<std::string> NextLine(std::streambuf& input) {
+  std::string line;
+  int next = input.sbumpc();
+  if (next == std::streambuf::traits_type::eof()) return std::nullopt;
+  for (; next != std::streambuf::traits_type::eof() && next != '\n'; next = input.sbumpc()) {
+    if (line.size() <= kLongestBatchLine) line += std::streambuf::traits_type::to_char_type(next);
+  }
+  return line;
+}
+
+// One thread reads, some answer, and one writes. Between them are queues of a fixed length, so that no more lines are
+// in memory than keep everybody busy, however many there are and whoever is the slowest.
+class Filter {
+ public:
+  Filter(const Batch& batch, unsigned jobs, const Surroundings& surroundings)
+      : batch_(batch),
+        surroundings_(surroundings),
+        tasks_(kLinesForEachJob * std::size_t{jobs}),
+        answers_(kLinesForEachJob * std::size_t{jobs}) {
+    for (unsigned i = 0; i < jobs; ++i)
+      workers_.emplace_back([this] { Work(); });
+  }
+
+  // The exit status. What could not be answered or written ends it with an exception.
+  int Run(std::streambuf& input) {
+    std::future<int> written = std::async(std::launch::async, [this] { return Write(); });
+    const bool interrupted = Read(input);
+    const int status = written.get();
+    return interrupted ? kInterrupted : status;
+  }
+
+ private:
+  static constexpr std::size_t kLinesForEachJob = 16;
+
+  // Whether Ctrl+C ended it. What was read is answered all the same, which takes a moment.
+  bool Read(std::streambuf& input) {
+    const Closing closing{tasks_, answers_};
+    for (std::int64_t number = 1; !failed_; ++number) {
+      std::optional<std::string> line = NextLine(input);
+      if (InterruptWatch::Came()) return true;  // perhaps in the middle of the line
+      if (!line) break;
+      std::packaged_task<BatchAnswer()> task(
+          [this, number, line = *std::move(line)] { return batch_.Answer(line, number); });
+      answers_.Push(task.get_future());
+      tasks_.Push(std::move(task));
+    }
+    return false;
+  }
+
+  void Work() {
+    while (auto task = tasks_.Pop())
+      (*task)();
+  }
+
+  int Write() {
+    int status = kDone;
+    std::exception_ptr failure;
+    while (auto answer = answers_.Pop()) {
+      try {
+        if (!failed_) status = std::max(status, WriteOne(*answer));
+      } catch (...) {  // to be told when the reader has ended, which must not wait for room meanwhile
+        failed_ = true;
+        failure = std::current_exception();
+      }
+    }
+    if (failure) std::rethrow_exception(failure);
+    return status;
+  }
+
+  int WriteOne(std::future<BatchAnswer>& coming) {
+    const BatchAnswer answer = coming.get();
+    surroundings_.Output << answer.Line << '\n';
+    if (answers_.IsEmpty()) surroundings_.Output.flush();  // for whoever sends a line and waits for its answer
+    failed_ = !surroundings_.Output;
+    if (!answer.Warning.empty()) surroundings_.Errors << answer.Warning << '\n';
+    return answer.Refused ? kFailed : kDone;
+  }
+
+  // However the reading ends, the others must not wait for more.
+  struct Closing {
+    BoundedQueue<std::packaged_task<BatchAnswer()>>& tasks;
+    BoundedQueue<std::future<BatchAnswer>>& answers;
+    ~Closing() {
+      tasks.Close();
+      answers.Close();
+    }
+  };
+
+  const Batch& batch_;
+  const Surroundings& surroundings_;
+  std::atomic<bool> failed_ = false;
+  BoundedQueue<std::packaged_task<BatchAnswer()>> tasks_;
+  BoundedQueue<std::future<BatchAnswer>> answers_;
+  std::vector<std::jthread> workers_;
+};
+
+// An open file, or nothing after it was told why it cannot be opened.
+class OpenFile {
+ public:
+  OpenFile(const std::string& path, CommandInputs& inputs) : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (descriptor_ < 0) inputs.Refuse(path + ": " + std::error_code(errno, std::generic_category()).message());
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile(OpenFile&&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  OpenFile& operator=(OpenFile&&) = delete;
+  ~OpenFile() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+
+  [[nodiscard]] int Descriptor() const { return descriptor_; }
+
+ private:
+  int descriptor_;
+};
+
+int AnswerLines(const Request& request, const Surroundings& surroundings) {
+  std::vector<std::string> fields = FieldsOf(request.fields);
+  CommandInputs inputs(surroundings, request.folder);
+  const Batch batch(inputs.Folder(), std::move(fields));
+  const InterruptWatch watch;
+  const auto run = [&](std::streambuf& input) {
+    return Filter(batch, request.jobs == 0 ? UsableCores() : request.jobs, surroundings).Run(input);
+  };
+  if (request.file == kStandardInput) return surroundings.Input == nullptr ? kDone : run(*surroundings.Input->rdbuf());
+  const OpenFile file(request.file, inputs);
+  if (file.Descriptor() < 0) return inputs.Status();
+  DescriptorInput input(file.Descriptor(), request.file);
+  return run(input);
+}
+
+}  // namespace
+
+RunCommand OfferBatch(CLI::App& options) {
+  const auto request = std::make_shared<Request>();
+  options.add_option("file", request->file, "The situations; - is standard input (default)")->type_name("FILE");
+  options
+      .add_option("--fields", request->fields,
+                  "Only these fields, separated by commas, of the situation and of each hand, such as best,ev,equity")
+      ->type_name("NAMES");
+  options.add_option("--jobs", request->jobs, "Lines to answer at once (default: as many as there are cores)")
+      ->type_name("N")
+      ->check(CLI::Range(1U, kMostJobs));
+  OfferFolder(options, request->folder);
+  return [request](const Surroundings& surroundings) { return AnswerLines(*request, surroundings); };
+}
+
+}  // namespace quillon

@@ -1,0 +1,303 @@
+// The command that answers a situation a line, run as the program runs it.
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <future>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <numeric>
+#include <sstream>
+#include <streambuf>
+#include <string>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include "study/batch.h"
+#include "testing/range_texts.h"
+#include "testing/temporary_program.h"
+#include "tools/bounded_queue.h"
+#include "tools/commands.h"
+#include "tools/interrupt.h"
+
+namespace quillon {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+using Arguments = std::vector<std::string>;
+using Json = nlohmann::ordered_json;
+
+struct Outcome {
+  int Status = -1;
+  std::string Output;
+  std::string Errors;
+};
+
+class BatchCommand : public testing::Test {
+ protected:
+  BatchCommand() { program_.Write("Tight.txt", TextWith("AA KK QQ AKs AKo") + "\r\n"); }
+
+  [[nodiscard]] const std::filesystem::path& Folder() const { return program_.Folder().Path; }
+
+  [[nodiscard]] Outcome Run(const Arguments& arguments, std::streambuf* lines = nullptr) const {
+    std::ostringstream output;
+    std::ostringstream errors;
+    std::istream input(lines);
+    Outcome outcome;
+    outcome.Status = RunCompanion(arguments, {output, errors, Folder(), {}, std::chrono::steady_clock::now, &input});
+    outcome.Output = output.str();
+    outcome.Errors = errors.str();
+    return outcome;
+  }
+  [[nodiscard]] Outcome Run(const Arguments& arguments, const std::string& lines) const {
+    std::stringbuf buffer(lines);
+    return Run(arguments, &buffer);
+  }
+
+ private:
+  TemporaryProgram program_;
+};
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);)
+    lines.push_back(line);
+  return lines;
+}
+
+std::string EquityLine(int id) {
+  return R"({"id":)" + std::to_string(id) + R"(,"mode":"equity","hands":")" + (id % 3 == 0 ? "AA" : "any") + "\"}\n";
+}
+
+std::string EquityLines(int count) {
+  std::string lines;
+  for (int id = 0; id < count; ++id)
+    lines += EquityLine(id);
+  return lines;
+}
+
+TEST_F(BatchCommand, PrintsTheObjectOfASingleRun) {
+  const Outcome batch =
+      Run({"batch"}, R"({"mode":"raise","pot":150,"call":50,"shove":400,"hands":"top 40%","calling_range":"Tight"})");
+  EXPECT_EQ(batch.Status, kDone) << batch.Errors;
+  const Outcome single = Run({"raise", "--pot", "150", "--call", "50", "--shove", "400", "--hands", "top 40%",
+                              "--calling-range", "Tight", "--format", "json"});
+  Json expected = {{"id", nullptr}};
+  expected.update(Json::parse(single.Output));
+  EXPECT_EQ(batch.Output, expected.dump() + "\n");
+}
+
+TEST_F(BatchCommand, KeepsTheOrderWhateverTheJobs) {
+  const std::string lines = EquityLines(150) + "nonsense\n" + EquityLine(151);
+  const Outcome one = Run({"batch", "--jobs", "1", "--fields", "worst"}, lines);
+  EXPECT_EQ(one.Status, kFailed);
+  const auto answers = Lines(one.Output);
+  ASSERT_EQ(answers.size(), 152U);
+  for (std::size_t i = 0; i < answers.size(); ++i) {
+    EXPECT_THAT(answers[i],
+                StartsWith(i == 150 ? R"({"id":null,"line":151,"error":)" : R"({"id":)" + std::to_string(i)));
+  }
+  for (const char* jobs : {"2", "7"})
+    EXPECT_EQ(Run({"batch", "--jobs", jobs, "--fields", "worst"}, lines).Output, one.Output);
+  EXPECT_EQ(Run({"batch", "--fields", "worst"}, lines).Output, one.Output) << "all cores";
+}
+
+TEST_F(BatchCommand, TakesAFileOrStandardInput) {
+  const std::string path = (Folder() / "situations.jsonl").string();
+  std::ofstream(path) << EquityLines(3);
+  const Outcome expected = Run({"batch"}, EquityLines(3));
+  EXPECT_EQ(Run({"batch", path}).Output, expected.Output);
+  EXPECT_EQ(Run({"batch", "-"}, EquityLines(3)).Output, expected.Output);
+  EXPECT_EQ(Lines(expected.Output).size(), 3U);
+}
+
+TEST_F(BatchCommand, NeedsNoLastLineEndAndNoLine) {
+  EXPECT_EQ(Lines(Run({"batch"}, EquityLine(1) + R"({"id":2,"mode":"equity","hands":"KK"})").Output).size(), 2U);
+  const Outcome nothing = Run({"batch"}, "");
+  EXPECT_EQ(nothing.Status, kDone);
+  EXPECT_EQ(nothing.Output, "");
+}
+
+// Only the start of it is kept, and the next line is taken.
+TEST_F(BatchCommand, RefusesALineOfTenMegabytes) {
+  const Outcome outcome = Run({"batch", "--fields", "best"}, std::string(10 << 20, '[') + "\n" + EquityLine(3));
+  EXPECT_EQ(outcome.Status, kFailed);
+  EXPECT_EQ(outcome.Output,
+            "{\"id\":null,\"line\":1,\"error\":\"a line has at most 1048576 bytes\"}\n{\"id\":3,\"best\":\"22\"}\n");
+}
+
+TEST_F(BatchCommand, WarnsOnStandardError) {
+  const Outcome outcome = Run({"batch"}, R"({"mode":"call","pot":"1,500","call":0.5,"hands":"AA"})");
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_EQ(outcome.Errors, "Warning: pot 1,500 counts as 1; a comma ends a number.\n");
+}
+
+TEST_F(BatchCommand, RefusesWhatItCannotOpenOrDo) {
+  struct Case {
+    Arguments arguments;
+    int status;
+    const char* errors;
+  };
+  for (const Case& c : std::vector<Case>{
+           {{"batch", "/nowhere/situations"}, kRefused, "/nowhere/situations: No such file or directory"},
+           {{"batch", "--fields", "best,eV"}, kWrongUsage, "there is no field \"eV\"; there are mode, pot, "},
+           {{"batch", "--fields", "best,,ev"}, kWrongUsage, "there is no field \"\""},
+           {{"batch", "--jobs", "0"}, kWrongUsage, "--jobs"},
+           {{"batch", "--jobs", "257"}, kWrongUsage, "--jobs"},
+           {{"batch", "--jobs", "-1"}, kWrongUsage, "--jobs"},
+           {{"batch", "one", "two"}, kWrongUsage, "two"},
+       }) {
+    const Outcome outcome = Run(c.arguments, EquityLine(1));
+    EXPECT_EQ(outcome.Status, c.status) << testing::PrintToString(c.arguments);
+    EXPECT_THAT(outcome.Errors, HasSubstr(c.errors)) << testing::PrintToString(c.arguments);
+    EXPECT_EQ(outcome.Output, "") << testing::PrintToString(c.arguments);
+  }
+}
+
+TEST_F(BatchCommand, FailsOverWhatCannotBeRead) {
+  EXPECT_ANY_THROW(static_cast<void>(Run({"batch", "/"})));
+}
+
+// Lines without end, with Ctrl+C in the middle of one.
+class EndlessLines final : public std::streambuf {
+ public:
+  explicit EndlessLines(int interruptedAt) : interruptedAt_(interruptedAt) {}
+
+  [[nodiscard]] int Begun() const { return begun_; }
+
+ protected:
+  int_type underflow() override {
+    if (begun_ == interruptedAt_) static_cast<void>(std::raise(SIGINT));
+    line_ = EquityLine(begun_++);
+    setg(line_.data(), line_.data(), line_.data() + line_.size());
+    return traits_type::to_int_type(line_.front());
+  }
+
+ private:
+  int interruptedAt_;
+  int begun_ = 0;
+  std::string line_;
+};
+
+TEST_F(BatchCommand, EndsBetweenTwoLinesOnAnInterrupt) {
+  EndlessLines lines(100);
+  const Outcome outcome = Run({"batch", "--jobs", "2", "--fields", "best"}, &lines);
+  EXPECT_EQ(outcome.Status, kInterrupted);
+  EXPECT_EQ(lines.Begun(), 101);
+  const auto answers = Lines(outcome.Output);
+  ASSERT_EQ(answers.size(), 100U) << "what was read before is answered, the line that was cut off is not";
+  EXPECT_EQ(answers.back(), R"({"id":99,"best":"22"})");
+  EXPECT_THAT(outcome.Output, EndsWith("\n"));
+}
+
+// However fast the input comes, no more of it is taken than the answers that have been written make room for.
+class BlockedOutput final : public std::streambuf {
+ public:
+  explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}
+
+ protected:
+  int_type overflow(int_type c) override {
+    released_.wait();
+    return traits_type::not_eof(c);
+  }
+
+ private:
+  std::shared_future<void> released_;
+};
+
+TEST_F(BatchCommand, ReadsNoFartherAheadThanItsWindow) {
+  class CountedLines final : public std::streambuf {
+   public:
+    std::atomic<int> begun = 0;
+
+   protected:
+    int_type underflow() override {
+      constexpr int kAll = 400;
+      if (begun == kAll) return traits_type::eof();
+      line_ = EquityLine(begun++);
+      setg(line_.data(), line_.data(), line_.data() + line_.size());
+      return traits_type::to_int_type(line_.front());
+    }
+
+   private:
+    std::string line_;
+  };
+  CountedLines lines;
+  std::promise<void> release;
+  BlockedOutput blocked(release.get_future().share());
+  std::ostream output(&blocked);
+  std::ostringstream errors;
+  std::istream input(&lines);
+  auto run = std::async(std::launch::async, [&] {
+    return RunCompanion(Arguments{"batch", "--jobs", "2"},
+                        {output, errors, Folder(), {}, std::chrono::steady_clock::now, &input});
+  });
+  EXPECT_EQ(run.wait_for(std::chrono::milliseconds(500)), std::future_status::timeout);
+  EXPECT_LT(lines.begun, 100);
+  release.set_value();
+  EXPECT_EQ(run.get(), kDone);
+  EXPECT_EQ(lines.begun, 400);
+}
+
+TEST_F(BatchCommand, EndsWhereItsOutputFails) {
+  class FullDisk final : public std::streambuf {};
+  FullDisk full;
+  std::ostream output(&full);
+  std::ostringstream errors;
+  EndlessLines lines(-1);
+  std::istream input(&lines);
+  EXPECT_EQ(RunCompanion(Arguments{"batch"}, {output, errors, Folder(), {}, std::chrono::steady_clock::now, &input}),
+            kDone);
+  EXPECT_FALSE(output) << "for the program to tell";
+}
+
+// ---- what it is made of
+
+TEST(BoundedQueue, HandsEverythingOverInOrder) {
+  constexpr int kCount = 10000;
+  BoundedQueue<int> queue(3);
+  std::jthread writer([&] {
+    for (int i = 0; i < kCount; ++i)
+      queue.Push(i);
+    queue.Close();
+  });
+  std::vector<int> taken;
+  while (const auto item = queue.Pop())
+    taken.push_back(*item);
+  std::vector<int> expected(kCount);
+  std::iota(expected.begin(), expected.end(), 0);
+  EXPECT_EQ(taken, expected);
+  EXPECT_TRUE(queue.IsEmpty());
+}
+
+TEST(DescriptorInput, ReadsToTheEndOrToTheInterrupt) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe(ends.data()), 0);
+  ASSERT_EQ(write(ends[1], "one\ntwo", 7), 7);
+  DescriptorInput buffer(ends[0], "pipe");
+  std::istream input(&buffer);
+  std::string line;
+  EXPECT_TRUE(std::getline(input, line));
+  EXPECT_EQ(line, "one");
+  const InterruptWatch watch;
+  std::jthread user([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    kill(getpid(), SIGINT);
+  });
+  std::getline(input, line);  // would wait for ever: the pipe is open and empty
+  EXPECT_EQ(line, "two");
+  EXPECT_TRUE(InterruptWatch::Came());
+  close(ends[1]);
+  close(ends[0]);
+}
+
+}  // namespace
+}  // namespace quillon
