@@ -136,8 +136,8 @@ TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
        }) {
     const HandList hands = BuildCombos(row.dead1, row.dead2);
     const auto found = std::count_if(hands.begin(), hands.end(), [&](const HandRecord& hand) {
-      return hand.Cards.String().find(row.dead1) != std::string::npos ||
-             hand.Cards.String().find(row.dead2) != std::string::npos;
+      return hand.Cards.View().find(row.dead1) != std::string::npos ||
+             hand.Cards.View().find(row.dead2) != std::string::npos;
     });
     EXPECT_EQ(CountOfWeight(hands, 0), found) << row.name;
     EXPECT_EQ(CountOfWeight(hands, 0), row.blocked) << row.name;

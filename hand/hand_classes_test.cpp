@@ -200,7 +200,7 @@ TEST(HandCards, AreTwoCardsOfTheDeckAndOfTheClass) {
   for (std::size_t i = 0; i < kDeckSize; ++i)
     deck.insert(DeckCard(i));
   for (const std::string& label : GridLabels()) {
-    const std::string cards = HandCards(label).String();
+    const std::string cards(HandCards(label).View());
     ASSERT_EQ(cards.size(), 5U) << label;
     const std::string first = cards.substr(0, 2);
     const std::string second = cards.substr(3);

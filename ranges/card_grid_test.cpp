@@ -43,17 +43,17 @@ TEST(CardGridColors, HaveTheNumbersOfTheDesign) {
   struct Case {
     const char* state;
     Rgb color;
-    std::int32_t number;
+    std::string_view text;
   };
   const std::vector<Case> cases = {
-      {"none, suited", kUnselectedSuitedColor, 12632319},
-      {"none, offsuit", kUnselectedOffsuitColor, 14737632},
-      {"none, pair", kUnselectedPairColor, 12648384},
-      {"half", kHalfColor, 33023},
-      {"full", kFullColor, 6956042},
+      {"none, suited", kUnselectedSuitedColor, "#ffc0c0"},
+      {"none, offsuit", kUnselectedOffsuitColor, "#e0e0e0"},
+      {"none, pair", kUnselectedPairColor, "#c0ffc0"},
+      {"half", kHalfColor, "#ff8000"},
+      {"full", kFullColor, "#0a246a"},
   };
   for (const Case& c : cases)
-    EXPECT_EQ(ColorNumber(c.color), c.number) << c.state;
+    EXPECT_EQ(ColorText(c.color), c.text) << c.state;
 }
 
 TEST(CellBaseColor, LooksAtTheLastCharacterAlone) {

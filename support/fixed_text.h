@@ -7,7 +7,6 @@
 #include <array>
 #include <cstddef>
 #include <ostream>
-#include <string>
 #include <string_view>
 
 namespace quillon {
@@ -31,7 +30,6 @@ class FixedText {
   }
 
   [[nodiscard]] constexpr std::string_view View() const { return {characters_.data(), size_}; }
-  [[nodiscard]] std::string String() const { return std::string(View()); }
   constexpr operator std::string_view() const { return View(); }  // NOLINT(google-explicit-constructor)
 
   friend constexpr bool operator==(const FixedText& left, const FixedText& right) {

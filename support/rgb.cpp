@@ -16,10 +16,6 @@ Rgb MakeRgb(int red, int green, int blue) {
   return {Component(red), Component(green), Component(blue)};
 }
 
-std::int32_t ColorNumber(Rgb color) {
-  return color.Red + 256 * color.Green + 65536 * color.Blue;
-}
-
 std::string ColorText(Rgb color) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   std::string text = "#";

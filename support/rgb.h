@@ -1,7 +1,6 @@
 #pragma once
 
-// Colours as the program uses them: red, green and blue from 0 to 255, and the one number for all three by which
-// colours are compared.
+// Colours as the program uses them: red, green and blue from 0 to 255.
 
 #include <cstdint>
 #include <string>
@@ -18,9 +17,6 @@ struct Rgb {
 
 /// A colour from components of any size: above 255 counts as 255, below 0 as 0.
 [[nodiscard]] Rgb MakeRgb(int red, int green, int blue);
-
-/// red + 256 * green + 65536 * blue: (10, 36, 106) is 6956042.
-[[nodiscard]] std::int32_t ColorNumber(Rgb color);
 
 /// "#rrggbb" in lower-case hexadecimal digits: (200, 255, 200) is "#c8ffc8".
 [[nodiscard]] std::string ColorText(Rgb color);

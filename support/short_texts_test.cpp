@@ -53,7 +53,7 @@ TEST(FixedText, ReadsAsAnyText) {
   const FixedText<5> cards("As Ac");
   const std::string_view view = cards;
   EXPECT_EQ(view, "As Ac");
-  EXPECT_EQ(cards.String(), "As Ac");
+  EXPECT_EQ(cards.View(), "As Ac");
   std::ostringstream stream;
   stream << cards;
   EXPECT_EQ(stream.str(), "As Ac");
@@ -79,15 +79,6 @@ TEST(Rgb, TwoColoursAreTheSameInAllThreeComponents) {
   EXPECT_NE(color, (Rgb{0, 2, 3}));
   EXPECT_NE(color, (Rgb{1, 0, 3}));
   EXPECT_NE(color, (Rgb{1, 2, 0}));
-}
-
-TEST(ColorNumber, WeighsRedLeastAndBlueMost) {
-  EXPECT_EQ(ColorNumber({10, 36, 106}), 6956042);
-  EXPECT_EQ(ColorNumber({0, 0, 0}), 0);
-  EXPECT_EQ(ColorNumber({1, 0, 0}), 1);
-  EXPECT_EQ(ColorNumber({0, 1, 0}), 256);
-  EXPECT_EQ(ColorNumber({0, 0, 1}), 65536);
-  EXPECT_EQ(ColorNumber({255, 255, 255}), 16777215);
 }
 
 TEST(ColorText, IsSixLowerCaseHexadecimalDigits) {

@@ -117,6 +117,20 @@ QRect PlaceOf(const ControlRow& row) {
   return place;
 }
 
+QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited) {
+  const QFont font = FormFont(row.Font, inherited);
+  QWidget* control = MakeControl(&container, row, font);
+  control->setObjectName(ToQt(ObjectName(row.Name, row.Index)));
+  if (row.Kind != ControlKind::kLabel) {
+    control->setFont(font);
+    control->setGeometry(PlaceOf(row));
+  }
+  if (!row.Spoken.empty()) control->setAccessibleName(ToQt(row.Spoken));
+  if (!row.ToolTip.empty()) control->setToolTip(ToQt(row.ToolTip));
+  control->setVisible(!row.Hidden);
+  return control;
+}
+
 }  // namespace
 
 FormControls::FormControls(QWidget& form, std::span<const ControlTable> layout) {
@@ -147,20 +161,6 @@ std::int16_t FormControls::CountOf(std::string_view name) const {
 
 void ControlMissing(const std::string& objectName) {
   throw std::logic_error("The form has no control of this kind: " + objectName);
-}
-
-QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited) {
-  const QFont font = FormFont(row.Font, inherited);
-  QWidget* control = MakeControl(&container, row, font);
-  control->setObjectName(ToQt(ObjectName(row.Name, row.Index)));
-  if (row.Kind != ControlKind::kLabel) {
-    control->setFont(font);
-    control->setGeometry(PlaceOf(row));
-  }
-  if (!row.Spoken.empty()) control->setAccessibleName(ToQt(row.Spoken));
-  if (!row.ToolTip.empty()) control->setToolTip(ToQt(row.ToolTip));
-  control->setVisible(!row.Hidden);
-  return control;
 }
 
 }  // namespace quillon

@@ -83,7 +83,4 @@ class LayoutControls : public FormControls {
   [[nodiscard]] std::int16_t CountOf(Key<> key) const { return FormControls::CountOf(key.Name()); }
 };
 
-/// Builds one control more.
-QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited);
-
 }  // namespace quillon

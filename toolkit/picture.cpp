@@ -32,8 +32,7 @@ QString Picture::NameForNow() const {
 void Picture::paintEvent(QPaintEvent* /*event*/) {
   if (!name_.isEmpty()) {
     QPainter painter(this);
-    painter.drawPixmap(0, 0,
-                       ArtworkPixmap(NameForNow(), drawnSize_.isValid() ? drawnSize_ : size(), devicePixelRatioF()));
+    painter.drawPixmap(0, 0, ArtworkPixmap(NameForNow(), size(), devicePixelRatioF()));
   }
   if (HasFocusMark()) PaintFocusMark(QColor(0x33, 0x66, 0x99));
 }

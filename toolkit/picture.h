@@ -21,9 +21,6 @@ class Picture : public Control {
   void SetArtwork(const QString& name);
   [[nodiscard]] const QString& Artwork() const { return name_; }
 
-  /// The size at which it is drawn, from the upper left corner; by default the control's own.
-  void SetDrawnSize(const QSize& size) { drawnSize_ = size; }
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -32,7 +29,6 @@ class Picture : public Control {
 
   QString name_;
   bool hasLooks_ = false;
-  QSize drawnSize_;
 };
 
 /// The picture ":/artwork/NAME.svg" for a widget of that size and scale. Drawn once and kept; empty if there is none.

@@ -73,15 +73,6 @@ TEST_F(PictureTest, FillsTheControl) {
   EXPECT_EQ(Drawn(picture), File(kLogo, {193, 92}));
 }
 
-TEST_F(PictureTest, IsCutOffAtTheControlsEdgeWhereItIsDrawnLarger) {
-  Picture picture(nullptr);
-  picture.resize(100, 50);
-  picture.SetArtwork(kLogo);
-  picture.SetDrawnSize({193, 92});
-
-  EXPECT_EQ(Drawn(picture), File(kLogo, {193, 92}).copy(0, 0, 100, 50));
-}
-
 TEST_F(PictureTest, OfNoNameShowsNothing) {
   Picture picture(nullptr);
   picture.resize(193, 92);

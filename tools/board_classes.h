@@ -27,9 +27,6 @@ inline constexpr int kBoardCount = 2'598'960;
 /// under the 24 permutations of the suits.
 inline constexpr int kBoardClassCount = 134'459;
 
-/// The different sets of ranks, repetitions counted, that a board can have: C(17,5) less 13 times five of a kind.
-inline constexpr int kBoardRanksCount = 6'175;
-
 /// Every orbit size is a multiple of this.
 inline constexpr int kLeastOrbitSize = 4;
 

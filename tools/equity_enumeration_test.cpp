@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "testing/hand_strength.h"
 #include "testing/oracle/poker.h"
 
 namespace quillon {

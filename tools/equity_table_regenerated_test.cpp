@@ -12,6 +12,7 @@
 #include "hand/equity_rows.h"
 #include "support/files.h"
 #include "support/number_text.h"
+#include "testing/hand_strength.h"
 #include "testing/oracle/poker.h"
 #include "tools/equity_enumeration.h"
 #include "tools/equity_row_text.h"

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "testing/hand_strength.h"
 #include "testing/oracle/poker.h"
 
 namespace quillon {

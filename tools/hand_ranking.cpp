@@ -103,27 +103,4 @@ HandStrength StrengthOfFlush(RankMask ranks) {
   return Strength(HandCategory::kFlush, Place(HighestFew(ranks, kRankedCards)));
 }
 
-HandStrength StrengthOfCards(std::span<const int> cards) {
-  RankTally tally;
-  std::array<RankMask, kSuitCount> suits{};
-  for (const int card : cards) {
-    const RankMask rank = RankBit(card);
-    RankMask& suit = suits[static_cast<std::size_t>(card % kSuitCount)];
-    suit = static_cast<RankMask>(suit | rank);
-    tally = WithRanks(tally, rank);
-  }
-  for (const RankMask suit : suits) {
-    if (std::popcount(suit) >= kRankedCards) {
-      return StrengthOfFlush(suit);
-    }
-  }
-  return StrengthOfRanks(tally);
-}
-
-HandCategory CategoryOf(HandStrength strength) {
-  const auto started =
-      std::upper_bound(kCategoryStart.begin(), kCategoryStart.end(), strength) - kCategoryStart.begin();
-  return static_cast<HandCategory>(started - 1);
-}
-
 }  // namespace quillon

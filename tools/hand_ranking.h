@@ -14,7 +14,6 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 
 #include "hand/hand_classes.h"
 
@@ -23,8 +22,8 @@ namespace quillon {
 /// A set of ranks, bit 0 for the deuce up to bit 12 for the ace.
 using RankMask = std::uint16_t;
 
-/// A hand's place among all hands: greater beats smaller, equal ties. Not every number below `kHandStrengthEnd` is
-/// the strength of some hand.
+/// A hand's place among all hands: greater beats smaller, equal ties. Not every number below the last of
+/// kCategoryStart is the strength of some hand.
 using HandStrength = std::uint16_t;
 
 inline constexpr int kSuitCount = 4;
@@ -62,9 +61,6 @@ inline constexpr std::array<HandStrength, kHandCategoryCount + 1> kCategoryStart
   return starts;
 }();
 
-/// One more than the greatest strength, that of a royal flush.
-inline constexpr HandStrength kHandStrengthEnd = kCategoryStart[kHandCategoryCount];
-
 /// How often each rank is held: the ranks held at least once, twice, three and four times.
 struct RankTally {
   RankMask once = 0;
@@ -96,12 +92,5 @@ struct RankTally {
 
 /// The strength of the best flush or straight flush from five or more cards of one suit with these ranks.
 [[nodiscard]] HandStrength StrengthOfFlush(RankMask ranks);
-
-/// The strength of the best five among five to seven cards, given by their places in the deck (0 for "As", 51 for
-/// "2c"). No card may occur twice.
-[[nodiscard]] HandStrength StrengthOfCards(std::span<const int> cards);
-
-/// The category that a strength belongs to.
-[[nodiscard]] HandCategory CategoryOf(HandStrength strength);
 
 }  // namespace quillon

@@ -6,6 +6,7 @@
 #include <random>
 #include <set>
 
+#include "testing/hand_strength.h"
 #include "testing/oracle/poker.h"
 
 namespace quillon {
@@ -73,7 +74,7 @@ TEST(HandRanking, CardsThatDoNotPlayDecideNothing) {
 }
 
 TEST(HandRanking, TheRoyalFlushIsTheGreatestStrength) {
-  EXPECT_EQ(StrengthOf("As Ks Qs Js Ts Ah Ad") + 1, kHandStrengthEnd);
+  EXPECT_EQ(StrengthOf("As Ks Qs Js Ts Ah Ad") + 1, kCategoryStart.back());
 }
 
 // The counts follow from combinatorics; 7462 is the number of five-card hands that differ in worth.
