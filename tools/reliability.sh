@@ -2,7 +2,7 @@
 # Puts the program under strain and measures what becomes of it: the rows of docs/reliability.md, in their order.
 #
 #   tools/reliability.sh                 all of it, for some hours
-#   tools/reliability.sh ROW ...         fuzz, files, kills, together, input, web, soak, valgrind, mutation,
+#   tools/reliability.sh ROW ...         fuzz, files, kills, together, input, batch, web, soak, valgrind, mutation,
 #                                        sanitizers, coverage
 #
 # FUZZ_SECONDS is how long each fuzz target runs, 600 unless set, and FUZZ_RUNS after how many runs it ends before that.
@@ -63,6 +63,11 @@ input() {
   QUILLON_BAD_INPUTS=10000 build/dev/bin/bad_input_test --gtest_brief=1
 }
 
+batch() {
+  build dev companion_journey_test
+  QUILLON_BATCH_LINES=200000 build/dev/bin/companion_journey_test --gtest_brief=1 --gtest_filter='BatchJourney*'
+}
+
 web() {
   build dev web_journey_test
   build/dev/bin/web_journey_test --gtest_brief=1
@@ -79,11 +84,11 @@ valgrind_soak() {
     --suppressions=tests/valgrind.supp build/dev/bin/soak_test --gtest_brief=1
 }
 
-for row in "${@:-fuzz files kills together input web soak valgrind mutation sanitizers coverage}"; do
+for row in "${@:-fuzz files kills together input batch web soak valgrind mutation sanitizers coverage}"; do
   for part in $row; do
     echo "== $part"
     case "$part" in
-      fuzz | files | kills | together | input | web | soak) "$part" ;;
+      fuzz | files | kills | together | input | batch | web | soak) "$part" ;;
       valgrind) valgrind_soak ;;
       mutation) tools/mutate.py ;;
       sanitizers) ./check asan ;;
