@@ -7,6 +7,7 @@
 
 #include "hand/equity_table.h"
 #include "study/equilibrium.h"
+#include "study/stack_chart.h"
 #include "study/sweep.h"
 
 namespace quillon {
@@ -38,6 +39,15 @@ void BalancedRanges(benchmark::State& timing) {
   timing.counters["of_pot"] = exploitability;
 }
 BENCHMARK(BalancedRanges)->Unit(benchmark::kMillisecond)->Arg(5)->Arg(10)->Arg(15)->Arg(20)->Arg(50)->Arg(100);
+
+// All stacks of a chart from 1.1 to 20 big blinds, on so many threads.
+void StackCharts(benchmark::State& timing) {
+  LoadEquityTable();
+  const auto stacks = std::get<Steps>(Steps::Read("1.1:20:0.1"));
+  while (timing.KeepRunning())
+    benchmark::DoNotOptimize(MakeStackChart(HandNumbers(), stacks, static_cast<unsigned>(timing.range(0))));
+}
+BENCHMARK(StackCharts)->Unit(benchmark::kMillisecond)->UseRealTime()->Arg(1)->Arg(2);
 
 }  // namespace
 }  // namespace quillon

@@ -24,6 +24,11 @@ namespace quillon {
 /// The backgrounds of the panel: a profitable hand, an unprofitable one, and a hand of which only the equity is known.
 enum class HoverPicture : std::uint8_t { kGreen, kRed, kBlue };
 
+/// What stands before the panel's lines; the equity's title is one of the texts.
+inline constexpr std::string_view kValueTitle = "EV:";
+inline constexpr std::string_view kReturnTitle = "ROI:";
+inline constexpr std::string_view kFoldShareTitle = "Opponent Fold %:";
+
 /// What the panel shows of a hand. A line without a text is hidden, with its title, and keeps the text that it had.
 struct HoverTexts {
   HoverPicture Picture = HoverPicture::kBlue;  // imgHover

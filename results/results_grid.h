@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,10 @@ namespace quillon {
 
 /// The first link of the side panel that leads to results, the grid's; those before it lead to the input screens.
 inline constexpr std::int16_t kFirstResultsNav = 3;
+
+/// What the legend says of green cells, and of red ones.
+inline constexpr std::string_view kGoodLegend = "Go ALL IN";
+inline constexpr std::string_view kBadLegend = "Fold";
 
 /// The texts around the grid; as they are here before any analysis.
 struct GridTexts {

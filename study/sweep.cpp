@@ -100,6 +100,11 @@ SweepRow RowOf(const SweepQuestion& question, const Amounts& amounts, const AllF
 std::variant<Steps, std::string> Steps::Read(std::string_view text) {
   const std::vector<std::string_view> parts = Parts(text);
   if (parts.size() != kParts) return "steps are written FROM:TO:STEP, such as 5:20:0.5";
+  return Between(parts[0], parts[1], parts[2]);
+}
+
+std::variant<Steps, std::string> Steps::Between(std::string_view from, std::string_view to, std::string_view step) {
+  const std::array<std::string_view, kParts> parts = {from, to, step};
   std::array<Decimal, kParts> decimals;
   for (std::size_t i = 0; i < kParts; ++i) {
     const std::optional<Decimal> decimal = ReadDecimal(parts[i]);
@@ -113,12 +118,12 @@ std::variant<Steps, std::string> Steps::Read(std::string_view text) {
     if (!digits) return "the numbers have too many digits, taken together, to be exact";
     scaled[i] = *digits;
   }
-  const auto [from, to, step] = scaled;
-  if (step == 0) return "the step must be above 0";
-  if (to < from) return "the end may not be below the start";
-  const std::int64_t count = (to - from) / step + 1;
+  const auto [first, last, width] = scaled;
+  if (width == 0) return "the step must be above 0";
+  if (last < first) return "the end may not be below the start";
+  const std::int64_t count = (last - first) / width + 1;
   if (count > kMostSteps) return "there may be at most " + std::to_string(kMostSteps) + " steps";
-  return Steps(from, step, count, places);
+  return Steps(first, width, count, places);
 }
 
 std::string Steps::Text(std::int64_t step) const {

@@ -34,6 +34,10 @@ class Steps {
   ///     "1:2:0.25" -> 1, 1.25, 1.5, 1.75, 2      "0.1:0.35:0.1" -> 0.1, 0.2, 0.3      "5:5:1" -> 5
   [[nodiscard]] static std::variant<Steps, std::string> Read(std::string_view text);
 
+  /// The same from the three decimals.
+  [[nodiscard]] static std::variant<Steps, std::string> Between(std::string_view from, std::string_view to,
+                                                                std::string_view step);
+
   [[nodiscard]] std::int64_t Count() const { return count_; }
 
   /// The step as text, from the decimals and not by floats: the shortest decimal, as "0.3". It counts as it reads.

@@ -21,4 +21,12 @@ struct Rgb {
 /// "#rrggbb" in lower-case hexadecimal digits: (200, 255, 200) is "#c8ffc8".
 [[nodiscard]] std::string ColorText(Rgb color);
 
+/// How much two colours differ in lightness, from 1 (not at all) to 21 (black and white). Source: the contrast ratio of
+/// the Web Content Accessibility Guidelines 2, which want 4.5 for text and 3 for large text.
+[[nodiscard]] double ContrastRatio(Rgb one, Rgb other);
+
+/// The colour to write in on a ground: white where that contrasts by 4.5, and otherwise black, which then contrasts by
+/// more.
+[[nodiscard]] Rgb ReadableOn(Rgb ground);
+
 }  // namespace quillon

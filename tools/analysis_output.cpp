@@ -8,6 +8,7 @@
 #include "analysis/results_table.h"
 #include "hand/hand_classes.h"
 #include "results/analysis_json.h"
+#include "results/analysis_page.h"
 #include "results/hand_line.h"
 #include "results/report.h"
 #include "results/results_grid.h"
@@ -91,6 +92,10 @@ std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::s
       return AnalysisJson(analysis).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     case OutputFormat::kCsv:
       return CsvOutput(analysis);
+    case OutputFormat::kHtml:
+      return AnalysisPage(analysis);
+    case OutputFormat::kSvg:
+      return AnalysisPicture(analysis);
   }
   return {};
 }

@@ -13,19 +13,22 @@
 
 namespace quillon {
 
-enum class OutputFormat { kPlain, kForum, kTable, kJson, kCsv };
+enum class OutputFormat { kPlain, kForum, kTable, kJson, kCsv, kHtml, kSvg };
 
 struct OutputFormatRow : FormatName {
   OutputFormat Format;
 };
 
-inline constexpr std::array<OutputFormatRow, 5> kAnalysisFormats = {{
+inline constexpr std::array<OutputFormatRow, 7> kAnalysisFormats = {{
     {{"plain", "the report to read, under the grid where a terminal shows 24-bit colours"}, OutputFormat::kPlain},
     {{"2+2", "the report as forum mark-up, with the working of each --hand"}, OutputFormat::kForum},
     {{"table", "the results table: label, expected value, equity, fold share, separated by tabs"},
      OutputFormat::kTable},
     {{"csv", "hand, combos, ev, equity, fold, colour; what a question does not have is empty"}, OutputFormat::kCsv},
     {{"json", "all of it as one object; what a question does not have is null"}, OutputFormat::kJson},
+    {{"html", "a web page of one file: the situation, the grid with the figures of each hand, a table"},
+     OutputFormat::kHtml},
+    {{"svg", "the grid as a picture"}, OutputFormat::kSvg},
 }};
 
 /// The format of that name; kPlain for a text that names none.
@@ -34,10 +37,11 @@ inline constexpr std::array<OutputFormatRow, 5> kAnalysisFormats = {{
 /// The analysis in one format, the last line end included.
 ///
 /// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
-/// (class labels). kTable is the results table byte for byte, its line ends included. kCsv has a header row, then hand,
-/// combos, ev, equity, fold and colour for each class, and kJson is one object: what the scenario does not have, such
-/// as the fold share of a call, is nothing in the one and null in the other. Numbers read back as those of the table;
-/// an equity of -1 says that the opponent never calls. Fails as BuildReport and MakeGridTexts do.
+/// (class labels). kHtml and kSvg are those of "results/analysis_page.h". kTable is the results table byte for byte,
+/// its line ends included. kCsv has a header row, then hand, combos, ev, equity, fold and colour for each class, and
+/// kJson is one object: what the scenario does not have, such as the fold share of a call, is nothing in the one and
+/// null in the other. Numbers read back as those of the table; an equity of -1 says that the opponent never calls.
+/// Fails as BuildReport and MakeGridTexts do.
 [[nodiscard]] std::string AnalysisOutput(OutputFormat format, const Analysis& analysis,
                                          std::span<const std::string> hands);
 

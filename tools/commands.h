@@ -20,8 +20,9 @@ namespace quillon {
 [[nodiscard]] RunCommand OfferSweep(CLI::App& options);
 [[nodiscard]] RunCommand OfferBalance(CLI::App& options);
 [[nodiscard]] RunCommand OfferBatch(CLI::App& options);
+[[nodiscard]] RunCommand OfferChart(CLI::App& options);
 
-inline constexpr std::array<Command, 12> kCommands = {{
+inline constexpr std::array<Command, 13> kCommands = {{
     {"call", "What each hand wins or loses by calling an all-in",
      "He is all in. For each of the 169 starting hands: its equity against his range, and what calling is\n"
      "worth against folding, in the unit of the amounts.",
@@ -30,7 +31,7 @@ inline constexpr std::array<Command, 12> kCommands = {{
      "You may go all in over him; he calls with some of his hands and folds the others. For each of the 169\n"
      "starting hands: its equity when he calls, how often he folds, and what the shove is worth against\n"
      "folding, in the unit of the amounts.",
-     R"(--pot 1.5 --call 0.5 --shove 9 --hands any --calling-hands "top 30%" --format csv)", OfferRaise},
+     R"(--pot 1.5 --call 0.5 --shove 9 --hands any --calling-hands "top 30%" --format html)", OfferRaise},
     {"equity", "The equity of each hand against a range",
      "How often each of the 169 starting hands wins against his range, a split pot counted as half.",
      R"(--range "Tight Open" --format csv)", OfferEquity},
@@ -58,6 +59,10 @@ inline constexpr std::array<Command, 12> kCommands = {{
     {"balance", "The ranges to shove and to call with in which neither player gains by changing",
      "A weight below 1 is how often to play a hand that is worth the same either way.",
      "--pot 1.5 --call 0.5 --shove 9", OfferBalance},
+    {"chart", "Up to which stack each hand is shoved, and called with, in balanced ranges",
+     "For blinds of 0.5 and 1 and two players with the same stack, in big blinds. A hand that is played half of\n"
+     "the time or more counts as played. A star marks gaps: stacks below the largest at which it is not played.",
+     "--from 5 --to 10 --step 0.5", OfferChart},
     {"batch", "Answers a file of situations, one a line",
      "A line is a JSON object with what a command line of call, raise or equity says: mode, pot, call, shove,\n"
      "range or hands, calling_range or calling_hands, and an id of yours. For each line one is printed, in the\n"

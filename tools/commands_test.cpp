@@ -2,6 +2,7 @@
 
 #include "tools/commands.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -139,6 +140,11 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
             "--width: a share is from 0% to 100%"},
            {{"sweep", "call", "--pot", "9", "--call", "1", "--width", "0:5:5"}, kRefused, "has no hands"},
            {With(sweep, {"--pot", "9", "--call", "1", "--width", "5:10:5"}), kWrongUsage, "leave --range"},
+           {{"chart", "--step", "0"}, kRefused, "--from, --to, --step: the step must be above 0"},
+           {{"chart", "--to", "1000000000"}, kRefused, "at most 100000 steps"},
+           {{"chart", "--from", "1"}, kRefused, "--from must be above 1"},
+           {{"chart", "--from", "5", "--to", "4"}, kRefused, "the end may not be below the start"},
+           {{"chart", "--from", "nan"}, kRefused, "\"nan\" is not a plain decimal"},
            {With(balance, {"--shove", "0"}), kRefused, "--shove must be above 0"},
            {With(balance, {"--shove", "1e400"}), kRefused, "--pot, --call and --shove may be at most 1E+300 together"},
            {With(balance, {"--shove", "9", "--hands", "none"}), kRefused, "has no hands"},
@@ -317,6 +323,62 @@ TEST(BalanceCommand, PrintsAndSavesBothRanges) {
   const Json own = Json::parse(program.Run(With(balance, {"--own-hands", "AA", "--format", "json"})).Output);
   EXPECT_EQ(own["shove_range"]["hands"], "AA");
   EXPECT_NEAR(own["value"], 1.5 - 1.0 / 1225, 1e-9) << "other aces alone call, and split the pot";
+}
+
+TEST(ChartCommand, TellsTheSameInEachFormat) {
+  const CompanionProgram program;
+  const Arguments chart = {"chart", "--from", "2", "--to", "7.4", "--step", "0.2"};
+  const Json json = Json::parse(program.Run(With(chart, {"--format", "json"})).Output);
+  const auto csv = Lines(program.Run(With(chart, {"--format", "csv"})).Output);
+  const CompanionOutcome grid = program.Run(chart);
+  ASSERT_EQ(json["hands"].size(), 169U);
+  ASSERT_EQ(csv.size(), 170U);
+  EXPECT_EQ(csv.at(0), "hand,shove,shove_gaps,call,call_gaps");
+  for (std::size_t i = 0; i < 169; ++i) {
+    const Json& hand = json["hands"][i];
+    std::string line = hand["hand"];
+    for (const char* move : {"shove", "call"}) {
+      line += ',';
+      if (!hand[move].is_null()) line += NumberText(hand[move]["up_to"]);
+      line += ',';
+      std::string gaps;
+      for (const Json& gap : hand[move].is_null() ? Json::array() : hand[move]["but_not"]) {
+        gaps += gaps.empty() ? "" : " ";
+        gaps += NumberText(gap["from"]);
+        if (gap["from"] != gap["to"]) gaps += "-" + NumberText(gap["to"]);
+      }
+      line += gaps;
+    }
+    EXPECT_EQ(csv.at(i + 1), line);
+  }
+  // As published: 63s is shoved at 7 big blinds and at 2.2, and not from 2.4 to 5.
+  EXPECT_THAT(csv, testing::Contains(StartsWith("63s,7,2.4-5")));
+  EXPECT_THAT(grid.Output, StartsWith("Shove up to so many big blinds\nAA  7.4+"));
+  EXPECT_THAT(grid.Output, HasSubstr("\n* 63s but not at 2.4-5"));
+  for (const char* format : {"html", "svg"})
+    EXPECT_THAT(program.Run(With(chart, {"--format", format})).Output, HasSubstr(">7*<")) << format;
+}
+
+TEST(ChartCommand, ShowsItsProgressOnATerminal) {
+  const CompanionProgram program;
+  const CompanionOutcome outcome =
+      program.Run({"chart", "--from", "2", "--to", "3", "--step", "0.1"},
+                  {.Terminal = {.ShowProgress = true}, .Step = std::chrono::milliseconds(1000)});
+  EXPECT_EQ(outcome.Status, kDone);
+  EXPECT_THAT(outcome.Errors, StartsWith("\r["));
+  EXPECT_THAT(outcome.Errors, testing::EndsWith("\r\x1b[K"));
+}
+
+TEST(StudyPictures, ArePrinted) {
+  const CompanionProgram program;
+  const Arguments limits = {"limits", "call", "--pot", "15", "--hands", "QQ+:0.9"};
+  EXPECT_THAT(program.Run(With(limits, {"--format", "html"})).Output,
+              testing::AllOf(HasSubstr("<h1>Largest Call</h1>"), HasSubstr("<dd><b>QQ+:0.9</b></dd>")));
+  EXPECT_THAT(program.Run(With(limits, {"--format", "svg"})).Output, StartsWith("<svg "));
+  const Arguments sweep = {"sweep", "call", "--pot", "15", "--hands", "QQ+", "--hand", "KK", "--format", "svg"};
+  EXPECT_THAT(
+      program.Run(With(sweep, {"--call", "1:5:1"})).Output,
+      testing::AllOf(StartsWith("<svg "), HasSubstr(">KK</text>"), HasSubstr(">What you must put in to call,")));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "study/limits.h"
+#include "study/study_pages.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/class_grid.h"
@@ -21,6 +22,11 @@ struct Request {
   RangeOption callingRange;
   std::string format;
   std::string folder;
+};
+
+struct Answer {
+  LimitsQuestion question;
+  Limits limits;
 };
 
 bool HasAmount(const Limit& limit) {
@@ -52,26 +58,26 @@ std::string_view KindName(LimitKind kind) {
   return "never";
 }
 
-std::string GridOutput(const Limits& limits) {
+std::string GridOutput(const Answer& answer) {
   std::array<std::string, kHandClassCount> texts;
-  std::ranges::transform(limits, texts.begin(), GridText);
+  std::ranges::transform(answer.limits, texts.begin(), GridText);
   return ClassGrid(texts);
 }
 
-std::string CsvOutput(const Limits& limits) {
+std::string CsvOutput(const Answer& answer) {
   std::string text = "hand,limit,amount\n";
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const Limit& limit = limits[static_cast<std::size_t>(index)];
+    const Limit& limit = answer.limits[static_cast<std::size_t>(index)];
     text.append(HandLabel(index)).append(",").append(KindName(limit.Kind)).append(",");
     text.append(HasAmount(limit) ? NumberText(limit.Amount) : "").append("\n");
   }
   return text;
 }
 
-std::string JsonOutput(const Limits& limits) {
+std::string JsonOutput(const Answer& answer) {
   nlohmann::ordered_json hands = nlohmann::ordered_json::array();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const Limit& limit = limits[static_cast<std::size_t>(index)];
+    const Limit& limit = answer.limits[static_cast<std::size_t>(index)];
     nlohmann::ordered_json hand = {{"hand", HandLabel(index)}, {"limit", KindName(limit.Kind)}, {"amount", nullptr}};
     if (HasAmount(limit)) hand["amount"] = limit.Amount;
     hands.push_back(hand);
@@ -79,14 +85,24 @@ std::string JsonOutput(const Limits& limits) {
   return nlohmann::ordered_json{{"hands", hands}}.dump(2) + "\n";
 }
 
-constexpr std::array<Format<Limits>, 3> kFormats = {{
+std::string HtmlOutput(const Answer& answer) {
+  return LimitsPage(answer.question, answer.limits);
+}
+
+std::string SvgOutput(const Answer& answer) {
+  return LimitsPicture(answer.question, answer.limits);
+}
+
+constexpr std::array<Format<Answer>, 5> kFormats = {{
     {{"plain", "a grid to read, amounts rounded to two decimals"}, GridOutput},
     {{"csv", "hand, limit, amount; always and never have no amount"}, CsvOutput},
     {{"json", "the same as one object"}, JsonOutput},
+    {{"html", "a web page of one file: the situation, the grid, a table"}, HtmlOutput},
+    {{"svg", "the grid as a picture"}, SvgOutput},
 }};
 
-int Print(const Limits& limits, const std::string& format, const Surroundings& surroundings) {
-  surroundings.Output << InFormat(kFormats, format, limits);
+int Print(const Answer& answer, const std::string& format, const Surroundings& surroundings) {
+  surroundings.Output << InFormat(kFormats, format, answer);
   return kDone;
 }
 
@@ -95,7 +111,9 @@ int PrintCallLimits(const Request& request, const Surroundings& surroundings) {
   const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
   const auto range = inputs.RangeWithHands(request.range);
   if (!pot || !range) return inputs.Status();
-  return Print(CallLimits(RangeNumbers(inputs.Hands(), range->Weights), *pot), request.format, surroundings);
+  const LimitsQuestion question = {"Largest Call", {{"Pot Size", NumberText(*pot)}, {"His Range", range->Name}}};
+  return Print({question, CallLimits(RangeNumbers(inputs.Hands(), range->Weights), *pot)}, request.format,
+               surroundings);
 }
 
 int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
@@ -105,8 +123,13 @@ int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
   const auto range = inputs.Range(request.range);
   const auto callingRange = inputs.Range(request.callingRange);
   if (!pot || !call || !range || !callingRange) return inputs.Status();
+  const LimitsQuestion question = {"Largest Shove",
+                                   {{"Pot Size", NumberText(*pot)},
+                                    {"Call Amount", NumberText(*call)},
+                                    {"His Range", range->Name},
+                                    {"His Calling Range", callingRange->Name}}};
   const RangeNumbers ranges(inputs.Hands(), range->Weights, callingRange->Weights);
-  return Print(ShoveLimits(ranges, *pot, *call), request.format, surroundings);
+  return Print({question, ShoveLimits(ranges, *pot, *call)}, request.format, surroundings);
 }
 
 void OfferOutput(CLI::App& options, Request& request) {

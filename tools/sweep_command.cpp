@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -10,6 +11,7 @@
 #include "ranges/range_notation.h"
 #include "study/hand_order.h"
 #include "study/sweep.h"
+#include "study/sweep_picture.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/commands.h"
@@ -37,6 +39,7 @@ double SharePercent(const SweepRow& row) {
 using Rows = std::vector<SweepRow>;
 
 struct Answer {
+  std::string title;
   std::string what;  // the steps go through
   std::vector<std::string> hands;
   Rows rows;
@@ -101,14 +104,31 @@ std::string JsonOutput(const Answer& answer) {
   return nlohmann::ordered_json{{"steps", steps}}.dump(2) + "\n";
 }
 
-constexpr std::array<Format<Answer>, 3> kFormats = {{
+std::string SvgOutput(const Answer& answer) {
+  struct Row {
+    std::string_view What;
+    const char* Across;
+  };
+  constexpr std::array<Row, 4> kRows = {{
+      {"pot", "Pot, in the unit of the amounts"},
+      {"call", "What you must put in to call, in the unit of the amounts"},
+      {"shove", "What he must put in to call your shove, in the unit of the amounts"},
+      {"width", "Width of his range, in percent of all hands"},
+  }};
+  const auto* const row = std::ranges::find(kRows, answer.what, &Row::What);
+  return SweepPicture({answer.title, row->Across, answer.hands}, answer.rows);
+}
+
+constexpr std::array<Format<Answer>, 4> kFormats = {{
     {{"table", "columns to read, values rounded to four decimals"}, TableOutput},
     {{"csv", "the same with every digit"}, CsvOutput},
     {{"json", "the same as one object"}, JsonOutput},
+    {{"svg", "a picture: a line for each --hand, or the profitable hands without one"}, SvgOutput},
 }};
 
-int Print(std::string what, const Request& request, Rows rows, const Surroundings& surroundings) {
-  surroundings.Output << InFormat(kFormats, request.format, Answer{std::move(what), request.hands, std::move(rows)});
+int Print(AnalysisMode mode, std::string what, const Request& request, Rows rows, const Surroundings& surroundings) {
+  const Answer answer = {std::string(ScenarioOf(mode).Name), std::move(what), request.hands, std::move(rows)};
+  surroundings.Output << InFormat(kFormats, request.format, answer);
   return kDone;
 }
 
@@ -162,7 +182,7 @@ int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place,
   const auto calling = raise ? inputs.Range(request.callingRange) : GivenRange{};
   if (!range || !calling) return inputs.Status();
   const RangeNumbers ranges(inputs.Hands(), range->Weights, calling->Weights);
-  return Print(kAmountOptions[place] + 2, request,
+  return Print(mode, kAmountOptions[place] + 2, request,
                SweepAmount(question, ranges, static_cast<SweptAmount>(place), *steps), surroundings);
 }
 
@@ -185,7 +205,7 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
       return inputs.Status();
     }
     const auto rangesAt = [&](std::string_view share) { return RangeNumbers(inputs.Hands(), weightsAt(share)); };
-    return Print("width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+    return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
   }
   if (request.callingRange.Given()) {
     throw CLI::ValidationError("--width is his calling range; leave --calling-range and --calling-hands out");
@@ -195,7 +215,7 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
   const auto rangesAt = [&](std::string_view share) {
     return RangeNumbers(inputs.Hands(), range->Weights, weightsAt(share));
   };
-  return Print("width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+  return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
 }
 
 int Sweep(AnalysisMode mode, const Request& request, const Surroundings& surroundings) {

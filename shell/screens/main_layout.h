@@ -6,6 +6,8 @@
 #include <array>
 #include <cstdint>
 
+#include "results/hover_panel.h"
+#include "results/results_grid.h"
 #include "shell/field_help.h"
 #include "toolkit/control_row.h"
 #include "toolkit/form_builder.h"
@@ -297,8 +299,8 @@ inline constexpr auto kLegend = std::to_array<ControlRow>({
      .Fore = kWindowTextColor, .Font = kArial12, .Picture = "legend_red", .Spoken = "Red"},
     {.Name = "Label", .Index = 12, .Text = "Legend", .Place = {300, 320, 930, 345}, .Back = 0xFFFFFF,
      .Fore = 0x000000, .Font = kTahoma14p25},
-    {.Name = "Label", .Index = 13, .Text = "Fold", .Place = {900, 1380, 390, 270}, .Font = kTahoma11p25},
-    {.Name = "Label", .Index = 15, .Text = "Go ALL IN", .Place = {900, 855, 1005, 270}, .Font = kTahoma11p25},
+    {.Name = "Label", .Index = 13, .Text = kBadLegend, .Place = {900, 1380, 390, 270}, .Font = kTahoma11p25},
+    {.Name = "Label", .Index = 15, .Text = kGoodLegend, .Place = {900, 855, 1005, 270}, .Font = kTahoma11p25},
     {.Name = "Shape1", .Kind = kShape, .Place = {180, 480, 4095, 1575}, .Fore = 0xC0C0C0,
      .Style = LineStyle::kDotted},
 });
@@ -308,12 +310,12 @@ inline constexpr auto kHoverPanel = std::to_array<ControlRow>({
      .Font = kArial9p75Bold, .Alignment = kMiddle},
     {.Name = "aRectangle", .Index = 1, .Kind = kShape, .Place = {0, 2940, 3795, 375}, .Back = 0x404040},
     {.Name = "lblHov_FoldPerc", .Text = "50%", .Place = {2400, 2040, 390, 240}, .Font = kArial9p75},
-    {.Name = "lblHovDesc_FoldPerc", .Text = "Opponent Fold %:", .Place = {120, 2040, 1575, 240}, .Font = kArial9p75},
+    {.Name = "lblHovDesc_FoldPerc", .Text = kFoldShareTitle, .Place = {120, 2040, 1575, 240}, .Font = kArial9p75},
     {.Name = "lblHov_ROI", .Text = "20%", .Place = {2400, 1560, 390, 240}, .Font = kArial9p75},
     {.Name = "lblHov_EV", .Text = "+200", .Place = {2400, 1260, 435, 240}, .Font = kArial9p75},
     {.Name = "lblHov_Eq", .Text = "0.50", .Place = {2400, 960, 375, 240}, .Font = kArial9p75Bold},
-    {.Name = "lblHovDesc_ROI", .Text = "ROI:", .Place = {180, 1560, 390, 240}, .Font = kArial9p75},
-    {.Name = "lblHovDesc_EV", .Text = "EV:", .Place = {180, 1260, 330, 240}, .Font = kArial9p75},
+    {.Name = "lblHovDesc_ROI", .Text = kReturnTitle, .Place = {180, 1560, 390, 240}, .Font = kArial9p75},
+    {.Name = "lblHovDesc_EV", .Text = kValueTitle, .Place = {180, 1260, 330, 240}, .Font = kArial9p75},
     {.Name = "lblHovDesc_Eq", .Text = "Equity (Win %):", .Place = {180, 960, 1380, 240}, .Font = kArial9p75},
     {.Name = "lblHov_Cards", .Text = "AA", .Place = {180, 240, 690, 600}, .Font = kArial26p25},
     {.Name = "rectHov", .Kind = kShape, .Place = {10, 10, 3780, 3315}, .Fore = 0x404040, .LineWidth = 2},

@@ -1,0 +1,39 @@
+#pragma once
+
+// Limits and charts for whoever posts or keeps them: a web page of one file ("results/web_page.h"), and the grids as a
+// picture ("results/grid_picture.h"). The larger an amount, the darker the blue of its cell.
+
+#include <string>
+#include <vector>
+
+#include "results/web_page.h"
+#include "study/limits.h"
+#include "study/stack_chart.h"
+
+namespace quillon {
+
+/// What is shown of limits beside them.
+struct LimitsQuestion {
+  std::string Title;  // such as "Largest Shove"
+  std::vector<PageLine> Situation;
+};
+
+/// The limits as a page: a grid, and a table with every digit.
+[[nodiscard]] std::string LimitsPage(const LimitsQuestion& question, const Limits& limits);
+
+/// The grid of the limits, amounts cut to what a cell has room for.
+[[nodiscard]] std::string LimitsPicture(const LimitsQuestion& question, const Limits& limits);
+
+/// An amount in at most eight characters: two decimals, fewer, or a power of ten.
+///
+///     12.3456 -> "12.35"      116724.44 -> "116724.4"      123456789 -> "1.2e+08"
+[[nodiscard]] std::string ShortAmount(double amount);
+
+/// A chart as a page: the grid of shoves, the grid of calls, and a table with the gaps of both. A star marks a stack
+/// with gaps below it.
+[[nodiscard]] std::string ChartPage(const StackChart& chart, const Steps& stacks);
+
+/// Both grids of a chart side by side.
+[[nodiscard]] std::string ChartPicture(const StackChart& chart, const Steps& stacks);
+
+}  // namespace quillon

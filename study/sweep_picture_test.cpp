@@ -1,0 +1,166 @@
+#include "study/sweep_picture.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "support/number_text.h"
+#include "testing/split_text.h"
+
+namespace quillon {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+using testing::StartsWith;
+
+constexpr double kMost = std::numeric_limits<double>::max();
+
+std::string Attribute(const std::string& tag, const std::string& name) {
+  const std::size_t start = tag.find(" " + name + "=\"") + name.size() + 3;
+  return tag.substr(start, tag.find('"', start) - start);
+}
+
+using Points = std::vector<std::pair<double, double>>;
+
+// The points of each line, in pixels.
+std::vector<Points> Lines(const std::string& picture) {
+  std::vector<Points> lines;
+  auto tags = Split(picture, "<polyline");
+  tags.erase(tags.begin());
+  for (const std::string& tag : tags) {
+    Points& points = lines.emplace_back();
+    for (const std::string& point : Split(Attribute(tag, "points"), " ")) {
+      const auto parts = Split(point, ",");
+      points.emplace_back(LeadingNumber(parts.at(0)), LeadingNumber(parts.at(1)));
+    }
+  }
+  return lines;
+}
+
+double ZeroLine(const std::string& picture) {
+  return LeadingNumber(Attribute(Split(Split(picture, "class=\"zero\"").at(0), "<line").back(), "y1"));
+}
+
+TEST(RoundTicks, AreRoundAndWithin) {
+  struct Case {
+    double low;
+    double high;
+    int wanted;
+    std::vector<double> ticks;
+  };
+  for (const Case& c : std::vector<Case>{
+           {0, 20, 5, {0, 5, 10, 15, 20}},
+           {-0.3, 1.1, 7, {-0.2, 0, 0.2, 0.4, 0.6, 0.8, 1}},
+           {7, 7, 5, {7}},
+           {0.1, 0.5, 4, {0.1, 0.2, 0.3, 0.4, 0.5}},
+           {1234, 5678, 5, {2000, 3000, 4000, 5000}},
+           {-kMost, kMost, 4, {-1e308, 0, 1e308}},
+           {1e15, 1e15 + 1, 8, {}},
+       }) {
+    const auto ticks = RoundTicks(c.low, c.high, c.wanted);
+    EXPECT_EQ(ticks, c.ticks.empty() ? ticks : c.ticks) << c.low;
+    EXPECT_LE(ticks.size(), static_cast<std::size_t>(c.wanted) + 1) << c.low;
+  }
+}
+
+TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
+  const std::vector<SweepRow> rows = {{"5", 1326, {2, -1}}, {"10", 900, {1, -2}}, {"15", 100, {0, 3}}};
+  const std::string picture = SweepPicture({"Preflop Raise", "Shove", {"AA", "72o"}}, rows);
+  const auto lines = Lines(picture);
+  ASSERT_THAT(lines, SizeIs(2));
+  const double zero = ZeroLine(picture);
+  EXPECT_EQ(lines[0][2].second, zero);
+  // Two up is as far as two down, and the steps are equally wide.
+  EXPECT_NEAR(zero - lines[0][0].second, lines[1][1].second - zero, 0.11);
+  EXPECT_NEAR(zero - lines[1][2].second, 3 * (zero - lines[0][1].second), 0.3);
+  EXPECT_NEAR(lines[0][1].first - lines[0][0].first, lines[0][2].first - lines[0][1].first, 0.11);
+  EXPECT_THAT(picture, AllOf(HasSubstr(">AA</text>"), HasSubstr(">72o</text>"), HasSubstr(">Preflop Raise</text>"),
+                             HasSubstr(">Shove</text>"), HasSubstr(">Expected value, in the unit of the amounts<")));
+}
+
+TEST(SweepPicture, NamesLinesRightOfThemAndApart) {
+  std::vector<std::string> hands;
+  std::vector<double> values;
+  for (int i = 0; i < 40; ++i) {
+    hands.push_back("H" + std::to_string(i));
+    values.push_back(i % 3);
+  }
+  const std::string picture = SweepPicture({"", "", hands}, std::vector<SweepRow>{{"1", 0, values}, {"2", 0, values}});
+  double right = 0;
+  for (const Points& line : Lines(picture))
+    right = std::max(right, line.back().first);
+  double last = 0;
+  auto tags = Split(picture, "<text ");
+  std::size_t names = 0;
+  for (const std::string& tag : tags) {
+    if (tag.find(">H") == std::string::npos) continue;
+    ++names;
+    EXPECT_GT(LeadingNumber(Attribute(" " + tag, "x")), right);
+    const double y = LeadingNumber(Attribute(" " + tag, "y"));
+    EXPECT_GE(y - last, 14) << tag;
+    last = y;
+    EXPECT_LE(y, LeadingNumber(Attribute(picture, "height")));
+  }
+  EXPECT_EQ(names, hands.size());
+}
+
+TEST(SweepPicture, WithoutAHandShowsTheShareThatIsProfitable) {
+  const std::string picture =
+      SweepPicture({"Preflop Call", "Call", {}}, std::vector<SweepRow>{{"1", 1326, {}}, {"2", 663, {}}});
+  const auto lines = Lines(picture);
+  ASSERT_THAT(lines, SizeIs(1));
+  const double zero = ZeroLine(picture);
+  EXPECT_NEAR(zero - lines[0][0].second, 2 * (zero - lines[0][1].second), 0.2);
+  EXPECT_THAT(picture, HasSubstr(">100</text>"));
+}
+
+// Numbers of any size stay within the picture.
+TEST(SweepPicture, HoldsNumbersOfAnySize) {
+  using Rows = std::vector<SweepRow>;
+  for (const Rows& rows : std::vector<Rows>{
+           Rows{SweepRow{"5", 0, {0.0}}},
+           Rows{SweepRow{"5", 0, {1.0}}, SweepRow{"6", 0, {1.0}}},
+           Rows{SweepRow{"0.000000000000001", 0, {5e-324}}, SweepRow{"0.000000000000002", 0, {-5e-324}}},
+           Rows{SweepRow{"999999999999998", 0, {kMost}}, SweepRow{"999999999999999", 0, {-kMost}}},
+           Rows{SweepRow{"0", 0, {1e15}}, SweepRow{"100000", 0, {1e15 + 1}}},
+       }) {
+    const std::string picture = SweepPicture({"", "", {"AA"}}, rows);
+    EXPECT_THAT(picture, AllOf(StartsWith("<svg "), Not(HasSubstr("nan")), Not(HasSubstr("inf"))));
+    const double width = LeadingNumber(Attribute(picture, "width"));
+    const double height = LeadingNumber(Attribute(picture, "height"));
+    const Points line = Lines(picture).at(0);
+    for (const auto& [x, y] : line) {
+      EXPECT_TRUE(x > 0 && x < width) << rows[0].At;
+      EXPECT_TRUE(y > 0 && y < height) << rows[0].At;
+    }
+  }
+}
+
+// A line of a hundred thousand steps has no more points than can be told apart.
+TEST(SweepPicture, OfManyStepsIsNotLarge) {
+  std::vector<SweepRow> rows;
+  for (int i = 0; i < 100000; ++i)
+    rows.push_back({std::to_string(i), 0, {std::sin(i / 1000.0)}});
+  const std::string picture = SweepPicture({"", "", {"AA"}}, rows);
+  EXPECT_LT(picture.size(), 200000U);
+  EXPECT_GT(Lines(picture).at(0).size(), 5000U);
+}
+
+TEST(SweepPicture, EscapesItsTexts) {
+  const std::string picture = SweepPicture({"<a>", "<b>", {"<c>"}}, std::vector<SweepRow>{{"1", 0, {1}}});
+  for (const char* text : {"&lt;a&gt;", "&lt;b&gt;", "&lt;c&gt;"})
+    EXPECT_THAT(picture, HasSubstr(text));
+  EXPECT_THAT(picture, Not(HasSubstr("<a>")));
+}
+
+}  // namespace
+}  // namespace quillon
