@@ -6,6 +6,7 @@
 #   tools/install_packages.sh lint     what .ci/run needs on top of ./check
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
+#   tools/install_packages.sh pages    what tools/check_pages.sh needs on top of ./check
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
 #
@@ -22,6 +23,7 @@ check+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)
+pages=(chromium)
 screens=(optipng)
 reliability=(valgrind python3)
 
@@ -32,9 +34,10 @@ case "${1:-}" in
   fuzz) wanted=("${check[@]}" "${fuzz[@]}") ;;
   coverage) wanted=("${check[@]}" "${coverage[@]}") ;;
   reliability) wanted=("${check[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
+  pages) wanted=("${check[@]}" "${pages[@]}") ;;
   screens) wanted=("${check[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 run|check|lint|fuzz|coverage|screens|reliability" >&2
+    echo "Usage: $0 run|check|lint|fuzz|coverage|pages|screens|reliability" >&2
     exit 2
     ;;
 esac
