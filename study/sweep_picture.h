@@ -23,8 +23,8 @@ struct SweepLabels {
 /// far as there is room. There must be a row.
 [[nodiscard]] std::string SweepPicture(const SweepLabels& labels, std::span<const SweepRow> rows);
 
-/// Round numbers, 1, 2 or 5 times a power of ten apart, from `low` to `high`: at most about `wanted` of them, and at
-/// least one where low is below high. Both must be finite.
+/// Round numbers, 1, 2 or 5 times a power of ten apart, from `low` to `high`: at most one more than `wanted`, and where
+/// the two are too near to each other for steps, `low` alone. Both must be finite.
 ///
 ///     (0, 20, 5) -> 0, 5, 10, 15, 20      (-0.3, 1.1, 6) -> -0.2, 0, 0.2, ... 1      (7, 7, 5) -> 7
 [[nodiscard]] std::vector<double> RoundTicks(double low, double high, int wanted);
