@@ -11,6 +11,7 @@
 #include "hand/equity_table.h"
 #include "support/run_time_error.h"
 #include "testing/recording_window.h"
+#include "testing/split_text.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -18,8 +19,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
-
-using Lines = std::vector<std::string>;
 
 constexpr std::int16_t kCallButton = 0;
 constexpr std::int16_t kRaiseButton = 1;
@@ -74,17 +73,6 @@ class AnalysisDriver : public testing::Test {
   AnalysisState state_;
 };
 
-// The rows of a results table without their line ends.
-Lines RowsOf(const std::string& table) {
-  Lines rows;
-  for (std::size_t start = 0; start < table.size();) {
-    const std::size_t end = table.find("\r\n", start);
-    rows.push_back(table.substr(start, end - start));
-    start = end + 2;
-  }
-  return rows;
-}
-
 TEST_F(AnalysisDriver, ARunStartsInOrder) {
   struct Row {
     std::int16_t button;
@@ -95,7 +83,7 @@ TEST_F(AnalysisDriver, ARunStartsInOrder) {
         Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nPairs"}}) {
     window_.Log.clear();
     Run(row.button);
-    const Lines start(window_.Log.begin(), window_.Log.begin() + 7);
+    const std::vector<std::string> start(window_.Log.begin(), window_.Log.begin() + 7);
     EXPECT_THAT(start, ElementsAre("SetResultsShown false", "SetNoResultsCaption Please wait...", row.message,
                                    "ShowFrame Progress", "SetNoResultsUnderline true", "HideGridBack", "RaiseCell 0"));
   }
@@ -112,7 +100,7 @@ TEST_F(AnalysisDriver, RunningIsSetBetweenTheProgressScreenAndTheUnderline) {
 
 TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
   Run(kEquityButton);
-  Lines expected;
+  std::vector<std::string> expected;
   for (int index = 0; index < 169; ++index) {
     const auto width = static_cast<double>(static_cast<float>((index + 1) / 169.0 * 7815));
     expected.push_back("RaiseCell " + std::to_string(index));
@@ -120,7 +108,7 @@ TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
     expected.push_back("SetProgressBarWidth " + NumberText(width));
     expected.push_back("Yield");
   }
-  const Lines loop(window_.Log.begin() + 6, window_.Log.end() - 5);
+  const std::vector<std::string> loop(window_.Log.begin() + 6, window_.Log.end() - 5);
   EXPECT_THAT(loop, ElementsAreArray(expected));
 }
 
@@ -128,7 +116,7 @@ TEST_F(AnalysisDriver, AFinishedRunEndsInOrder) {
   window_.OnCall = [this](const std::string& line) {
     if (line != "PresentResults") return;
     EXPECT_FALSE(state_.Running);
-    EXPECT_EQ(RowsOf(state_.HandInfo).size(), 169U);
+    EXPECT_EQ(Lines(state_.HandInfo, "\r\n").size(), 169U);
   };
   Run(kCallButton);
   EXPECT_THAT(window_.LogFromLast("Yield"),
@@ -424,9 +412,9 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
     window_.Entered = before;
     AtYield(50, [&] { window_.Entered = after; });
     Run(button);
-    const Lines rows = RowsOf(state_.HandInfo);
-    const Lines rowsBefore = RowsOf(TableOf(button, before));
-    const Lines rowsAfter = RowsOf(TableOf(button, after));
+    const auto rows = Lines(state_.HandInfo, "\r\n");
+    const auto rowsBefore = Lines(TableOf(button, before), "\r\n");
+    const auto rowsAfter = Lines(TableOf(button, after), "\r\n");
     for (std::size_t index = 0; index < rows.size(); ++index)
       EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
     EXPECT_EQ(state_.PotSize, 100);

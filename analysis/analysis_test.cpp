@@ -11,6 +11,7 @@
 #include "support/number_text.h"
 #include "support/run_time_error.h"
 #include "testing/range_texts.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
@@ -54,20 +55,9 @@ class AnalyzeTest : public testing::Test {
   }
 };
 
-// The rows of a results table without their line ends.
-std::vector<std::string> RowsOf(const std::string& table) {
-  std::vector<std::string> rows;
-  for (std::size_t start = 0; start < table.size();) {
-    const std::size_t end = table.find("\r\n", start);
-    rows.push_back(table.substr(start, end - start));
-    start = end + 2;
-  }
-  return rows;
-}
-
 TEST_F(AnalyzeTest, RowsAreInClassOrder) {
   for (const Situation& situation : {ACall(kPairs), ARaise(kEveryHand, kPairs), AnEquity(kPairs)}) {
-    const auto rows = RowsOf(Analyze(situation)->HandInfo);
+    const auto rows = Lines(Analyze(situation)->HandInfo, "\r\n");
     ASSERT_EQ(rows.size(), 169U);
     for (std::int16_t index = 0; index < kHandClassCount; ++index) {
       const std::string& row = rows[static_cast<std::size_t>(index)];
@@ -85,10 +75,10 @@ TEST_F(AnalyzeTest, TheSituationComesBackAsItWas) {
 }
 
 TEST_F(AnalyzeTest, RowsAgainstARangeOfAces) {
-  const auto call = RowsOf(Analyze(ACall(kAces))->HandInfo);
+  const auto call = Lines(Analyze(ACall(kAces))->HandInfo, "\r\n");
   EXPECT_EQ(call[0], "AA\t25\t0.5\t1\t") << "150 * 0.5 - 50";
   EXPECT_EQ(call[14], "KK\t-22.91915\t0.180539\t1\t") << "150 * 0.180539 - 50";
-  const auto equity = RowsOf(Analyze(AnEquity(kAces))->HandInfo);
+  const auto equity = Lines(Analyze(AnEquity(kAces))->HandInfo, "\r\n");
   EXPECT_EQ(equity[0], "AA\t0\t0.5\t1\t");
   EXPECT_EQ(equity[14], "KK\t0\t0.180539\t1\t");
 }
@@ -114,7 +104,7 @@ TEST_F(AnalyzeTest, ACallingRangeBeyondTheCurrentOneAlwaysCalls) {
 TEST_F(AnalyzeTest, AnOpponentWhoNeverCallsLeavesThePot) {
   for (const Situation& situation :
        {ARaise(kEveryHand, kNoHand), ARaise(kNoHand, kEveryHand), ARaise(kNoHand, kNoHand)}) {
-    for (const std::string& row : RowsOf(Analyze(situation)->HandInfo))
+    for (const std::string& row : Lines(Analyze(situation)->HandInfo, "\r\n"))
       EXPECT_THAT(row, EndsWith("\t100\t-1\t1\t"));
   }
 }
@@ -145,7 +135,7 @@ TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
 
 TEST_F(AnalyzeTest, AListenerHearsOfEachClassBeforeAndAfterIt) {
   std::string heard;
-  const auto rowsIn = [](const Analysis& soFar) { return std::to_string(RowsOf(soFar.HandInfo).size()); };
+  const auto rowsIn = [](const Analysis& soFar) { return std::to_string(Lines(soFar.HandInfo, "\r\n").size()); };
   const auto analysis = Analyze(
       AnEquity(kAces), {.Begins = [&](std::int16_t index) { heard += "begins " + std::to_string(index) + ", "; },
                         .AmountsNow =
@@ -192,9 +182,9 @@ TEST_F(AnalyzeTest, AmountsAreThoseOfTheMoment) {
                                               if (index == 49) now = later;
                                               return true;
                                             }});
-    const auto rows = RowsOf(mixed->HandInfo);
-    const auto rowsBefore = RowsOf(Analyze(before)->HandInfo);
-    const auto rowsAfter = RowsOf(Analyze(after)->HandInfo);
+    const auto rows = Lines(mixed->HandInfo, "\r\n");
+    const auto rowsBefore = Lines(Analyze(before)->HandInfo, "\r\n");
+    const auto rowsAfter = Lines(Analyze(after)->HandInfo, "\r\n");
     for (std::size_t index = 0; index < rows.size(); ++index)
       EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
     EXPECT_EQ(mixed->PotSize, 100);

@@ -2,22 +2,12 @@
 
 #include <array>
 #include <gtest/gtest.h>
-#include <optional>
 
 #include "support/run_time_error.h"
+#include "testing/fault_of.h"
 
 namespace quillon {
 namespace {
-
-template <class Action>
-std::optional<RunTimeFault> FaultOf(Action action) {
-  try {
-    static_cast<void>(action());
-  } catch (const RunTimeError& error) {
-    return error.Fault();
-  }
-  return std::nullopt;
-}
 
 TEST(CallExpectedValue, IsTheShareOfTheWholePotLessTheCall) {
   EXPECT_EQ(CallExpectedValue(100, 50, 0.5), 25);

@@ -35,7 +35,7 @@ const std::vector<TextCase> kSums = {
     {"of a number with two points the leading one counts", "=1.5.2", "1.5"},
     {"and what follows it is gone", "=1.5.2+1", "2.5"},
     {"fractions need no digit before the point", "=.5+.5", "1"},
-    {"nor behind it", "=5.+1", "6"},
+    {"nor after it", "=5.+1", "6"},
     {"a point alone is 0", "=.", "0"},
     {"trailing zeros do not show", "=0.1+0.2", "0.3"},
     {"fifteen digits show", "=1.23456789012345678", "1.23456789012346"},
@@ -48,7 +48,7 @@ const std::vector<TextCase> kSums = {
 const std::vector<TextCase> kNoSums = {
     {"a blank between", "=1 + 2", ""},
     {"a blank in front", "= 1", ""},
-    {"a blank behind", "=1 ", ""},
+    {"a space after", "=1 ", ""},
     {"a dollar sign", "=$5", ""},
     {"a thousands separator", "=1,000", ""},
     {"a product", "=2*3", ""},
@@ -57,7 +57,7 @@ const std::vector<TextCase> kNoSums = {
     {"an exponent", "=1e3", ""},
     {"a second equals sign", "==5", ""},
     {"a word", "=pot", ""},
-    {"a letter behind a good sum", "=1+2x", ""},
+    {"a letter after a good sum", "=1+2x", ""},
     {"a letter that is not ASCII", "=5€", ""},
     {"a line end", "=1\r\n", ""},
     {"a NUL", std::string("=1\0", 3), ""},
@@ -103,7 +103,7 @@ TEST(GetNumber, TakesDigitsAndPoints) {
       {"no exponent", "1e3", "1"},
       {"no separator", "1,000", "1"},
       {"nothing of nothing", "", ""},
-      {"zeros as they stand", "007x", "007"},
+      {"zeros as typed", "007x", "007"},
   };
   for (const TextCase& c : cases)
     EXPECT_EQ(GetNumber(c.text), c.result) << c.rule;

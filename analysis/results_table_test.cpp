@@ -53,9 +53,8 @@ TEST(SetHandInfo, ChangesOneCellOfOneRow) {
            Row{"cells beyond the last column are dropped", "AA\t1\t2\t3\t4\t5\t\r\n", "AA", 1, 1, 2, "AA\t2\t2\t\r\n"},
            Row{"cells that are missing are added", "AA\r\n", "AA", 2, 7, 3, "AA\t\t7\t\t\r\n"},
            Row{"the old cell counts with its leading number", "AA\t12abc\t\t\r\n", "AA", 1, 1, 3, "AA\t13\t\t\t\r\n"},
-           Row{"what stands behind the last line end is dropped", "AA\t1\t\t\r\nKK\t1", "AA", 2, 2, 3,
-               "AA\t1\t2\t\t\r\n"},
-           Row{"a row behind the last line end is not found", "KK\t1", "KK", 1, 2, 3, "KK\t2\t\t\r\n"},
+           Row{"what follows the last line end is dropped", "AA\t1\t\t\r\nKK\t1", "AA", 2, 2, 3, "AA\t1\t2\t\t\r\n"},
+           Row{"a row after the last line end is not found", "KK\t1", "KK", 1, 2, 3, "KK\t2\t\t\r\n"},
            Row{"every row of the key is changed", "AA\t1\t\r\nAA\t2\t\r\n", "AA", 1, 1, 1, "AA\t2\t\r\nAA\t3\t\r\n"},
            Row{"a key is compared whole", "AKs\t1\t\t\r\n", "AK", 1, 2, 3, "AKs\t1\t\t\r\nAK\t2\t\t\r\n"},
            Row{"a key is compared with case", "AKs\t1\t\t\r\n", "AKS", 1, 2, 3, "AKs\t1\t\t\r\nAKS\t2\t\t\r\n"},
@@ -110,8 +109,8 @@ TEST(GetHandInfo, LooksAtEveryPiece) {
 TEST(GetHandInfo, TakesALabelForAKeyOnlyInItsPlace) {
   EXPECT_EQ(GetHandInfo("x\tAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "in a cell it is none";
   EXPECT_EQ(GetHandInfo("AAA\t9\t\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor as a part of another key";
-  EXPECT_EQ(GetHandInfo("x\rAA\t9\r\nx\nAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor behind half a line end";
-  EXPECT_EQ(GetHandInfo("\nAA\t9\t\r\nAA\t5", "AA", 1), 5) << "nor behind half of one at the start";
+  EXPECT_EQ(GetHandInfo("x\rAA\t9\r\nx\nAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor after half a line end";
+  EXPECT_EQ(GetHandInfo("\nAA\t9\t\r\nAA\t5", "AA", 1), 5) << "nor after half of one at the start";
   EXPECT_EQ(GetHandInfo("AA\t1\t2\t\r\n", "AA\t1", 1), 0) << "two cells are no key";
   EXPECT_EQ(GetHandInfo("AA\r\nKK\t2\t\r\n", "AA\r\nKK", 1), 0) << "nor are two rows";
   EXPECT_EQ(GetHandInfo("AA\r\t7\t\r\n", "AA\r", 1), 7) << "a lone carriage return belongs to the key";
@@ -138,7 +137,7 @@ TEST(BestHand, GoesByTheRoundedBestSoFar) {
            Row{"just above -10000", TableOf({"-9999.9", "-10000"}), "r0"},
            Row{"an empty cell is 0", TableOf({"-5", ""}), "r1"},
            Row{"the empty table", "", ""},
-           Row{"behind the last line end nothing is looked at", "AA\t1\t\r\nKK\t5", "AA"},
+           Row{"nothing after the last line end is looked at", "AA\t1\t\r\nKK\t5", "AA"},
            Row{"beyond 32 bits as ever, rounded up", TableOf({"5000000000.6", "5000000000.9"}), "r0"},
            Row{"and rounded down", TableOf({"5000000000.4", "5000000000.2"}), "r1"},
            Row{"where every number is whole", TableOf({"1E+300", "1.1E+300", "1.05E+300"}), "r1"},

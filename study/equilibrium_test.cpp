@@ -9,17 +9,10 @@
 
 #include "analysis/analysis.h"
 #include "hand/equity_table.h"
+#include "testing/study_hands.h"
 
 namespace quillon {
 namespace {
-
-const HandNumbers& Hands() {
-  static const HandNumbers hands = [] {
-    LoadEquityTable();
-    return HandNumbers();
-  }();
-  return hands;
-}
 
 std::size_t Index(std::string_view label) {
   return static_cast<std::size_t>(HandIndex(label));
@@ -103,7 +96,7 @@ TEST(Equilibrium, OfOneHandEachIsWorkedOutByHand) {
                 0,
                 1,
                 0},
-           Case{"he folds what is behind", "AA", "KK", {.Pot = 10, .Call = 0, .Shove = 100}, 1, 0, 10},
+           Case{"he folds the worse hand", "AA", "KK", {.Pot = 10, .Call = 0, .Shove = 100}, 1, 0, 10},
            Case{"he calls at a price", "AA", "KK", {.Pot = 10, .Call = 0, .Shove = 1}, 1, 1, 12 * 0.819461 - 1},
        }) {
     BalanceQuestion question = c.question;

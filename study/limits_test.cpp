@@ -7,18 +7,10 @@
 #include <vector>
 
 #include "analysis/analysis.h"
-#include "hand/equity_table.h"
+#include "testing/study_hands.h"
 
 namespace quillon {
 namespace {
-
-const HandNumbers& Hands() {
-  static const HandNumbers hands = [] {
-    LoadEquityTable();
-    return HandNumbers();
-  }();
-  return hands;
-}
 
 ClassWeights Range(const std::vector<std::string>& labels) {
   ClassWeights weights{};

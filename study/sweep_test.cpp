@@ -5,21 +5,13 @@
 #include <vector>
 
 #include "analysis/analysis.h"
-#include "hand/equity_table.h"
 #include "ranges/range_notation.h"
 #include "study/hand_order.h"
 #include "support/number_text.h"
+#include "testing/study_hands.h"
 
 namespace quillon {
 namespace {
-
-const HandNumbers& Hands() {
-  static const HandNumbers hands = [] {
-    LoadEquityTable();
-    return HandNumbers();
-  }();
-  return hands;
-}
 
 // The texts of all steps with blanks between, or why there are none.
 std::string Read(const std::string& text) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// Rules that every layout keeps, whatever its rows say. How each screen looks is told by the pictures that
-// "tests/screens_journey_test.cpp" compares.
+// Rules that every layout keeps, whatever its rows say. Pictures of each screen are compared in
+// "tests/screens_journey_test.cpp".
 
 #include <QWidget>
 #include <gtest/gtest.h>

@@ -138,7 +138,7 @@ class MainStage {
     TypeKeys(text);
   }
 
-  /// Selects an entry of a range list with the keyboard, the blank one for the empty name.
+  /// Selects an entry of a range list with the keyboard; an empty name selects the empty entry.
   void Choose(std::int16_t chooser, std::string_view name) {
     auto& box = Get<QComboBox>("cmboRanges", chooser);
     const int wanted = box.findText(ToQt(name));

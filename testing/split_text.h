@@ -20,9 +20,9 @@ namespace quillon {
   return pieces;
 }
 
-/// The lines of a text, each without its line feed. Nothing follows the last line feed.
-[[nodiscard]] inline std::vector<std::string> Lines(std::string_view text) {
-  std::vector<std::string> lines = Split(text, "\n");
+/// The lines of a text, each without its end. What follows the last end is a line unless it is empty.
+[[nodiscard]] inline std::vector<std::string> Lines(std::string_view text, std::string_view end = "\n") {
+  std::vector<std::string> lines = Split(text, end);
   if (lines.back().empty()) lines.pop_back();
   return lines;
 }
