@@ -65,13 +65,6 @@ TEST(SaveRangeText, ReadsBackEqual) {
   }
 }
 
-TEST(SaveRangeText, ReplacesALongerFileWhole) {
-  const TemporaryProgram program;
-  SaveRangeText(program.Folder(), "x", TextWith("AA"));
-  SaveRangeText(program.Folder(), "x", "AA (1), ");
-  EXPECT_EQ(program.Read("x.txt"), "AA (1), \r\n");
-}
-
 TEST(SaveRangeText, LeavesNothingButTheFile) {
   const TemporaryProgram program;
   SaveRangeText(program.Folder(), "x", "AA (1), ");
@@ -241,54 +234,31 @@ TEST(DeleteRange, FailureIsFatalAndNamed) {
   EXPECT_EQ(program.Read("x.txt"), "AA (1), ");
 }
 
-TEST(RenameRange, NewRangeTakesTheTextAndTheOldOneGoes) {
-  const TemporaryProgram program;
-  program.Write("old.txt", "AA (1), ");
-  RenameRange(program.Folder(), "old", "new", "KK (1), ");
-  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
-  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("old.txt")));
-}
-
-TEST(RenameRange, NewRangeThatIsThereIsReplaced) {
-  const TemporaryProgram program;
-  program.Write("old.txt", "AA (1), ");
-  program.Write("new.txt", "QQ (1), and more than will be there");
-  RenameRange(program.Folder(), "old", "new", "KK (1), ");
-  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
-  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("old.txt")));
-}
-
-TEST(RenameRange, RangeOfThatVeryNameStaysWithTheNewText) {
-  const TemporaryProgram program;
-  program.Write("x.txt", "AA (1), ");
-  RenameRange(program.Folder(), "x", "x", "KK (1), ");
-  EXPECT_EQ(program.Read("x.txt"), "KK (1), \r\n");
-}
-
-TEST(RenameRange, LinkOfThatVeryNameStaysToo) {
-  const TemporaryProgram program;
-  program.Write("far.txt", "AA (1), ");
-  std::filesystem::create_symlink("far.txt", program.RangeFile("x.txt"));
-  RenameRange(program.Folder(), "x", "x", "KK (1), ");
-  EXPECT_EQ(program.Read("x.txt"), "KK (1), \r\n");
-}
-
-TEST(RenameRange, FileThatHasBothNamesStaysWithTheNewText) {
-  const TemporaryProgram program;
-  program.Write("old.txt", "AA (1), ");
-  std::filesystem::create_symlink("old.txt", program.RangeFile("new.txt"));
-  RenameRange(program.Folder(), "old", "new", "KK (1), ");
-  EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
-}
-
-TEST(RenameRange, OldNameThatIsALinkGoes) {
-  const TemporaryProgram program;
-  program.Write("new.txt", "AA (1), ");
-  for (const char* target : {"new.txt", "nowhere"}) {
-    std::filesystem::create_symlink(target, program.RangeFile("old.txt"));
-    RenameRange(program.Folder(), "old", "new", "KK (1), ");
-    EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n") << target;
-    EXPECT_FALSE(std::filesystem::is_symlink(program.RangeFile("old.txt"))) << target;
+TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoesUnlessBothAreOneFile) {
+  struct Case {
+    const char* rule;
+    std::vector<const char*> files;
+    const char* link;  // empty: there is none
+    const char* target;  // only where that is the old range does the old name stay
+    const char* from;
+    const char* to;
+  };
+  for (const Case& c : {Case{"a new name", {"old.txt"}, "", "", "old", "new"},
+                        Case{"the name of another range", {"old.txt", "new.txt"}, "", "", "old", "new"},
+                        Case{"the same name", {"new.txt"}, "", "", "new", "new"},
+                        Case{"the same name, which is a link", {"far.txt"}, "new.txt", "far.txt", "new", "new"},
+                        Case{"a second name of the file", {"old.txt"}, "new.txt", "old.txt", "old", "new"},
+                        Case{"a link to the new name", {"new.txt"}, "old.txt", "new.txt", "old", "new"},
+                        Case{"a link to nowhere", {"new.txt"}, "old.txt", "nowhere", "old", "new"}}) {
+    SCOPED_TRACE(c.rule);
+    const TemporaryProgram program;
+    for (const char* file : c.files)
+      program.Write(file, "AA (1), and more than will be there");
+    if (*c.link != '\0') std::filesystem::create_symlink(c.target, program.RangeFile(c.link));
+    RenameRange(program.Folder(), c.from, c.to, "KK (1), ");
+    EXPECT_EQ(program.Read("new.txt"), "KK (1), \r\n");
+    EXPECT_EQ(std::filesystem::exists(std::filesystem::symlink_status(program.RangeFile("old.txt"))),
+              c.target == std::string_view("old.txt"));
   }
 }
 

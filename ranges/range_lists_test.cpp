@@ -37,7 +37,8 @@ TEST(RangeFolderEntries, SortsWithoutRegardToCase) {
        {"ß.txt", "é.txt", "É.txt", "ärger2.txt", "Ärger.txt", "×.txt", "_a.txt", "gamma.txt", "ZZ.txt", "za.txt",
         "AA.txt", "beta.txt", "Beta.txt", "BETA.txt", "alpha2.txt", "Alpha.txt", "9.txt", "10.txt"})
     program.Write(name);
-  // The small letters are compared, so "_" comes before "a"; names that agree in them stand in byte order.
+  // The small letters are compared, so "_" comes before "a"; names that are the same in small letters are in byte
+  // order.
   EXPECT_THAT(
       RangeFolderEntries(program.Folder()),
       ElementsAre("10.txt", "9.txt", "_a.txt", "AA.txt", "Alpha.txt", "alpha2.txt", "BETA.txt", "Beta.txt", "beta.txt",

@@ -52,33 +52,24 @@ TEST(RangeNotation, ReadsClassesAndRuns) {
   ExpectReadings({
       {"a pair", "88", "88"},
       {"a suited hand", "AKs", "AKs"},
-      {"an offsuit hand", "AKo", "AKo"},
       {"both", "AK", "AKs AKo"},
       {"either card first", "KA", "AKs AKo"},
-      {"either card first, with its letter", "2As", "A2s"},
       {"any case", "aKS tT", "AKs TT"},
       {"10 is T", "10A,1010,J10o,109s", "ATs ATo TT JTo T9s"},
       {"an open run of pairs goes up to aces", "JJ+", "AA KK QQ JJ"},
-      {"of aces it is aces", "AA+", "AA"},
       {"in an open run the high card stays", "ATs+", "AKs AQs AJs ATs"},
-      {"for both suits", "AQ+", "AKs AQs AKo AQo"},
       {"the last class alone", "32o+", "32o"},
       {"a closed run of pairs", "JJ-88", "JJ TT 99 88"},
       {"in either order", "88-JJ", "JJ TT 99 88"},
-      {"of one high card", "AQs-A9s", "AQs AJs ATs A9s"},
       {"in either order, either card first", "9A-QA", "AQs AJs ATs A9s AQo AJo ATo A9o"},
       {"both cards falling", "76s-54s", "76s 65s 54s"},
-      {"both cards rising", "53o-97o", "97o 86o 75o 64o 53o"},
-      {"of one class", "QJs-QJs", "QJs"},
   });
 }
 
 TEST(RangeNotation, ReadsItemsHoweverTheyAreSeparated) {
   ExpectReadings({
-      {"commas", "AA,KK", "AA KK"},
       {"semicolons", "AA;KK", "AA KK"},
       {"blanks and tabs", "  AA \t KK ", "AA KK"},
-      {"line ends", "AA\nKK\r\nQQ\n", "AA KK QQ"},
       {"many at once", ",;AA, ; \n,KK;;", "AA KK"},
   });
 }

@@ -73,7 +73,7 @@ void ExpectReadAs(const std::string& text, const plain::Weights& weights) {
 
 class RandomRange : public ::testing::TestWithParam<unsigned> {
  protected:
-  // Saves a text and gives back what is read.
+  // Saves a text and reads it again.
   std::string ThroughItsFile(const std::string& text) {
     SaveRangeText(program_.Folder(), "Random", text);
     EXPECT_TRUE(RangeExists(program_.Folder(), "Random"));

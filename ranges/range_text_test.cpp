@@ -19,28 +19,17 @@ struct WeightCase {
 
 TEST(RangeWeightOf, ReadsTheNumberBehindTheFirstOccurrence) {
   const std::vector<WeightCase> cases = {
-      {"full", "AA (1), AKs (0.5), ", "AA", 1},
-      {"half", "AA (1), AKs (0.5), ", "AKs", 0.5},
-      {"none", "AA (0), AKs (1), ", "AA", 0},
-      {"a weight of its own reads as it stands", "AA (1), AKs (0.25), ", "AKs", 0.25},
-      {"a weight above one", "AA (2), ", "AA", 2},
-      {"a negative weight", "AA (-1), ", "AA", -1},
+      {"a weight of its own reads as written", "AA (1), AKs (0.25), ", "AKs", 0.25},
       {"a weight with an exponent", "AA (7.5E-02), ", "AA", 0.075},
-      {"entries in any order", "22 (0.5), AKo (1), AA (0), ", "22", 0.5},
       {"the first of two entries wins", "AA (0.5), KK (1), AA (1), ", "AA", 0.5},
       {"no number reads as nothing", "AA (x), ", "AA", 0},
-      {"an empty number reads as nothing", "AA (), ", "AA", 0},
       {"a number ends at what is none", "AA (0.5x), ", "AA", 0.5},
-      {"blanks in a number are skipped", "AA ( 0 . 5 ), ", "AA", 0.5},
-      {"any two characters may stand before the number", "AA=:1)", "AA", 1},
+      {"any two characters may come before the number", "AA=:1)", "AA", 1},
       {"one of them may be no ASCII", "AA½(1)", "AA", 1},
-      {"or both", "AA‘€1)", "AA", 1},
       {"without the blank the number loses its first digit", "AA(0.5), ", "AA", 0.5},
       {"without the blank a number of one digit is lost", "AA(1), ", "AA", 0},
-      {"remarks between entries", "my notes: AA (1), (loose) KK (0.5), ", "KK", 0.5},
       {"a label inside a remark counts as the first occurrence", "AKs? (0) AKs (1), ", "AKs", 0},
       {"labels are compared with case", "aks (1), AKs (0.5), ", "AKs", 0.5},
-      {"line ends between entries", "AA (1),\r\nKK (0.5),\r\n", "KK", 0.5},
       {"an entry at the very end", "KK (1), AA (0.5)", "AA", 0.5},
       {"a label inside a weight counts as the first occurrence", "AA (22.003), 22 (1), ", "22", 3},
   };
@@ -52,9 +41,7 @@ TEST(RangeWeightOf, MissingClassReadsWhatStandsBeforeTheFirstBracket) {
   const std::vector<WeightCase> cases = {
       {"three characters read from the fifth on", "AA (1), AKs (1), ", "72o", 1},
       {"two characters read from the fourth on, which is no number", "AA (1), AKs (1), ", "22", 0},
-      {"three characters, half", "AA (0.5), AKs (1), ", "AKo", 0.5},
       {"a first entry of three characters gives no number", "AKs (1), AA (1), ", "72o", 0},
-      {"nor to two characters", "AKs (1), AA (1), ", "22", 0},
       {"characters count, not bytes", "éé (1), AKs (0), ", "72o", 1},
       {"the number's place may be the bracket's own", "AKs ) AA (1), ", "72o", 0},
   };
@@ -79,16 +66,12 @@ TEST(RangeWeightOf, WithoutABracketInReachIsFatal) {
   };
   const std::vector<Case> cases = {
       {"the empty text", "", "AA"},
-      {"a text without any bracket", "AA 1, KK 1", "AA"},
       {"a missing class in a text without any bracket", "AA 1, KK 1", "72o"},
       {"brackets only before the label", "KK (1), AA (1", "AA"},
-      {"the label alone at the end", "KK (1), AA", "AA"},
       {"a label inside a weight and its bracket too near", "AA (0.22), 22 (1), ", "22"},
-      {"a bracket right behind the label", "AA) 1)", "AA"},
-      {"a bracket one behind the label", "AA ) 1)", "AA"},
+      {"a bracket one character after the label", "AA ) 1)", "AA"},
       {"a bracket in what is looked for", "A) (1), ", "A)"},
       {"a missing class and a bracket at the start", ")AA (1), ", "72o"},
-      {"a missing class and a bracket one too early", "AA )", "72o"},
       {"a missing class and a bracket one too early in characters", "éé )", "72o"},
   };
   for (const Case& c : cases) {
@@ -199,11 +182,7 @@ struct ComboCase {
 TEST(SelectedCombos, CountsConcreteHandsAsTheGridShowsThem) {
   const std::vector<ComboCase> cases = {
       {"nothing", TextWith(""), 0, "0% selected"},
-      {"one pair", TextWith("88"), 6, "0.5% selected"},
-      {"one half pair", TextWith("", "AA"), 3, "0.2% selected"},
-      {"one suited class", TextWith("AKs"), 4, "0.3% selected"},
       {"one offsuit class", TextWith("AKo"), 12, "0.9% selected"},
-      {"one half offsuit class", TextWith("", "AKo"), 6, "0.5% selected"},
       {"a mixture", TextWith("AA KK AKs", "AKo 72o"), 28, "2.1% selected"},
       {"all at full", EveryHandAt(1), 1326, "100% selected"},
       {"all at half", EveryHandAt(0.5), 663, "50% selected"},

@@ -66,8 +66,8 @@ TEST(HandLine, HoldsTheWorkingOfTheHand) {
        "EV for 22 = (1*150)+(1-1)*(-1*(150+50+2*100)-(50+100)) = +150"},
       {"a shove that loses", ShoveOf(100), "32o", "-3.14159\t0.3\t0",
        "EV for 32o = (0*150)+(1-0)*(0.3*(150+50+2*100)-(50+100)) = -3.14"},
-      {"an equity is not rounded and has a tab behind its colon", sample::EquityState(), "AA",
-       "0\t0.852312345678901\t1", "Equity for AA :\t 0.852312345678901"},
+      {"an equity is not rounded and has a tab after its colon", sample::EquityState(), "AA", "0\t0.852312345678901\t1",
+       "Equity for AA :\t 0.852312345678901"},
       {"an equity of -1", sample::EquityState(), "AKs", "0\t-1\t1", "Equity for AKs :\t -1"},
   };
   for (const LineCase& c : cases) {

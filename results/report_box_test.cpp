@@ -43,14 +43,14 @@ TEST(AppendReportLine, PadsTheTextUpToItsFirstColon) {
     std::string written;
   };
   const std::vector<Case> cases = {
-      {"the blank behind the colon stays behind the tab", "Total Pot Size: 150", 20, "Total Pot Size:     \t 150"},
+      {"the space after the colon comes after the tab", "Total Pot Size: 150", 20, "Total Pot Size:     \t 150"},
       {"the first colon parts", "Type: a: b", 20, "Type:               \t a: b"},
       {"a left piece of just the width gets no blanks", "Opponent Range Name: Tight", 20,
        "Opponent Range Name:\t Tight"},
       {"one of a character less gets one", "Opponent Range Nam: Tight", 20, "Opponent Range Nam: \t Tight"},
       {"a left piece beyond the width gets the tab alone", "Opponent Range Names: Tight", 20,
        "Opponent Range Names:\t Tight"},
-      {"a colon at the end has the tab behind it", "BEP:", 5, "BEP: \t"},
+      {"a colon at the end has the tab after it", "BEP:", 5, "BEP: \t"},
       {"a colon at the start counts as a piece of one", ":x", 3, ":  \tx"},
       {"a width of 0 pads nothing", "BEP: 5", 0, "BEP:\t 5"},
       {"no width but -1 means no padding", "BEP: 5", -2, "BEP:\t 5"},
@@ -100,7 +100,7 @@ TEST(MoneyColumn, EndsAtTheWidthWithTwoDecimals) {
       {"blanks in front", 120, 13, "       120.00"},
       {"a loss brings its sign", -25.32, 13, "       -25.32"},
       {"no digit before the point of a part of one", 0.5, 10, "       .50"},
-      {"nor behind a minus sign", -0.5, 10, "      -.50"},
+      {"nor after a minus sign", -0.5, 10, "      -.50"},
       {"nothing is three characters", 0, 4, " .00"},
       {"a negative zero has no sign", -0.0, 4, " .00"},
       {"no thousands separators", 1234.5, 0, "1234.50"},

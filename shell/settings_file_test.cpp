@@ -103,7 +103,7 @@ TEST(SettingsFile, IsReadUpTo2999Characters) {
 TEST(SettingsFile, ThatCannotBeReadIsNotOverwritten) {
   const TemporaryProgram program;
   Put(program.Folder(), "[Main]\r\nLeft=5\r\n");
-  for (const int call : {2, 3}) {  // behind the lock of its folder: opening it, reading it
+  for (const int call : {2, 3}) {  // after the lock of its folder: opening the file, reading it
     FailingCalls calls(call);
     WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls});
     EXPECT_TRUE(calls.HasFailed());

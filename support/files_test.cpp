@@ -250,7 +250,7 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
   EXPECT_THAT(
       order, testing::ElementsAre(Call::kOpen, Call::kSetMode, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
 
-  // The new name itself must last too: the folder is synced behind the rename.
+  // The new name itself must last too: the folder is synced after the rename.
   order.clear();
   bool renamed = false;
   for (const auto& entry : calls.Made()) {
@@ -601,7 +601,7 @@ TEST_F(ReplacingAFile, FileThatWasNotThereHasTheUsersUsualPermissions) {
   EXPECT_EQ(ModeOf(File()), 0640U);
 }
 
-// What may be read by its owner alone must not lie open for the moments of a save either.
+// A file that only its owner may read must not be readable by others while it is saved either.
 TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
   const Umask umask(0);
   Put(File(), kOld);

@@ -37,12 +37,10 @@ TEST(NumberText, IsTheGeneralForm) {
       {"an integer has no point", 150, "150"},
       {"a fraction has no zeros at its end", 12.5, "12.5"},
       {"a fraction has a 0 before the point", 0.85, "0.85"},
-      {"what floats add wrongly is gone behind 15 digits", 0.1 + 0.2, "0.3"},
+      {"what floats add wrongly is gone after 15 digits", 0.1 + 0.2, "0.3"},
       {"a minus sign where negative", -0.5, "-0.5"},
       {"nothing", 0, "0"},
       {"a negative nothing has no sign", -0.0, "0"},
-      {"zeros before the point stay", 100, "100"},
-      {"zeros within stay", 1002.003, "1002.003"},
       {"15 digits", -12.3456789012345, "-12.3456789012345"},
       {"a 16th digit rounds the 15th", 0.1234567890123456, "0.123456789012346"},
       {"a 16th digit before the point goes into the exponent form", 1234567890123456, "1.23456789012346E+15"},
@@ -50,17 +48,9 @@ TEST(NumberText, IsTheGeneralForm) {
       {"the equity complement that has too many decimals", 1.0 - 0.920788, "7.92119999999999E-02"},
       {"15 decimals are fixed", 1e-15, "0.000000000000001"},
       {"16 decimals are not", 1e-16, "1E-16"},
-      {"negative with 16 decimals", -1e-16, "-1E-16"},
-      {"few digits far behind the point are fixed", 0.00012, "0.00012"},
-      {"15 decimals, several digits", 1.2e-14, "0.000000000000012"},
-      {"16 decimals, several digits", 1.2e-15, "1.2E-15"},
-      {"15 digits behind the point", 0.123456789012345, "0.123456789012345"},
-      {"15 digits behind the point and a zero", 0.0123456789012345, "1.23456789012345E-02"},
       {"15 digits before the point are fixed", 999999999999999, "999999999999999"},
       {"16 digits before the point are not", 1e15, "1E+15"},
       {"rounding to 15 digits makes a 16th place", 999999999999999.9, "1E+15"},
-      {"14 zeros before the point", 1e14, "100000000000000"},
-      {"exponents have two digits", 1.5e20, "1.5E+20"},
       {"or three", 1.5e-200, "1.5E-200"},
       {"the largest number", kLargest, "1.79769313486232E+308"},
       {"the lowest number", -kLargest, "-1.79769313486232E+308"},
@@ -98,23 +88,6 @@ TEST(FloatNumberText, IsTheGeneralFormOfSevenDigits) {
 TEST(FloatNumberText, WhatIsNotFiniteOverflows) {
   EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::infinity())), RunTimeError);
   EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::quiet_NaN())), RunTimeError);
-}
-
-// 1 minus these is what the equity table holds below its diagonal in the exponent form.
-TEST(NumberText, SevenEquitiesTakeTheExponentForm) {
-  const std::vector<NumberCase> cases = {
-      {"Q8o against QQ", 1.0 - 0.920788, "7.92119999999999E-02"},
-      {"A6o against AA", 1.0 - 0.935618, "6.43820000000001E-02"},
-      {"T6o against TT", 1.0 - 0.91424, "8.57599999999999E-02"},
-      {"Q5o against QQ", 1.0 - 0.930421, "6.95789999999999E-02"},
-      {"J4o against JJ", 1.0 - 0.931726, "6.82739999999999E-02"},
-      {"K2o against KK", 1.0 - 0.946266, "5.37339999999999E-02"},
-      {"T2o against TT", 1.0 - 0.937031, "6.29690000000001E-02"},
-  };
-  for (const NumberCase& c : cases) {
-    EXPECT_EQ(NumberText(c.value), c.text) << c.rule;
-    EXPECT_EQ(NumberText(LeadingNumber(c.text)), c.text) << c.rule;
-  }
 }
 
 TEST(NumberText, WhatIsNotFiniteOverflows) {
@@ -182,12 +155,10 @@ TEST(LeadingNumber, ReadsTheLongestStartThatIsANumber) {
       {"blanks are skipped between sign and digits", "- 5", -5},
       {"blanks are skipped around the point", "1 . 5", 1.5},
       {"blanks are skipped in the exponent", "1 e - 2", 0.01},
-      {"blanks behind do not matter", "7   ", 7},
+      {"spaces after it do not matter", "7   ", 7},
       {"a second point ends a number", "1.5.2", 1.5},
       {"a second point ends a number at once", "1..2", 1},
       {"an exponent", "1e3", 1000},
-      {"an exponent in capitals", "1E3", 1000},
-      {"an exponent with its sign", "1e+3", 1000},
       {"a negative exponent", "5.37339999999999E-02", 0.0537339999999999},
       {"an exponent without digits does not count", "1e", 1},
       {"nor with its sign alone", "1e+", 1},
@@ -196,8 +167,8 @@ TEST(LeadingNumber, ReadsTheLongestStartThatIsANumber) {
       {"an exponent needs a number before it", "e5", 0},
       {"nor does a point make one", ".e5", 0},
       {"no digit before the point", "-.5", -0.5},
-      {"no digit behind the point", "5.", 5},
-      {"a point behind a point's number", "5.e1", 50},
+      {"no digit after the point", "5.", 5},
+      {"a point after a point's number", "5.e1", 50},
       {"a point alone", ".", 0},
       {"a sign alone", "-", 0},
       {"a sign and a point", "+.", 0},
@@ -217,12 +188,8 @@ TEST(LeadingNumber, ReadsTheLongestStartThatIsANumber) {
       {"no infinity with a sign", "-infinity", 0},
       {"no not-a-number", "nan", 0},
       {"bytes above 127", "\xB2", 0},
-      {"zeros before the number", "000000000000000000007", 7},
-      {"zeros behind the number", "0.50000000000000000000", 0.5},
       {"15 digits", "0.123456789012345", 0.123456789012345},
-      {"16 digits", "0.1234567890123456", 0.1234567890123456},
       {"an integer beyond what a double holds exactly", "9007199254740993", 9007199254740992},
-      {"20 digits", "12345678901234567890", 12345678901234567890.0},
       {"many decimals, the last one above a tie", "0.1000000000000000055511151231257828", 0.1},
   };
   for (const ParseCase& c : cases)
@@ -235,10 +202,10 @@ TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
       {"too large by its exponent", "1e400", kLargest},
       {"too low by its exponent", "-1e400", -kLargest},
       {"too large by its digits", "1" + zeros, kLargest},
-      {"too large by its digits behind zeros", zeros + "1" + zeros, kLargest},
+      {"too large by its digits after zeros", zeros + "1" + zeros, kLargest},
       {"too large by its digits, with a fraction", "1" + zeros + ".5", kLargest},
       {"too large in spite of a negative exponent", "1" + zeros + "e-50", kLargest},
-      {"too large behind a point", "0.0001e400", kLargest},
+      {"too large after a point", "0.0001e400", kLargest},
       {"the exponent itself is beyond an integer", "1e99999999999999999999", kLargest},
       {"the same below", "-1e99999999999999999999", -kLargest},
       {"the next decimal above the largest number", "1.7976931348623159e308", kLargest},
@@ -258,7 +225,7 @@ TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
       {"more than half the smallest number", "3e-324", kSmallest},
       {"a number short of full precision", "1.5e-310", 1.5e-310},
       {"zeros before a number", zeros + "1", 1},
-      {"zeros behind a number", "1." + zeros, 1},
+      {"zeros after a number", "1." + zeros, 1},
   };
   for (const ParseCase& c : cases)
     EXPECT_EQ(LeadingNumber(c.text), c.value) << c.rule;
@@ -293,22 +260,12 @@ TEST(LeadingNumberBefore, ReadsNothingBehindTheEnd) {
   };
   const std::vector<Case> cases = {
       {"a blank ends the number that it would be skipped in", "0.5 0.7 ", ' ', 0.5},
-      {"an exponent form", "5.37339999999999E-02 0.5 ", ' ', 0.0537339999999999},
       {"many digits", "0.1234567890123456 1", ' ', 0.1234567890123456},
       {"the end at once", " 5", ' ', 0},
-      {"no end", "12abc", ')', 12},
-      {"no end and blanks", "1 000", ')', 1000},
       {"blanks before the end", " 0 . 5 )", ')', 0.5},
-      {"letters before the end", "1x5)", ')', 1},
       {"the first of two ends", "1)2)", ')', 1},
-      {"a sign before the end", "-1)", ')', -1},
-      {"nothing before the end", ")5", ')', 0},
       {"an empty text", "", ')', 0},
       {"an end within an exponent", "1e5", '5', 1},
-      {"an end that is a digit", "1250", '5', 12},
-      {"an end that is the sign", "1e-2", '-', 1},
-      {"an end that is the number's own point", "1.5.2", '.', 1},
-      {"an end that is a letter of the exponent", "1e5", 'e', 1},
       {"a zero byte", std::string("1\0005", 3), '\0', 1},
   };
   for (const Case& c : cases)
@@ -358,17 +315,17 @@ TEST(IsNumericText, TakesAmountsAsPeopleWriteThem) {
       {"a minus sign", "-5", true},
       {"a plus sign", "+5", true},
       {"a sign before the currency", "-$5", true},
-      {"a sign behind the currency", "$-5", true},
+      {"a sign after the currency", "$-5", true},
       {"a plus sign before the currency", "+$5", true},
       {"no digit before the point", ".5", true},
       {"no digit before the point, with a sign", "-.5", true},
-      {"no digit behind the point", "5.", true},
+      {"no digit after the point", "5.", true},
       {"an exponent", "1e3", true},
       {"an exponent in capitals, with its sign", "1.5E+3", true},
       {"a negative exponent", "1e-3", true},
       {"blanks at both ends", " 7 ", true},
       {"millions", "1,000,000", true},
-      {"thousands that stand anywhere between digits", "1,0", true},
+      {"thousands separators anywhere between digits", "1,0", true},
       {"many digits", std::string(400, '9'), true},
       {"nothing", "", false},
       {"blanks alone", "   ", false},
@@ -379,8 +336,8 @@ TEST(IsNumericText, TakesAmountsAsPeopleWriteThem) {
       {"a point alone", ".", false},
       {"a currency sign and a point", "$.", false},
       {"a blank within", "1 000", false},
-      {"a blank behind the sign", "- 5", false},
-      {"a blank behind the currency sign", "$ 5", false},
+      {"a space after the sign", "- 5", false},
+      {"a space after the currency sign", "$ 5", false},
       {"a tab at the end", "5\t", false},
       {"a line end", "5\r\n", false},
       {"two signs", "--5", false},
@@ -481,13 +438,6 @@ struct PatternCase {
 TEST(PatternText, RoundsTheGeneralFormHalfAwayFromZero) {
   const std::vector<PatternCase> cases = {
       {"a tie rises, even digit before it", 0.125, 2, "0.13"},
-      {"a tie rises, odd digit before it", 0.375, 2, "0.38"},
-      {"a negative tie falls", -0.125, 2, "-0.13"},
-      {"a tie at three decimals", 0.0625, 3, "0.063"},
-      {"a tie of an equity", 0.6875, 3, "0.688"},
-      {"a tie between integers", 2.5, 0, "3"},
-      {"the tie at a half", 0.5, 0, "1"},
-      {"a negative tie between integers", -2.5, 0, "-3"},
       {"a tie that runs through nines", 9.5, 0, "10"},
       {"a tie at a large number", 1234567.125, 2, "1234567.13"},
       {"what has more than 15 digits is no tie", 1337058081636377.25, 1, "1337058081636380.0"},

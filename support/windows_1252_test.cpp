@@ -81,7 +81,7 @@ TEST(Windows1252FromUtf8, WhatThePageLacksIsAQuestionMark) {
       {"the first surrogate", "\xED\xA0\x80", "???"},
       {"the last surrogate", "\xED\xBF\xBF", "???"},
       {"the character before the surrogates", "\xED\x9F\xBF", "?"},
-      {"the character behind the surrogates", "\xEE\x80\x80", "?"},
+      {"the character after the surrogates", "\xEE\x80\x80", "?"},
       {"a zero byte is a character", std::string("a\0b", 3), std::string("a\0b", 3)},
   };
   for (const TextCase& c : cases)

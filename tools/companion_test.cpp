@@ -491,7 +491,7 @@ TEST_P(EachCommand, ShowsThePlainReportBelowTheGridInColors) {
   ASSERT_THAT(outcome.Output, EndsWith("\x1b[0m\n\n" + report));
 
   const std::string grid = outcome.Output.substr(0, outcome.Output.size() - report.size());
-  EXPECT_THAT(Split(grid, "\n"), SizeIs(15));  // 13 rows, a blank line, and nothing behind the last line end
+  EXPECT_THAT(Split(grid, "\n"), SizeIs(15));  // 13 rows, an empty line, and nothing after the last line end
   const auto cells = Split(grid, "\x1b[48;2;");
   const auto rows = Split(program.Run(With(arguments, {"--format", "csv"})).Output, "\n");
   ASSERT_THAT(cells, SizeIs(170));

@@ -7,6 +7,7 @@
 
 #include "hand/equity_rows.h"
 #include "hand/hand_classes.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
@@ -49,18 +50,6 @@ std::int64_t PointsFor(std::int64_t millionths, std::int64_t pairs) {
   return (millionths * PointsAtStake(pairs) + 500'000) / 1'000'000;
 }
 
-std::vector<std::string> Fields(const std::string& row) {
-  std::vector<std::string> fields(1);
-  for (const char c : row) {
-    if (c == ' ') {
-      fields.emplace_back();
-    } else {
-      fields.back() += c;
-    }
-  }
-  return fields;
-}
-
 struct EntryCase {
   const char* rule;
   std::size_t row;
@@ -85,7 +74,8 @@ TEST(EachEntry, IsWritten) {
     constexpr std::int64_t kPairs = 36;
     Row points = Filled(PointsFor(250'000, kPairs));
     points[c.column] = PointsFor(c.millionths, kPairs);
-    const std::vector<std::string> fields = Fields(EquityRowText(c.row, points, Filled(kPairs)));
+    const std::string row = EquityRowText(c.row, points, Filled(kPairs));
+    const auto fields = Split(row, " ");
     ASSERT_EQ(fields.size(), kClassCount + 1);
     EXPECT_EQ(fields[c.column], c.text);
     EXPECT_EQ(fields.back(), "");

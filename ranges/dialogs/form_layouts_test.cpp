@@ -1,5 +1,5 @@
-// Both dialogs as somebody sees them: what stands where, that nothing is cut off or lies on another thing, and the ways
-// of the mouse, the Tab key and a screen reader through them.
+// Both dialogs on the screen: nothing is cut off or covers another control, and each control can be reached with the
+// mouse, the Tab key and a screen reader.
 
 #include <QAccessible>
 #include <QCheckBox>

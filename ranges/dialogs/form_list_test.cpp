@@ -15,16 +15,52 @@ RangeListContents Three(std::optional<int> selected = {}) {
   return {{"one", "two", "three"}, selected};
 }
 
-class FormListBoxTest : public testing::Test {
+// A list and the clicks that it tells of.
+template <typename ListType, typename Shown>
+class ListTest : public testing::Test {
  public:
-  FormListBoxTest() {
+  ListTest() {
     Widget.setObjectName(QStringLiteral("lstRanges"));
     List.Show(Three());
-    QObject::connect(&List, &FormListBox::Clicked, &List, [this] { ++Clicks; });
+    QObject::connect(&List, &ListType::Clicked, &List, [this] { ++Clicks; });
     Widget.resize(200, 200);
     Widget.show();
   }
 
+  void TellsOfEachSelectionButNotOfFilling() {
+    EXPECT_EQ(Widget.count(), 3);
+    EXPECT_EQ(List.CurrentText(), "");
+    EXPECT_EQ(Clicks, 0);
+    List.Show(Three(1));
+    EXPECT_EQ(Widget.count(), 3);
+    EXPECT_EQ(List.CurrentText(), "two");
+    EXPECT_EQ(Clicks, 1);
+    List.SelectEntry("two");
+    EXPECT_EQ(Clicks, 2) << "the selected entry";
+    List.SelectEntry("Two");
+    EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
+    EXPECT_EQ(Clicks, 2);
+    QTest::keyClick(&Widget, Qt::Key_Down);
+    EXPECT_EQ(List.CurrentText(), "three");
+    EXPECT_EQ(Clicks, 3);
+    List.Show(Three());
+    EXPECT_EQ(List.CurrentText(), "");
+    EXPECT_EQ(Clicks, 3);
+  }
+
+  Shown Widget;
+  ListType List{Widget};
+  int Clicks = 0;
+};
+
+using FormChooserTest = ListTest<FormChooser, QComboBox>;
+
+TEST_F(FormChooserTest, TellsOfEachSelectionButNotOfFilling) {
+  TellsOfEachSelectionButNotOfFilling();
+}
+
+class FormListBoxTest : public ListTest<FormListBox, QListWidget> {
+ public:
   [[nodiscard]] QPoint MiddleOf(int row) const { return Widget.visualItemRect(Widget.item(row)).center(); }
   void PressAt(QPoint point, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers held = {}) const {
     QTest::mouseClick(Widget.viewport(), button, held, point);
@@ -41,30 +77,10 @@ class FormListBoxTest : public testing::Test {
     }
     QTest::mouseRelease(Widget.viewport(), Qt::LeftButton, held, to);
   }
-
-  QListWidget Widget;
-  FormListBox List{Widget};
-  int Clicks = 0;
 };
 
-TEST_F(FormListBoxTest, FillingSelectsNothingUnlessItIsToldTo) {
-  EXPECT_EQ(Widget.count(), 3);
-  EXPECT_EQ(List.CurrentText(), "");
-  EXPECT_EQ(Clicks, 0);
-  List.Show(Three(1));
-  EXPECT_EQ(Widget.count(), 3);
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Clicks, 1);
-}
-
-TEST_F(FormListBoxTest, ASelectionInCodeIsAClickAlsoOfTheSelectedEntry) {
-  List.SelectEntry("two");
-  List.SelectEntry("two");
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Clicks, 2);
-  List.SelectEntry("Two");
-  EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
-  EXPECT_EQ(Clicks, 2);
+TEST_F(FormListBoxTest, TellsOfEachSelectionButNotOfFilling) {
+  TellsOfEachSelectionButNotOfFilling();
 }
 
 TEST_F(FormListBoxTest, TheFirstOfEqualEntriesIsSelected) {
@@ -144,65 +160,10 @@ TEST_F(FormListBoxTest, AClickOnTheSelectedEntryAfterARightClickIsAClick) {
   EXPECT_EQ(Clicks, 2);
 }
 
-TEST_F(FormListBoxTest, FillingAnewLetsGoOfTheSelectionWithoutAClick) {
-  List.SelectEntry("three");
-  List.Show(Three());
-  EXPECT_EQ(List.CurrentText(), "");
-  EXPECT_EQ(Clicks, 1);
-}
-
 TEST_F(FormListBoxTest, ANameKeepsItsLettersAndIsNoMarkUp) {
   List.Show({{"<b>K\xC3\xB6nig</b>"}, 0});
   EXPECT_EQ(List.CurrentText(), "<b>K\xC3\xB6nig</b>");
   EXPECT_EQ(Widget.item(0)->text(), QStringLiteral("<b>K\u00F6nig</b>"));
-}
-
-class FormChooserTest : public testing::Test {
- public:
-  FormChooserTest() {
-    Widget.setObjectName(QStringLiteral("cmboRanges(0)"));
-    List.Show(Three());
-    QObject::connect(&List, &FormChooser::Clicked, &List, [this] { ++Clicks; });
-    Widget.show();
-  }
-
-  QComboBox Widget;
-  FormChooser List{Widget};
-  int Clicks = 0;
-};
-
-TEST_F(FormChooserTest, FillingSelectsNothingUnlessItIsToldTo) {
-  EXPECT_EQ(Widget.count(), 3);
-  EXPECT_EQ(List.CurrentText(), "");
-  EXPECT_EQ(Clicks, 0);
-  List.Show(Three(1));
-  EXPECT_EQ(Widget.count(), 3);
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Clicks, 1);
-}
-
-TEST_F(FormChooserTest, ASelectionInCodeIsAClickAlsoOfTheSelectedEntry) {
-  List.SelectEntry("two");
-  List.SelectEntry("two");
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Clicks, 2);
-  List.SelectEntry("Two");
-  EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
-  EXPECT_EQ(Clicks, 2);
-}
-
-TEST_F(FormChooserTest, TheKeyboardSelectsByAClick) {
-  List.SelectEntry("one");
-  QTest::keyClick(&Widget, Qt::Key_Down);
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Clicks, 2);
-}
-
-TEST_F(FormChooserTest, FillingAnewLetsGoOfTheSelectionWithoutAClick) {
-  List.SelectEntry("two");
-  List.Show(Three());
-  EXPECT_EQ(List.CurrentText(), "");
-  EXPECT_EQ(Clicks, 1);
 }
 
 }  // namespace

@@ -61,21 +61,22 @@ TEST_F(ManagerFormTest, ShowsTheFirstRangeOnceItIsLoaded) {
   EXPECT_EQ(Summary(), "Full: AA | Half: AKs");
 }
 
-TEST_F(ManagerFormTest, AClickOnTheListShowsThatRange) {
-  SelectRow(1);
-  EXPECT_EQ(Title(), "Tight");
-  EXPECT_EQ(GridText(), TextWith("AA KK QQ"));
-}
-
 TEST_F(ManagerFormTest, TheArrowKeysOfTheListShowRangesToo) {
   QTest::keyClick(&Controls().Get<QListWidget>("lstRanges"), Qt::Key_Down);
   EXPECT_EQ(Title(), "Tight");
 }
 
-TEST_F(ManagerFormTest, AClickOnTheShownRangePutsItBackToItsFile) {
-  Cell("22");
-  SelectRow(0);
-  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
+TEST_F(ManagerFormTest, AClickOnTheListShowsThatRangeAsItsFileHasIt) {
+  for (const bool byAnother : {false, true}) {
+    Cell("22");
+    if (byAnother) {
+      SelectRow(1);
+      EXPECT_EQ(Title(), "Tight");
+      EXPECT_EQ(GridText(), TextWith("AA KK QQ"));
+    }
+    SelectRow(0);
+    EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
+  }
 }
 
 TEST_F(ManagerFormTest, ACellIsSummedUpAndNothingIsWritten) {
@@ -90,13 +91,6 @@ TEST_F(ManagerFormTest, TheHalfBoxMakesCellsHalf) {
   Click("chkHalf");
   Cell("KK");
   EXPECT_EQ(GridText(), TextWith("AA", "KK AKs"));
-}
-
-TEST_F(ManagerFormTest, SelectingAnotherRangeDropsChangesWithoutAQuestion) {
-  Cell("22");
-  SelectRow(1);
-  SelectRow(0);
-  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
 }
 
 TEST_F(ManagerFormTest, ARefreshByTheMainWindowDropsChangesWithoutAQuestion) {
@@ -133,12 +127,6 @@ TEST_F(ManagerFormTest, NewWithATakenNameLeavesAllAsItWas) {
   Click("imgNew");
   EXPECT_EQ(Title(), "Button Shove");
   EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
-}
-
-TEST_F(ManagerFormTest, NewThatIsCancelledIsSilent) {
-  ExpectInputBoxCancelled(kNewQuestion);
-  Click("imgNew");
-  EXPECT_EQ(Title(), "Button Shove");
 }
 
 TEST_F(ManagerFormTest, TheScratchRangeIsReplacedWithoutAWordAboutItsName) {
@@ -191,14 +179,6 @@ TEST_F(ManagerFormTest, ItIsToldBeforeOrAfterTheListsAreFilled) {
   }
 }
 
-TEST_F(ManagerFormTest, SaveWritesTheGridAndTells) {
-  Cell("22");
-  ExpectMessageBox(Saved("Button Shove"));
-  Click("imgSave");
-  EXPECT_EQ(FileText("Button Shove"), TextWith("AA 22", "AKs"));
-  EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
-}
-
 TEST_F(ManagerFormTest, SaveAsLeavesTheOldFileAndSelectsTheNewName) {
   Cell("22");
   ExpectInputBox(kSaveAsQuestion, "Wider");
@@ -207,12 +187,6 @@ TEST_F(ManagerFormTest, SaveAsLeavesTheOldFileAndSelectsTheNewName) {
   EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
   EXPECT_EQ(FileText("Wider"), TextWith("AA 22", "AKs"));
   EXPECT_EQ(Selected(), "Wider");
-}
-
-TEST_F(ManagerFormTest, SaveAsThatIsCancelledIsSilent) {
-  ExpectInputBoxCancelled(kSaveAsQuestion);
-  Click("imgSaveAs");
-  EXPECT_EQ(Selected(), "Button Shove");
 }
 
 TEST_F(ManagerFormTest, SaveAsWithTheNameOnOfferIsRefused) {
@@ -232,11 +206,16 @@ TEST_F(ManagerFormTest, RenameSavesTheGridUnderTheNewName) {
   EXPECT_EQ(Title(), "Late Shove");
 }
 
-TEST_F(ManagerFormTest, RenameThatIsCancelledIsTold) {
+TEST_F(ManagerFormTest, OnlyARenameThatIsCancelledIsTold) {
+  ExpectInputBoxCancelled(kNewQuestion);
+  Click("imgNew");
+  ExpectInputBoxCancelled(kSaveAsQuestion);
+  Click("imgSaveAs");
   ExpectInputBoxCancelled(kRenameQuestion);
   ExpectMessageBox(NoName());
   Click("imgRename");
   EXPECT_EQ(Title(), "Button Shove");
+  EXPECT_THAT(RangeFolderEntries(Stage.Program.Folder()), testing::ElementsAre("Button Shove.txt", "Tight.txt"));
 }
 
 TEST_F(ManagerFormTest, DeleteAsksAndThenShowsTheFirstRangeLeft) {
@@ -309,29 +288,19 @@ TEST_F(ManagerFormTest, EnterOnTheOkButtonPressesIt) {
   EXPECT_TRUE(IsClosed());
 }
 
-TEST_F(ManagerFormTest, OkSavesOnYesAndCloses) {
-  Cell("22");
-  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kYes);
-  ExpectMessageBox(Saved("Button Shove"));
-  Click("cmdOK");
-  EXPECT_TRUE(IsClosed());
-  EXPECT_EQ(FileText("Button Shove"), TextWith("AA 22", "AKs"));
-}
-
-TEST_F(ManagerFormTest, OkDropsTheChangesOnNo) {
-  Cell("22");
-  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kNo);
-  Click("cmdOK");
-  EXPECT_TRUE(IsClosed());
-  EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
-}
-
-TEST_F(ManagerFormTest, OkStaysOpenOnCancel) {
-  Cell("22");
-  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kCancel);
-  Click("cmdOK");
-  EXPECT_TRUE(Form().isVisible());
-  EXPECT_EQ(GridText(), TextWith("AA 22", "AKs"));
+TEST_F(ManagerFormTest, OkSavesOnYesDropsTheChangesOnNoAndStaysOpenOnCancel) {
+  for (const MessageAnswer answer : {MessageAnswer::kCancel, MessageAnswer::kNo, MessageAnswer::kYes}) {
+    if (IsClosed()) Stage.OpenManager();
+    SelectRow(0);
+    Cell("22");
+    ExpectMessageBox(AskToSave("Button Shove"), answer);
+    if (answer == MessageAnswer::kYes) ExpectMessageBox(Saved("Button Shove"));
+    Click("cmdOK");
+    EXPECT_EQ(IsClosed(), answer != MessageAnswer::kCancel);
+    EXPECT_EQ(FileText("Button Shove"),
+              answer == MessageAnswer::kYes ? TextWith("AA 22", "AKs") : TextWith("AA", "AKs"));
+    EXPECT_TRUE(IsClosed() || GridText() == TextWith("AA 22", "AKs"));
+  }
 }
 
 TEST_F(ManagerFormTest, ChangedMeansThatGridAndFileDifferAsTexts) {

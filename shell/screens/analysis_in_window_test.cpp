@@ -149,7 +149,7 @@ TEST_F(AnalysisInWindow, OtherScreensStayUsableAndTheLinkLeadsBack) {
     EXPECT_EQ(Screen(), "Preflop Raise");
   });
   DuringRun("30%", [this] {
-    EXPECT_EQ(Screen(), "Preflop Raise") << "the run goes on behind";
+    EXPECT_EQ(Screen(), "Preflop Raise") << "the run goes on unseen";
     Click("lblWhatsThis", 0);
   });
   ExpectMessageBox({.title = "Pot Size", .text = FieldHelpText("Pot Size")});
@@ -204,7 +204,7 @@ TEST_F(AnalysisInWindow, ARefusedClickLeavesPleaseWait) {
   EXPECT_EQ(LabelAt("lblNoResults").cursor().shape(), Qt::PointingHandCursor);
 
   Click("lblNoResults");
-  EXPECT_EQ(Screen(), "Progress") << "with no run behind it";
+  EXPECT_EQ(Screen(), "Progress") << "though nothing runs";
   EXPECT_EQ(Caption("lblProgressMsg"), "Quillon...");
   EXPECT_EQ(Caption("lblProgressPerc"), "%...");
   Click("lblStopCalc");

@@ -46,7 +46,7 @@ class DetailsInWindow : public MainFormTest {
     QTest::keyClick(&box, Qt::Key_Down);
   }
 
-  /// Where on the line the text goes on behind each tab.
+  /// Where on the line the text after each tab starts.
   std::vector<int> EdgesBehindTabs(const QTextBlock& line) {
     const QString text = line.text();
     std::vector<int> edges;
@@ -170,7 +170,7 @@ TEST_P(ReportColumns, StandOneAboveTheOther) {
     EXPECT_EQ(EdgesBehindTabs(row), columns) << row.text().toStdString();
   EXPECT_EQ(rows, 169);
 
-  std::set<std::vector<int>> names;  // above the table, what follows the names stands in one column
+  std::set<std::vector<int>> names;  // above the table, the texts after the names form one column
   for (QTextBlock line = Report().document()->begin(); line != header; line = line.next()) {
     if (!EdgesBehindTabs(line).empty()) names.insert(EdgesBehindTabs(line));
   }

@@ -6,7 +6,7 @@ namespace {
 
 class HoverInWindow : public MainFormTest {
  protected:
-  /// The grid screen, with a made-up analysis behind it.
+  /// The grid screen, showing a made-up analysis.
   void ShowGridOf(const Analysis& state) {
     RunEquity("Tight");
     static_cast<Analysis&>(Form.State()) = state;
@@ -14,7 +14,7 @@ class HoverInWindow : public MainFormTest {
 
   QPoint CellOf(std::string_view hand) { return MiddleOf("lblCards", HandIndex(hand)); }
   void Hover(std::string_view hand) {
-    MoveTo(CellOf(hand) + QPoint(2, 2));  // where the mouse stands there already, it has to move
+    MoveTo(CellOf(hand) + QPoint(2, 2));  // a mouse that is there already has to move
     MoveTo(CellOf(hand));
   }
 

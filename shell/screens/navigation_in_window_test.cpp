@@ -13,7 +13,7 @@ namespace {
 
 class NavigationInWindow : public MainFormTest {
  protected:
-  /// The text colours of all links, a "_" behind that of an underlined one.
+  /// The text colours of all links, with a "_" after that of an underlined one.
   std::string LinkLooks() {
     std::string looks;
     for (std::int16_t i = 0; i < 5; ++i) {
@@ -23,7 +23,7 @@ class NavigationInWindow : public MainFormTest {
     return looks;
   }
 
-  /// Over the panel's background, where nothing else lies.
+  /// A place on the panel's background with nothing else on it.
   void MoveOverPanel() { MoveTo({110, 400}); }
 };
 
