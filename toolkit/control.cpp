@@ -75,13 +75,14 @@ void Control::focusInEvent(QFocusEvent* event) {
   const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
   focusMark_ = back ? markBefore_ : reason != Qt::MouseFocusReason;
   update();
-  if (focusMark_) Q_EMIT FocusReached();
+  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) Q_EMIT FocusReached();
 }
 
 void Control::focusOutEvent(QFocusEvent* /*event*/) {
   markBefore_ = focusMark_;
   focusMark_ = false;
   update();
+  Q_EMIT FocusLeft();
 }
 
 void Control::enterEvent(QEnterEvent* /*event*/) {

@@ -35,7 +35,8 @@ class Control : public QWidget {
   void Pressed();  // the left mouse button went down on it
   void Released();  // and up again, wherever that was
   void MouseMoved();  // over it, with or without a button
-  void FocusReached();  // by the keyboard
+  void FocusReached();  // by Tab
+  void FocusLeft();  // for whatever reason
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

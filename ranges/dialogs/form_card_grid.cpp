@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <algorithm>
+#include <optional>
 
 #include "toolkit/colors.h"
 #include "toolkit/text.h"
@@ -17,6 +18,39 @@ std::size_t At(std::int16_t index) {
 QString SpokenState(Rgb color) {
   if (color == kFullColor) return QStringLiteral("selected");
   return color == kHalfColor ? QStringLiteral("half as likely") : QStringLiteral("not selected");
+}
+
+// Where the key leads from a cell: to itself at the edge of the grid, and nowhere where it is no key of the grid's.
+std::optional<std::int16_t> CellReachedFrom(std::int16_t from, const QKeyEvent& press) {
+  constexpr int kLast = kRankCount - 1;
+  int row = from / kRankCount;
+  int column = from % kRankCount;
+  const bool wholeGrid = press.modifiers().testFlag(Qt::ControlModifier);
+  switch (press.key()) {
+    case Qt::Key_Left:
+      column = std::max(column - 1, 0);
+      break;
+    case Qt::Key_Right:
+      column = std::min(column + 1, kLast);
+      break;
+    case Qt::Key_Up:
+      row = std::max(row - 1, 0);
+      break;
+    case Qt::Key_Down:
+      row = std::min(row + 1, kLast);
+      break;
+    case Qt::Key_Home:
+      column = 0;
+      if (wholeGrid) row = 0;
+      break;
+    case Qt::Key_End:
+      column = kLast;
+      if (wholeGrid) row = kLast;
+      break;
+    default:
+      return {};
+  }
+  return static_cast<std::int16_t>(row * kRankCount + column);
 }
 
 CardGridPlaces PlacesIn(const Shape& frameShape, const Shape& squareShape) {
@@ -112,28 +146,27 @@ void FormCardGrid::Listen(std::int16_t index) {
   cell.installEventFilter(this);
   if (index != tabStop_) cell.setFocusPolicy(Qt::NoFocus);
   connect(&cell, &Control::Clicked, this, [this, index] { Q_EMIT CellClicked(index); });
-  connect(&cell, &Control::MouseMoved, this, [this, index] { Q_EMIT CellReached(index); });
+  connect(&cell, &Control::MouseMoved, this, [this, index] { Q_EMIT CellHovered(index); });
   connect(&cell, &Control::FocusReached, this, [this, index] { Q_EMIT CellReached(index); });
+  connect(&cell, &Control::FocusLeft, this, &FormCardGrid::CellLeft);
 }
 
 bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
-  const auto* press = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(event) : nullptr;
-  if (press == nullptr || press->key() < Qt::Key_Left || press->key() > Qt::Key_Down) {
-    return QObject::eventFilter(watched, event);
-  }
-  auto* const cell = std::ranges::find(labels_, watched);
+  auto* const cell = event->type() == QEvent::KeyPress ? std::ranges::find(labels_, watched) : labels_.end();
   if (cell == labels_.end()) return QObject::eventFilter(watched, event);
-  MoveFocus(static_cast<std::int16_t>(cell - labels_.begin()), press->key());
+  const auto& press = dynamic_cast<QKeyEvent&>(*event);
+  if (press.key() == Qt::Key_Escape) Q_EMIT CellLeft();
+  const auto from = static_cast<std::int16_t>(cell - labels_.begin());
+  const auto to = CellReachedFrom(from, press);
+  if (!to) return QObject::eventFilter(watched, event);
+  if (*to != from) MoveFocus(*to);
   return true;
 }
 
-void FormCardGrid::MoveFocus(std::int16_t from, int key) {
-  const int row = from / kRankCount + (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0);
-  const int column = from % kRankCount + (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
-  if (row < 0 || row >= kRankCount || column < 0 || column >= kRankCount) return;
-  const auto index = static_cast<std::int16_t>(row * kRankCount + column);
-  MakeTabStop(index);
-  Cell(index).setFocus(Qt::OtherFocusReason);
+void FormCardGrid::MoveFocus(std::int16_t to) {
+  MakeTabStop(to);
+  Cell(to).setFocus(Qt::OtherFocusReason);
+  Q_EMIT CellReached(to);
 }
 
 void FormCardGrid::MakeTabStop(std::int16_t index) {

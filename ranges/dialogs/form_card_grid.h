@@ -2,7 +2,8 @@
 
 // The card grid of a form, made of the form's own controls: the cell of index 0, of which all others are copies, and
 // `shapeBlue`, which is fitted round them. It also carries what the keyboard does: Tab reaches the grid at one cell,
-// the arrow keys go from there to the neighbours, and Enter or Space presses the cell. An index is that of a class.
+// the arrow keys go from there to the neighbours, Home and End to the ends of the row and with Ctrl to those of the
+// grid, and Enter or Space presses the cell. An index is that of a class.
 
 #include <QCheckBox>
 #include <QObject>
@@ -52,7 +53,9 @@ class FormCardGrid : public QObject {
 
  Q_SIGNALS:
   void CellClicked(qint16 index);
-  void CellReached(qint16 index);  // the mouse moved over it, or the keyboard went there
+  void CellHovered(qint16 index);  // the mouse moved over it
+  void CellReached(qint16 index);  // the keyboard went there: Tab, or a key that goes from cell to cell
+  void CellLeft();  // the keyboard went away, or the user pressed Escape
 
  private:
   /// What the form has of the grid before it is built.
@@ -66,7 +69,7 @@ class FormCardGrid : public QObject {
                const QCheckBox* half);
   void BuildCell(std::int16_t index);
   void Listen(std::int16_t index);
-  void MoveFocus(std::int16_t from, int key);
+  void MoveFocus(std::int16_t to);
   void MakeTabStop(std::int16_t index);
   [[nodiscard]] Shape& Square(std::int16_t index) const { return *squares_.at(static_cast<std::size_t>(index)); }
   [[nodiscard]] Label& Cell(std::int16_t index) const { return *labels_.at(static_cast<std::size_t>(index)); }

@@ -78,6 +78,22 @@ TEST_F(GridImageInWindow, IsABitmapOfTheRegionUnderTheNameTyped) {
   EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32), shown.convertToFormat(QImage::Format_RGB32));
 }
 
+TEST_F(GridImageInWindow, HasNoPanelOfTheKeyboardsInIt) {
+  Get("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Down);
+  ASSERT_TRUE(Shows("frameHover"));
+  ExpectName("grid");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Click("imgSave");
+  VerifyExpectedBoxes();
+
+  EXPECT_FALSE(Shows("frameHover")) << "nor does it come back with the window";
+  const QRect cell = Get("shapeCardBack", 60).geometry();
+  const QImage shown = Get("frameContent", kGridScreenIndex).grab(cell).toImage();
+  EXPECT_EQ(ImageOf(SavedGrids() / "grid").copy(cell.translated(-16, -12)).convertToFormat(QImage::Format_RGB32),
+            shown.convertToFormat(QImage::Format_RGB32));
+}
+
 TEST_F(GridImageInWindow, IsUncompressed) {
   ExpectName("grid.bmp");
   ExpectMessageBox(kSaved, MessageAnswer::kNo);

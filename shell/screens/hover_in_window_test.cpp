@@ -187,6 +187,53 @@ TEST_F(HoverInWindow, EquityHidesTheOtherLinesAlsoForTheSameHand) {
   EXPECT_TRUE(Shows("lblHov_EV"));
 }
 
+struct LeaveCase {
+  const char* Name;
+  void (*Leave)(MainStage& stage);
+};
+
+class GuestPanel : public HoverInWindow, public testing::WithParamInterface<LeaveCase> {
+ protected:
+  void Leave() { GetParam().Leave(*this); }
+
+  /// The panel of AKs, opened by an arrow key.
+  void OpenByKey() {
+    Get("lblCards", 0).setFocus(Qt::TabFocusReason);
+    Press(Qt::Key_Right);
+    ASSERT_TRUE(PanelShows());
+    ASSERT_EQ(Caption("lblHov_Cards"), "AKs");
+  }
+};
+
+TEST_P(GuestPanel, GoesWithTheKeyboardAndDoesNotComeBackByItself) {
+  ShowGridOf(sample::CallState());
+  OpenByKey();
+  Leave();
+  EXPECT_TRUE(Get("frameHover").isHidden());
+  ComeToFront();
+  EXPECT_TRUE(Get("frameHover").isHidden());
+}
+
+TEST_P(GuestPanel, OfTheMouseStays) {
+  ShowGridOf(sample::CallState());
+  OpenByKey();
+  Hover("AKs");
+  Leave();
+  EXPECT_FALSE(Get("frameHover").isHidden());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    HoverInWindow, GuestPanel,
+    testing::Values(LeaveCase{"Tab", [](MainStage& stage) { stage.Press(Qt::Key_Tab); }},
+                    LeaveCase{"Escape", [](MainStage& stage) { stage.Press(Qt::Key_Escape); }},
+                    LeaveCase{"AnotherScreen", [](MainStage& stage) { stage.Press(Qt::Key_1, Qt::ControlModifier); }},
+                    LeaveCase{"AnotherWindow",
+                              [](MainStage& stage) {
+                                stage.Dialogs.ShowManager();
+                                ASSERT_TRUE(QTest::qWaitForWindowActive(stage.Dialogs.LoadedManager()));
+                              }}),
+    CaseName<LeaveCase>);
+
 TEST_F(HoverInWindow, NoTextOfARealRunIsCutOff) {
   RunRaise("1234567.89", "345678.91", "4567891.23", "Everything", "Tight");
   const QRect panel = Get("frameHover").rect();

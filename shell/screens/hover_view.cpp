@@ -29,9 +29,14 @@ HoverView::HoverView(const MainControls& controls, const FormCardGrid& grid) : c
   SetCaption("lblHov_Cards", {});
 }
 
-void HoverView::Show(std::int16_t index, const Analysis& analysis) {
+void HoverView::LeaveWithKeyboard() {
+  if (guest_) Hide();
+}
+
+void HoverView::Show(std::int16_t index, const Analysis& analysis, bool guest) {
   const std::optional<HoverTexts> texts = MakeHoverTexts(index, analysis);
   if (!texts) return;
+  guest_ = guest;
   SetValueLinesVisible(texts->Value.has_value());
   if (!texts->Value) SetFoldLineVisible(false);
   if (controls_.LabelAt("lblHov_Cards").Text() != ToQt(texts->Hand)) Fill(*texts);

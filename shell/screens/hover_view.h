@@ -1,6 +1,7 @@
 #pragma once
 
-// The hover panel of the grid screen ("results/hover_panel.h").
+// The hover panel of the grid screen ("results/hover_panel.h"). One that the mouse has opened stays until the mouse is
+// over the bare screen. One that the keyboard has opened is a guest: it goes with the keyboard.
 
 #include <cstdint>
 #include <string_view>
@@ -19,11 +20,16 @@ class HoverView {
 
   /// The mouse over the cell `index`: fills the panel if it shows another hand, and brings it up beside the cell. Lines
   /// that the hand has not are hidden at once. Before any analysis nothing happens.
-  void Show(std::int16_t index, const Analysis& analysis);
+  void ShowForMouse(std::int16_t index, const Analysis& analysis) { Show(index, analysis, false); }
+
+  /// The same for the keyboard on the cell, until it leaves.
+  void ShowForKeyboard(std::int16_t index, const Analysis& analysis) { Show(index, analysis, true); }
+  void LeaveWithKeyboard();
 
   void Hide() { controls_.FrameAt("frameHover").hide(); }
 
  private:
+  void Show(std::int16_t index, const Analysis& analysis, bool guest);
   void Fill(const HoverTexts& texts);
   void BringUpBeside(std::int16_t index);
   void SetCaption(MainControls::Key<Label> label, std::string_view caption);
@@ -32,6 +38,7 @@ class HoverView {
 
   const MainControls& controls_;
   const FormCardGrid& grid_;
+  bool guest_ = false;
 };
 
 }  // namespace quillon

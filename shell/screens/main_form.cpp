@@ -174,7 +174,11 @@ void MainForm::BindScreens() {
 }
 
 void MainForm::BindGrid() {
-  connect(&grid_, &FormCardGrid::CellReached, this, [this](qint16 index) { hover_.Show(ToIndex(index), state_); });
+  connect(&grid_, &FormCardGrid::CellHovered, this,
+          [this](qint16 index) { hover_.ShowForMouse(ToIndex(index), state_); });
+  connect(&grid_, &FormCardGrid::CellReached, this,
+          [this](qint16 index) { hover_.ShowForKeyboard(ToIndex(index), state_); });
+  connect(&grid_, &FormCardGrid::CellLeft, this, [this] { hover_.LeaveWithKeyboard(); });
   OnClick("imgSave", kNoIndex, [this] { image_.Save(); });
   OnClick("imgSaveAsRange", kNoIndex, [this] {
     if (state_.HandInfo.empty()) return;
