@@ -13,6 +13,7 @@
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
 #include "toolkit/twip_geometry.h"
+#include "toolkit/wheel_focus.h"
 
 namespace quillon {
 namespace {
@@ -79,6 +80,11 @@ Frame* MakeFrame(QWidget* container, const ControlRow& row) {
   return frame;
 }
 
+QWidget* TurnedWithFocusOnly(QWidget* list) {
+  TurnByWheelWithFocusOnly(*list);
+  return list;
+}
+
 QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& font) {
   switch (row.Kind) {
     case ControlKind::kLabel:
@@ -95,9 +101,9 @@ QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& fon
     case ControlKind::kReadOnlyMemo:
       return MakeMemo(container, row);
     case ControlKind::kChooser:
-      return new QComboBox(container);
+      return TurnedWithFocusOnly(new QComboBox(container));
     case ControlKind::kListBox:
-      return new QListWidget(container);
+      return TurnedWithFocusOnly(new QListWidget(container));
     case ControlKind::kCheckBox:
       return new QCheckBox(ToQt(row.Text), container);
     case ControlKind::kButton:

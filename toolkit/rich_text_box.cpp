@@ -8,7 +8,6 @@ namespace quillon {
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(false);
   setTabChangesFocus(true);
-  setUndoRedoEnabled(false);
 }
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const {

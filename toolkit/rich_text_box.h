@@ -1,6 +1,7 @@
 #pragma once
 
-// A box for text in several fonts. What is copied out of it is plain text, so that it can be pasted anywhere.
+// A box for text in several fonts. What is copied out of it is plain text, so that it can be pasted anywhere. What the
+// user types can be undone, and so can what the program adds later.
 
 #include <QTextEdit>
 

@@ -291,6 +291,24 @@ TEST_F(DetailsInWindow, CopyingTakesPlainTextAlone) {
   EXPECT_EQ(copied->formats(), QStringList{QStringLiteral("text/plain")});
 }
 
+TEST_F(DetailsInWindow, WhatIsTypedAndAPickedHandCanBeUndoneButNotTheReport) {
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  const std::string report = ReportText();
+  Report().setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(ReportText(), report);
+
+  TypeKeys("note");
+  PickHand("AKs");
+  EXPECT_NE(ReportText(), report);
+  Report().setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(ReportText(), report + "note");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(ReportText(), report);
+}
+
 TEST_F(DetailsInWindow, BeforeAnyRunTheReportIsEmpty) {
   EXPECT_EQ(ReportText(), "");
   EXPECT_TRUE(Get("cmbo169").isHidden());

@@ -16,7 +16,6 @@
 #include "artwork/artwork.h"
 #include "hand/equity_table.h"
 #include "ranges/dialogs/form_place.h"
-#include "results/hand_line.h"
 #include "results/results_as_range.h"
 #include "results/results_grid.h"
 #include "shell/field_help.h"
@@ -135,7 +134,7 @@ void MainForm::ClickNav(std::int16_t link) {
   navigation_.OpenLink(link);
   if (link != kDetailsNav) return;
   controls_.Get<QComboBox>("cmboOutputType").setCurrentIndex(0);
-  BuildReport(report_, state_);
+  report_.Build(state_);
 }
 
 void MainForm::OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action) {
@@ -187,13 +186,10 @@ void MainForm::BindGrid() {
 }
 
 void MainForm::BindDetails() {
-  connect(&controls_.Get<QComboBox>("cmboOutputType"), &QComboBox::activated, this,
-          [this] { BuildReport(report_, state_); });
+  connect(&controls_.Get<QComboBox>("cmboOutputType"), &QComboBox::activated, this, [this] { report_.Build(state_); });
   const auto& hands = controls_.Get<QComboBox>("cmbo169");
-  connect(&hands, &QComboBox::activated, this, [this, &hands] {
-    AddSpecificHand(report_, state_, FromQt(hands.currentText()));
-    controls_.Get<RichTextBox>("rtfSummary").ensureCursorVisible();
-  });
+  connect(&hands, &QComboBox::activated, this,
+          [this, &hands] { report_.AddHand(state_, FromQt(hands.currentText())); });
 }
 
 void MainForm::BindAbout() {

@@ -7,6 +7,7 @@
 #include <QTextOption>
 #include <array>
 
+#include "results/hand_line.h"
 #include "toolkit/fonts.h"
 #include "toolkit/text.h"
 
@@ -33,6 +34,19 @@ void SetColumns(const RichTextBox& box) {
 }
 
 }  // namespace
+
+void ReportView::Build(const Analysis& analysis) {
+  BuildReport(*this, analysis);
+  Box().document()->clearUndoRedoStacks();
+}
+
+void ReportView::AddHand(const Analysis& analysis, std::string_view hand) {
+  QTextCursor whole(Box().document());
+  whole.beginEditBlock();
+  AddSpecificHand(*this, analysis, hand);
+  whole.endEditBlock();
+  Box().ensureCursorVisible();
+}
 
 void ReportView::SetText(std::string_view text) {
   RichTextBox& box = Box();

@@ -14,6 +14,12 @@ class ReportView : public ReportScreen {
  public:
   explicit ReportView(MainControls& controls) : controls_(controls) {}
 
+  /// Writes the report anew. Nothing that was typed before can be undone then.
+  void Build(const Analysis& analysis);
+
+  /// Adds the working of a hand, which can be undone as a whole.
+  void AddHand(const Analysis& analysis, std::string_view hand);
+
   void SetText(std::string_view text) override;
   void SetFontName(std::string_view name) override;
   void SetFontSize(std::int16_t size) override;
