@@ -1,11 +1,13 @@
 # cmake --install build/release --prefix FOLDER
 #
-# The programs keep ranges, settings and pictures in the folder that they are in, so FOLDER should be the user's own.
+# The programs keep ranges, settings and pictures in the folder that they are in, so FOLDER should be the user's own. The
+# window looks there for the guide that it opens, too.
 include(GNUInstallDirs)
 
 install(TARGETS quillon-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(QUILLON_GUI)
   install(TARGETS quillon RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Guide DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/quillon)
 install(FILES docs/user-guide.md LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/quillon)

@@ -1,8 +1,11 @@
 #include "toolkit/application.h"
 
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -43,6 +46,14 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
   std::_Exit(EXIT_FAILURE);
 }
 
+// A key that is a shortcut is told of as an override only.
+bool IsPressOfAKey(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
+  const int key = dynamic_cast<const QKeyEvent&>(event).key();
+  constexpr std::array kModifiers = {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr};
+  return std::ranges::find(kModifiers, key) == kModifiers.end();
+}
+
 }  // namespace
 
 std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
@@ -63,11 +74,18 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+  if (IsPressOfAKey(*event)) keyboardLeads_ = true;
+  if (event->type() == QEvent::MouseButtonPress) keyboardLeads_ = false;
   try {
     return QApplication::notify(receiver, event);
   } catch (...) {
     EndWithFault(CurrentFaultText());
   }
+}
+
+bool KeyboardLeads() {
+  const auto* application = dynamic_cast<const Application*>(QCoreApplication::instance());
+  return application != nullptr && application->KeyboardLeads();
 }
 
 void EndWithFault(const std::string& text) {

@@ -17,7 +17,16 @@ class Application : public QApplication {
 
   /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
   bool notify(QObject* receiver, QEvent* event) override;
+
+  [[nodiscard]] bool KeyboardLeads() const { return keyboardLeads_; }
+
+ private:
+  bool keyboardLeads_ = false;
 };
+
+/// Whether the last press in the program was of a key, not of a mouse button. A key that only modifies others, such as
+/// Shift, does not count. What the user reaches or opens then is to have the focus, and to show it.
+[[nodiscard]] bool KeyboardLeads();
 
 /// The application, once it has a display. Without one, a line on standard error says so, with Qt's reason, and the
 /// process ends with status 1.

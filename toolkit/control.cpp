@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 
 namespace quillon {
 
@@ -70,18 +69,11 @@ void Control::keyPressEvent(QKeyEvent* event) {
 }
 
 void Control::focusInEvent(QFocusEvent* event) {
-  // The keyboard shows the mark, and it returns with the window; a mouse, or a window's first show, does not.
   const Qt::FocusReason reason = event->reason();
-  const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-  focusMark_ = back ? markBefore_ : reason != Qt::MouseFocusReason;
-  update();
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) Q_EMIT FocusReached();
 }
 
 void Control::focusOutEvent(QFocusEvent* /*event*/) {
-  markBefore_ = focusMark_;
-  focusMark_ = false;
-  update();
   Q_EMIT FocusLeft();
 }
 
@@ -97,13 +89,6 @@ void Control::leaveEvent(QEvent* /*event*/) {
 void Control::hideEvent(QHideEvent* /*event*/) {
   held_ = false;
   setAttribute(Qt::WA_UnderMouse, false);
-}
-
-void Control::PaintFocusMark(const QColor& color) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(color, 1.5));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), 3, 3);
 }
 
 }  // namespace quillon

@@ -27,6 +27,10 @@ class Control : public QWidget {
   /// Does what a click does.
   void Click();
 
+  /// What the mark of the focus goes round: the control itself, unless it is only a part of what is seen as one.
+  [[nodiscard]] const QWidget& MarkedPlace() const { return markedPlace_ == nullptr ? *this : *markedPlace_; }
+  void SetMarkedPlace(const QWidget& place) { markedPlace_ = &place; }
+
   /// What the control says of itself to somebody who cannot see it.
   [[nodiscard]] virtual QString SpokenText() const { return accessibleName(); }
 
@@ -51,10 +55,6 @@ class Control : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
   [[nodiscard]] bool IsHeld() const { return held_; }
-  [[nodiscard]] bool HasFocusMark() const { return focusMark_; }
-
-  /// A thin frame just inside the edge, in a colour that stands out from what is under it.
-  void PaintFocusMark(const QColor& color);
 
  private:
   /// Whether the mouse button is still down afterwards.
@@ -62,8 +62,7 @@ class Control : public QWidget {
 
   ControlUse use_ = ControlUse::kPassive;
   bool held_ = false;
-  bool focusMark_ = false;
-  bool markBefore_ = false;  // when the focus was last lost
+  const QWidget* markedPlace_ = nullptr;
 };
 
 }  // namespace quillon

@@ -1,7 +1,6 @@
 #include "toolkit/control.h"
 
 #include <QDialog>
-#include <QImage>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWindow>
@@ -210,21 +209,6 @@ TEST_F(ControlTest, TellsThatTheKeyboardReachedItButNotThatTheMouseDid) {
   EXPECT_EQ(byMouse.count(), 0);
 }
 
-TEST_F(ControlTest, WearsAMarkWhileTheKeyboardIsThere) {
-  const QImage plain = link.grab().toImage();
-  Key(Qt::Key_Tab);
-  EXPECT_NE(link.grab().toImage(), plain);
-  Key(Qt::Key_Tab);
-  EXPECT_EQ(link.grab().toImage(), plain);
-}
-
-TEST_F(ControlTest, WearsNoMarkForTheMouse) {
-  const QImage plain = focusLink.grab().toImage();
-  Click(focusLink);
-
-  EXPECT_EQ(focusLink.grab().toImage(), plain);
-}
-
 // Whoever has the focus may have something to say when it goes, and the button then comes up over that.
 TEST_F(ControlTest, IsNotPressedWhereABoxComesUpInBetween) {
   const QSignalSpy presses(&focusLink, &Control::Pressed);
@@ -248,20 +232,6 @@ TEST_F(ControlTest, IsNotUnderTheMouseOnceItsScreenIsGone) {
   frame.hide();
 
   EXPECT_FALSE(link.underMouse());
-}
-
-TEST_F(ControlTest, HasItsMarkAgainWhenTheWindowComesBackToTheFront) {
-  Key(Qt::Key_Tab);
-  const QImage marked = link.grab().toImage();
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  EXPECT_NE(link.grab().toImage(), marked);
-
-  form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-  EXPECT_EQ(link.grab().toImage(), marked);
 }
 
 }  // namespace

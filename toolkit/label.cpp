@@ -104,13 +104,10 @@ int Label::Flags() const {
 }
 
 void Label::paintEvent(QPaintEvent* /*event*/) {
-  {
-    QPainter painter(this);
-    if (backColor_.alpha() != 0) painter.fillRect(rect(), backColor_);
-    painter.setPen(textColor_);
-    painter.drawText(rect(), Flags(), text_);
-  }
-  if (HasFocusMark()) PaintFocusMark(textColor_);
+  QPainter painter(this);
+  if (backColor_.alpha() != 0) painter.fillRect(rect(), backColor_);
+  painter.setPen(textColor_);
+  painter.drawText(rect(), Flags(), text_);
 }
 
 void Label::changeEvent(QEvent* event) {

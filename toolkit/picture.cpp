@@ -30,11 +30,9 @@ QString Picture::NameForNow() const {
 }
 
 void Picture::paintEvent(QPaintEvent* /*event*/) {
-  if (!name_.isEmpty()) {
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, ArtworkPixmap(NameForNow(), size(), devicePixelRatioF()));
-  }
-  if (HasFocusMark()) PaintFocusMark(QColor(0x33, 0x66, 0x99));
+  if (name_.isEmpty()) return;
+  QPainter painter(this);
+  painter.drawPixmap(0, 0, ArtworkPixmap(NameForNow(), size(), devicePixelRatioF()));
 }
 
 QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale) {

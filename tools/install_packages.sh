@@ -14,6 +14,8 @@
 set -euo pipefail
 
 run=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+# The user guide as a page for the browser.
+run+=(cmark-gfm)
 # The window, the fonts that stand in for those of its layouts, and what opens its links and pictures.
 run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
 run+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)

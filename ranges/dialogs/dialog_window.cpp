@@ -2,8 +2,12 @@
 
 #include <QIcon>
 #include <QPlainTextEdit>
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 #include "artwork/artwork.h"
+#include "toolkit/focus_mark.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
 #include "toolkit/twip_geometry.h"
@@ -25,12 +29,21 @@ void FrameBoxes(QWidget& form) {
     box->setFrame(true);
   for (QPlainTextEdit* memo : form.findChildren<QPlainTextEdit*>())
     memo->setFrameShape(QFrame::StyledPanel);
+  new FocusMark(form);
 }
 
 void OrderTabs(std::span<QWidget* const> controls) {
-  controls.front()->setFocus(Qt::OtherFocusReason);
+  // Qt takes only those into the order that Tab reaches at the moment.
+  std::vector<QWidget*> unreached;
+  std::ranges::copy_if(controls, std::back_inserter(unreached),
+                       [](const QWidget* control) { return control->focusPolicy() == Qt::NoFocus; });
+  for (QWidget* control : unreached)
+    control->setFocusPolicy(Qt::TabFocus);
   for (std::size_t i = 1; i < controls.size(); ++i)
     QWidget::setTabOrder(controls[i - 1], controls[i]);
+  for (QWidget* control : unreached)
+    control->setFocusPolicy(Qt::NoFocus);
+  controls.front()->setFocus(Qt::OtherFocusReason);
 }
 
 void BringUp(QWidget& window) {

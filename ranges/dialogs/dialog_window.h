@@ -39,7 +39,8 @@ template <typename Controls>
   return controls;
 }
 
-/// Lets Tab go from one control to the next. The first has the focus when the window comes up.
+/// Lets Tab go from one control to the next, also to those that it does not reach yet. The first has the focus when the
+/// window comes up.
 void OrderTabs(std::span<QWidget* const> controls);
 
 /// Shows the window in front of all others and gives it the keyboard, also where it is shown already or minimised.

@@ -135,6 +135,7 @@ void FormCardGrid::BuildCell(std::int16_t index) {
   Cell(index).SetPlace(PixelPlace(place.Label));
   Cell(index).SetAlignment(TextAlignment::kCentered);
   Cell(index).SetText(ToQt(caption));
+  Cell(index).SetMarkedPlace(Square(index));
   Square(index).show();
   Cell(index).show();
   Raise(index);

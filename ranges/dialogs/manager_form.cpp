@@ -8,6 +8,7 @@
 
 #include "ranges/dialogs/form_place.h"
 #include "ranges/range_names.h"
+#include "toolkit/form_keys.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -45,6 +46,14 @@ void ManagerForm::Bind() {
   connect(&controls_.PictureAt("imgRename"), &Control::Clicked, this, &ManagerForm::ClickRename);
   connect(&controls_.PictureAt("imgDelete"), &Control::Clicked, this, &ManagerForm::ClickDelete);
   connect(&controls_.Get<QPushButton>("cmdOK"), &QPushButton::clicked, this, &ManagerForm::ClickOk);
+
+  BindPress(controls_.PictureAt("imgNew"), Qt::CTRL | Qt::Key_N);
+  BindPress(controls_.PictureAt("imgSave"), Qt::CTRL | Qt::Key_S);
+  BindPress(controls_.PictureAt("imgSaveAs"), Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  BindPress(controls_.PictureAt("imgRename"), Qt::Key_F2);
+  BindPress(controls_.PictureAt("imgDelete"), Qt::Key_Delete);
+  for (const QKeyCombination key : {QKeyCombination(Qt::Key_Escape), Qt::CTRL | Qt::Key_W})
+    BindKey(*this, key, [this] { close(); });
 }
 
 void ManagerForm::ShowRange() {

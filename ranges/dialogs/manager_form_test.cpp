@@ -387,5 +387,47 @@ TEST(ManagerFormDeathTest, AFileThatIsGoneStopsTheProgramAndIsNamed) {
               testing::ExitedWithCode(1), "'53': File not found.*Ranges/Tight.txt");
 }
 
+// What each key presses shows itself by the box that comes up.
+TEST_F(ManagerFormTest, KeysPressTheActions) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  const auto press = [this](Qt::Key key, Qt::KeyboardModifiers held = {}) {
+    QTest::keyClick(Form().windowHandle(), key, held);
+    VerifyExpectedBoxes();
+    Form().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  };
+  ExpectInputBoxCancelled(kNewQuestion);
+  press(Qt::Key_N, Qt::ControlModifier);
+  ExpectMessageBox(Saved("Button Shove"));
+  press(Qt::Key_S, Qt::ControlModifier);
+  ExpectInputBoxCancelled(kSaveAsQuestion);
+  press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  ExpectInputBoxCancelled(kRenameQuestion);
+  ExpectMessageBox(NoName());
+  press(Qt::Key_F2);
+  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kNo);
+  press(Qt::Key_Delete);
+}
+
+TEST_F(ManagerFormTest, EscapeAndControlWCloseLikeTheCloseBox) {
+  for (const auto& [key, held] : {std::pair(Qt::Key_Escape, Qt::KeyboardModifiers()),
+                                  std::pair(Qt::Key_W, Qt::KeyboardModifiers(Qt::ControlModifier))}) {
+    Stage.OpenManager();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+    Cell("22");
+    QTest::keyClick(Form().windowHandle(), key, held);
+    EXPECT_TRUE(IsClosed()) << "without a question";
+  }
+}
+
+TEST_F(ManagerFormTest, ABoxLeavesTheFocusWhereItWas) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  auto& cell = Controls().LabelAt("lblCards", 5);
+  cell.setFocus(Qt::TabFocusReason);
+  ExpectMessageBox(Saved("Button Shove"));
+  QTest::keyClick(Form().windowHandle(), Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(Form().focusWidget(), &cell);
+}
+
 }  // namespace
 }  // namespace quillon

@@ -9,6 +9,7 @@
 #include "ranges/dialogs/form_place.h"
 #include "ranges/range_messages.h"
 #include "ranges/range_names.h"
+#include "toolkit/form_keys.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -47,6 +48,8 @@ void NewRangeForm::Bind() {
   connect(&name_, &TextBox::EnterPressed, this, &NewRangeForm::ClickOk);
   connect(&controls_.Get<QPushButton>("cmdOK"), &QPushButton::clicked, this, &NewRangeForm::ClickOk);
   connect(&controls_.Get<QPushButton>("cmdCancel"), &QPushButton::clicked, this, &NewRangeForm::hide);
+  BindKey(*this, Qt::Key_Escape, [this] { hide(); });
+  BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
 }
 
 void NewRangeForm::SumUp() {

@@ -218,6 +218,19 @@ TEST_F(NewRangeFormTest, CancelHidesAndReopeningBringsAllBack) {
   EXPECT_TRUE(Controls().Get<QCheckBox>("chkHalf").isChecked());
 }
 
+TEST_F(NewRangeFormTest, EscapeHidesLikeCancelAndControlWClosesLikeTheCloseBox) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  Cell("AA");
+  QTest::keyClick(Form().windowHandle(), Qt::Key_Escape);
+  ASSERT_FALSE(IsClosed());
+  EXPECT_FALSE(Form().isVisible());
+  Stage.OpenNewRange();
+  EXPECT_EQ(GridText(), TextWith("AA"));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  QTest::keyClick(Form().windowHandle(), Qt::Key_W, Qt::ControlModifier);
+  EXPECT_TRUE(IsClosed());
+}
+
 TEST_F(NewRangeFormTest, TheCloseBoxClosesAndReopeningIsFresh) {
   Cell("AA");
   Type("Mine");

@@ -1,11 +1,14 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QUrl>
 #include <set>
 #include <vector>
 
 #include "shell/screens/main_layout.h"
+#include "testing/fake_opener.h"
 #include "testing/main_stage.h"
 
 namespace quillon {
@@ -68,12 +71,6 @@ class KeyboardInWindow : public MainFormTest {
     Get(name, index).setFocus(Qt::TabFocusReason);
     ASSERT_EQ(Form.focusWidget(), &Get(name, index));
   }
-
-  /// What the window shows there.
-  QImage Look(ControlName name, std::int16_t index = kNoIndex) {
-    QWidget& control = Get(name, index);
-    return Form.grab(QRect(control.mapTo(&Form, QPoint(0, 0)), control.size())).toImage();
-  }
 };
 
 constexpr std::array<std::string_view, 7> kScreens = {"Preflop Call", "Preflop Raise", "Equity Only", "ALL IN Grid",
@@ -95,20 +92,55 @@ TEST_F(KeyboardInWindow, TabReachesEverythingThatCanBeClickedOrTypedInto) {
   }
 }
 
-TEST_F(KeyboardInWindow, TabGoesFromTopToBottom) {
-  OpenScreen("Preflop Call");
-  const std::vector<std::string> expected = {"picLogo",         "lblNav(0)",       "lblNav(1)",     "lblNav(2)",
-                                             "lblRangeManager", "lblWhatsThis(5)", "txtNumber(0)",  "lblWhatsThis(6)",
-                                             "txtNumber(1)",    "lblWhatsThis(7)", "cmboRanges(0)", "lblNewRange(0)",
-                                             "cmdPreflopEV(0)"};
-  EXPECT_EQ(TabRound(), expected);
+// After the side panel. The hidden links "Edit this Range..." are left out.
+struct TabCase {
+  std::string_view Screen;
+  std::vector<std::string> Way;
+};
+
+TEST_F(KeyboardInWindow, TabGoesWhereTheEyeGoes) {
+  const std::vector<std::string> panel = {"picLogo",   "lblNav(0)", "lblNav(1)",      "lblNav(2)",
+                                          "lblNav(3)", "lblNav(4)", "lblRangeManager"};
+  const std::vector<TabCase> cases = {
+      {"Preflop Call",
+       {"txtNumber(0)", "txtNumber(1)", "cmboRanges(0)", "cmdPreflopEV(0)", "lblWhatsThis(5)", "lblWhatsThis(6)",
+        "lblWhatsThis(7)", "lblNewRange(0)"}},
+      {"Preflop Raise",
+       {"txtNumber(2)", "txtNumber(3)", "txtNumber(4)", "cmboRanges(1)", "cmboRanges(2)", "cmdPreflopEV(1)",
+        "lblWhatsThis(0)", "lblWhatsThis(1)", "lblWhatsThis(2)", "lblWhatsThis(3)", "lblWhatsThis(4)", "lblNewRange(1)",
+        "lblNewRange(2)"}},
+      {"Equity Only", {"cmboRanges(3)", "cmdPreflopEV(2)", "lblNewRange(3)", "lblEditRange(3)"}},
+      {"ALL IN Grid", {"lblCards(0)", "txtHandInfo", "lblLink(0)", "imgSave", "imgSaveAsRange"}},
+      {"Details", {"rtfSummary", "cmboOutputType"}},
+      {"About", {"chkUpgrade", "txtFeedback", "cmdSendFeedback"}},
+  };
+  RunEquity("Tight");
+  for (const TabCase& row : cases) {
+    OpenScreen(row.Screen);
+    std::vector<std::string> way = panel;
+    way.insert(way.end(), row.Way.begin(), row.Way.end());
+    EXPECT_EQ(TabRound(), way) << row.Screen;
+  }
+}
+
+TEST_F(KeyboardInWindow, TheGridIsOneStopInOnePlaceWhicheverCellHasIt) {
+  RunEquity("Tight");
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) {
+    Focus("lblCards", key == Qt::Key_Home ? 0 : 14);
+    Press(key, Qt::ControlModifier);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(Form.focusWidget(), &Get("txtHandInfo"));
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Form.focusWidget(), &Get("lblRangeManager"));
+  }
 }
 
 TEST_F(KeyboardInWindow, ShiftTabGoesBack) {
   OpenScreen("Preflop Call");
   Focus("txtNumber", 1);
   Press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(Form.focusWidget(), &Get("lblWhatsThis", 6));
+  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0));
 }
 
 TEST_F(KeyboardInWindow, EnterAndSpacePressALink) {
@@ -116,7 +148,7 @@ TEST_F(KeyboardInWindow, EnterAndSpacePressALink) {
     Focus("lblNav", kCallNav);
     Press(key);
     EXPECT_EQ(Screen(), "Preflop Call");
-    EXPECT_EQ(Form.focusWidget(), &Get("lblNav", kCallNav));
+    EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0));
     Focus("picLogo");
     Press(key);
     EXPECT_EQ(Screen(), "About");
@@ -140,17 +172,13 @@ TEST_F(KeyboardInWindow, AnalyzeRunsFromTheKeyboard) {
 
 TEST_F(KeyboardInWindow, AWholeSituationIsEnteredWithoutTheMouse) {
   Press(Qt::Key_1, Qt::ControlModifier);
-  Focus("lblWhatsThis", 5);
-  Press(Qt::Key_Tab);
   TypeKeys("=100+50");
-  Press(Qt::Key_Tab);
   Press(Qt::Key_Tab);
   TypeKeys("50");
   Press(Qt::Key_Tab);
-  Press(Qt::Key_Tab);
   Press(Qt::Key_End);
   ASSERT_EQ(FromQt(Get<QComboBox>("cmboRanges", 0).currentText()), "Tight");
-  Focus("cmdPreflopEV", 0);
+  Press(Qt::Key_Tab);
   Press(Qt::Key_Return);
   EXPECT_EQ(Screen(), "ALL IN Grid");
   EXPECT_EQ(Form.State().PotSize, 150);
@@ -207,24 +235,176 @@ TEST_F(KeyboardInWindow, ControlAndADigitOpenTheInputScreens) {
   EXPECT_EQ(BoxText(0), "5");
 }
 
+TEST_F(KeyboardInWindow, ControlAndADigitOpenTheResultsWhileTheirLinksShow) {
+  for (const Qt::Key key : {Qt::Key_4, Qt::Key_5}) {
+    Press(key, Qt::ControlModifier);
+    EXPECT_EQ(Screen(), "About");
+  }
+  RunEquity("Tight");
+  Press(Qt::Key_5, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Details");
+  Press(Qt::Key_4, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
+}
+
+TEST_F(KeyboardInWindow, ControlAndEnterAnalyzeWithTheSumThatIsBeingTyped) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    EnterCall("100", "50", "Tight");
+    Type(0, key == Qt::Key_Return ? "=100+50" : "=100+75");
+    Press(key, Qt::ControlModifier);
+    EXPECT_EQ(Screen(), "ALL IN Grid");
+    EXPECT_EQ(Form.State().PotSize, key == Qt::Key_Return ? 150 : 175);
+  }
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to analyse here";
+}
+
+TEST_F(KeyboardInWindow, EscapeStopsARunAsBackDoes) {
+  OpenScreen("Equity Only");
+  Choose(3, "Tight");
+  DuringRun("50%", [this] { Press(Qt::Key_Escape); });
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Equity Only");
+  EXPECT_FALSE(Form.State().Running);
+  EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3));
+}
+
+TEST_F(KeyboardInWindow, KeysOpenTheRangeManagerAndCloseWindows) {
+  Press(Qt::Key_R, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  QTest::keyClick(Dialogs.LoadedManager()->windowHandle(), Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(Dialogs.LoadedManager(), nullptr);
+  EXPECT_EQ(Ends, 0);
+  ComeToFront();
+  Press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(Ends, 1);
+}
+
+TEST_F(KeyboardInWindow, ControlAndQEndsFromEveryWindow) {
+  Press(Qt::Key_R, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  QTest::keyClick(Dialogs.LoadedManager()->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(Ends, 1);
+}
+
+TEST_F(KeyboardInWindow, F1OpensTheUserGuide) {
+  const FakeOpener opener;
+  Press(Qt::Key_F1);
+  const std::string file = (Program.Folder().Path / "Guide" / "user-guide.html").string();
+  EXPECT_EQ(opener.Opened(), QUrl::fromLocalFile(ToQt(file)).toEncoded().toStdString() + "\n");
+}
+
+TEST_F(KeyboardInWindow, ABoxTellsWhereTheUserGuideCannotBeOpened) {
+  const FakeOpener opener(FakeOpener::kNoneFound);
+  const std::string file = (Program.Folder().Path / "Guide" / "user-guide.html").string();
+  ExpectMessageBox({.title = "Quillon",
+                    .text = "The user guide could not be opened. It is the file:\r\n\r\n" + file,
+                    .icon = MessageIcon::kExclamation});
+  Press(Qt::Key_F1);
+  EXPECT_NE(opener.Opened(), "");
+  VerifyExpectedBoxes();
+}
+
+struct FirstBoxCase {
+  Qt::Key Key;
+  MainControls::Key<> Control;
+  std::int16_t Index;
+};
+
+TEST_F(KeyboardInWindow, AScreenBroughtUpByKeyHasItsFirstBoxFocused) {
+  constexpr auto kCases = std::to_array<FirstBoxCase>({
+      {Qt::Key_1, "txtNumber", 0},
+      {Qt::Key_2, "txtNumber", 2},
+      {Qt::Key_3, "cmboRanges", 3},
+      {Qt::Key_4, "lblCards", 0},
+      {Qt::Key_5, "rtfSummary", kNoIndex},
+  });
+  RunEquity("Tight");
+  for (const FirstBoxCase& row : kCases) {
+    Press(row.Key, Qt::ControlModifier);
+    EXPECT_EQ(Form.focusWidget(), &Get(row.Control, row.Index)) << row.Control.Name();
+  }
+  Focus("lblNav", kRaiseNav);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 2)) << "a link that is pressed, too";
+  Open(kCallNav);
+  EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
+}
+
+TEST_F(KeyboardInWindow, ARunStartedByKeyEndsWithTheFocusOnTheGrid) {
+  EnterEquity("Tight");
+  Focus("cmdPreflopEV", 2);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 0));
+  EXPECT_FALSE(Shows("frameHover")) << "the result is to be seen";
+  Press(Qt::Key_Right);
+  EXPECT_TRUE(Shows("frameHover"));
+
+  RunEquity("Tight");
+  EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
+}
+
+TEST_F(KeyboardInWindow, AfterADialogTheFocusIsWhereItWas) {
+  OpenScreen("Preflop Call");
+  Choose(0, "Tight");
+  for (const ControlName link : {ControlName("lblEditRange"), ControlName("lblNewRange")}) {
+    Focus(link, 0);
+    Press(Qt::Key_Return);
+    QPointer<QWidget> dialog = Dialogs.LoadedNewRange();
+    if (dialog == nullptr) dialog = Dialogs.LoadedManager();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog == nullptr || !dialog->isVisible());
+    ComeToFront();
+    EXPECT_EQ(Form.focusWidget(), &Get(link, 0));
+  }
+}
+
+TEST_F(KeyboardInWindow, NobodyHasTheFocusUntilSomebodyIsGivenIt) {
+  EXPECT_EQ(Form.focusWidget(), &Form);
+  Open(kCallNav);
+  Type(0, "5");
+  Open(kEquityNav);
+  Dialogs.ShowManager();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  ComeToFront();
+  EXPECT_EQ(Form.focusWidget(), &Form);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Screen(), "Equity Only") << "nobody is pressed";
+}
+
 TEST_F(KeyboardInWindow, TheFocusMarkComesFromTheKeyboardAlone) {
   OpenScreen("Equity Only");
   MoveTo({600, 560});
-  const QImage resting = Look("cmdPreflopEV", 2);
+  const QImage resting = Form.grab().toImage();
   QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, MiddleOf("cmdPreflopEV", 2));
   QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, QPoint(600, 560));
   ASSERT_EQ(Form.focusWidget(), &Get("cmdPreflopEV", 2));
-  EXPECT_EQ(Look("cmdPreflopEV", 2), resting);
+  EXPECT_EQ(Form.grab().toImage(), resting);
 
   Focus("picLogo");
   Focus("cmdPreflopEV", 2);
-  EXPECT_NE(Look("cmdPreflopEV", 2), resting);
-  Focus("picLogo");
-  EXPECT_EQ(Look("cmdPreflopEV", 2), resting);
+  EXPECT_NE(Form.grab().toImage(), resting);
+}
 
-  const QImage link = Look("lblNav", kCallNav);
-  Focus("lblNav", kCallNav);
-  EXPECT_NE(Look("lblNav", kCallNav), link);
+TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
+  const QWidget& mark = *Form.findChild<FocusMark*>();
+  RunEquity("Tight");
+  for (const std::string_view screen : kScreens) {
+    OpenScreen(screen);
+    for (const std::string& name : TabRound()) {
+      QWidget& control = *Form.Controls().Find(name);
+      control.setFocus(Qt::TabFocusReason);
+      if (name.starts_with("txtNumber")) {
+        EXPECT_EQ(Form.Controls().ShapeAt("ShapeBorder", static_cast<std::int16_t>(name.at(10) - '0')).LineWidth(), 3);
+        continue;
+      }
+      const QWidget& place = name == "lblCards(0)" ? Get("shapeCardBack", 0) : control;
+      const QRect whole(place.mapTo(&Form, QPoint(0, 0)), place.size());
+      EXPECT_TRUE(mark.isVisible()) << name;
+      EXPECT_EQ(mark.geometry(), whole.adjusted(-4, -4, 4, 4).intersected(Form.rect())) << name;
+    }
+  }
 }
 
 TEST_F(KeyboardInWindow, NoMarkShowsAtTheStart) {

@@ -4,10 +4,11 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QIcon>
-#include <QKeySequence>
 #include <QPushButton>
-#include <QShortcut>
+#include <QUrl>
 #include <algorithm>
+#include <array>
+#include <filesystem>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -21,6 +22,9 @@
 #include "shell/field_help.h"
 #include "shell/screens/main_layout.h"
 #include "shell/start_up.h"
+#include "shell/user_guide.h"
+#include "toolkit/browser.h"
+#include "toolkit/form_keys.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
@@ -33,6 +37,36 @@ MainControls BuildMainControls(QWidget& form) {
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
   return MainControls(form);
+}
+
+bool IsLeftOnTheSameLine(const QWidget& one, const QWidget& other) {
+  const bool sameLine = one.y() <= other.geometry().bottom() && other.y() <= one.geometry().bottom();
+  return sameLine && one.x() < other.x();
+}
+
+// What Tab reaches in a table, in its order: from top to bottom, and a line from left to right. Where there is
+// something to analyse, the way goes from box to box and on to Analyze, and links come after it.
+std::vector<QWidget*> TabStopsOf(const ControlTable& table, const FormControls& controls) {
+  std::vector<QWidget*> stops;
+  bool leadsToAnalyze = false;
+  for (const ControlRow& row : table.Rows) {
+    QWidget& control = controls.At(row);
+    const bool isLinkAtTimes = row.Name == "lblNoResults";
+    if (control.focusPolicy() != Qt::NoFocus || isLinkAtTimes) stops.push_back(&control);
+    leadsToAnalyze = leadsToAnalyze || row.Use == ControlUse::kFocusLink;
+  }
+  std::ranges::sort(stops, {}, [](const QWidget* control) { return control->y(); });
+  for (auto next = stops.begin(); next != stops.end(); ++next) {
+    for (auto at = next; at != stops.begin() && IsLeftOnTheSameLine(**at, **std::prev(at)); --at)
+      std::iter_swap(at, std::prev(at));
+  }
+  if (leadsToAnalyze) {
+    std::ranges::stable_partition(stops, [](const QWidget* control) {
+      const auto* ours = qobject_cast<const Control*>(control);
+      return ours == nullptr || ours->Use() != ControlUse::kLink;
+    });
+  }
+  return stops;
 }
 
 std::int16_t ToIndex(qint16 index) {
@@ -76,7 +110,8 @@ MainForm::MainForm(Surroundings surroundings)
   BindGrid();
   BindDetails();
   BindAbout();
-  BindShortcuts();
+  BindKeys();
+  OrderTabs();
 }
 
 void MainForm::Start() {
@@ -86,7 +121,6 @@ void MainForm::Start() {
   show();
   about_.CheckForUpgrade();
   LoadEquityTable();
-  OrderTabs();
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
@@ -204,28 +238,41 @@ void MainForm::BindAbout() {
           [this] { about_.SendFeedback(); });
 }
 
-void MainForm::BindShortcuts() {
-  for (std::int16_t i = 0; i < kFirstResultsNav; ++i) {
-    auto* shortcut = new QShortcut(QKeySequence(static_cast<int>(Qt::CTRL) | (Qt::Key_1 + i)), this);
-    connect(shortcut, &QShortcut::activated, this, [this, i] { ClickNav(i); });
+void MainForm::BindKeys() {
+  constexpr std::array kLinkKeys = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5};
+  for (std::int16_t i = 0; i < controls_.CountOf("lblNav"); ++i)
+    BindPress(controls_.LabelAt("lblNav", i), Qt::CTRL | kLinkKeys.at(static_cast<std::size_t>(i)));
+  BindPress(controls_.LabelAt("lblRangeManager"), Qt::CTRL | Qt::Key_R);
+  for (std::int16_t i = 0; i < controls_.CountOf("cmdPreflopEV"); ++i) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
+      BindPress(controls_.PictureAt("cmdPreflopEV", i), Qt::CTRL | enter);
   }
+  BindPress(controls_.LabelAt("lblStopCalc"), Qt::Key_Escape);
+
+  BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
+  BindKey(
+      *this, Qt::CTRL | Qt::Key_Q, [this] { close(); }, Qt::ApplicationShortcut);
+  BindKey(
+      *this, Qt::Key_F1, [this] { ShowUserGuide(); }, Qt::ApplicationShortcut);
 }
 
-// Each screen is read from top to bottom, and a line of it from left to right; the side panel comes first.
+void MainForm::ShowUserGuide() {
+  const std::filesystem::path guide = UserGuidePath(around_.Folder);
+  OpenInBrowser(QUrl::fromLocalFile(ToQt(guide.string())),
+                [this, guide] { around_.Messages.Show(NoUserGuideMessage(guide)); });
+}
+
+// The side panel comes first. Nobody has the focus until somebody is given it: the window keeps it.
 void MainForm::OrderTabs() {
-  QWidget* before = nullptr;
+  std::vector<QWidget*> order = {this};
   for (const ControlTable& table : main_layout::kTables) {
-    std::vector<QWidget*> reached;
-    for (const ControlRow& row : table.Rows) {
-      QWidget& control = controls_.At(row);
-      if (control.focusPolicy() != Qt::NoFocus) reached.push_back(&control);
-    }
-    std::ranges::sort(reached, {}, [](const QWidget* control) { return std::pair(control->y(), control->x()); });
-    for (QWidget* control : reached) {
-      if (before != nullptr) setTabOrder(before, control);
-      before = control;
+    for (QWidget* stop : TabStopsOf(table, controls_)) {
+      order.push_back(stop);
+      for (std::int16_t i = 1; stop == &controls_.LabelAt("lblCards", 0) && i < kHandClassCount; ++i)
+        order.push_back(&controls_.LabelAt("lblCards", i));
     }
   }
+  quillon::OrderTabs(order);
 }
 
 }  // namespace quillon

@@ -19,6 +19,7 @@
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_view.h"
 #include "shell/web_client.h"
+#include "toolkit/focus_mark.h"
 
 namespace quillon {
 
@@ -62,7 +63,8 @@ class MainForm : public QWidget {
   void BindGrid();
   void BindDetails();
   void BindAbout();
-  void BindShortcuts();
+  void BindKeys();
+  void ShowUserGuide();
   void OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action);
   void OrderTabs();
 
@@ -79,6 +81,7 @@ class MainForm : public QWidget {
   AboutView about_;
   GridImageView image_;
   AnalysisView analysis_;
+  FocusMark focusMark_{*this};
 };
 
 }  // namespace quillon

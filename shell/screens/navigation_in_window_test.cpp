@@ -259,7 +259,7 @@ TEST_F(NavigationInWindow, LeavingAScreenEvaluatesTheBoxThatIsTypedIn) {
   Type(0, "=1+2");
   Open(kRaiseNav);
   EXPECT_EQ(BoxText(0), "3");
-  EXPECT_EQ(Form.focusWidget(), nullptr) << "no neighbour takes over";
+  EXPECT_EQ(Form.focusWidget(), &Form) << "no neighbour takes over";
 }
 
 // A mouse that goes everywhere, with and without results, must do no harm, whatever it passes over.

@@ -1,8 +1,11 @@
 #include "shell/screens/navigation_view.h"
 
+#include <QAbstractButton>
+#include <QPlainTextEdit>
 #include <string>
 
 #include "support/run_time_error.h"
+#include "toolkit/application.h"
 #include "toolkit/colors.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
@@ -22,15 +25,35 @@ Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "no screen is called " + std::string(name));
 }
 
-// Whoever was busy on a screen that goes away is done there; left to itself, the focus would go to a neighbour.
-void HideScreen(Frame& screen, const QWidget& form) {
+// Whoever was busy on a screen that goes away is done there. Left to itself, the focus would go to a neighbour, or to
+// the first control of the window once that comes to the front; the window keeps it from them.
+void HideScreen(Frame& screen, QWidget& form) {
   QWidget* busy = form.focusWidget();
   if (busy != nullptr && screen.isAncestorOf(busy)) {
-    busy->clearFocus();
+    form.setFocus(Qt::OtherFocusReason);
     // With another program in front there is no focus to lose, and the box is left all the same.
     if (auto* box = qobject_cast<TextBox*>(busy)) box->Leave();
   }
   screen.hide();
+}
+
+bool IsJustPressed(const QWidget& control) {
+  const auto* ours = qobject_cast<const Control*>(&control);
+  return ours != nullptr ? ours->CanBeClicked() : qobject_cast<const QAbstractButton*>(&control) != nullptr;
+}
+
+bool IsJustRead(const QWidget& control) {
+  const auto* memo = qobject_cast<const QPlainTextEdit*>(&control);
+  return memo != nullptr && memo->isReadOnly();
+}
+
+// In the order of the Tab key.
+QWidget* FirstToWorkWith(const Frame& screen) {
+  for (QWidget* control = screen.nextInFocusChain(); control != &screen; control = control->nextInFocusChain()) {
+    const bool reached = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisibleTo(control->window());
+    if (reached && screen.isAncestorOf(control) && !IsJustPressed(*control) && !IsJustRead(*control)) return control;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -53,6 +76,8 @@ Frame& NavigationView::ShowFrame(std::string_view name) {
   shown.setGeometry(PixelPlace(ScreenPlace(PanelPlace(), TwipsOf(form_.rect()).Width)));
   shown.SetBackColor(Qt::white);
   shown.raise();
+  if (!KeyboardLeads() || !form_.isVisible()) return shown;
+  if (QWidget* first = FirstToWorkWith(shown)) first->setFocus(Qt::ShortcutFocusReason);
   return shown;
 }
 

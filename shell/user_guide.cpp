@@ -1,0 +1,17 @@
+#include "shell/user_guide.h"
+
+#include <string>
+
+namespace quillon {
+
+std::filesystem::path UserGuidePath(const ProgramFolder& folder) {
+  return folder.Path / "Guide" / "user-guide.html";
+}
+
+Message NoUserGuideMessage(const std::filesystem::path& guide) {
+  return {std::string(kApplicationTitle),
+          "The user guide could not be opened. It is the file:\r\n\r\n" + guide.string(), MessageIcon::kExclamation,
+          MessageButtons::kOk};
+}
+
+}  // namespace quillon

@@ -1,0 +1,175 @@
+#include "toolkit/focus_mark.h"
+
+#include <QImage>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "toolkit/frame.h"
+#include "toolkit/label.h"
+#include "toolkit/picture.h"
+#include "toolkit/shape.h"
+#include "toolkit/text_box.h"
+
+namespace quillon {
+namespace {
+
+double Linear(int component) {
+  const double share = component / 255.0;
+  return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+// The relative luminance and the contrast of the Web Content Accessibility Guidelines 2.1.
+double Luminance(const QColor& color) {
+  return 0.2126 * Linear(color.red()) + 0.7152 * Linear(color.green()) + 0.0722 * Linear(color.blue());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [dark, pale] = std::minmax(Luminance(one), Luminance(other));
+  return (pale + 0.05) / (dark + 0.05);
+}
+
+class FocusMarkTest : public testing::Test {
+ public:
+  FocusMarkTest() {
+    form.resize(400, 400);
+    frame.setGeometry(0, 0, 400, 400);
+    link.SetPlace(QRect(20, 20, 100, 20));
+    link.SetText(QStringLiteral("Preflop Call"));
+    picture.setGeometry(20, 60, 100, 30);
+    memo.setGeometry(20, 110, 100, 40);
+    list.setGeometry(20, 170, 100, 40);
+    link.SetUse(ControlUse::kLink);
+    picture.SetUse(ControlUse::kFocusLink);
+    form.show();
+    form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    form.setFocus();
+  }
+
+  void Press(Qt::Key key) { QTest::keyClick(form.windowHandle(), key); }
+  void Click(const QWidget& control) {
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, control.geometry().center());
+  }
+  [[nodiscard]] QImage Look() { return form.grab().toImage(); }
+
+  QWidget form;
+  Frame frame{&form};
+  Label link{&frame};
+  Picture picture{&frame};
+  QPlainTextEdit memo{&frame};
+  QListWidget list{&frame};
+  FocusMark mark{form};
+};
+
+TEST_F(FocusMarkTest, GoesRoundWhateverTheKeyboardReaches) {
+  for (QWidget* control : std::initializer_list<QWidget*>{&link, &picture, &memo, &list}) {
+    control->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(mark.isVisible());
+    EXPECT_EQ(mark.geometry(), control->geometry().adjusted(-4, -4, 4, 4));
+  }
+  form.setFocus(Qt::TabFocusReason);
+  EXPECT_FALSE(mark.isVisible()) << "the window itself is nobody";
+}
+
+TEST_F(FocusMarkTest, StandsOutFromEveryColour) {
+  link.setFocus(Qt::TabFocusReason);
+  const QRect place = mark.geometry();
+  for (int red = 0; red <= 255; red += 51) {
+    for (int green = 0; green <= 255; green += 51) {
+      for (int blue = 0; blue <= 255; blue += 51) {
+        const QColor ground(red, green, blue);
+        frame.SetBackColor(ground);
+        const QImage look = Look();
+        double best = 0;
+        for (int depth = 0; depth < 4; ++depth)
+          best = std::max(best, Contrast(look.pixelColor(place.left() + depth, place.center().y()), ground));
+        EXPECT_GE(best, 3) << qPrintable(ground.name());
+      }
+    }
+  }
+}
+
+TEST_F(FocusMarkTest, GoesThroughNoLetter) {
+  const QRect letters = link.geometry();
+  const QImage before = Look().copy(letters);
+  link.setFocus(Qt::TabFocusReason);
+  ASSERT_TRUE(mark.isVisible());
+  EXPECT_EQ(Look().copy(letters), before);
+}
+
+TEST_F(FocusMarkTest, DoesNotComeFromTheMouse) {
+  Click(picture);
+  ASSERT_EQ(form.focusWidget(), &picture);
+  EXPECT_FALSE(mark.isVisible());
+  link.setFocus(Qt::OtherFocusReason);
+  EXPECT_FALSE(mark.isVisible()) << "the mouse was used last";
+  Press(Qt::Key_Shift);
+  picture.setFocus(Qt::OtherFocusReason);
+  EXPECT_FALSE(mark.isVisible()) << "Shift goes with a click";
+  Press(Qt::Key_Down);
+  link.setFocus(Qt::OtherFocusReason);
+  EXPECT_TRUE(mark.isVisible());
+}
+
+TEST_F(FocusMarkTest, ReturnsWithTheWindow) {
+  for (const bool marked : {true, false}) {
+    if (marked) {
+      picture.setFocus(Qt::TabFocusReason);
+    } else {
+      form.setFocus();
+      Click(picture);
+    }
+    ASSERT_EQ(mark.isVisible(), marked);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_FALSE(mark.isVisible());
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_EQ(mark.isVisible(), marked);
+  }
+}
+
+TEST_F(FocusMarkTest, FollowsItsControlAndStaysInFront) {
+  link.setFocus(Qt::TabFocusReason);
+  frame.move(30, 30);
+  EXPECT_EQ(mark.geometry(), QRect(46, 46, 108, 28));
+  frame.raise();
+  EXPECT_EQ(form.childAt(47, 47), &frame) << "the mouse goes through it";
+  EXPECT_EQ(form.children().last(), &mark) << "and it is in front";
+  frame.hide();
+  EXPECT_FALSE(mark.isVisible());
+}
+
+TEST_F(FocusMarkTest, StaysInTheWindow) {
+  picture.setGeometry(297, 60, 100, 30);
+  picture.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(mark.geometry(), QRect(293, 56, 107, 38));
+}
+
+TEST_F(FocusMarkTest, GoesRoundAWholeCell) {
+  Shape square(ControlKind::kShape, &frame);
+  square.setGeometry(16, 14, 108, 30);
+  link.SetMarkedPlace(square);
+  link.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(mark.geometry(), square.geometry().adjusted(-4, -4, 4, 4));
+}
+
+TEST_F(FocusMarkTest, LeavesABoxThatItsFormMarksToTheForm) {
+  TextBox amount(&frame);
+  TextBox name(&frame);
+  name.setFrame(true);
+  for (TextBox* box : {&amount, &name}) {
+    box->show();
+    box->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(mark.isVisible(), box == &name);
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,35 @@
+#include "toolkit/form_keys.h"
+
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QShortcut>
+#include <utility>
+
+#include "toolkit/control.h"
+
+namespace quillon {
+namespace {
+
+void PressByKey(QWidget& control) {
+  if (auto* button = qobject_cast<QAbstractButton*>(&control)) return button->click();
+  auto* ours = qobject_cast<Control*>(&control);
+  if (ours == nullptr) return;
+  if (ours->Use() == ControlUse::kFocusLink) ours->setFocus(Qt::ShortcutFocusReason);
+  ours->Click();
+}
+
+}  // namespace
+
+void BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action, Qt::ShortcutContext context) {
+  auto* shortcut = new QShortcut(QKeySequence(key), &parent);
+  shortcut->setAutoRepeat(false);
+  shortcut->setContext(context);
+  QObject::connect(shortcut, &QShortcut::activated, &parent, std::move(action));
+}
+
+// A shortcut sleeps while its parent is hidden.
+void BindPress(QWidget& control, QKeyCombination key) {
+  BindKey(control, key, [&control] { PressByKey(control); });
+}
+
+}  // namespace quillon

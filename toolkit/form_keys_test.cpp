@@ -1,0 +1,90 @@
+#include "toolkit/form_keys.h"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "testing/expected_boxes.h"
+#include "toolkit/label.h"
+#include "toolkit/text_box.h"
+
+namespace quillon {
+namespace {
+
+class FormKeysTest : public testing::Test {
+ public:
+  FormKeysTest() {
+    link.SetUse(ControlUse::kLink);
+    start.SetUse(ControlUse::kFocusLink);
+    BindPress(link, Qt::CTRL | Qt::Key_L);
+    BindPress(start, Qt::CTRL | Qt::Key_Return);
+    BindPress(button, Qt::Key_F2);
+    form.show();
+    form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    box.setFocus();
+  }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(form.windowHandle(), key, held); }
+
+  QWidget form;
+  Label link{&form};
+  Label start{&form};
+  QPushButton button{&form};
+  TextBox box{&form};
+  QSignalSpy linkClicks{&link, &Control::Clicked};
+  QSignalSpy startClicks{&start, &Control::Clicked};
+  QSignalSpy buttonClicks{&button, &QPushButton::clicked};
+};
+
+TEST_F(FormKeysTest, PressTheirControlsFromAnywhereInTheWindow) {
+  Press(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_EQ(linkClicks.count(), 1);
+  EXPECT_EQ(form.focusWidget(), &box);
+  Press(Qt::Key_F2);
+  EXPECT_EQ(buttonClicks.count(), 1);
+}
+
+TEST_F(FormKeysTest, PressNothingThatIsHiddenOrDisabled) {
+  link.hide();
+  button.setEnabled(false);
+  Press(Qt::Key_L, Qt::ControlModifier);
+  Press(Qt::Key_F2);
+  EXPECT_EQ(linkClicks.count(), 0);
+  EXPECT_EQ(buttonClicks.count(), 0);
+}
+
+TEST_F(FormKeysTest, LeaveTheBoxBeforeWhatTakesTheFocusIsPressed) {
+  QString order;
+  QObject::connect(&box, &TextBox::FocusLost, &form, [&order] { order += QStringLiteral("left "); });
+  QObject::connect(&start, &Control::Clicked, &form, [&order] { order += QStringLiteral("pressed"); });
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(order, QStringLiteral("left pressed"));
+  EXPECT_EQ(form.focusWidget(), &start);
+}
+
+TEST_F(FormKeysTest, OfTheWholeProgramAreHeardInEveryWindowButNotBehindABox) {
+  int presses = 0;
+  BindKey(
+      form, Qt::Key_F1, [&presses] { ++presses; }, Qt::ApplicationShortcut);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  QTest::keyClick(other.windowHandle(), Qt::Key_F1);
+  EXPECT_EQ(presses, 1);
+  QTest::keyClick(other.windowHandle(), Qt::Key_L, Qt::ControlModifier);
+  EXPECT_EQ(linkClicks.count(), 0) << "a key of one form's is not heard in another";
+
+  ExpectDialog([](QDialog& dialog) {
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_F1);
+    dialog.accept();
+  });
+  QDialog().exec();
+  EXPECT_EQ(presses, 1);
+}
+
+}  // namespace
+}  // namespace quillon
