@@ -1,5 +1,5 @@
 # Qt, for the folders of the window. What does not link quillon_qt cannot include a header of Qt's.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS DBus Svg Widgets)
 if(QUILLON_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()

@@ -1,13 +1,18 @@
 #include "toolkit/accessible_control.h"
 
-#include <QAccessible>
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <utility>
 
+#include "toolkit/application.h"
 #include "toolkit/frame.h"
 #include "toolkit/picture.h"
 
@@ -15,6 +20,7 @@ namespace quillon {
 namespace {
 
 QAccessible::Role RoleOf(const Control& control) {
+  if (control.CheckState()) return QAccessible::CheckBox;
   if (control.CanBeClicked()) {
     return qobject_cast<const Picture*>(&control) != nullptr ? QAccessible::Button : QAccessible::Link;
   }
@@ -28,11 +34,27 @@ void SendSpace(QWidget& control, QEvent::Type type) {
   QCoreApplication::sendEvent(&control, &space);
 }
 
+void SetChecked(QAccessible::State& state, Qt::CheckState check) {
+  state.checkable = true;
+  state.checked = check == Qt::Checked;
+  state.checkStateMixed = check == Qt::PartiallyChecked;
+}
+
+bool CanBePressed(const QWidget& control) {
+  return control.isVisible() && control.isEnabled();
+}
+
 class AccessibleControl : public QAccessibleWidget {
  public:
   explicit AccessibleControl(Control* control) : QAccessibleWidget(control, RoleOf(*control)), control_(control) {}
 
   [[nodiscard]] QAccessible::Role role() const override { return RoleOf(*control_); }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (control_->CheckState()) SetChecked(state, *control_->CheckState());
+    return state;
+  }
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     return kind == QAccessible::Name ? control_->SpokenText() : QAccessibleWidget::text(kind);
@@ -40,20 +62,72 @@ class AccessibleControl : public QAccessibleWidget {
 
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (control_->CanBeClicked()) names.prepend(pressAction());
+    if (CanBeClickedNow()) names.prepend(control_->CheckState() ? toggleAction() : pressAction());
     return names;
   }
 
   void doAction(const QString& name) override {
-    if (name == pressAction() && control_->CanBeClicked()) {
-      SendSpace(*control_, QEvent::KeyPress);
-    } else {
+    if (name != pressAction() && name != toggleAction()) {
       QAccessibleWidget::doAction(name);
+    } else if (CanBeClickedNow()) {
+      SendSpace(*control_, QEvent::KeyPress);
     }
   }
 
  private:
+  [[nodiscard]] bool CanBeClickedNow() const { return control_->CanBeClicked() && CanBePressed(*control_); }
+
   Control* control_;
+};
+
+// Qt's own has what is chosen as its name, and nothing of the question. Its one child is the list that opens.
+class AccessibleChooser : public QAccessibleWidget {
+ public:
+  explicit AccessibleChooser(QComboBox* box) : QAccessibleWidget(box, QAccessible::ComboBox), box_(box) {
+    QObject::connect(box, &QComboBox::currentTextChanged, box, [box] {
+      QAccessibleEvent event(box, QAccessible::DescriptionChanged);
+      QAccessible::updateAccessibility(&event);
+    });
+  }
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Name) return box_->accessibleName();
+    const bool chosen = kind == QAccessible::Description || kind == QAccessible::Value;
+    return chosen ? box_->currentText() : QAccessibleWidget::text(kind);
+  }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.hasPopup = true;
+    state.expandable = true;
+    state.expanded = box_->view()->isVisible();
+    state.collapsed = !state.expanded;
+    return state;
+  }
+
+  [[nodiscard]] int childCount() const override { return 1; }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(box_->view()) : nullptr;
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+    return child->object() == box_->view() ? 0 : -1;
+  }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (CanBePressed(*box_)) names.prepend(showMenuAction());
+    return names;
+  }
+
+  void doAction(const QString& name) override {
+    if (name != showMenuAction() && name != pressAction()) return QAccessibleWidget::doAction(name);
+    if (!CanBePressed(*box_)) return;
+    if (box_->view()->isVisible()) return box_->hidePopup();
+    SendSpace(*box_, QEvent::KeyPress);
+  }
+
+ private:
+  QComboBox* box_;
 };
 
 // Qt's own presses a button by a timer and toggles a check box by no event at all.
@@ -64,10 +138,7 @@ class AccessibleButton : public QAccessibleWidget {
 
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    const auto* box = qobject_cast<const QCheckBox*>(button_);
-    state.checkable = button_->isCheckable();
-    state.checkStateMixed = box != nullptr && box->checkState() == Qt::PartiallyChecked;
-    state.checked = button_->isChecked() && !state.checkStateMixed;
+    if (const auto* box = qobject_cast<const QCheckBox*>(button_)) SetChecked(state, box->checkState());
     state.pressed = button_->isDown();
     const auto* push = qobject_cast<const QPushButton*>(button_);
     state.defaultButton = push != nullptr && push->isDefault();
@@ -81,14 +152,14 @@ class AccessibleButton : public QAccessibleWidget {
 
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (button_->isEnabled()) names.prepend(action_);
+    if (CanBePressed(*button_)) names.prepend(action_);
     return names;
   }
 
   void doAction(const QString& name) override {
     if (name != pressAction() && name != toggleAction()) {
       QAccessibleWidget::doAction(name);
-    } else if (button_->isEnabled()) {
+    } else if (CanBePressed(*button_)) {
       SendSpace(*button_, QEvent::KeyPress);
       SendSpace(*button_, QEvent::KeyRelease);
     }
@@ -99,7 +170,7 @@ class AccessibleButton : public QAccessibleWidget {
   QString action_;
 };
 
-QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   if (auto* control = qobject_cast<Control*>(object)) return new AccessibleControl(control);
   if (auto* box = qobject_cast<QCheckBox*>(object)) {
     return new AccessibleButton(box, QAccessible::CheckBox, QAccessibleActionInterface::toggleAction());
@@ -107,19 +178,70 @@ QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* objec
   if (auto* button = qobject_cast<QPushButton*>(object)) {
     return new AccessibleButton(button, QAccessible::Button, QAccessibleActionInterface::pressAction());
   }
+  if (auto* chooser = qobject_cast<QComboBox*>(object)) return new AccessibleChooser(chooser);
+  // Asked about the class itself first and its bases later: what has an interface of its own has it by then.
+  auto* window = className == QStringLiteral("QWidget") ? qobject_cast<QWidget*>(object) : nullptr;
+  if (window != nullptr && window->windowType() == Qt::Window) {
+    return new QAccessibleWidget(window, QAccessible::Window);
+  }
   return nullptr;
+}
+
+// Qt before 6.8 has no event for an announcement; the signal is the one that it sends since, from the same connection.
+void SendAnnouncement(QWidget* speaker, const QString& text) {
+  const QDBusConnection bus(QStringLiteral("a11y"));
+  if (!bus.isConnected()) return;
+  constexpr int kPolite = 1;
+  const QAccessible::Id id = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(speaker));
+  QDBusMessage signal =
+      QDBusMessage::createSignal(QStringLiteral("/org/a11y/atspi/accessible/%1").arg(id),
+                                 QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
+  signal << QString() << kPolite << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
+  bus.send(signal);
+}
+
+bool TellsThatSomethingComesOrGoes(QAccessible::Event type) {
+  return type == QAccessible::ObjectCreated || type == QAccessible::ObjectDestroyed ||
+         type == QAccessible::ObjectShow || type == QAccessible::ObjectHide || type == QAccessible::ObjectReorder;
+}
+
+// Every event of the program passes here. What is hidden has nothing to say, but for its being hidden.
+void PassOn(QAccessibleEvent* event) {
+  const auto* widget = qobject_cast<const QWidget*>(event->object());
+  if (widget != nullptr && !widget->isVisible() && !TellsThatSomethingComesOrGoes(event->type())) return;
+  // The interface of a table has learnt of it by now and would count it twice; nobody else wants it.
+  if (event->type() == QAccessible::TableModelChanged) return;
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(event);
+  QAccessible::installUpdateHandler(PassOn);
 }
 
 }  // namespace
 
-void InstallAccessibleControls() {
+void InstallAccessibleControls(Application& application) {
   QAccessible::installFactory(MakeInterface);
+  QAccessible::installUpdateHandler(PassOn);
+  QObject::connect(&application, &Application::Announced, SendAnnouncement);
 }
 
 void TellNameChanged(Control& control) {
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(&control, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
+}
+
+void TellChecked(Control& control) {
+  if (!QAccessible::isActive()) return;
+  QAccessible::State changed;
+  changed.checked = true;
+  changed.checkStateMixed = true;
+  QAccessibleStateChangeEvent event(&control, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
+void Announce(QWidget& speaker, const QString& text) {
+  auto* application = dynamic_cast<Application*>(QCoreApplication::instance());
+  if (application != nullptr && speaker.isVisible()) Q_EMIT application->Announced(&speaker, text);
 }
 
 }  // namespace quillon

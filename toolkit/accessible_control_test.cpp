@@ -1,12 +1,16 @@
 #include "toolkit/accessible_control.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleActionInterface>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
+#include "testing/heard_announcements.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
@@ -59,6 +63,7 @@ TEST(AccessibleControl, SaysItsTextOrTheNameItWasGiven) {
 
 TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
   Label label(nullptr);
+  label.show();
   const QSignalSpy clicks(&label, &Control::Clicked);
   QAccessibleActionInterface& actions = *Spoken(label).actionInterface();
   const QString press = QAccessibleActionInterface::pressAction();
@@ -71,6 +76,11 @@ TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
   EXPECT_EQ(actions.actionNames().value(0), press);
   actions.doAction(press);
   EXPECT_EQ(clicks.count(), 1);
+
+  label.hide();
+  EXPECT_FALSE(actions.actionNames().contains(press));
+  actions.doAction(press);
+  EXPECT_EQ(clicks.count(), 1) << "what is hidden is not pressed";
 }
 
 TEST(AccessibleControl, ButtonsTellTheirTextAndState) {
@@ -105,6 +115,8 @@ TEST(AccessibleControl, ButtonsTellTheirTextAndState) {
 TEST(AccessibleControl, ButtonsArePressedAtOnceAndBoxesToggled) {
   QPushButton button;
   QCheckBox box;
+  button.show();
+  box.show();
   const QSignalSpy clicks(&button, &QPushButton::clicked);
   const QString press = QAccessibleActionInterface::pressAction();
   const QString toggle = QAccessibleActionInterface::toggleAction();
@@ -124,6 +136,80 @@ TEST(AccessibleControl, ButtonsArePressedAtOnceAndBoxesToggled) {
   EXPECT_FALSE(Spoken(button).actionInterface()->actionNames().contains(press));
   Spoken(button).actionInterface()->doAction(press);
   EXPECT_EQ(clicks.count(), 1);
+  button.setEnabled(true);
+  button.hide();
+  EXPECT_FALSE(Spoken(button).actionInterface()->actionNames().contains(press));
+  Spoken(button).actionInterface()->doAction(press);
+  EXPECT_EQ(clicks.count(), 1) << "what is hidden is not pressed";
+}
+
+TEST(AccessibleControl, IsACheckBoxWithACheckState) {
+  Label cell(nullptr);
+  cell.SetUse(ControlUse::kLink);
+  cell.show();
+  struct Row {
+    Qt::CheckState State;
+    bool Checked;
+    bool Mixed;
+  };
+  for (const Row& row :
+       {Row{Qt::Unchecked, false, false}, {Qt::Checked, true, false}, {Qt::PartiallyChecked, false, true}}) {
+    cell.SetCheckState(row.State);
+    EXPECT_EQ(Spoken(cell).role(), QAccessible::CheckBox);
+    EXPECT_TRUE(Spoken(cell).state().checkable);
+    EXPECT_EQ(Spoken(cell).state().checked, row.Checked) << row.State;
+    EXPECT_EQ(Spoken(cell).state().checkStateMixed, row.Mixed) << row.State;
+  }
+  const QSignalSpy clicks(&cell, &Control::Clicked);
+  const QString toggle = QAccessibleActionInterface::toggleAction();
+  EXPECT_EQ(Spoken(cell).actionInterface()->actionNames().value(0), toggle);
+  Spoken(cell).actionInterface()->doAction(toggle);
+  EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
+  QComboBox chooser;
+  chooser.setAccessibleName(QStringLiteral("What is his current range?"));
+  chooser.addItems({QString(), QStringLiteral("Tight")});
+  for (const QString& chosen : {QString(), QStringLiteral("Tight")}) {
+    chooser.setCurrentText(chosen);
+    EXPECT_EQ(Spoken(chooser).role(), QAccessible::ComboBox);
+    EXPECT_EQ(NameOf(chooser), QStringLiteral("What is his current range?"));
+    EXPECT_EQ(Spoken(chooser).text(QAccessible::Description), chosen);
+    EXPECT_EQ(Spoken(chooser).text(QAccessible::Value), chosen);
+  }
+  const QString open = QAccessibleActionInterface::showMenuAction();
+  QAccessibleActionInterface& actions = *Spoken(chooser).actionInterface();
+  actions.doAction(open);
+  EXPECT_FALSE(chooser.view()->isVisible()) << "what is hidden does not open";
+  chooser.show();
+  EXPECT_EQ(actions.actionNames().value(0), open);
+  actions.doAction(open);
+  EXPECT_TRUE(chooser.view()->isVisible());
+  EXPECT_TRUE(Spoken(chooser).state().expanded);
+  ASSERT_EQ(Spoken(chooser).childCount(), 1);
+  EXPECT_EQ(Spoken(chooser).child(0)->object(), chooser.view());
+  EXPECT_EQ(Spoken(chooser).indexOfChild(Spoken(chooser).child(0)), 0);
+  actions.doAction(open);
+  EXPECT_FALSE(chooser.view()->isVisible());
+}
+
+TEST(AccessibleControl, ATopWindowIsAWindow) {
+  QWidget window;
+  QWidget part(&window);
+  QDialog box;
+  EXPECT_EQ(Spoken(window).role(), QAccessible::Window);
+  EXPECT_NE(Spoken(part).role(), QAccessible::Window);
+  EXPECT_EQ(Spoken(box).role(), QAccessible::Dialog);
+}
+
+TEST(Announcement, IsHeardOnceFromWhatShows) {
+  const HeardAnnouncements heard;
+  QWidget window;
+  Announce(window, QStringLiteral("hidden"));
+  window.show();
+  Announce(window, QStringLiteral("done"));
+  EXPECT_EQ(heard.Texts(), std::vector<std::string>{"done"});
 }
 
 }  // namespace

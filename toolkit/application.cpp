@@ -70,7 +70,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
   UseLightLook();
-  InstallAccessibleControls();
+  InstallAccessibleControls(*this);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

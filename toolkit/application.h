@@ -12,6 +12,8 @@
 namespace quillon {
 
 class Application : public QApplication {
+  Q_OBJECT
+
  public:
   Application(int& argc, char** argv);
 
@@ -19,6 +21,9 @@ class Application : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override;
 
   [[nodiscard]] bool KeyboardLeads() const { return keyboardLeads_; }
+
+ Q_SIGNALS:
+  void Announced(QWidget* speaker, const QString& text);  // to a screen reader ("toolkit/accessible_control.h")
 
  private:
   bool keyboardLeads_ = false;

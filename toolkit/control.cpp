@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "toolkit/accessible_control.h"
+
 namespace quillon {
 
 Control::Control(QWidget* parent) : QWidget(parent) {
@@ -21,6 +23,12 @@ void Control::SetUse(ControlUse use) {
     unsetCursor();
   }
   setFocusPolicy(use == ControlUse::kPassive ? Qt::NoFocus : Qt::TabFocus);
+}
+
+void Control::SetCheckState(Qt::CheckState state) {
+  if (checkState_ == state) return;
+  checkState_ = state;
+  TellChecked(*this);
 }
 
 void Control::Click() {

@@ -8,6 +8,7 @@
 #include <QRect>
 #include <QString>
 #include <QWidget>
+#include <optional>
 
 #include "toolkit/control_row.h"
 
@@ -30,6 +31,10 @@ class Control : public QWidget {
   /// What the mark of the focus goes round: the control itself, unless it is only a part of what is seen as one.
   [[nodiscard]] const QWidget& MarkedPlace() const { return markedPlace_ == nullptr ? *this : *markedPlace_; }
   void SetMarkedPlace(const QWidget& place) { markedPlace_ = &place; }
+
+  /// Makes the control one that is checked and unchecked, for somebody who cannot see it, and gives it that state.
+  void SetCheckState(Qt::CheckState state);
+  [[nodiscard]] std::optional<Qt::CheckState> CheckState() const { return checkState_; }
 
   /// What the control says of itself to somebody who cannot see it.
   [[nodiscard]] virtual QString SpokenText() const { return accessibleName(); }
@@ -63,6 +68,7 @@ class Control : public QWidget {
   ControlUse use_ = ControlUse::kPassive;
   bool held_ = false;
   const QWidget* markedPlace_ = nullptr;
+  std::optional<Qt::CheckState> checkState_;
 };
 
 }  // namespace quillon

@@ -21,11 +21,6 @@ InputBlock::InputBlock() {
   qApp->installEventFilter(this);
 }
 
-// A screen reader opens a list by no event of input.
-InputBlock::~InputBlock() {
-  CloseLists();
-}
-
 // An event loop that leaves input alone would not do: it counts the closing of a window among it.
 bool InputBlock::eventFilter(QObject* watched, QEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return false;

@@ -9,13 +9,13 @@
 
 namespace quillon {
 
-/// Blocks input while it lives. A list that is open at its start or at its end is closed, a button that is held down is
+/// Blocks input while it lives. A list that is open at its start is closed, a button that is held down is
 /// let go without a click, and so is what the mouse holds, once it is released. Only a box that comes up in the
 /// meantime is heard, for it wants an answer. A block is made while no such box is open.
 class InputBlock : public QObject {
  public:
   InputBlock();
-  ~InputBlock() override;
+  ~InputBlock() override = default;
   InputBlock(const InputBlock&) = delete;
   InputBlock& operator=(const InputBlock&) = delete;
   InputBlock(InputBlock&&) = delete;

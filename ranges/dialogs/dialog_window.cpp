@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "artwork/artwork.h"
+#include "ranges/range_messages.h"
+#include "toolkit/accessible_control.h"
 #include "toolkit/focus_mark.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
@@ -44,6 +46,12 @@ void OrderTabs(std::span<QWidget* const> controls) {
   for (QWidget* control : unreached)
     control->setFocusPolicy(Qt::NoFocus);
   controls.front()->setFocus(Qt::OtherFocusReason);
+}
+
+void TellSaved(QWidget& form, const DialogSurroundings& around, std::string_view rangeName) {
+  const Message saved = RangeSavedMessage(rangeName);
+  Announce(form, ToQt(saved.text));
+  around.Messages.Show(saved);
 }
 
 void BringUp(QWidget& window) {

@@ -43,6 +43,9 @@ template <typename Controls>
 /// window comes up.
 void OrderTabs(std::span<QWidget* const> controls);
 
+/// Tells that a range was saved in a box, and has it said at once.
+void TellSaved(QWidget& form, const DialogSurroundings& around, std::string_view rangeName);
+
 /// Shows the window in front of all others and gives it the keyboard, also where it is shown already or minimised.
 void BringUp(QWidget& window);
 

@@ -15,9 +15,9 @@ std::size_t At(std::int16_t index) {
   return static_cast<std::size_t>(index);
 }
 
-QString SpokenState(Rgb color) {
-  if (color == kFullColor) return QStringLiteral("selected");
-  return color == kHalfColor ? QStringLiteral("half as likely") : QStringLiteral("not selected");
+Qt::CheckState CheckStateOf(Rgb color) {
+  if (color == kFullColor) return Qt::Checked;
+  return color == kHalfColor ? Qt::PartiallyChecked : Qt::Unchecked;
 }
 
 // Where the key leads from a cell: to itself at the edge of the grid, and nowhere where it is no key of the grid's.
@@ -94,7 +94,11 @@ void FormCardGrid::Show(const CellColors& cells) {
 void FormCardGrid::SetFill(std::int16_t index, Rgb color) {
   Square(index).SetFill(ToColor(color));
   // Where cells are selected the colour is their state, which is told to somebody who cannot see it.
-  if (half_ != nullptr) Cell(index).setAccessibleDescription(SpokenState(color));
+  if (half_ != nullptr) Cell(index).SetCheckState(CheckStateOf(color));
+}
+
+void FormCardGrid::Describe(std::int16_t index, const QString& text) {
+  Cell(index).setAccessibleDescription(text);
 }
 
 void FormCardGrid::Toggle(std::int16_t index) {
@@ -131,11 +135,11 @@ void FormCardGrid::BuildCell(std::int16_t index) {
   const CellPlace& place = places_.Cells.at(At(index));
   const std::string_view caption = HandLabel(index);
   Square(index).setGeometry(PixelPlace(place.Square));
+  Cell(index).SetMarkedPlace(Square(index));
   SetFill(index, CellBaseColor(caption));
   Cell(index).SetPlace(PixelPlace(place.Label));
   Cell(index).SetAlignment(TextAlignment::kCentered);
   Cell(index).SetText(ToQt(caption));
-  Cell(index).SetMarkedPlace(Square(index));
   Square(index).show();
   Cell(index).show();
   Raise(index);

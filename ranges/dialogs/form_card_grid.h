@@ -41,6 +41,9 @@ class FormCardGrid : public QObject {
   /// Gives one square a colour; its caption keeps its own.
   void SetFill(std::int16_t index, Rgb color);
 
+  /// What a screen reader says of a cell besides its class.
+  void Describe(std::int16_t index, const QString& text);
+
   /// What a click does: toggles the cell by the check box and the Shift test, which is used up by that.
   void Toggle(std::int16_t index);
 

@@ -82,7 +82,7 @@ void ManagerForm::ClickNew() {
 void ManagerForm::ClickSave() {
   const std::string name = list_.CurrentText();
   SaveGridAs(name);
-  around_.Messages.Show(RangeSavedMessage(name));
+  TellSaved(*this, around_, name);
   Q_EMIT RangesChanged();
 }
 
@@ -92,7 +92,7 @@ void ManagerForm::ClickSaveAs() {
 
   SaveGridAs(answer);
   RefreshAndSelect(answer);
-  around_.Messages.Show(RangeSavedMessage(answer));
+  TellSaved(*this, around_, answer);
 }
 
 void ManagerForm::ClickRename() {

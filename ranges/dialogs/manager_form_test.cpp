@@ -13,6 +13,7 @@
 
 #include "shell/settings_file.h"
 #include "testing/dialog_stage.h"
+#include "testing/heard_announcements.h"
 #include "testing/range_dialog_messages.h"
 
 namespace quillon {
@@ -427,6 +428,16 @@ TEST_F(ManagerFormTest, ABoxLeavesTheFocusWhereItWas) {
   ExpectMessageBox(Saved("Button Shove"));
   QTest::keyClick(Form().windowHandle(), Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(Form().focusWidget(), &cell);
+}
+
+TEST_F(ManagerFormTest, ASavedRangeIsAnnounced) {
+  const HeardAnnouncements heard;
+  ExpectMessageBox(Saved("Button Shove"));
+  Click("imgSave");
+  ExpectInputBox(kSaveAsQuestion, "Pushes");
+  ExpectMessageBox(Saved("Pushes"));
+  Click("imgSaveAs");
+  EXPECT_THAT(heard.Texts(), testing::ElementsAre(Saved("Button Shove").text, Saved("Pushes").text));
 }
 
 }  // namespace

@@ -72,7 +72,7 @@ void NewRangeForm::ClickOk() {
   if (!ValidateRangeName(around_.Folder, name, around_.Messages)) return;
 
   SaveRangeText(around_.Folder, name, RangeTextFromGrid(grid_.Colors()));
-  around_.Messages.Show(RangeSavedMessage(name));
+  TellSaved(*this, around_, name);
   Q_EMIT RangeSaved(name);
   close();
 }

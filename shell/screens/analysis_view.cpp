@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "toolkit/accessible_control.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
@@ -21,6 +22,9 @@ void AnalysisView::ShowFrame(std::string_view name) {
 
 void AnalysisView::ClickNav(std::int16_t index) {
   parts_.ClickNav(index);
+  // The end of a run leads here.
+  Label& results = parts_.Controls.LabelAt("lblResults");
+  Announce(results, results.Text());
 }
 
 void AnalysisView::SetResultsShown(bool shown) {

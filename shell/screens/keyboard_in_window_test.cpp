@@ -9,6 +9,7 @@
 
 #include "shell/screens/main_layout.h"
 #include "testing/fake_opener.h"
+#include "testing/heard_announcements.h"
 #include "testing/main_stage.h"
 
 namespace quillon {
@@ -489,12 +490,17 @@ TEST_F(SpokenWindow, NamesAndRolesTellWhatAControlIs) {
       {"lblWhatsThis", 4, QAccessible::Link, "What's this? Calling Range"},
       {"lblHisOdds", kNoIndex, QAccessible::StaticText, "X:1"},
       {"Label", 17, QAccessible::StaticText, "Preflop Calling ALL IN"},
+      {"lblEditRange", 1, QAccessible::Link, "Edit this Range... Current Range"},
+      {"lblEditRange", 2, QAccessible::Link, "Edit this Range... Calling Range"},
+      {"lblNewRange", 1, QAccessible::Link, "Create a New Range... Current Range"},
+      {"lblNewRange", 2, QAccessible::Link, "Create a New Range... Calling Range"},
       {"lblCards", 14, QAccessible::StaticText, "KK"},
       {"rtfSummary", kNoIndex, QAccessible::EditableText, "Analysis details"},
       {"chkUpgrade", kNoIndex, QAccessible::CheckBox, "Automatically check for upgrades"},
       {"cmdSendFeedback", kNoIndex, QAccessible::Button, "Send"},
       {"txtFeedback", kNoIndex, QAccessible::EditableText, "Feedback"},
   });
+  Choose(2, "Tight");
   for (const RoleCase& row : kRoles) {
     QWidget& control = Get(row.Name, row.Index);
     EXPECT_EQ(NameOf(control), row.Says) << ObjectName(row.Name.Name(), row.Index);
@@ -517,6 +523,69 @@ TEST_F(SpokenWindow, AScreenReaderPresses) {
   EXPECT_EQ(Screen(), "Preflop Raise");
   QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(&Get("Label", 23));
   EXPECT_FALSE(plain->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+}
+
+TEST_F(SpokenWindow, AListTellsWhatIsChosenApartFromItsQuestion) {
+  Open(kRaiseNav);
+  Choose(1, "Tight");
+  Choose(2, "Pairs");
+  const auto chosen = [this](std::int16_t list) {
+    return FromQt(QAccessible::queryAccessibleInterface(&Get("cmboRanges", list))->text(QAccessible::Description));
+  };
+  EXPECT_EQ(NameOf(Get("cmboRanges", 1)), "What is his current range?");
+  EXPECT_EQ(chosen(1), "Tight");
+  EXPECT_EQ(NameOf(Get("cmboRanges", 2)), "What range will he call with?");
+  EXPECT_EQ(chosen(2), "Pairs");
+}
+
+TEST_F(SpokenWindow, AllWindowsAreWindows) {
+  Dialogs.ShowManager();
+  for (QWidget* window : std::initializer_list<QWidget*>{&Form, Dialogs.LoadedManager(), &Dialogs.ShowNewRange()})
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(window)->role(), QAccessible::Window);
+}
+
+TEST_F(SpokenWindow, ACellSaysWhatTheHoverPanelSays) {
+  using LabelName = MainControls::Key<Label>;
+  constexpr std::array kLines = {std::pair(LabelName("lblHovDesc_Eq"), LabelName("lblHov_Eq")),
+                                 std::pair(LabelName("lblHovDesc_EV"), LabelName("lblHov_EV")),
+                                 std::pair(LabelName("lblHovDesc_ROI"), LabelName("lblHov_ROI")),
+                                 std::pair(LabelName("lblHovDesc_FoldPerc"), LabelName("lblHov_FoldPerc"))};
+  for (const std::int16_t screen : {kCallNav, kRaiseNav, kEquityNav}) {
+    if (screen == kCallNav) RunCall("150", "50", "Everything");
+    if (screen == kRaiseNav) RunRaise("150", "50", "400", "Everything", "Tight");
+    if (screen == kEquityNav) RunEquity("Everything");
+    for (const char* hand : {"KTs", "72o"}) {
+      MoveOver("lblCards", HandIndex(hand));
+      std::string shown;
+      for (const auto& [title, figure] : kLines) {
+        if (LabelAt(figure).isVisible()) shown += Caption(title) + " " + Caption(figure) + ", ";
+      }
+      shown += Caption("lblHov_Advice");
+      QAccessibleInterface* cell = QAccessible::queryAccessibleInterface(&Get("lblCards", HandIndex(hand)));
+      EXPECT_EQ(FromQt(cell->text(QAccessible::Name)), hand);
+      EXPECT_EQ(FromQt(cell->text(QAccessible::Description)), shown);
+    }
+  }
+}
+
+TEST_F(SpokenWindow, TheEndOfARunIsAnnouncedWithTheExplanation) {
+  const HeardAnnouncements heard;
+  RunEquity("Tight");
+  EXPECT_EQ(heard.Texts(), std::vector{Caption("lblResults")});
+  OpenScreen("Preflop Call");
+  Open(kGridNavIndex);
+  EXPECT_EQ(heard.Texts().size(), 1U) << "the end of a run alone";
+}
+
+TEST_F(SpokenWindow, NothingHiddenIsPressed) {
+  QAccessibleActionInterface& grid =
+      *QAccessible::queryAccessibleInterface(&Get("lblNav", kGridNavIndex))->actionInterface();
+  grid.doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Screen(), "About");
+  RunEquity("Tight");
+  Click("picLogo");
+  grid.doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Screen(), "ALL IN Grid");
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ class ResultsView {
  public:
   ResultsView(const MainControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
-  /// Paints the cells in index order, then shows the texts. Fails as MakeGridTexts does.
+  /// Paints the cells in index order and describes each as the hover panel does, then shows the texts. Fails as
+  /// MakeGridTexts does.
   void Present(const Analysis& analysis);
 
   /// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take

@@ -1,0 +1,27 @@
+#pragma once
+
+// What a screen reader is told of by itself while this lives.
+
+#include <QObject>
+#include <string>
+#include <vector>
+
+#include "toolkit/application.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+
+class HeardAnnouncements : public QObject {
+ public:
+  HeardAnnouncements() {
+    connect(&dynamic_cast<Application&>(*qApp), &Application::Announced, this,
+            [this](QWidget* /*speaker*/, const QString& text) { texts_.push_back(LinesFromQt(text)); });
+  }
+
+  [[nodiscard]] const std::vector<std::string>& Texts() const { return texts_; }
+
+ private:
+  std::vector<std::string> texts_;
+};
+
+}  // namespace quillon
