@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <optional>
 
-#include "hand/hand_classes.h"
 #include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
@@ -66,6 +65,14 @@ std::string_view RowOf(std::string_view table, std::string_view label) {
   return {};
 }
 
+HandResult ResultIn(std::string_view row, std::string_view label) {
+  return {.Label = label,
+          .Combos = ComboCount(label),
+          .ExpectedValue = ValueOf(row, kExpectedValueColumn),
+          .Equity = ValueOf(row, kEquityColumn),
+          .FoldShare = ValueOf(row, kFoldShareColumn)};
+}
+
 void AppendTabs(std::string& table, int count) {
   if (count > 0) table.append(static_cast<std::size_t>(count), '\t');
 }
@@ -117,12 +124,20 @@ double GetHandInfo(std::string_view table, std::string_view label, std::int16_t 
 }
 
 HandResult GetHandResult(std::string_view table, std::string_view label) {
-  const std::string_view row = RowOf(table, label);
-  return {.Label = label,
-          .Combos = ComboCount(label),
-          .ExpectedValue = ValueOf(row, kExpectedValueColumn),
-          .Equity = ValueOf(row, kEquityColumn),
-          .FoldShare = ValueOf(row, kFoldShareColumn)};
+  return ResultIn(RowOf(table, label), label);
+}
+
+std::array<HandResult, kHandClassCount> GetHandResults(std::string_view table) {
+  std::array<HandResult, kHandClassCount> results;
+  std::string_view rest = table;
+  bool inOrder = true;  // so far, row for row; then no earlier row can have the key of the next one
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const std::string_view label = HandLabel(index);
+    const auto row = inOrder ? TakeRow(rest) : std::nullopt;
+    inOrder = row && KeyOf(*row) == label;
+    results[static_cast<std::size_t>(index)] = inOrder ? ResultIn(*row, label) : GetHandResult(table, label);
+  }
+  return results;
 }
 
 std::string ResultRow(const HandResult& result) {

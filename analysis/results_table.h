@@ -14,9 +14,12 @@
 // what lies beyond 15 significant digits on its way through. A row of other making may have any number of cells: one
 // that is missing reads as empty, and a row without a tab is its own key.
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "hand/hand_classes.h"
 
 namespace quillon {
 
@@ -55,6 +58,10 @@ struct HandResult {
 
 /// The row with the key `label` as values, each as GetHandInfo reads it. `label` must outlive the result.
 [[nodiscard]] HandResult GetHandResult(std::string_view table, std::string_view label);
+
+/// The rows of all classes, in class index order, each as GetHandResult reads it. A finished table is walked through
+/// once, in a tenth of the time that as many searches take.
+[[nodiscard]] std::array<HandResult, kHandClassCount> GetHandResults(std::string_view table);
 
 /// The finished row of a class, made by three calls of SetHandInfo; a table is such rows one after the other. Fails as
 /// SetHandInfo does.

@@ -1,9 +1,12 @@
 #include "analysis/results_table.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
+#include <numeric>
 #include <string>
+#include <vector>
 
 #include "hand/hand_classes.h"
 #include "support/number_text.h"
@@ -180,6 +183,29 @@ TEST(ResultsTable, EveryCellOfAFinishedTableReadsBack) {
   }
   EXPECT_EQ(BestHand(table, 1), "22");
   EXPECT_EQ(WorstHand(table, 1), "AA");
+}
+
+// Whatever the order, and whatever is missing, twice there or cut.
+TEST(GetHandResults, HoldWhatASearchForEachClassFinds) {
+  std::vector<std::string> rows;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    rows.push_back(ResultRow({HandLabel(index), 0, index - 80.5, index / 200.0, 1.0 / (index + 1)}));
+  const auto text = [](const std::vector<std::string>& parts) {
+    return std::accumulate(parts.begin(), parts.end(), std::string());
+  };
+  const std::string finished = text(rows);
+  std::vector<std::string> turned = rows;
+  std::rotate(turned.begin(), turned.begin() + 40, turned.end());
+  std::vector<std::string> gapped = rows;
+  gapped.erase(gapped.begin() + 100);
+  for (const std::string& table : {finished, text(turned), text(gapped), ResultRow({"72o", 0, 5, 5, 5}) + finished,
+                                   "AA\t7\r\n" + finished, finished + finished, finished.substr(0, finished.size() - 2),
+                                   finished.substr(0, 2000), std::string(), "\r\n" + finished}) {
+    const auto results = GetHandResults(table);
+    for (std::int16_t index = 0; index < kHandClassCount; ++index)
+      EXPECT_EQ(results.at(static_cast<std::size_t>(index)), GetHandResult(table, HandLabel(index)))
+          << HandLabel(index);
+  }
 }
 
 TEST(ResultRow, IsTheFinishedRow) {

@@ -48,10 +48,6 @@ Json ValueIf(bool present, Value&& value) {
   return present ? Json(std::forward<Value>(value)) : Json();
 }
 
-Json AmountIf(bool present, double amount) {
-  return ValueIf(present, amount);
-}
-
 Json LabelIfAny(const std::string& label) {
   return ValueIf(!label.empty(), label);
 }
@@ -75,9 +71,9 @@ struct Field {
 
 constexpr std::array<Field, 14> kFields = {{
     {"mode", [](Told& told) { return Json(told.Asked().Command); }},
-    {"pot", [](Told& told) { return AmountIf(told.Asked().AmountCount > 0, told.Found().PotSize); }},
-    {"call", [](Told& told) { return AmountIf(told.Asked().AmountCount > 1, told.Found().CallAmount); }},
-    {"shove", [](Told& told) { return AmountIf(told.Asked().AmountCount > 2, told.Found().ShoveAmount); }},
+    {"pot", [](Told& told) { return ValueIf(told.Asked().AmountCount > 0, told.Found().PotSize); }},
+    {"call", [](Told& told) { return ValueIf(told.Asked().AmountCount > 1, told.Found().CallAmount); }},
+    {"shove", [](Told& told) { return ValueIf(told.Asked().AmountCount > 2, told.Found().ShoveAmount); }},
     {"range", [](Told& told) { return Json(told.Found().RangeName); }},
     {"calling_range", [](Told& told) { return ValueIf(told.Asked().HasCallingRange, told.Found().CallingRangeName); }},
     {"range_summary", [](Told& told) { return Json(RangeSummary(told.Found().RangeText)); }},

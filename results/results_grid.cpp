@@ -1,11 +1,10 @@
 #include "results/results_grid.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <string_view>
 
 #include "analysis/expected_value.h"
 #include "analysis/results_table.h"
-#include "hand/hand_classes.h"
 #include "ranges/range_summary.h"
 #include "results/formula_texts.h"
 #include "results/grid_colors.h"
@@ -21,9 +20,8 @@ std::string ProfitablePercentText(const Analysis& analysis) {
   constexpr double kDivisor = 1325;
 
   double combos = 0;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const std::string_view hand = HandLabel(index);
-    if (GetHandInfo(analysis.HandInfo, hand, kExpectedValueColumn) >= 0) combos += ComboCount(hand);
+  for (const HandResult& hand : GetHandResults(analysis.HandInfo)) {
+    if (hand.ExpectedValue >= 0) combos += hand.Combos;
   }
   return NumberText(PercentOf(combos, kDivisor, 0));
 }
@@ -120,21 +118,18 @@ CellColors GridColors(const Analysis& analysis) {
   const double low = GetHandInfo(table, WorstHand(table, column), column);
 
   CellColors colors{};
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const double value = GetHandInfo(table, HandLabel(index), column);
-    colors[static_cast<std::size_t>(index)] = CellColor(column, value, high, low);
-  }
+  std::ranges::transform(GetHandResults(table), colors.begin(), [&](const HandResult& hand) {
+    return CellColor(column, column == kEquityColumn ? hand.Equity : hand.ExpectedValue, high, low);
+  });
   return colors;
 }
 
 std::vector<ShownHand> ShownHands(const Analysis& analysis) {
   const CellColors colors = GridColors(analysis);
   std::vector<ShownHand> hands;
-  hands.reserve(kHandClassCount);
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    hands.emplace_back(GetHandResult(analysis.HandInfo, HandLabel(index)),
-                       ColorText(colors[static_cast<std::size_t>(index)]));
-  }
+  hands.reserve(colors.size());
+  for (const HandResult& hand : GetHandResults(analysis.HandInfo))
+    hands.emplace_back(hand, ColorText(colors.at(hands.size())));
   return hands;
 }
 

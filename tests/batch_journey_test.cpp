@@ -19,6 +19,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "support/files.h"
 #include "testing/split_text.h"
 #include "testing/temporary_folder.h"
 #include "tests/address_sanitizer.h"
@@ -71,7 +72,7 @@ class OpenBatch {
  public:
   OpenBatch(const std::filesystem::path& pipe, const ProgramRun& run) {
     EXPECT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
-    input_ = open(pipe.c_str(), O_RDWR | O_CLOEXEC);  // both ways, so that it opens before anyone reads
+    input_ = SystemFileCalls().Open(pipe, O_RDWR | O_CLOEXEC, 0);  // both ways, so that it opens before anyone reads
     program_.emplace(run);
   }
   OpenBatch(const OpenBatch&) = delete;

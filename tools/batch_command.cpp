@@ -1,7 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -22,6 +21,7 @@
 
 #include "results/analysis_json.h"
 #include "study/batch.h"
+#include "support/files.h"
 #include "tools/bounded_queue.h"
 #include "tools/commands.h"
 #include "tools/interrupt.h"
@@ -41,7 +41,7 @@ struct Request {
 
 // The cores that this process may use, which a queueing system may have made fewer than there are.
 unsigned UsableCores() {
-  cpu_set_t cores;
+  cpu_set_t cores{};
   if (sched_getaffinity(0, sizeof cores, &cores) != 0) return 1;
   return std::clamp(static_cast<unsigned>(CPU_COUNT(&cores)), 1U, kMostJobs);
 }
@@ -87,7 +87,14 @@ class Filter {
   // The exit status. What could not be answered or written ends it with an exception.
   int Run(std::streambuf& input) {
     std::future<int> written = std::async(std::launch::async, [this] { return Write(); });
-    const bool interrupted = Read(input);
+    bool interrupted = false;
+    try {
+      interrupted = Read(input);
+    } catch (...) {  // of input that cannot be read; the others must not wait for more
+      Close();
+      throw;
+    }
+    Close();
     const int status = written.get();
     return interrupted ? kInterrupted : status;
   }
@@ -97,7 +104,6 @@ class Filter {
 
   // Whether Ctrl+C ended it. What was read is answered all the same, which takes a moment.
   bool Read(std::streambuf& input) {
-    const Closing closing{tasks_, answers_};
     for (std::int64_t number = 1; !failed_; ++number) {
       std::optional<std::string> line = NextLine(input);
       if (InterruptWatch::Came()) return true;  // perhaps in the middle of the line
@@ -139,15 +145,10 @@ class Filter {
     return answer.Refused ? kFailed : kDone;
   }
 
-  // However the reading ends, the others must not wait for more.
-  struct Closing {
-    BoundedQueue<std::packaged_task<BatchAnswer()>>& tasks;
-    BoundedQueue<std::future<BatchAnswer>>& answers;
-    ~Closing() {
-      tasks.Close();
-      answers.Close();
-    }
-  };
+  void Close() {
+    tasks_.Close();
+    answers_.Close();
+  }
 
   const Batch& batch_;
   const Surroundings& surroundings_;
@@ -160,8 +161,9 @@ class Filter {
 // An open file, or nothing after it was told why it cannot be opened.
 class OpenFile {
  public:
-  OpenFile(const std::string& path, CommandInputs& inputs) : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
-    if (descriptor_ < 0) inputs.Refuse(path + ": " + std::error_code(errno, std::generic_category()).message());
+  OpenFile(const std::string& path, CommandInputs& inputs)
+      : descriptor_(SystemFileCalls().Open(path, O_RDONLY | O_CLOEXEC, 0)) {
+    if (descriptor_ < 0) inputs.Refuse(path + ": " + std::error_code(-descriptor_, std::generic_category()).message());
   }
   OpenFile(const OpenFile&) = delete;
   OpenFile(OpenFile&&) = delete;
