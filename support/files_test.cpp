@@ -476,11 +476,12 @@ TEST_F(WritingInPlace, FileMayBeWrittenInAFolderThatMayNot) {
 
 TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
   fs::permissions(Folder(), kReadOnly);
-  {
+  for (const auto& [scratchFolder, content] :
+       {std::pair(Folder(), std::string(kNew)), std::pair(Folder().parent_path() / "missing", std::string("newer"))}) {
     const OrdinaryUser user;
-    ReplaceFile(File(), kNew, Folder());
+    ReplaceFile(File(), content, scratchFolder);
+    EXPECT_EQ(Content(File()), content);
   }
-  EXPECT_EQ(Content(File()), kNew);
 }
 
 TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
