@@ -2,13 +2,18 @@
 // "analysis_bench.cpp" in the same run.
 
 #include <benchmark/benchmark.h>
+#include <chrono>
+#include <sstream>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "hand/equity_table.h"
+#include "study/batch.h"
 #include "study/equilibrium.h"
 #include "study/stack_chart.h"
 #include "study/sweep.h"
+#include "tools/companion.h"
 
 namespace quillon {
 namespace {
@@ -48,6 +53,35 @@ void StackCharts(benchmark::State& timing) {
     benchmark::DoNotOptimize(MakeStackChart(HandNumbers(), stacks, static_cast<unsigned>(timing.range(0))));
 }
 BENCHMARK(StackCharts)->Unit(benchmark::kMillisecond)->UseRealTime()->Arg(1)->Arg(2);
+
+// A line's raise, both ranges full as in PreflopRaise beside it, from its text to its answer's.
+constexpr const char* kRaiseLine =
+    R"({"id":1,"mode":"raise","pot":150,"call":50,"shove":400,"hands":"any","calling_hands":"any"})";
+
+void BatchRaise(benchmark::State& timing) {
+  LoadEquityTable();
+  const Batch batch({});
+  while (timing.KeepRunning())
+    benchmark::DoNotOptimize(batch.Answer(kRaiseLine, 1));
+}
+BENCHMARK(BatchRaise)->Unit(benchmark::kMillisecond);
+
+// The command on a thousand such lines; the argument is the number of jobs.
+void BatchOfAThousand(benchmark::State& timing) {
+  std::string lines;
+  for (int i = 0; i < 1000; ++i)
+    lines.append(kRaiseLine).append("\n");
+  while (timing.KeepRunning()) {
+    std::istringstream input(lines);
+    std::ostringstream output;
+    std::ostringstream errors;
+    const std::vector<std::string> arguments = {"batch", "--jobs", std::to_string(timing.range(0))};
+    const int status = RunCompanion(arguments, {output, errors, {}, {}, std::chrono::steady_clock::now, &input});
+    if (status != kDone) timing.SkipWithError("refused");
+    benchmark::DoNotOptimize(output);
+  }
+}
+BENCHMARK(BatchOfAThousand)->Unit(benchmark::kMillisecond)->UseRealTime()->Arg(1)->Arg(2);
 
 }  // namespace
 }  // namespace quillon
