@@ -102,6 +102,7 @@ WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "M
   fs::copy_file(QUILLON_PROGRAM, programFolder_ / "quillon");
   StartScreen();
   StartWindowManager();
+  if (desk_.IsHeard) StartBuses();
 }
 
 WindowSession::~WindowSession() = default;
@@ -168,6 +169,7 @@ ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<
                    "FONTCONFIG_FILE=" + (home_ / "fonts.conf").string(),
                    "QT_QPA_PLATFORM=xcb",
                    "QT_SCALE_FACTOR=" + std::to_string(desk_.Scale)};
+  if (!busAddress_.empty()) run.Arguments.push_back("DBUS_SESSION_BUS_ADDRESS=" + busAddress_);
   for (const char* const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH"})
     PassOn(run.Arguments, name);
   run.Arguments.insert(run.Arguments.end(), {"setpriv", "--pdeathsig", "KILL", "--", program});
@@ -312,6 +314,20 @@ void WindowSession::StartWindowManager() {
   windowManager_ = std::make_unique<RunningProgram>(Prepare("openbox", {"--sm-disable"}));
   WaitUntil("there is a window manager", [this] {
     return Ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).find("window id") != std::string::npos;
+  });
+}
+
+void WindowSession::StartBuses() {
+  sessionBus_ = std::make_unique<RunningProgram>(
+      Prepare("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address"}));
+  WaitUntil("there is a session bus", [this] { return sessionBus_->Output().ends_with('\n'); });
+  busAddress_ = Lines(sessionBus_->Output()).front();
+  accessibilityBus_ = std::make_unique<RunningProgram>(
+      Prepare("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately", "--a11y=1"}));
+  WaitUntil("there is an accessibility bus", [this] {
+    return RunProgram(Prepare("dbus-send",
+                              {"--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"}))
+               .Status == 0;
   });
 }
 

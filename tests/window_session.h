@@ -27,11 +27,13 @@
 
 namespace quillon {
 
-/// The screen, and the scale at which the program is to draw on it: 2 for 200%.
+/// The screen, the scale at which the program is to draw on it, 2 for 200%, and whether there is an accessibility bus
+/// for a screen reader.
 struct Desk {
   int Width = 1400;
   int Height = 1000;
   int Scale = 1;
+  bool IsHeard = false;
 };
 
 /// A window of the program: what the window system calls it, and where its inner area is on the screen.
@@ -50,6 +52,9 @@ class WindowSession {
   ~WindowSession();
 
   [[nodiscard]] const Desk& Screen() const { return desk_; }
+
+  /// The session bus on which the accessibility bus is found; empty where there is none.
+  [[nodiscard]] const std::string& BusAddress() const { return busAddress_; }
 
   // ---- the program and its folder
 
@@ -130,6 +135,7 @@ class WindowSession {
   [[nodiscard]] QRect PlaceOf(const std::string& id) const;
   void StartScreen();
   void StartWindowManager();
+  void StartBuses();
   [[nodiscard]] QImage MappedPicture() const;
 
   Desk desk_;
@@ -137,9 +143,12 @@ class WindowSession {
   std::filesystem::path home_ = temporary_.Path();
   std::filesystem::path programFolder_;
   std::string display_;
+  std::string busAddress_;
   // Ended in the opposite order: the screen goes last.
   std::unique_ptr<RunningProgram> screen_;
   std::unique_ptr<RunningProgram> windowManager_;
+  std::unique_ptr<RunningProgram> sessionBus_;
+  std::unique_ptr<RunningProgram> accessibilityBus_;
   std::vector<std::unique_ptr<RunningProgram>> programs_;
   std::unique_ptr<RunningProgram> note_;
   std::unique_ptr<QFile> frameBuffer_;

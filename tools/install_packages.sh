@@ -21,7 +21,7 @@ run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
 run+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
 check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
 # A screen in memory for the tests that use it.
-check+=(xvfb xauth openbox xdotool xclip x11-utils dbus imagemagick)
+check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)

@@ -1,0 +1,180 @@
+// A player who hears the window instead of seeing it: all three analyses, both dialogs and the report, by way of the
+// accessibility bus as a screen reader uses it.
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <memory>
+#include <stdexcept>
+
+#include "ranges/dialogs/manager_layout.h"
+#include "ranges/dialogs/new_range_layout.h"
+#include "ranges/range_lists.h"
+#include "results/results_grid.h"
+#include "support/files.h"
+#include "testing/range_dialog_messages.h"
+#include "tests/screen_reader.h"
+#include "tests/window_journey.h"
+
+namespace quillon {
+namespace {
+
+const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
+const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
+const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
+
+class ScreenReaderJourney : public WindowJourney {
+ protected:
+  using Part = ScreenReader::Part;
+
+  ScreenReaderJourney() : WindowJourney(Desk{.IsHeard = true}) {
+    StartProgramWithRanges();
+    reader_ = std::make_unique<ScreenReader>(Session().BusAddress());
+    Session().WaitUntil("the screen reader knows the program", [&] { return reader_->Meet(Session().Running().Id()); });
+  }
+
+  [[nodiscard]] ScreenReader& Reader() { return *reader_; }
+
+  /// The part, once it shows.
+  [[nodiscard]] Part The(std::string_view role, std::string_view name) {
+    std::optional<Part> part;
+    const std::string what = "there is a " + std::string(role) + " called \"" + std::string(name) + "\"";
+    Session().WaitUntil(what, [&] { return (part = Reader().Find(role, name)).has_value(); });
+    return *part;
+  }
+  void Press(std::string_view role, std::string_view name) { Reader().Press(The(role, name)); }
+  void Choose(std::string_view question, std::string_view range) {
+    const Part list = The("combo box", question);
+    Reader().GiveFocus(list);
+    Session().WaitUntil("the list has the focus", [&] { return Reader().HasFocus(list); });
+    Session().Press({"Home"});
+    for (int steps = 0; steps < 50 && Reader().Description(list) != range; ++steps) {
+      const std::string before = Reader().Description(list);
+      Session().Press({"Down"});
+      Session().WaitUntil("the next range is chosen", [&] { return Reader().Description(list) != before; });
+    }
+    ASSERT_EQ(Reader().Description(list), range);
+  }
+  void Fill(std::string_view question, const std::string& amount) {
+    const Part box = The("text", question);
+    Reader().Write(box, amount);
+    Session().WaitUntil("the amount is in its box", [&] { return Reader().Text(box) == amount; });
+  }
+
+  [[nodiscard]] std::string NextAnnouncement() {
+    std::vector<std::string> said;
+    Session().WaitUntil("something is announced", [&] {
+      said = Reader().TakeAnnouncements();
+      return !said.empty();
+    });
+    return said.front();
+  }
+  [[nodiscard]] std::string Figures(const char* hand) { return Reader().Description(The("label", hand)); }
+
+  /// Runs to the end, which is announced as the situation's explanation.
+  void Analyze(std::int16_t button, const EnteredSituation& situation) {
+    Press("push button", "Analyze");
+    std::string expected = MakeGridTexts(AnalysisOf(button, situation, Session().Program())).Results;
+    std::erase(expected, '\r');
+    EXPECT_EQ(NextAnnouncement(), expected);
+  }
+
+ private:
+  std::unique_ptr<ScreenReader> reader_;
+};
+
+TEST_F(ScreenReaderJourney, AllThreeAnalysesAreEnteredAndHeard) {
+  static_cast<void>(The("frame", kMainTitle));
+
+  Press("link", "Preflop Call");
+  Fill("How much is the current pot?", kCall.Pot);
+  Fill("How much do you have to call?", kCall.Call);
+  Choose("What is his current range?", kCall.Range);
+  Analyze(kCallRun, kCall);
+  EXPECT_THAT(Figures("AA"), testing::AllOf(testing::StartsWith("Equity: "), testing::HasSubstr(", EV: +"),
+                                            testing::EndsWith(", You should go ALL IN")));
+
+  Press("link", "Preflop Raise");
+  Fill("How much is the current pot?", kRaise.Pot);
+  Fill("How much do you have to call?", kRaise.Call);
+  Fill("How much will your opponent have to call if you go ALL IN?", kRaise.Shove);
+  Choose("What is his current range?", kRaise.Range);
+  Choose("What range will he call with?", kRaise.CallingRange);
+  for (const char* link : {"Edit this Range... Current Range", "Edit this Range... Calling Range",
+                           "Create a New Range... Current Range", "Create a New Range... Calling Range"}) {
+    static_cast<void>(The("link", link));
+  }
+  Analyze(kRaiseRun, kRaise);
+  EXPECT_EQ(Figures("KTs"),
+            "Equity when Called: 40.06%, EV: +48.357664, ROI: 96.7%, Opponent Fold %: 49.03%, You should go ALL IN");
+
+  Press("link", "Details");
+  const Part report = The("text", "Analysis details");
+  EXPECT_THAT(Reader().Text(report), testing::HasSubstr("KTs"));
+
+  Press("link", "Equity Only");
+  Choose("Select a Range:", kEquity.Range);
+  Analyze(kEquityRun, kEquity);
+  EXPECT_THAT(Figures("AA"), testing::AllOf(testing::StartsWith("Equity: "), testing::EndsWith(", :)")));
+}
+
+TEST_F(ScreenReaderJourney, RangesArePaintedInBothDialogsAndTheirSavingIsHeard) {
+  Press("link", "Range Manager");
+  static_cast<void>(The("frame", kManagerTitle));
+  const Part kings = The("check box", "KK");
+  const bool wasChecked = Reader().IsChecked(kings);
+  Reader().Press(kings);
+  Session().WaitUntil("the cell has changed", [&] { return Reader().IsChecked(kings) != wasChecked; });
+  Press("check box", "Make next selection \"Maybe\" (half as likely)");
+  const Part deuces = The("check box", "72o");
+  Reader().Press(deuces);
+  Session().WaitUntil("the cell is half checked", [&] { return Reader().IsHalfChecked(deuces); });
+  EXPECT_FALSE(Reader().IsChecked(deuces));
+
+  Press("push button", "Save range");
+  const Window saved = Session().WaitForWindow("Quillon");
+  const std::string name = RangeFolderEntries(Session().Program()).front();
+  EXPECT_EQ(NextAnnouncement(), Saved(name.substr(0, name.size() - 4)).text);
+  Answer(saved, {"Return"});
+  EXPECT_THAT(ReadAllBytes(Session().Program().Path / "Ranges" / name), testing::HasSubstr("72o (0.5)"));
+  Press("push button", "OK");
+  Session().WaitUntil("the Range Manager has gone", [&] { return !Session().FindWindow(kManagerTitle); });
+
+  Press("link", "Equity Only");
+  Press("link", "Create a New Range...");
+  static_cast<void>(The("frame", kNewRangeTitle));
+  Press("check box", "AA");
+  Fill("Range Name:", "Aces");
+  Press("push button", "OK");
+  const Window told = Session().WaitForWindow("Quillon");
+  EXPECT_EQ(NextAnnouncement(), Saved("Aces").text);
+  Answer(told, {"Return"});
+  Session().WaitUntil("the range is chosen",
+                      [&] { return Reader().Description(The("combo box", "Select a Range:")) == "Aces"; });
+}
+
+TEST_F(ScreenReaderJourney, WhatIsHiddenNeitherSpeaksNorIsPressed) {
+  const std::optional<Part> grid = Reader().FindAnywhere("link", "ALL IN Grid");
+  ASSERT_TRUE(grid);
+  Reader().Press(*grid);
+  // All lists of ranges are filled anew at each change of screen, and none of them shows on this one.
+  for (const char* screen : {"Preflop Call", "Preflop Raise", "Equity Only"}) {
+    Press("push button", "About Quillon");
+    static_cast<void>(The("panel", "About"));
+    static_cast<void>(Reader().TakeSpeakers());
+    Press("link", screen);
+    static_cast<void>(The("panel", screen));
+    for (const QString& speaker : Reader().TakeSpeakers())
+      EXPECT_TRUE(Reader().Shows(speaker)) << screen << ": " << speaker.toStdString();
+  }
+  EXPECT_FALSE(Reader().Find("panel", "ALL IN Grid"));
+}
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  const QCoreApplication application(argc, argv);  // what the bus brings waits for its event loop
+  return RUN_ALL_TESTS();
+}
