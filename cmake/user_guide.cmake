@@ -1,7 +1,7 @@
 # The user guide as a page for the browser, with its pictures, in the folder "Guide" beside the program.
 find_program(QUILLON_CMARK cmark-gfm REQUIRED)
 set(guide ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Guide)
-file(GLOB guide_pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/screens/*.png)
+file(GLOB guide_pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/screens/*)
 add_custom_command(
   OUTPUT ${guide}/user-guide.html
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${guide}
