@@ -108,32 +108,32 @@ std::vector<QString> ScreenReader::TakeSpeakers() {
 }
 
 QList<QVariant> ScreenReader::Ask(const QString& path, const QString& interface, const QString& method,
-                                  const QList<QVariant>& arguments) {
+                                  const QList<QVariant>& arguments) const {
   return Call(bus_, program_, path, interface, method, arguments).arguments();
 }
 
-QVariant ScreenReader::Property(const QString& path, const QString& name) {
+QVariant ScreenReader::Property(const QString& path, const QString& name) const {
   const QList<QVariant> answer =
       Ask(path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"), {kAccessible, name});
   return answer.value(0).value<QDBusVariant>().variant();
 }
 
-bool ScreenReader::Is(const QString& path, unsigned state) {
+bool ScreenReader::Is(const QString& path, unsigned state) const {
   const QList<QVariant> answer = Ask(path, kAccessible, QStringLiteral("GetState"));
   const auto words = qdbus_cast<QList<uint>>(answer.value(0));
   return (words.value(static_cast<qsizetype>(state / 32)) >> state % 32 & 1U) != 0;
 }
 
-std::optional<ScreenReader::Part> ScreenReader::Find(std::string_view role, std::string_view name) {
+std::optional<ScreenReader::Part> ScreenReader::Find(std::string_view role, std::string_view name) const {
   return Find(kRoot, role, name, false);
 }
 
-std::optional<ScreenReader::Part> ScreenReader::FindAnywhere(std::string_view role, std::string_view name) {
+std::optional<ScreenReader::Part> ScreenReader::FindAnywhere(std::string_view role, std::string_view name) const {
   return Find(kRoot, role, name, true);
 }
 
 std::optional<ScreenReader::Part> ScreenReader::Find(const QString& path, std::string_view role, std::string_view name,
-                                                     bool hidden) {
+                                                     bool hidden) const {
   const QList<QVariant> children = Ask(path, kAccessible, QStringLiteral("GetChildren"));
   if (children.isEmpty() || !children.first().canConvert<QDBusArgument>()) return std::nullopt;
   for (const Reference& child : References(children.first())) {
@@ -148,51 +148,51 @@ std::optional<ScreenReader::Part> ScreenReader::Find(const QString& path, std::s
   return std::nullopt;
 }
 
-std::string ScreenReader::Description(const Part& part) {
+std::string ScreenReader::Description(const Part& part) const {
   return Property(part.Path, QStringLiteral("Description")).toString().toStdString();
 }
 
-std::string ScreenReader::Text(const Part& part) {
+std::string ScreenReader::Text(const Part& part) const {
   return Ask(part.Path, QStringLiteral("org.a11y.atspi.Text"), QStringLiteral("GetText"), {0, -1})
       .value(0)
       .toString()
       .toStdString();
 }
 
-bool ScreenReader::Shows(const Part& part) {
+bool ScreenReader::Shows(const Part& part) const {
   return Shows(part.Path);
 }
 
-bool ScreenReader::Shows(const QString& path) {
+bool ScreenReader::Shows(const QString& path) const {
   return Is(path, kShowing);
 }
 
-bool ScreenReader::IsChecked(const Part& part) {
+bool ScreenReader::IsChecked(const Part& part) const {
   return Is(part.Path, kChecked);
 }
 
-bool ScreenReader::IsHalfChecked(const Part& part) {
+bool ScreenReader::IsHalfChecked(const Part& part) const {
   return Is(part.Path, kIndeterminate);
 }
 
-bool ScreenReader::HasFocus(const Part& part) {
+bool ScreenReader::HasFocus(const Part& part) const {
   return Is(part.Path, kFocused);
 }
 
 // Without waiting for the end of what it does: that may be a box that waits for an answer.
-void ScreenReader::Press(const Part& part) {
+void ScreenReader::Press(const Part& part) const {
   QDBusMessage press = QDBusMessage::createMethodCall(program_, part.Path, QStringLiteral("org.a11y.atspi.Action"),
                                                       QStringLiteral("DoAction"));
   press.setArguments({0});
   bus_.send(press);
 }
 
-void ScreenReader::Write(const Part& part, std::string_view text) {
+void ScreenReader::Write(const Part& part, std::string_view text) const {
   Ask(part.Path, QStringLiteral("org.a11y.atspi.EditableText"), QStringLiteral("SetTextContents"),
       {QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))});
 }
 
-void ScreenReader::GiveFocus(const Part& part) {
+void ScreenReader::GiveFocus(const Part& part) const {
   Ask(part.Path, QStringLiteral("org.a11y.atspi.Component"), QStringLiteral("GrabFocus"));
 }
 

@@ -34,37 +34,38 @@ class ScreenReader : public QObject {
   [[nodiscard]] bool Meet(pid_t process);
 
   /// The part that shows, nothing where there is none.
-  [[nodiscard]] std::optional<Part> Find(std::string_view role, std::string_view name);
+  [[nodiscard]] std::optional<Part> Find(std::string_view role, std::string_view name) const;
   /// The same among all parts, those that are hidden, too.
-  [[nodiscard]] std::optional<Part> FindAnywhere(std::string_view role, std::string_view name);
+  [[nodiscard]] std::optional<Part> FindAnywhere(std::string_view role, std::string_view name) const;
 
-  [[nodiscard]] std::string Description(const Part& part);
-  [[nodiscard]] std::string Text(const Part& part);
-  [[nodiscard]] bool Shows(const Part& part);
-  [[nodiscard]] bool IsChecked(const Part& part);
-  [[nodiscard]] bool IsHalfChecked(const Part& part);
-  [[nodiscard]] bool HasFocus(const Part& part);
+  [[nodiscard]] std::string Description(const Part& part) const;
+  [[nodiscard]] std::string Text(const Part& part) const;
+  [[nodiscard]] bool Shows(const Part& part) const;
+  [[nodiscard]] bool IsChecked(const Part& part) const;
+  [[nodiscard]] bool IsHalfChecked(const Part& part) const;
+  [[nodiscard]] bool HasFocus(const Part& part) const;
 
   /// Its first action, that of a click; nothing where it offers none.
-  void Press(const Part& part);
-  void Write(const Part& part, std::string_view text);
-  void GiveFocus(const Part& part);
+  void Press(const Part& part) const;
+  void Write(const Part& part, std::string_view text) const;
+  void GiveFocus(const Part& part) const;
 
   /// What was announced since the last call.
   [[nodiscard]] std::vector<std::string> TakeAnnouncements();
   /// The paths of the parts that have told of a change in themselves since the last call.
   [[nodiscard]] std::vector<QString> TakeSpeakers();
-  [[nodiscard]] bool Shows(const QString& path);
+  [[nodiscard]] bool Shows(const QString& path) const;
 
  private Q_SLOTS:
   void Hear(const QDBusMessage& event);
 
  private:
   QList<QVariant> Ask(const QString& path, const QString& interface, const QString& method,
-                      const QList<QVariant>& arguments = {});
-  QVariant Property(const QString& path, const QString& name);
-  bool Is(const QString& path, unsigned state);
-  std::optional<Part> Find(const QString& path, std::string_view role, std::string_view name, bool hidden);
+                      const QList<QVariant>& arguments = {}) const;
+  [[nodiscard]] QVariant Property(const QString& path, const QString& name) const;
+  [[nodiscard]] bool Is(const QString& path, unsigned state) const;
+  [[nodiscard]] std::optional<Part> Find(const QString& path, std::string_view role, std::string_view name,
+                                         bool hidden) const;
 
   QDBusConnection bus_;
   QString program_;  // its name on the bus
