@@ -65,18 +65,6 @@ INSTANTIATE_TEST_SUITE_P(Window, RunJourney,
 
 class AnalysisJourney : public WindowJourney {};
 
-TEST_F(AnalysisJourney, KeyboardAloneDoesForACall) {
-  StartProgramWithRanges();
-  Session().Press({"ctrl+1"});
-  Click("txtNumber(0)");
-  Session().Type("110");
-  Session().Press({"Tab", "Tab"});
-  Session().Type("90");
-  Session().Press({"Tab", "Tab", "Down", "Down", "Tab", "Tab", "Tab", "Return"});
-  const GridColorTable expected = GridColors(AnalysisOf(kCallRun, kCall, Session().Program()));
-  Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
-}
-
 // ---- runs that are stopped
 
 TEST_F(AnalysisJourney, StopInTheMiddleGoesBackToTheInputScreenWithoutResults) {
