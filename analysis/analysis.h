@@ -1,8 +1,8 @@
 #pragma once
 
-// The analysis itself: a situation goes in, a finished analysis of all 169 classes comes out, and whoever wants to see
-// it grow, or to stop it, listens. For each class in index order the ranges are dealt around its two sample cards, the
-// equity and the share of hands that call are averaged over them, the move is given its worth, and a row is added to
+// The analysis itself: a situation goes in, a finished analysis of all 169 classes comes out, and a listener may watch
+// it grow or stop it. For each class in index order the ranges are dealt around its two sample cards, the
+// equity and the share of hands that call are averaged over them, the move is valued, and a row is added to
 // the results table. Nothing here knows where a situation was typed or a result will be shown.
 
 #include <cstdint>
@@ -39,7 +39,7 @@ struct Analysis : Situation {
   bool operator==(const Analysis&) const = default;
 };
 
-/// Whoever wants to see some of an analysis, or to have a say in it. Each part may be left empty.
+/// Watches an analysis, and may stop it. Each part may be left empty.
 struct AnalysisListener {
   std::function<void(std::int16_t index)> Begins{};  // a class is about to be worked out
   std::function<Amounts()> AmountsNow{};  // asked once for each class; the situation's own amounts if empty
@@ -56,7 +56,7 @@ struct AnalysisListener {
 [[nodiscard]] std::optional<Analysis> Analyze(Situation situation, const AnalysisListener& listener = {});
 
 /// The same from numbers that have been read before, which must be those of the situation's texts; the texts themselves
-/// are not looked at.
+/// are not read.
 [[nodiscard]] std::optional<Analysis> Analyze(Situation situation, const RangeNumbers& ranges,
                                               const AnalysisListener& listener = {});
 

@@ -56,7 +56,7 @@ void StoreSituation(AnalysisState& state, const Situation& situation) {
   state.CallingRangeText = situation.CallingRangeText;
 }
 
-// A range that had no file is looked for once more when its hands are dealt.
+// A range without a file is read once more when its hands are dealt.
 void ReadMissingRanges(Situation& situation, const ProgramFolder& folder) {
   if (situation.RangeText.empty()) situation.RangeText = LoadRangeText(folder, situation.RangeName);
   if (!situation.CallingRangeText.empty() || !ScenarioOf(situation.Mode).HasCallingRange) return;

@@ -7,7 +7,7 @@
 // Every control stays live during a run, the start buttons too, and all runs work on the same state. A run started from
 // within another ends before the other goes on; the other then finds itself stopped at its next class. A click within a
 // run that its check refuses changes the state's scenario; the run goes on by its own and puts it back when it
-// finishes. Amounts are read from the boxes anew for each class, so an edit is felt by the classes still to come, while
+// finishes. Amounts are read from the boxes anew for each class, so an edit affects the classes still to come, while
 // the state keeps the amounts that the run began with.
 
 #include <cstdint>
@@ -30,7 +30,7 @@ inline constexpr double kProgressBarWidth = 7815;
 
 /// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check has a
 /// complaint, the click ends with it. Intentional: the label goes on saying "Please wait..." although nothing runs, and
-/// the next run sets it right. Otherwise the situation is stored in the state, the Progress screen comes up and the run
+/// the next run corrects it. Otherwise the situation is stored in the state, the Progress screen comes up and the run
 /// goes through the classes.
 ///
 /// A finished run stores its table in `HandInfo`, has it presented, shows the results entries and clicks the third
@@ -45,7 +45,7 @@ void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow&
 void StopAnalysis(AnalysisState& state);
 
 /// The click on `lblNoResults`: brings up the Progress screen if the label's caption is exactly "Please wait...", so
-/// that a user who has wandered off during a run can come back.
+/// that a user who has wandered off during a run can return.
 void ClickNoResults(std::string_view caption, AnalysisWindow& window);
 
 }  // namespace quillon

@@ -42,7 +42,7 @@ constexpr HandRecord RecordOf(std::string_view card1, std::string_view card2) {
   return hand;
 }
 
-// Where the hand of these two cards stands in a list, the first card being the earlier one of the deck.
+// The position of the hand of these two cards in a list, the first card being the earlier one of the deck.
 constexpr std::size_t PlaceOf(std::size_t first, std::size_t second) {
   return first * (2 * kDeckSize - first - 1) / 2 + second - first - 1;
 }

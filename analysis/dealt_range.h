@@ -1,7 +1,7 @@
 #pragma once
 
 // A range laid out as concrete hands. A range names classes; what an opponent holds is two cards. So a range is dealt:
-// all 1326 concrete hands stand in a list, each with the weight of its class, and a hand that shares a card with the
+// all 1326 concrete hands are in a list, each with the weight of its class, and a hand that shares a card with the
 // hero's (the user's own two cards) weighs nothing, since those cards are out of the deck. Everything an analysis knows
 // of the opponent is averaged over such a list.
 //
@@ -27,7 +27,7 @@ struct HandRecord {
   char Card2Suit = '\0';
   FixedText<2> Card1;  // rank and suit: "As"
   FixedText<2> Card2;
-  FixedText<5> Cards;  // both, with a blank between: "As Kh"
+  FixedText<5> Cards;  // both, with a space between: "As Kh"
   FixedText<3> Label;  // the hand's class: "AKo"
   double Weight = 0;  // how much of the hand is in the range: 1 full, 0.5 half, 0 absent or blocked
   FixedText<1> WeightText;  // "1" or "0": the weight when the record was built, whatever became of it since
@@ -47,8 +47,8 @@ using HandList = std::vector<HandRecord>;
 [[nodiscard]] HandList BuildCombos(std::string_view dead1, std::string_view dead2);
 
 /// The range dealt around the hero's two cards: the list of BuildCombos, each hand that is not blocked having the
-/// weight of its class in `rangeText`, whatever number stands there. The cards "Xx" and "Yy" block nothing and deal the
-/// whole range. Without a name and a text there is no range, and the list has no records at all.
+/// weight of its class in `rangeText`, whatever number that is. The cards "Xx" and "Yy" block nothing and deal the
+/// whole range. Without a name and a text there is no range, and the list has no records.
 ///
 /// A named range with an empty text is a RunTimeError "Subscript out of range", and a text without any ")" cannot be
 /// read: RunTimeError "Invalid procedure call or argument". Both name the range's file.
@@ -68,7 +68,7 @@ using HandList = std::vector<HandRecord>;
 /// "Subscript out of range".
 [[nodiscard]] HandList LimitToRange(const HandList& current, HandList calling);
 
-/// The classes that LimitToRange cuts, for the report's warning, in the order in which the deck brings them up: a class
+/// The classes that LimitToRange cuts, for the report's warning, in the order in which the deck reaches them: a class
 /// absent from `current` is given by its label, one at half weight there with "½'d" after it, as in
 /// "AA, AKs (½'d), KQo". Only classes at full weight in the calling range are named; a half one that is cut is not.
 /// Intentional: a half one says "maybe" already. The empty text if there is none. Fails as LimitToRange does.

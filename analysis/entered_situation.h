@@ -30,7 +30,7 @@ struct EnteredSituation {
 ///     "150" -> 150      "$12.50" -> 12.5      "1,000" -> 1      "12abc" -> 12      "abc" -> 0      "" -> 0
 [[nodiscard]] double BoxValue(std::string_view text);
 
-/// What to warn of where a comma cuts an amount short, which `name` has; nothing where the whole text counts, and for
+/// The warning for an amount, called `name`, that a comma cuts short; nothing where the whole text counts, and for
 /// what is not a number at all and so will be refused.
 ///
 ///     ("pot", "1,000") -> "Warning: pot 1,000 counts as 1; a comma ends a number."

@@ -15,11 +15,11 @@ namespace quillon {
 [[nodiscard]] double CallExpectedValue(double pot, double call, double equity);
 
 /// Shoving: the opponent calls with probability `callShare`, and the pot of `pot` + `call` + 2 * `shove` is played for,
-/// of which `call` + `shove` are the user's; otherwise the user takes the pot as it stands.
+/// of which `call` + `shove` are the user's; otherwise the user takes the pot as it is.
 ///
 ///     (equity * ((pot + call) + (shove + shove)) - (call + shove)) * callShare + (1 - callShare) * pot
 ///
-/// With a `callShare` of 0 it is exactly the pot, whatever `equity` says: -1 stands there for "never called".
+/// With a `callShare` of 0 it is exactly the pot, whatever `equity` says: -1 means "never called".
 [[nodiscard]] double ShoveExpectedValue(double pot, double call, double shove, double equity, double callShare);
 
 /// The pot odds, to one: 2 for a pot of 100 and a call of 50. Fails as Divide does for a call of 0.
@@ -46,7 +46,7 @@ struct OpponentOdds {
 /// amounts are too large for a sum.
 [[nodiscard]] OpponentOdds OpponentOddsTexts(double pot, double call, double shove);
 
-/// Whether OpponentOddsTexts can tell them, and does not fail.
+/// Whether OpponentOddsTexts succeeds for these amounts.
 [[nodiscard]] bool HasOpponentOdds(double pot, double call, double shove);
 
 }  // namespace quillon

@@ -2,7 +2,7 @@
 
 // The small sums that an amount box takes: "=735+220-178" becomes 777 when the user leaves the box. The grammar is "="
 // and a run of signed numbers, the first sign optional; a number is digits and points, and an empty one counts 0. There
-// is no blank, "$", thousands separator, bracket, product or quotient: each of these gives the error text.
+// is not a space, "$", thousands separator, bracket, product or quotient: each of these gives the error text.
 
 #include <string>
 #include <string_view>
@@ -11,14 +11,14 @@
 
 namespace quillon {
 
-/// What EvalExpression gives for a text that is no sum.
+/// What EvalExpression gives for a text that is not a sum.
 inline constexpr std::string_view kExpressionErrorText = "Only addition (+) and subtract (-) are supported";
 
-/// The digits and points at the start of a text, as they stand: "12+3" gives "12", "1.5.2" the whole, "-5" nothing.
+/// The digits and points at the start of a text, as they are: "12+3" gives "12", "1.5.2" the whole, "-5" nothing.
 [[nodiscard]] std::string GetNumber(std::string_view text);
 
 /// The value of a sum in the general number form, or kExpressionErrorText. The first character is taken for the "="
-/// unlooked at. Of a number with two points the leading one counts. RunTimeError "Overflow" for a sum beyond the range
+/// unread. Of a number with two points the leading one counts. RunTimeError "Overflow" for a sum beyond the range
 /// of a double.
 ///
 ///     "=735+220-178" -> "777"      "=.5+.5" -> "1"      "=5+" -> "5"      "=--3" -> "-3"

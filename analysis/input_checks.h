@@ -1,7 +1,7 @@
 #pragma once
 
 // The checks before a run, one for each scenario. Each looks at what the user has entered, in the order of its table,
-// and answers with the first complaint, or with none. Nothing is shown and nothing changes: whoever asks tells the
+// and answers with the first complaint, or with none. Nothing is shown and nothing changes: the caller tells the
 // user.
 //
 // Amounts are tested for their value (BoxValue) before they are tested for being numbers at all (IsNumericText of
@@ -28,7 +28,7 @@ struct Complaint {
                                                    const ProgramFolder& folder);
 
 /// "Preflop Call": a range is chosen and has weight, the pot is above the call and both are above 0, and both are
-/// numbers. The range is read from its file; if there is no such file, or nothing in it, that is no complaint but a
+/// numbers. The range is read from its file; if there is no such file, or nothing in it, that is not a complaint but a
 /// RunTimeError "Subscript out of range", and a file that cannot be read as a range fails as DealRange does.
 [[nodiscard]] std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder);
 

@@ -29,13 +29,13 @@ struct ClassFigures {
 /// Reads on every lookup. The texts and the equity table, loaded, must outlive it.
 class RangeTexts {
  public:
-  /// A range's text, and the name by which a failure tells of it.
+  /// A range's text, and its name for error messages.
   struct Range {
     std::string_view Name;
     std::string_view Text;
   };
 
-  /// The calling range is not looked at in a scenario without one.
+  /// The calling range is not read in a scenario without one.
   RangeTexts(Range range, Range callingRange) : range_(range), callingRange_(callingRange) {}
 
   /// The figures of the class `index`, 0 to 168. RunTimeError "Subscript out of range" for an empty text, "Overflow"
@@ -74,7 +74,7 @@ class HandNumbers {
 class RangeNumbers {
  public:
   /// The weights are those of RangeWeightsOf; in a scenario without a calling range those of `callingRange` are not
-  /// looked at. `hands` must outlive it.
+  /// read. `hands` must outlive it.
   RangeNumbers(const HandNumbers& hands, const ClassWeights& range, const ClassWeights& callingRange = {});
 
   /// What RangeTexts says of the texts of these weights. It fails only where there is no mean: RunTimeError "Overflow".

@@ -10,7 +10,7 @@
 //     cell 2   the equity, 0 to 1; -1 if the opponent never calls
 //     cell 3   the share of the opponent's hands that fold, 0 to 1; 1 where he has no choice
 //
-// Rows stand in class index order, 169 of them in a finished table. Numbers have the general form, so a value loses
+// Rows are in class index order, 169 of them in a finished table. Numbers have the general form, so a value loses
 // what lies beyond 15 significant digits on its way through. A row of other making may have any number of cells: one
 // that is missing reads as empty, and a row without a tab is its own key.
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // The three questions that an analysis answers, as a table: what each is called, which amounts and ranges it asks for,
-// and what a move is worth in it. Whoever must know which question it is reads the row. What belongs to the input
+// and what a move is worth in it. Code that must know which question it is reads the row. What belongs to the input
 // screens or to the results is in tables of their own, which hold one row for each row here and say so in a
 // static_assert.
 
@@ -77,7 +77,7 @@ template <class Row>
                     [](const Row& row, const Scenario& scenario) { return row.Mode == scenario.Mode; });
 }
 
-/// The row of a scenario; not to be asked for with kNone, which is none.
+/// The row of a scenario; not for kNone, which is not a scenario.
 template <class Row>
 [[nodiscard]] constexpr const Row& RowOf(const ScenarioTable<Row>& table, AnalysisMode mode) {
   return table.at(static_cast<std::size_t>(mode) - 1);
