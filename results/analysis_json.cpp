@@ -32,7 +32,7 @@ class Told {
   [[nodiscard]] const Scenario& Asked() const { return ScenarioOf(analysis_.Mode); }
   [[nodiscard]] std::int16_t Column() const { return ShownColumn(analysis_); }
 
-  // Made when the first of them is wanted.
+  // Made when the first of them is needed.
   const GridTexts& Texts() {
     if (!texts_) texts_ = MakeGridTexts(analysis_);
     return *texts_;

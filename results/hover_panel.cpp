@@ -52,8 +52,8 @@ HoverTexts MoveTexts(const HandResult& result, const Scenario& scenario, double 
 
 HoverTexts EquityTexts(const HandResult& result) {
   constexpr double kGoodEquity = 0.25;
-  // Intentional: unlike the other scenarios this one rounds before it multiplies, and -1 is a number to it as any
-  // other.
+  // Intentional: unlike the other scenarios this one rounds before it multiplies, and -1 is a number like any
+  // other to it.
   return {.Picture = HoverPicture::kBlue,
           .Hand = result.Label,
           .EquityTitle = "Equity:",

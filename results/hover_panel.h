@@ -1,7 +1,7 @@
 #pragma once
 
 // The hover panel: a small panel, `frameHover`, that opens beside a cell of the results grid while the mouse is over it
-// and tells what the last analysis found for that hand: its equity, what it is worth, what comes back on the money put
+// and shows what the last analysis found for that hand: its equity, what it is worth, the return on the money put
 // in, for a shove how often the opponent folds, and a verdict in words.
 //
 // The panel keeps the hand it shows in its caption `lblHov_Cards`, and is filled only when the mouse comes to another
@@ -24,12 +24,12 @@ namespace quillon {
 /// The backgrounds of the panel: a profitable hand, an unprofitable one, and a hand of which only the equity is known.
 enum class HoverPicture : std::uint8_t { kGreen, kRed, kBlue };
 
-/// What stands before the panel's lines; the equity's title is one of the texts.
+/// The titles of the panel's lines; the equity's title is one of the texts.
 inline constexpr std::string_view kValueTitle = "EV:";
 inline constexpr std::string_view kReturnTitle = "ROI:";
 inline constexpr std::string_view kFoldShareTitle = "Opponent Fold %:";
 
-/// What the panel shows of a hand. A line without a text is hidden, with its title, and keeps the text that it had.
+/// What the panel shows of a hand. A line without a text is hidden, with its title, and keeps its text.
 struct HoverTexts {
   HoverPicture Picture = HoverPicture::kBlue;  // imgHover
   std::string_view Hand;  // lblHov_Cards
@@ -45,8 +45,8 @@ struct HoverTexts {
 
 /// The texts for the class `index`; nothing before any analysis.
 ///
-/// The return is the expected value over the call amount, in a shove too. Where it is no finite number, as with nothing
-/// to call, its line reads "N/A"; so does the equity line of a hand that nobody calls, whose equity is -1.
+/// The return is the expected value over the call amount, in a shove too. Where it is not a finite number, as with
+/// nothing to call, its line reads "N/A"; so does the equity line of a hand that nobody calls, whose equity is -1.
 [[nodiscard]] std::optional<HoverTexts> MakeHoverTexts(std::int16_t index, const Analysis& analysis);
 
 /// Where the panel goes: below its square by 25, left edge on left edge. Where it would leave the screen to the right

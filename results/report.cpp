@@ -140,7 +140,7 @@ std::string ProfitableHandsText(const Analysis& analysis) {
   return RangeSummary(RangeTextOf(weights));
 }
 
-// Five hands to a line; the separator behind the last hand is cut off.
+// Five hands to a line; the separator after the last hand is cut off.
 std::string EquityBlockText(const Analysis& analysis) {
   constexpr std::int16_t kHandsPerLine = 5;
   constexpr std::size_t kSeparatorLength = 2;

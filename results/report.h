@@ -3,7 +3,7 @@
 // The written report of the last analysis, in one of two forms. The plain form is for reading: headings, the situation,
 // and a table with the formula of each of the 169 hands, in fixed-width type. The forum form is a short text in mark-up
 // for pasting into a post; it sets no font. Rows follow the class index order (AA, AKs, ... 22) and are never sorted.
-// Ranges stand in the summary notation of "ranges/range_summary.h", no amount carries a currency sign, and a hand that
+// Ranges are in the summary notation of "ranges/range_summary.h", no amount carries a currency sign, and a hand that
 // the opponent never calls prints its equity as the -1 that it is.
 
 #include <array>

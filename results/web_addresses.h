@@ -1,7 +1,7 @@
 #pragma once
 
 // The product's place on the web. The host is chosen when the program is built (QUILLON_WEB_HOST), and every address of
-// the program's is on it. A host without a port is reached at port 80.
+// the program is on it. A host without a port is reached at port 80.
 
 #include <string>
 #include <string_view>
@@ -17,7 +17,7 @@ namespace quillon {
 /// The file whose text starts with the number of the newest version: "register/ver.html" below the home page.
 [[nodiscard]] std::string VersionFileAddress();
 
-/// The page from which the newest version can be had: "download.html" below the home page.
+/// The page from which the newest version can be downloaded: "download.html" below the home page.
 [[nodiscard]] std::string DownloadAddress();
 
 /// The script that takes feedback, without its query: "register/benice.php" below the home page.
