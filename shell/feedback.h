@@ -2,7 +2,7 @@
 
 // Feedback from the user: a note of 3 to 1,000 characters, typed on the About screen, that goes to a script on the
 // product's web host in the query of one GET. The script takes "email_name", who writes, and "email_body", the note,
-// and answers with a text that holds "sent" where all is well.
+// and answers with a text that holds "sent" on success.
 //
 // The text of the box, and what is sent of it, has CR LF as line end, and so a line end counts as two characters. What
 // is counted is what is sent, characters of the code page of "support/windows_1252.h", whatever they take in memory.
@@ -18,7 +18,7 @@ namespace quillon {
 
 inline constexpr std::int32_t kSecondsBeforeSending = 5;
 
-/// Who writes where nobody says so. The domain is one of those that RFC 2606 keeps from ever being somebody's.
+/// The writer where none is given. RFC 2606 reserves the domain, so it will never belong to anyone.
 inline constexpr std::string_view kAnonymousAddress = "nobody@q.test";
 static_assert(kAnonymousAddress.size() == 13);
 
@@ -31,9 +31,9 @@ inline constexpr std::string_view kAskAddress = "What is your email address?";
 /// the note all the same.
 [[nodiscard]] std::string FeedbackWriter(std::string_view answer);
 
-/// Whether more than kSecondsBeforeSending have gone by between two looks at a counter of milliseconds, after whose
-/// 2^31 - 1 comes -2^31. RunTimeError "Overflow" if it has run so far that 32 bits cannot hold the way, as when it
-/// passes 2^31 - 1 in between.
+/// Whether more than kSecondsBeforeSending have passed between two readings of a counter of milliseconds, after whose
+/// 2^31 - 1 comes -2^31. RunTimeError "Overflow" if it has run so far that 32 bits cannot hold the difference, as when
+/// it passes 2^31 - 1 in between.
 [[nodiscard]] bool IsTimeToSend(std::int32_t start, std::int32_t now);
 
 /// A text for the query of an address: every character, letters and digits too, as "%" and its code in the code page,

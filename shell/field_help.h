@@ -1,6 +1,6 @@
 #pragma once
 
-// The short explanations behind the links "What's this?" beside the inputs of "Preflop Call" and "Preflop Raise". A
+// The short explanations of the links "What's this?" beside the inputs of "Preflop Call" and "Preflop Raise". A
 // link's tool tip is its title and its key: it shows as the title of the message box, and the text is found by it
 // alone.
 
@@ -12,18 +12,18 @@
 
 namespace quillon {
 
-/// The tool tips of `lblWhatsThis`, by index: 0 to 4 stand on "Preflop Raise", 5 to 7 on "Preflop Call".
+/// The tool tips of `lblWhatsThis`, by index: 0 to 4 are on "Preflop Raise", 5 to 7 on "Preflop Call".
 inline constexpr std::array<std::string_view, 8> kFieldHelpKeys = {
     "Pot Size",      "Amount To Call",         "Hypothetical Call Amount",     "Current Range",
     "Calling Range", "Call ALL IN - Pot Size", "Call ALL IN - Amount To Call", "Call ALL IN - Current Range",
 };
 
 /// The explanation for a key, compared exactly and with case: one paragraph, or two with an empty line between (CR LF
-/// CR LF). A key that is none gives the empty text.
+/// CR LF). An unknown key gives the empty text.
 [[nodiscard]] std::string FieldHelpText(std::string_view key);
 
-/// The click on `lblWhatsThis(index)` whose tool tip is `key`: shows its explanation under the key as title. A key that
-/// is none shows an empty box.
+/// The click on `lblWhatsThis(index)` whose tool tip is `key`: shows its explanation under the key as title. An unknown
+/// key shows an empty box.
 void ShowFieldHelp(std::string_view key, MessageBoxes& messages);
 
 }  // namespace quillon

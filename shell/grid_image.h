@@ -1,8 +1,8 @@
 #pragma once
 
-// The grid as a picture file: what the screen shows where the grid stands, with its title and its footer, and with
+// The grid as a picture file: what the screen shows where the grid is, with its title and its footer, and with
 // whatever lies over it. The picture is a Windows bitmap under the very name that the user gives, in the folder "Saved
-// Grids" of the program's folder where he chooses no other.
+// Grids" of the program's folder unless he chooses another.
 
 #include <cstdint>
 #include <ostream>

@@ -82,7 +82,7 @@ bool Redirects(int status) {
   return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-// The body behind the place, or behind where its redirects lead; empty for any failure.
+// The body at the address, or where its redirects lead; empty for any failure.
 std::string Follow(httplib::Client& client, std::optional<Place> place) {
   for (int redirects = 0; place && redirects <= kMostRedirects; ++redirects) {
     std::optional<std::string> location;
@@ -130,7 +130,7 @@ void HttpGet(std::string_view address, milliseconds limit, std::function<void(st
     std::future<std::string> body;
     try {
       body = std::async(std::launch::async, [&] { return Follow(client, place); });
-    } catch (const std::system_error&) {  // no thread to be had
+    } catch (const std::system_error&) {  // no thread is available
       answer({});
       return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 // A plain HTTP GET, on threads of its own. A host may send what it likes: nothing is kept without a limit, and a reply
-// that breaks the rules counts as none.
+// that breaks the rules counts as no reply.
 
 #include <chrono>
 #include <cstddef>
@@ -14,7 +14,7 @@ namespace quillon {
 /// The longest body that is read, in bytes. What is asked for is a number or a word.
 inline constexpr std::size_t kLongestHttpBody = std::size_t{1} << 20;
 
-/// Asks for the body behind `address`, an "http" address, and returns at once. `answer` is called exactly once, on
+/// Asks for the body at `address`, an "http" address, and returns at once. `answer` is called exactly once, on
 /// another thread, when the body is there or has failed, and with the empty text when `limit` has passed. It must not
 /// throw.
 ///

@@ -30,7 +30,7 @@ std::optional<std::string_view> SectionName(std::string_view line) {
 
 struct KeyLine {
   std::string_view key;
-  std::string_view value;  // stands in the line, also where it is empty
+  std::string_view value;  // a part of the line, also where it is empty
 };
 
 std::optional<KeyLine> ReadKeyLine(std::string_view line) {

@@ -9,10 +9,10 @@
 //     [Values]
 //     0=150
 //
-// Sections and keys are found whatever the case of their letters A to Z, and blanks (space and tab) round a section's
-// name, a key and a value do not count. A line that starts with ";" is a comment. Where a section, or a key in it,
-// stands more than once the first counts, and a key before any heading is in no section. A line ends with LF, CR LF or
-// CR. The three bytes with which some editors mark UTF-8 may stand in front of all.
+// Sections and keys are found whatever the case of their letters A to Z, and white space (space and tab) round a
+// section's name, a key and a value do not count. A line that starts with ";" is a comment. Where a section, or a key
+// in it, occurs more than once the first counts, and a key before any heading is in no section. A line ends with LF, CR
+// LF or CR. The three bytes with which some editors mark UTF-8 may come first.
 //
 // Writing changes the one value, or adds a line for it, and leaves every other byte as it is.
 
@@ -31,11 +31,11 @@ namespace quillon {
 ///     "Left = 5 " -> "5"      "0=\" 5 \"" -> " 5 "      "0='a'b'" -> "a'b"      "0=\"" -> "\""      "0=a=b" -> "a=b"
 [[nodiscard]] std::string IniValue(std::string_view text, std::string_view section, std::string_view key);
 
-/// The text with the key's value changed. The value is put in so that IniValue gives it back: in double quotes if a
-/// blank stands at either end of it or if it stands in quotes itself, else as it is. It ends at its first line end, for
+/// The text with the key's value changed. The value is put in so that IniValue returns it: in double quotes if a
+/// space is at either end of it or if it is in quotes itself, else as it is. It ends at its first line end, for
 /// a value is one line.
 ///
-/// A new key goes behind the last one of its section, and a new section to the end of the text. Their lines end as the
+/// A new key goes after the last one of its section, and a new section to the end of the text. Their lines end as the
 /// first line of the text does, with CR LF where it has none.
 [[nodiscard]] std::string WithIniValue(std::string_view text, std::string_view section, std::string_view key,
                                        std::string_view value);

@@ -49,7 +49,7 @@ inline constexpr LinkLook kLinkLeft = {.Color = {0xFF, 0xFF, 0xFF}};
 /// whatever the window's height.
 [[nodiscard]] TwipRect ScreenPlace(const TwipRect& panel, float windowWidth);
 
-/// Where the selection bar lies: behind a link whose top is given, and a little into the screen beside it.
+/// Where the selection bar is: behind a link whose top is given, and a little into the screen beside it.
 [[nodiscard]] TwipRect SelectionBarPlace(float linkTop, float screenLeft);
 
 }  // namespace quillon

@@ -1,7 +1,7 @@
 #pragma once
 
 // The file "settings.ini" in the program's folder, all that survives a restart besides the ranges: where the windows
-// stood, what the amount boxes held, and whether to look for upgrades. "shell/ini_text.h" tells its form; on disk it is
+// were, what the amount boxes held, and whether to look for upgrades. "shell/ini_text.h" has its form; on disk it is
 // in the code page of "support/windows_1252.h". It is the user's file, who may edit it while the program runs: it is
 // read anew for each value, and the lines that are not ours stay as they are. A file that an editor has saved in UTF-16
 // is left alone, neither read nor written.
@@ -34,7 +34,7 @@ struct IniSetting {
 };
 
 /// Stores values in order, with their sections and the file made where they are missing. ReadIniValue returns each
-/// exactly, up to what the code page lacks ("?" stands for such a character) and to its length. The file is replaced as
+/// exactly, up to what the code page lacks (which becomes "?") and to its length. The file is replaced as
 /// a whole ("support/files.h"), once for all values, and not touched where they are there already.
 ///
 /// Copies of the program in one folder may store at once ("support/folder_lock.h"): no value of either is lost.

@@ -2,8 +2,8 @@
 
 // From the start of the program until its main window can be used, and the end when that window closes. Start-up is one
 // fixed sequence: folders, the About screen, what the last run left, the window on the screen, the look for upgrades,
-// and last the equity table, so nothing may start an analysis before it is over ("shell/screens/main_form.h"). Here is
-// what the sequence is made of. All lengths are twips.
+// and last the equity table, so nothing may start an analysis before it is over ("shell/screens/main_form.h"). Here are
+// its parts. All lengths are twips.
 
 #include <cstdint>
 #include <filesystem>
@@ -36,7 +36,7 @@ void PrepareFolders(const ProgramFolder& folder);
 /// The main window's size: as wide as the panel, 3300, and the screen that its width is designed for, 12000.
 [[nodiscard]] TwipSize MainWindowSize(const TwipRect& panel, float screenWidth);
 
-/// What the amount boxes held when the window was closed last, as they stood, sums unevaluated; the empty text for a
+/// What the amount boxes held when the window was closed last, as they were, sums unevaluated; the empty text for a
 /// box of which nothing is known.
 [[nodiscard]] std::vector<std::string> StoredBoxTexts(std::int16_t count, const ProgramFolder& folder);
 

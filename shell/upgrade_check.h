@@ -56,7 +56,7 @@ struct LinkTarget {
 
 /// The target of `lblLink`, by the link's caption, compared exactly: "Download Upgrade" and "Download latest version of
 /// Quillon" open the download page, "You have the latest version of Quillon" shows a message, and any other opens the
-/// empty address. The tutorials' link on the grid screen is such another; it leads nowhere so far.
+/// empty address. The tutorials' link on the grid screen is another such; it leads nowhere yet.
 [[nodiscard]] LinkTarget TargetOfLink(std::string_view caption);
 
 /// What the user is told where no browser opens an address.

@@ -23,7 +23,7 @@ inline constexpr std::string_view kNewRangeSection = "New";
 
 /// The corner that was stored, or that in the middle of the screen if either of the two texts is missing. The leading
 /// number of each counts, so a text without one is 0. A number below 0, or above the screen's width or height, becomes
-/// 0, each on its own. Only the corner is looked at: at just the screen's width the window lies outside, and stays
+/// 0, each on its own. Only the corner counts: at just the screen's width the window is outside, and stays
 /// there.
 [[nodiscard]] TwipPoint StoredCorner(std::string_view section, TwipSize window, TwipSize screen,
                                      const ProgramFolder& folder);
