@@ -58,7 +58,7 @@ struct CellClick {
 /// fitted round them with a margin of 100. A label leaves 10 of its square free at each side and 100 at the top.
 [[nodiscard]] CardGridPlaces PlaceCardGrid(float left, float top, TwipSize square);
 
-/// The colour of a class that is not selected. Only the last character is looked at: "s" gives the suited colour, "o"
+/// The colour of a class that is not selected. Only the last character counts: "s" gives the suited colour, "o"
 /// the offsuit colour, and anything else, the empty text too, the pair colour.
 [[nodiscard]] Rgb CellBaseColor(std::string_view label);
 
@@ -70,7 +70,7 @@ struct CellClick {
 
 /// What a click on a cell does. A cell in its base colour becomes selected, half or full; one in any other colour is
 /// cleared, whatever `Half` says, so that half never turns to full in one click. Then, with `Shift`, the cells from
-/// there to the best hand of the kind take the same colour, whatever they had:
+/// there to the best hand of the kind take the same colour, whatever their own:
 ///
 ///     "A5s" -> A5s, A6s, ... AKs      "A5o" -> A5o, A6o, ... AKo      "88" -> 88, 99, ... AA
 void ToggleCell(CellColors& cells, std::int16_t index, CellClick click);
@@ -93,7 +93,7 @@ void ToggleCell(CellColors& cells, std::int16_t index, CellClick click);
 /// square stays as it is, so the caller starts with unselected cells, and a weight such as 0.25 shows as not selected
 /// though an analysis counts it.
 ///
-/// RunTimeError as told at RangeWeightOf, so also for a range whose file is missing or empty; it names the file as
+/// RunTimeError as for RangeWeightOf, so also for a range whose file is missing or empty; it names the file as
 /// ListedFileName does. The grid is as it was.
 void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a user may have meant who typed a name that there is none of.
+// What a user may have meant by a name that does not exist.
 
 #include <cstddef>
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// How many bytes have to be put in, taken out or changed to make one text of the other, without regard to the case of
+/// How many bytes must be inserted, deleted or changed to turn one text into the other, without regard to the case of
 /// the letters A to Z: ("tihgt", "Tight") is 2. Source: V. I. Levenshtein, "Binary codes capable of correcting
 /// deletions, insertions, and reversals", 1966.
 [[nodiscard]] std::size_t EditDistance(std::string_view from, std::string_view to);

@@ -49,7 +49,7 @@ std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
   std::error_code error;
   std::filesystem::directory_iterator file(path, error);
   for (const std::filesystem::directory_iterator end; !error && file != end; file.increment(error)) {
-    // What cannot be looked at, such as a link to nowhere, is listed too: it reads as a missing range.
+    // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing range.
     std::error_code unknown;
     if (file->is_directory(unknown)) continue;
     std::string name = TextOfFileName(file->path().filename().string());
@@ -83,7 +83,7 @@ std::string ListedFileName(const ProgramFolder& folder, std::string_view name) {
   try {
     files = RangeFolderEntries(folder);
   } catch (const RunTimeError&) {
-    return usual;  // whoever asks has a fault of his own to tell
+    return usual;  // the caller reports a fault of its own
   }
   if (std::ranges::find(files, usual) != files.end()) return usual;
   const auto isListedSo = [name](std::string_view file) {

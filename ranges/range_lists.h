@@ -1,6 +1,6 @@
 #pragma once
 
-// The lists from which the user chooses a range: four combo boxes of the main window, which start with a blank entry
+// The lists from which the user chooses a range: four combo boxes of the main window, which start with an empty entry
 // for "no range", and the list of the Range Manager, which does not. The folder of range files is the only list of
 // ranges there is, and these are filled from it anew whenever they are shown.
 
@@ -41,16 +41,16 @@ enum class ListStart : std::uint8_t { kBlankEntry, kFirstRange };
 /// RunTimeError "Invalid procedure call or argument", with the file's name, if it has fewer than four characters.
 [[nodiscard]] std::string RangeNameOfFile(std::string_view fileName);
 
-/// The file behind a listed name, for messages: "Button" -> "Button.txt", or, where there is none, the first file that
+/// The file of a listed name, for messages: "Button" -> "Button.txt", or, where there is none, the first file that
 /// is listed under the name, such as "Button.TXT". A folder that cannot be read is taken for an empty one.
 [[nodiscard]] std::string ListedFileName(const ProgramFolder& folder, std::string_view name);
 
 /// The index of the first entry equal to `name`; nothing if there is none.
 [[nodiscard]] std::optional<int> EntryIndex(std::span<const std::string> entries, std::string_view name);
 
-/// What a list shows that is filled from the folder anew: the blank entry where it starts with one, then the range of
-/// each file. Selected is the first entry equal to `wanted`, the entry that the list showed so far; if there is no such
-/// entry, the first one of all. RunTimeError as told at RangeFolderEntries and RangeNameOfFile.
+/// What a list shows that is filled from the folder anew: the empty entry where it starts with one, then the range of
+/// each file. Selected is the first entry equal to `wanted`, the entry that the list showed before; if there is no such
+/// entry, the first one of all. RunTimeError as for RangeFolderEntries and RangeNameOfFile.
 [[nodiscard]] RangeListContents FillRangeList(const ProgramFolder& folder, ListStart start, std::string_view wanted);
 
 }  // namespace quillon

@@ -17,7 +17,8 @@
 namespace quillon {
 namespace {
 
-// A text may be read as a range and still be none: a letter, a picture. A range has at least one class with a weight.
+// A text may be read as a range and still not be one: a letter, a picture. A range has at least one class with a
+// weight.
 bool HoldsAnEntry(std::string_view text) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     if (text.find(std::string(HandLabel(index)) + " (") != std::string_view::npos) return true;

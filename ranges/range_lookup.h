@@ -1,6 +1,7 @@
 #pragma once
 
-// Ranges that are named where nobody can choose from a list: whether there is one, and whether its file holds a range.
+// Ranges that are named where there is no list to choose from: whether there is one, and whether its file holds a
+// range.
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the range dialogs tell and ask. The words are the product's own, odd ones too.
+// What the range dialogs say and ask. The words are the product's own, odd ones too.
 
 #include <string_view>
 

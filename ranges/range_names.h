@@ -18,7 +18,7 @@ inline constexpr std::string_view kScratchRangeName = "Temp Range1";
 /// box, and the answer is false: it must not be empty; it must hold none of the eight characters / \ : * ? " < > (the
 /// message names "|" as a ninth, which is let through); no range of that name may exist, unless it is the scratch
 /// range; its file's name must not be longer than the file system takes, 255 bytes as a rule. With `mayReplace` an
-/// existing range of that name is no reason to refuse it.
+/// existing range of that name is allowed.
 [[nodiscard]] bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages,
                                      bool mayReplace = false);
 

@@ -108,7 +108,7 @@ class NotationReader {
     return true;
   }
 
-  // Always false, for whoever fails with it. Of several reasons the first counts.
+  // Always false, so that a failure can be returned. Of several reasons the first counts.
   bool Fail(std::string_view reason) {
     if (reason_.empty()) reason_ = reason;
     return false;

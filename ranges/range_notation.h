@@ -4,7 +4,7 @@
 // is exact: what was written reads as the same range, whatever its weights. The summary of "ranges/range_summary.h" is
 // a picture beside it, which leaves out some hands at half weight.
 //
-// Items are separated by commas, semicolons, blanks or line ends. Letter case does not matter, "10" is T, and either
+// Items are separated by commas, semicolons, spaces or line ends. Letter case does not matter, "10" is T, and either
 // card of a hand may come first.
 //
 //     88   AKs   AKo   AK               one class; AK is AKs and AKo

@@ -3,7 +3,7 @@
 // The short form in which poker players write a range, such as "88+,ATs+,KQs,AJo+". It exists for reading only: nothing
 // ever parses it back, and the range text stays the range.
 //
-// Items are separated by commas without blanks: first the pairs from AA down, then the suited hands by high card from A
+// Items are separated by commas without spaces: first the pairs from AA down, then the suited hands by high card from A
 // down, then the offsuit hands likewise. An item is one class ("88", "KQs"), an open run ("88+", "ATs+": that class and
 // every better one, for pairs up to AA, for other hands with the same high card up to the second card directly below
 // it), or a closed run ("JJ-88", "AQs-A9s": all classes between the two, the better one first).

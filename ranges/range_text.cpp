@@ -37,7 +37,7 @@ std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t foun
   return digit;
 }
 
-// The place in a UTF-8 text that lies so many characters behind another one. In a range's file each is one byte, and
+// The place in a UTF-8 text that is so many characters after another. In a range's file each is one byte, and
 // places in it are counted so.
 std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t characters) {
   for (; characters > 0; --characters) {
@@ -48,8 +48,8 @@ std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t ch
   return place;
 }
 
-// Of all that the text of a number can hold, two equal digits alone are a label, that of a pair. A blank, which no
-// reading of a number minds, breaks it where the pair's own entry is yet to come.
+// Of all that the text of a number can hold, two equal digits alone are a label, that of a pair. A space, which a
+// number's reader skips, breaks it where the pair's own entry is yet to come.
 std::string WithLabelsBroken(std::string number, std::int16_t index) {
   for (std::size_t place = number.size() - 1; place > 0; --place) {
     const bool isLabel = number[place - 1] == number[place] && HandIndex(number.substr(place - 1, 2)) > index;
@@ -79,7 +79,7 @@ double RangeWeightOf(std::string_view text, std::string_view label, std::string_
   const std::size_t found = FindText(text, label);
   if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;
 
-  // A label that is missing counts as standing one place before the text: the fallback for missing classes rests on it.
+  // A label that is missing counts as one place before the text: the fallback for missing classes rests on it.
   const bool missing = found == std::string_view::npos;
   const auto length = static_cast<std::size_t>(std::count_if(label.begin(), label.end(), StartsUtf8Character));
   const std::size_t start =

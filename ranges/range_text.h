@@ -3,11 +3,11 @@
 // A range is the set of hands that an opponent may hold: a weight for each of the 169 starting-hand classes, 1 for a
 // class that he plays whenever he is dealt it, 0.5 for one that he plays half the time, 0 for one that he folds. Its
 // one form, in memory and in its file, is the range text: all 169 classes in class index order, those at 0 too, each as
-// its label, " (", the weight, "), ". The text ends with the blank of the last entry.
+// its label, " (", the weight, "), ". The text ends with the space of the last entry.
 //
 //     AA (1), AKs (1), AQs (0.5), AJs (0), ATs (0), ... 32o (0), 22 (0),
 //
-// A range text is never parsed from left to right. Whoever wants a weight searches the label and reads what follows it,
+// A range text is never parsed from left to right. A reader searches for the label and reads what follows it,
 // so a text edited by hand may hold its entries in any order, other weights such as 0.25, and remarks between them; of
 // two entries for one class the first counts.
 
@@ -31,19 +31,20 @@ using ClassWeights = std::array<double, kHandClassCount>;
   return weights;
 }
 
-/// The weight of the class `label` in a range text: the leading number of what stands between the two characters behind
+/// The weight of the class `label` in a range text: the leading number of what is between the two characters after
 /// the label's first occurrence and the next ")". Labels are compared with case. A text without a number there reads as
-/// 0, and a weight such as 0.25, 2 or -1 is given back as it stands.
+/// 0, and a weight such as 0.25, 2 or -1 is returned as it is.
 ///
 ///     "AA (1), AKs (0.5), ", "AKs" -> 0.5      "AKs (0.25), AKs (1), ", "AKs" -> 0.25      "AA (x), ", "AA" -> 0
 ///
 /// The label is searched everywhere, in remarks and weights too: a weight of 0.225 before the entry of "22" hides it.
 ///
-/// A label that does not occur is taken to start one place before the text, so it reads what stands before the first
+/// A label that does not occur is taken to start one place before the text, so it reads what is before the first
 /// ")": with "AA (1), " a missing "72o" reads 1, since its number starts at the fifth character, and a missing "22"
-/// reads 0, since its number starts at the fourth, and "(1" is none. The text is UTF-8, and characters are counted.
+/// reads 0, since its number starts at the fourth, and "(1" is not a number. The text is UTF-8, and characters are
+/// counted.
 ///
-/// RunTimeError "Invalid procedure call or argument" if there is no ")" behind the label, as in the empty text, or it
+/// RunTimeError "Invalid procedure call or argument" if there is no ")" after the label, as in the empty text, or it
 /// comes before the number's place. It names the file that the text is from, where one is given.
 [[nodiscard]] double RangeWeightOf(std::string_view text, std::string_view label, std::string_view fileName = {});
 
@@ -55,8 +56,8 @@ using ClassWeights = std::array<double, kHandClassCount>;
 [[nodiscard]] std::string RangeTextOf(std::span<const double, kHandClassCount> weights);
 
 /// The same as a text of which RangeWeightsOf reads these very weights, to 15 digits: where two equal digits of a
-/// weight would hide the entry of a pair further on, a blank is between them. For files and analyses, if weights may be
-/// others than 0, 0.5 and 1.
+/// weight would hide the entry of a pair further on, a space is between them. For files and analyses, if weights may be
+/// other than 0, 0.5 and 1.
 ///
 ///     AA at 0.99 -> "AA (0.9 9), "      22 at 0.99 -> "22 (0.99), "
 [[nodiscard]] std::string SearchableRangeText(std::span<const double, kHandClassCount> weights);

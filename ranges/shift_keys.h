@@ -2,7 +2,7 @@
 
 // The Shift test of a click on the card grid. A click sweeps over a group of hands only if a Shift key is down and went
 // down since it was last asked about; a second click under the same press is a plain one. Window systems report the
-// presses and releases of keys as events, and this makes the answer from them. It is meant to be no plain test of
+// presses and releases of keys as events, and this makes the answer from them. It is not a plain test of
 // whether Shift is down.
 //
 // There is one keyboard, so the program keeps one of these for all its windows: a press that was asked about in one is
@@ -37,7 +37,7 @@ class ShiftKeys {
   ///     left down, right down, ask, ask -> true, false
   ///     left down, left up, ask         -> false
   ///
-  /// It first puts right what `shiftIsHeldNow` tells of.
+  /// What `shiftIsHeldNow` says corrects the state first.
   [[nodiscard]] bool Ask(bool shiftIsHeldNow);
 
  private:
@@ -49,7 +49,7 @@ class ShiftKeys {
   [[nodiscard]] KeyState& StateOf(ShiftKey key);
 
   std::array<KeyState, 2> keys_;
-  KeyState unseen_;  // a key that went down while another program had the keyboard; which of the two is not known
+  KeyState unseen_;  // a key that went down while another program had the keyboard; it is not known which
 };
 
 }  // namespace quillon
