@@ -1,7 +1,7 @@
 #pragma once
 
 // Equity of one starting-hand class against another, read from the program's constant table of text. The equity of a
-// class is the share of the pot that it takes when both hands are all in before the flop; "hand/equity_rows.h" tells
+// class is the share of the pot that it takes when both hands are all in before the flop; "hand/equity_rows.h" says
 // what an entry means and how exact it is. There is no numeric form of the table: a lookup counts spaces along its row
 // and reads one number, and nothing is kept from one lookup to the next.
 

@@ -119,8 +119,8 @@ Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, m
 // Writes the scratch file and gives it the target's name: 0, or the negated error number with the scratch file gone.
 int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<mode_t> mode,
                    std::string_view bytes, FileCalls& calls) {
-  // The umask may have taken bits off that the old file had. A disk that knows no permissions refuses this and has none
-  // to keep; that is no reason to lose a save.
+  // The umask may have taken off bits of the old file. A disk that knows no permissions refuses this and has none
+  // to keep; a save is not lost for that.
   if (mode) static_cast<void>(Uninterrupted([&] { return calls.SetMode(scratch.file, *mode); }));
   int result = WriteToDisk(scratch.file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Rename(scratch.path, target); });
@@ -145,7 +145,7 @@ OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   return {0, static_cast<mode_t>(mode)};
 }
 
-// Whether an error means that the folder lets nobody take a name in it, which says nothing of the files in it.
+// Whether an error means that the folder takes no new names, which says nothing about the files in it.
 bool IsRefusal(int negatedError) {
   return negatedError == -EACCES || negatedError == -EPERM || negatedError == -EROFS || negatedError == -EBUSY;
 }

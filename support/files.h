@@ -16,7 +16,7 @@
 namespace quillon {
 
 /// The system calls that files and folders are reached with, gathered so that a test can make each of them fail. Every
-/// call gives back what the system's own does, or the negated error number.
+/// call returns what the system's own does, or the negated error number.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
@@ -34,7 +34,7 @@ class FileCalls {
   virtual int Mode(int file) = 0;
   virtual int SetMode(int file, mode_t mode) = 0;
 
-  /// Takes the lock of an open file or folder, or fails where it is taken already. It is given back by Close, and by
+  /// Takes the lock of an open file or folder, or fails where it is taken already. It is released by Close, and by
   /// the system where the process ends otherwise.
   virtual int TryLock(int file) = 0;
 };
@@ -42,7 +42,7 @@ class FileCalls {
 /// The system's own calls.
 [[nodiscard]] FileCalls& SystemFileCalls();
 
-/// Throws the RunTimeError that a system error stands for which a call on this file or folder has met: ENOENT is "Path
+/// Throws the RunTimeError for a system error from a call on this file or folder: ENOENT is "Path
 /// not found" where the folder that it should be in is missing, and "File not found" otherwise; the rest is as
 /// RunTimeFaultOf says. The detail is the path, the system's reason and `addition`.
 [[noreturn]] void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition = {});
@@ -54,12 +54,12 @@ class FileCalls {
 /// Whether the file system refuses a path because it, or a name in it, is too long.
 [[nodiscard]] bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// The whole file as bytes, the empty text if it cannot be read for whatever reason. A file of more than 64 MiB is none
-/// of ours and counts as unreadable; so does a folder.
+/// The whole file as bytes, the empty text if it cannot be read for whatever reason. A file of more than 64 MiB is not
+/// ours and counts as unreadable; so does a folder.
 [[nodiscard]] std::string ReadAllBytes(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// The whole file as bytes, for whoever means to write it back: a missing file is the empty text, and one that is there
-/// but cannot be read is nothing, so that nobody takes it for empty.
+/// The whole file as bytes, for a caller that will write it back: a missing file is the empty text, and one that is
+/// there but cannot be read is nothing, so that it is not taken for empty.
 [[nodiscard]] std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path,
                                                          FileCalls& calls = SystemFileCalls());
 
@@ -67,9 +67,9 @@ class FileCalls {
 /// message.
 [[nodiscard]] std::string ReadAllText(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// Puts `bytes` in the place of the file's content, or makes the file. The scratch file stands in `scratchFolder`,
+/// Puts `bytes` in the place of the file's content, or makes the file. The scratch file goes into `scratchFolder`,
 /// which should be on the same disk and not be a folder that the user sees listed; where it is on another disk or
-/// cannot be written, the scratch file stands beside the target. A link is followed, so that the file it names is
+/// cannot be written, the scratch file goes beside the target. A link is followed, so that the file it names is
 /// replaced. The new file has the permissions of the old one.
 ///
 /// A folder may refuse a new file under the name although the old file may be written. Then that file is written in

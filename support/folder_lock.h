@@ -10,10 +10,10 @@
 namespace quillon {
 
 /// Holds the lock of a folder from its making to its end. The lock binds only those who ask for it. It is the folder
-/// itself that is locked, so nothing is left behind, and a process that dies gives it back.
+/// itself that is locked, so nothing is left behind, and a process that dies releases it.
 ///
 /// Making one waits while somebody else holds the lock, but no longer than a second: a copy of the program that hangs
-/// must not hang the others. Then, and where the folder cannot be locked at all, things go on without; that is no worse
+/// must not hang the others. Then, and where the folder cannot be locked, things go on without a lock; that is no worse
 /// than it would be without locks. Never fails.
 class FolderLock {
  public:

@@ -27,7 +27,7 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
   std::string text = path.string();
   if (!text.ends_with('/')) text += '/';
 
-  // Opened for reading rather than looked at: what cannot be listed does not count as being there. A folder that opens
+  // Opened for reading: what cannot be listed does not count as being there. A folder that opens
   // always lists something, itself.
   const int folder = Uninterrupted([&] { return calls.Open(text, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
   if (folder < 0) return false;

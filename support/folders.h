@@ -14,8 +14,8 @@ namespace quillon {
 [[nodiscard]] std::filesystem::path ExecutableFolder();
 
 /// Whether a folder is there and can be listed. It is asked for with a separator at its end, added where there is none,
-/// so a file of that name is no folder, while a link to a folder is one and the empty path is the root. Whatever goes
-/// wrong in asking counts as not being there.
+/// so a file of that name is not a folder, while a link to a folder is one and the empty path is the root. Whatever
+/// goes wrong in asking counts as not being there.
 [[nodiscard]] bool FolderExists(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
 /// Makes a folder in one that is there. RunTimeError, with the path and the reason, if it cannot be made: "Path not

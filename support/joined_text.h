@@ -1,6 +1,6 @@
 #pragma once
 
-// Long texts made of many short ones.
+// Long texts joined from many short ones.
 
 #include <cstddef>
 #include <initializer_list>

@@ -221,7 +221,7 @@ std::string WholeDigits(const ScientificForm& form, int decimals) {
   return std::to_string((mantissa + unit / 2) / unit);
 }
 
-// A blank, a no-break one, and the narrow no-break one that groups digits in French.
+// A space, a no-break space, and the narrow no-break space that groups digits in French.
 constexpr std::array<std::string_view, 3> kBlanks = {" ", "\u00A0", "\u202F"};
 
 bool HasLetter(std::string_view text) {

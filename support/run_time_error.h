@@ -32,7 +32,7 @@ enum class RunTimeFault {
 /// The fixed text of a fault, such as "File not found".
 [[nodiscard]] std::string_view RunTimeFaultText(RunTimeFault fault);
 
-/// The fault that a system error number stands for: ENOENT is kFileNotFound, ENOSPC and EDQUOT are kDiskFull, EACCES
+/// The fault for a system error number: ENOENT is kFileNotFound, ENOSPC and EDQUOT are kDiskFull, EACCES
 /// and EPERM are kPermissionDenied, ENAMETOOLONG, EINVAL and EILSEQ are kBadFileName, ENOTDIR is kPathNotFound,
 /// EEXIST, EISDIR, EROFS and EBUSY are kPathFileAccess, and every other number is kDeviceError.
 [[nodiscard]] RunTimeFault RunTimeFaultOf(int systemError);
