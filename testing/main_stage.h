@@ -81,7 +81,7 @@ class MainStage {
     Form.Start();
     ComeToFront();
     // Where the mouse stood in the test before, a move to the same point would be none.
-    MoveTo({5, 598});
+    MoveTo({5, Form.height() - 5});
   }
 
   /// What the user does when another window was in front.

@@ -3,19 +3,28 @@
 // failure: it tells of a connection that was not made or of something drawn nowhere.
 
 #include <QDir>
-#include <QFont>
+#include <QFile>
 #include <QTemporaryDir>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 
 #include "testing/expected_boxes.h"
 #include "toolkit/application.h"
-#include "toolkit/fonts.h"
 
 namespace {
 
+// A screen on which every window has room at 100%.
+void UseOffscreen(const QTemporaryDir& folder) {
+  QFile file(folder.filePath(QStringLiteral("screen.json")));
+  if (!file.open(QIODevice::WriteOnly)) std::abort();
+  file.write(R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": 1400, "height": 1000, "logicalDpi": 96,
+                 "logicalBaseDpi": 96, "dpr": 1}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file.fileName()));
+}
+
 void ForgetTheDesktop(const QTemporaryDir& folder) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) UseOffscreen(folder);
   for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_STYLE_OVERRIDE",
                            "QT_QPA_PLATFORMTHEME", "SESSION_MANAGER"}) {
     qunsetenv(name);
@@ -44,7 +53,6 @@ int main(int argc, char** argv) {
   QDir::setCurrent(folder.path());
 
   quillon::Application application(argc, argv);
-  QApplication::setFont(quillon::FormFont({.Family = "Arial", .Points = 9}, {}));
   qInstallMessageHandler(FailAtWarning);
   quillon::StartWatchingBoxes();
   return RUN_ALL_TESTS();

@@ -9,11 +9,15 @@
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <optional>
 
 #include "support/run_time_error.h"
 #include "toolkit/accessible_control.h"
+#include "toolkit/desktop_scale.h"
+#include "toolkit/fonts.h"
 #include "toolkit/light_look.h"
 #include "toolkit/message_dialogs.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
 #include "toolkit/x11_clipboard.h"
 
@@ -57,11 +61,16 @@ bool IsPressOfAKey(const QEvent& event) {
 }  // namespace
 
 std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
+  // The style works lengths out for 96 dots to the inch, and the program's scale comes on top.
+  QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+  std::optional<QtScalingOff> scalingOff(std::in_place);
   const QtMessageHandler before = qInstallMessageHandler(HearStart);
   auto application = std::make_unique<Application>(argc, argv);
   qInstallMessageHandler(before);
   for (const QString& text : Heard().All)
     qWarning("%s", qUtf8Printable(text));
+  scalingOff.reset();
+  ShowAtScale(DesktopScale());
   return application;
 }
 
@@ -69,7 +78,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Quillon"));
   // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
+  LoadFonts();
   UseLightLook();
+  ShowAtScale(1);
   InstallAccessibleControls(*this);
 }
 

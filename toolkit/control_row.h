@@ -70,6 +70,7 @@ struct ControlRow {
   bool Hidden = false;
   ControlUse Use = ControlUse::kPassive;
   TextAlignment Alignment = TextAlignment::kLeft;
+  bool Cut = false;  // a label's text that is too wide ends with an ellipsis, and the label does not grow
   LineStyle Style = LineStyle::kSolid;
   std::int16_t LineWidth = 1;  // pixels
   std::string_view Picture = {};  // the file in "artwork/" less its extension

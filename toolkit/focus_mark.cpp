@@ -7,6 +7,7 @@
 
 #include "toolkit/application.h"
 #include "toolkit/control.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -71,23 +72,24 @@ void FocusMark::Reach(QWidget& control, Qt::FocusReason reason) {
 
 void FocusMark::Place() {
   const QWidget& place = PlaceOf(*control_);
-  constexpr int kAround = 2 * kLine;
+  const int around = 2 * LinePixels(kLine);
   const QRect whole(place.mapTo(&window_, QPoint(0, 0)), place.size());
-  setGeometry(whole.adjusted(-kAround, -kAround, kAround, kAround).intersected(window_.rect()));
+  setGeometry(whole.adjusted(-around, -around, around, around).intersected(window_.rect()));
   raise();
   show();
 }
 
 void FocusMark::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  const int line = LinePixels(kLine);
   const auto drawLine = [&](int inside, const QColor& color) {
     const QRect outer = rect().adjusted(inside, inside, -inside, -inside);
-    const QRect inner = outer.adjusted(kLine, kLine, -kLine, -kLine);
+    const QRect inner = outer.adjusted(line, line, -line, -line);
     painter.setClipRegion(QRegion(outer).subtracted(inner));
     painter.fillRect(outer, color);
   };
   drawLine(0, kPale);
-  drawLine(kLine, kDark);
+  drawLine(line, kDark);
 }
 
 }  // namespace quillon

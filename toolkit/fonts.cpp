@@ -1,9 +1,18 @@
 #include "toolkit/fonts.h"
 
+#include <QDir>
+#include <QFontDatabase>
+#include <algorithm>
 #include <array>
 #include <cmath>
 
 #include "toolkit/text.h"
+#include "toolkit/twip_geometry.h"
+
+// The macro declares a function of the global namespace, so it can be neither in ours nor in an unnamed one.
+static void InitResources() {
+  Q_INIT_RESOURCE(quillon_fonts);
+}
 
 namespace quillon {
 namespace {
@@ -21,23 +30,38 @@ constexpr std::array kStandIns = {
 
 }  // namespace
 
+void LoadFonts() {
+  InitResources();
+  const QDir folder(QStringLiteral(":/fonts"));
+  for (const QString& file : folder.entryList(QDir::Files))
+    QFontDatabase::addApplicationFont(folder.filePath(file));
+}
+
 QStringList FontFamilies(std::string_view family) {
-  QStringList families{ToQt(family)};
   for (const StandIn& row : kStandIns) {
-    if (row.Family == family) families << ToQt(row.Substitute);
+    if (row.Family == family) return {ToQt(row.Substitute)};
   }
-  return families;
+  return {ToQt(family)};
 }
 
 int FontPixels(float points) {
   return static_cast<int>(std::lround(points * 96 / 72));
 }
 
+// Rounded down below the design's size, and at half way above it: a text that grew more than its place would run into
+// what stands beside it.
+void SizeFont(QFont& font, float points) {
+  const double pixels = FontPixels(points) * PixelScale();
+  const double rounded = PixelScale() < 1 ? std::floor(pixels) : std::ceil(pixels - 0.5);
+  font.setPixelSize(std::max(1, static_cast<int>(rounded)));
+  font.setHintingPreference(PixelScale() == 1 ? QFont::PreferDefaultHinting : QFont::PreferNoHinting);
+}
+
 QFont FormFont(const FontSpec& font, const FontSpec& inherited) {
   const FontSpec& used = font.Family.empty() ? inherited : font;
   QFont made;
   made.setFamilies(FontFamilies(used.Family));
-  made.setPixelSize(FontPixels(used.Points));
+  SizeFont(made, used.Points);
   made.setBold(used.Bold);
   made.setUnderline(used.Underlined);
   return made;

@@ -1,8 +1,9 @@
 #pragma once
 
-// The fonts of the layouts. They name fonts of another platform; where one is missing, a free font of the same measures
-// replaces it. Sizes are in points of 96 dots to the inch, so they become pixels here and do not change with what the
-// screen reports of itself.
+// The fonts of the layouts. They name fonts of another platform; a free font of the same measures, compiled into the
+// program, stands for each, so that the window looks the same on every machine. Sizes are in points of 96 dots to the
+// inch, so they become pixels here, by the scale of the program
+// ("toolkit/twip_geometry.h"), and do not change with what the screen reports of itself.
 
 #include <QFont>
 #include <QString>
@@ -13,14 +14,25 @@
 
 namespace quillon {
 
-/// The family itself, then its replacement: Arial and MS Sans Serif have Liberation Sans, Tahoma has
-/// DejaVu Sans Condensed, Verdana has DejaVu Sans, Courier New has Liberation Mono.
+/// Makes the fonts that are compiled in known to Qt. Called once, before the first font is made.
+void LoadFonts();
+
+/// What stands for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu Sans
+/// for Verdana, Liberation Mono for Courier New. Any other stands for itself.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 
-/// The font of a row, `inherited` where it names none: 8.25 points are 11 pixels, 20.25 points are 27.
+/// The font of what no layout has: message boxes, menus, tool tips.
+inline constexpr FontSpec kDialogFont = {.Family = "Arial", .Points = 9};
+
+/// The font of a row, `inherited` where it names none: 8.25 points are 11 pixels, 20.25 points are 27, at a scale of 1.
 [[nodiscard]] QFont FormFont(const FontSpec& font, const FontSpec& inherited);
 
-/// Points of 96 dots to the inch as pixels, rounded.
+/// Points of 96 dots to the inch as pixels of the design, rounded.
 [[nodiscard]] int FontPixels(float points);
+
+/// Gives a font that size at the scale of the program. At a scale of 1 its letters keep to whole pixels, as far as the
+/// desktop wants them to; at any other their widths grow with it exactly, so that a text takes up the same share of its
+/// place.
+void SizeFont(QFont& font, float points);
 
 }  // namespace quillon

@@ -8,21 +8,20 @@
 #include <stdexcept>
 
 #include "toolkit/colors.h"
-#include "toolkit/fonts.h"
+#include "toolkit/comma_lines.h"
+#include "toolkit/placement.h"
 #include "toolkit/rich_text_box.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
-#include "toolkit/twip_geometry.h"
 #include "toolkit/wheel_focus.h"
 
 namespace quillon {
 namespace {
 
-Label* MakeLabel(QWidget* container, const ControlRow& row, const QFont& font) {
+Label* MakeLabel(QWidget* container, const ControlRow& row) {
   auto* label = new Label(container);
-  label->setFont(font);
   label->SetAlignment(row.Alignment);
-  label->SetPlace(PixelPlace(row.Place));
+  label->SetCut(row.Cut);
   label->SetText(ToQt(row.Text));
   label->SetBackColor(ToColor(row.Back));
   if (row.Fore != kNoColor) label->SetTextColor(ToColor(row.Fore));
@@ -57,7 +56,10 @@ QPlainTextEdit* MakeMemo(QWidget* container, const ControlRow& row) {
   auto* memo = new QPlainTextEdit(container);
   memo->setPlainText(ToQt(row.Text));
   memo->setReadOnly(row.Kind == ControlKind::kReadOnlyMemo);
-  if (memo->isReadOnly()) memo->setFrameShape(QFrame::NoFrame);
+  if (memo->isReadOnly()) {
+    memo->setFrameShape(QFrame::NoFrame);
+    new CommaLines(*memo);  // the document's from now on
+  }
   memo->setTabChangesFocus(true);
   if (row.Fore != kNoColor) {
     QPalette palette = memo->palette();
@@ -65,6 +67,13 @@ QPlainTextEdit* MakeMemo(QWidget* container, const ControlRow& row) {
     memo->setPalette(palette);
   }
   return memo;
+}
+
+QComboBox* MakeChooser(QWidget* container) {
+  constexpr int kMostRows = 20;
+  auto* chooser = new QComboBox(container);
+  chooser->setMaxVisibleItems(kMostRows);
+  return chooser;
 }
 
 QPushButton* MakeButton(QWidget* container, const ControlRow& row) {
@@ -85,10 +94,10 @@ QWidget* TurnedWithFocusOnly(QWidget* list) {
   return list;
 }
 
-QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& font) {
+QWidget* MakeControl(QWidget* container, const ControlRow& row) {
   switch (row.Kind) {
     case ControlKind::kLabel:
-      return MakeLabel(container, row, font);
+      return MakeLabel(container, row);
     case ControlKind::kPicture:
       return MakePicture(container, row);
     case ControlKind::kShape:
@@ -101,7 +110,7 @@ QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& fon
     case ControlKind::kReadOnlyMemo:
       return MakeMemo(container, row);
     case ControlKind::kChooser:
-      return TurnedWithFocusOnly(new QComboBox(container));
+      return TurnedWithFocusOnly(MakeChooser(container));
     case ControlKind::kListBox:
       return TurnedWithFocusOnly(new QListWidget(container));
     case ControlKind::kCheckBox:
@@ -116,21 +125,11 @@ QWidget* MakeControl(QWidget* container, const ControlRow& row, const QFont& fon
   return nullptr;
 }
 
-// A line has no height or no width of its own, and still has to be seen.
-QRect PlaceOf(const ControlRow& row) {
-  QRect place = PixelPlace(row.Place);
-  if (row.Kind == ControlKind::kLine) place.setSize(place.size().expandedTo({1, 1}));
-  return place;
-}
-
 QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec& inherited) {
-  const QFont font = FormFont(row.Font, inherited);
-  QWidget* control = MakeControl(&container, row, font);
+  QWidget* control = MakeControl(&container, row);
   control->setObjectName(ToQt(ObjectName(row.Name, row.Index)));
-  if (row.Kind != ControlKind::kLabel) {
-    control->setFont(font);
-    control->setGeometry(PlaceOf(row));
-  }
+  SetFormFont(*control, row.Font, inherited);
+  SetPlace(*control, row.Place);
   if (!row.Spoken.empty()) control->setAccessibleName(ToQt(row.Spoken));
   if (!row.ToolTip.empty()) control->setToolTip(ToQt(row.ToolTip));
   control->setVisible(!row.Hidden);

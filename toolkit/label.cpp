@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "toolkit/accessible_control.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -61,10 +62,26 @@ void Label::SetAlignment(TextAlignment alignment) {
   update();
 }
 
+void Label::SetCut(bool cut) {
+  cut_ = cut;
+  Grow();
+  update();
+}
+
+void Label::SetHalo(const QColor& color) {
+  if (color == halo_) return;
+  halo_ = color;
+  update();
+}
+
+void Label::ShowTip() {
+  setToolTip(cut_ && TextSize().width() > place_.width() ? text_ : QString());
+}
+
 QRect Label::WithinContainer(QRect grown) const {
-  constexpr int kEdge = 4;  // left free, lest the text touch the container's border
+  const int edge = LinePixels(4);  // left free, lest the text touch the container's border
   if (parentWidget() == nullptr) return grown;
-  const int over = grown.right() + kEdge - parentWidget()->rect().right();
+  const int over = grown.right() + edge - parentWidget()->rect().right();
   if (over > 0) grown.moveLeft(std::max(0, grown.left() - over));
   return grown;
 }
@@ -86,6 +103,11 @@ QString Label::SpokenText() const {
 }
 
 void Label::Grow() {
+  if (cut_) {
+    ShowTip();
+    setGeometry(place_);
+    return;
+  }
   const QSize needed = TextSize();
   QRect grown = place_;
   grown.setHeight(std::max(grown.height(), needed.height()));
@@ -103,11 +125,23 @@ int Label::Flags() const {
   return SizeWith(betweenWords).width() <= place_.width() ? betweenWords : plain | Qt::TextWrapAnywhere;
 }
 
+// The letters in all eight directions round their own place.
+void Label::PaintHalo(QPainter& painter, const QString& shown) {
+  painter.setPen(halo_);
+  const int reach = LinePixels(1);
+  for (const int down : {-reach, 0, reach}) {
+    for (const int across : {-reach, 0, reach})
+      painter.drawText(rect().translated(across, down), Flags(), shown);
+  }
+}
+
 void Label::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (backColor_.alpha() != 0) painter.fillRect(rect(), backColor_);
+  const QString shown = cut_ ? fontMetrics().elidedText(text_, Qt::ElideRight, width()) : text_;
+  if (halo_.alpha() != 0) PaintHalo(painter, shown);
   painter.setPen(textColor_);
-  painter.drawText(rect(), Flags(), text_);
+  painter.drawText(rect(), Flags(), shown);
 }
 
 void Label::changeEvent(QEvent* event) {

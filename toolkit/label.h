@@ -6,8 +6,11 @@
 // holds it, it moves to the left as far as it must. A label with room for more wraps its text at its edges, within its
 // words where one is wider than the label, and grows downwards. The text is shown as it is and never read as
 // mark-up.
+//
+// A label that is cut keeps its place instead: what has no room ends with an ellipsis, and the tool tip has it whole.
 
 #include <QColor>
+#include <QPainter>
 #include <QString>
 
 #include "toolkit/control.h"
@@ -38,6 +41,14 @@ class Label : public Control {
 
   void SetAlignment(TextAlignment alignment);
 
+  /// Whether a text that is too wide is cut.
+  void SetCut(bool cut);
+
+  /// Draws a fine edge round the letters, where their colour hardly stands out from what is under them; Qt::transparent
+  /// for none.
+  void SetHalo(const QColor& color);
+  [[nodiscard]] const QColor& Halo() const { return halo_; }
+
   /// Whether the text wraps within the label's place.
   [[nodiscard]] bool Wraps() const;
 
@@ -52,7 +63,9 @@ class Label : public Control {
 
  private:
   void Grow();
+  void ShowTip();
   [[nodiscard]] QRect WithinContainer(QRect grown) const;
+  void PaintHalo(QPainter& painter, const QString& shown);
   [[nodiscard]] int Flags() const;
   [[nodiscard]] QSize SizeWith(int flags) const;
 
@@ -60,6 +73,8 @@ class Label : public Control {
   QString text_;
   QColor textColor_ = Qt::black;
   QColor backColor_ = Qt::transparent;
+  QColor halo_ = Qt::transparent;
+  bool cut_ = false;
   TextAlignment alignment_ = TextAlignment::kLeft;
 };
 

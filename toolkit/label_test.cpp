@@ -182,5 +182,52 @@ TEST_F(LabelTest, SpeaksItsTextUnlessItHasAnotherNameForIt) {
   EXPECT_EQ(label.SpokenText(), QStringLiteral("Size of the pot"));
 }
 
+TEST(Label, ThatIsCutKeepsItsPlaceAndHasTheWholeTextInItsToolTip) {
+  QWidget form;
+  form.resize(400, 100);
+  Label label(&form);
+  label.SetCut(true);
+  label.SetPlace(kOneLine);
+  const QString longName = QStringLiteral("A name of a good many letters");
+  label.SetText(longName);
+  EXPECT_EQ(label.geometry(), kOneLine);
+  EXPECT_EQ(label.Text(), longName);
+  EXPECT_EQ(label.SpokenText(), longName);
+  EXPECT_EQ(label.toolTip(), longName);
+
+  const QImage cut = label.grab().toImage();
+  label.SetText(label.fontMetrics().elidedText(longName, Qt::ElideRight, kOneLine.width()));
+  EXPECT_EQ(label.grab().toImage(), cut) << "what shows is the start and an ellipsis";
+  EXPECT_EQ(label.toolTip(), QString()) << "this one fits";
+}
+
+TEST(Label, WithAHaloHasItRoundItsLettersOnly) {
+  QWidget form;
+  form.resize(400, 100);
+  Label label(&form);
+  label.SetPlace(QRect(100, 50, 60, 20));
+  label.SetBackColor(QColor(0x78, 0, 0));
+  label.SetText(QStringLiteral("AKs"));
+  const QImage plain = label.grab().toImage();
+  label.SetHalo(Qt::white);
+  const QImage edged = label.grab().toImage();
+  int letters = 0;
+  int pale = 0;
+  for (int y = 0; y < plain.height(); ++y) {
+    for (int x = 0; x < plain.width(); ++x) {
+      if (plain.pixelColor(x, y) == QColor(Qt::black)) {
+        ++letters;
+        EXPECT_EQ(edged.pixelColor(x, y), QColor(Qt::black)) << "the letters themselves stay";
+      }
+      pale += edged.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(letters, 5);
+  EXPECT_GT(pale, letters);
+  EXPECT_EQ(edged.pixelColor(59, 10), QColor(0x78, 0, 0));
+  label.SetHalo(Qt::transparent);
+  EXPECT_EQ(label.grab().toImage(), plain);
+}
+
 }  // namespace
 }  // namespace quillon

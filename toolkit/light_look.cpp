@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QToolTip>
+
+#include "toolkit/light_style.h"
 
 namespace quillon {
 
 void UseLightLook() {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new LightStyle);
 
   const QColor heading(0x33, 0x66, 0x99);
   QPalette palette(QColor(0xF0, 0xF0, 0xF0));

@@ -4,10 +4,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
+#include <vector>
 
+#include "artwork/artwork.h"
 #include "testing/expected_boxes.h"
+#include "toolkit/placement.h"
 
 namespace quillon {
 namespace {
@@ -98,6 +102,59 @@ TEST(MessageDialogs, StandOverTheWindowInFrontAndHoldUpTheWholeProgram) {
   });
 
   MessageDialogs().Show(With(MessageButtons::kOk));
+}
+
+TEST(MessageDialogs, BelongToTheWindowThatAsksAlsoWhereNoneIsInFront) {
+  QWidget form;
+  form.setGeometry(300, 200, 800, 600);
+  form.show();
+  form.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  MessageDialogs dialogs;
+  const auto expectCentred = [&form](QDialog& box) {
+    EXPECT_EQ(box.parentWidget(), &form);
+    const QPoint off = box.frameGeometry().center() - form.frameGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 40) << off.x() << " " << off.y();  // what a window manager's frame may be
+    box.accept();
+  };
+  ExpectDialog(expectCentred);
+  dialogs.Show(With(MessageButtons::kOk));
+
+  QApplication::setActiveWindow(nullptr);
+  ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  ExpectDialog(expectCentred);
+  dialogs.Show(With(MessageButtons::kOk));
+  QApplication::setActiveWindow(nullptr);
+  ExpectDialog(expectCentred);
+  dialogs.Ask("Name?", "New Range", "");
+
+  form.hide();
+  QApplication::setActiveWindow(nullptr);
+  ExpectDialog([](QDialog& box) {
+    EXPECT_EQ(box.parentWidget(), nullptr) << "nobody can see that window";
+    box.accept();
+  });
+  dialogs.Show(With(MessageButtons::kOk));
+}
+
+TEST(MessageDialogs, HaveAnIconOfTheirOwnInTheSizeOfTheScale) {
+  InitArtwork();
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    ShowAtScale(scale);
+    std::vector<QImage> seen;
+    for (const MessageIcon icon :
+         {MessageIcon::kInformation, MessageIcon::kExclamation, MessageIcon::kQuestion, MessageIcon::kStop}) {
+      QMessageBox box;
+      FillMessageBox(box, {.title = "Title", .text = "Text", .icon = icon});
+      const QImage image = box.iconPixmap().toImage();
+      EXPECT_EQ(image.width(), 32 * scale);
+      EXPECT_EQ(std::ranges::count(seen, image), 0) << "each looks different";
+      seen.push_back(image);
+      for (const QAbstractButton* button : box.buttons())
+        EXPECT_TRUE(button->icon().isNull());
+    }
+  }
+  ShowAtScale(1);
 }
 
 TEST(MessageDialogs, AskForALineOfText) {

@@ -1,6 +1,6 @@
 #include "toolkit/shape.h"
 
-#include <QPainter>
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -37,22 +37,49 @@ void Shape::SetLineWidth(int width) {
 
 void Shape::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  if (kind_ == ControlKind::kLine) {
+  if (IsLine()) {
     painter.fillRect(rect(), lineColor_);
     return;
   }
 
-  const double half = style_ == LineStyle::kNone ? 0 : lineWidth_ / 2.0;
-  const QRectF outline = QRectF(rect()).adjusted(half, half, -half, -half);
-  QPen pen(lineColor_, lineWidth_, style_ == LineStyle::kDotted ? Qt::DotLine : Qt::SolidLine);
-  pen.setJoinStyle(Qt::MiterJoin);
-  painter.setPen(style_ == LineStyle::kNone ? QPen(Qt::NoPen) : pen);
+  const int width = style_ == LineStyle::kNone ? 0 : LinePixels(lineWidth_);
+  QRect outline = rect();
+  if (parentWidget() != nullptr) outline &= parentWidget()->rect().translated(-pos());
+  if (kind_ == ControlKind::kRoundedShape) return PaintRounded(painter, outline, width);
+  painter.fillRect(outline.adjusted(width, width, -width, -width), fill_);
+  if (width > 0) PaintEdge(painter, outline, width);
+}
+
+void Shape::PaintRounded(QPainter& painter, const QRect& outline, int width) const {
+  const double half = width / 2.0;
+  const double radius = kCornerRadius * PixelScale();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(width == 0 ? QPen(Qt::NoPen)
+                            : QPen(lineColor_, width, style_ == LineStyle::kDotted ? Qt::DotLine : Qt::SolidLine));
   painter.setBrush(fill_);
-  if (kind_ == ControlKind::kRoundedShape) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawRoundedRect(outline, kCornerRadius, kCornerRadius);
-  } else {
-    painter.drawRect(outline);
+  painter.drawRoundedRect(QRectF(outline).adjusted(half, half, -half, -half), radius, radius);
+}
+
+// Filled and not stroked, since a pen of an even width has no middle among the pixels.
+void Shape::PaintEdge(QPainter& painter, const QRect& outline, int width) const {
+  const int across = outline.right() + 1 - width;
+  const int down = outline.bottom() + 1 - width;
+  if (style_ == LineStyle::kSolid) {
+    for (const QRect& side : {QRect(outline.left(), outline.top(), outline.width(), width),
+                              QRect(outline.left(), down, outline.width(), width),
+                              QRect(outline.left(), outline.top(), width, outline.height()),
+                              QRect(across, outline.top(), width, outline.height())})
+      painter.fillRect(side, lineColor_);
+    return;
+  }
+  const int step = 3 * width;  // a dot and a gap of two
+  for (int x = outline.left(); x <= across; x += step) {
+    painter.fillRect(x, outline.top(), width, width, lineColor_);
+    painter.fillRect(x, down, width, width, lineColor_);
+  }
+  for (int y = outline.top(); y <= down; y += step) {
+    painter.fillRect(outline.left(), y, width, width, lineColor_);
+    painter.fillRect(across, y, width, width, lineColor_);
   }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
-// A rectangle, with square or rounded corners, or a straight line. Shapes take no part in what the mouse does: what
+// A rectangle, with square or rounded corners, or a straight line. One that sticks out of what holds it is drawn as far
+// as that goes, with its line on all four sides. Shapes take no part in what the mouse does: what
 // lies under one hears the mouse as if it were not there.
 
 #include <QColor>
+#include <QPainter>
 #include <QWidget>
 
 #include "toolkit/control_row.h"
@@ -17,6 +19,8 @@ class Shape : public QWidget {
   /// `kind` is one of the two shapes or the line.
   Shape(ControlKind kind, QWidget* parent);
 
+  [[nodiscard]] bool IsLine() const { return kind_ == ControlKind::kLine; }
+
   void SetFill(const QColor& color);
   [[nodiscard]] const QColor& Fill() const { return fill_; }
 
@@ -26,7 +30,7 @@ class Shape : public QWidget {
   void SetLineStyle(LineStyle style);
   [[nodiscard]] LineStyle Style() const { return style_; }
 
-  /// In pixels.
+  /// In pixels at a scale of 1.
   void SetLineWidth(int width);
   [[nodiscard]] int LineWidth() const { return lineWidth_; }
 
@@ -34,6 +38,9 @@ class Shape : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintRounded(QPainter& painter, const QRect& outline, int width) const;
+  void PaintEdge(QPainter& painter, const QRect& outline, int width) const;
+
   ControlKind kind_;
   QColor fill_ = Qt::transparent;
   QColor lineColor_ = Qt::black;

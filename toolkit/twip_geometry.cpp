@@ -1,11 +1,32 @@
 #include "toolkit/twip_geometry.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillon {
+namespace {
+
+double& ScaleInUse() {
+  static double scale = 1;
+  return scale;
+}
+
+}  // namespace
+
+double PixelScale() {
+  return ScaleInUse();
+}
+
+void SetPixelScale(double scale) {
+  ScaleInUse() = scale;
+}
+
+double TwipsPerPixel() {
+  return static_cast<double>(kTwipsPerPixel) / PixelScale();
+}
 
 int PixelEdge(float twips) {
-  return static_cast<int>(std::floor(twips / kTwipsPerPixel + 0.5F));
+  return static_cast<int>(std::floor(static_cast<double>(twips) / TwipsPerPixel() + 0.5));
 }
 
 QRect PixelPlace(const TwipRect& place) {
@@ -16,8 +37,12 @@ QRect PixelPlace(const TwipRect& place) {
 }
 
 TwipRect TwipsOf(const QRect& pixels) {
-  const auto twips = [](int edge) { return static_cast<float>(edge) * kTwipsPerPixel; };
+  const auto twips = [](int edge) { return static_cast<float>(edge * TwipsPerPixel()); };
   return {twips(pixels.left()), twips(pixels.top()), twips(pixels.width()), twips(pixels.height())};
+}
+
+int LinePixels(int width) {
+  return std::max(1, static_cast<int>(std::lround(width * PixelScale())));
 }
 
 }  // namespace quillon

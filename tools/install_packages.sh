@@ -16,9 +16,9 @@ set -euo pipefail
 run=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 # The user guide as a page for the browser.
 run+=(cmark-gfm)
-# The window, the fonts that stand in for those of its layouts, and what opens its links and pictures.
+# The window, the fonts that are compiled into it, and what opens its links and pictures.
 run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
-run+=(fonts-liberation fonts-dejavu-core fonts-dejavu-extra)
+run+=(fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra)
 check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
 # A screen in memory for the tests that use it.
 check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)

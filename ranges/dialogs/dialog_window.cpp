@@ -10,9 +10,9 @@
 #include "ranges/range_messages.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/focus_mark.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 
@@ -20,7 +20,7 @@ void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size) 
   InitArtwork();
   form.setWindowTitle(ToQt(title));
   form.setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
-  form.setFixedSize(PixelEdge(size.Width), PixelEdge(size.Height));
+  SetPlace(form, {.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height});
 
   form.setBackgroundRole(QPalette::Base);
   form.setAutoFillBackground(true);

@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "toolkit/colors.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -54,8 +54,8 @@ std::optional<std::int16_t> CellReachedFrom(std::int16_t from, const QKeyEvent& 
 }
 
 CardGridPlaces PlacesIn(const Shape& frameShape, const Shape& squareShape) {
-  const TwipRect frame = TwipsOf(frameShape.geometry());
-  const TwipRect square = TwipsOf(squareShape.geometry());
+  const TwipRect frame = PlaceOf(frameShape);
+  const TwipRect square = PlaceOf(squareShape);
   return PlaceCardGrid(frame.Left, frame.Top, {.Width = square.Width, .Height = square.Height});
 }
 
@@ -68,7 +68,7 @@ FormCardGrid::FormCardGrid(const Patterns& patterns, FormControls& controls, QWi
       shift_(shift),
       half_(half),
       places_(PlacesIn(patterns.Frame, patterns.Square)) {
-  patterns.Frame.setGeometry(PixelPlace(places_.Frame));
+  SetPlace(patterns.Frame, places_.Frame);
   squares_[0] = &patterns.Square;
   labels_[0] = &patterns.Cell;
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
@@ -88,17 +88,28 @@ void FormCardGrid::Show(const CellColors& cells) {
     const Rgb color = cells.at(At(index));
     SetFill(index, color);
     Cell(index).SetTextColor(ToColor(CaptionColorOn(color)));
+    ShowHalo(index);
   }
 }
 
 void FormCardGrid::SetFill(std::int16_t index, Rgb color) {
   Square(index).SetFill(ToColor(color));
+  ShowHalo(index);
   // Where cells are selected the colour is their state, which is told to somebody who cannot see it.
   if (half_ != nullptr) Cell(index).SetCheckState(CheckStateOf(color));
 }
 
 void FormCardGrid::Describe(std::int16_t index, const QString& text) {
   Cell(index).setAccessibleDescription(text);
+}
+
+// Black letters on a dark cell: neither colour may change, so the letters are drawn on an edge that is pale.
+void FormCardGrid::ShowHalo(std::int16_t index) {
+  constexpr double kLegible = 3;
+  constexpr Rgb kPale = {0xF4, 0xF4, 0xF4};
+  const Rgb text = FromColor(Cell(index).TextColor());
+  const bool dim = ContrastRatio(text, FromColor(Square(index).Fill())) < kLegible;
+  Cell(index).SetHalo(dim ? ToColor(kPale) : Qt::transparent);
 }
 
 void FormCardGrid::Toggle(std::int16_t index) {
@@ -122,7 +133,7 @@ void FormCardGrid::BuildCell(std::int16_t index) {
     square->SetLineColor(Square(0).LineColor());
     square->setObjectName(ToQt(ObjectName("shapeCardBack", index)));
     auto* label = new Label(&container_);
-    label->setFont(Cell(0).font());
+    CopyFormFont(*label, Cell(0));
     label->SetUse(Cell(0).Use());
     label->SetTextColor(Cell(0).TextColor());
     label->setObjectName(ToQt(ObjectName("lblCards", index)));
@@ -134,10 +145,10 @@ void FormCardGrid::BuildCell(std::int16_t index) {
   }
   const CellPlace& place = places_.Cells.at(At(index));
   const std::string_view caption = HandLabel(index);
-  Square(index).setGeometry(PixelPlace(place.Square));
+  SetPlace(Square(index), place.Square);
   Cell(index).SetMarkedPlace(Square(index));
   SetFill(index, CellBaseColor(caption));
-  Cell(index).SetPlace(PixelPlace(place.Label));
+  SetPlace(Cell(index), place.Label);
   Cell(index).SetAlignment(TextAlignment::kCentered);
   Cell(index).SetText(ToQt(caption));
   Square(index).show();

@@ -70,6 +70,7 @@ class FormCardGrid : public QObject {
 
   FormCardGrid(const Patterns& patterns, FormControls& controls, QWidget& container, ShiftWatch& shift,
                const QCheckBox* half);
+  void ShowHalo(std::int16_t index);
   void BuildCell(std::int16_t index);
   void Listen(std::int16_t index);
   void MoveFocus(std::int16_t to);

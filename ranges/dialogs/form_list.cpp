@@ -1,11 +1,32 @@
 #include "ranges/dialogs/form_list.h"
 
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 #include <utility>
 
 namespace quillon {
 
+namespace {
+
+// Asks for no more width than the list has, so that a name is cut where it ends.
+class CutNames : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
+
+void CutLongNames(QAbstractItemView& list) {
+  list.setItemDelegate(new CutNames(&list));
+  list.setTextElideMode(Qt::ElideRight);
+}
+
+}  // namespace
+
 FormChooser::FormChooser(QComboBox& box) : box_(box) {
+  CutLongNames(*box_.view());
   connect(&box_, &QComboBox::activated, this, &FormChooser::Clicked);
 }
 
@@ -13,8 +34,10 @@ void FormChooser::Show(const RangeListContents& contents) {
   {
     const QSignalBlocker quiet(box_);
     box_.clear();
-    for (const std::string& entry : contents.Entries)
+    for (const std::string& entry : contents.Entries) {
       box_.addItem(ToQt(entry));
+      box_.setItemData(box_.count() - 1, ToQt(entry), Qt::ToolTipRole);
+    }
     // A drop-down list of Qt's selects its first entry by itself; nothing is selected until somebody does.
     box_.setCurrentIndex(-1);
   }
@@ -36,6 +59,7 @@ void FormChooser::Select(int index) {
 }
 
 FormListBox::FormListBox(QListWidget& list) : list_(list) {
+  CutLongNames(list_);
   connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) Q_EMIT Clicked();
   });
@@ -72,8 +96,10 @@ void FormListBox::Show(const RangeListContents& contents) {
   {
     const QSignalBlocker quiet(list_);
     list_.clear();
-    for (const std::string& entry : contents.Entries)
+    for (const std::string& entry : contents.Entries) {
       list_.addItem(ToQt(entry));
+      list_.item(list_.count() - 1)->setToolTip(ToQt(entry));
+    }
   }
   if (contents.Selected) Select(*contents.Selected);
 }

@@ -3,6 +3,8 @@
 // The drop-down lists and the list box from which a range is chosen. The click event is raised by a selection of the
 // user's as well as by one in code, and also where the entry selected was selected before; emptying and filling a list
 // raises none. The current entry of the list box is always selected: only another entry takes the selection from it.
+//
+// A name that is too long for its list ends with an ellipsis, and its tool tip has it whole.
 
 #include <QComboBox>
 #include <QListWidget>

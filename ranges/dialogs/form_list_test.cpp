@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <optional>
@@ -81,6 +82,15 @@ class FormListBoxTest : public ListTest<FormListBox, QListWidget> {
 
 TEST_F(FormListBoxTest, TellsOfEachSelectionButNotOfFilling) {
   TellsOfEachSelectionButNotOfFilling();
+}
+
+TEST_F(FormListBoxTest, ALongNameIsCutInTheListAndWholeInItsToolTip) {
+  const std::string name(92, 'W');
+  List.Show({{"one", name}, 1});
+  EXPECT_EQ(Widget.horizontalScrollBar()->maximum(), 0) << "the list is not wider than its place";
+  EXPECT_LE(Widget.visualItemRect(Widget.item(1)).right(), Widget.viewport()->width());
+  EXPECT_EQ(FromQt(Widget.item(1)->toolTip()), name);
+  EXPECT_EQ(List.CurrentText(), name);
 }
 
 TEST_F(FormListBoxTest, TheFirstOfEqualEntriesIsSelected) {

@@ -39,7 +39,7 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 0, .Text = "Select a Range:", .Place = {1140, 360, 2235, 315}, .Fore = kHeading,
      .Font = kArial14p25Bold},
     {.Name = "lstRanges", .Kind = kListBox, .Place = {1200, 720, 3495, 7020}, .Spoken = "Select a Range:"},
-    {.Name = "lblRangeName", .Text = "Title", .Place = {4800, 300, 5835, 375}, .Font = kArial14p25Bold},
+    {.Name = "lblRangeName", .Text = "Title", .Place = {4800, 300, 5835, 375}, .Font = kArial14p25Bold, .Cut = true},
     {.Name = "shapeCardBack", .Index = 0, .Kind = kShape, .Place = {4960, 820, 405, 405}, .Fore = 0x404040,
      .Hidden = true},
     {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {4970, 920, 385, 305}, .Font = kTahoma8p25, .Hidden = true,

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 
 #include "toolkit/accessible_control.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 
@@ -49,9 +49,9 @@ void AnalysisView::SetProgressPercent(std::string_view caption) {
 
 void AnalysisView::SetProgressBarWidth(float twips) {
   Shape& bar = parts_.Controls.ShapeAt("picProgBar");
-  TwipRect place = TwipsOf(bar.geometry());
+  TwipRect place = PlaceOf(bar);
   place.Width = twips;
-  bar.setGeometry(PixelPlace(place));
+  SetPlace(bar, place);
 }
 
 void AnalysisView::RaiseCell(std::int16_t index) {

@@ -9,6 +9,7 @@
 
 #include "testing/main_stage.h"
 #include "testing/sample_analysis.h"
+#include "toolkit/fonts.h"
 #include "tools/analysis_output.h"
 
 namespace quillon {
@@ -118,13 +119,13 @@ TEST_F(DetailsInWindow, HeadingsAreArialAndTheBodyIsFixedWidth) {
   ShowDetailsOf(sample::CallState());
   for (const char* heading : {"Situation", "Details", "Calculations"}) {
     const QTextCharFormat format = FormatAt(QLatin1String(heading));
-    EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Arial")) << heading;
-    EXPECT_EQ(format.property(QTextFormat::FontPixelSize).toInt(), 19) << "14 points";
+    EXPECT_EQ(format.fontFamilies().toStringList(), FontFamilies("Arial")) << heading;
+    EXPECT_EQ(format.fontPointSize(), 14.25) << "19 pixels";
   }
   for (const char* body : {"Total Pot Size", "Pot Odds", "72o"}) {
     const QTextCharFormat format = FormatAt(QLatin1String(body));
-    EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Courier New")) << body;
-    EXPECT_EQ(format.property(QTextFormat::FontPixelSize).toInt(), 13) << "10 points";
+    EXPECT_EQ(format.fontFamilies().toStringList(), FontFamilies("Courier New")) << body;
+    EXPECT_EQ(format.fontPointSize(), 9.75) << "13 pixels";
     EXPECT_EQ(format.foreground().color(), QColor(Qt::black));
   }
 }
@@ -133,10 +134,9 @@ TEST_F(DetailsInWindow, TheForumReportHasTheBoxsOwnFont) {
   ShowDetailsOf(sample::CallState());
   PickForum();
   const QTextCharFormat format = FormatAt(QStringLiteral("Villain Range"));
-  EXPECT_EQ(format.fontFamilies().toStringList().constFirst(), QStringLiteral("Verdana"));
+  EXPECT_EQ(format.fontFamilies().toStringList(), FontFamilies("Verdana"));
   PickHand("AA");
-  EXPECT_EQ(FormatAt(QStringLiteral("EV for AA")).fontFamilies().toStringList().constFirst(),
-            QStringLiteral("Courier New"));
+  EXPECT_EQ(FormatAt(QStringLiteral("EV for AA")).fontFamilies().toStringList(), FontFamilies("Courier New"));
 }
 
 Analysis LargestCall() {

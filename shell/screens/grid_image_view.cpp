@@ -21,6 +21,7 @@
 #include "support/files.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
+#include "toolkit/placement.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -123,10 +124,9 @@ std::string GridImageView::AskName() {
 // finer pixels.
 std::string GridImageView::CaptureGrid() {
   WaitForTheScreen();
-  const CaptureRect rect = CaptureRectOf(TwipsOf(controls_.ShapeAt("GridContainer").geometry()));
+  const CaptureRect rect = CaptureRectOf(PlaceOf(controls_.ShapeAt("GridContainer")));
   const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
-  constexpr auto kPixel = static_cast<double>(kTwipsPerPixel);
-  const PixelRect place = PixelsOf(rect, kPixel, kPixel);
+  const PixelRect place = PixelsOf(rect, TwipsPerPixel(), TwipsPerPixel());
   const QRect area(place.Left, place.Top, place.Width, place.Height);
 
   // Counted from the window, whose corner can stand between two device-independent pixels of the screen.

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "shell/screens/main_layout.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -25,7 +25,12 @@ MainControls::Key<Picture> StoredPicture(HoverPicture picture) {
 }  // namespace
 
 HoverView::HoverView(const MainControls& controls, const FormCardGrid& grid) : controls_(controls), grid_(grid) {
-  controls_.FrameAt("frameHover").resize(controls_.ShapeAt("rectHov").size());
+  Frame& panel = controls_.FrameAt("frameHover");
+  TwipRect place = PlaceOf(panel);
+  const TwipRect border = PlaceOf(controls_.ShapeAt("rectHov"));
+  place.Width = border.Width;
+  place.Height = border.Height;
+  SetPlace(panel, place);
   SetCaption("lblHov_Cards", {});
 }
 
@@ -57,8 +62,8 @@ void HoverView::Fill(const HoverTexts& texts) {
 
 void HoverView::BringUpBeside(std::int16_t index) {
   Frame& panel = controls_.FrameAt("frameHover");
-  const TwipRect screen = TwipsOf(controls_.FrameAt("frameContent", kGridScreen).geometry());
-  panel.setGeometry(PixelPlace(HoverPlace(TwipsOf(panel.geometry()), grid_.SquarePlace(index), screen)));
+  const TwipRect screen = PlaceOf(controls_.FrameAt("frameContent", kGridScreen));
+  SetPlace(panel, HoverPlace(PlaceOf(panel), grid_.SquarePlace(index), screen));
   panel.raise();
   panel.show();
 }

@@ -1,5 +1,6 @@
 #include "shell/screens/main_form.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -25,17 +26,19 @@
 #include "shell/user_guide.h"
 #include "toolkit/browser.h"
 #include "toolkit/form_keys.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
 
 // The design's own size is there from the start: the screens are fitted to the window as they come up.
 MainControls BuildMainControls(QWidget& form) {
-  form.setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight}).size());
+  SetPlace(form, {.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight});
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
+  // Of every window: boxes and dialogs, too.
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
   return MainControls(form);
 }
 
@@ -101,8 +104,8 @@ MainForm::MainForm(Surroundings surroundings)
                  .ClickNav = [this](std::int16_t link) { ClickNav(link); },
                  .Results = results_,
                  .Boxes = around_.Messages,
-                 .Marks = around_.Marks}) {
-  setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
+                 .Marks = around_.Marks}),
+      zoom_(*this, around_.Folder) {
   // It covers the cells until a run brings them up one by one.
   controls_.PictureAt("imgGridBack").raise();
   BindSidePanel();
@@ -116,6 +119,7 @@ MainForm::MainForm(Surroundings surroundings)
 
 void MainForm::Start() {
   PrepareFolders(around_.Folder);
+  zoom_.Start();  // before the dialogs are loaded, which take their places by their sizes
   ShowAboutContent();
   LoadStartupState();
   show();
@@ -140,7 +144,8 @@ void MainForm::ShowAboutContent() {
   controls_.LabelAt("lblNumRanges").SetText(QString::number(controls_.Get<QComboBox>("cmboRanges", 0).count()));
 
   Frame& content = controls_.FrameAt("frameAboutContent");
-  content.setGeometry(QRect(QPoint(0, PixelEdge(kAboutContentTop)), about.size()));
+  const TwipRect screen = PlaceOf(about);
+  SetPlace(content, {.Left = 0, .Top = kAboutContentTop, .Width = screen.Width, .Height = screen.Height});
   content.show();
 }
 
@@ -149,9 +154,9 @@ void MainForm::LoadStartupState() {
   dialogs_.RefreshLists();
   results_.SetResultsShown(false);
   // The first screen has the design's width still; those that have been shown are as wide as the window was.
-  const float designed = TwipsOf(controls_.FrameAt("frameContent", 0).geometry()).Width;
+  const float designed = PlaceOf(controls_.FrameAt("frameContent", 0)).Width;
   const TwipSize size = MainWindowSize(navigation_.PanelPlace(), designed);
-  setFixedSize(PixelPlace({.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height}).size());
+  SetPlace(*this, {.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height});
   RestorePlace(*this, kMainSection, around_.Folder);
   for (const std::string_view type : kReportFormTexts)
     controls_.Get<QComboBox>("cmboOutputType").addItem(ToQt(type));

@@ -18,6 +18,7 @@
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_view.h"
+#include "shell/screens/zoom_view.h"
 #include "shell/web_client.h"
 #include "toolkit/focus_mark.h"
 
@@ -48,6 +49,7 @@ class MainForm : public QWidget {
   [[nodiscard]] MainControls& Controls() { return controls_; }
   [[nodiscard]] AnalysisState& State() { return state_; }
   [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
+  [[nodiscard]] const ZoomView& Zoom() const { return zoom_; }
 
  protected:
   /// For whatever reason the window closes: it is hidden, its place and all box texts are stored as they are, sums
@@ -81,6 +83,7 @@ class MainForm : public QWidget {
   AboutView about_;
   GridImageView image_;
   AnalysisView analysis_;
+  ZoomView zoom_;
   FocusMark focusMark_{*this};
 };
 

@@ -7,9 +7,9 @@
 #include "support/run_time_error.h"
 #include "toolkit/application.h"
 #include "toolkit/colors.h"
+#include "toolkit/placement.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
-#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -59,7 +59,7 @@ QWidget* FirstToWorkWith(const Frame& screen) {
 }  // namespace
 
 TwipRect NavigationView::PanelPlace() const {
-  return TwipsOf(controls_.PictureAt("imgBack").geometry());
+  return PlaceOf(controls_.PictureAt("imgBack"));
 }
 
 Frame& NavigationView::ShowFrame(std::string_view name) {
@@ -73,7 +73,7 @@ Frame& NavigationView::ShowFrame(std::string_view name) {
     }
   }
   form_.unsetCursor();
-  shown.setGeometry(PixelPlace(ScreenPlace(PanelPlace(), TwipsOf(form_.rect()).Width)));
+  SetPlace(shown, ScreenPlace(PanelPlace(), PlaceOf(form_).Width));
   shown.SetBackColor(Qt::white);
   shown.raise();
   if (!KeyboardLeads() || !form_.isVisible()) return shown;
@@ -85,7 +85,7 @@ void NavigationView::OpenLink(std::int16_t link) {
   const Label& label = controls_.LabelAt(kNavName, link);
   const Frame& screen = ShowFrame(FromQt(label.Text()));
   Shape& bar = controls_.ShapeAt("shapeBack");
-  bar.setGeometry(PixelPlace(SelectionBarPlace(TwipsOf(label.geometry()).Top, TwipsOf(screen.geometry()).Left)));
+  SetPlace(bar, SelectionBarPlace(PlaceOf(label).Top, PlaceOf(screen).Left));
   bar.show();
   selected_ = link;
   RestLinks(link);

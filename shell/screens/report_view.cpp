@@ -23,7 +23,8 @@ constexpr std::int16_t kTableFontPoints = 10;
 
 // For an empty box: each line that is added takes over the columns of the one before.
 void SetColumns(const RichTextBox& box) {
-  const QFont table = FormFont({.Family = "Courier New", .Points = kTableFontPoints}, {});
+  QFont table = FormFont({.Family = "Courier New", .Points = kTableFontPoints}, {});
+  table.setPixelSize(FontPixels(kTableFontPoints));  // the box brings both to its scale
   const double letter = QFontMetricsF(table).horizontalAdvance(QLatin1Char('0'));
   QList<QTextOption::Tab> columns;
   for (const int letters : kColumnLetters)
@@ -64,7 +65,9 @@ void ReportView::SetFontName(std::string_view name) {
 }
 
 void ReportView::SetFontSize(std::int16_t size) {
-  font_.setProperty(QTextFormat::FontPixelSize, FontPixels(static_cast<float>(size)));
+  constexpr double kPointsPerPixel = 72.0 / 96;
+  font_.clearProperty(QTextFormat::FontPixelSize);
+  font_.setFontPointSize(FontPixels(static_cast<float>(size)) * kPointsPerPixel);
 }
 
 void ReportView::SetFontColor(std::int32_t color) {

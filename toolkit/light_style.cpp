@@ -1,0 +1,230 @@
+#include "toolkit/light_style.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+namespace {
+
+constexpr QRgb kEdge = 0xFF8C8C8C;
+constexpr QRgb kFocusedEdge = 0xFF336699;
+constexpr QRgb kSign = 0xFF404040;  // arrows and check marks
+constexpr QRgb kGroove = 0xFFE6E9EC;
+constexpr QRgb kHandle = 0xFF8C9BAA;
+constexpr QRgb kHeldHandle = 0xFF64788C;
+constexpr QRgb kFace = 0xFFF4F4F4;
+constexpr QRgb kHoveredFace = 0xFFE8EEF4;
+constexpr QRgb kPressedFace = 0xFFD6DEE6;
+constexpr QRgb kDisabledSign = 0xFFA0A0A0;
+
+constexpr int kArrowWidth = 18;  // of a drop-down list, in pixels of the design
+constexpr int kShortestHandle = 24;
+
+bool Has(const QStyleOption& option, QStyle::StateFlag state) {
+  return option.state.testFlag(state);
+}
+
+QColor SignColor(const QStyleOption& option) {
+  return QColor::fromRgb(Has(option, QStyle::State_Enabled) ? kSign : kDisabledSign);
+}
+
+// A line on the inner side of the rectangle's edge, twice as wide where the control has the keyboard.
+void DrawEdge(QPainter& painter, const QStyleOption& option) {
+  const bool focused = Has(option, QStyle::State_HasFocus);
+  const int width = LinePixels(focused ? 2 : 1);
+  const QRegion inner(option.rect.adjusted(width, width, -width, -width));
+  const QColor color = QColor::fromRgb(focused ? kFocusedEdge : kEdge);
+  for (const QRect& side : QRegion(option.rect) - inner)
+    painter.fillRect(side, color);
+}
+
+// Signs are drawn on a square of so many pixels of the design, from its middle.
+void DrawSign(QPainter& painter, const QStyleOption& option, const QPolygonF& sign, double width) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(QRectF(option.rect).center());
+  painter.scale(PixelScale(), PixelScale());
+  painter.setPen(QPen(SignColor(option), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(sign);
+  painter.restore();
+}
+
+void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
+  painter.fillRect(option.rect,
+                   QColor::fromRgb(Has(option, QStyle::State_Sunken) ? kPressedFace : qRgb(255, 255, 255)));
+  DrawEdge(painter, option);
+  if (Has(option, QStyle::State_On)) DrawSign(painter, option, QPolygonF({{-3, 0}, {-1, 2.5}, {3.5, -3}}), 1.8);
+  if (Has(option, QStyle::State_NoChange)) DrawSign(painter, option, QPolygonF({{-3, 0}, {3, 0}}), 2.2);
+}
+
+void DrawButton(QPainter& painter, const QStyleOption& option) {
+  QRgb face = Has(option, QStyle::State_MouseOver) ? kHoveredFace : kFace;
+  if (Has(option, QStyle::State_Sunken)) face = kPressedFace;
+  painter.fillRect(option.rect, QColor::fromRgb(face));
+  DrawEdge(painter, option);
+}
+
+void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QRect& arrow) {
+  painter.fillRect(box.rect, Qt::white);
+  DrawEdge(painter, box);
+  QStyleOption sign(box);
+  sign.rect = arrow;
+  DrawSign(painter, sign, QPolygonF({{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}), 1.6);
+}
+
+void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, QRect handle) {
+  painter.fillRect(bar.rect, QColor::fromRgb(kGroove));
+  if (!Has(bar, QStyle::State_Enabled) || bar.maximum <= bar.minimum) return;
+  const int margin = LinePixels(2);
+  handle.adjust(margin, margin, -margin, -margin);
+  const bool held = bar.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
+  painter.fillRect(handle, QColor::fromRgb(held ? kHeldHandle : kHandle));
+}
+
+// The handle has the share of the groove that the page has of the whole.
+QRect HandleOf(const QStyleOptionSlider& bar) {
+  const bool lying = bar.orientation == Qt::Horizontal;
+  const int groove = lying ? bar.rect.width() : bar.rect.height();
+  const double whole = static_cast<double>(bar.maximum) - bar.minimum + bar.pageStep;
+  const int share = whole > 0 ? static_cast<int>(std::lround(groove * (bar.pageStep / whole))) : groove;
+  const int length = std::min(groove, std::max(share, LinePixels(kShortestHandle)));
+  const int start =
+      QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, groove - length, bar.upsideDown);
+  QRect handle = bar.rect;
+  if (lying) {
+    handle.setLeft(handle.left() + start);
+    handle.setWidth(length);
+  } else {
+    handle.setTop(handle.top() + start);
+    handle.setHeight(length);
+  }
+  return handle;
+}
+
+// There are no buttons at the ends; a click beside the handle goes on by a page.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+  const QRect handle = HandleOf(bar);
+  const bool lying = bar.orientation == Qt::Horizontal;
+  QRect rest = bar.rect;
+  switch (part) {
+    case QStyle::SC_ScrollBarGroove:
+      return rest;
+    case QStyle::SC_ScrollBarSlider:
+      return handle;
+    case QStyle::SC_ScrollBarSubPage:
+      if (lying) {
+        rest.setRight(handle.left() - 1);
+      } else {
+        rest.setBottom(handle.top() - 1);
+      }
+      return rest;
+    case QStyle::SC_ScrollBarAddPage:
+      if (lying) {
+        rest.setLeft(handle.right() + 1);
+      } else {
+        rest.setTop(handle.bottom() + 1);
+      }
+      return rest;
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+LightStyle::LightStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  if (metric == PM_DefaultFrameWidth || metric == PM_ComboBoxFrameWidth) return LinePixels(2);
+  if (metric == PM_ButtonMargin) return LinePixels(6);
+  if (metric == PM_MessageBoxIconSize) return LinePixels(32);
+  const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+  return pixels > 0 ? LinePixels(pixels) : pixels;
+}
+
+int LightStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* answer) const {
+  // Lists open as lists beneath their box, and not as menus over it.
+  if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+QRect LightStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar != nullptr) return ScrollBarPart(*bar, part);
+  if (control == CC_ComboBox && (part == SC_ComboBoxEditField || part == SC_ComboBoxArrow)) {
+    QRect place = option->rect;
+    if (part == SC_ComboBoxArrow) {
+      place.setLeft(place.right() + 1 - LinePixels(kArrowWidth));
+      return place;
+    }
+    const int edge = LinePixels(2);
+    return place.adjusted(2 * edge, edge, -LinePixels(kArrowWidth), -edge);
+  }
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QIcon LightStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+  switch (icon) {
+    case SP_MessageBoxInformation:
+      return QIcon(QStringLiteral(":/artwork/message_information.svg"));
+    case SP_MessageBoxWarning:
+      return QIcon(QStringLiteral(":/artwork/message_exclamation.svg"));
+    case SP_MessageBoxQuestion:
+      return QIcon(QStringLiteral(":/artwork/message_question.svg"));
+    case SP_MessageBoxCritical:
+      return QIcon(QStringLiteral(":/artwork/message_stop.svg"));
+    default:
+      return QProxyStyle::standardIcon(icon, option, widget);
+  }
+}
+
+void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  switch (element) {
+    case PE_Frame:
+    case PE_FrameLineEdit:
+      return DrawEdge(*painter, *option);
+    case PE_PanelButtonCommand:
+      return DrawButton(*painter, *option);
+    case PE_IndicatorCheckBox:
+      return DrawCheckBox(*painter, *option);
+    default:
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+void LightStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (element != CE_ComboBoxLabel || box == nullptr) {
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  }
+  // A name that is too long ends with an ellipsis.
+  const QRect place = subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget);
+  const QString text = box->fontMetrics.elidedText(box->currentText, Qt::ElideRight, place.width());
+  drawItemText(painter, place, Qt::AlignLeft | Qt::AlignVCenter, box->palette, Has(*box, State_Enabled), text,
+               QPalette::Text);
+}
+
+void LightStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (control == CC_ScrollBar && bar != nullptr) {
+    DrawScrollBar(*painter, *bar, HandleOf(*bar));
+  } else if (control == CC_ComboBox && box != nullptr) {
+    DrawComboBox(*painter, *box, subControlRect(control, box, SC_ComboBoxArrow, widget));
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+}
+
+}  // namespace quillon

@@ -1,0 +1,31 @@
+#pragma once
+
+// How native controls are drawn: boxes, lists, buttons, check boxes and scroll bars. Their lengths follow the scale of
+// the program ("toolkit/twip_geometry.h"), their lines are whole pixels, and what is drawn at 100% is what is drawn at
+// 300%. Edges have at least 3:1 to white, and the handle of a scroll bar is darker than its groove.
+
+#include <QProxyStyle>
+
+namespace quillon {
+
+class LightStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  LightStyle();
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
+};
+
+}  // namespace quillon

@@ -1,0 +1,149 @@
+#include "toolkit/light_style.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "toolkit/colors.h"
+#include "toolkit/form_builder.h"
+#include "toolkit/placement.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::array kScales = {0.75, 1.0, 1.5, 2.0, 3.0};
+
+double ContrastAt(const QImage& image, const QPoint& point, const QPoint& other) {
+  return ContrastRatio(FromColor(image.pixelColor(point)), FromColor(image.pixelColor(other)));
+}
+
+class LightStyleTest : public testing::Test {
+ protected:
+  void TearDown() override { ShowAtScale(1); }
+};
+
+TEST_F(LightStyleTest, MeasuresInTheScaleOfTheProgram) {
+  const QStyle& style = *QApplication::style();
+  for (const QStyle::PixelMetric metric : {QStyle::PM_IndicatorWidth, QStyle::PM_ScrollBarExtent,
+                                           QStyle::PM_MessageBoxIconSize, QStyle::PM_LayoutLeftMargin}) {
+    ShowAtScale(1);
+    const int design = style.pixelMetric(metric);
+    EXPECT_GT(design, 0);
+    for (const double scale : kScales) {
+      ShowAtScale(scale);
+      EXPECT_EQ(style.pixelMetric(metric), std::lround(design * scale)) << metric << " " << scale;
+    }
+  }
+}
+
+TEST_F(LightStyleTest, DrawsEdgesThatStandOutFromWhite) {
+  constexpr double kLeast = 3;
+  const auto build = [](int kind) -> std::unique_ptr<QWidget> {
+    if (kind == 0) return std::make_unique<QLineEdit>();
+    if (kind == 1) return std::make_unique<QComboBox>();
+    return std::make_unique<QPushButton>();
+  };
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    for (const int kind : {0, 1, 2}) {
+      const std::unique_ptr<QWidget> control = build(kind);
+      control->resize(200, 80);
+      const QImage image = control->grab().toImage();
+      const QRgb white = qRgb(255, 255, 255);
+      for (const QPoint& edge : {QPoint(0, 40), QPoint(199, 40), QPoint(100, 0), QPoint(100, 79)}) {
+        EXPECT_GE(ContrastRatio(FromColor(image.pixelColor(edge)), FromColor(QColor::fromRgb(white))), kLeast)
+            << kind << " at " << scale << ": " << edge.x() << ", " << edge.y();
+      }
+    }
+  }
+}
+
+TEST_F(LightStyleTest, DrawsACheckMarkThatCanBeSeen) {
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    QCheckBox box;
+    box.setTristate(true);
+    box.resize(static_cast<int>(40 * scale), static_cast<int>(40 * scale));
+    QImage before;
+    for (const Qt::CheckState state : {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked}) {
+      box.setCheckState(state);
+      const QImage image = box.grab().toImage();
+      EXPECT_NE(image, before) << state << " at " << scale;
+      before = image;
+    }
+  }
+}
+
+TEST_F(LightStyleTest, GivesAScrollBarAHandleDarkerThanItsGroove) {
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+      QScrollBar bar(orientation);
+      bar.setRange(0, 100);
+      bar.setPageStep(50);
+      bar.resize(orientation == Qt::Vertical ? QSize(bar.sizeHint().width(), 600)
+                                             : QSize(600, bar.sizeHint().height()));
+      const QImage image = bar.grab().toImage();
+      const QPoint middle(image.width() / 2, image.height() / 2);
+      const QPoint handle = orientation == Qt::Vertical ? QPoint(middle.x(), 100) : QPoint(100, middle.y());
+      const QPoint groove = orientation == Qt::Vertical ? QPoint(middle.x(), 500) : QPoint(500, middle.y());
+      EXPECT_LT(image.pixelColor(handle).lightness(), image.pixelColor(groove).lightness());
+      EXPECT_GE(ContrastAt(image, handle, groove), 2) << scale;
+    }
+  }
+}
+
+TEST_F(LightStyleTest, ScrollsByAPageBesideTheHandleAndByDraggingIt) {
+  QScrollBar bar(Qt::Vertical);
+  bar.setRange(0, 200);
+  bar.setPageStep(50);
+  bar.resize(16, 500);
+  bar.show();
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 480});
+  EXPECT_EQ(bar.value(), 50);
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 5});
+  EXPECT_EQ(bar.value(), 0);
+  QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 50});
+  QTest::mouseMove(&bar, {8, 250});
+  QTest::mouseRelease(&bar, Qt::LeftButton, {}, {8, 250});
+  EXPECT_EQ(bar.value(), 100);
+  QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 250});
+  QTest::mouseMove(&bar, {8, 900});
+  EXPECT_EQ(bar.value(), 200);
+  QTest::mouseRelease(&bar, Qt::LeftButton, {}, {8, 900});
+}
+
+TEST_F(LightStyleTest, OpensAListOfTwentyRowsBeneathItsBox) {
+  for (const double scale : {1.0, 2.0}) {
+    ShowAtScale(scale);
+    QWidget form;
+    SetPlace(form, {0, 0, 6000, 3000});
+    const ControlRow row = {.Name = "cmboRanges", .Kind = ControlKind::kChooser, .Place = {300, 300, 4395, 375}};
+    const ControlTable table{.Container = {}, .Font = {.Family = "Arial", .Points = 9}, .Rows = {&row, 1}};
+    const FormControls controls(form, {&table, 1});
+    auto& box = dynamic_cast<QComboBox&>(controls.At(row));
+    for (int i = 0; i < 170; ++i)
+      box.addItem(QString::number(i));
+    form.move(0, 0);
+    form.show();
+    box.showPopup();
+    const QAbstractItemView& list = *box.view();
+    EXPECT_GE(list.mapToGlobal(QPoint(0, 0)).y(), box.mapToGlobal(QPoint(0, box.height())).y());
+    EXPECT_EQ(list.viewport()->height() / list.sizeHintForRow(0), 20) << scale;
+    EXPECT_TRUE(list.verticalScrollBar()->maximum() > 0);
+    EXPECT_EQ(list.window()->width(), box.width());
+    box.hidePopup();
+  }
+}
+
+}  // namespace
+}  // namespace quillon

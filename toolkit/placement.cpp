@@ -1,0 +1,98 @@
+#include "toolkit/placement.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QRectF>
+#include <QToolTip>
+
+#include "toolkit/fonts.h"
+#include "toolkit/label.h"
+#include "toolkit/shape.h"
+#include "toolkit/twip_geometry.h"
+
+namespace quillon {
+namespace {
+
+constexpr const char* kPlaceProperty = "placeInTwips";
+constexpr const char* kPointsProperty = "fontPoints";
+
+void TakePlace(QWidget& control) {
+  const QVariant kept = control.property(kPlaceProperty);
+  if (!kept.isValid()) return;
+  const QRect place = PixelPlace(PlaceOf(control));
+  if (control.isWindow()) {
+    control.setFixedSize(place.size());
+  } else if (auto* label = qobject_cast<Label*>(&control)) {
+    label->SetPlace(place);
+  } else {
+    const auto* shape = qobject_cast<Shape*>(&control);
+    const int least = shape != nullptr && shape->IsLine() ? LinePixels(1) : 0;
+    control.setGeometry({place.topLeft(), place.size().expandedTo({least, least})});
+  }
+}
+
+void TakeFont(QWidget& control) {
+  const QVariant points = control.property(kPointsProperty);
+  if (!points.isValid()) return;
+  QFont font = control.font();
+  SizeFont(font, points.toFloat());
+  control.setFont(font);
+}
+
+// What is empty has nothing to undo; elsewhere the margin stays, for a change of it would be one more step.
+void TakeMargin(QWidget& control) {
+  constexpr int kMargin = 4;
+  auto* memo = qobject_cast<QPlainTextEdit*>(&control);
+  if (memo == nullptr || memo->document()->isUndoAvailable()) return;
+  const bool undo = memo->isUndoRedoEnabled();
+  memo->setUndoRedoEnabled(false);
+  memo->document()->setDocumentMargin(LinePixels(kMargin));
+  memo->setUndoRedoEnabled(undo);
+}
+
+void TakeScale(QWidget& control) {
+  TakeFont(control);
+  TakeMargin(control);
+  TakePlace(control);
+}
+
+}  // namespace
+
+void SetPlace(QWidget& control, const TwipRect& place) {
+  control.setProperty(kPlaceProperty, QRectF(place.Left, place.Top, place.Width, place.Height));
+  TakePlace(control);
+}
+
+TwipRect PlaceOf(const QWidget& control) {
+  const QRectF place = control.property(kPlaceProperty).toRectF();
+  return {.Left = static_cast<float>(place.left()),
+          .Top = static_cast<float>(place.top()),
+          .Width = static_cast<float>(place.width()),
+          .Height = static_cast<float>(place.height())};
+}
+
+void SetFormFont(QWidget& control, const FontSpec& font, const FontSpec& inherited) {
+  control.setProperty(kPointsProperty, (font.Family.empty() ? inherited : font).Points);
+  control.setFont(FormFont(font, inherited));
+  TakeMargin(control);
+}
+
+void CopyFormFont(QWidget& control, const QWidget& other) {
+  control.setProperty(kPointsProperty, other.property(kPointsProperty));
+  control.setFont(other.font());
+}
+
+void ShowAtScale(double scale) {
+  SetPixelScale(scale);
+  QApplication::setFont(FormFont(kDialogFont, {}));
+  QToolTip::setFont(FormFont(kDialogFont, {}));
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    TakeScale(*window);
+    // What holds a control comes before it, so a label finds the room that it may grow into.
+    for (QWidget* control : window->findChildren<QWidget*>())
+      TakeScale(*control);
+    window->update();
+  }
+}
+
+}  // namespace quillon
