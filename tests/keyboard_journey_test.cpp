@@ -51,7 +51,7 @@ class KeyboardJourney : public WindowJourney, public testing::WithParamInterface
 
   /// Whether the mark of the focus goes round the whole cell: its dark line, and the pale one outside that.
   [[nodiscard]] bool IsMarked(const Window& window, const FormPlan& plan, std::string_view hand) const {
-    const int scale = Session().Screen().Scale;
+    const int scale = qRound(Session().Screen().Scale);
     const QRect square = OnScreen(window, plan, ObjectName("shapeCardBack", HandIndex(hand)));
     const auto lineAt = [&](int distance) {
       const QRect line = square.adjusted(-distance, -distance, distance, distance);

@@ -84,7 +84,7 @@ int WindowJourney::CloseProgram() {
 
 QRect WindowJourney::OnScreen(const Window& window, const FormPlan& plan, std::string_view control) const {
   const QRect place = plan.Place(control);
-  const int scale = Session().Screen().Scale;
+  const double scale = Session().Screen().Scale;
   return {window.Place.topLeft() + place.topLeft() * scale, place.size() * scale};
 }
 
@@ -181,7 +181,7 @@ bool WindowJourney::BarReaches(int percent) const {
 
 // The text is in the upper half, to the right of the icon, and takes the keyboard when it is clicked.
 std::string WindowJourney::MessageText(const Window& box) const {
-  const int line = 18 * Session().Screen().Scale;
+  const int line = qRound(18 * Session().Screen().Scale);
   Session().ClickAt({box.Place.center().x(), box.Place.top() + line});
   return Session().CopyAllText();
 }
@@ -192,11 +192,11 @@ void WindowJourney::Answer(const Window& box, const std::vector<std::string>& ke
 }
 
 GridColorTable WindowJourney::CellColors(const Window& window, const FormPlan& plan) const {
-  const int scale = Session().Screen().Scale;
+  const int below = qRound(3 * Session().Screen().Scale);
   GridColorTable colors{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const QRect square = OnScreen(window, plan, Indexed("shapeCardBack", index));
-    const QRgb color = Session().Color({square.center().x(), square.top() + 3 * scale});
+    const QRgb color = Session().Color({square.center().x(), square.top() + below});
     colors.at(static_cast<std::size_t>(index)) = MakeRgb(qRed(color), qGreen(color), qBlue(color));
   }
   return colors;

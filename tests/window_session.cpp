@@ -34,11 +34,10 @@ constexpr std::size_t kLineSizeField = 12;
 constexpr std::size_t kColorCountField = 19;
 constexpr std::uint32_t kColorSize = 12;
 
-// The fonts that the program brings along, drawn alike on every machine.
+// Those of the window manager; the program brings its own. Drawn alike on every machine.
 constexpr std::string_view kFonts = R"(<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig>
-  <dir>/usr/share/fonts/truetype/liberation</dir>
   <dir>/usr/share/fonts/truetype/dejavu</dir>
   <cachedir>/var/cache/fontconfig</cachedir>
   <alias><family>Sans Serif</family><prefer><family>DejaVu Sans</family></prefer></alias>

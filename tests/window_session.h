@@ -27,12 +27,11 @@
 
 namespace quillon {
 
-/// The screen, the scale at which the program is to draw on it, 2 for 200%, and whether there is an accessibility bus
-/// for a screen reader.
+/// The screen, the scale of its desktop, 2 for 200%, and whether there is an accessibility bus for a screen reader.
 struct Desk {
   int Width = 1400;
   int Height = 1000;
-  int Scale = 1;
+  double Scale = 1;
   bool IsHeard = false;
 };
 
