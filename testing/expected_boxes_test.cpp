@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <string_view>
 
+#include "artwork/artwork.h"
 #include "toolkit/message_dialogs.h"
 
 namespace quillon {
@@ -22,6 +23,7 @@ const Message kNote = {.title = "Quillon", .text = "First line.\r\nSecond line."
 
 // Statements that have to fail may reach no local variable, so all of them are here.
 MessageAnswer Show(const Message& message) {
+  InitArtwork();  // with the icons of the boxes
   return MessageDialogs().Show(message);
 }
 

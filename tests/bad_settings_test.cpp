@@ -47,14 +47,15 @@ std::string TextOf(const Start& start) {
          "; upgrade " + std::to_string(start.Upgrade);
 }
 
-// The screen of the tests is 800 by 800 pixels, and the window 1020 by 603.
-constexpr int kTwips = 12000;
-constexpr int kCentredLeft = -110;
-constexpr int kCentredTop = 99;  // half a pixel goes up
+// The screen of the tests is 1400 by 1000 pixels, and the window 1020 by 603.
+constexpr int kWidth = 21000;  // twips
+constexpr int kHeight = 15000;
+constexpr int kCentredLeft = 190;
+constexpr int kCentredTop = 199;  // half a pixel goes up
 
-int PixelOf(const std::string& text) {
+int PixelOf(const std::string& text, int screenLength) {
   const double twips = plain::LeadingNumber(text);
-  const bool outside = twips < 0 || twips > kTwips;
+  const bool outside = twips < 0 || twips > screenLength;
   return outside ? 0 : static_cast<int>(std::floor(static_cast<double>(static_cast<float>(twips)) / 15 + 0.5));
 }
 
@@ -71,8 +72,8 @@ Start PlainStart(const std::string& file) {
   const std::string left = plain::SettingIn(file, "Main", "Left");
   const std::string top = plain::SettingIn(file, "Main", "Top");
   const bool placed = !left.empty() && !top.empty();
-  start.Left = placed ? PixelOf(left) : kCentredLeft;
-  start.Top = placed ? PixelOf(top) : kCentredTop;
+  start.Left = placed ? PixelOf(left, kWidth) : kCentredLeft;
+  start.Top = placed ? PixelOf(top, kHeight) : kCentredTop;
   const double upgrade = std::nearbyint(plain::LeadingNumber(plain::SettingIn(file, "Upgrade", "Auto")));
   constexpr int kInvalidPropertyValue = 380;
   const bool known = upgrade == 0 || upgrade == 1 || upgrade == 2;
@@ -221,9 +222,10 @@ const std::vector<OddValues> kOddValues = {
            "2=1e308\r\n3=1e308\r\n4=1",
            "|")},
     {"[Main]\r\nLeft=",
-     Split("-5\r\nTop=-0.001|12001\r\nTop=1e999|12000\r\nTop=12000|left\r\nTop=top|150 twips\r\nTop=3e2x|"
-           "1e-999\r\nTop=.0|0x96\r\nTop=NaN",
-           "|")},
+     Split(
+         "-5\r\nTop=-0.001|21001\r\nTop=1e999|21000\r\nTop=15000|1\r\nTop=15001|left\r\nTop=top|150 twips\r\nTop=3e2x|"
+         "1e-999\r\nTop=.0|0x96\r\nTop=NaN",
+         "|")},
     {"[Upgrade]\r\nAuto=", Split("2|0.5|1 = yes|true|3|-1|1e999", "|")}};
 
 TEST(BadSettings, BringUpWhatThePlainReaderFinds) {
@@ -251,7 +253,7 @@ TEST(BadSettings, ThatCannotBeReadAreTheUsualOnesAndStopNothing) {
     } else {
       std::filesystem::create_symlink(kind == "circle"s ? "settings.ini" : "nowhere", file);
     }
-    EXPECT_EQ(TextOf(StartOf(stage)), "odds X:1, 0%; at -110,99; upgrade 0");
+    EXPECT_EQ(TextOf(StartOf(stage)), "odds X:1, 0%; at 190,199; upgrade 0");
     EXPECT_TRUE(stage.Form.close());
     EXPECT_EQ(stage.Ends, 1);
   }

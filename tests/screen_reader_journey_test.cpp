@@ -28,8 +28,9 @@ class ScreenReaderJourney : public WindowJourney {
   using Part = ScreenReader::Part;
 
   ScreenReaderJourney() : WindowJourney(Desk{.IsHeard = true}) {
-    StartProgramWithRanges();
+    // First, so that the registry is there for the program to enter.
     reader_ = std::make_unique<ScreenReader>(Session().BusAddress());
+    StartProgramWithRanges();
     Session().WaitUntil("the screen reader knows the program", [&] { return reader_->Meet(Session().Running().Id()); });
   }
 

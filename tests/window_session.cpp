@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
@@ -104,7 +105,14 @@ WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "M
   if (desk_.IsHeard) StartBuses();
 }
 
-WindowSession::~WindowSession() = default;
+WindowSession::~WindowSession() {
+  if (!accessibilityBus_) return;
+  // Killed, the launcher would leave its bus running.
+  kill(accessibilityBus_->Id(), SIGTERM);
+  const auto limit = steady_clock::now() + kLimit;
+  while (!accessibilityBus_->Status() && steady_clock::now() < limit)
+    std::this_thread::sleep_for(kBetweenQuestions);
+}
 
 // ---- the program and its folder
 
@@ -324,8 +332,9 @@ void WindowSession::StartBuses() {
   accessibilityBus_ = std::make_unique<RunningProgram>(
       Prepare("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately", "--a11y=1"}));
   WaitUntil("there is an accessibility bus", [this] {
-    return RunProgram(Prepare("dbus-send",
-                              {"--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"}))
+    // To ask the bus itself would start another launcher, to which nobody has said that a screen reader is there.
+    return RunProgram(Prepare("dbus-send", {"--print-reply", "--dest=org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                            "org.freedesktop.DBus.GetNameOwner", "string:org.a11y.Bus"}))
                .Status == 0;
   });
 }

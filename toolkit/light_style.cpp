@@ -45,7 +45,7 @@ void DrawEdge(QPainter& painter, const QStyleOption& option) {
 }
 
 // Signs are drawn on a square of so many pixels of the design, from its middle.
-void DrawSign(QPainter& painter, const QStyleOption& option, const QPolygonF& sign, double width) {
+void DrawSign(QPainter& painter, const QStyleOption& option, const QList<QPointF>& sign, double width) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(QRectF(option.rect).center());
@@ -59,8 +59,8 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
   painter.fillRect(option.rect,
                    QColor::fromRgb(Has(option, QStyle::State_Sunken) ? kPressedFace : qRgb(255, 255, 255)));
   DrawEdge(painter, option);
-  if (Has(option, QStyle::State_On)) DrawSign(painter, option, QPolygonF({{-3, 0}, {-1, 2.5}, {3.5, -3}}), 1.8);
-  if (Has(option, QStyle::State_NoChange)) DrawSign(painter, option, QPolygonF({{-3, 0}, {3, 0}}), 2.2);
+  if (Has(option, QStyle::State_On)) DrawSign(painter, option, {{-3, 0}, {-1, 2.5}, {3.5, -3}}, 1.8);
+  if (Has(option, QStyle::State_NoChange)) DrawSign(painter, option, {{-3, 0}, {3, 0}}, 2.2);
 }
 
 void DrawButton(QPainter& painter, const QStyleOption& option) {
@@ -75,7 +75,7 @@ void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QRec
   DrawEdge(painter, box);
   QStyleOption sign(box);
   sign.rect = arrow;
-  DrawSign(painter, sign, QPolygonF({{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}), 1.6);
+  DrawSign(painter, sign, {{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}, 1.6);
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, QRect handle) {

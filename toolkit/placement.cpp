@@ -59,7 +59,9 @@ void TakeScale(QWidget& control) {
 }  // namespace
 
 void SetPlace(QWidget& control, const TwipRect& place) {
-  control.setProperty(kPlaceProperty, QRectF(place.Left, place.Top, place.Width, place.Height));
+  const QPointF corner(static_cast<double>(place.Left), static_cast<double>(place.Top));
+  const QSizeF size(static_cast<double>(place.Width), static_cast<double>(place.Height));
+  control.setProperty(kPlaceProperty, QRectF(corner, size));
   TakePlace(control);
 }
 

@@ -95,7 +95,7 @@ const auto kClassPairs = std::to_array<ClassPairCase>({
 
 TEST(PlainCount, GivesTheTablesEntry) {
   for (const ClassPairCase& c : kClassPairs) {
-    SCOPED_TRACE(std);
+    SCOPED_TRACE(std::string(c.one) + " against " + c.other);
     const auto row = static_cast<std::size_t>(HandIndex(c.one));
     const auto column = static_cast<std::size_t>(HandIndex(c.other));
     std::int64_t points = 0;
