@@ -134,6 +134,7 @@ Json HandsJson(const Analysis& analysis, const std::vector<HandField>& fields) {
 
 std::vector<std::string> AnalysisFieldNames() {
   std::vector<std::string> names;
+  names.reserve(kFields.size() + 1 + kHandFields.size());
   for (const Field& field : kFields)
     names.emplace_back(field.Name);
   names.emplace_back(kHands);

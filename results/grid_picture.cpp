@@ -32,8 +32,8 @@ std::string CellMarkup(std::string_view label, const PictureCell& cell, int left
   const std::string fill = " fill=\"" + ColorText(ReadableOn(cell.Color)) + "\"";
   const int middle = left + kCellWidth / 2;
   std::string markup =
-      Joined({"<rect class=\"c\" x=\"", Number(left), "\" y=\"", Number(top), "\" width=\"", Number(kCellWidth),
-              "\" height=\"", Number(kCellHeight), "\" rx=\"4\" fill=\"", ColorText(cell.Color), "\"/>\n"});
+      Joined({R"(<rect class="c" x=")", Number(left), "\" y=\"", Number(top), "\" width=\"", Number(kCellWidth),
+              "\" height=\"", Number(kCellHeight), R"(" rx="4" fill=")", ColorText(cell.Color), "\"/>\n"});
   if (cell.Text.empty()) return markup + TextAt(middle, top + 25, fill, label);
   return markup + TextAt(middle, top + 18, fill, label) + TextAt(middle, top + 33, fill + " class=\"s\"", cell.Text);
 }
@@ -57,17 +57,16 @@ std::string GridPicture(std::string_view title, std::span<const PictureGrid> gri
   const int count = static_cast<int>(grids.size());
   const std::string width = Number(2 * kMargin + count * kGridWidth + (count - 1) * kGridGap);
   const std::string height = Number(top + kGridHeight + kMargin);
-  std::string markup =
-      Joined({"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"", width, "\" height=\"", height, "\" viewBox=\"0 0 ",
-              width, " ", height,
-              "\" role=\"img\" font-family=\"Arial, Helvetica, sans-serif\" font-size=\"15\" font-weight=\"bold\" ",
-              "text-anchor=\"middle\">\n<title>", MarkupText(title), "</title>\n",
-              "<style>.s{font-size:11px;font-weight:normal}.c{stroke:#000;stroke-opacity:.1}</style>\n",
-              "<rect width=\"", width, "\" height=\"", height, "\" fill=\"#fff\"/>\n"});
+  std::string markup = Joined(
+      {R"(<svg xmlns="http://www.w3.org/2000/svg" width=")", width, "\" height=\"", height, "\" viewBox=\"0 0 ", width,
+       " ", height, R"(" role="img" font-family="Arial, Helvetica, sans-serif" font-size="15" font-weight="bold" )",
+       "text-anchor=\"middle\">\n<title>", MarkupText(title), "</title>\n",
+       "<style>.s{font-size:11px;font-weight:normal}.c{stroke:#000;stroke-opacity:.1}</style>\n", "<rect width=\"",
+       width, "\" height=\"", height, "\" fill=\"#fff\"/>\n"});
   int left = kMargin;
   for (const PictureGrid& grid : grids) {
     if (captions)
-      markup += TextAt(left + kGridWidth / 2, kMargin + 14, " fill=\"#336699\" font-size=\"17\"", grid.Caption);
+      markup += TextAt(left + kGridWidth / 2, kMargin + 14, R"( fill="#336699" font-size="17")", grid.Caption);
     markup += GridMarkup(grid, left, top);
     left += kGridWidth + kGridGap;
   }

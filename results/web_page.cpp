@@ -121,9 +121,8 @@ std::string Section(std::string_view attributes, std::string_view heading, std::
 
 std::string Panel(std::string_view label, const PageCell& cell) {
   // The cell has said its label already.
-  std::string markup =
-      Joined({"<span class=\"tip\"><b aria-hidden=\"true\" style=\"background:", ColorText(cell.PanelColor), "\">",
-              label, "</b>"});
+  std::string markup = Joined({R"(<span class="tip"><b aria-hidden="true" style="background:)",
+                               ColorText(cell.PanelColor), "\">", label, "</b>"});
   for (const PageLine& line : cell.Panel)
     markup += Joined({" <span>", MarkupText(line.Title), " <b>", MarkupText(line.Text), "</b></span>"});
   if (!cell.Verdict.empty()) markup += Joined({" <em>", MarkupText(cell.Verdict), "</em>"});
@@ -131,7 +130,7 @@ std::string Panel(std::string_view label, const PageCell& cell) {
 }
 
 std::string GridTable(const PageGrid& grid) {
-  std::string markup = Joined({"<table class=\"grid\" role=\"grid\" aria-label=\"", MarkupText(grid.Name), "\">\n"});
+  std::string markup = Joined({R"(<table class="grid" role="grid" aria-label=")", MarkupText(grid.Name), "\">\n"});
   for (std::size_t i = 0; i < grid.Cells.size(); ++i) {
     const PageCell& cell = grid.Cells[i];
     const std::string_view label = HandLabel(static_cast<std::int16_t>(i));
@@ -187,14 +186,14 @@ std::string Explanation(const WebPage& page) {
 }
 
 std::string FiguresTable(const WebPage& page) {
-  constexpr std::string_view kHeading = "<th scope=\"col\"><button type=\"button\">";
+  constexpr std::string_view kHeading = R"(<th scope="col"><button type="button">)";
   std::string markup = Joined({"<table class=\"figures\">\n<thead><tr><th scope=\"col\" aria-sort=\"ascending\">",
                                "<button type=\"button\">Hand</button></th>"});
   for (const std::string& column : page.Columns)
     markup += Joined({kHeading, MarkupText(column), "</button></th>"});
   markup += "</tr></thead>\n<tbody>\n";
   for (std::size_t i = 0; i < page.Rows.size(); ++i) {
-    markup += Joined({"<tr><th scope=\"row\" data-o=\"", std::to_string(i), "\">",
+    markup += Joined({R"(<tr><th scope="row" data-o=")", std::to_string(i), "\">",
                       Swatch(page.Grids.front().Cells.at(i).Color, " class=\"hue\""),
                       HandLabel(static_cast<std::int16_t>(i)), "</th>"});
     for (const PageFigure& figure : page.Rows.at(i))

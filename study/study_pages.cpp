@@ -167,8 +167,8 @@ std::string ShortAmount(double amount) {
     if (text.size() <= kMost && (RoundTo(amount, digits) != 0 || amount == 0)) return text;
   }
   std::array<char, 16> text{};
-  const auto end = std::to_chars(text.begin(), text.end(), amount, std::chars_format::scientific, 1).ptr;
-  return {text.begin(), end};
+  char* const end = std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::scientific, 1).ptr;
+  return {text.data(), end};
 }
 
 std::string LimitsPage(const LimitsQuestion& question, const Limits& limits) {

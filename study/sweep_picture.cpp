@@ -110,11 +110,11 @@ class Drawing {
   [[nodiscard]] std::string Markup() {
     const std::string width = Number(left_ + kPlotWidth + kNameWidth);
     const std::string height = Number(kTop + height_ + kBelow);
-    Add({"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"", width, "\" height=\"", height, "\" viewBox=\"0 0 ",
-         width, " ", height, "\" role=\"img\" font-family=\"Arial, Helvetica, sans-serif\" font-size=\"13\" ",
+    Add({R"(<svg xmlns="http://www.w3.org/2000/svg" width=")", width, "\" height=\"", height, "\" viewBox=\"0 0 ",
+         width, " ", height, R"(" role="img" font-family="Arial, Helvetica, sans-serif" font-size="13" )",
          "fill=\"#3e4c59\">\n<title>", MarkupText(title_), "</title>\n<rect width=\"", width, "\" height=\"", height,
          "\" fill=\"#fff\"/>\n"});
-    TextAt(left_, 26, "font-size=\"17\" font-weight=\"bold\" fill=\"#336699\"", title_);
+    TextAt(left_, 26, R"(font-size="17" font-weight="bold" fill="#336699")", title_);
     Axes();
     Names();
     for (std::size_t i = 0; i < plot_.Lines.size(); ++i)
@@ -160,7 +160,7 @@ class Drawing {
     }
     Rule(left_, kTop, left_, bottom, "stroke=\"#7b8794\"");
     Rule(left_, bottom, right, bottom, "stroke=\"#7b8794\"");
-    Rule(left_, Y(0), right, Y(0), "class=\"zero\" stroke=\"#1f2933\" stroke-width=\"1.5\"");
+    Rule(left_, Y(0), right, Y(0), R"(class="zero" stroke="#1f2933" stroke-width="1.5")");
     TextAt(left_ + kPlotWidth / 2, bottom + 46, "text-anchor=\"middle\"", plot_.AcrossTitle);
     const std::string middle = Number(kTop + height_ / 2);
     Add({"<text transform=\"translate(18 ", middle, ") rotate(-90)\" text-anchor=\"middle\">",
@@ -179,9 +179,9 @@ class Drawing {
       last = x;
       const std::string y = Number(Y(line.Values[i]));
       points += Joined({points.empty() ? "" : " ", x, ",", y});
-      dots += Joined({"<circle cx=\"", x, "\" cy=\"", y, "\" r=\"3\" fill=\"", ColorOf(number), "\"/>\n"});
+      dots += Joined({"<circle cx=\"", x, "\" cy=\"", y, R"(" r="3" fill=")", ColorOf(number), "\"/>\n"});
     }
-    Add({"<polyline fill=\"none\" stroke=\"", ColorOf(number), "\" stroke-width=\"2.2\" stroke-linejoin=\"round\"",
+    Add({R"(<polyline fill="none" stroke=")", ColorOf(number), R"(" stroke-width="2.2" stroke-linejoin="round")",
          Dashes(number), " points=\"", points, "\"/>\n"});
     if (line.Values.size() <= kMostDots) markup_ += dots;
   }
@@ -203,15 +203,15 @@ class Drawing {
       next = y + kNameHeight;
     }
     double lowest = kTop + height_ - kNameHeight / 2;
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-      place->first = std::min(place->first, lowest);
-      lowest = place->first - kNameHeight;
+    for (std::size_t i = places.size(); i-- > 0;) {
+      places[i].first = std::min(places[i].first, lowest);
+      lowest = places[i].first - kNameHeight;
     }
     const double left = left_ + kPlotWidth + 8;
     for (const auto& [y, line] : places) {
       if (plot_.Lines[line].Name.empty()) continue;
-      Rule(left, y, left + 22, y, Joined({"stroke-width=\"2.2\" stroke=\"", ColorOf(line), "\"", Dashes(line)}));
-      TextAt(left + 28, y + 4.5, "font-weight=\"bold\" fill=\"#1f2933\"", plot_.Lines[line].Name);
+      Rule(left, y, left + 22, y, Joined({R"(stroke-width="2.2" stroke=")", ColorOf(line), "\"", Dashes(line)}));
+      TextAt(left + 28, y + 4.5, R"(font-weight="bold" fill="#1f2933")", plot_.Lines[line].Name);
     }
   }
 

@@ -28,7 +28,7 @@ double Luminance(const QColor& color) {
 }
 
 double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, pale] = std::minmax(Luminance(one), Luminance(other));
+  const auto [dark, pale] = std::minmax({Luminance(one), Luminance(other)});
   return (pale + 0.05) / (dark + 0.05);
 }
 

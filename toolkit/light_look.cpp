@@ -9,6 +9,7 @@
 namespace quillon {
 
 void UseLightLook() {
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns it from now on
   QApplication::setStyle(new LightStyle);
 
   const QColor heading(0x33, 0x66, 0x99);

@@ -73,7 +73,7 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
 void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QRect& arrow) {
   painter.fillRect(box.rect, Qt::white);
   DrawEdge(painter, box);
-  QStyleOption sign(box);
+  QStyleOption sign = static_cast<const QStyleOption&>(box);
   sign.rect = arrow;
   DrawSign(painter, sign, {{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}, 1.6);
 }

@@ -27,6 +27,7 @@ struct Request {
   std::string format;
 };
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): steps have no default, so both are always given.
 struct Answer {
   Steps stacks;
   StackChart chart;

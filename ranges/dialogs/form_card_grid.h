@@ -81,7 +81,7 @@ class FormCardGrid : public QObject {
   FormControls& controls_;
   QWidget& container_;
   ShiftWatch& shift_;
-  const QCheckBox* half_;
+  const QCheckBox* half_ = nullptr;
   CardGridPlaces places_;
   std::array<Shape*, kHandClassCount> squares_{};
   std::array<Label*, kHandClassCount> labels_{};

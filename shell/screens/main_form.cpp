@@ -64,7 +64,7 @@ std::vector<QWidget*> TabStopsOf(const ControlTable& table, const FormControls& 
       std::iter_swap(at, std::prev(at));
   }
   if (leadsToAnalyze) {
-    std::ranges::stable_partition(stops, [](const QWidget* control) {
+    std::stable_partition(stops.begin(), stops.end(), [](const QWidget* control) {
       const auto* ours = qobject_cast<const Control*>(control);
       return ours == nullptr || ours->Use() != ControlUse::kLink;
     });
