@@ -131,7 +131,7 @@ TEST_P(KeyboardJourney, PaintsRangesInBothDialogs) {
   Session().WaitUntilGone(manager);
   static_cast<void>(Session().WaitForWindow(kMainTitle));
 
-  // On to Analyze, and to the link behind it.
+  // On to Analyze, and to the link after it.
   Press({"ctrl+3", "Tab", "Tab", "Return"});
   const Window dialog = Session().WaitForWindow(kNewRangeTitle);
   Press({"Right", "space", "Tab", "Tab", "Tab"});

@@ -18,7 +18,7 @@ namespace quillon {
 void LoadFonts();
 
 /// What stands for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu Sans
-/// for Verdana, Liberation Mono for Courier New. Any other stands for itself.
+/// for Verdana, Liberation Mono for Courier New. Any other name is kept.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 
 /// The font of what no layout has: message boxes, menus, tool tips.

@@ -17,7 +17,7 @@ namespace quillon {
 /// The scale of the program, 1 at first: how many pixels 15 twips have.
 [[nodiscard]] double PixelScale();
 
-/// Sets it; what stands on the screen is moved by "toolkit/placement.h".
+/// Sets it. Controls that exist already take it by "toolkit/placement.h".
 void SetPixelScale(double scale);
 
 /// How many twips a pixel has at that scale.

@@ -1,7 +1,7 @@
 #pragma once
 
 // Where a form is on the screen ("shell/window_place.h"). Here a twip is one of the screen: 15 are a logical pixel of
-// the desktop, whatever the zoom of the form, so that a form comes back to where it was when the zoom has changed.
+// the desktop, whatever the zoom of the form, so that a form keeps its place when the zoom has changed.
 
 #include <QWidget>
 #include <string_view>
