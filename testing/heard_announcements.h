@@ -3,6 +3,7 @@
 // What a screen reader is told of by itself while this lives.
 
 #include <QObject>
+#include <QWidget>
 #include <string>
 #include <vector>
 

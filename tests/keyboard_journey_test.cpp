@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QUrl>
 #include <algorithm>
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -49,19 +50,15 @@ class KeyboardJourney : public WindowJourney, public testing::WithParamInterface
     Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
   }
 
-  /// Whether the mark of the focus goes round the whole cell: its dark line, and the pale one outside that.
+  /// Whether the dark line of the focus mark goes round the whole cell.
   [[nodiscard]] bool IsMarked(const Window& window, const FormPlan& plan, std::string_view hand) const {
-    const int scale = qRound(Session().Screen().Scale);
-    const QRect square = OnScreen(window, plan, ObjectName("shapeCardBack", HandIndex(hand)));
-    const auto lineAt = [&](int distance) {
-      const QRect line = square.adjusted(-distance, -distance, distance, distance);
-      const QRgb color = Session().Color(line.topLeft());
-      const bool same = Session().Color(line.bottomRight()) == color && Session().Color(line.topRight()) == color &&
-                        Session().Color(line.bottomLeft()) == color &&
-                        Session().Color({line.center().x(), line.top()}) == color;
-      return same ? QColor(color).name() : QString();
-    };
-    return lineAt(scale) == QStringLiteral("#102030") && lineAt(3 * scale) == QStringLiteral("#ffffff");
+    const int out = qRound(Session().Screen().Scale);
+    const QRect line =
+        OnScreen(window, plan, ObjectName("shapeCardBack", HandIndex(hand))).adjusted(-out, -out, out, out);
+    const QPoint upper(line.center().x(), line.top());
+    return std::ranges::all_of(
+        std::array{line.topLeft(), line.topRight(), line.bottomLeft(), line.bottomRight(), upper},
+        [&](QPoint point) { return Session().Color(point) == qRgb(0x10, 0x20, 0x30); });
   }
 };
 

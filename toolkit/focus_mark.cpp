@@ -15,7 +15,8 @@ namespace {
 // Of any colour, one of the two is at least 4:1 apart.
 constexpr QColor kDark(0x10, 0x20, 0x30);
 constexpr QColor kPale(0xFF, 0xFF, 0xFF);
-constexpr int kLine = 2;
+constexpr int kDarkLine = 2;
+constexpr int kPaleLine = 1;  // no wider than it must be: it lies over what is close to the control
 
 bool IsMarkedByItsForm(const QWidget& control) {
   const auto* box = qobject_cast<const QLineEdit*>(&control);
@@ -72,7 +73,7 @@ void FocusMark::Reach(QWidget& control, Qt::FocusReason reason) {
 
 void FocusMark::Place() {
   const QWidget& place = PlaceOf(*control_);
-  const int around = 2 * LinePixels(kLine);
+  const int around = LinePixels(kDarkLine) + LinePixels(kPaleLine);
   const QRect whole(place.mapTo(&window_, QPoint(0, 0)), place.size());
   setGeometry(whole.adjusted(-around, -around, around, around).intersected(window_.rect()));
   raise();
@@ -81,15 +82,13 @@ void FocusMark::Place() {
 
 void FocusMark::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const int line = LinePixels(kLine);
-  const auto drawLine = [&](int inside, const QColor& color) {
-    const QRect outer = rect().adjusted(inside, inside, -inside, -inside);
-    const QRect inner = outer.adjusted(line, line, -line, -line);
-    painter.setClipRegion(QRegion(outer).subtracted(inner));
-    painter.fillRect(outer, color);
-  };
-  drawLine(0, kPale);
-  drawLine(line, kDark);
+  painter.setClipRegion(QRegion(rect()).subtracted(Inside(LinePixels(kPaleLine) + LinePixels(kDarkLine))));
+  painter.fillRect(rect(), kPale);
+  painter.fillRect(Inside(LinePixels(kPaleLine)), kDark);
+}
+
+QRect FocusMark::Inside(int border) const {
+  return rect().adjusted(border, border, -border, -border);
 }
 
 }  // namespace quillon

@@ -26,6 +26,7 @@ class FocusMark : public QFocusFrame {
  private:
   void Reach(QWidget& control, Qt::FocusReason reason);
   void Place();
+  [[nodiscard]] QRect Inside(int border) const;
 
   QWidget& window_;
   QPointer<QWidget> control_;  // the last that had the focus

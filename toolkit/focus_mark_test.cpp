@@ -69,7 +69,7 @@ TEST_F(FocusMarkTest, GoesRoundWhateverTheKeyboardReaches) {
   for (QWidget* control : std::initializer_list<QWidget*>{&link, &picture, &memo, &list}) {
     control->setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(mark.isVisible());
-    EXPECT_EQ(mark.geometry(), control->geometry().adjusted(-4, -4, 4, 4));
+    EXPECT_EQ(mark.geometry(), control->geometry().adjusted(-3, -3, 3, 3));
   }
   form.setFocus(Qt::TabFocusReason);
   EXPECT_FALSE(mark.isVisible()) << "the window itself is nobody";
@@ -85,7 +85,7 @@ TEST_F(FocusMarkTest, StandsOutFromEveryColour) {
         frame.SetBackColor(ground);
         const QImage look = Look();
         double best = 0;
-        for (int depth = 0; depth < 4; ++depth)
+        for (int depth = 0; depth < 3; ++depth)
           best = std::max(best, Contrast(look.pixelColor(place.left() + depth, place.center().y()), ground));
         EXPECT_GE(best, 3) << qPrintable(ground.name());
       }
@@ -138,9 +138,9 @@ TEST_F(FocusMarkTest, ReturnsWithTheWindow) {
 TEST_F(FocusMarkTest, FollowsItsControlAndStaysInFront) {
   link.setFocus(Qt::TabFocusReason);
   frame.move(30, 30);
-  EXPECT_EQ(mark.geometry(), QRect(46, 46, 108, 28));
+  EXPECT_EQ(mark.geometry(), QRect(47, 47, 106, 26));
   frame.raise();
-  EXPECT_EQ(form.childAt(47, 47), &frame) << "the mouse goes through it";
+  EXPECT_EQ(form.childAt(48, 48), &frame) << "the mouse goes through it";
   EXPECT_EQ(form.children().last(), &mark) << "and it is in front";
   frame.hide();
   EXPECT_FALSE(mark.isVisible());
@@ -149,7 +149,7 @@ TEST_F(FocusMarkTest, FollowsItsControlAndStaysInFront) {
 TEST_F(FocusMarkTest, StaysInTheWindow) {
   picture.setGeometry(297, 60, 100, 30);
   picture.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(mark.geometry(), QRect(293, 56, 107, 38));
+  EXPECT_EQ(mark.geometry(), QRect(294, 57, 106, 36));
 }
 
 TEST_F(FocusMarkTest, GoesRoundAWholeCell) {
@@ -157,7 +157,7 @@ TEST_F(FocusMarkTest, GoesRoundAWholeCell) {
   square.setGeometry(16, 14, 108, 30);
   link.SetMarkedPlace(square);
   link.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(mark.geometry(), square.geometry().adjusted(-4, -4, 4, 4));
+  EXPECT_EQ(mark.geometry(), square.geometry().adjusted(-3, -3, 3, 3));
 }
 
 TEST_F(FocusMarkTest, LeavesABoxThatItsFormMarksToTheForm) {

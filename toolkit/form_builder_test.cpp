@@ -2,9 +2,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 #include <array>
 #include <gtest/gtest.h>
 #include <stdexcept>
@@ -178,6 +180,25 @@ TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
   EXPECT_EQ(controls.ShapeAt("shape").LineColor(), QColor(Qt::green));
   EXPECT_EQ(controls.ShapeAt("shape").Style(), LineStyle::kDotted);
   EXPECT_EQ(controls.ShapeAt("shape").LineWidth(), 2);
+}
+
+TEST(FormBuilder, LeavesTheWheelToTheWindowAndToWhatHasTheFocus) {
+  static constexpr std::array kRows = {
+      ControlRow{.Name = "list", .Kind = ControlKind::kChooser, .Place = {0, 0, 3000, 300}},
+      ControlRow{.Name = "text", .Kind = ControlKind::kReadOnlyMemo, .Text = "22+", .Place = {0, 600, 3000, 600}}};
+  QWidget form;
+  const OneTable<kRows> controls(form);
+  auto& list = controls.Get<QComboBox>("list");
+  auto& text = controls.Get<QPlainTextEdit>("text");
+  list.addItems({QStringLiteral("One"), QStringLiteral("Two")});
+  const QFont font = text.font();
+  for (QWidget* target : {static_cast<QWidget*>(&list), text.viewport()}) {
+    QWheelEvent wheel(QPointF(5, 5), target->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(target, &wheel);
+  }
+  EXPECT_EQ(list.currentIndex(), 0);
+  EXPECT_EQ(text.font(), font) << "its size is the window's zoom";
 }
 
 TEST(FormBuilder, GivesALineOfNoHeightAPixelToBeSeenBy) {

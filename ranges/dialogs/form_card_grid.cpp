@@ -175,7 +175,7 @@ bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
   const auto from = static_cast<std::int16_t>(cell - labels_.begin());
   const auto to = CellReachedFrom(from, press);
   if (!to) return QObject::eventFilter(watched, event);
-  if (*to != from) MoveFocus(*to);
+  MoveFocus(*to);  // also to where it is, for what it tells
   return true;
 }
 

@@ -35,6 +35,9 @@ void RangeChoosers::ShowLinks(std::int16_t index) {
   const bool isRange = !List(index).CurrentText().empty();
   const ChooserControls::Chooser& chooser = controls_.Choosers.at(static_cast<std::size_t>(index));
   chooser.Or.setVisible(isRange);
+  // With another window in front, Qt would leave the focus with a link that is gone.
+  QWidget& form = *chooser.Edit.window();
+  if (!isRange && form.focusWidget() == &chooser.Edit) form.setFocus(Qt::OtherFocusReason);
   chooser.Edit.setVisible(isRange);
 }
 

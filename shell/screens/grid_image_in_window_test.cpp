@@ -9,6 +9,7 @@
 
 #include "testing/main_stage.h"
 #include "testing/opened_files.h"
+#include "toolkit/focus_mark.h"
 
 namespace quillon {
 namespace {
@@ -80,18 +81,19 @@ TEST_F(GridImageInWindow, IsABitmapOfTheRegionUnderTheNameTyped) {
 
 TEST_F(GridImageInWindow, HasNoPanelOfTheKeyboardsInIt) {
   Get("lblCards", 0).setFocus(Qt::TabFocusReason);
-  Press(Qt::Key_Down);
+  Press(Qt::Key_Right);
   ASSERT_TRUE(Shows("frameHover"));
+  ASSERT_TRUE(Form.findChild<FocusMark*>()->isVisible());
   ExpectName("grid");
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Click("imgSave");
   VerifyExpectedBoxes();
 
   EXPECT_FALSE(Shows("frameHover")) << "nor does it come back with the window";
-  const QRect cell = Get("shapeCardBack", 60).geometry();
-  const QImage shown = Get("frameContent", kGridScreenIndex).grab(cell).toImage();
-  EXPECT_EQ(ImageOf(SavedGrids() / "grid").copy(cell.translated(-16, -12)).convertToFormat(QImage::Format_RGB32),
-            shown.convertToFormat(QImage::Format_RGB32));
+  const QImage saved = ImageOf(SavedGrids() / "grid").convertToFormat(QImage::Format_RGB32);
+  const QImage shown = Get("frameContent", kGridScreenIndex).grab(saved.rect().translated(16, 12)).toImage();
+  EXPECT_EQ(saved, shown.convertToFormat(QImage::Format_RGB32)) << "nor is the mark of the cell in it";
+  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 1));
 }
 
 TEST_F(GridImageInWindow, IsUncompressed) {

@@ -403,7 +403,7 @@ TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
       const QWidget& place = name == "lblCards(0)" ? Get("shapeCardBack", 0) : control;
       const QRect whole(place.mapTo(&Form, QPoint(0, 0)), place.size());
       EXPECT_TRUE(mark.isVisible()) << name;
-      EXPECT_EQ(mark.geometry(), whole.adjusted(-4, -4, 4, 4).intersected(Form.rect())) << name;
+      EXPECT_EQ(mark.geometry(), whole.adjusted(-3, -3, 3, 3).intersected(Form.rect())) << name;
     }
   }
 }

@@ -57,6 +57,13 @@ TEST_F(ZoomInWindow, TakesTheDialogsAlong) {
 
   Dialogs.ShowNewRange();
   EXPECT_EQ(Dialogs.LoadedNewRange()->size(), PixelPlace({0, 0, 12195, 9105}).size()) << "one that comes later, too";
+
+  Dialogs.LoadedManager()->hide();
+  Dialogs.LoadedManager()->move(1000, 700);
+  QTest::keyClick(Dialogs.LoadedNewRange()->windowHandle(), Qt::Key_Plus, Qt::ControlModifier);
+  ExpectZoom(125);
+  const QRect room = Form.screen()->availableGeometry();
+  EXPECT_TRUE(room.contains(Dialogs.LoadedManager()->frameGeometry())) << "and one that is hidden meanwhile";
 }
 
 TEST_F(ZoomInWindow, StartsWithTheStepThatIsKept) {

@@ -40,9 +40,9 @@ void ZoomView::Start() {
 void ZoomView::Choose(int percent) {
   StoreZoom(percent, folder_);
   Show(percent);
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible()) KeepOnScreen(*window);
-  }
+  // Those that are hidden come up where they are now.
+  for (QWidget* window : QApplication::topLevelWidgets())
+    KeepOnScreen(*window);
 }
 
 void ZoomView::Show(int percent) {
