@@ -76,7 +76,9 @@ void BatchOfAThousand(benchmark::State& timing) {
     std::ostringstream output;
     std::ostringstream errors;
     const std::vector<std::string> arguments = {"batch", "--jobs", std::to_string(timing.range(0))};
-    const int status = RunCompanion(arguments, {output, errors, {}, {}, std::chrono::steady_clock::now, &input});
+    const int status = RunCompanion(
+        arguments,
+        {output, errors, [] { return std::filesystem::path(); }, {}, std::chrono::steady_clock::now, &input});
     if (status != kDone) timing.SkipWithError("refused");
     benchmark::DoNotOptimize(output);
   }

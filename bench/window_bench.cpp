@@ -66,8 +66,13 @@ struct Program {
 
   Program() {
     SaveRangeText(Files.Folder(), "Everything", EveryHandAt(1));
-    Window = std::make_unique<MainForm>(MainForm::Surroundings{
-        .Folder = Files.Folder(), .Messages = Boxes, .Inputs = Boxes, .Web = Web, .Shift = Shift, .EndProcess = [] {}});
+    Window = std::make_unique<MainForm>(MainForm::Surroundings{.Folder = Files.Folder(),
+                                                               .UserGuide = {},
+                                                               .Messages = Boxes,
+                                                               .Inputs = Boxes,
+                                                               .Web = Web,
+                                                               .Shift = Shift,
+                                                               .EndProcess = [] {}});
     Window->Start();
     QCoreApplication::processEvents();
   }

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-std::filesystem::path UserGuidePath(const ProgramFolder& folder) {
-  return folder.Path / "Guide" / "user-guide.html";
+std::filesystem::path UserGuidePath(const std::filesystem::path& sharedFolder) {
+  return sharedFolder / "Guide" / "user-guide.html";
 }
 
 Message NoUserGuideMessage(const std::filesystem::path& guide) {

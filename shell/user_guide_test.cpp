@@ -6,7 +6,7 @@ namespace quillon {
 namespace {
 
 TEST(UserGuide, LiesBesideTheProgramAndIsNamedWhereNothingOpensIt) {
-  const std::filesystem::path guide = UserGuidePath({"/home/ann/My Quillon"});
+  const std::filesystem::path guide = UserGuidePath("/home/ann/My Quillon");
   EXPECT_EQ(guide, "/home/ann/My Quillon/Guide/user-guide.html");
 
   const Message told = NoUserGuideMessage(guide);

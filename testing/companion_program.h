@@ -46,7 +46,8 @@ struct CompanionScene {
   std::istringstream input(scene.Typed);
   CompanionOutcome outcome;
   try {
-    outcome.Status = RunCompanion(arguments, {output, errors, folder, scene.Terminal, now, &input});
+    outcome.Status =
+        RunCompanion(arguments, {output, errors, [&folder] { return folder; }, scene.Terminal, now, &input});
   } catch (const RunTimeError& error) {
     outcome.Status = kFailed;
     errors << error.what() << '\n';

@@ -20,6 +20,7 @@
 
 #include "hand/hand_classes.h"
 #include "shell/screens/main_form.h"
+#include "shell/user_guide.h"
 #include "testing/dialog_stage.h"
 #include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
@@ -64,6 +65,7 @@ class MainStage {
 
   explicit MainStage(StageClock clock = StageClock::kHurried, NumberMarks marks = {})
       : Form({.Folder = Program.Folder(),
+              .UserGuide = UserGuidePath(Program.Folder().Path),
               .Messages = Boxes,
               .Inputs = Boxes,
               .Web = Web,

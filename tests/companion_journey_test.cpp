@@ -184,6 +184,64 @@ TEST(CompanionJourney, LooksInAFolderNamedFromTheCurrentOne) {
   EXPECT_EQ(outcome.Output, "[Everything]\n");
 }
 
+// ---- installed
+
+// A household whose program came as a package, with the data of a user in a folder of its own.
+class InstalledHousehold : public Household {
+ public:
+  InstalledHousehold() { std::ofstream(ProgramFolder() / "installed") << ".\n"; }
+
+  [[nodiscard]] ProgramOutcome RunAs(const fs::path& dataHome, const Arguments& arguments) const {
+    ProgramRun run = Prepare(arguments);
+    run.Environment["XDG_DATA_HOME"] = dataHome.string();
+    return RunProgram(run);
+  }
+};
+
+TEST(CompanionJourney, PrintsTheFolderThatItIsIn) {
+  const Household household;
+  const ProgramOutcome outcome = household.Run({"folder"});
+  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+  EXPECT_EQ(outcome.Output, household.ProgramFolder().string() + "\n");
+}
+
+TEST(CompanionJourney, InstalledKeepsTheRangesOfEachUserApart) {
+  const InstalledHousehold household;
+  const fs::path ann = household.Elsewhere() / "ann";
+  const fs::path bob = household.Elsewhere() / "bob";
+  const std::string examples = household.RunAs(bob, {"ranges"}).Output;
+  EXPECT_THAT(examples, HasSubstr("Tight Open\t"));
+
+  const auto beside = FolderState(household.ProgramFolder());
+  EXPECT_EQ(household.RunAs(ann, {"folder"}).Output, (ann / "Quillon").string() + "\n");
+  EXPECT_EQ(household.RunAs(ann, {"save", "Mine", "--hands", "AA"}).Status, 0);
+  EXPECT_THAT(household.RunAs(ann, {"ranges"}).Output, HasSubstr("\nMine\t"));
+  EXPECT_EQ(household.RunAs(bob, {"ranges"}).Output, examples);
+  EXPECT_TRUE(FolderState(household.ProgramFolder()) == beside);
+}
+
+TEST(CompanionJourney, InstalledFindsTheRangesThatWereCopiedFromAPortableFolder) {
+  const Household portable;
+  ASSERT_EQ(portable.Run({"save", "Mine", "--hands", "AA"}).Status, 0);
+  const InstalledHousehold household;
+  fs::create_directory(household.Elsewhere() / "Quillon");
+  fs::copy(portable.RangeFolder(), household.Elsewhere() / "Quillon" / "Ranges");
+  EXPECT_EQ(household.RunAs(household.Elsewhere(), {"ranges"}).Output, portable.Run({"ranges"}).Output);
+}
+
+TEST(CompanionJourney, InstalledNeedsAFolderOnlyForRangesWithNames) {
+  const InstalledHousehold household;
+  const fs::path nowhere = household.Elsewhere() / "file" / "data";
+  std::ofstream(household.Elsewhere() / "file") << "x";
+  const ProgramOutcome typed = household.RunAs(nowhere, {"equity", "--hands", "any"});
+  EXPECT_EQ(typed.Status, 0) << typed.Errors;
+  for (const Arguments& arguments : {Arguments{"folder"}, {"ranges"}, kEquity, {"save", "Mine", "--hands", "AA"}}) {
+    const ProgramOutcome outcome = household.RunAs(nowhere, arguments);
+    EXPECT_EQ(outcome.Status, 1) << arguments[0];
+    EXPECT_EQ(outcome.Errors, "Run-time error '76': Path not found (" + nowhere.string() + ": Not a directory)\n");
+  }
+}
+
 // ---- exit statuses
 
 struct StatusCase {

@@ -53,6 +53,38 @@ TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFoldersAndShowsTheAboutScr
   EXPECT_EQ(StoredPixels(Session().Program(), "Top"), corner.y());
 }
 
+TEST_F(StartJourney, InstalledProgramKeepsEverythingInTheUsersFolder) {
+  const fs::path installed = Session().Program().Path;
+  const fs::path folder = installed.parent_path() / ".local" / "share" / "Quillon";
+  std::ofstream(installed / "installed") << ".\n";
+  Session().AddExampleRanges();
+  fs::copy_file(QUILLON_CLI_PROGRAM, installed / "quillon-cli");
+  StartProgram();
+  EXPECT_TRUE(fs::exists(folder / "Ranges" / "Tight Open.txt"));
+  EXPECT_TRUE(fs::is_directory(folder / "Saved Grids"));
+  const auto companion = Session().StartBeside((installed / "quillon-cli").string(), {"folder"});
+  Session().WaitUntil("the companion has ended", [&] { return companion->Status().has_value(); });
+  EXPECT_EQ(companion->Output(), folder.string() + "\n");
+
+  EXPECT_EQ(CloseProgram(), 0);
+  EXPECT_TRUE(fs::exists(folder / "settings.ini"));
+  EXPECT_FALSE(fs::exists(installed / "settings.ini"));
+  EXPECT_FALSE(fs::exists(installed / "Saved Grids"));
+}
+
+TEST_F(StartJourney, InstalledProgramTellsWhyTheUsersFolderCannotBeMade) {
+  const fs::path installed = Session().Program().Path;
+  std::ofstream(installed / "installed") << ".\n";
+  Session().AddExampleRanges();
+  std::ofstream(installed.parent_path() / ".local") << "a file";
+  Session().Start();
+  const std::string text = MessageText(Session().WaitForWindow("Quillon"));
+  EXPECT_EQ(text, "Run-time error '76': Path not found (" + (installed.parent_path() / ".local" / "share").string() +
+                      ": Not a directory)\n\nQuillon ends now.");
+  Session().Press({"Return"});
+  EXPECT_EQ(Session().WaitForEnd(), 1);
+}
+
 TEST_F(StartJourney, NextStartFindsTheBoxesAndThePlaceAsTheyWere) {
   StartProgramWithRanges();
   Click("lblNav(0)");

@@ -103,7 +103,7 @@ TEST_P(KeyboardJourney, LeadsThroughTheWholeProgram) {
   WaitForGridOf(kEquityRun, kEquity);
 
   Press({"F1"});
-  const QUrl guide = QUrl::fromLocalFile(QString::fromStdString(UserGuidePath(Session().Program()).string()));
+  const QUrl guide = QUrl::fromLocalFile(QString::fromStdString(UserGuidePath(Session().Program().Path).string()));
   EXPECT_EQ(Session().CommandArguments("xdg-open"), guide.toEncoded().toStdString() + "\n");
 
   Press({"ctrl+q"});

@@ -92,12 +92,14 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
     rangesTaken &= TakeRange(request.ranges[1], inputs, situation.CallingRange, situation.CallingRangeText);
   }
   if (!rangesTaken) return kRefused;
-  if (const auto complaint = CheckInputs(mode, situation, inputs.Folder())) {
+  const bool namesRanges = request.ranges[0].Name || request.ranges[1].Name;
+  const ProgramFolder folder = namesRanges ? inputs.Folder() : ProgramFolder{};
+  if (const auto complaint = CheckInputs(mode, situation, folder)) {
     surroundings.Errors << complaint->Title << ": " << complaint->Text << '\n';
     return kRefused;
   }
 
-  const Analysis analysis = AnalyzeWithProgress(SituationOf(mode, situation, inputs.Folder()), surroundings);
+  const Analysis analysis = AnalyzeWithProgress(SituationOf(mode, situation, folder), surroundings);
   const std::string text = AnalysisOutput(format, analysis, request.hands);
   if (format == OutputFormat::kPlain && surroundings.Terminal.ShowColors) {
     surroundings.Output << TerminalGrid(GridColors(analysis)) << '\n';

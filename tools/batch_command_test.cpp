@@ -45,7 +45,8 @@ class BatchCommand : public testing::Test {
   [[nodiscard]] int Run(const Arguments& arguments, std::streambuf& lines, std::ostream& output) const {
     std::ostringstream errors;
     std::istream input(&lines);
-    return RunCompanion(arguments, {output, errors, Folder(), {}, std::chrono::steady_clock::now, &input});
+    return RunCompanion(arguments,
+                        {output, errors, [this] { return Folder(); }, {}, std::chrono::steady_clock::now, &input});
   }
 
  private:

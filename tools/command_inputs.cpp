@@ -97,9 +97,12 @@ std::string CheckLabel(const std::string& label) {
 }
 
 CommandInputs::CommandInputs(const Surroundings& surroundings, const std::string& folder)
-    : surroundings_(surroundings),
-      folder_{folder.empty() ? surroundings.ProgramFolder : std::filesystem::path(folder)},
-      hands_(ReadHandNumbers()) {}
+    : surroundings_(surroundings), folder_{folder}, hands_(ReadHandNumbers()) {}
+
+const ProgramFolder& CommandInputs::Folder() {
+  if (folder_.Path.empty()) folder_.Path = surroundings_.ProgramFolder();
+  return folder_;
+}
 
 bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
   PrintedMessages messages(surroundings_.Errors);
@@ -139,13 +142,13 @@ void CommandInputs::Refuse(std::string_view reason) {
 }
 
 std::optional<GivenRange> CommandInputs::NamedRange(const std::string& name) {
-  if (const auto unknown = WhyUnknown(name, folder_)) {
+  if (const auto unknown = WhyUnknown(name, Folder())) {
     Refuse(*unknown);
     return std::nullopt;
   }
-  const auto unreadable = WhyUnreadable(name, folder_);
+  const auto unreadable = WhyUnreadable(name, Folder());
   if (unreadable) Refuse(*unreadable);
-  GivenRange range{name, LoadRangeText(folder_, name)};
+  GivenRange range{name, LoadRangeText(Folder(), name)};
   range.Weights = RangeWeightsOf(range.Text);
   if (!unreadable) return range;
   status_ = kFailed;

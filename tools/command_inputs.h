@@ -122,7 +122,8 @@ class CommandInputs {
   /// The exit status after something was wrong with an input.
   [[nodiscard]] int Status() const { return status_; }
 
-  [[nodiscard]] const ProgramFolder& Folder() const { return folder_; }
+  /// Fails as Surroundings::ProgramFolder does.
+  [[nodiscard]] const ProgramFolder& Folder();
   [[nodiscard]] const HandNumbers& Hands() const { return hands_; }
 
  private:
@@ -130,7 +131,7 @@ class CommandInputs {
   [[nodiscard]] std::optional<std::string> StandardInput();
 
   const Surroundings& surroundings_;
-  ProgramFolder folder_;
+  ProgramFolder folder_;  // with an empty path until it is asked for
   HandNumbers hands_;
   bool inputTaken_ = false;
   int status_ = kRefused;

@@ -21,8 +21,9 @@ namespace quillon {
 [[nodiscard]] RunCommand OfferBalance(CLI::App& options);
 [[nodiscard]] RunCommand OfferBatch(CLI::App& options);
 [[nodiscard]] RunCommand OfferChart(CLI::App& options);
+[[nodiscard]] RunCommand OfferFolderPath(CLI::App& options);
 
-inline constexpr std::array<Command, 13> kCommands = {{
+inline constexpr std::array<Command, 14> kCommands = {{
     {"call", "What each hand wins or loses by calling an all-in",
      "He is all in. For each of the 169 starting hands: its equity against his range, and what calling is\n"
      "worth against folding, in the unit of the amounts.",
@@ -71,6 +72,10 @@ inline constexpr std::array<Command, 13> kCommands = {{
      "situations.jsonl --fields best,ev,equity", OfferBatch},
     {"matrix", "The equity of every class against every other", "A row for each of the 169 classes, a column for each.",
      "--format csv", OfferMatrix},
+    {"folder", "Prints the folder that holds the ranges, the settings and the saved grids",
+     "A portable copy keeps them beside the program; an installed one keeps each user's in his home, and makes the\n"
+     "folder with a few example ranges if it is missing.",
+     "", OfferFolderPath},
 }};
 
 }  // namespace quillon

@@ -27,7 +27,9 @@ inline constexpr int kInterrupted = 130;  // of a batch that Ctrl+C ended; what 
 struct Surroundings {
   std::ostream& Output;
   std::ostream& Errors;
-  std::filesystem::path ProgramFolder;  // where "Ranges" is looked for unless --folder names another folder
+  /// Where "Ranges" is looked for unless --folder names another folder. Asked only where a range is named or saved, so
+  /// that whoever types his ranges needs no folder.
+  std::function<std::filesystem::path()> ProgramFolder;
   quillon::Terminal Terminal{};
   std::function<std::chrono::steady_clock::time_point()> Now = std::chrono::steady_clock::now;
   std::istream* Input = nullptr;  // where "-" reads a range, and a batch its lines; without it there is nothing

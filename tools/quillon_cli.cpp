@@ -1,14 +1,14 @@
 // quillon-cli: the command-line companion's outermost frame.
 
 #include <chrono>
-#include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <string>
 #include <unistd.h>
 #include <vector>
 
+#include "shell/program_folder.h"
+#include "support/environment.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
 #include "tools/companion.h"
@@ -17,19 +17,14 @@
 
 namespace {
 
-std::string Variable(const char* name) {
-  const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): there is one thread
-  return value == nullptr ? "" : value;
-}
-
 int Run(const std::vector<std::string>& arguments) {
   quillon::DescriptorInput standardInput(STDIN_FILENO, "standard input");
   std::istream input(&standardInput);
   const quillon::Surroundings surroundings{
       std::cout,
       std::cerr,
-      quillon::ExecutableFolder(),
-      quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, Variable),
+      [] { return quillon::ProgramFolderPath(quillon::ExecutableFolder(), quillon::ProcessVariable); },
+      quillon::TerminalOf(isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0, quillon::ProcessVariable),
       std::chrono::steady_clock::now,
       &input};
   const int status = quillon::RunCompanion(arguments, surroundings);

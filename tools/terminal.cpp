@@ -1,5 +1,7 @@
 #include "tools/terminal.h"
 
+#include <string>
+
 namespace quillon {
 
 Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, const EnvironmentVariable& variable) {

@@ -2,13 +2,9 @@
 
 // What of the companion's output suits the terminal that it is printed on.
 
-#include <functional>
-#include <string>
+#include "support/environment.h"
 
 namespace quillon {
-
-/// The value of an environment variable, the empty text where it is not set.
-using EnvironmentVariable = std::function<std::string(const char* name)>;
 
 struct Terminal {
   bool ShowProgress = false;  // a bar on standard error

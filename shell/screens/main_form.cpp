@@ -262,7 +262,7 @@ void MainForm::BindKeys() {
 }
 
 void MainForm::ShowUserGuide() {
-  const std::filesystem::path guide = UserGuidePath(around_.Folder);
+  const std::filesystem::path& guide = around_.UserGuide;
   OpenInBrowser(QUrl::fromLocalFile(ToQt(guide.string())),
                 [this, guide] { around_.Messages.Show(NoUserGuideMessage(guide)); });
 }

@@ -4,6 +4,7 @@
 // control's events to the routine that answers them.
 
 #include <QWidget>
+#include <filesystem>
 #include <functional>
 
 #include "analysis/analysis_state.h"
@@ -31,6 +32,7 @@ class MainForm : public QWidget {
   /// What the window finds round it. All of it outlives the window.
   struct Surroundings {
     ProgramFolder Folder;
+    std::filesystem::path UserGuide;
     MessageBoxes& Messages;
     InputBoxes& Inputs;
     WebClient& Web;

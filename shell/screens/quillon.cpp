@@ -1,12 +1,15 @@
 // The desktop program. It takes no arguments but those of Qt's, as a session manager gives them when it brings the
-// window back, and keeps everything in the folder of its executable.
+// window back, and keeps everything in the program's folder ("shell/program_folder.h").
 
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 
+#include "shell/program_folder.h"
 #include "shell/screens/http_client.h"
 #include "shell/screens/main_form.h"
+#include "shell/user_guide.h"
+#include "support/environment.h"
 #include "support/folders.h"
 #include "toolkit/application.h"
 #include "toolkit/message_dialogs.h"
@@ -20,11 +23,13 @@ namespace {
 constexpr int kWrongUsage = 2;
 
 int RunWindow() {
-  const ProgramFolder folder{ExecutableFolder()};
+  const std::filesystem::path executableFolder = ExecutableFolder();
+  const ProgramFolder folder{ProgramFolderPath(executableFolder, ProcessVariable)};
   MessageDialogs boxes;
   HttpClient web;
   ShiftWatch shift;
   MainForm window({.Folder = folder,
+                   .UserGuide = UserGuidePath(SharedFolderPath(executableFolder)),
                    .Messages = boxes,
                    .Inputs = boxes,
                    .Web = web,

@@ -1,0 +1,110 @@
+#include "shell/program_folder.h"
+
+#include <cerrno>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "support/folder_lock.h"
+#include "support/folders.h"
+#include "support/run_time_error.h"
+#include "support/uninterrupted.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kRanges = "Ranges";
+
+bool IsInstalled(const fs::path& executableFolder) {
+  std::error_code unknown;
+  return fs::exists(executableFolder / kPackageMarker, unknown);
+}
+
+// Where programs keep a user's data.
+fs::path DataHome(const EnvironmentVariable& variable) {
+  fs::path dataHome = variable("XDG_DATA_HOME");
+  if (dataHome.is_absolute()) return dataHome;
+  const fs::path home = variable("HOME");
+  if (home.is_absolute()) return home / ".local" / "share";
+  throw RunTimeError(RunTimeFault::kPathNotFound,
+                     "HOME and XDG_DATA_HOME are not set, and one of them has to say where ranges are kept");
+}
+
+// With those on the way to it. One that is there need not be one that may be listed.
+void MakeFolders(const fs::path& path, FileCalls& calls) {
+  const auto make = [&] { return calls.MakeFolder(path.string()); };
+  int made = Uninterrupted(make);
+  if (made == -ENOENT && path.has_relative_path()) {
+    MakeFolders(path.parent_path(), calls);
+    made = Uninterrupted(make);
+  }
+  if (made < 0 && made != -EEXIST) FailOnFile(-made, path);
+}
+
+void CopyFile(const fs::path& from, const fs::path& to, FileCalls& calls) {
+  const std::optional<std::string> bytes = TryReadAllBytes(from, calls);
+  if (!bytes) FailOnFile(EIO, from, "; it is part of the package, so install Quillon again");
+  ReplaceFile(to, *bytes, to.parent_path(), calls);
+}
+
+void CopyExamples(const fs::path& from, const fs::path& to, FileCalls& calls) {
+  MakeFolder(to, calls);
+  std::error_code error;
+  fs::directory_iterator entry(from, error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error))
+    CopyFile(entry->path(), to / entry->path().filename(), calls);
+  if (error) FailOnFile(error.value(), from, "; it is part of the package, so install Quillon again");
+}
+
+// A folder that is to get its name when it is complete, and is gone if it never does.
+class Draft {
+ public:
+  Draft(fs::path path, FileCalls& calls) : path_(std::move(path)) {
+    Remove();  // what a killed start has left
+    MakeFolder(path_, calls);
+  }
+  Draft(const Draft&) = delete;
+  Draft(Draft&&) = delete;
+  Draft& operator=(const Draft&) = delete;
+  Draft& operator=(Draft&&) = delete;
+  ~Draft() { Remove(); }
+
+ private:
+  void Remove() const {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+
+  fs::path path_;
+};
+
+void MakeProgramFolder(const fs::path& path, const fs::path& examples, FileCalls& calls) {
+  MakeFolders(path.parent_path(), calls);
+  const FolderLock lock(path.parent_path(), calls);
+  if (FolderExists(path, calls)) return;  // by another start of the program meanwhile
+  const fs::path draftPath = path.parent_path() / ".Quillon.new";
+  const Draft draft(draftPath, calls);
+  CopyExamples(examples, draftPath / kRanges, calls);
+  const int named = Uninterrupted([&] { return calls.Rename(draftPath.string(), path.string()); });
+  if (named < 0) FailOnFile(-named, path);
+}
+
+}  // namespace
+
+fs::path SharedFolderPath(const fs::path& executableFolder) {
+  if (!IsInstalled(executableFolder)) return executableFolder;
+  const std::string marker = ReadAllBytes(executableFolder / kPackageMarker);
+  return (executableFolder / marker.substr(0, marker.find('\n'))).lexically_normal();
+}
+
+fs::path ProgramFolderPath(const fs::path& executableFolder, const EnvironmentVariable& variable, FileCalls& calls) {
+  if (!IsInstalled(executableFolder)) return executableFolder;
+  fs::path path = DataHome(variable) / "Quillon";
+  if (!FolderExists(path, calls)) MakeProgramFolder(path, SharedFolderPath(executableFolder) / kRanges, calls);
+  return path;
+}
+
+}  // namespace quillon
