@@ -67,7 +67,9 @@ RunCommand OfferRangeText(CLI::App& command, std::string (*write)(std::string_vi
 }
 
 void OfferFolder(CLI::App& command, std::string& folder) {
-  command.add_option("--folder", folder, "The program folder that holds \"Ranges\" (default: the executable's own)")
+  command
+      .add_option("--folder", folder,
+                  "The program folder that holds \"Ranges\" (default: the one that the command folder prints)")
       ->type_name("DIR");
 }
 

@@ -14,7 +14,10 @@
 #include <vector>
 
 #include "shell/version.h"
+#include "tools/command_tree.h"
 #include "tools/commands.h"
+#include "tools/manual_page.h"
+#include "tools/shell_completion.h"
 
 namespace quillon {
 namespace {
@@ -79,6 +82,37 @@ std::vector<std::string> Reversed(std::span<const std::string> arguments) {
   return reversed;
 }
 
+// A command for those who package the program: its manual page, and the completions of shells. The help does not list
+// it.
+class TextsForPackages {
+ public:
+  explicit TextsForPackages(CLI::App& app) : app_(app), options_(*app.add_subcommand("generate")) {
+    options_.group("");
+    std::vector<std::string> texts = {kManual};
+    for (const CompletionShell& shell : kCompletionShells)
+      texts.emplace_back(shell.Name);
+    options_.add_option("text", text_)->required()->check(CLI::IsMember(texts));
+    options_.add_option("--guide", guide_);
+  }
+
+  [[nodiscard]] bool Asked() const { return options_.parsed(); }
+
+  int Print(std::ostream& output) const {
+    const CommandText root = CommandTree(app_);
+    const auto* const shell = std::ranges::find(kCompletionShells, text_, &CompletionShell::Name);
+    output << (shell == kCompletionShells.end() ? ManualPage(root, kExitStatuses, guide_) : shell->Script(root));
+    return kDone;
+  }
+
+ private:
+  static constexpr const char* kManual = "man";
+
+  CLI::App& app_;
+  CLI::App& options_;
+  std::string text_;
+  std::string guide_ = "Guide/user-guide.html beside the program";
+};
+
 int Run(const std::vector<OfferedCommand>& commands, const Surroundings& surroundings) {
   for (const OfferedCommand& command : commands) {
     if (command.options->parsed()) return command.run(surroundings);
@@ -101,9 +135,11 @@ int RunCompanion(std::span<const std::string> arguments, const Surroundings& sur
     commands.push_back({options, command.Offer(*options)});
   }
   app.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
+  TextsForPackages texts(app);
   try {
     CheckHelpOf(arguments);
     app.parse(Reversed(arguments));
+    if (texts.Asked()) return texts.Print(surroundings.Output);
     return Run(commands, surroundings);
   } catch (const CLI::ParseError& error) {
     const int status = app.exit(error, surroundings.Output, surroundings.Errors);

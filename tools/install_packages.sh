@@ -22,6 +22,8 @@ run+=(fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra)
 check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
 # A screen in memory for the tests that use it.
 check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)
+# Shells that complete the companion's command line, and what reads its manual page.
+check+=(bash zsh fish groff-base)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)

@@ -1,0 +1,29 @@
+#pragma once
+
+// Completions of the companion's command line for bash, zsh and fish, made of its own definitions. They complete
+// commands, options, formats, the names of ranges (asked for when they are needed), labels of hands, and files.
+
+#include <array>
+#include <string>
+
+#include "tools/command_tree.h"
+
+namespace quillon {
+
+/// A shell and the script that it sources.
+struct CompletionShell {
+  const char* Name;
+  std::string (*Script)(const CommandText& root);
+};
+
+[[nodiscard]] std::string BashCompletion(const CommandText& root);
+[[nodiscard]] std::string ZshCompletion(const CommandText& root);
+[[nodiscard]] std::string FishCompletion(const CommandText& root);
+
+inline constexpr std::array<CompletionShell, 3> kCompletionShells = {{
+    {"bash", BashCompletion},
+    {"zsh", ZshCompletion},
+    {"fish", FishCompletion},
+}};
+
+}  // namespace quillon
