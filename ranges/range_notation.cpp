@@ -82,6 +82,7 @@ class NotationReader {
     if (text_.size() > kLongestNotation) {
       return NotationError{0, "a notation has at most " + std::to_string(kLongestNotation) + " bytes"};
     }
+    if (text_.starts_with(kUtf8Mark)) place_ = kUtf8Mark.size();
     bool empty = true;
     for (Skip(kSeparators); place_ < text_.size(); Skip(kSeparators)) {
       const std::size_t item = place_;
@@ -339,16 +340,16 @@ std::string MarkedPlace(std::string_view notation, const NotationError& error) {
   constexpr std::size_t kMostAfter = 60;
   constexpr std::string_view kLineEnds = "\r\n";
   std::size_t start = notation.substr(0, error.Place).find_last_of(kLineEnds) + 1;  // 0 where there is none
+  if (start == 0 && notation.starts_with(kUtf8Mark)) start = std::min(kUtf8Mark.size(), error.Place);
   std::size_t end = std::min(notation.find_first_of(kLineEnds, error.Place), notation.size());
   if (error.Place - start > kMostBefore) start = error.Place - kMostBefore;
   if (end - error.Place > kMostAfter) end = error.Place + kMostAfter;
   while (start < error.Place && !StartsUtf8Character(notation[start]))
     ++start;
-  while (end < notation.size() && end > error.Place && !StartsUtf8Character(notation[end]))
-    --end;
   const std::string_view before = notation.substr(start, error.Place - start);
   const auto columns = static_cast<std::size_t>(std::count_if(before.begin(), before.end(), StartsUtf8Character));
-  return Joined({Printable(notation.substr(start, end - start)), "\n", std::string(columns, ' '), "^ ", error.Reason});
+  return Joined({Printable(WholeCharacters(notation.substr(start), end - start)), "\n", std::string(columns, ' '), "^ ",
+                 error.Reason});
 }
 
 std::string RangeNotation(std::span<const double, kHandClassCount> weights) {

@@ -5,7 +5,7 @@
 // a picture beside it, which leaves out some hands at half weight.
 //
 // Items are separated by commas, semicolons, spaces or line ends. Letter case does not matter, "10" is T, and either
-// card of a hand may come first.
+// card of a hand may come first. A byte-order mark before it all is skipped.
 //
 //     88   AKs   AKo   AK               one class; AK is AKs and AKo
 //     88+  ATs+  AT+                    that class and every better one; of two ranks the high card stays

@@ -71,6 +71,10 @@ TEST(RangeNotation, ReadsItemsHoweverTheyAreSeparated) {
       {"semicolons", "AA;KK", "AA KK"},
       {"blanks and tabs", "  AA \t KK ", "AA KK"},
       {"many at once", ",;AA, ; \n,KK;;", "AA KK"},
+      {"a byte-order mark before them",
+       "\xEF\xBB\xBF"
+       "AA, KK",
+       "AA KK"},
   });
 }
 
@@ -143,6 +147,9 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
   const std::string nul("AA \0", 4);
   for (const Case& c : std::vector<Case>{
            {"AKs, KXs+", "AKs, KXs+\n     ^ \"X\" is not a rank"},
+           {"\xEF\xBB\xBF"
+            "AKs, KXs+",
+            "AKs, KXs+\n     ^ \"X\" is not a rank"},
            {"hello", "hello\n^ \"h\" is not a rank"},
            {"A1", "A1\n^ \"1\" is not a rank"},
            {"A", "A\n^ " + half},

@@ -5,13 +5,13 @@
 #include <optional>
 
 #include "support/ascii_text.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kLineEnds = "\r\n";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 std::string_view WithoutBlanks(std::string_view text) {
   return Trimmed(text, kBlanks);

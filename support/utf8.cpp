@@ -22,6 +22,12 @@ Utf8Character FirstCharacter(std::string_view text) {
   return {character, length};
 }
 
+std::string_view WholeCharacters(std::string_view text, std::size_t bytes) {
+  while (bytes > 0 && bytes < text.size() && !StartsUtf8Character(text[bytes]))
+    --bytes;
+  return text.substr(0, bytes);
+}
+
 bool IsUtf8(std::string_view text) {
   while (!text.empty()) {
     const Utf8Character first = FirstCharacter(text);

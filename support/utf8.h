@@ -10,6 +10,9 @@ namespace quillon {
 /// Marks bytes that are not UTF-8. No character has this number.
 inline constexpr char32_t kNoCharacter = 0xFFFFFFFF;
 
+/// The byte-order mark that some programs put before a text. Nothing shows it.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 struct Utf8Character {
   char32_t Character = kNoCharacter;
   std::size_t Length = 1;  // in bytes
@@ -23,6 +26,9 @@ struct Utf8Character {
 /// The first character of a text that is not empty. An overlong form, a surrogate, a value beyond 10FFFF and an
 /// incomplete character are kNoCharacter, of one byte.
 [[nodiscard]] Utf8Character FirstCharacter(std::string_view text);
+
+/// The first `bytes` bytes of a text, or as many fewer as it takes not to end within a character.
+[[nodiscard]] std::string_view WholeCharacters(std::string_view text, std::size_t bytes);
 
 /// Whether the whole of a text is UTF-8. The empty text is.
 [[nodiscard]] bool IsUtf8(std::string_view text);

@@ -43,5 +43,16 @@ TEST(FirstCharacter, IsReadWholeOrNotAtAll) {
   EXPECT_TRUE(IsUtf8(""));
 }
 
+TEST(WholeCharacters, EndBetweenTwo) {
+  EXPECT_EQ(WholeCharacters("a€b", 5), "a€b");
+  EXPECT_EQ(WholeCharacters("a€b", 9), "a€b");
+  EXPECT_EQ(WholeCharacters("a€b", 4), "a€");
+  EXPECT_EQ(WholeCharacters("a€b", 3), "a");
+  EXPECT_EQ(WholeCharacters("a€b", 2), "a");
+  EXPECT_EQ(WholeCharacters("a€b", 1), "a");
+  EXPECT_EQ(WholeCharacters("€", 1), "");
+  EXPECT_EQ(WholeCharacters("", 3), "");
+}
+
 }  // namespace
 }  // namespace quillon
