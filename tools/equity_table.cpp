@@ -12,11 +12,11 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <thread>
 #include <unistd.h>
 #include <vector>
 
 #include "support/files.h"
+#include "support/usable_cores.h"
 #include "tools/equity_enumeration.h"
 #include "tools/equity_row_text.h"
 
@@ -38,7 +38,7 @@ constexpr const char* kExamples =
 
 struct Request {
   std::string rows = "0-168";
-  unsigned threads = std::max(1U, std::min(kMostThreads, std::thread::hardware_concurrency()));
+  unsigned threads = std::min(kMostThreads, UsableCores());
   std::string format = "rows";
   std::string out;
   std::vector<std::string> join;
