@@ -16,6 +16,7 @@ using Table = std::vector<PerClass>;
 
 constexpr std::size_t kClasses = kHandClassCount;
 // In pots. After so many rounds half of what is promised is good enough.
+constexpr double kPromised = 1e-6;
 constexpr double kWanted = 1e-9;
 constexpr double kGoodEnough = 5e-7;
 constexpr int kPatience = 4096;
@@ -23,7 +24,7 @@ constexpr int kPatience = 4096;
 constexpr int kShareDecimals = 6;
 constexpr int kFineShareDecimals = 12;
 constexpr int kRoundsBetweenLooks = 64;
-constexpr int kMostRounds = 1 << 20;  // far beyond any that was seen, so that no input runs for ever
+constexpr int kMostRounds = 1 << 18;  // so that no question takes much more than a second
 
 double Dot(const PerClass& a, const PerClass& b) {
   return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
@@ -32,6 +33,14 @@ double Dot(const PerClass& a, const PerClass& b) {
 void AddScaled(PerClass& sum, double factor, const PerClass& row) {
   for (std::size_t i = 0; i < kClasses; ++i)
     sum[i] += factor * row[i];
+}
+
+// Weights of which the largest is 1: how seldom a player holds any hand at all does not matter.
+ClassWeights ToOne(ClassWeights weights) {
+  const double largest = std::ranges::max(weights);
+  if (largest == 0) return weights;
+  std::ranges::transform(weights, weights.begin(), [largest](double weight) { return weight / largest; });
+  return weights;
 }
 
 // What is gained where a class is played if that gains something, and not if it loses.
@@ -44,15 +53,19 @@ double BestGain(const PerClass& gains) {
 class Game {
  public:
   Game(const HandNumbers& hands, const BalanceQuestion& question) : called_(kClasses), mirrored_(kClasses) {
-    const double afterCall = question.Pot + question.Call + 2 * question.Shove;
-    const double lost = question.Call + question.Shove + question.Pot;  // the pot, too, that a fold would have won
+    const double call = question.Call / question.Pot;
+    const double shove = question.Shove / question.Pot;
+    const double afterCall = 1 + call + 2 * shove;
+    const double lost = call + shove + 1;  // the pot, too, that a fold would have won
+    const ClassWeights own = ToOne(question.OwnHands);
+    const ClassWeights his = ToOne(question.HisHands);
     for (std::size_t i = 0; i < kClasses; ++i) {
       const PairCounts counts = CountPairs(hands, static_cast<std::int16_t>(i));
       const HandNumbers::EquityRow& equities = hands.Equities(static_cast<std::int16_t>(i));
       for (std::size_t j = 0; j < kClasses; ++j) {
-        const double dealt = counts[j] * question.OwnHands[i] * question.HisHands[j];
+        const double dealt = counts[j] * own[i] * his[j];
         folded_[i] += dealt;
-        called_[i][j] = dealt * (equities[j] * afterCall - lost) / question.Pot;
+        called_[i][j] = dealt * (equities[j] * afterCall - lost);
       }
     }
     dealt_ = std::accumulate(folded_.begin(), folded_.end(), 0.0);
@@ -228,6 +241,7 @@ std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const Balan
   const Game game(hands, question);
   if (!game.HasDeals()) return std::nullopt;
   const Answer answer = Solve(game);
+  if (answer.exploitability > kPromised) return std::nullopt;
   return Equilibrium{Played(question.OwnHands, answer.shove), Played(question.HisHands, answer.call),
                      game.Value(answer.shove, answer.call) * question.Pot, answer.exploitability * question.Pot};
 }

@@ -33,7 +33,12 @@ namespace quillon {
 using PairCounts = std::array<double, kHandClassCount>;
 [[nodiscard]] PairCounts CountPairs(const HandNumbers& hands, std::int16_t index);
 
-/// The situation, in the user's own unit. The pot and the shove are above 0, the call is not below it.
+/// What the hero may risk, in pots. Beyond it the equities' share of the sum is not exact enough to tell a millionth of
+/// a pot.
+inline constexpr double kMostPotsAtRisk = 1e8;
+
+/// The situation, in the user's own unit. The pot and the shove are above 0, the call is not below it, and call and
+/// shove together are at most kMostPotsAtRisk pots.
 struct BalanceQuestion {
   double Pot = 0;
   double Call = 0;  // what the hero must put in to stay in
@@ -48,12 +53,13 @@ struct Equilibrium {
   ClassWeights Shove{};  // no weight above that of the hands held
   ClassWeights Call{};
   double Value = 0;  // what the hero gains on average against folding everything
-  double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot for shoves of
-                              // up to several hundred pots, and told as it is beyond
+  double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot
 };
 
-/// Balanced ranges for a question; nothing if one of the players can hold no hand. Which of several balanced pairs is
-/// found is not said, and a class that is never faced with a shove may have any weight.
+/// Balanced ranges for a question; nothing if one of the players can hold no hand, or if none were found that are as
+/// near to balance as promised: with shoves of hundreds of pots and few hands, he calls with so small a share of a hand
+/// that rounds of learning do not come near it. Which of several balanced pairs is found is not said,
+/// and a class that is never faced with a shove may have any weight.
 [[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question);
 
 }  // namespace quillon

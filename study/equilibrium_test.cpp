@@ -231,6 +231,36 @@ TEST(Equilibrium, IsFoundWhereASmallShareDecides) {
   }
 }
 
+// What is not as near to balance as promised is no answer.
+TEST(Equilibrium, ThatIsNotFoundIsNotTold) {
+  BalanceQuestion question = {.Pot = 1.5, .Call = 0.5, .Shove = 1e6, .OwnHands = Only("AA"), .HisHands = Only("KK")};
+  question.OwnHands.at(Index("72o")) = 1;
+  EXPECT_FALSE(FindEquilibrium(Hands(), question));
+}
+
+TEST(Equilibrium, IsThatOfHandsHeldAsOftenHoweverSeldom) {
+  const Equilibrium usual = Find(HeadsUp(10));
+  for (const double weight : {0.25, 1e-160, 1e-300}) {
+    BalanceQuestion question = HeadsUp(10);
+    question.OwnHands.fill(weight);
+    question.HisHands.fill(weight);
+    const Equilibrium seldom = Find(question);
+    EXPECT_NEAR(seldom.Value, usual.Value, 1e-9) << weight;
+    for (std::size_t hand = 0; hand < kHandClassCount; ++hand) {
+      EXPECT_NEAR(seldom.Shove[hand] / weight, usual.Shove[hand], 1e-6) << Label(hand);
+      EXPECT_NEAR(seldom.Call[hand] / weight, usual.Call[hand], 1e-6) << Label(hand);
+    }
+  }
+}
+
+TEST(Equilibrium, OfTheSmallestAndLargestAmountsIsThatOfTheirRatios) {
+  for (const double unit : {1e-300, 1e300}) {
+    const Equilibrium found = Find({.Pot = unit, .Call = 0, .Shove = 4 * unit});
+    const Equilibrium usual = Find({.Pot = 1, .Call = 0, .Shove = 4});
+    EXPECT_NEAR(found.Value / unit, usual.Value, 1e-9) << unit;
+  }
+}
+
 TEST(Equilibrium, TheUnitOfTheAmountsDoesNotMatter) {
   const Equilibrium chips = Find(HeadsUp(12));
   const Equilibrium cents = Find({.Pot = 150, .Call = 50, .Shove = 1100});

@@ -43,9 +43,12 @@ struct StackChart {
   StackLimits Call{};
 };
 
-/// The chart of these stacks, the first of which must be above 1. The work is done on `jobs` threads, the calling one
-/// included; that one tells `goesOn` from time to time how many stacks are done. How many threads there are does not
-/// change the chart.
+/// A stack of more big blinds is beyond what balanced ranges are found for.
+inline constexpr double kMostStack = 1e8;
+
+/// The chart of these stacks, the first of which must be above 1 and the last at most kMostStack. The work is done on
+/// `jobs` threads, the calling one included; that one tells `goesOn` from time to time how many stacks are done. How
+/// many threads there are does not change the chart.
 [[nodiscard]] StackChart MakeStackChart(const HandNumbers& hands, const Steps& stacks, unsigned jobs,
                                         const std::function<void(std::int64_t done)>& goesOn = {});
 

@@ -7,20 +7,12 @@
 #include <variant>
 #include <vector>
 
-#include "hand/equity_table.h"
 #include "study/equilibrium.h"
 #include "support/number_text.h"
+#include "testing/study_hands.h"
 
 namespace quillon {
 namespace {
-
-const HandNumbers& Hands() {
-  static const HandNumbers kHands = [] {
-    LoadEquityTable();
-    return HandNumbers();
-  }();
-  return kHands;
-}
 
 StackChart ChartOf(const std::string& stacks, unsigned jobs = 2) {
   return MakeStackChart(Hands(), std::get<Steps>(Steps::Read(stacks)), jobs);
@@ -69,10 +61,20 @@ TEST(StackChart, TellsWhatEachStackSays) {
 }
 
 TEST(StackChart, IsTheSameOnAnyNumberOfThreads) {
-  const StackChart one = ChartOf("2:4:0.5", 1);
-  const StackChart many = ChartOf("2:4:0.5", 9);
-  EXPECT_EQ(one.Shove, many.Shove);
-  EXPECT_EQ(one.Call, many.Call);
+  const StackChart one = ChartOf("2:9:0.5", 1);
+  EXPECT_FALSE(At(one.Shove, "63s").Gaps.empty());
+  for (const unsigned jobs : {2U, 9U, 40U}) {
+    const StackChart many = ChartOf("2:9:0.5", jobs);
+    EXPECT_EQ(one.Shove, many.Shove) << jobs;
+    EXPECT_EQ(one.Call, many.Call) << jobs;
+  }
+}
+
+TEST(StackChart, EndsAtTheLargestStack) {
+  const StackChart chart = ChartOf("1000:100000000:9999900");
+  EXPECT_EQ(At(chart.Shove, "AA").Largest, "100000000");
+  EXPECT_EQ(At(chart.Call, "AA").Largest, "100000000");
+  EXPECT_EQ(At(chart.Call, "22").Largest, "");
 }
 
 TEST(StackChart, TellsHowFarItIs) {
