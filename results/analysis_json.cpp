@@ -95,7 +95,8 @@ struct HandField {
   Json (*ValueOf)(const Scenario& scenario, const ShownHand& hand);
 };
 
-constexpr std::array<HandField, 5> kHandFields = {{
+constexpr std::array<HandField, 6> kHandFields = {{
+    {kLabel, [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.first.Label); }},
     {"combos", [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.first.Combos); }},
     {"ev", [](const Scenario& scenario,
               const ShownHand& hand) { return ValueIf(scenario.HasExpectedValue(), hand.first.ExpectedValue); }},
@@ -109,12 +110,15 @@ bool IsNamed(FieldNames names, std::string_view name) {
   return std::ranges::find(names, name) != names.end();
 }
 
-// All of a hand's fields, unless some of them are named.
+// All of a hand's fields, unless some of them are named, and then its label with them.
 std::vector<HandField> WantedOfHands(FieldNames names) {
+  const bool some =
+      std::ranges::any_of(kHandFields, [&](const HandField& field) { return IsNamed(names, field.Name); });
   std::vector<HandField> wanted;
-  std::ranges::copy_if(kHandFields, std::back_inserter(wanted),
-                       [&](const HandField& field) { return IsNamed(names, field.Name); });
-  if (wanted.empty() && (names.empty() || IsNamed(names, kHands))) return {kHandFields.begin(), kHandFields.end()};
+  if (!some && !names.empty() && !IsNamed(names, kHands)) return wanted;
+  std::ranges::copy_if(kHandFields, std::back_inserter(wanted), [&](const HandField& field) {
+    return !some || field.Name == kLabel || IsNamed(names, field.Name);
+  });
   return wanted;
 }
 
@@ -122,7 +126,7 @@ Json HandsJson(const Analysis& analysis, const std::vector<HandField>& fields) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);
   Json hands = Json::array();
   for (const ShownHand& hand : ShownHands(analysis)) {
-    Json object = {{kLabel, hand.first.Label}};
+    Json object = Json::object();
     for (const HandField& field : fields)
       object[std::string(field.Name)] = field.ValueOf(scenario, hand);
     hands.push_back(std::move(object));

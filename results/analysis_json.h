@@ -14,7 +14,7 @@
 
 namespace quillon {
 
-/// The names of all fields: those of the object first, then those of each hand, but for its label.
+/// The names of all fields: those of the object first, then those of each hand.
 [[nodiscard]] std::vector<std::string> AnalysisFieldNames();
 
 /// The object, with the fields of these names alone if there are any. A hand always has its label; naming some of its

@@ -13,6 +13,7 @@
 #include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
@@ -23,7 +24,7 @@ enum Key : std::size_t { kId, kMode, kPot, kCall, kShove, kRange, kHands, kCalli
 
 constexpr std::string_view kText = "a text";
 constexpr std::string_view kAmount = "a number or a text";
-constexpr std::string_view kName = "a text or a whole number";
+constexpr std::string_view kName = "a text or a whole number in digits";
 
 struct KeyRow {
   std::string_view Name;
@@ -75,9 +76,10 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
     return true;
   }
   bool boolean(bool /*value*/) override { return Misplaced(); }
-  bool number_integer(number_integer_t value) override { return TakeNumber(std::to_string(value), true); }
-  bool number_unsigned(number_unsigned_t value) override { return TakeNumber(std::to_string(value), true); }
-  bool number_float(number_float_t /*value*/, const string_t& written) override { return TakeNumber(written, false); }
+  bool number_integer(number_integer_t value) override { return TakeNumber(std::to_string(value)); }
+  bool number_unsigned(number_unsigned_t value) override { return TakeNumber(std::to_string(value)); }
+  // Of whole numbers, those of more than 64 bits.
+  bool number_float(number_float_t /*value*/, const string_t& written) override { return TakeNumber(written); }
   bool binary(binary_t& /*value*/) override { return Misplaced(); }
 
   bool string(string_t& value) override {
@@ -109,7 +111,7 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
     const auto* const row = std::ranges::find(kKeys, name, &KeyRow::Name);
     if (row == kKeys.end()) {
       constexpr std::size_t kShown = 60;
-      return Fail(Joined({"there is no key ", Quoted(name.substr(0, kShown)), "; there are ",
+      return Fail(Joined({"there is no key ", Quoted(WholeCharacters(name, kShown)), "; there are ",
                           Listed(kKeys, [](const KeyRow& key) { return key.Name; })}));
     }
     const auto found = static_cast<Key>(row - kKeys.begin());
@@ -121,7 +123,9 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
   bool parse_error(std::size_t place, const std::string& token, const nlohmann::detail::exception& error) override {
     constexpr int kNumberOverflow = 406;
     constexpr std::size_t kShown = 30;
-    const std::string_view end = std::string_view(token).substr(token.size() - std::min(token.size(), kShown));
+    std::string_view end = std::string_view(token).substr(token.size() - std::min(token.size(), kShown));
+    while (!end.empty() && !StartsUtf8Character(end.front()))
+      end.remove_prefix(1);
     if (error.id == kNumberOverflow)
       Fail(Joined({end, " is beyond all numbers"}));
     else
@@ -152,8 +156,10 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
     return true;
   }
 
-  bool TakeNumber(const std::string& written, bool whole) {
+  bool TakeNumber(const std::string& written) {
+    constexpr std::string_view kWhole = "-0123456789";
     if (!Outermost() || !key_) return true;
+    const bool whole = written.find_first_not_of(kWhole) == std::string::npos;
     if (kKeys[*key_].Form == kText || (*key_ == kId && !whole)) return Misplaced();
     if (*key_ == kId) id_ = written;
     values_[*key_] = written;
@@ -266,6 +272,7 @@ Batch::Batch(ProgramFolder folder, std::vector<std::string> fields)
     : folder_(std::move(folder)), fields_(std::move(fields)), bestFirst_(HandsBestFirst(hands_)) {}
 
 std::variant<BatchQuestion, BatchRefusal> Batch::Read(std::string_view line) const {
+  if (line.starts_with(kUtf8Mark)) line.remove_prefix(kUtf8Mark.size());
   if (line.size() > kLongestBatchLine) {
     return BatchRefusal{"null", "a line has at most " + std::to_string(kLongestBatchLine) + " bytes"};
   }
@@ -297,7 +304,8 @@ BatchAnswer Batch::Answer(std::string_view line, std::int64_t number) const {
     return dump(AnalysisJson(*Analyze(question.Situation, ranges), fields_));
   });
   if (!object) return refused(question.Id, "the amounts make a value that is beyond all numbers");
-  return {Joined({"{\"id\":", question.Id, ",", std::string_view(*object).substr(1)}), false, question.Warning};
+  const std::string_view fields = std::string_view(*object).substr(1);
+  return {Joined({"{\"id\":", question.Id, fields == "}" ? "" : ",", fields}), false, question.Warning};
 }
 
 RangeFinding Batch::Saved(const std::string& name) const {

@@ -6,9 +6,9 @@
 //     {"id": 7, "mode": "raise", "pot": 1.5, "call": "=1-0.5", "shove": 9, "hands": "any", "calling_range": "Tight"}
 //
 // Amounts are numbers or texts as an amount box takes them. A range is "range", the name of a file, or "hands", a
-// notation; "calling_range" and "calling_hands" likewise. "id" is a text or a whole number of 64 bits, and comes first
+// notation; "calling_range" and "calling_hands" likewise. "id" is a text or a whole number of any size, and comes first
 // in the answer. A key whose value is null is one that is not there; any other key, and one that is there twice, is
-// refused, and so is what the mode does not ask for.
+// refused, and so is what the mode does not ask for. A byte-order mark before a line is skipped.
 //
 // The equity table and the saved ranges are read once and kept as numbers, which changes no digit of a result
 // ("analysis/range_sources.h").
@@ -58,8 +58,8 @@ struct BatchAnswer {
 /// What answers lines. Several threads may ask at once.
 class Batch {
  public:
-  /// Saved ranges are those of `folder`. A result has the fields of these names, which are among AnalysisFieldNames, or
-  /// all of them. The equity table must have been loaded.
+  /// Saved ranges are those of `folder`. A result has its id, and the fields of these names, which are among
+  /// AnalysisFieldNames, or all of them. The name "id" is for its id alone. The equity table must have been loaded.
   explicit Batch(ProgramFolder folder, std::vector<std::string> fields = {});
 
   /// The situation of a line. Never fails: what would end a single run, such as a sum beyond all numbers, is a refusal.

@@ -54,7 +54,15 @@ TEST_F(BatchTest, AnswersWithTheIdBeforeTheFieldsOfAnAnalysis) {
   EXPECT_EQ(answer.Line.find('\n'), std::string::npos);
   const Json object = Json::parse(answer.Line);
   EXPECT_EQ(object["hands"].size(), 169U);
-  EXPECT_EQ(object.size(), AnalysisFieldNames().size() - 5 + 1) << "all but those of a hand, and the id";
+  EXPECT_EQ(object.size(), AnalysisFieldNames().size() - 6 + 1) << "all but those of a hand, and the id";
+}
+
+// They name a line and are none of its amounts, so no digit of them is lost.
+TEST_F(BatchTest, TakesWholeNumbersOfAnySizeAsIds) {
+  for (const std::string id :
+       {"0", "-7", "18446744073709551615", "-9223372036854775808", "123456789012345678901234567890"})
+    EXPECT_EQ(Make({"best"}).Answer(R"({"mode":"equity","hands":"KK","id":)" + id + "}", 1).Line,
+              "{\"id\":" + id + ",\"best\":\"AA\"}");
 }
 
 struct SameCase {
@@ -90,6 +98,8 @@ INSTANTIATE_TEST_SUITE_P(
                  kRaise},
         SameCase{"NullIsNotThere",
                  R"({"id":null,"mode":"equity","range":"Tight","hands":null,"pot":null,"shove":null})",
+                 R"({"mode":"equity","range":"Tight"})"},
+        SameCase{"AfterAByteOrderMark", "\xEF\xBB\xBF{\"mode\":\"equity\",\"range\":\"Tight\"}",
                  R"({"mode":"equity","range":"Tight"})"},
         SameCase{"SpacesAndReturn", " { \"mode\" : \"equity\" , \"range\" : \"Tight\" } \r",
                  R"({"mode":"equity","range":"Tight"})"}),
@@ -162,6 +172,8 @@ TEST_F(BatchTest, NarrowsToTheFieldsAskedFor) {
     EXPECT_EQ(narrowed["hands"][i], (Json{{"hand", all["hands"][i]["hand"]}, {"equity", all["hands"][i]["equity"]}}));
   }
   EXPECT_EQ(Json::parse(Make({"hands"}).Answer(line, 1).Line)["hands"], all["hands"]);
+  EXPECT_EQ(Make({"id"}).Answer(line, 1).Line, R"({"id":1})");
+  EXPECT_EQ(Json::parse(Make({"id", "hand"}).Answer(line, 1).Line)["hands"][168], (Json{{"hand", "22"}}));
 }
 
 TEST_F(BatchTest, ReadsASavedRangeOnce) {
@@ -210,6 +222,7 @@ std::vector<RefusedCase> RefusedLines() {
   return {
       {"Empty", "", "null", "the line is empty"},
       {"Blank", " \t\r", "null", "the line is empty"},
+      {"ByteOrderMark", "\xEF\xBB\xBF", "null", "the line is empty"},
       {"NoJson", "pot 3", "null", "this is not JSON from byte 1 on: p"},
       {"Cut", R"({"id":1,"mode":"ca)", "1", "this is not JSON from byte 19 on"},
       {"SomethingAfterIt", with("") + " x", "1", "this is not JSON"},
@@ -235,7 +248,11 @@ std::vector<RefusedCase> RefusedLines() {
       {"TruthForAnAmount", with(R"(,"call":true)"), "1", "\"call\" is a number or a text"},
       {"NumberForARange", with(R"(,"range":5)"), "1", "\"range\" is a text"},
       {"FractionForAnId", R"({"id":1.5})", "null", "\"id\" is a text or a whole number"},
-      {"LargeId", R"({"id":123456789012345678901234567890})", "null", "\"id\" is a text or a whole number"},
+      {"ExponentForAnId", R"({"id":1e3})", "null", "\"id\" is a text or a whole number in digits"},
+      {"OddCharactersInAnUnknownKey", "{\"" + std::string(59, 'x') + "½\":5}", "null",
+       "there is no key \"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx\"; there are"},
+      {"OddCharactersInWhatIsNoJson", R"({"mode":"½)" + std::string(28, 'x') + "\x01", "null",
+       "this is not JSON from byte 40 on: xxxxxxxxxxxxxxxxxxxxx"},
       {"LongId", R"({"id":")" + std::string(2000, 'x') + "\"}", "null", "\"id\" has more than 1000 bytes"},
       {"NoMode", R"({"id":"½"})", "\"½\"", "\"mode\" is missing"},
       {"UnknownMode", R"({"mode":"fold"})", "null", "\"mode\" is call, raise or equity, not \"fold\""},
@@ -256,9 +273,11 @@ std::vector<RefusedCase> RefusedLines() {
       {"BadNotation", R"({"mode":"equity","hands":"AA KX"})", "null", "AA KX\n   ^ \"X\" is not a rank"},
       {"NoHands", R"({"mode":"equity","hands":"none"})", "null", "Empty Range: Your opponent's range is empty."},
       {"SavedWithoutHands", R"({"mode":"equity","range":"Nobody"})", "null", "Empty Range: "},
+      {"RangeElsewhere", R"({"mode":"equity","range":"../Ranges/Tight"})", "null",
+       "There is no range \"../Ranges/Tight\" in "},
       {"UnknownRange", R"({"mode":"equity","range":"Tihgt"})", "null", "There is no range \"Tihgt\" in "},
       {"EmptyFile", R"({"mode":"equity","range":"Empty"})", "null", "The range \"Empty\" cannot be read: "},
-      {"NulInAName", R"({"mode":"equity","range":"Tight.txt\u0000"})", "null", "The range \"Tight.txt"},
+      {"NulInAName", R"({"mode":"equity","range":"Tight.txt\u0000"})", "null", "There is no range \"Tight.txt"},
       {"LongName", R"({"mode":"equity","range":")" + std::string(2000, 'x') + "\"}", "null",
        "\"range\" has more than 1000"},
   };

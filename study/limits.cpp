@@ -1,20 +1,46 @@
 #include "study/limits.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "analysis/expected_value.h"
 #include "analysis/scenarios.h"
 #include "support/number_text.h"
+#include "support/rounding.h"
 
 namespace quillon {
 namespace {
 
 // Where a line of this height at 0 and this slope is not below 0, among amounts above 0.
 Limit LimitOfLine(double atZero, double slope) {
-  if (slope < 0 && atZero > 0) return {LimitKind::kUpTo, atZero / -slope};
-  if (slope > 0 && atZero < 0) return {LimitKind::kFrom, -atZero / slope};
-  const bool neverBelow = slope == 0 ? atZero >= 0 : slope > 0;
+  const double crossing = -atZero / slope;
+  const bool crosses = std::abs(crossing) <= kMostLimit;  // not where the slope is 0
+  if (crosses && slope < 0 && atZero > 0) return {LimitKind::kUpTo, crossing};
+  if (crosses && slope > 0 && atZero < 0) return {LimitKind::kFrom, crossing};
+  const bool neverBelow = crosses ? slope > 0 : atZero >= 0;
   return {neverBelow ? LimitKind::kAlways : LimitKind::kNever, 0};
+}
+
+// Whether a hand may lose at an amount near its limit.
+bool MayLose(const Limit& limit, double amount) {
+  return limit.Kind == LimitKind::kUpTo ? amount > limit.Amount : amount < limit.Amount;
+}
+
+// Half of `unit` farther to the side on which the hand does not lose, so that the nearest multiple is on that side.
+double Safer(const Limit& limit, double unit) {
+  return limit.Amount + (limit.Kind == LimitKind::kUpTo ? -unit / 2 : unit / 2);
+}
+
+std::string WithPowerOfTen(double amount) {
+  std::array<char, 16> text{};
+  char* const end = std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::scientific, 1).ptr;
+  std::replace(text.begin(), text.end(), 'e', 'E');
+  return {text.data(), end};
 }
 
 template <typename LimitOf>
@@ -61,6 +87,21 @@ std::string LimitText(const Limit& limit) {
       break;
   }
   return "never";
+}
+
+std::string ShortAmount(const Limit& limit) {
+  constexpr std::size_t kMost = 8;
+  constexpr double kLeast = 0.01;
+  constexpr std::array<std::pair<int, double>, 3> kUnits = {{{2, 0.01}, {1, 0.1}, {0, 1}}};
+  for (const auto& [decimals, unit] : kUnits) {
+    double rounded = RoundTo(limit.Amount, decimals);
+    if (MayLose(limit, rounded)) rounded = RoundTo(Safer(limit, unit), decimals);
+    std::string text = NumberText(rounded);
+    if (text.size() <= kMost && limit.Amount >= kLeast) return text;
+  }
+  std::string text = WithPowerOfTen(limit.Amount);
+  if (!MayLose(limit, LeadingNumber(text))) return text;
+  return WithPowerOfTen(Safer(limit, std::pow(10, std::floor(std::log10(limit.Amount)) - 1)));
 }
 
 }  // namespace quillon

@@ -18,9 +18,12 @@ enum class LimitKind {
   kFrom,  // loses below the amount, and does not from there on
 };
 
+/// A larger limit counts as none.
+inline constexpr double kMostLimit = 1e300;
+
 struct Limit {
   LimitKind Kind = LimitKind::kNever;
-  double Amount = 0;  // of kUpTo and kFrom alone; above 0
+  double Amount = 0;  // of kUpTo and kFrom alone; above 0, at most kMostLimit
 
   bool operator==(const Limit&) const = default;
 };
@@ -46,5 +49,12 @@ using Limits = std::array<Limit, kHandClassCount>;
 ///
 ///     "12.5"      "always"      "never"      "from 12.5"
 [[nodiscard]] std::string LimitText(const Limit& limit);
+
+/// The amount of a limit in at most eight characters, two decimals, fewer, or a power of ten, rounded to the side on
+/// which the hand does not lose: down for kUpTo, up for kFrom.
+///
+///     up to 12.345 -> "12.34"      from 12.341 -> "12.35"      up to 116724.46 -> "116724.4"      up to 129e6 ->
+///     "1.2E+08"
+[[nodiscard]] std::string ShortAmount(const Limit& limit);
 
 }  // namespace quillon

@@ -44,6 +44,7 @@ TEST(ShoveLimit, MindsTheEnds) {
            Case{"worth nothing at once", 3, 1, {0.25, 1}, {LimitKind::kNever, 0}},
            Case{"a stronger hand is always good", 15, 10, {0.75, 0.5}, {LimitKind::kAlways, 0}},
            Case{"unless the call costs more than it gains", 1, 100, {0.75, 1}, {LimitKind::kFrom, 48.5}},
+           Case{"so large a limit that it is none", 1e300, 0, {0.49999999, 1}, {LimitKind::kAlways, 0}},
            Case{"worth nothing at once, and more from there", 1, 3, {0.75, 1}, {LimitKind::kAlways, 0}},
        }) {
     EXPECT_EQ(ShoveLimit(c.pot, c.call, c.figures), c.limit) << c.rule;
@@ -125,6 +126,34 @@ TEST(LimitText, SaysItInWords) {
   EXPECT_EQ(LimitText({LimitKind::kFrom, 12.5}), "from 12.5");
   EXPECT_EQ(LimitText({LimitKind::kAlways, 0}), "always");
   EXPECT_EQ(LimitText({LimitKind::kNever, 0}), "never");
+}
+
+TEST(ShortAmount, IsAtMostEightCharactersOnTheSideThatDoesNotLose) {
+  struct Case {
+    double amount;
+    const char* upTo;
+    const char* from;
+  };
+  for (const Case& c : {
+           Case{12.3456, "12.34", "12.35"},
+           Case{12.341, "12.34", "12.35"},
+           Case{0.5, "0.5", "0.5"},
+           Case{0.01, "0.01", "0.01"},
+           Case{9.999, "9.99", "10"},
+           Case{12345.678, "12345.67", "12345.68"},
+           Case{1234567.89, "1234567", "1234568"},
+           Case{116724.44, "116724.4", "116724.5"},
+           Case{99999999.5, "99999999", "1.0E+08"},
+           Case{123456789, "1.2E+08", "1.3E+08"},
+           Case{9.96e12, "9.9E+12", "1.0E+13"},
+           Case{0.00123, "1.2E-03", "1.3E-03"},
+           Case{0.00999, "9.9E-03", "1.0E-02"},
+           Case{kMostLimit, "1E+300", "1E+300"},
+           Case{5e-324, "4.9E-324", "4.9E-324"},
+       }) {
+    EXPECT_EQ(ShortAmount({LimitKind::kUpTo, c.amount}), c.upTo) << c.amount;
+    EXPECT_EQ(ShortAmount({LimitKind::kFrom, c.amount}), c.from) << c.amount;
+  }
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -11,7 +10,6 @@
 #include "results/grid_colors.h"
 #include "results/grid_picture.h"
 #include "support/number_text.h"
-#include "support/rounding.h"
 
 namespace quillon {
 namespace {
@@ -62,8 +60,8 @@ std::string LimitWords(const Limit& limit) {
 }
 
 std::string ShortText(const Limit& limit) {
-  if (limit.Kind == LimitKind::kUpTo) return ShortAmount(limit.Amount);
-  return limit.Kind == LimitKind::kFrom ? "\u2265" + ShortAmount(limit.Amount) : LimitText(limit);
+  if (limit.Kind == LimitKind::kUpTo) return ShortAmount(limit);
+  return limit.Kind == LimitKind::kFrom ? "\u2265" + ShortAmount(limit) : LimitText(limit);
 }
 
 Rgb ColorOf(const Limit& limit, const Shades& shades) {
@@ -159,17 +157,6 @@ void AddFigures(std::vector<PageFigure>& figures, const StackLimit& limit) {
 }
 
 }  // namespace
-
-std::string ShortAmount(double amount) {
-  constexpr std::size_t kMost = 8;
-  for (const int digits : {2, 1, 0}) {
-    std::string text = NumberText(RoundTo(amount, digits));
-    if (text.size() <= kMost && (RoundTo(amount, digits) != 0 || amount == 0)) return text;
-  }
-  std::array<char, 16> text{};
-  char* const end = std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::scientific, 1).ptr;
-  return {text.data(), end};
-}
 
 std::string LimitsPage(const LimitsQuestion& question, const Limits& limits) {
   WebPage page{.Title = question.Title,

@@ -21,13 +21,8 @@ struct LimitsQuestion {
 /// The limits as a page: a grid, and a table with every digit.
 [[nodiscard]] std::string LimitsPage(const LimitsQuestion& question, const Limits& limits);
 
-/// The grid of the limits, amounts cut to what a cell has room for.
+/// The grid of the limits, with short amounts (ShortAmount).
 [[nodiscard]] std::string LimitsPicture(const LimitsQuestion& question, const Limits& limits);
-
-/// An amount in at most eight characters: two decimals, fewer, or a power of ten.
-///
-///     12.3456 -> "12.35"      116724.44 -> "116724.4"      123456789 -> "1.2e+08"
-[[nodiscard]] std::string ShortAmount(double amount);
 
 /// A chart as a page: the grid of shoves, the grid of calls, and a table with the gaps of both. A star marks a stack
 /// with gaps below it.

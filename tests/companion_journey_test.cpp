@@ -330,6 +330,22 @@ TEST(CompanionJourney, NeedsNoStandardInput) {
   EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
 }
 
+// Whatever it opens meanwhile must not take the place of the stream.
+TEST(CompanionJourney, FailsOverStandardInputThatIsNotThere) {
+  const Household household;
+  for (const Arguments& arguments : {Arguments{"batch"}, Arguments{"notation", "--hands", "-"}}) {
+    ProgramRun run = household.Prepare(arguments);
+    run.InputClosed = true;
+    for (const StreamEnd end : {StreamEnd::kKept, StreamEnd::kClosed}) {
+      run.Output = end;
+      const ProgramOutcome outcome = RunProgram(run);
+      EXPECT_EQ(outcome.Status, 1) << arguments.front();
+      EXPECT_EQ(outcome.Output, "") << arguments.front();
+      EXPECT_EQ(outcome.Errors, "Run-time error '57': Device I/O error (standard input: Bad file descriptor)\n");
+    }
+  }
+}
+
 TEST(CompanionJourney, KeepsItsStatusWithoutStandardError) {
   const Household household;
   for (const StatusCase& failing : Statuses()) {

@@ -1,3 +1,5 @@
+#include "tools/analysis_command.h"
+
 #include <CLI/CLI.hpp>
 #include <array>
 #include <cstddef>
@@ -14,34 +16,13 @@
 #include "ranges/range_lookup.h"
 #include "results/results_grid.h"
 #include "tools/analysis_output.h"
-#include "tools/commands.h"
 #include "tools/progress_bar.h"
 
 namespace quillon {
 namespace {
 
-// How an analysis is asked for on the command line: what its help says of each amount and of each range.
-struct AnalysisCommand {
-  AnalysisMode Mode = AnalysisMode::kNone;
-  std::array<const char*, 3> Amounts{};  // pot, call, shove
-  std::array<const char*, 2> Ranges{};  // his range, the one he calls with
-};
-
-constexpr ScenarioTable<AnalysisCommand> kAnalysisCommands = {{
-    {AnalysisMode::kPreflopCall,
-     {"Everything in the pot, his bet included", "What you must put in to call"},
-     {"His range"}},
-    {AnalysisMode::kPreflopRaise,
-     {"Everything in the pot", "What you must put in to call, 0 if you are first to act",
-      "What he must put in to call your shove"},
-     {"His range now", "The range he calls your shove with"}},
-    {AnalysisMode::kEquityOnly, {}, {"His range"}},
-}};
-static_assert(CoversEveryScenario(kAnalysisCommands));
-
 struct Request {
-  EnteredSituation situation;
-  std::array<RangeOption, 2> ranges;
+  SituationOptions situation;
   std::string folder;
   std::string format;
   std::vector<std::string> hands;
@@ -80,19 +61,20 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
   if (!request.hands.empty() && format != OutputFormat::kForum) {
     throw CLI::ValidationError("--hand goes with --format 2+2 only");
   }
-  EnteredSituation situation = request.situation;
+  const auto& [amounts, range, callingRange] = request.situation;
+  EnteredSituation situation{
+      .Pot = amounts[0], .Call = amounts[1], .Shove = amounts[2], .Range = {}, .CallingRange = {}};
   CommandInputs inputs(surroundings, request.folder);
-  const std::array<std::pair<const char*, std::string*>, 3> amounts = {
-      {{"--pot", &situation.Pot}, {"--call", &situation.Call}, {"--shove", &situation.Shove}}};
-  for (const auto& [option, text] : amounts) {
-    if (!inputs.EvaluateAmount(option, *text)) return kRefused;
+  const std::array<std::string*, 3> texts = {&situation.Pot, &situation.Call, &situation.Shove};
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (!inputs.EvaluateAmount(kAmountOptions[i], *texts[i])) return kRefused;
   }
-  bool rangesTaken = TakeRange(request.ranges[0], inputs, situation.Range, situation.RangeText);
+  bool rangesTaken = TakeRange(range, inputs, situation.Range, situation.RangeText);
   if (ScenarioOf(mode).HasCallingRange) {
-    rangesTaken &= TakeRange(request.ranges[1], inputs, situation.CallingRange, situation.CallingRangeText);
+    rangesTaken &= TakeRange(callingRange, inputs, situation.CallingRange, situation.CallingRangeText);
   }
   if (!rangesTaken) return kRefused;
-  const bool namesRanges = request.ranges[0].Name || request.ranges[1].Name;
+  const bool namesRanges = range.Name || callingRange.Name;
   const ProgramFolder folder = namesRanges ? inputs.Folder() : ProgramFolder{};
   if (const auto complaint = CheckInputs(mode, situation, folder)) {
     surroundings.Errors << complaint->Title << ": " << complaint->Text << '\n';
@@ -108,38 +90,18 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
   return kDone;
 }
 
+}  // namespace
+
 RunCommand OfferAnalysis(AnalysisMode mode, CLI::App& options) {
-  const Scenario& scenario = ScenarioOf(mode);
-  const AnalysisCommand& row = *FindRow(kAnalysisCommands, mode);
   const auto request = std::make_shared<Request>();
-  EnteredSituation& situation = request->situation;
-  if (scenario.AmountCount > 0) OfferAmount(options, "--pot", situation.Pot, row.Amounts[0]);
-  if (scenario.AmountCount > 1) OfferAmount(options, "--call", situation.Call, row.Amounts[1]);
-  if (scenario.AmountCount > 2) OfferAmount(options, "--shove", situation.Shove, row.Amounts[2]);
-  OfferRange(options, "--range", "--hands", request->ranges[0], row.Ranges[0]);
-  if (scenario.HasCallingRange) {
-    OfferRange(options, "--calling-range", "--calling-hands", request->ranges[1], row.Ranges[1]);
-  }
+  OfferAmounts(options, mode, static_cast<std::size_t>(ScenarioOf(mode).AmountCount), request->situation);
+  OfferRanges(options, mode, request->situation);
   OfferFormat(options, request->format, kAnalysisFormats);
   options.add_option("--hand", request->hands, "With 2+2: adds the working of these hands")
       ->type_name("LABEL")
       ->check(CLI::Validator(CheckLabel, ""));
   OfferFolder(options, request->folder);
   return [mode, request](const Surroundings& surroundings) { return PrintAnalysis(mode, *request, surroundings); };
-}
-
-}  // namespace
-
-RunCommand OfferCall(CLI::App& options) {
-  return OfferAnalysis(AnalysisMode::kPreflopCall, options);
-}
-
-RunCommand OfferRaise(CLI::App& options) {
-  return OfferAnalysis(AnalysisMode::kPreflopRaise, options);
-}
-
-RunCommand OfferEquity(CLI::App& options) {
-  return OfferAnalysis(AnalysisMode::kEquityOnly, options);
 }
 
 }  // namespace quillon

@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <numeric>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -16,13 +16,11 @@ namespace quillon {
 namespace {
 
 struct Request {
-  std::string pot;
-  std::string call;
-  std::string shove;
+  SituationOptions situation;
   RangeOption his;
   RangeOption own;
-  std::string saveShove;
-  std::string saveCall;
+  std::optional<std::string> saveShove;
+  std::optional<std::string> saveCall;
   bool replace = false;
   std::string format;
   std::string folder;
@@ -82,33 +80,45 @@ std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& in
   return std::nullopt;
 }
 
-int Print(const Request& request, const Surroundings& surroundings) {
-  CommandInputs inputs(surroundings, request.folder);
-  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
-  const auto call = inputs.Amount("--call", request.call, LeastAmount::kZero);
-  const auto shove = inputs.Amount("--shove", request.shove, LeastAmount::kAboveZero);
+// The situation, once it is one that can be balanced.
+std::optional<BalanceQuestion> QuestionOf(const Request& request, CommandInputs& inputs) {
+  const auto& [pot, call, shove] = request.situation.Amounts;
+  const auto [potOption, callOption, shoveOption] = kAmountOptions;
+  const auto potSize = inputs.Amount(potOption, pot, LeastAmount::kAboveZero);
+  const auto callAmount = inputs.Amount(callOption, call, LeastAmount::kZero);
+  const auto shoveAmount = inputs.Amount(shoveOption, shove, LeastAmount::kAboveZero);
   const auto own = HandsOf(request.own, inputs);
   const auto his = HandsOf(request.his, inputs);
-  if (!pot || !call || !shove || !own || !his) return inputs.Status();
-  constexpr double kMostTogether = 1e300;  // sums and shares of it stay numbers
-  if (*pot + *call + *shove > kMostTogether) {
-    inputs.Refuse("--pot, --call and --shove may be at most " + NumberText(kMostTogether) + " together");
-    return inputs.Status();
-  }
-  if (!request.saveShove.empty() && request.saveShove == request.saveCall) {
-    inputs.Refuse("--save-shove and --save-call need different names");
-    return inputs.Status();
-  }
-  for (const std::string& name : {request.saveShove, request.saveCall}) {
-    if (!name.empty() && !MaySave(inputs, name, request.replace, surroundings)) return inputs.Status();
-  }
+  if (!potSize || !callAmount || !shoveAmount || !own || !his) return std::nullopt;
+  if ((*callAmount + *shoveAmount) / *potSize <= kMostPotsAtRisk)
+    return BalanceQuestion{*potSize, *callAmount, *shoveAmount, *own, *his};
+  inputs.Refuse("--call and --shove may be at most " + NumberText(kMostPotsAtRisk) + " times --pot, together");
+  return std::nullopt;
+}
 
-  const BalanceQuestion question = {*pot, *call, *shove, *own, *his};
-  const Answer answer = {question, *FindEquilibrium(inputs.Hands(), question)};
-  const Equilibrium& found = answer.found;
-  if (!request.saveShove.empty()) SaveRangeText(inputs.Folder(), request.saveShove, SearchableRangeText(found.Shove));
-  if (!request.saveCall.empty()) SaveRangeText(inputs.Folder(), request.saveCall, SearchableRangeText(found.Call));
-  surroundings.Output << InFormat(kFormats, request.format, answer);
+// Whether both ranges may be saved under the names given, if any are.
+bool MaySaveBoth(const Request& request, CommandInputs& inputs, const Surroundings& surroundings) {
+  const auto maySave = [&](const std::optional<std::string>& name) {
+    return !name || MaySave(inputs, *name, request.replace, surroundings);
+  };
+  if (!request.saveShove || request.saveShove != request.saveCall)
+    return maySave(request.saveShove) && maySave(request.saveCall);
+  inputs.Refuse("--save-shove and --save-call need different names");
+  return false;
+}
+
+int Print(const Request& request, const Surroundings& surroundings) {
+  CommandInputs inputs(surroundings, request.folder);
+  const std::optional<BalanceQuestion> question = QuestionOf(request, inputs);
+  if (!question || !MaySaveBoth(request, inputs, surroundings)) return inputs.Status();
+  const std::optional<Equilibrium> found = FindEquilibrium(inputs.Hands(), *question);
+  if (!found) {
+    inputs.Refuse("No ranges were found that are in balance to a millionth of the pot: the shove is too large for it");
+    return inputs.Status();
+  }
+  if (request.saveShove) SaveRangeText(inputs.Folder(), *request.saveShove, SearchableRangeText(found->Shove));
+  if (request.saveCall) SaveRangeText(inputs.Folder(), *request.saveCall, SearchableRangeText(found->Call));
+  surroundings.Output << InFormat(kFormats, request.format, Answer{*question, *found});
   return kDone;
 }
 
@@ -116,9 +126,7 @@ int Print(const Request& request, const Surroundings& surroundings) {
 
 RunCommand OfferBalance(CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  OfferAmount(options, "--pot", request->pot, "Everything in the pot");
-  OfferAmount(options, "--call", request->call, "What you must put in to call, 0 if you are first to act");
-  OfferAmount(options, "--shove", request->shove, "What he must put in to call your shove");
+  OfferAmounts(options, AnalysisMode::kPreflopRaise, kAmountOptions.size(), request->situation);
   OfferRange(options, "--range", "--hands", request->his, "What he can hold (default: any hand)");
   OfferRange(options, "--own-range", "--own-hands", request->own, "What you can hold (default: any hand)");
   options.add_option("--save-shove", request->saveShove, "Saves the range to shove")->type_name("NAME");

@@ -10,7 +10,6 @@
 #include <memory>
 #include <optional>
 #include <ostream>
-#include <sched.h>
 #include <streambuf>
 #include <string>
 #include <system_error>
@@ -22,6 +21,7 @@
 #include "results/analysis_json.h"
 #include "study/batch.h"
 #include "support/files.h"
+#include "support/usable_cores.h"
 #include "tools/bounded_queue.h"
 #include "tools/commands.h"
 #include "tools/interrupt.h"
@@ -34,28 +34,24 @@ constexpr const char* kStandardInput = "-";
 
 struct Request {
   std::string file = kStandardInput;
-  std::string fields;
+  std::optional<std::string> fields;
   unsigned jobs = 0;
   std::string folder;
 };
 
-// The cores that this process may use, which a queueing system may have made fewer than there are.
-unsigned UsableCores() {
-  cpu_set_t cores{};
-  if (sched_getaffinity(0, sizeof cores, &cores) != 0) return 1;
-  return std::clamp(static_cast<unsigned>(CPU_COUNT(&cores)), 1U, kMostJobs);
-}
-
-std::vector<std::string> FieldsOf(const std::string& list) {
+// The fields in a list, all of them where there is none.
+std::vector<std::string> FieldsOf(const std::optional<std::string>& list) {
   std::vector<std::string> fields;
-  if (list.empty()) return fields;
-  const std::vector<std::string> known = AnalysisFieldNames();
-  for (const std::string& field : CLI::detail::split(list, ',')) {
+  if (!list) return fields;
+  std::vector<std::string> known = AnalysisFieldNames();
+  known.insert(known.begin(), "id");
+  for (std::string field : CLI::detail::split(*list, ',')) {
+    CLI::detail::trim(field);
     if (std::ranges::find(known, field) == known.end()) {
       throw CLI::ValidationError("--fields: there is no field \"" + field + "\"; there are " +
                                  CLI::detail::join(known, ", "));
     }
-    fields.push_back(field);
+    fields.push_back(std::move(field));
   }
   return fields;
 }
@@ -185,7 +181,8 @@ int AnswerLines(const Request& request, const Surroundings& surroundings) {
   const Batch batch(inputs.Folder(), std::move(fields));
   const InterruptWatch watch;
   const auto run = [&](std::streambuf& input) {
-    return Filter(batch, request.jobs == 0 ? UsableCores() : request.jobs, surroundings).Run(input);
+    return Filter(batch, request.jobs == 0 ? std::min(UsableCores(), kMostJobs) : request.jobs, surroundings)
+        .Run(input);
   };
   if (request.file == kStandardInput) return surroundings.Input == nullptr ? kDone : run(*surroundings.Input->rdbuf());
   const OpenFile file(request.file, inputs);
@@ -201,7 +198,8 @@ RunCommand OfferBatch(CLI::App& options) {
   options.add_option("file", request->file, "The situations; - is standard input (default)")->type_name("FILE");
   options
       .add_option("--fields", request->fields,
-                  "Only these fields, separated by commas, of the situation and of each hand, such as best,ev,equity")
+                  "The id and only these fields, separated by commas, of the situation and of each hand, such as "
+                  "best,ev,equity")
       ->type_name("NAMES");
   options.add_option("--jobs", request->jobs, "Lines to answer at once (default: as many as there are cores)")
       ->type_name("N")

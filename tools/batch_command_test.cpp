@@ -99,6 +99,16 @@ TEST_F(BatchCommand, TakesAFileOrStandardInput) {
   EXPECT_EQ(Lines(expected.Output).size(), 3U);
 }
 
+TEST_F(BatchCommand, TakesFieldsWithSpacesBetweenThem) {
+  const CompanionOutcome expected = Run({"batch", "--fields", "best,equity"}, EquityLines(3));
+  EXPECT_EQ(Run({"batch", "--fields", " best , equity,hand, id"}, EquityLines(3)).Output, expected.Output);
+  EXPECT_EQ(Lines(expected.Output).size(), 3U);
+}
+
+TEST_F(BatchCommand, TakesAByteOrderMarkBeforeItsLines) {
+  EXPECT_EQ(Run({"batch"}, "\xEF\xBB\xBF" + EquityLines(2)).Output, Run({"batch"}, EquityLines(2)).Output);
+}
+
 TEST_F(BatchCommand, NeedsNoLastLineEndAndNoLine) {
   EXPECT_EQ(Lines(Run({"batch"}, EquityLine(1) + R"({"id":2,"mode":"equity","hands":"KK"})").Output).size(), 2U);
   const CompanionOutcome nothing = Run({"batch"}, "");
@@ -129,8 +139,9 @@ TEST_F(BatchCommand, RefusesWhatItCannotOpenOrDo) {
   };
   for (const Case& c : std::vector<Case>{
            {{"batch", "/nowhere/situations"}, kRefused, "/nowhere/situations: No such file or directory"},
-           {{"batch", "--fields", "best,eV"}, kWrongUsage, "there is no field \"eV\"; there are mode, pot, "},
+           {{"batch", "--fields", "best,eV"}, kWrongUsage, "there is no field \"eV\"; there are id, mode, pot, "},
            {{"batch", "--fields", "best,,ev"}, kWrongUsage, "there is no field \"\""},
+           {{"batch", "--fields", ""}, kWrongUsage, "there is no field \"\""},
            {{"batch", "--jobs", "0"}, kWrongUsage, "--jobs"},
            {{"batch", "--jobs", "257"}, kWrongUsage, "--jobs"},
            {{"batch", "--jobs", "-1"}, kWrongUsage, "--jobs"},

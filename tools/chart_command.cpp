@@ -7,12 +7,12 @@
 #include <optional>
 #include <ostream>
 #include <string>
-#include <thread>
 #include <variant>
 
 #include "study/stack_chart.h"
 #include "study/study_pages.h"
 #include "support/number_text.h"
+#include "support/usable_cores.h"
 #include "tools/class_grid.h"
 #include "tools/commands.h"
 #include "tools/progress_bar.h"
@@ -106,8 +106,12 @@ std::optional<Steps> StacksOf(const Request& request, CommandInputs& inputs) {
     return std::nullopt;
   }
   const auto& stacks = std::get<Steps>(read);
-  if (LeadingNumber(stacks.Text(0)) > 1) return stacks;
-  inputs.Refuse("--from must be above 1: the big blind is in the pot already");
+  if (LeadingNumber(stacks.Text(0)) <= 1)
+    inputs.Refuse("--from must be above 1: the big blind is in the pot already");
+  else if (LeadingNumber(stacks.Text(stacks.Count() - 1)) > kMostStack)
+    inputs.Refuse("--to may be at most " + NumberText(kMostStack));
+  else
+    return stacks;
   return std::nullopt;
 }
 
@@ -118,7 +122,7 @@ int Print(const Request& request, const Surroundings& surroundings) {
   const auto all = static_cast<std::size_t>(stacks->Count());
   const auto chart = [&] {
     ProgressBar bar(surroundings);
-    return MakeStackChart(inputs.Hands(), *stacks, std::max(1U, std::thread::hardware_concurrency()),
+    return MakeStackChart(inputs.Hands(), *stacks, UsableCores(),
                           [&bar, all](std::int64_t done) { bar.Show(static_cast<std::size_t>(done), all); });
   };
   surroundings.Output << InFormat(kFormats, request.format, Answer{*stacks, chart()});

@@ -25,6 +25,30 @@ namespace {
 // Names of formats and statuses, in their lists.
 constexpr std::size_t kHelpNameWidth = 6;
 
+constexpr double kMostAmount = 1e300;
+
+// What the help says of a scenario's amounts and of its ranges.
+struct SituationTexts {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::array<const char*, 3> Amounts{};  // pot, call, shove
+  const char* Range = nullptr;
+  const char* CallingRange = nullptr;
+};
+
+constexpr ScenarioTable<SituationTexts> kSituationTexts = {{
+    {AnalysisMode::kPreflopCall,
+     {"Everything in the pot, his bet included", "What you must put in to call"},
+     "His range",
+     nullptr},
+    {AnalysisMode::kPreflopRaise,
+     {"Everything in the pot", "What you must put in to call, 0 if you are first to act",
+      "What he must put in to call your shove"},
+     "His range now",
+     "The range he calls your shove with"},
+    {AnalysisMode::kEquityOnly, {}, "His range", nullptr},
+}};
+static_assert(CoversEveryScenario(kSituationTexts));
+
 HandNumbers ReadHandNumbers() {
   LoadEquityTable();
   return {};
@@ -76,21 +100,32 @@ void OfferFolder(CLI::App& command, std::string& folder) {
 void OfferFormat(CLI::App& command, std::string& format, std::vector<FormatName> formats) {
   format = formats.front().Name;
   std::vector<std::string> names;
-  std::string list;
   std::string meanings = "Formats:\n";
   for (const FormatName& row : formats) {
     names.emplace_back(row.Name);
-    list.append(list.empty() ? "" : ", ").append(row.Name).append(list.empty() ? " (default)" : "");
     std::string name = row.Name;
     name.resize(std::max(name.size(), kHelpNameWidth), ' ');
     meanings += "  " + name + " " + row.Meaning + "\n";
   }
-  command.add_option("--format", format, list)->type_name("F")->check(CLI::IsMember(names));
+  command.add_option("--format", format, "How the answer is written (default: " + format + ")")
+      ->type_name("F")
+      ->check(CLI::IsMember(names));
   command.footer(meanings + "\n" + command.get_footer());
 }
 
-void OfferAmount(CLI::App& command, const std::string& option, std::string& amount, const std::string& description) {
-  command.add_option(option, amount, description)->required()->type_name("TEXT");
+void OfferAmounts(CLI::App& command, AnalysisMode mode, std::size_t count, SituationOptions& situation) {
+  const SituationTexts& texts = RowOf(kSituationTexts, mode);
+  for (std::size_t i = 0; i < count; ++i)
+    command.add_option(kAmountOptions.at(i), situation.Amounts.at(i), texts.Amounts.at(i))
+        ->required()
+        ->type_name("TEXT");
+}
+
+void OfferRanges(CLI::App& command, AnalysisMode mode, SituationOptions& situation) {
+  const SituationTexts& texts = RowOf(kSituationTexts, mode);
+  OfferRange(command, "--range", "--hands", situation.Range, texts.Range);
+  if (texts.CallingRange == nullptr) return;
+  OfferRange(command, "--calling-range", "--calling-hands", situation.CallingRange, texts.CallingRange);
 }
 
 std::string CheckLabel(const std::string& label) {
@@ -115,10 +150,16 @@ bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
 }
 
 std::optional<double> CommandInputs::Amount(std::string_view option, std::string text, LeastAmount least) {
-  if (!EvaluateAmount(option, text)) return std::nullopt;
+  const std::optional<bool> evaluated = Attempt([&] { return EvaluateAmount(option, text); });
+  if (!evaluated) Refuse(std::string(option) + ": the sum is beyond all numbers");
+  if (!evaluated.value_or(false)) return std::nullopt;
   const double value = BoxValue(text);
   if (!IsNumericText(text) && !(text.empty() && least == LeastAmount::kZero)) {
     Refuse(std::string(option) + ": \"" + text + "\" is not an amount");
+    return std::nullopt;
+  }
+  if (value > kMostAmount) {
+    Refuse(std::string(option) + " may be at most " + NumberText(kMostAmount));
     return std::nullopt;
   }
   if (value > 0 || (value == 0 && least == LeastAmount::kZero)) return value;
@@ -173,8 +214,10 @@ std::optional<std::string> CommandInputs::StandardInput() {
   // One more than a notation may have is enough to see that it is too long.
   std::string text(kLongestNotation + 1, '\0');
   if (surroundings_.Input == nullptr) return "";
-  surroundings_.Input->read(text.data(), static_cast<std::streamsize>(text.size()));
-  text.resize(static_cast<std::size_t>(surroundings_.Input->gcount()));
+  // Not by the stream, which would take a failure for the end of the input.
+  const std::streamsize size =
+      surroundings_.Input->rdbuf()->sgetn(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(size));
   return text;
 }
 

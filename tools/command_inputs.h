@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "analysis/range_sources.h"
+#include "analysis/scenarios.h"
 #include "ranges/range_files.h"
 #include "ranges/range_text.h"
 #include "study/given_range.h"
@@ -68,8 +69,21 @@ struct RangeOption {
 void OfferRange(CLI::App& command, const std::string& nameOption, const std::string& handsOption, RangeOption& range,
                 const std::string& description);
 
-/// Adds a required amount, such as "--pot".
-void OfferAmount(CLI::App& command, const std::string& option, std::string& amount, const std::string& description);
+/// The options of pot, call and shove.
+inline constexpr std::array<const char*, 3> kAmountOptions = {"--pot", "--call", "--shove"};
+
+/// What is asked for of a situation: amounts as typed, in the order of kAmountOptions, and ranges.
+struct SituationOptions {
+  std::array<std::string, 3> Amounts;
+  RangeOption Range;
+  RangeOption CallingRange;
+};
+
+/// Adds the first `count` amounts, each required, with what they mean in a scenario.
+void OfferAmounts(CLI::App& command, AnalysisMode mode, std::size_t count, SituationOptions& situation);
+
+/// Adds the ranges that a scenario asks for.
+void OfferRanges(CLI::App& command, AnalysisMode mode, SituationOptions& situation);
 
 /// Adds the options of a command that writes one range as text, and returns what writes it; `write` makes the text from
 /// the range's.
@@ -98,16 +112,17 @@ class CommandInputs {
   CommandInputs(const Surroundings& surroundings, const std::string& folder);
 
   /// An amount, or nothing after it was told what is wrong with it: a number above 0, or not below it, or a sum such as
-  /// "=735+220-178". Where 0 is allowed, an empty text is 0, as in an amount box. A comma that cuts it short gives a
-  /// warning.
+  /// "=735+220-178", and at most 1E+300, so that what is made of several is still a number. Where 0 is allowed, an
+  /// empty text is 0, as in an amount box. A comma that cuts it short gives a warning.
   [[nodiscard]] std::optional<double> Amount(std::string_view option, std::string text, LeastAmount least);
 
   /// The first half of that: whether the text is no sum or was replaced by the value of its sum.
   [[nodiscard]] bool EvaluateAmount(std::string_view option, std::string& text);
 
   /// A range, or nothing after it was told what is wrong with it: no file, a file that is none of a range, a notation
-  /// that cannot be read, with its place. A text without weights fails as RangeWeightOf does. Wrong usage, which ends
-  /// the command, if neither option is there or standard input is asked for twice.
+  /// that cannot be read, with its place. A text without weights fails as RangeWeightOf does, and standard input that
+  /// cannot be read as DescriptorInput does. Wrong usage, which ends the command, if neither option is there or
+  /// standard input is asked for twice.
   [[nodiscard]] std::optional<GivenRange> Range(const RangeOption& option);
 
   /// A range by its notation alone.

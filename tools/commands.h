@@ -2,8 +2,10 @@
 
 // The commands of the companion, one file each.
 
+#include <algorithm>
 #include <array>
 
+#include "analysis/scenarios.h"
 #include "tools/command_inputs.h"
 
 namespace quillon {
@@ -41,8 +43,9 @@ inline constexpr std::array<Command, 14> kCommands = {{
      "half; the command notation prints all of it.",
      R"(--range "Tight Open")", OfferSummary},
     {"notation", "The exact notation of a range, with every weight",
-     "What it prints reads as the same range after --hands, whatever the weights.", R"(--hands "top 15%, 76s-54s:0.5")",
-     OfferNotation},
+     "What it prints reads as the same range after --hands. A weight above 1 or below 0, which a file may hold, is\n"
+     "printed like any other, but typed weights are from 0 to 1.",
+     R"(--hands "top 15%, 76s-54s:0.5")", OfferNotation},
     {"ranges", "Lists the saved ranges: name, percent selected, short notation",
      "A file that is no range is left out, told on standard error, and makes the exit status 1.", "", OfferRanges},
     {"save", "Saves a range under a name",
@@ -77,5 +80,9 @@ inline constexpr std::array<Command, 14> kCommands = {{
      "folder with a few example ranges if it is missing.",
      "", OfferFolderPath},
 }};
+
+static_assert(std::ranges::all_of(kScenarios, [](const Scenario& scenario) {
+  return std::ranges::any_of(kCommands, [&](const Command& command) { return command.Name == scenario.Command; });
+}));
 
 }  // namespace quillon

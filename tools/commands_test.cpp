@@ -3,9 +3,12 @@
 #include "tools/commands.h"
 
 #include <chrono>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <istream>
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -14,9 +17,12 @@
 #include "ranges/range_notation.h"
 #include "study/equilibrium.h"
 #include "study/limits.h"
+#include "support/files.h"
 #include "support/number_text.h"
 #include "testing/companion_program.h"
+#include "testing/fault_of.h"
 #include "testing/split_text.h"
+#include "tools/interrupt.h"
 
 namespace quillon {
 namespace {
@@ -101,6 +107,7 @@ TEST(EmptyCall, CountsAsNothing) {
 
 TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
   const CompanionProgram program;
+  program.Write("Double.txt", "AA (2), " + TextWith("KK").substr(8) + "\r\n");
   const Arguments sweep = {"sweep", "call", "--hands", "AA"};
   const Arguments balance = {"balance", "--pot", "1", "--call", "1"};
   struct Case {
@@ -114,6 +121,8 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {{"notation", "--range", "Tihgt"}, kRefused, "The nearest names: \"Tight\""},
            {{"notation", "--range", "Tight", "--hands", "AA"}, kWrongUsage, "excludes"},
            {{"notation"}, kWrongUsage, "--range or --hands is required"},
+           {{"notation", "--range", "../Ranges/Tight"}, kRefused, "There is no range \"../Ranges/Tight\" in "},
+           {{"equity", "--range", "../Ranges/Tight"}, kRefused, "There is no range \"../Ranges/Tight\" in "},
            {{"save", "a/b", "--hands", "AA"}, kRefused, "not allowed in the range name"},
            {{"save", "", "--hands", "AA"}, kRefused, "You must choose a name"},
            {{"save", "Tight", "--hands", "AA"}, kRefused, "already exists"},
@@ -123,6 +132,11 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {{"limits", "call", "--pot", "0", "--hands", "AA"}, kRefused, "--pot must be above 0"},
            {{"limits", "call", "--pot", "x", "--hands", "AA"}, kRefused, "--pot: \"x\" is not an amount"},
            {{"limits", "call", "--pot", "nan", "--hands", "AA"}, kRefused, "--pot: \"nan\" is not an amount"},
+           {{"limits", "call", "--pot", "1e301", "--hands", "AA"}, kRefused, "--pot may be at most 1E+300\n"},
+           {{"limits", "call", "--pot", "=" + std::string(310, '9') + "+" + std::string(310, '9'), "--hands", "AA"},
+            kRefused,
+            "--pot: the sum is beyond all numbers\n"},
+           {{"limits", "call", "--pot", "1", "--hands", "AA", "--format", "plain"}, kWrongUsage, "--format"},
            {{"limits", "call", "--pot", "1", "--hands", "none"}, kRefused, "The range \"none\" has no hands."},
            {{"limits", "raise", "--pot", "1", "--call", "-1", "--hands", "AA", "--calling-hands", "AA"},
             kRefused,
@@ -131,6 +145,7 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {With(sweep, {"--pot", "9", "--call", "1:1000000000:1"}), kRefused, "at most 100000 steps"},
            {With(sweep, {"--pot", "9", "--call", "1:9:1"}), kRefused, "--pot must be greater than --call"},
            {With(sweep, {"--pot", "9", "--call", "0:5:1"}), kRefused, "--call must be above 0"},
+           {With(sweep, {"--pot", "1e308", "--call", "1:2:1"}), kRefused, "--pot may be at most 1E+300\n"},
            {With(sweep, {"--pot", "9", "--call", "1"}), kWrongUsage, "is given as FROM:TO:STEP"},
            {With(sweep, {"--pot", "5:9:1", "--call", "1:2:1"}), kWrongUsage, "is given as FROM:TO:STEP"},
            {With(sweep, {"--pot", "", "--call", "1:2:1"}), kRefused, "--pot must be above 0"},
@@ -144,9 +159,22 @@ TEST(BadInput, IsToldWithItsPlaceAndChangesNothing) {
            {{"chart", "--to", "1000000000"}, kRefused, "at most 100000 steps"},
            {{"chart", "--from", "1"}, kRefused, "--from must be above 1"},
            {{"chart", "--from", "5", "--to", "4"}, kRefused, "the end may not be below the start"},
+           {{"chart", "--to", "200000000", "--step", "100000000"}, kRefused, "--to may be at most 100000000\n"},
            {{"chart", "--from", "nan"}, kRefused, "\"nan\" is not a plain decimal"},
            {With(balance, {"--shove", "0"}), kRefused, "--shove must be above 0"},
-           {With(balance, {"--shove", "1e400"}), kRefused, "--pot, --call and --shove may be at most 1E+300 together"},
+           {With(balance, {"--shove", "1e400"}), kRefused, "--shove may be at most 1E+300\n"},
+           {{"balance", "--pot", "1e-300", "--call", "0", "--shove", "1e290"},
+            kRefused,
+            "--call and --shove may be at most 100000000 times --pot, together\n"},
+           {With(balance, {"--shove", "1e8", "--own-hands", "AA,72o", "--hands", "KK"}), kRefused,
+            "--call and --shove may be at most 100000000 times --pot, together\n"},
+           {With(balance, {"--shove", "1e7", "--own-hands", "AA,72o", "--hands", "KK"}), kRefused,
+            "No ranges were found that are in balance to a millionth of the pot: the shove is too large for it\n"},
+           {With(balance, {"--shove", "9", "--range", "Double"}), kRefused,
+            "The range \"Double\" has weights that are not from 0 to 1.\n"},
+           {With(balance, {"--shove", "9", "--own-range", "Double"}), kRefused, "weights that are not from 0 to 1.\n"},
+           {With(balance, {"--shove", "9", "--save-shove", ""}), kRefused, "You must choose a name"},
+           {With(balance, {"--shove", "9", "--save-call", ""}), kRefused, "You must choose a name"},
            {With(balance, {"--shove", "9", "--hands", "none"}), kRefused, "has no hands"},
            {With(balance, {"--shove", "9", "--save-call", "Tight"}), kRefused, "already exists"},
            {With(balance, {"--shove", "9", "--save-call", "One", "--save-shove", "One"}), kRefused, "different names"},
@@ -170,6 +198,33 @@ TEST(Save, WritesWhatCanBeReadAgain) {
   EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA"}).Status, kRefused);
   EXPECT_EQ(program.Run({"save", "Mine", "--hands", "AA", "--replace"}).Status, kDone);
   EXPECT_EQ(program.Read("Mine.txt"), TextWith("AA") + "\r\n");
+}
+
+// A file may hold weights that no notation can say. They are shown, and the help says that they cannot be typed.
+TEST(Notation, OfAWeightAboveOneIsNotRead) {
+  const CompanionProgram program;
+  program.Write("Double.txt", "AA (2), " + TextWith("KK").substr(8) + "\r\n");
+  EXPECT_EQ(program.Run({"notation", "--range", "Double"}).Output, "AA:2,KK\n");
+  EXPECT_EQ(program.Run({"notation", "--hands", "AA:2,KK"}).Status, kRefused);
+  EXPECT_THAT(program.Run({"help", "notation"}).Output, HasSubstr("typed weights are from 0 to 1."));
+}
+
+// Input that cannot be read is not input that is empty.
+TEST(StandardInput, ThatCannotBeReadEndsTheRun) {
+  const CompanionProgram program;
+  const int folder = SystemFileCalls().Open("/", O_RDONLY | O_CLOEXEC, 0);
+  ASSERT_GE(folder, 0);
+  for (const Arguments& arguments : {Arguments{"notation", "--hands", "-"}, Arguments{"batch"}}) {
+    DescriptorInput unreadable(folder, "standard input");
+    std::istream input(&unreadable);
+    std::ostringstream output;
+    const Surroundings surroundings = {
+        output, output, [&program] { return program.Folder().Path; }, {}, std::chrono::steady_clock::now, &input};
+    EXPECT_EQ(FaultOf([&] { return RunCompanion(arguments, surroundings); }), RunTimeFault::kPathFileAccess)
+        << arguments.front();
+    EXPECT_EQ(output.str(), "") << arguments.front();
+  }
+  SystemFileCalls().Close(folder);
 }
 
 TEST(Matrix, HoldsTheWholeTable) {
@@ -214,8 +269,10 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
       EXPECT_EQ(json["hands"][i]["amount"], limit.Amount) << label;
     }
   }
-  EXPECT_THAT(program.Run(raise).Output, StartsWith("AA  always   AKs 5332.15  AQs 1756.08  "));
-  EXPECT_EQ(Lines(program.Run(raise).Output).size(), 13U);
+  const std::string grid = program.Run(raise).Output;
+  EXPECT_THAT(grid, StartsWith("AA  always   AKs 5332.15  AQs 1756.08  "));
+  EXPECT_EQ(Lines(grid).size(), 13U);
+  EXPECT_EQ(program.Run(With(raise, {"--format", "grid"})).Output, grid);
 }
 
 // At what the grid shows no hand loses, so "up to" is rounded down and "from" up.
@@ -323,6 +380,11 @@ TEST(BalanceCommand, PrintsAndSavesBothRanges) {
   const Json own = Json::parse(program.Run(With(balance, {"--own-hands", "AA", "--format", "json"})).Output);
   EXPECT_EQ(own["shove_range"]["hands"], "AA");
   EXPECT_NEAR(own["value"], 1.5 - 1.0 / 1225, 1e-9) << "other aces alone call, and split the pot";
+
+  const Json seldom = Json::parse(
+      program.Run(With(balance, {"--own-hands", "AA:1e-200", "--hands", "KK:1e-200", "--format", "json"})).Output);
+  EXPECT_EQ(seldom["shove_range"]["hands"], "AA:1E-200") << "so seldom that a deal of both is no number";
+  EXPECT_EQ(seldom["value"], 1.5) << "kings fold";
 }
 
 TEST(ChartCommand, TellsTheSameInEachFormat) {

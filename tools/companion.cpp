@@ -54,6 +54,11 @@ std::string Epilogue(const Command& command) {
   return std::string(kExitStatuses) + "\nExample:\n  quillon-cli " + command.Name + " " + command.Example;
 }
 
+// The manual of a command, or of a part of it, after the line that it has in a list.
+void Explain(const Command& command, CLI::App& options) {
+  options.description(options.get_description() + "\n\n" + command.About + "\n");
+}
+
 std::string CommandNames(std::string_view beforeLast) {
   std::string names;
   for (std::size_t i = 0; i < kCommands.size(); ++i)
@@ -129,10 +134,12 @@ int RunCompanion(std::span<const std::string> arguments, const Surroundings& sur
   app.set_version_flag("--version", "quillon-cli " + VersionText());
   std::vector<OfferedCommand> commands;
   for (const Command& command : kCommands) {
-    CLI::App* const options =
-        app.add_subcommand(command.Name, std::string(command.Description) + "\n\n" + command.About + "\n");
+    CLI::App* const options = app.add_subcommand(command.Name, command.Description);
     options->footer(Epilogue(command));
     commands.push_back({options, command.Offer(*options)});
+    Explain(command, *options);
+    for (CLI::App* const part : options->get_subcommands({}))
+      Explain(command, *part);
   }
   app.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
   TextsForPackages texts(app);

@@ -157,6 +157,29 @@ TEST(Help, OfACommandIsItsManual) {
   }
 }
 
+TEST(Help, OfAPartOfACommandHasTheManualToo) {
+  for (const Command& command : kCommands) {
+    if (command.Name != std::string_view("limits") && command.Name != std::string_view("sweep")) continue;
+    for (const char* part : {"call", "raise"}) {
+      const std::string help = RunCompanionIn("", {"help", command.Name, part}).Output;
+      EXPECT_THAT(help, HasSubstr(std::string("\n\n") + command.About + "\n")) << command.Name << " " << part;
+      EXPECT_THAT(help, HasSubstr(std::string("\nUsage: quillon-cli ") + command.Name + " " + part)) << command.Name;
+    }
+  }
+}
+
+TEST(Help, OfACommandTellsItsFormatWithoutOne) {
+  for (const auto& [arguments, format] :
+       std::vector<std::pair<Arguments, std::string>>{{{"help", "call"}, "plain"},
+                                                      {{"help", "limits", "call"}, "grid"},
+                                                      {{"help", "sweep", "call"}, "table"},
+                                                      {{"help", "chart"}, "grid"},
+                                                      {{"help", "matrix"}, "csv"}}) {
+    EXPECT_THAT(RunCompanionIn("", arguments).Output, HasSubstr("(default: " + format + ")\n"))
+        << testing::PrintToString(arguments);
+  }
+}
+
 TEST(Help, OfACommandTellsWhatItsFormatsAre) {
   for (const Arguments& arguments :
        {Arguments{"help", "call"}, Arguments{"help", "limits"}, Arguments{"help", "limits", "raise"},
@@ -165,6 +188,7 @@ TEST(Help, OfACommandTellsWhatItsFormatsAre) {
     EXPECT_THAT(help, HasSubstr("\nFormats:\n  ")) << testing::PrintToString(arguments);
     EXPECT_THAT(help, HasSubstr("\n  json   ")) << testing::PrintToString(arguments);
     EXPECT_THAT(Split(help, "Formats:"), SizeIs(2)) << testing::PrintToString(arguments);
+    EXPECT_THAT(help, HasSubstr("\nExit status:\n  0  ")) << testing::PrintToString(arguments);
   }
 }
 

@@ -8,7 +8,6 @@
 #include "study/limits.h"
 #include "study/study_pages.h"
 #include "support/number_text.h"
-#include "support/rounding.h"
 #include "tools/class_grid.h"
 #include "tools/commands.h"
 
@@ -16,10 +15,7 @@ namespace quillon {
 namespace {
 
 struct Request {
-  std::string pot;
-  std::string call;
-  RangeOption range;
-  RangeOption callingRange;
+  SituationOptions situation;
   std::string format;
   std::string folder;
 };
@@ -33,15 +29,9 @@ bool HasAmount(const Limit& limit) {
   return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
 }
 
-// In a grid two decimals are enough, rounded to the side on which the hand does not lose.
-std::string GridText(Limit limit) {
-  constexpr double kStep = 0.01;
-  const double nearest = RoundTo(limit.Amount, 2);
-  double safe = nearest;
-  if (limit.Kind == LimitKind::kUpTo && nearest > limit.Amount) safe = RoundTo(nearest - kStep, 2);
-  if (limit.Kind == LimitKind::kFrom && nearest < limit.Amount) safe = RoundTo(nearest + kStep, 2);
-  limit.Amount = safe;
-  return LimitText(limit);
+std::string GridText(const Limit& limit) {
+  if (!HasAmount(limit)) return LimitText(limit);
+  return (limit.Kind == LimitKind::kFrom ? "from " : "") + ShortAmount(limit);
 }
 
 std::string_view KindName(LimitKind kind) {
@@ -94,7 +84,7 @@ std::string SvgOutput(const Answer& answer) {
 }
 
 constexpr std::array<Format<Answer>, 5> kFormats = {{
-    {{"plain", "a grid to read, amounts rounded to two decimals"}, GridOutput},
+    {{"grid", "a grid to read, amounts rounded to the side on which the hand does not lose"}, GridOutput},
     {{"csv", "hand, limit, amount; always and never have no amount"}, CsvOutput},
     {{"json", "the same as one object"}, JsonOutput},
     {{"html", "a web page of one file: the situation, the grid, a table"}, HtmlOutput},
@@ -108,8 +98,8 @@ int Print(const Answer& answer, const std::string& format, const Surroundings& s
 
 int PrintCallLimits(const Request& request, const Surroundings& surroundings) {
   CommandInputs inputs(surroundings, request.folder);
-  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
-  const auto range = inputs.RangeWithHands(request.range);
+  const auto pot = inputs.Amount("--pot", request.situation.Amounts[0], LeastAmount::kAboveZero);
+  const auto range = inputs.RangeWithHands(request.situation.Range);
   if (!pot || !range) return inputs.Status();
   const LimitsQuestion question = {"Largest Call", {{"Pot Size", NumberText(*pot)}, {"His Range", range->Name}}};
   return Print({question, CallLimits(RangeNumbers(inputs.Hands(), range->Weights), *pot)}, request.format,
@@ -118,10 +108,10 @@ int PrintCallLimits(const Request& request, const Surroundings& surroundings) {
 
 int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
   CommandInputs inputs(surroundings, request.folder);
-  const auto pot = inputs.Amount("--pot", request.pot, LeastAmount::kAboveZero);
-  const auto call = inputs.Amount("--call", request.call, LeastAmount::kZero);
-  const auto range = inputs.Range(request.range);
-  const auto callingRange = inputs.Range(request.callingRange);
+  const auto pot = inputs.Amount("--pot", request.situation.Amounts[0], LeastAmount::kAboveZero);
+  const auto call = inputs.Amount("--call", request.situation.Amounts[1], LeastAmount::kZero);
+  const auto range = inputs.Range(request.situation.Range);
+  const auto callingRange = inputs.Range(request.situation.CallingRange);
   if (!pot || !call || !range || !callingRange) return inputs.Status();
   const LimitsQuestion question = {"Largest Shove",
                                    {{"Pot Size", NumberText(*pot)},
@@ -132,25 +122,24 @@ int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
   return Print({question, ShoveLimits(ranges, *pot, *call)}, request.format, surroundings);
 }
 
-void OfferOutput(CLI::App& options, Request& request) {
-  OfferFormat(options, request.format, kFormats);
-  OfferFolder(options, request.folder);
+// What a scenario asks for, but for the amount that is looked for, its last one.
+CLI::App* OfferLimitsOf(AnalysisMode mode, CLI::App& options, const std::string& description, Request& request) {
+  const Scenario& scenario = ScenarioOf(mode);
+  CLI::App* const command = options.add_subcommand(std::string(scenario.Command), description);
+  OfferAmounts(*command, mode, static_cast<std::size_t>(scenario.AmountCount) - 1, request.situation);
+  OfferRanges(*command, mode, request.situation);
+  OfferFormat(*command, request.format, kFormats);
+  OfferFolder(*command, request.folder);
+  return command;
 }
 
 }  // namespace
 
 RunCommand OfferLimits(CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  CLI::App* const call = options.add_subcommand("call", "The largest all-in that each hand can call");
-  OfferAmount(*call, "--pot", request->pot, "Everything in the pot, his bet included");
-  OfferRange(*call, "--range", "--hands", request->range, "His range");
-  OfferOutput(*call, *request);
-  CLI::App* const raise = options.add_subcommand("raise", "The largest shove that is good with each hand");
-  OfferAmount(*raise, "--pot", request->pot, "Everything in the pot");
-  OfferAmount(*raise, "--call", request->call, "What you must put in to call, 0 if you are first to act");
-  OfferRange(*raise, "--range", "--hands", request->range, "His range now");
-  OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
-  OfferOutput(*raise, *request);
+  const CLI::App* const call =
+      OfferLimitsOf(AnalysisMode::kPreflopCall, options, "The largest all-in that each hand can call", *request);
+  OfferLimitsOf(AnalysisMode::kPreflopRaise, options, "The largest shove that is good with each hand", *request);
   options.require_subcommand(1);
   options.footer(call->get_footer());
   return [request, call](const Surroundings& surroundings) {

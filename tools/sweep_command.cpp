@@ -20,16 +20,13 @@ namespace quillon {
 namespace {
 
 struct Request {
-  std::array<std::string, 3> amounts;  // pot, call, shove
+  SituationOptions situation;
   std::string width;
-  RangeOption range;
-  RangeOption callingRange;
   std::vector<std::string> hands;
   std::string format;
   std::string folder;
 };
 
-constexpr std::array<const char*, 3> kAmountOptions = {"--pot", "--call", "--shove"};
 constexpr std::string_view kWidthOption = "--width";
 
 double SharePercent(const SweepRow& row) {
@@ -144,7 +141,7 @@ std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count)
   std::optional<std::size_t> swept;
   int found = request.width.empty() ? 0 : 1;
   for (std::size_t i = 0; i < count; ++i) {
-    if (request.amounts[i].find(':') == std::string::npos) continue;
+    if (request.situation.Amounts[i].find(':') == std::string::npos) continue;
     swept = i;
     ++found;
   }
@@ -170,7 +167,7 @@ bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& input
 
 int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place, SweepQuestion question,
                    CommandInputs& inputs, const Surroundings& surroundings) {
-  const auto steps = ReadSteps(kAmountOptions[place], request.amounts[place], inputs);
+  const auto steps = ReadSteps(kAmountOptions[place], request.situation.Amounts[place], inputs);
   if (!steps) return inputs.Status();
   const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
   for (const std::int64_t end : {std::int64_t{0}, steps->Count() - 1}) {
@@ -178,8 +175,8 @@ int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place,
     if (!AreAccepted(mode, question.Fixed, inputs)) return inputs.Status();
   }
   const bool raise = mode == AnalysisMode::kPreflopRaise;
-  const auto range = raise ? inputs.Range(request.range) : inputs.RangeWithHands(request.range);
-  const auto calling = raise ? inputs.Range(request.callingRange) : GivenRange{};
+  const auto range = raise ? inputs.Range(request.situation.Range) : inputs.RangeWithHands(request.situation.Range);
+  const auto calling = raise ? inputs.Range(request.situation.CallingRange) : GivenRange{};
   if (!range || !calling) return inputs.Status();
   const RangeNumbers ranges(inputs.Hands(), range->Weights, calling->Weights);
   return Print(mode, kAmountOptions[place] + 2, request,
@@ -199,7 +196,8 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
   }
   const auto weightsAt = [&](std::string_view share) { return std::get<ClassWeights>(top(share)); };
   if (mode == AnalysisMode::kPreflopCall) {
-    if (request.range.Given()) throw CLI::ValidationError("--width is his range; leave --range and --hands out");
+    if (request.situation.Range.Given())
+      throw CLI::ValidationError("--width is his range; leave --range and --hands out");
     if (weightsAt(steps->Text(0)) == ClassWeights{}) {
       inputs.Refuse(std::string(kWidthOption) + ": the narrowest range has no hands");
       return inputs.Status();
@@ -207,10 +205,10 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
     const auto rangesAt = [&](std::string_view share) { return RangeNumbers(inputs.Hands(), weightsAt(share)); };
     return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
   }
-  if (request.callingRange.Given()) {
+  if (request.situation.CallingRange.Given()) {
     throw CLI::ValidationError("--width is his calling range; leave --calling-range and --calling-hands out");
   }
-  const auto range = inputs.Range(request.range);
+  const auto range = inputs.Range(request.situation.Range);
   if (!range) return inputs.Status();
   const auto rangesAt = [&](std::string_view share) {
     return RangeNumbers(inputs.Hands(), range->Weights, weightsAt(share));
@@ -226,7 +224,7 @@ int Sweep(AnalysisMode mode, const Request& request, const Surroundings& surroun
   const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
   for (std::size_t i = 0; i < count; ++i) {
     if (i == swept) continue;
-    const auto amount = inputs.Amount(kAmountOptions[i], request.amounts[i], LeastAmount::kZero);
+    const auto amount = inputs.Amount(kAmountOptions[i], request.situation.Amounts[i], LeastAmount::kZero);
     if (!amount) return inputs.Status();
     *fields[i] = *amount;
   }
@@ -236,31 +234,30 @@ int Sweep(AnalysisMode mode, const Request& request, const Surroundings& surroun
   return SweepTheWidth(mode, request, question, inputs, surroundings);
 }
 
-void OfferShared(CLI::App& options, Request& request, const char* width) {
-  options.add_option(std::string(kWidthOption), request.width, width)->type_name("FROM:TO:STEP");
-  options.add_option("--hand", request.hands, "Adds the expected value of these hands")
+CLI::App* OfferSweepOf(AnalysisMode mode, CLI::App& options, const std::string& description, const std::string& width,
+                       Request& request) {
+  const Scenario& scenario = ScenarioOf(mode);
+  CLI::App* const command = options.add_subcommand(std::string(scenario.Command), description);
+  OfferAmounts(*command, mode, static_cast<std::size_t>(scenario.AmountCount), request.situation);
+  OfferRanges(*command, mode, request.situation);
+  command->add_option(std::string(kWidthOption), request.width, width)->type_name("FROM:TO:STEP");
+  command->add_option("--hand", request.hands, "Adds the expected value of these hands")
       ->type_name("LABEL")
       ->check(CLI::Validator(CheckLabel, ""));
-  OfferFormat(options, request.format, kFormats);
-  OfferFolder(options, request.folder);
+  OfferFormat(*command, request.format, kFormats);
+  OfferFolder(*command, request.folder);
+  return command;
 }
 
 }  // namespace
 
 RunCommand OfferSweep(CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  CLI::App* const call = options.add_subcommand("call", "Calling an all-in; one amount is FROM:TO:STEP");
-  OfferAmount(*call, "--pot", request->amounts[0], "Everything in the pot, his bet included");
-  OfferAmount(*call, "--call", request->amounts[1], "What you must put in to call");
-  OfferRange(*call, "--range", "--hands", request->range, "His range");
-  OfferShared(*call, *request, "His range instead, as the top percent of hands");
-  CLI::App* const raise = options.add_subcommand("raise", "Going all in; one amount is FROM:TO:STEP");
-  OfferAmount(*raise, "--pot", request->amounts[0], "Everything in the pot");
-  OfferAmount(*raise, "--call", request->amounts[1], "What you must put in to call, 0 if you are first to act");
-  OfferAmount(*raise, "--shove", request->amounts[2], "What he must put in to call your shove");
-  OfferRange(*raise, "--range", "--hands", request->range, "His range now");
-  OfferRange(*raise, "--calling-range", "--calling-hands", request->callingRange, "The range he calls your shove with");
-  OfferShared(*raise, *request, "His calling range instead, as the top percent of hands");
+  const CLI::App* const call =
+      OfferSweepOf(AnalysisMode::kPreflopCall, options, "Calling an all-in; one amount is FROM:TO:STEP",
+                   "His range instead, as the top percent of hands", *request);
+  OfferSweepOf(AnalysisMode::kPreflopRaise, options, "Going all in; one amount is FROM:TO:STEP",
+               "His calling range instead, as the top percent of hands", *request);
   options.require_subcommand(1);
   options.footer(call->get_footer());
   return [request, call](const Surroundings& surroundings) {
