@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "support/files.h"
@@ -152,6 +153,84 @@ TEST_F(BatchJourney, EndsOnCtrlCWhileItWaitsInTheMiddleOfALine) {
   EXPECT_EQ(batch.Program().Status(), 130);
   EXPECT_EQ(batch.Program().Output(), AnswerLine(0) + "\n" + AnswerLine(1) + "\n");
 }
+
+// ---- in parts
+
+// The lines of the guide's code that begin with one of these words, each without its indentation.
+std::vector<std::string> LinesOfTheGuide(const std::vector<std::string>& starts) {
+  std::vector<std::string> found;
+  for (const std::string& line : Lines(ReadAllBytes(QUILLON_GUIDE))) {
+    for (const std::string& start : starts) {
+      if (line.starts_with("    " + start + " ")) found.push_back(line.substr(4));
+    }
+  }
+  return found;
+}
+
+// A shell in which the guide's commands can be run as they are written: the program is found by its name, and what
+// others keep of their own goes into the same folder.
+class GuideShell {
+ public:
+  explicit GuideShell(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+  [[nodiscard]] ProgramOutcome Run(const std::string& script) const {
+    const std::string programs = std::filesystem::path(QUILLON_CLI_PROGRAM).parent_path().string();
+    ProgramRun run;
+    run.Program = "/bin/sh";
+    run.Arguments = {"-c", "PATH=" + programs + ":$PATH\n" + script};
+    run.CurrentFolder = folder_;
+    run.Environment = {{"HOME", folder_.string()}, {"PARALLEL", "--joblog jobs"}};
+    return RunProgram(run);
+  }
+  [[nodiscard]] std::string Read(const char* file) const { return ReadAllBytes(folder_ / file); }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+// The answers of a batch of refused and other lines, but for the number that a refused line has in its part.
+std::string WithoutLineNumbers(std::string answers) {
+  constexpr std::string_view kNumber = "\"line\":";
+  for (std::size_t at = 0; (at = answers.find(kNumber, at)) != std::string::npos;) {
+    at += kNumber.size();
+    answers.erase(at, answers.find(',', at) - at);
+  }
+  return answers;
+}
+
+TEST_F(BatchJourney, InPartsSaysWhatOneBatchSays) {
+  const GuideShell shell(File().parent_path());
+  if (shell.Run("command -v parallel").Status != 0) GTEST_SKIP() << "this system has no GNU parallel";
+  const std::vector<std::string> commands = LinesOfTheGuide({"parallel", "split"});
+  ASSERT_EQ(commands.size(), 2U);
+  const std::string& workers = commands[0];
+  const std::string array = "rm -f part-*; for SLURM_ARRAY_TASK_ID in 1 2 3 4 5 6 7 8; do " + commands[1] + "; done; " +
+                            "cat part-[1-8].jsonl > results.jsonl";
+  constexpr int kCount = 1000;
+  for (const bool refused : {false, true}) {
+    std::ofstream lines(File(), std::ios::trunc);
+    for (int id = 0; id < kCount; ++id)
+      lines << (refused && id % 100 == 99 ? "{\"id\":" + std::to_string(id) + "}\n" : SituationLine(id));
+    lines.close();
+    ASSERT_EQ(shell.Run("quillon-cli batch situations.jsonl > one.jsonl").Status, refused ? 1 : 0);
+    const std::string one = shell.Read("one.jsonl");
+    ASSERT_EQ(Lines(one).size(), std::size_t{kCount});
+
+    const ProgramOutcome spread = shell.Run(workers);
+    EXPECT_EQ(spread.Status, refused ? 2 : 0) << "how many parts had a refused line; " << spread.Errors;
+    EXPECT_EQ(Lines(shell.Read("jobs")).size(), 1U + 2) << "a heading, and two workers";
+    const std::string byWorkers = shell.Read("results.jsonl");
+    const ProgramOutcome taken = shell.Run(array);
+    EXPECT_EQ(taken.Errors, "");
+    const std::string byArray = shell.Read("results.jsonl");
+    for (const std::string& results : {byWorkers, byArray}) {
+      EXPECT_EQ(results == one, !refused);
+      EXPECT_TRUE(WithoutLineNumbers(results) == WithoutLineNumbers(one));
+    }
+  }
+}
+
+// ---- Ctrl+C
 
 TEST_F(BatchJourney, EndsOnCtrlCBetweenTwoLinesOfMany) {
   constexpr int kMany = 200000;

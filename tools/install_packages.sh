@@ -20,6 +20,8 @@ run+=(cmark-gfm)
 run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
 run+=(fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra)
 check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
+# What spreads a batch over workers.
+check+=(parallel)
 # A screen in memory for the tests that use it.
 check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)
 # Shells that complete the companion's command line, and what reads its manual page.
