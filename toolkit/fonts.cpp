@@ -48,12 +48,9 @@ int FontPixels(float points) {
   return static_cast<int>(std::lround(points * 96 / 72));
 }
 
-// Rounded down below the design's size, and at half way above it: a text that grew more than its place would run into
-// what stands beside it.
+// Rounded down: a text that grew more than its place would run into what stands beside it.
 void SizeFont(QFont& font, float points) {
-  const double pixels = FontPixels(points) * PixelScale();
-  const double rounded = PixelScale() < 1 ? std::floor(pixels) : std::ceil(pixels - 0.5);
-  font.setPixelSize(std::max(1, static_cast<int>(rounded)));
+  font.setPixelSize(std::max(1, static_cast<int>(std::floor(FontPixels(points) * PixelScale()))));
   font.setHintingPreference(PixelScale() == 1 ? QFont::PreferDefaultHinting : QFont::PreferNoHinting);
 }
 

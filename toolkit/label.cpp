@@ -27,8 +27,9 @@ int SideOf(TextAlignment alignment) {
 
 Label::Label(QWidget* parent) : Control(parent) {}
 
-void Label::SetPlace(const QRect& place) {
+void Label::SetPlace(const QRect& place, bool wraps) {
   place_ = place;
+  wraps_ = wraps;
   Grow();
 }
 
@@ -86,16 +87,12 @@ QRect Label::WithinContainer(QRect grown) const {
   return grown;
 }
 
-bool Label::Wraps() const {
-  return place_.height() >= 2 * fontInfo().pixelSize();
-}
-
 QSize Label::TextSize() const {
   return SizeWith(Flags());
 }
 
 QSize Label::SizeWith(int flags) const {
-  return fontMetrics().boundingRect(QRect(0, 0, Wraps() ? place_.width() : 0, 0), flags, text_).size();
+  return fontMetrics().boundingRect(QRect(0, 0, wraps_ ? place_.width() : 0, 0), flags, text_).size();
 }
 
 QString Label::SpokenText() const {
@@ -111,7 +108,7 @@ void Label::Grow() {
   const QSize needed = TextSize();
   QRect grown = place_;
   grown.setHeight(std::max(grown.height(), needed.height()));
-  const int missing = Wraps() ? 0 : std::max(0, needed.width() - grown.width());
+  const int missing = wraps_ ? 0 : std::max(0, needed.width() - grown.width());
   grown.setRight(grown.right() + missing);
   if (alignment_ == TextAlignment::kCentered) grown.translate(-missing / 2, 0);
   if (alignment_ == TextAlignment::kRight) grown.translate(-missing, 0);
@@ -120,7 +117,7 @@ void Label::Grow() {
 
 int Label::Flags() const {
   const int plain = SideOf(alignment_) | Qt::AlignTop;
-  if (!Wraps()) return plain;
+  if (!wraps_) return plain;
   const int betweenWords = plain | Qt::TextWordWrap;
   return SizeWith(betweenWords).width() <= place_.width() ? betweenWords : plain | Qt::TextWrapAnywhere;
 }

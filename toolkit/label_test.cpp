@@ -90,10 +90,9 @@ TEST_F(LabelTest, OfOneLineGrowsWithItsFont) {
 }
 
 TEST_F(LabelTest, OfSeveralLinesWrapsAtItsEdges) {
-  label.SetPlace(kSeveralLines);
+  label.SetPlace(kSeveralLines, true);
   label.SetText(kLong);
 
-  EXPECT_TRUE(label.Wraps());
   EXPECT_LE(label.TextSize().width(), kSeveralLines.width());
   EXPECT_GT(label.TextSize().height(), kSeveralLines.height());
   EXPECT_EQ(label.geometry(), QRect(kSeveralLines.topLeft(), QSize(60, label.TextSize().height())));
@@ -102,19 +101,11 @@ TEST_F(LabelTest, OfSeveralLinesWrapsAtItsEdges) {
 }
 
 TEST_F(LabelTest, OfSeveralLinesBreaksAWordThatIsTooLong) {
-  label.SetPlace(kSeveralLines);
+  label.SetPlace(kSeveralLines, true);
   label.SetText(QString(40, QLatin1Char('W')));
 
   EXPECT_LE(label.TextSize().width(), kSeveralLines.width());
   EXPECT_EQ(label.width(), kSeveralLines.width());
-}
-
-TEST_F(LabelTest, HasTheRoomOfTwoLinesForWrapping) {
-  const int pixels = label.fontInfo().pixelSize();
-  label.SetPlace(QRect(0, 0, 60, 2 * pixels - 1));
-  EXPECT_FALSE(label.Wraps());
-  label.SetPlace(QRect(0, 0, 60, 2 * pixels));
-  EXPECT_TRUE(label.Wraps());
 }
 
 TEST_F(LabelTest, ShowsEveryCharacterAsItStands) {
@@ -162,7 +153,7 @@ TEST_F(LabelTest, LetsWhatLiesUnderItShowThroughUnlessItHasABackColour) {
 }
 
 TEST_F(LabelTest, IsDrawnInItsTextColour) {
-  label.SetPlace(kSeveralLines);
+  label.SetPlace(kSeveralLines, true);
   label.SetBackColor(Qt::white);
   label.SetTextColor(Qt::blue);
   label.setFont(FormFont({.Family = "Arial", .Points = 36, .Bold = true}, {}));

@@ -16,6 +16,12 @@ namespace {
 constexpr const char* kPlaceProperty = "placeInTwips";
 constexpr const char* kPointsProperty = "fontPoints";
 
+// For more than one. It goes by the layout and not by pixels, so that a label is the same at every scale.
+bool HasRoomForLines(const QWidget& control) {
+  const int line = FontPixels(control.property(kPointsProperty).toFloat());
+  return line > 0 && PlaceOf(control).Height >= 2 * kTwipsPerPixel * static_cast<float>(line);
+}
+
 void TakePlace(QWidget& control) {
   const QVariant kept = control.property(kPlaceProperty);
   if (!kept.isValid()) return;
@@ -23,7 +29,7 @@ void TakePlace(QWidget& control) {
   if (control.isWindow()) {
     control.setFixedSize(place.size());
   } else if (auto* label = qobject_cast<Label*>(&control)) {
-    label->SetPlace(place);
+    label->SetPlace(place, HasRoomForLines(control));
   } else {
     const auto* shape = qobject_cast<Shape*>(&control);
     const int least = shape != nullptr && shape->IsLine() ? LinePixels(1) : 0;
