@@ -1,6 +1,8 @@
 #include "ranges/dialogs/form_list.h"
 
 #include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <utility>
 
@@ -23,11 +25,30 @@ void CutLongNames(QAbstractItemView& list) {
   list.setTextElideMode(Qt::ElideRight);
 }
 
+int WidthForName(const QComboBox& box) {
+  QStyleOptionComboBox option;
+  option.initFrom(&box);
+  return box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box).width();
+}
+
 }  // namespace
 
 FormChooser::FormChooser(QComboBox& box) : box_(box) {
   CutLongNames(*box_.view());
+  box_.installEventFilter(this);
+  connect(this, &FormChooser::Clicked, this, &FormChooser::ShowTip);
   connect(&box_, &QComboBox::activated, this, &FormChooser::Clicked);
+}
+
+// At another scale a name may have room that had none before.
+bool FormChooser::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) ShowTip();
+  return QObject::eventFilter(watched, event);
+}
+
+void FormChooser::ShowTip() {
+  const QString name = box_.currentText();
+  box_.setToolTip(box_.fontMetrics().horizontalAdvance(name) > WidthForName(box_) ? name : QString());
 }
 
 void FormChooser::Show(const RangeListContents& contents) {

@@ -33,11 +33,14 @@ class FormChooser : public QObject {
   /// Selects the first entry equal to `name` by a click; does nothing if there is none.
   void SelectEntry(std::string_view name);
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  Q_SIGNALS:
   void Clicked();
 
  private:
   void Select(int index);
+  void ShowTip();
 
   QComboBox& box_;
 };

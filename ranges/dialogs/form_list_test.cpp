@@ -56,6 +56,23 @@ class ListTest : public testing::Test {
 
 using FormChooserTest = ListTest<FormChooser, QComboBox>;
 
+TEST_F(FormChooserTest, ANameThatIsCutHasAToolTipThatIsWhole) {
+  const std::string longName(92, 'W');
+  List.Show({{"", longName, "Tight"}, 1});
+  EXPECT_EQ(FromQt(Widget.toolTip()), longName);
+  List.SelectEntry("Tight");
+  EXPECT_EQ(Widget.toolTip(), QString()) << "it shows as a whole";
+  Widget.setFocus();
+  QTest::keyClick(&Widget, Qt::Key_Up);
+  EXPECT_EQ(FromQt(Widget.toolTip()), longName) << "by the keyboard, too";
+  Widget.resize(5000, 200);
+  EXPECT_EQ(Widget.toolTip(), QString()) << "now there is room";
+  Widget.resize(200, 200);
+  EXPECT_EQ(FromQt(Widget.toolTip()), longName);
+  List.SelectEntry("");
+  EXPECT_EQ(Widget.toolTip(), QString());
+}
+
 TEST_F(FormChooserTest, TellsOfEachSelectionButNotOfFilling) {
   TellsOfEachSelectionButNotOfFilling();
 }
