@@ -8,6 +8,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <utility>
@@ -15,6 +16,7 @@
 #include "toolkit/application.h"
 #include "toolkit/frame.h"
 #include "toolkit/picture.h"
+#include "toolkit/shape.h"
 
 namespace quillon {
 namespace {
@@ -44,9 +46,41 @@ bool CanBePressed(const QWidget& control) {
   return control.isVisible() && control.isEnabled();
 }
 
-class AccessibleControl : public QAccessibleWidget {
+// What only looks nice: lines, grounds, and pictures of which there is nothing to say.
+bool IsDecoration(const QWidget& part) {
+  const auto* picture = qobject_cast<const Picture*>(&part);
+  const bool speaks = picture != nullptr && (picture->CanBeClicked() || !picture->SpokenText().isEmpty());
+  return qobject_cast<const Shape*>(&part) != nullptr || (picture != nullptr && !speaks);
+}
+
+// A window or a part of one, without its decoration.
+class AccessiblePart : public QAccessibleWidget {
  public:
-  explicit AccessibleControl(Control* control) : QAccessibleWidget(control, RoleOf(*control)), control_(control) {}
+  using QAccessibleWidget::QAccessibleWidget;
+
+  [[nodiscard]] int childCount() const override { return static_cast<int>(Children().size()); }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    return QAccessible::queryAccessibleInterface(Children().value(index));
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+    return static_cast<int>(Children().indexOf(child->object()));
+  }
+
+ private:
+  [[nodiscard]] QObjectList Children() const {
+    QObjectList children;
+    for (QObject* child : widget()->children()) {
+      const auto* part = qobject_cast<const QWidget*>(child);
+      const bool heard = part != nullptr && !part->isWindow() && qobject_cast<const QFocusFrame*>(part) == nullptr;
+      if (heard && !IsDecoration(*part)) children << child;
+    }
+    return children;
+  }
+};
+
+class AccessibleControl : public AccessiblePart {
+ public:
+  explicit AccessibleControl(Control* control) : AccessiblePart(control, RoleOf(*control)), control_(control) {}
 
   [[nodiscard]] QAccessible::Role role() const override { return RoleOf(*control_); }
 
@@ -182,7 +216,7 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   // Asked about the class itself first and its bases later: what has an interface of its own has it by then.
   auto* window = className == QStringLiteral("QWidget") ? qobject_cast<QWidget*>(object) : nullptr;
   if (window != nullptr && window->windowType() == Qt::Window) {
-    return new QAccessibleWidget(window, QAccessible::Window);
+    return new AccessiblePart(window, QAccessible::Window);
   }
   return nullptr;
 }
@@ -208,6 +242,7 @@ bool TellsThatSomethingComesOrGoes(QAccessible::Event type) {
 // Every event of the program passes here. What is hidden has nothing to say, but for its being hidden.
 void PassOn(QAccessibleEvent* event) {
   const auto* widget = qobject_cast<const QWidget*>(event->object());
+  if (widget != nullptr && IsDecoration(*widget)) return;
   if (widget != nullptr && !widget->isVisible() && !TellsThatSomethingComesOrGoes(event->type())) return;
   // The interface of a table has learnt of it by now and would count it twice; nobody else wants it.
   if (event->type() == QAccessible::TableModelChanged) return;

@@ -6,14 +6,19 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
+#include <initializer_list>
+#include <vector>
 
 #include "testing/heard_announcements.h"
+#include "toolkit/focus_mark.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
+#include "toolkit/shape.h"
 
 namespace quillon {
 namespace {
@@ -61,6 +66,32 @@ TEST(AccessibleControl, IsWhatItCanBeUsedFor) {
 
   label.SetUse(ControlUse::kPassive);
   EXPECT_EQ(Spoken(label).role(), QAccessible::StaticText);
+}
+
+TEST(AccessibleControl, IsFoundAmongThePartsOfItsWindowButDecorationIsNot) {
+  QWidget window;
+  Frame frame(&window);
+  for (QWidget* whole : std::initializer_list<QWidget*>{&window, &frame}) {
+    const int before = Spoken(*whole).childCount();
+    const Shape ground(ControlKind::kShape, whole);
+    Label label(whole);
+    const Shape line(ControlKind::kLine, whole);
+    const Picture art(whole);
+    Picture chart(whole);
+    chart.setAccessibleName(QStringLiteral("Results"));
+    Picture button(whole);
+    button.SetUse(ControlUse::kLink);
+    const FocusMark mark(*whole);
+    QLineEdit box(whole);
+    const std::vector<QObject*> heard = {&label, &chart, &button, &box};
+    ASSERT_EQ(Spoken(*whole).childCount() - before, static_cast<int>(heard.size()));
+    for (std::size_t i = 0; i < heard.size(); ++i) {
+      const int index = before + static_cast<int>(i);
+      ASSERT_EQ(Spoken(*whole).child(index)->object(), heard[i]) << index;
+      EXPECT_EQ(Spoken(*whole).indexOfChild(Spoken(*whole).child(index)), index);
+    }
+    EXPECT_EQ(Spoken(*whole).child(before + 4), nullptr);
+  }
 }
 
 TEST(AccessibleControl, SaysItsTextOrTheNameItWasGiven) {
