@@ -170,6 +170,27 @@ TEST_P(GridImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   ExpectPictureOfTheGrid(folder / "again.bmp");
 }
 
+TEST_P(GridImageJourney, TheMarkOfTheFocusIsNotInThePictureAndComesBack) {
+  StartProgramWithRanges();
+  FillIn(kRaiseRun, kRaise);
+  Session().Press({"ctrl+Return"});
+  const QRect cell = OnScreen("shapeCardBack(0)");
+  const QPoint line(cell.center().x(), cell.top() - qRound(Session().Screen().Scale));
+  constexpr QRgb kMark = qRgb(0x10, 0x20, 0x30);
+  Session().WaitUntil("the cell is marked", [&] { return Session().Color(line) == kMark; });
+
+  Click("imgSave");
+  const Window dialog = Session().WaitForWindow("Save Expected Value Grid");
+  Session().Type("unmarked");
+  Answer(dialog, {"Return"});
+  Answer(Session().WaitForWindow("Open Now?"), {"alt+n"});
+  Session().WaitUntil("the cell is marked again", [&] { return Session().Color(line) == kMark; });
+  const fs::path file = Session().Program().Path / "Saved Grids" / "unmarked";
+  const QImage image(QString::fromStdString(file.string()), "BMP");
+  ASSERT_FALSE(image.isNull());
+  EXPECT_NE(image.pixelColor(line - OnScreen("GridContainer").topLeft()), QColor(kMark));
+}
+
 TEST_P(GridImageJourney, AnotherProgramsWindowOverTheGridIsInThePicture) {
   StartProgramWithRanges();
   Analyze(kRaiseRun, kRaise);

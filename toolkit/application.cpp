@@ -4,8 +4,6 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -50,12 +48,20 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
   std::_Exit(EXIT_FAILURE);
 }
 
-// A key that is a shortcut is told of as an override only.
-bool IsPressOfAKey(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
-  const int key = dynamic_cast<const QKeyEvent&>(event).key();
-  constexpr std::array kModifiers = {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr};
-  return std::ranges::find(kModifiers, key) == kModifiers.end();
+QWidget* WindowOf(const QWidget& control) {
+  QWidget* window = control.window();
+  while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr)
+    window = window->parentWidget()->window();
+  return window;
+}
+
+// Nothing for an event that is no act of a user's, or not yet that of a control.
+std::optional<UserAct> ActOf(QObject* receiver, const QEvent& event) {
+  // A shortcut may be that of another window than the one in front, in which the key was pressed.
+  if (event.type() == QEvent::Shortcut) return UserAct{.ByKey = true, .Window = QApplication::activeWindow()};
+  const auto* control = event.isInputEvent() ? qobject_cast<const QWidget*>(receiver) : nullptr;
+  if (control == nullptr) return {};
+  return UserAct{.ByKey = dynamic_cast<const QKeyEvent*>(&event) != nullptr, .Window = WindowOf(*control)};
 }
 
 }  // namespace
@@ -70,7 +76,7 @@ std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
   for (const QString& text : Heard().All)
     qWarning("%s", qUtf8Printable(text));
   scalingOff.reset();
-  ShowAtScale(DesktopScale());
+  ShowAtScale(DesktopScale(QGuiApplication::primaryScreen()));
   return application;
 }
 
@@ -85,25 +91,33 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
-  if (IsPressOfAKey(*event)) keyboardLeads_ = true;
-  if (event->type() == QEvent::MouseButtonPress) keyboardLeads_ = false;
+  const UserAct outer = answered_;
+  answered_ = ActOf(receiver, *event).value_or(outer);
   try {
-    return QApplication::notify(receiver, event);
+    const bool handled = QApplication::notify(receiver, event);
+    answered_ = outer;
+    return handled;
   } catch (...) {
     EndWithFault(CurrentFaultText());
   }
 }
 
-bool KeyboardLeads() {
+bool AnswersKey() {
   const auto* application = dynamic_cast<const Application*>(QCoreApplication::instance());
-  return application != nullptr && application->KeyboardLeads();
+  return application != nullptr && application->Answered().ByKey;
+}
+
+QWidget* AskingWindow() {
+  const auto* application = dynamic_cast<const Application*>(QCoreApplication::instance());
+  QWidget* const window = application == nullptr ? nullptr : application->Answered().Window;
+  return window != nullptr && window->isVisible() ? window : QApplication::activeWindow();
 }
 
 void EndWithFault(const std::string& text) {
   std::fputs((text + "\n").c_str(), stderr);
   std::fflush(stderr);
   if (qApp != nullptr) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(AskingWindow());
     const std::string told = text + "\r\n\r\nQuillon ends now.";
     FillMessageBox(box, {.title = std::string(kApplicationTitle), .text = told, .icon = MessageIcon::kStop});
     box.exec();

@@ -4,12 +4,20 @@
 // error, shown in a message box with the stop icon, and the process ends with exit status 1.
 
 #include <QApplication>
+#include <QPointer>
+#include <QWidget>
 #include <memory>
 #include <string>
 
 #include "support/message_boxes.h"
 
 namespace quillon {
+
+/// What a user does that the program answers.
+struct UserAct {
+  bool ByKey = false;
+  QPointer<QWidget> Window;  // where; a list that is open belongs to the window of its box
+};
 
 class Application : public QApplication {
   Q_OBJECT
@@ -20,18 +28,23 @@ class Application : public QApplication {
   /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
   bool notify(QObject* receiver, QEvent* event) override;
 
-  [[nodiscard]] bool KeyboardLeads() const { return keyboardLeads_; }
+  [[nodiscard]] const UserAct& Answered() const { return answered_; }
 
  Q_SIGNALS:
   void Announced(QWidget* speaker, const QString& text);  // to a screen reader ("toolkit/accessible_control.h")
 
  private:
-  bool keyboardLeads_ = false;
+  UserAct answered_;  // the innermost that is being answered
 };
 
-/// Whether the last press in the program was of a key, not of a mouse button. A key that only modifies others, such as
-/// Shift, does not count. What the user reaches or opens then is to have the focus, and to show it.
-[[nodiscard]] bool KeyboardLeads();
+/// Whether what the program does at this moment answers a key. A long answer, such as a run, stays that of the act that
+/// started it, whatever keys and clicks are answered meanwhile. What a key reaches or opens is to have the focus, and
+/// to show it.
+[[nodiscard]] bool AnswersKey();
+
+/// The window that a box which comes up at this moment belongs to: the one whose user is being answered, or else the
+/// one in front. Null where neither can be seen.
+[[nodiscard]] QWidget* AskingWindow();
 
 /// The application, once it has a display. Without one, a line on standard error says so, with Qt's reason, and the
 /// process ends with status 1.

@@ -9,11 +9,15 @@
 #include <iostream>
 #include <new>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "support/run_time_error.h"
 #include "testing/expected_boxes.h"
 #include "toolkit/control.h"
 #include "toolkit/light_style.h"
+#include "toolkit/message_dialogs.h"
+#include "toolkit/text.h"
 
 namespace quillon {
 namespace {
@@ -44,8 +48,9 @@ TEST(ApplicationFault, HasTheTextOfTheErrorThatComesNearest) {
 void TellOfTheBox() {
   ExpectDialog([](QDialog& dialog) {
     const auto& box = dynamic_cast<QMessageBox&>(dialog);
-    std::cerr << "[" << box.windowTitle().toStdString() << "|" << box.icon() << "|" << box.text().toStdString()
-              << "]\n";
+    const std::string owner = box.parentWidget() == nullptr ? "" : FromQt(box.parentWidget()->objectName());
+    std::cerr << "[" << owner << "|" << box.windowTitle().toStdString() << "|" << box.icon() << "|"
+              << box.text().toStdString() << "]\n";
     dialog.accept();
   });
 }
@@ -77,7 +82,7 @@ class ApplicationEnd : public testing::Test {
 TEST_F(ApplicationEnd, OfAFaultInAHandlerIsABoxAndStatusOne) {
   EXPECT_EXIT(FailInAHandler(), ExitedWithCode(1),
               AllOf(HasSubstr("Run-time error '61': Disk full (a.txt)\n"),
-                    HasSubstr("[Quillon|3|Run-time error '61': Disk full (a.txt)\n\nQuillon ends now.]\n"),
+                    HasSubstr("[|Quillon|3|Run-time error '61': Disk full (a.txt)\n\nQuillon ends now.]\n"),
                     Not(HasSubstr("went on")), Not(HasSubstr("caught outside")), Not(HasSubstr("at exit"))));
 }
 
@@ -87,7 +92,86 @@ TEST_F(ApplicationEnd, OfAFaultOutsideAHandlerIsTheSame) {
     EndWithFault("It is over.");
   };
   EXPECT_EXIT(end(), ExitedWithCode(1),
-              AllOf(HasSubstr("It is over.\n"), HasSubstr("[Quillon|3|It is over.\n\nQuillon ends now.]\n")));
+              AllOf(HasSubstr("It is over.\n"), HasSubstr("[|Quillon|3|It is over.\n\nQuillon ends now.]\n")));
+}
+
+// Right after a box no window is in front.
+void FailAfterABox() {
+  QWidget window;
+  window.setObjectName(QStringLiteral("frmManager"));
+  Control control(&window);
+  control.SetUse(ControlUse::kLink);
+  window.show();
+  QObject::connect(&control, &Control::Clicked, &window, [] {
+    ExpectDialog([](QDialog& dialog) { dialog.accept(); });
+    MessageDialogs().Show({.title = "Delete?", .text = "Really?"});
+    VerifyExpectedBoxes();
+    QApplication::setActiveWindow(nullptr);
+    TellOfTheBox();
+    throw RunTimeError(RunTimeFault::kFileNotFound, "a.txt");
+  });
+  QTest::mouseClick(&control, Qt::LeftButton);
+}
+
+TEST_F(ApplicationEnd, IsToldByTheWindowWhoseUserWasAnswered) {
+  EXPECT_EXIT(FailAfterABox(), ExitedWithCode(1), HasSubstr("[frmManager|Quillon|3|Run-time error '53'"));
+}
+
+struct ActCase {
+  const char* Name;
+  void (*Act)(Control& control);
+  bool ByKey;
+};
+
+class AnsweredAct : public testing::TestWithParam<ActCase> {};
+
+TEST_P(AnsweredAct, IsAKeyOrNot) {
+  Control control(nullptr);
+  control.SetUse(ControlUse::kLink);
+  std::vector<bool> byKey;
+  QObject::connect(&control, &Control::Clicked, &control, [&byKey] { byKey.push_back(AnswersKey()); });
+  GetParam().Act(control);
+  EXPECT_EQ(byKey, std::vector{GetParam().ByKey});
+  EXPECT_FALSE(AnswersKey()) << "it has been answered";
+}
+
+void PressReturn(Control& control) {
+  QTest::keyClick(&control, Qt::Key_Return);
+}
+
+void ClickWithTheMouse(Control& control) {
+  QTest::mouseClick(&control, Qt::LeftButton);
+}
+
+INSTANTIATE_TEST_SUITE_P(Application, AnsweredAct,
+                         testing::Values(ActCase{"Key", PressReturn, true}, ActCase{"Mouse", ClickWithTheMouse, false},
+                                         ActCase{"Nobody", [](Control& control) { control.Click(); }, false},
+                                         ActCase{"MouseAfterAKey",
+                                                 [](Control& control) {
+                                                   QTest::keyClick(&control, Qt::Key_Down);
+                                                   ClickWithTheMouse(control);
+                                                 },
+                                                 false}),
+                         [](const auto& entry) { return std::string(entry.param.Name); });
+
+TEST(Application, GoesOnAnsweringTheFirstActAfterOthersInBetween) {
+  Control outer(nullptr);
+  Control inner(nullptr);
+  for (Control* control : {&outer, &inner})
+    control->SetUse(ControlUse::kLink);
+  std::vector<bool> byKey;
+  QObject::connect(&inner, &Control::Clicked, &inner, [&byKey] { byKey.push_back(AnswersKey()); });
+  QObject::connect(&outer, &Control::Clicked, &outer, [&] {
+    PressReturn(inner);
+    byKey.push_back(AnswersKey());
+    ClickWithTheMouse(inner);
+    byKey.push_back(AnswersKey());
+  });
+  ClickWithTheMouse(outer);
+  EXPECT_EQ(byKey, (std::vector{true, false, false, false}));
+  byKey.clear();
+  PressReturn(outer);
+  EXPECT_EQ(byKey, (std::vector{true, true, false, true}));
 }
 
 TEST(Application, LooksTheSameOnEveryDesktop) {

@@ -1,13 +1,31 @@
 #include "toolkit/control.h"
 
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "toolkit/accessible_control.h"
 
 namespace quillon {
+namespace {
+
+// Hears whether a box comes up over a window while this lives.
+class BoxWatch : public QObject {
+ public:
+  explicit BoxWatch(QWidget& window) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    cameUp_ = cameUp_ || event->type() == QEvent::WindowBlocked;
+    return false;
+  }
+
+  [[nodiscard]] bool CameUp() const { return cameUp_; }
+
+ private:
+  bool cameUp_ = false;
+};
+
+}  // namespace
 
 Control::Control(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);
@@ -37,17 +55,16 @@ void Control::Click() {
 
 void Control::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  if (use_ == ControlUse::kFocusLink && !TakeFocusFromMouse()) return;
+  if (use_ == ControlUse::kFocusLink && !TakeFocus(Qt::MouseFocusReason)) return;
   held_ = true;
   update();
   Q_EMIT Pressed();
 }
 
-// Whoever loses the focus may have a message box to show, and then the button comes up over that.
-bool Control::TakeFocusFromMouse() {
-  const Qt::MouseButtons down = QGuiApplication::mouseButtons();
-  setFocus(Qt::MouseFocusReason);
-  return QGuiApplication::mouseButtons() == down;
+bool Control::TakeFocus(Qt::FocusReason reason) {
+  const BoxWatch boxes(*window());
+  setFocus(reason);
+  return !boxes.CameUp();
 }
 
 void Control::mouseDoubleClickEvent(QMouseEvent* event) {

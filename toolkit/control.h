@@ -28,6 +28,10 @@ class Control : public QWidget {
   /// Does what a click does.
   void Click();
 
+  /// Gives the control the focus. False if a box came up meanwhile, from whoever lost the focus: the press that was to
+  /// follow is not wanted any more.
+  bool TakeFocus(Qt::FocusReason reason);
+
   /// What the mark of the focus goes round: the control itself, unless it is only a part of what is seen as one.
   [[nodiscard]] const QWidget& MarkedPlace() const { return markedPlace_ == nullptr ? *this : *markedPlace_; }
   void SetMarkedPlace(const QWidget& place) { markedPlace_ = &place; }
@@ -62,9 +66,6 @@ class Control : public QWidget {
   [[nodiscard]] bool IsHeld() const { return held_; }
 
  private:
-  /// Whether the mouse button is still down afterwards.
-  bool TakeFocusFromMouse();
-
   ControlUse use_ = ControlUse::kPassive;
   bool held_ = false;
   const QWidget* markedPlace_ = nullptr;

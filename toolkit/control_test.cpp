@@ -1,6 +1,7 @@
 #include "toolkit/control.h"
 
 #include <QDialog>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWindow>
@@ -149,6 +150,20 @@ TEST_F(ControlTest, TakesTheFocusWithAClickWhereItIsAskedTo) {
   Click(focusLink);
 
   EXPECT_TRUE(focusLink.hasFocus());
+}
+
+// The press has gone to the message.
+TEST_F(ControlTest, IsNotClickedWhereABoxComesUpAsItTakesTheFocus) {
+  const QSignalSpy clicks(&focusLink, &Control::Clicked);
+  box.setFocus();
+  const auto complain = QObject::connect(&box, &TextBox::FocusLost, &box, [] { QMessageBox().exec(); });
+  ExpectDialog([](QDialog& dialog) { dialog.accept(); });
+  Click(focusLink);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(clicks.count(), 0);
+  QObject::disconnect(complain);
+  Click(focusLink);
+  EXPECT_EQ(clicks.count(), 1);
 }
 
 TEST_F(ControlTest, IsReachedByTabWhereItCanBeClicked) {

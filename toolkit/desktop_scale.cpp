@@ -1,6 +1,7 @@
 #include "toolkit/desktop_scale.h"
 
 #include <QGuiApplication>
+#include <QList>
 #include <QScreen>
 
 namespace quillon {
@@ -17,20 +18,30 @@ double FactorOr(const QByteArray& text, double otherwise) {
   return factor > 0 ? factor : otherwise;
 }
 
-double ScreenScale() {
-  // "eDP-1=1.5;HDMI-1=1" or "1.5;1"
-  const QByteArray first = qgetenv(kScreenFactors).split(';').constFirst();
-  const double named = FactorOr(first.mid(first.indexOf('=') + 1), 0);
-  if (named > 0) return named;
-  if (qgetenv(kSwitch) == "0") return 1;
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  return screen == nullptr ? 1 : screen->logicalDotsPerInch() / kUnscaledDots;
+// 0 where the user has set none for the screen.
+double FactorOf(const QScreen* screen) {
+  const qsizetype order = QGuiApplication::screens().indexOf(screen);
+  const QByteArray name = screen == nullptr ? QByteArray() : screen->name().toUtf8();
+  const QList<QByteArray> factors = qgetenv(kScreenFactors).split(';');
+  for (qsizetype i = 0; i < factors.size(); ++i) {
+    const qsizetype sign = factors[i].lastIndexOf('=');
+    const bool meant = sign < 0 ? i == order : factors[i].first(sign) == name;
+    if (meant) return FactorOr(factors[i].sliced(sign + 1), 0);
+  }
+  return 0;
+}
+
+double ScreenScale(const QScreen* screen) {
+  const double chosen = FactorOf(screen);
+  if (chosen > 0) return chosen;
+  if (screen == nullptr || qgetenv(kSwitch) == "0") return 1;
+  return screen->logicalDotsPerInch() / kUnscaledDots;
 }
 
 }  // namespace
 
-double DesktopScale() {
-  return ScreenScale() * FactorOr(qgetenv(kFactor), 1);
+double DesktopScale(const QScreen* screen) {
+  return ScreenScale(screen) * FactorOr(qgetenv(kFactor), 1);
 }
 
 QtScalingOff::QtScalingOff() {

@@ -1,12 +1,13 @@
 #include "toolkit/desktop_scale.h"
 
+#include <QGuiApplication>
 #include <array>
 #include <gtest/gtest.h>
 
 namespace quillon {
 namespace {
 
-// The screen of the tests has 96 dots to the inch.
+// The one screen of the tests is called "test" and has 96 dots to the inch.
 struct ScaleCase {
   const char* Factor;
   const char* ScreenFactors;
@@ -37,8 +38,11 @@ TEST_F(DesktopScaleTest, IsThatOfTheScreenTimesTheUsers) {
       ScaleCase{nullptr, nullptr, nullptr, 1},
       ScaleCase{"1.5", nullptr, nullptr, 1.5},
       ScaleCase{"2", nullptr, "0", 2},
-      ScaleCase{nullptr, "eDP-1=1.25;HDMI-1=2", nullptr, 1.25},
+      ScaleCase{nullptr, "test=1.25;HDMI-1=2", nullptr, 1.25},
+      ScaleCase{nullptr, "HDMI-1=2;test=1.25", nullptr, 1.25},
+      ScaleCase{nullptr, "HDMI-1=2", nullptr, 1},
       ScaleCase{nullptr, "2;1", nullptr, 2},
+      ScaleCase{nullptr, "HDMI-1=2;1", nullptr, 1},
       ScaleCase{"1.5", "2", nullptr, 3},
       ScaleCase{"0", nullptr, nullptr, 1},
       ScaleCase{"-2", "x", nullptr, 1},
@@ -46,8 +50,11 @@ TEST_F(DesktopScaleTest, IsThatOfTheScreenTimesTheUsers) {
   };
   for (const ScaleCase& row : kRows) {
     SetAll(row);
-    EXPECT_EQ(DesktopScale(), row.Scale) << (row.Factor == nullptr ? "" : row.Factor);
+    EXPECT_EQ(DesktopScale(QGuiApplication::primaryScreen()), row.Scale)
+        << (row.Factor == nullptr ? "" : row.Factor) << (row.ScreenFactors == nullptr ? "" : row.ScreenFactors);
   }
+  SetAll({nullptr, "2", nullptr, 0});
+  EXPECT_EQ(DesktopScale(nullptr), 1);
 }
 
 TEST_F(DesktopScaleTest, IsKeptFromQtAndPutBack) {

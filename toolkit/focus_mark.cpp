@@ -4,6 +4,8 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <algorithm>
+#include <array>
 
 #include "toolkit/application.h"
 #include "toolkit/control.h"
@@ -20,12 +22,17 @@ constexpr int kPaleLine = 1;  // no wider than it must be: it lies over what is 
 
 bool IsMarkedByItsForm(const QWidget& control) {
   const auto* box = qobject_cast<const QLineEdit*>(&control);
-  return control.isWindow() || (box != nullptr && !box->hasFrame());
+  return box != nullptr && !box->hasFrame();
 }
 
 const QWidget& PlaceOf(const QWidget& control) {
   const auto* ours = qobject_cast<const Control*>(&control);
   return ours == nullptr ? control : ours->MarkedPlace();
+}
+
+bool ChangesItsPlace(const QEvent& event) {
+  constexpr std::array kChanges = {QEvent::Show, QEvent::Hide, QEvent::Move, QEvent::Resize};
+  return std::ranges::find(kChanges, event.type()) != kChanges.end();
 }
 
 }  // namespace
@@ -36,6 +43,7 @@ FocusMark::FocusMark(QWidget& window) : QFocusFrame(&window), window_(window) {
 }
 
 bool FocusMark::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == panel_ && ChangesItsPlace(*event)) update();
   switch (event->type()) {
     case QEvent::FocusIn: {
       auto* control = qobject_cast<QWidget*>(watched);
@@ -50,6 +58,9 @@ bool FocusMark::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Resize:
       if (isVisible() && watched != this) Place();
       break;
+    case QEvent::Show:
+      if (watched == &window_) shownByKey_ = AnswersKey();
+      break;
     case QEvent::Hide:
       if (watched == control_) hide();
       break;
@@ -63,10 +74,23 @@ bool FocusMark::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FocusMark::Reach(QWidget& control, Qt::FocusReason reason) {
-  const bool returns = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-  const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                          reason == Qt::ShortcutFocusReason || (reason != Qt::MouseFocusReason && KeyboardLeads());
-  if (!returns || control_ != &control) marked_ = byKeyboard;
+  if (control.isWindow()) return;
+  switch (reason) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+      marked_ = true;
+      break;
+    case Qt::MouseFocusReason:
+      marked_ = false;
+      break;
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+      if (control_ != &control) marked_ = shownByKey_;
+      break;
+    default:
+      marked_ = AnswersKey();
+  }
   control_ = &control;
   if (marked_ && !IsMarkedByItsForm(control)) Place();
 }
@@ -74,17 +98,22 @@ void FocusMark::Reach(QWidget& control, Qt::FocusReason reason) {
 void FocusMark::Place() {
   const QWidget& place = PlaceOf(*control_);
   const int around = LinePixels(kDarkLine) + LinePixels(kPaleLine);
-  const QRect whole(place.mapTo(&window_, QPoint(0, 0)), place.size());
-  setGeometry(whole.adjusted(-around, -around, around, around).intersected(window_.rect()));
+  setGeometry(PlaceInWindow(place).adjusted(-around, -around, around, around).intersected(window_.rect()));
   raise();
   show();
 }
 
 void FocusMark::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.setClipRegion(QRegion(rect()).subtracted(Inside(LinePixels(kPaleLine) + LinePixels(kDarkLine))));
+  QRegion line = QRegion(rect()).subtracted(Inside(LinePixels(kPaleLine) + LinePixels(kDarkLine)));
+  if (panel_ != nullptr && panel_->isVisible()) line -= PlaceInWindow(*panel_).translated(-pos());
+  painter.setClipRegion(line);
   painter.fillRect(rect(), kPale);
   painter.fillRect(Inside(LinePixels(kPaleLine)), kDark);
+}
+
+QRect FocusMark::PlaceInWindow(const QWidget& control) const {
+  return {control.mapTo(&window_, QPoint(0, 0)), control.size()};
 }
 
 QRect FocusMark::Inside(int border) const {

@@ -105,14 +105,44 @@ TEST_F(FocusMarkTest, DoesNotComeFromTheMouse) {
   Click(picture);
   ASSERT_EQ(form.focusWidget(), &picture);
   EXPECT_FALSE(mark.isVisible());
-  link.setFocus(Qt::OtherFocusReason);
-  EXPECT_FALSE(mark.isVisible()) << "the mouse was used last";
-  Press(Qt::Key_Shift);
-  picture.setFocus(Qt::OtherFocusReason);
-  EXPECT_FALSE(mark.isVisible()) << "Shift goes with a click";
-  Press(Qt::Key_Down);
-  link.setFocus(Qt::OtherFocusReason);
-  EXPECT_TRUE(mark.isVisible());
+}
+
+TEST_F(FocusMarkTest, ComesWithAFocusThatIsGivenInAnswerToAKey) {
+  QObject::connect(&link, &Control::Clicked, &form, [this] { list.setFocus(Qt::OtherFocusReason); });
+  for (const bool byKey : {true, false, true}) {
+    link.setFocus(Qt::TabFocusReason);
+    if (byKey) {
+      Press(Qt::Key_Return);
+    } else {
+      Click(link);
+    }
+    ASSERT_EQ(form.focusWidget(), &list);
+    EXPECT_EQ(mark.isVisible(), byKey);
+  }
+}
+
+TEST_F(FocusMarkTest, ComesWithAWindowThatAKeyHasOpened) {
+  for (const bool byKey : {true, false}) {
+    QWidget dialog;
+    QListWidget first(&dialog);
+    FocusMark itsMark(dialog);
+    first.setFocus();
+    const auto open = QObject::connect(&link, &Control::Clicked, &dialog, [&dialog] {
+      dialog.show();
+      dialog.activateWindow();
+    });
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    link.setFocus(Qt::TabFocusReason);
+    if (byKey) {
+      Press(Qt::Key_Return);
+    } else {
+      Click(link);
+    }
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_EQ(itsMark.isVisible(), byKey);
+    QObject::disconnect(open);
+  }
 }
 
 TEST_F(FocusMarkTest, ReturnsWithTheWindow) {
@@ -144,6 +174,38 @@ TEST_F(FocusMarkTest, FollowsItsControlAndStaysInFront) {
   EXPECT_EQ(form.children().last(), &mark) << "and it is in front";
   frame.hide();
   EXPECT_FALSE(mark.isVisible());
+}
+
+TEST_F(FocusMarkTest, LeavesThePanelOfItsWindowWhole) {
+  Frame panel(&frame);
+  panel.SetBackColor(Qt::red);
+  panel.setGeometry(20, 40, 60, 60);
+  mark.StayBehind(panel);
+  link.setFocus(Qt::TabFocusReason);
+  panel.raise();
+  const QImage marked = Look();
+  EXPECT_NE(marked.pixelColor(30, 41), QColor(Qt::red));
+  panel.show();
+  for (const QPoint& place : {QPoint(20, 40), QPoint(120, 60)}) {
+    panel.move(place);
+    const QImage look = Look();
+    EXPECT_EQ(look.copy(panel.geometry()), panel.grab().toImage());
+    EXPECT_EQ(look.pixel(18, 30), marked.pixel(18, 30)) << "the rest of the mark stays";
+  }
+  EXPECT_EQ(Look().pixel(30, 41), marked.pixel(30, 41));
+  panel.hide();
+  EXPECT_EQ(Look(), marked);
+}
+
+TEST_F(FocusMarkTest, ReturnsToWhatHadTheFocusBeforeNobodyHadIt) {
+  for (const bool marked : {true, false}) {
+    form.setFocus(Qt::OtherFocusReason);
+    picture.setFocus(marked ? Qt::TabFocusReason : Qt::MouseFocusReason);
+    form.setFocus(Qt::OtherFocusReason);
+    EXPECT_FALSE(mark.isVisible());
+    picture.setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(mark.isVisible(), marked);
+  }
 }
 
 TEST_F(FocusMarkTest, StaysInTheWindow) {

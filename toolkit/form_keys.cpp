@@ -14,17 +14,18 @@ void PressByKey(QWidget& control) {
   if (auto* button = qobject_cast<QAbstractButton*>(&control)) return button->click();
   auto* ours = qobject_cast<Control*>(&control);
   if (ours == nullptr) return;
-  if (ours->Use() == ControlUse::kFocusLink) ours->setFocus(Qt::ShortcutFocusReason);
+  if (ours->Use() == ControlUse::kFocusLink && !ours->TakeFocus(Qt::ShortcutFocusReason)) return;
   ours->Click();
 }
 
 }  // namespace
 
-void BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action, Qt::ShortcutContext context) {
+QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action, Qt::ShortcutContext context) {
   auto* shortcut = new QShortcut(QKeySequence(key), &parent);
   shortcut->setAutoRepeat(false);
   shortcut->setContext(context);
   QObject::connect(shortcut, &QShortcut::activated, &parent, std::move(action));
+  return *shortcut;
 }
 
 // A shortcut sleeps while its parent is hidden.

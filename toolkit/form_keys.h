@@ -4,6 +4,7 @@
 // wants an answer they are not.
 
 #include <QKeyCombination>
+#include <QShortcut>
 #include <QWidget>
 #include <functional>
 
@@ -11,12 +12,12 @@ namespace quillon {
 
 /// Makes the key press `control`, a label, a picture or a button, as a click does. It does nothing while the control is
 /// hidden or disabled, so what cannot be seen cannot be pressed. A control that a click gives the focus has it first,
-/// so that the box that is being typed in has been left.
+/// so that the box that is being typed in has been left; where that box complains, the press is off.
 void BindPress(QWidget& control, QKeyCombination key);
 
 /// Makes the key do something of the window of `parent`; with Qt::ApplicationShortcut it is heard in every window of
-/// the program. It does nothing while `parent` is hidden.
-void BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action,
-             Qt::ShortcutContext context = Qt::WindowShortcut);
+/// the program. It does nothing while `parent` is hidden, nor while the shortcut returned is disabled.
+QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action,
+                   Qt::ShortcutContext context = Qt::WindowShortcut);
 
 }  // namespace quillon

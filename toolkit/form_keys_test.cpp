@@ -8,6 +8,7 @@
 
 #include "testing/expected_boxes.h"
 #include "toolkit/label.h"
+#include "toolkit/message_dialogs.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {
@@ -63,6 +64,35 @@ TEST_F(FormKeysTest, LeaveTheBoxBeforeWhatTakesTheFocusIsPressed) {
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(order, QStringLiteral("left pressed"));
   EXPECT_EQ(form.focusWidget(), &start);
+}
+
+TEST_F(FormKeysTest, PressNothingAfterAComplaintAboutTheBoxThatWasLeft) {
+  QObject::connect(&box, &TextBox::FocusLost, &form,
+                   [] { MessageDialogs().Show({.title = "Quillon", .text = "This is no sum."}); });
+  ExpectMessageBox({.title = "Quillon", .text = "This is no sum."});
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(startClicks.count(), 0);
+  form.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(startClicks.count(), 1) << "the box has been left";
+}
+
+TEST_F(FormKeysTest, PressOnceHoweverLongTheyAreHeldDown) {
+  for (const bool repeated : {false, true, true})
+    QTest::simulateEvent(form.windowHandle(), true, Qt::Key_F2, {}, {}, repeated);
+  EXPECT_EQ(buttonClicks.count(), 1);
+}
+
+TEST_F(FormKeysTest, DoNothingWhileTheyAreDisabled) {
+  int presses = 0;
+  QShortcut& key = BindKey(form, Qt::Key_Escape, [&presses] { ++presses; });
+  for (const bool enabled : {true, false, true}) {
+    key.setEnabled(enabled);
+    Press(Qt::Key_Escape);
+  }
+  EXPECT_EQ(presses, 2);
 }
 
 TEST_F(FormKeysTest, OfTheWholeProgramAreHeardInEveryWindowButNotBehindABox) {

@@ -1,8 +1,8 @@
 #include "toolkit/message_dialogs.h"
 
-#include <QApplication>
 #include <QInputDialog>
 
+#include "toolkit/application.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 
@@ -62,21 +62,14 @@ void FillMessageBox(QMessageBox& box, const Message& message) {
   if (message.buttons == MessageButtons::kYesNo) box.setEscapeButton(QMessageBox::No);
 }
 
-// Right after a box no window is in front, until the window system has given one the keyboard again.
-QWidget* MessageDialogs::Asker() {
-  if (QWidget* front = QApplication::activeWindow()) asker_ = front;
-  QWidget* asker = asker_.data();
-  return asker != nullptr && asker->isVisible() ? asker : nullptr;
-}
-
 MessageAnswer MessageDialogs::Show(const Message& message) {
-  QMessageBox box(Asker());
+  QMessageBox box(AskingWindow());
   FillMessageBox(box, message);
   return AnswerOf(box.exec());
 }
 
 std::string MessageDialogs::Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) {
-  QInputDialog box(Asker());
+  QInputDialog box(AskingWindow());
   box.setWindowTitle(ToQt(title));
   box.setLabelText(ToQt(prompt));
   box.setInputMode(QInputDialog::TextInput);

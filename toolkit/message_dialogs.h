@@ -1,10 +1,9 @@
 #pragma once
 
 // Message boxes and input boxes on the screen. Each is modal: it takes the mouse and the keyboard of the whole program
-// until it is answered. It belongs to the window that asks, which is the one in front, and stands over its middle.
+// until it is answered. It belongs to the window that asks ("toolkit/application.h") and is centred on it.
 
 #include <QMessageBox>
-#include <QPointer>
 
 #include "support/input_boxes.h"
 #include "support/message_boxes.h"
@@ -15,11 +14,6 @@ class MessageDialogs : public MessageBoxes, public InputBoxes {
  public:
   MessageAnswer Show(const Message& message) override;
   std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override;
-
- private:
-  [[nodiscard]] QWidget* Asker();
-
-  QPointer<QWidget> asker_;  // the last time
 };
 
 /// Dresses a box: its text stands as it is and is never read as mark-up, and can be selected with the mouse.

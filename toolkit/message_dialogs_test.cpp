@@ -1,5 +1,7 @@
 #include "toolkit/message_dialogs.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,6 +13,8 @@
 
 #include "artwork/artwork.h"
 #include "testing/expected_boxes.h"
+#include "toolkit/form_keys.h"
+#include "toolkit/label.h"
 #include "toolkit/placement.h"
 
 namespace quillon {
@@ -90,51 +94,111 @@ TEST(MessageDialogs, ShowTheTextAsItStands) {
   MessageDialogs().Show({.title = "Quillon", .text = "The range \"<b>A & B</b>\"\r\nis there."});
 }
 
-TEST(MessageDialogs, StandOverTheWindowInFrontAndHoldUpTheWholeProgram) {
-  QWidget form;
-  form.show();
-  form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-  ExpectDialog([&](QDialog& box) {
-    EXPECT_EQ(box.parentWidget(), &form);
-    EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
-    box.accept();
-  });
+// Two windows, the second in front of the first.
+class AskingWindows : public testing::Test {
+ protected:
+  AskingWindows() {
+    asker.setGeometry(100, 100, 500, 400);
+    other.setGeometry(700, 500, 500, 400);
+    asker.setObjectName(QStringLiteral("asker"));
+    other.setObjectName(QStringLiteral("other"));
+    link.SetUse(ControlUse::kLink);
+    for (QWidget* window : {&asker, &other})
+      window->show();
+    BringToFront(other);
+  }
 
-  MessageDialogs().Show(With(MessageButtons::kOk));
+  static void BringToFront(QWidget& window) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  static void ExpectBoxOf(const QWidget& owner) {
+    ExpectDialog([&owner](QDialog& box) {
+      ASSERT_NE(box.parentWidget(), nullptr);
+      EXPECT_EQ(box.parentWidget()->objectName(), owner.objectName());
+      EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
+      const QPoint off = box.frameGeometry().center() - owner.frameGeometry().center();
+      EXPECT_LE(off.manhattanLength(), 40) << off.x() << " " << off.y();  // what a window manager's frame may be
+      box.accept();
+    });
+  }
+
+  QWidget asker;
+  QWidget other;
+  Label link{&asker};
+  MessageDialogs boxes;
+};
+
+TEST_F(AskingWindows, AreThoseWhoseUserIsAnsweredWhateverHasComeInFront) {
+  QObject::connect(&link, &Control::Clicked, &asker, [this] {
+    BringToFront(other);
+    ExpectBoxOf(asker);
+    boxes.Show(With(MessageButtons::kOk));
+    // No window is in front right after a box, until the window system has given one the keyboard again.
+    QApplication::setActiveWindow(nullptr);
+    ExpectBoxOf(asker);
+    boxes.Ask("Name?", "New Range", "");
+    QApplication::setActiveWindow(nullptr);
+    ExpectBoxOf(asker);
+    boxes.Show(With(MessageButtons::kYesNo));
+  });
+  QTest::mouseClick(asker.windowHandle(), Qt::LeftButton, {}, link.geometry().center());
+  VerifyExpectedBoxes();
+  QTest::keyClick(&link, Qt::Key_Return);
 }
 
-TEST(MessageDialogs, BelongToTheWindowThatAsksAlsoWhereNoneIsInFront) {
-  QWidget form;
-  form.setGeometry(300, 200, 800, 600);
-  form.show();
-  form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-  MessageDialogs dialogs;
-  const auto expectCentred = [&form](QDialog& box) {
-    EXPECT_EQ(box.parentWidget(), &form);
-    const QPoint off = box.frameGeometry().center() - form.frameGeometry().center();
-    EXPECT_LE(off.manhattanLength(), 40) << off.x() << " " << off.y();  // what a window manager's frame may be
-    box.accept();
-  };
-  ExpectDialog(expectCentred);
-  dialogs.Show(With(MessageButtons::kOk));
-
-  QApplication::setActiveWindow(nullptr);
-  ASSERT_EQ(QApplication::activeWindow(), nullptr);
-  ExpectDialog(expectCentred);
-  dialogs.Show(With(MessageButtons::kOk));
-  QApplication::setActiveWindow(nullptr);
-  ExpectDialog(expectCentred);
-  dialogs.Ask("Name?", "New Range", "");
-
-  form.hide();
-  QApplication::setActiveWindow(nullptr);
-  ExpectDialog([](QDialog& box) {
-    EXPECT_EQ(box.parentWidget(), nullptr) << "nobody can see that window";
-    box.accept();
+TEST_F(AskingWindows, AreAskedOnceAgainWhenAnotherOneHasBeenAnswered) {
+  Label nested(&other);
+  nested.SetUse(ControlUse::kLink);
+  QObject::connect(&nested, &Control::Clicked, &other, [this] {
+    ExpectBoxOf(other);
+    boxes.Show(With(MessageButtons::kOk));
   });
-  dialogs.Show(With(MessageButtons::kOk));
+  QObject::connect(&link, &Control::Clicked, &asker, [&] {
+    QTest::mouseClick(&nested, Qt::LeftButton);
+    VerifyExpectedBoxes();
+    ExpectBoxOf(asker);
+    boxes.Show(With(MessageButtons::kOk));
+  });
+  QTest::mouseClick(&link, Qt::LeftButton);
+}
+
+TEST_F(AskingWindows, AreThoseOfTheBoxWhoseListWasOpen) {
+  QComboBox list(&asker);
+  list.addItems({QStringLiteral("one"), QStringLiteral("two")});
+  list.show();
+  list.showPopup();
+  QObject::connect(&list, &QComboBox::activated, &asker, [this] {
+    ExpectBoxOf(asker);
+    boxes.Show(With(MessageButtons::kOk));
+  });
+  QTest::keyClick(list.view(), Qt::Key_Return);
+}
+
+TEST_F(AskingWindows, AreInFrontWhereAKeyIsHeardInEachOrNobodyIsAnswered) {
+  const auto ask = [this] { boxes.Show(With(MessageButtons::kOk)); };
+  BindKey(asker, Qt::Key_F1, ask, Qt::ApplicationShortcut);
+  ExpectBoxOf(other);
+  QTest::keyClick(other.windowHandle(), Qt::Key_F1);
+  VerifyExpectedBoxes();
+  BringToFront(other);
+  ExpectBoxOf(other);
+  ask();
+}
+
+TEST_F(AskingWindows, AreNoneWhereNobodyCanBeSeen) {
+  QObject::connect(&link, &Control::Clicked, &asker, [this] {
+    asker.hide();
+    other.hide();
+    QApplication::setActiveWindow(nullptr);
+    ExpectDialog([](QDialog& box) {
+      EXPECT_EQ(box.parentWidget(), nullptr);
+      box.accept();
+    });
+    boxes.Show(With(MessageButtons::kOk));
+  });
+  QTest::mouseClick(&link, Qt::LeftButton);
 }
 
 TEST(MessageDialogs, HaveAnIconOfTheirOwnInTheSizeOfTheScale) {

@@ -10,8 +10,9 @@
 namespace quillon {
 namespace {
 
+// Places are counted over all screens, so that one of them must be the measure.
 double ScreenTwipsPerPixel() {
-  return static_cast<double>(kTwipsPerPixel) / DesktopScale();
+  return static_cast<double>(kTwipsPerPixel) / DesktopScale(QGuiApplication::primaryScreen());
 }
 
 float TwipsOfPixels(int pixels) {

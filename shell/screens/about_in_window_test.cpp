@@ -214,6 +214,21 @@ TEST_F(FeedbackInWindow, TheWindowIsLiveDuringTheWait) {
   EXPECT_EQ(Web.Asked, std::vector<std::string>{Request("%78%40%79", "%78")}) << "as the note reads by then";
 }
 
+TEST_F(FeedbackInWindow, TheAnswerIsTheMainWindowsWhateverIsInFrontByThen) {
+  Fill(QStringLiteral("abc"));
+  Web.Replies = {"sent"};
+  Web.WhileAsked = [this] {
+    Dialogs.ShowManager();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+  };
+  ExpectInputBox(kAddressQuestion, "x@y");
+  ExpectDialog([this](QDialog& answer) {
+    EXPECT_EQ(answer.parentWidget(), &Form);
+    answer.accept();
+  });
+  Send();
+}
+
 TEST_F(FeedbackInWindow, ASecondClickDuringTheWaitSendsTwice) {
   Fill(QStringLiteral("abc"));
   Web.Replies = {"", "sent"};

@@ -121,8 +121,10 @@ std::string GridImageView::AskName() {
 
 // The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that
 // does not let itself be copied gives the window's own drawing instead. At a higher scale these are the screen's own,
-// finer pixels.
+// finer pixels. The mark of the focus is no part of the picture: nobody has the focus meanwhile.
 std::string GridImageView::CaptureGrid() {
+  QWidget* const focused = form_.focusWidget();
+  form_.setFocus(Qt::OtherFocusReason);
   WaitForTheScreen();
   const CaptureRect rect = CaptureRectOf(PlaceOf(controls_.ShapeAt("GridContainer")));
   const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
@@ -133,6 +135,7 @@ std::string GridImageView::CaptureGrid() {
   const QPoint corner = grid.mapTo(&form_, area.topLeft());
   QPixmap copy = form_.screen()->grabWindow(form_.winId(), corner.x(), corner.y(), area.width(), area.height());
   if (copy.isNull()) copy = controls_.FrameAt("frameContent", kGridScreen).grab(area);
+  if (focused != nullptr) focused->setFocus(Qt::ActiveWindowFocusReason);
 
   QBuffer file;
   file.open(QIODevice::WriteOnly);

@@ -260,14 +260,51 @@ TEST_F(KeyboardInWindow, ControlAndEnterAnalyzeWithTheSumThatIsBeingTyped) {
   EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to analyse here";
 }
 
+TEST_F(KeyboardInWindow, NothingRunsAfterAComplaintAboutTheSumThatIsBeingTyped) {
+  for (const bool byKey : {true, false}) {
+    EnterCall("100", "50", "Tight");
+    Type(0, "=1 + 2");
+    ExpectMessageBox({.title = "Problem",
+                      .text = "There was a problem processing your expression: \r\n\r\n"
+                              "Only addition (+) and subtract (-) are supported",
+                      .icon = MessageIcon::kInformation});
+    if (byKey) {
+      Press(Qt::Key_Return, Qt::ControlModifier);
+    } else {
+      Click("cmdPreflopEV", 0);
+    }
+    VerifyExpectedBoxes();
+    EXPECT_EQ(Screen(), "Preflop Call");
+    EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.") << "not even the checks";
+    ComeToFront();
+    Type(0, "1");
+  }
+}
+
+// Also from a screen that does not show the link "< Back" itself.
 TEST_F(KeyboardInWindow, EscapeStopsARunAsBackDoes) {
-  OpenScreen("Equity Only");
-  Choose(3, "Tight");
-  DuringRun("50%", [this] { Press(Qt::Key_Escape); });
-  Press(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_FALSE(Form.State().Running);
-  EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3));
+  for (const char* screen : {"Progress", "Preflop Call", "About"}) {
+    OpenScreen("Equity Only");
+    Choose(3, "Tight");
+    DuringRun("50%", [&] {
+      if (screen == std::string_view("Preflop Call")) Open(kCallNav);
+      if (screen == std::string_view("About")) Click("picLogo");
+      EXPECT_EQ(Screen(), screen);
+      Press(Qt::Key_Escape);
+    });
+    Press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Screen(), "Equity Only") << screen;
+    EXPECT_FALSE(Form.State().Running) << screen;
+    EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3)) << screen;
+  }
+}
+
+TEST_F(KeyboardInWindow, EscapeIsTheGridsOwnWhereNothingRuns) {
+  RunEquity("Tight");
+  Focus("lblCards", 0);
+  ASSERT_TRUE(Shows("frameHover"));
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(Shows("frameHover"));
 }
 
 TEST_F(KeyboardInWindow, KeysOpenTheRangeManagerAndCloseWindows) {
@@ -343,6 +380,29 @@ TEST_F(KeyboardInWindow, ARunStartedByKeyEndsWithTheFocusOnTheGrid) {
 
   RunEquity("Tight");
   EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
+}
+
+TEST_F(KeyboardInWindow, WhatStartedARunDecidesOnTheFocusWhateverIsPressedMeanwhile) {
+  EnterEquity("Tight");
+  DuringRun("50%", [this] { Press(Qt::Key_F5); });
+  Click("cmdPreflopEV", 2);
+  EXPECT_EQ(Form.focusWidget(), &Form);
+
+  EnterEquity("Tight");
+  DuringRun("50%", [this] { Click("Label", 10); });
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 0));
+  EXPECT_TRUE(Form.findChild<FocusMark*>()->isVisible());
+}
+
+TEST_F(KeyboardInWindow, TheHoverPanelLiesInFrontOfTheMark) {
+  RunEquity("Tight");
+  Focus("lblCards", 14);
+  ASSERT_TRUE(Shows("frameHover"));
+  QWidget& panel = Get("frameHover");
+  const QRect place(panel.mapTo(&Form, QPoint(0, 0)), panel.size());
+  ASSERT_TRUE(place.intersects(Form.findChild<FocusMark*>()->geometry()));
+  EXPECT_EQ(Form.grab(place).toImage(), panel.grab().toImage());
 }
 
 TEST_F(KeyboardInWindow, AfterADialogTheFocusIsWhereItWas) {

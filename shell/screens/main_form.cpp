@@ -105,9 +105,11 @@ MainForm::MainForm(Surroundings surroundings)
                  .Results = results_,
                  .Boxes = around_.Messages,
                  .Marks = around_.Marks}),
-      zoom_(*this, around_.Folder) {
+      zoom_(*this, around_.Folder),
+      stop_(BindKey(*this, Qt::Key_Escape, [this] { StopAnalysis(state_); })) {
   // It covers the cells until a run brings them up one by one.
   controls_.PictureAt("imgGridBack").raise();
+  focusMark_.StayBehind(controls_.FrameAt("frameHover"));
   BindSidePanel();
   BindScreens();
   BindGrid();
@@ -202,7 +204,7 @@ void MainForm::BindScreens() {
     connect(&controls_.FrameAt("frameContent", i), &Control::MouseMoved, this, [this] { hover_.Hide(); });
   }
   for (std::int16_t i = 0; i < controls_.CountOf("cmdPreflopEV"); ++i) {
-    OnClick("cmdPreflopEV", i, [this, i] { RunAnalysis(state_, i, analysis_, around_.Folder); });
+    OnClick("cmdPreflopEV", i, [this, i] { Run(i); });
   }
   for (std::int16_t i = 0; i < controls_.CountOf("lblWhatsThis"); ++i) {
     OnClick("lblWhatsThis", i,
@@ -252,13 +254,19 @@ void MainForm::BindKeys() {
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
       BindPress(controls_.PictureAt("cmdPreflopEV", i), Qt::CTRL | enter);
   }
-  BindPress(controls_.LabelAt("lblStopCalc"), Qt::Key_Escape);
+  stop_.setEnabled(false);
 
   BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
   BindKey(
       *this, Qt::CTRL | Qt::Key_Q, [this] { close(); }, Qt::ApplicationShortcut);
   BindKey(
       *this, Qt::Key_F1, [this] { ShowUserGuide(); }, Qt::ApplicationShortcut);
+}
+
+void MainForm::Run(std::int16_t button) {
+  stop_.setEnabled(true);
+  RunAnalysis(state_, button, analysis_, around_.Folder);
+  stop_.setEnabled(false);
 }
 
 void MainForm::ShowUserGuide() {

@@ -3,6 +3,7 @@
 // The main window, `frmMain`: it builds the screens from their tables, owns the analysis state, and binds each
 // control's events to the routine that answers them.
 
+#include <QShortcut>
 #include <QWidget>
 #include <filesystem>
 #include <functional>
@@ -68,6 +69,7 @@ class MainForm : public QWidget {
   void BindDetails();
   void BindAbout();
   void BindKeys();
+  void Run(std::int16_t button);
   void ShowUserGuide();
   void OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action);
   void OrderTabs();
@@ -86,6 +88,7 @@ class MainForm : public QWidget {
   GridImageView image_;
   AnalysisView analysis_;
   ZoomView zoom_;
+  QShortcut& stop_;  // "< Back" from whatever screen, during a run
   FocusMark focusMark_{*this};
 };
 

@@ -76,7 +76,7 @@ Frame& NavigationView::ShowFrame(std::string_view name) {
   SetPlace(shown, ScreenPlace(PanelPlace(), PlaceOf(form_).Width));
   shown.SetBackColor(Qt::white);
   shown.raise();
-  if (!KeyboardLeads() || !form_.isVisible()) return shown;
+  if (!AnswersKey() || !form_.isVisible()) return shown;
   if (QWidget* first = FirstToWorkWith(shown)) first->setFocus(Qt::ShortcutFocusReason);
   return shown;
 }

@@ -19,8 +19,8 @@ class NavigationView {
   [[nodiscard]] TwipRect PanelPlace() const;
 
   /// Shows the screen of that name, exactly that, white and in front of all others, which are hidden, and returns it. A
-  /// waiting pointer ends. Where the keyboard leads ("toolkit/application.h"), the first control of the screen that is
-  /// not just pressed has the focus then, such as its first box; a focus that was on a screen that goes is nobody's
+  /// waiting pointer ends. In answer to a key ("toolkit/application.h"), the first control of the screen that is not
+  /// just pressed has the focus then, such as its first box; a focus that was on a screen that goes is nobody's
   /// otherwise. RunTimeError "Invalid procedure call or argument", with nothing changed, if no screen has that name.
   Frame& ShowFrame(std::string_view name);
 

@@ -47,7 +47,7 @@ void ZoomView::Choose(int percent) {
 
 void ZoomView::Show(int percent) {
   percent_ = percent;
-  ShowAtScale(DesktopScale() * percent / kDesignZoom);
+  ShowAtScale(DesktopScale(form_.screen()) * percent / kDesignZoom);
 }
 
 TwipSize ZoomView::Room() const {
