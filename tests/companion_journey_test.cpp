@@ -6,6 +6,7 @@
 //
 //     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -19,6 +20,7 @@
 #include "results/web_addresses.h"
 #include "support/files.h"
 #include "testing/folder_state.h"
+#include "testing/split_text.h"
 #include "testing/temporary_folder.h"
 #include "tests/program_run.h"
 #include "tools/commands.h"
@@ -149,6 +151,49 @@ TEST(CompanionJourney, DoesWhatTheHelpOfEachCommandGivesAsItsExample) {
     const ProgramOutcome outcome = household.Run(With({command.Name}, Words(command.Example)));
     EXPECT_EQ(outcome.Status, 0) << command.Name << ": " << outcome.Errors;
     EXPECT_EQ(outcome.Errors, "") << command.Name;
+  }
+}
+
+// A command line that the guide shows, and what it shows of its output.
+struct GuideSample {
+  std::string Command;
+  std::vector<std::string> Shown{};
+};
+
+std::vector<GuideSample> SamplesOfTheGuide() {
+  constexpr std::string_view kIndentation = "    ";
+  constexpr std::string_view kPrompt = "    $ ./run cli ";
+  std::vector<GuideSample> samples;
+  bool inSample = false;
+  for (const std::string& line : Lines(ReadAllBytes(QUILLON_GUIDE))) {
+    inSample = line.starts_with(kPrompt) || (inSample && line.starts_with(kIndentation));
+    if (line.starts_with(kPrompt))
+      samples.push_back({line.substr(kPrompt.size(), line.find(" > ") - kPrompt.size())});
+    else if (inSample)
+      samples.back().Shown.push_back(line.substr(kIndentation.size()));
+  }
+  return samples;
+}
+
+TEST(CompanionJourney, SaysWhatTheGuideShows) {
+  const Household household;
+  std::ofstream situations(household.Elsewhere() / "situations.jsonl");
+  for (const std::string& line : Lines(ReadAllBytes(QUILLON_GUIDE))) {
+    if (line.starts_with("    {\"id\": ")) situations << line << '\n';
+  }
+  situations.close();
+  const std::vector<GuideSample> samples = SamplesOfTheGuide();
+  EXPECT_GE(samples.size(), 8U);
+  for (const GuideSample& sample : samples) {
+    const ProgramOutcome outcome = household.Run(Words(sample.Command));
+    EXPECT_FALSE(outcome.Output.empty() && outcome.Errors.empty()) << sample.Command;
+    const std::vector<std::string> said = Lines(outcome.Output + outcome.Errors);
+    auto from = said.begin();
+    for (const std::string& shown : sample.Shown) {
+      const auto found = std::find(from, said.end(), shown);
+      ASSERT_NE(found, said.end()) << sample.Command << "\ndoes not say, or not after the line before:\n" << shown;
+      from = found + 1;
+    }
   }
 }
 

@@ -28,11 +28,12 @@ void OccupyClosedStreams() {
       {{STDIN_FILENO, O_WRONLY}, {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_RDONLY}}};
   quillon::FileCalls& calls = quillon::SystemFileCalls();
   for (const auto& [descriptor, direction] : kStreams) {
-    if (fcntl(descriptor, F_GETFD) < 0) calls.Open("/dev/null", direction | O_CLOEXEC, 0);
+    if (calls.Mode(descriptor) < 0) calls.Open("/dev/null", direction | O_CLOEXEC, 0);
   }
 }
 
 int Run(const std::vector<std::string>& arguments) {
+  OccupyClosedStreams();
   quillon::DescriptorInput standardInput(STDIN_FILENO, "standard input");
   std::istream input(&standardInput);
   const quillon::Surroundings surroundings{
@@ -51,7 +52,6 @@ int Run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  OccupyClosedStreams();
   try {
     return Run(std::vector<std::string>(arguments + 1, arguments + count));
   } catch (const std::exception& error) {
