@@ -29,7 +29,7 @@ auto Attempt(Read read) -> std::optional<decltype(read())> {
 [[nodiscard]] std::optional<std::string> WhyUnreadable(const std::string& name, const ProgramFolder& folder);
 
 /// Nothing where there is a file for a range of this name, and otherwise that there is none, with the names nearest to
-/// it. A name that leads out of the range folder, such as "../Tight", is none of a range.
+/// it. A name that leads out of the range folder, such as "../Tight", names no range.
 ///
 ///     There is no range "Tihgt" in Quillon/Ranges. The nearest names: "Tight", "Top Ten"
 [[nodiscard]] std::optional<std::string> WhyUnknown(const std::string& name, const ProgramFolder& folder);

@@ -33,8 +33,7 @@ namespace quillon {
 using PairCounts = std::array<double, kHandClassCount>;
 [[nodiscard]] PairCounts CountPairs(const HandNumbers& hands, std::int16_t index);
 
-/// What the hero may risk, in pots. Beyond it the equities' share of the sum is not exact enough to tell a millionth of
-/// a pot.
+/// The most that the hero may risk, in pots: sums of larger amounts lack the digits to tell a millionth of the pot.
 inline constexpr double kMostPotsAtRisk = 1e8;
 
 /// The situation, in the user's own unit. The pot and the shove are above 0, the call is not below it, and call and
@@ -56,10 +55,10 @@ struct Equilibrium {
   double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot
 };
 
-/// Balanced ranges for a question; nothing if one of the players can hold no hand, or if none were found that are as
-/// near to balance as promised: with shoves of hundreds of pots and few hands, he calls with so small a share of a hand
-/// that rounds of learning do not come near it. Which of several balanced pairs is found is not said,
-/// and a class that is never faced with a shove may have any weight.
+/// Balanced ranges for a question. Which of several balanced pairs is found is not said, and a class that is never
+/// faced with a shove may have any weight. Nothing if one of the players can hold no hand, or if no ranges as near to
+/// balance as promised were found: with shoves of hundreds of pots and few hands, the opponent calls with so small a
+/// share of a hand that rounds of learning do not come near it.
 [[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question);
 
 }  // namespace quillon
