@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -32,9 +33,32 @@ const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
 constexpr int kNoticeable = 64;
 constexpr int kTile = 32;
 constexpr double kTileShare = 0.05;
-// A picture brought to another size is compared as if seen from four times as far away.
+// A picture brought to another size is compared as if seen from four times as far away. What is left is text: the lines
+// of longer ones do not all end where they do at 100%.
 constexpr int kDistance = 4;
-constexpr double kDistantTileShare = 0.3;
+
+struct DistantPicture {
+  std::string_view Name;
+  double TileShare;  // a little more than at any scale here
+};
+
+constexpr auto kDistantPictures = std::to_array<DistantPicture>({
+    {"about", 0.1},
+    {"preflop_call", 0.12},
+    {"equity_only", 0.05},
+    {"preflop_raise", 0.12},
+    {"progress", 0.05},
+    {"grid", 0.22},
+    {"hover", 0.22},
+    {"details_plain", 0.24},
+    {"details_forum", 0.3},
+    {"range_manager", 0.06},
+    {"new_range", 0.07},
+});
+
+double DistantTileShare(std::string_view name) {
+  return std::ranges::find(kDistantPictures, name, &DistantPicture::Name)->TileShare;
+}
 
 bool IsNoticeable(QRgb one, QRgb other) {
   const int red = std::abs(qRed(one) - qRed(other));
@@ -111,9 +135,9 @@ class ScreensJourney : public WindowJourney, public testing::WithParamInterface<
     const QImage one = seen.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QImage other = known.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const auto [share, tile] = WorstTile(one, other);
-    EXPECT_LE(share, kDistantTileShare) << name << " at " << scale << " looks different round "
-                                        << tile.center().x() * kDistance << ", " << tile.center().y() * kDistance
-                                        << ": " << SaveForComparison(seen, name);
+    EXPECT_LE(share, DistantTileShare(name))
+        << name << " at " << scale << " looks different round " << tile.center().x() * kDistance << ", "
+        << tile.center().y() * kDistance << ": " << SaveForComparison(seen, name);
   }
 
   [[nodiscard]] fs::path FileOf(std::string_view name) const {

@@ -122,6 +122,24 @@ TEST_F(LightStyleTest, ScrollsByAPageBesideTheHandleAndByDraggingIt) {
   QTest::mouseRelease(&bar, Qt::LeftButton, {}, {8, 900});
 }
 
+TEST_F(LightStyleTest, EndsANameThatIsTooLongForItsBoxWithAnEllipsis) {
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    const auto look = [scale](const QString& name) {
+      QComboBox box;
+      box.addItem(name);
+      box.resize(static_cast<int>(200 * scale), static_cast<int>(25 * scale));
+      return box.grab().toImage();
+    };
+    const QString name(92, QLatin1Char('W'));
+    int letters = 1;
+    while (letters < 92 && look(name) != look(name.first(letters) + QChar(0x2026)))
+      ++letters;
+    EXPECT_LT(letters, 92) << scale;
+    EXPECT_NE(look(name.first(letters - 1)), look(name.first(letters))) << "each letter shows at " << scale;
+  }
+}
+
 TEST_F(LightStyleTest, OpensAListOfTwentyRowsBeneathItsBox) {
   for (const double scale : {1.0, 2.0}) {
     ShowAtScale(scale);

@@ -69,28 +69,38 @@ TEST_F(Placement, LeavesGapsThatAreAlikeToAPixel) {
 
 TEST_F(Placement, DrawsEveryEdgeOfAShapeAlikeAtEveryScale) {
   for (const double scale : kScales) {
-    QWidget form;
-    SetPlace(form, {0, 0, 900, 900});
-    auto* shape = new Shape(ControlKind::kShape, &form);
-    shape->SetFill(Qt::white);
-    SetPlace(*shape, {100, 100, 405, 405});
-    auto* line = new Shape(ControlKind::kLine, &form);
-    SetPlace(*line, {0, 700, 900, 0});
-    ShowAtScale(scale);
-    const int width = LinePixels(1);
-    EXPECT_EQ(line->height(), width) << scale;
+    for (const ControlKind kind : {ControlKind::kShape, ControlKind::kRoundedShape}) {
+      for (const int width : {1, 3}) {
+        QWidget form;
+        SetPlace(form, {0, 0, 900, 900});
+        auto* shape = new Shape(kind, &form);
+        shape->SetFill(Qt::white);
+        shape->SetLineWidth(width);
+        SetPlace(*shape, {100, 100, 405, 405});
+        ShowAtScale(scale);
 
-    const QImage image = shape->grab().toImage();
-    const int middle = image.width() / 2;
-    const int last = image.width() - 1;
-    const auto isLine = [&image](int x, int y) { return image.pixelColor(x, y) == QColor(Qt::black); };
-    for (int i = 0; i < middle; ++i) {
-      const bool expected = i < width;
-      EXPECT_EQ(isLine(i, middle), expected) << scale << " left " << i;
-      EXPECT_EQ(isLine(middle, i), expected) << scale << " top " << i;
-      EXPECT_EQ(isLine(last - i, middle), expected) << scale << " right " << i;
-      EXPECT_EQ(isLine(middle, image.height() - 1 - i), expected) << scale << " bottom " << i;
+        const QImage image = shape->grab().toImage();
+        const int middle = image.width() / 2;
+        const int last = image.width() - 1;
+        for (int i = 0; i < middle; ++i) {
+          const QColor expected = i < LinePixels(width) ? Qt::black : Qt::white;
+          EXPECT_EQ(image.pixelColor(i, middle), expected) << scale << " left " << i;
+          EXPECT_EQ(image.pixelColor(middle, i), expected) << scale << " top " << i;
+          EXPECT_EQ(image.pixelColor(last - i, middle), expected) << scale << " right " << i;
+          EXPECT_EQ(image.pixelColor(middle, image.height() - 1 - i), expected) << scale << " bottom " << i;
+        }
+      }
     }
+  }
+}
+
+TEST_F(Placement, OfALineIsAsThickAsALineIs) {
+  QWidget form;
+  auto* line = new Shape(ControlKind::kLine, &form);
+  SetPlace(*line, {0, 700, 900, 0});
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    EXPECT_EQ(line->height(), LinePixels(1)) << scale;
   }
 }
 

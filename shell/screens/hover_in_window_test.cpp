@@ -18,6 +18,14 @@ class HoverInWindow : public MainFormTest {
     MoveTo(CellOf(hand));
   }
 
+  /// The panel of AKs, opened by an arrow key.
+  void OpenByKey() {
+    Get("lblCards", 0).setFocus(Qt::TabFocusReason);
+    Press(Qt::Key_Right);
+    ASSERT_TRUE(PanelShows());
+    ASSERT_EQ(Caption("lblHov_Cards"), "AKs");
+  }
+
   /// A point of the bare screen.
   void MoveOffTheGrid() { MoveTo({230, 565}); }
 
@@ -195,14 +203,6 @@ struct LeaveCase {
 class GuestPanel : public HoverInWindow, public testing::WithParamInterface<LeaveCase> {
  protected:
   void Leave() { GetParam().Leave(*this); }
-
-  /// The panel of AKs, opened by an arrow key.
-  void OpenByKey() {
-    Get("lblCards", 0).setFocus(Qt::TabFocusReason);
-    Press(Qt::Key_Right);
-    ASSERT_TRUE(PanelShows());
-    ASSERT_EQ(Caption("lblHov_Cards"), "AKs");
-  }
 };
 
 TEST_P(GuestPanel, GoesWithTheKeyboardAndDoesNotComeBackByItself) {
@@ -233,6 +233,32 @@ INSTANTIATE_TEST_SUITE_P(
                                 ASSERT_TRUE(QTest::qWaitForWindowActive(stage.Dialogs.LoadedManager()));
                               }}),
     CaseName<LeaveCase>);
+
+TEST_F(HoverInWindow, TheMouseOnTheBareScreenClosesAPanelOfTheKeyboards) {
+  ShowGridOf(sample::CallState());
+  OpenByKey();
+  MoveOffTheGrid();
+  EXPECT_FALSE(PanelShows());
+  Press(Qt::Key_Right);
+  EXPECT_TRUE(PanelShows()) << "the next key opens one again";
+}
+
+TEST_F(HoverInWindow, APanelOfTheKeyboardsIsNotThereInARunNorAfterIt) {
+  for (const bool byKey : {true, false}) {
+    ShowGridOf(sample::CallState());
+    OpenByKey();
+    DuringRun("50%", [this] { EXPECT_TRUE(Get("frameHover").isHidden()); });
+    if (byKey) {
+      Press(Qt::Key_3, Qt::ControlModifier);
+      Press(Qt::Key_Return, Qt::ControlModifier);
+    } else {
+      Open(kEquityNav);
+      Click("cmdPreflopEV", 2);
+    }
+    EXPECT_EQ(Screen(), "ALL IN Grid");
+    EXPECT_FALSE(PanelShows()) << byKey;
+  }
+}
 
 TEST_F(HoverInWindow, NoTextOfARealRunIsCutOff) {
   RunRaise("1234567.89", "345678.91", "4567891.23", "Everything", "Tight");

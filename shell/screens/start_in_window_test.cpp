@@ -1,5 +1,8 @@
 #include <QGuiApplication>
+#include <QIcon>
+#include <QMessageBox>
 #include <QScreen>
+#include <initializer_list>
 
 #include "testing/main_stage.h"
 
@@ -90,6 +93,18 @@ TEST_F(StartInWindow, ShowsTheWindowBeforeItLooksForUpgrades) {
   };
   Start();
   EXPECT_EQ(Web.Asked.size(), 2U);
+}
+
+TEST_F(StartInWindow, HasTheProgramsIconOnEveryWindow) {
+  Start();
+  const QImage icon = QIcon(QStringLiteral(":/artwork/icon.svg")).pixmap(64).toImage();
+  ASSERT_FALSE(icon.isNull());
+  Dialogs.ShowManager();
+  Dialogs.ShowNewRange();
+  const QMessageBox box(&Form);
+  for (const QWidget* window :
+       std::initializer_list<const QWidget*>{&Form, Dialogs.LoadedManager(), Dialogs.LoadedNewRange(), &box})
+    EXPECT_EQ(window->windowIcon().pixmap(64).toImage(), icon) << qPrintable(window->windowTitle());
 }
 
 TEST_F(StartInWindow, ComesUpInTheStoredPlace) {

@@ -91,6 +91,15 @@ TEST_F(ZoomInWindow, StartsWithOneThatFitsTheScreen) {
   }
 }
 
+TEST_F(ZoomInWindow, StartsWithTheTitleBarOnTheScreenWhereTheWindowIsLarger) {
+  WriteSettings("[View]\r\nZoom=300\r\n");
+  Start();
+  ASSERT_GT(Form.width(), Form.screen()->availableGeometry().width());
+  EXPECT_EQ(Form.frameGeometry().topLeft(), QPoint(0, 0));
+  Dialogs.ShowManager();
+  EXPECT_EQ(Dialogs.LoadedManager()->frameGeometry().topLeft(), QPoint(0, 0));
+}
+
 TEST_F(ZoomInWindow, BringsTheTitleBarOnToTheScreen) {
   Start();
   Form.move(300, 500);
