@@ -232,7 +232,9 @@ class Batch::Reader {
       if (!values_[key]) return Fail(QuotedKey(key) + " is missing");
       std::string text = *values_[key];
       if (text.starts_with('=')) {
-        text = EvalExpression(text);
+        const auto sum = Attempt([&text] { return EvalExpression(text); });
+        if (!sum) return Fail(QuotedKey(key) + ": the sum is beyond all numbers");
+        text = *sum;
         if (!IsNumericText(text)) return Fail(Joined({QuotedKey(key), ": ", text}));
       }
       if (const auto comma = CommaWarning(kKeys[key].Name, text)) warning += (warning.empty() ? "" : " ") + *comma;

@@ -264,7 +264,7 @@ std::vector<RefusedCase> RefusedLines() {
       {"NoRange", R"({"id":-1,"mode":"equity"})", "-1", "\"range\" or \"hands\" is missing"},
       {"BadSum", with(R"(,"call":"=1 + 2")"), "1", "\"call\": Only addition (+) and subtract (-) are supported"},
       {"SumTooLarge", with(R"(,"call":"=)" + std::string(310, '9') + "+" + std::string(310, '9') + "\""), "1",
-       "Run-time error '6': Overflow"},
+       "\"call\": the sum is beyond all numbers"},
       {"CallAboveThePot", with(R"(,"call":4)"), "1", "Pot Size Error: The pot size must be greater than the amount"},
       {"NoNumber", with(R"(,"call":"1x")"), "1", "Call Size Error: The call size contains non-numeric characters"},
       {"ValueBeyondAllNumbers",
