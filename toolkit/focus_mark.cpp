@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <algorithm>
 #include <array>
 
@@ -28,6 +29,12 @@ bool IsMarkedByItsForm(const QWidget& control) {
 const QWidget& PlaceOf(const QWidget& control) {
   const auto* ours = qobject_cast<const Control*>(&control);
   return ours == nullptr ? control : ours->MarkedPlace();
+}
+
+// A text without a frame has a margin, and the mark has room there.
+bool IsMarkedInside(const QWidget& control) {
+  const auto* text = qobject_cast<const QPlainTextEdit*>(&control);
+  return text != nullptr && text->frameShape() == QFrame::NoFrame;
 }
 
 bool ChangesItsPlace(const QEvent& event) {
@@ -97,7 +104,7 @@ void FocusMark::Reach(QWidget& control, Qt::FocusReason reason) {
 
 void FocusMark::Place() {
   const QWidget& place = PlaceOf(*control_);
-  const int around = LinePixels(kDarkLine) + LinePixels(kPaleLine);
+  const int around = IsMarkedInside(place) ? 0 : LinePixels(kDarkLine) + LinePixels(kPaleLine);
   setGeometry(PlaceInWindow(place).adjusted(-around, -around, around, around).intersected(window_.rect()));
   raise();
   show();

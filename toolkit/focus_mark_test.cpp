@@ -11,8 +11,10 @@
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
+#include "toolkit/placement.h"
 #include "toolkit/shape.h"
 #include "toolkit/text_box.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -212,6 +214,25 @@ TEST_F(FocusMarkTest, StaysInTheWindow) {
   picture.setGeometry(297, 60, 100, 30);
   picture.setFocus(Qt::TabFocusReason);
   EXPECT_EQ(mark.geometry(), QRect(294, 57, 106, 36));
+}
+
+TEST_F(FocusMarkTest, LiesInTheMarginOfATextWithoutAFrame) {
+  memo.setFrameShape(QFrame::NoFrame);
+  memo.setReadOnly(true);
+  memo.setPlainText(QStringLiteral("Pot Size: 150"));
+  for (const double scale : {0.75, 1.0, 1.5, 3.0}) {
+    ShowAtScale(scale);
+    form.setFocus();
+    memo.document()->setDocumentMargin(LinePixels(4));
+    const int margin = LinePixels(4);
+    const QRect text = memo.geometry().adjusted(margin, margin, -margin, -margin);
+    const QImage before = Look();
+    memo.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(mark.geometry(), memo.geometry()) << scale;
+    EXPECT_EQ(Look().copy(text), before.copy(text)) << "not through its letters at " << scale;
+    EXPECT_NE(Look(), before) << scale;
+  }
+  ShowAtScale(1);
 }
 
 TEST_F(FocusMarkTest, GoesRoundAWholeCell) {
