@@ -15,6 +15,21 @@ target_compile_definitions(quillon_flags INTERFACE
 # Results must agree to the last digit wherever they are computed: no fused multiply-add, no reordering.
 target_compile_options(quillon_flags INTERFACE -ffp-contract=off)
 
+# What is shipped is hardened, and the same wherever it is built. Tests are not optimised, which FORTIFY needs.
+set(hardened $<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLON_IS_TEST>>>>)
+target_compile_options(quillon_flags INTERFACE
+  $<${hardened}:-U_FORTIFY_SOURCE>
+  $<${hardened}:-D_FORTIFY_SOURCE=3>
+  $<${hardened}:-fPIE>
+  $<${hardened}:-fstack-protector-strong>
+  $<${hardened}:-fstack-clash-protection>
+  $<${hardened}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64)$")
+  target_compile_options(quillon_flags INTERFACE $<${hardened}:-fcf-protection=full>)
+endif()
+target_link_options(quillon_flags INTERFACE
+  $<${hardened}:-pie> $<${hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>)
+
 if(QUILLON_SANITIZE)
   target_compile_options(quillon_flags INTERFACE
     -fsanitize=${QUILLON_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

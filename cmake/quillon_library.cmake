@@ -52,6 +52,7 @@ function(quillon_test NAME)
   target_compile_definitions(${NAME} PRIVATE ${ARG_DEFINITIONS})
   # Tests are compiled more often than they are waited for. What they test keeps its own level.
   target_compile_options(${NAME} PRIVATE -O0)
+  set_target_properties(${NAME} PROPERTIES QUILLON_IS_TEST ON)
   if(ARG_PROGRAMS)
     add_dependencies(${NAME} ${ARG_PROGRAMS})
   endif()

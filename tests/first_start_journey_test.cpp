@@ -53,6 +53,13 @@ TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFoldersAndShowsTheAboutScr
   EXPECT_EQ(StoredPixels(Session().Program(), "Top"), corner.y());
 }
 
+TEST_F(StartJourney, WindowIsKnownToDesktopsByTheNameOfTheMenuEntry) {
+  StartProgram();
+  const auto properties = Session().StartBeside("/usr/bin/xprop", {"-id", Main().Id, "WM_CLASS"});
+  Session().WaitUntil("xprop has ended", [&] { return properties->Status().has_value(); });
+  EXPECT_EQ(properties->Output(), "WM_CLASS(STRING) = \"quillon\", \"example.quillon.Quillon\"\n");
+}
+
 TEST_F(StartJourney, InstalledProgramKeepsEverythingInTheUsersFolder) {
   const fs::path installed = Session().Program().Path;
   const fs::path folder = installed.parent_path() / ".local" / "share" / "Quillon";

@@ -1,6 +1,7 @@
 #include "toolkit/accessible_control.h"
 
 #include <QAbstractItemView>
+#include <QAccessibleObject>
 #include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,12 +12,15 @@
 #include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <string>
 #include <utility>
 
+#include "support/message_boxes.h"
 #include "toolkit/application.h"
 #include "toolkit/frame.h"
 #include "toolkit/picture.h"
 #include "toolkit/shape.h"
+#include "toolkit/text.h"
 
 namespace quillon {
 namespace {
@@ -204,7 +208,16 @@ class AccessibleButton : public QAccessibleWidget {
   QString action_;
 };
 
+// Its name as people say it; Application::applicationName is for desktops.
+class AccessibleProgram final : public QAccessibleApplication {
+ public:
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? ToQt(std::string(kApplicationTitle)) : QAccessibleApplication::text(kind);
+  }
+};
+
 QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
+  if (object == QCoreApplication::instance()) return new AccessibleProgram;
   if (auto* control = qobject_cast<Control*>(object)) return new AccessibleControl(control);
   if (auto* box = qobject_cast<QCheckBox*>(object)) {
     return new AccessibleButton(box, QAccessible::CheckBox, QAccessibleActionInterface::toggleAction());

@@ -81,7 +81,9 @@ std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
 }
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-  setApplicationName(QStringLiteral("Quillon"));
+  // X11 calls the class of its windows by the application's name, and Wayland by that of the desktop file.
+  setApplicationName(QStringLiteral(QUILLON_APPLICATION_ID));
+  setDesktopFileName(QStringLiteral(QUILLON_APPLICATION_ID));
   // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
   LoadFonts();

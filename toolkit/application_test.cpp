@@ -1,5 +1,6 @@
 #include "toolkit/application.h"
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QStyle>
 #include <QTest>
@@ -178,7 +179,12 @@ TEST(Application, LooksTheSameOnEveryDesktop) {
   EXPECT_NE(qobject_cast<LightStyle*>(QApplication::style()), nullptr);
   EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
   EXPECT_EQ(QApplication::palette().color(QPalette::Text), QColor(Qt::black));
-  EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Quillon"));
+}
+
+TEST(Application, IsOneToDesktopsAndHasAnotherNameForPeople) {
+  EXPECT_EQ(QApplication::applicationName(), QStringLiteral("example.quillon.Quillon"));
+  EXPECT_EQ(QApplication::desktopFileName(), QApplication::applicationName());
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(qApp)->text(QAccessible::Name), QStringLiteral("Quillon"));
 }
 
 }  // namespace

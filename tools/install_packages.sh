@@ -7,6 +7,7 @@
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh pages    what tools/check_pages.sh needs on top of ./check
+#   tools/install_packages.sh package  what ./package needs: what ./run needs, and what packages are made with
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
 #
@@ -26,12 +27,17 @@ check+=(parallel)
 check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)
 # Shells that complete the companion's command line, and what reads its manual page.
 check+=(bash zsh fish groff-base)
+# What reads the menu entry and the description for software centres.
+check+=(desktop-file-utils appstream)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 coverage=("${fuzz[@]}" llvm-14)
 pages=(chromium)
 screens=(optipng)
 reliability=(valgrind python3)
+# Debian packages and the portable archive: what computes dependencies and looks for faults, draws the icon, and sets
+# where libraries are looked for.
+package=(dpkg-dev lintian librsvg2-bin qt6-wayland patchelf xz-utils binutils)
 
 case "${1:-}" in
   run) wanted=("${run[@]}") ;;
@@ -40,10 +46,11 @@ case "${1:-}" in
   fuzz) wanted=("${check[@]}" "${fuzz[@]}") ;;
   coverage) wanted=("${check[@]}" "${coverage[@]}") ;;
   reliability) wanted=("${check[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
+  package) wanted=("${run[@]}" "${package[@]}") ;;
   pages) wanted=("${check[@]}" "${pages[@]}") ;;
   screens) wanted=("${check[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 run|check|lint|fuzz|coverage|pages|screens|reliability" >&2
+    echo "Usage: $0 run|check|lint|fuzz|coverage|pages|screens|package|reliability" >&2
     exit 2
     ;;
 esac

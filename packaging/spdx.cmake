@@ -1,0 +1,83 @@
+# quillon_write_spdx(FILE VERSION PACKAGES...): a bill of materials in SPDX 2.3 (JSON) of a portable folder: the program,
+# what is compiled into it, and the Debian packages whose libraries it carries, with the licence of each from
+# bundled_licences.cmake. Of SOURCE_DATE_EPOCH is the time in it, so that two makings are the same.
+
+# Appends a package to the caller's `packages_json` and `relations_json`.
+function(quillon_append_spdx NAME VERSION LICENCE RELATION URL)
+  string(REGEX REPLACE "[^A-Za-z0-9.-]" "-" id "SPDXRef-${NAME}")
+  set(reference "")
+  if(NOT URL STREQUAL "")
+    set(reference ",
+      \"externalRefs\": [
+        {\"referenceCategory\": \"PACKAGE-MANAGER\", \"referenceType\": \"purl\", \"referenceLocator\": \"${URL}\"}
+      ]")
+  endif()
+  list(APPEND packages_json "    {
+      \"SPDXID\": \"${id}\",
+      \"name\": \"${NAME}\",
+      \"versionInfo\": \"${VERSION}\",
+      \"downloadLocation\": \"NOASSERTION\",
+      \"filesAnalyzed\": false,
+      \"licenseConcluded\": \"${LICENCE}\",
+      \"licenseDeclared\": \"${LICENCE}\",
+      \"copyrightText\": \"NOASSERTION\"${reference}
+    }")
+  string(REPLACE " " ";" relation "${RELATION} ${id}")
+  list(GET relation 0 from)
+  list(GET relation 1 kind)
+  list(APPEND relations_json
+    "    {\"spdxElementId\": \"${from}\", \"relationshipType\": \"${kind}\", \"relatedSpdxElement\": \"${id}\"}")
+  set(packages_json "${packages_json}" PARENT_SCOPE)
+  set(relations_json "${relations_json}" PARENT_SCOPE)
+endfunction()
+
+function(quillon_write_spdx FILE VERSION)
+  set(packages_json "")
+  set(relations_json "")
+  quillon_append_spdx(quillon ${VERSION} MIT "SPDXRef-DOCUMENT DESCRIBES" "")
+  quillon_append_spdx(cpp-httplib 0.18.7 MIT "SPDXRef-quillon CONTAINS" "")
+  foreach(compiled_in fonts-liberation2=OFL-1.1 fonts-dejavu-core=Bitstream-Vera fonts-dejavu-extra=Bitstream-Vera
+      libcli11-dev=BSD-3-Clause nlohmann-json3-dev=MIT)
+    string(REPLACE "=" ";" compiled_in ${compiled_in})
+    list(GET compiled_in 0 package)
+    list(GET compiled_in 1 licence)
+    quillon_debian_version(${package} version)
+    quillon_append_spdx(${package} ${version} ${licence} "SPDXRef-quillon CONTAINS" "pkg:deb/debian/${package}@${version}")
+  endforeach()
+  foreach(package IN LISTS ARGN)
+    if(NOT DEFINED licence_of_${package})
+      message(FATAL_ERROR "bundled_licences.cmake has no licence of ${package}")
+    endif()
+    quillon_debian_version(${package} version)
+    quillon_append_spdx(${package} ${version} "${licence_of_${package}}" "SPDXRef-quillon DEPENDS_ON"
+      "pkg:deb/debian/${package}@${version}")
+  endforeach()
+  list(JOIN packages_json ",\n" packages_json)
+  list(JOIN relations_json ",\n" relations_json)
+  string(TIMESTAMP now "%Y-%m-%dT%H:%M:%SZ" UTC)
+  file(WRITE "${FILE}" "{
+  \"spdxVersion\": \"SPDX-2.3\",
+  \"dataLicense\": \"CC0-1.0\",
+  \"SPDXID\": \"SPDXRef-DOCUMENT\",
+  \"name\": \"Quillon-${VERSION}-linux-x86_64\",
+  \"documentNamespace\": \"https://www.quillon.example/quillon/spdx/${VERSION}\",
+  \"creationInfo\": {\"created\": \"${now}\", \"creators\": [\"Organization: The Quillon developers\"]},
+  \"hasExtractedLicensingInfos\": [
+    {\"licenseId\": \"LicenseRef-public-domain\", \"extractedText\": \"In the public domain.\"}
+  ],
+  \"packages\": [
+${packages_json}
+  ],
+  \"relationships\": [
+${relations_json}
+  ]
+}
+")
+endfunction()
+
+# The version of an installed Debian package.
+function(quillon_debian_version PACKAGE RESULT)
+  execute_process(COMMAND dpkg-query --show --showformat=\${Version} ${PACKAGE}
+    OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
+  set(${RESULT} ${version} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,81 @@
+#!/usr/bin/env bash
+# Reads the ELF files of packages and fails where a program of ours is not hardened, where a file looks for libraries
+# outside the package, or where the portable archive needs what neither it nor its host has.
+#
+#   tools/check_elf.sh FILE...    Debian packages and portable archives
+set -euo pipefail
+
+host=$(grep '^[a-z]' "$(dirname "${BASH_SOURCE[0]}")/../packaging/host_libraries.txt")
+
+failures=0
+fail() {
+  echo "$1" >&2
+  failures=$((failures + 1))
+}
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+# Each that is not there is told of: check_hardening NAME FILE
+check_hardening() {
+  local name=$1 file=$2
+  # Kept as texts: a search that ends at its first find would break the pipe to it.
+  local header segments dynamic symbols code
+  header=$(readelf -Wh "$file")
+  segments=$(readelf -Wl "$file")
+  dynamic=$(readelf -Wd "$file")
+  symbols=$(readelf -W --dyn-syms "$file")
+  code=$(objdump -d --no-show-raw-insn "$file")
+  grep -q 'Type: *DYN' <<<"$header" && grep -q 'Flags:.*PIE' <<<"$dynamic" || fail "$name: not position-independent"
+  grep -q 'GNU_RELRO' <<<"$segments" && grep -q 'BIND_NOW\|Flags:.*NOW' <<<"$dynamic" || fail "$name: no full RELRO"
+  grep -q '__stack_chk_fail' <<<"$symbols" || fail "$name: no stack protector"
+  grep -q '__[a-z]*_chk@' <<<"$symbols" || fail "$name: no FORTIFY"
+  # The library's own objects have a few; in ours every function that may be jumped to begins so.
+  [ "$(grep -c 'endbr64' <<<"$code")" -gt 1000 ] || fail "$name: no control-flow protection"
+}
+
+# For every ELF file: check_file NAME FILE
+check_file() {
+  local name=$1 file=$2 path
+  readelf -Wl "$file" | grep 'GNU_STACK' | grep -q 'RWE' && fail "$name: the stack can be executed"
+  path=$(readelf -Wd "$file" | sed -n 's/.*\(RUNPATH\|RPATH\).*\[\(.*\)\]/\2/p')
+  case ":$path" in
+    : | ':$ORIGIN' | ':$ORIGIN/'*) [[ $path != *:* ]] || fail "$name: looks for libraries in $path" ;;
+    *) fail "$name: looks for libraries in $path" ;;
+  esac
+}
+
+# Every library that a file of the archive needs is in it, or comes from the host: check_needs NAME FILE FOLDER
+check_needs() {
+  local name=$1 file=$2 root=$3 library
+  for library in $(readelf -Wd "$file" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p'); do
+    [ -e "$root/lib/$library" ] || grep -qxF "${library%%.so*}" <<<"$host" || fail "$name: needs $library, which nobody brings"
+  done
+}
+
+count=0
+for package in "$@"; do
+  root=$folder/$(basename "$package")
+  mkdir "$root"
+  case "$package" in
+    *.deb) dpkg-deb -x "$package" "$root" ;;
+    *) tar -xJf "$package" --strip-components=1 -C "$root" ;;
+  esac
+  programs=0
+  while IFS= read -r -d '' file; do
+    [ "$(head -c 4 "$file" | od -An -c | tr -d ' ')" = '177ELF' ] || continue
+    name="$(basename "$package"): ${file#"$root"/}"
+    count=$((count + 1))
+    check_file "$name" "$file"
+    case "$(basename "$file")" in
+      quillon | quillon-cli)
+        programs=$((programs + 1))
+        check_hardening "$name" "$file"
+        ;;
+    esac
+    [[ $package == *.deb ]] || check_needs "$name" "$file" "$root"
+  done < <(find "$root" -type f -print0)
+  [ "$programs" -eq 2 ] || fail "$package: $programs programs instead of 2"
+done
+[ "$failures" -eq 0 ] || exit 1
+echo "$count ELF files checked"
