@@ -8,6 +8,7 @@
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh pages    what tools/check_pages.sh needs on top of ./check
 #   tools/install_packages.sh package  what ./package needs: what ./run needs, and what packages are made with
+#   tools/install_packages.sh bare     what tools/try_packages.sh needs on top of ./check and ./package
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
 #   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
 #
@@ -38,6 +39,8 @@ reliability=(valgrind python3)
 # Debian packages and the portable archive: what computes dependencies and looks for faults, draws the icon, and sets
 # where libraries are looked for.
 package=(dpkg-dev lintian librsvg2-bin qt6-wayland patchelf xz-utils binutils)
+# A bare Debian for the packages to be tried in.
+bare=(debootstrap)
 
 case "${1:-}" in
   run) wanted=("${run[@]}") ;;
@@ -46,11 +49,12 @@ case "${1:-}" in
   fuzz) wanted=("${check[@]}" "${fuzz[@]}") ;;
   coverage) wanted=("${check[@]}" "${coverage[@]}") ;;
   reliability) wanted=("${check[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
+  bare) wanted=("${check[@]}" "${package[@]}" "${bare[@]}") ;;
   package) wanted=("${run[@]}" "${package[@]}") ;;
   pages) wanted=("${check[@]}" "${pages[@]}") ;;
   screens) wanted=("${check[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 run|check|lint|fuzz|coverage|pages|screens|package|reliability" >&2
+    echo "Usage: $0 run|check|lint|fuzz|coverage|pages|screens|package|bare|reliability" >&2
     exit 2
     ;;
 esac
