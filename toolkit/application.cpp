@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "support/run_time_error.h"
 #include "toolkit/accessible_control.h"
@@ -46,6 +47,11 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
       FromQt(heard.NoDisplay.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : heard.NoDisplay);
   std::fputs(("Quillon finds no display for its window: " + reason + "\n").c_str(), stderr);
   std::_Exit(EXIT_FAILURE);
+}
+
+UserAct& Answered() {
+  static UserAct act;
+  return act;
 }
 
 QWidget* WindowOf(const QWidget& control) {
@@ -93,25 +99,30 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
-  const UserAct outer = answered_;
-  answered_ = ActOf(receiver, *event).value_or(outer);
+  const Answering answering(ActOf(receiver, *event).value_or(Answered()));
   try {
-    const bool handled = QApplication::notify(receiver, event);
-    answered_ = outer;
-    return handled;
+    return QApplication::notify(receiver, event);
   } catch (...) {
     EndWithFault(CurrentFaultText());
   }
 }
 
+UserAct AnsweredAct() {
+  return Answered();
+}
+
+Answering::Answering(UserAct act) : outer_(std::exchange(Answered(), std::move(act))) {}
+
+Answering::~Answering() {
+  Answered() = std::move(outer_);
+}
+
 bool AnswersKey() {
-  const auto* application = dynamic_cast<const Application*>(QCoreApplication::instance());
-  return application != nullptr && application->Answered().ByKey;
+  return Answered().ByKey;
 }
 
 QWidget* AskingWindow() {
-  const auto* application = dynamic_cast<const Application*>(QCoreApplication::instance());
-  QWidget* const window = application == nullptr ? nullptr : application->Answered().Window;
+  QWidget* const window = Answered().Window;
   return window != nullptr && window->isVisible() ? window : QApplication::activeWindow();
 }
 

@@ -28,18 +28,29 @@ class Application : public QApplication {
   /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
   bool notify(QObject* receiver, QEvent* event) override;
 
-  [[nodiscard]] const UserAct& Answered() const { return answered_; }
-
  Q_SIGNALS:
   void Announced(QWidget* speaker, const QString& text);  // to a screen reader ("toolkit/accessible_control.h")
-
- private:
-  UserAct answered_;  // the innermost that is being answered
 };
 
-/// Whether what the program does at this moment answers a key. A long answer, such as a run, stays that of the act that
-/// started it, whatever keys and clicks are answered meanwhile. What a key reaches or opens is to have the focus, and
-/// to show it.
+/// The act that the program answers at this moment; of two, one within the other, the inner one. A long answer, such as
+/// a run, stays that of the act that started it, whatever keys and clicks are answered meanwhile.
+[[nodiscard]] UserAct AnsweredAct();
+
+/// Makes what is done while it lives the answer to that act: each event has one, and so has news that comes later.
+class Answering {
+ public:
+  explicit Answering(UserAct act);
+  ~Answering();
+  Answering(const Answering&) = delete;
+  Answering& operator=(const Answering&) = delete;
+  Answering(Answering&&) = delete;
+  Answering& operator=(Answering&&) = delete;
+
+ private:
+  UserAct outer_;
+};
+
+/// Whether it is a key that is being answered. What a key reaches or opens is to have the focus, and to show it.
 [[nodiscard]] bool AnswersKey();
 
 /// The window that a box which comes up at this moment belongs to: the one whose user is being answered, or else the

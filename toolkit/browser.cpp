@@ -6,6 +6,8 @@
 #include <unistd.h>
 #include <utility>
 
+#include "toolkit/application.h"
+
 namespace quillon {
 namespace {
 
@@ -24,8 +26,9 @@ void OpenInBrowser(const QUrl& address, std::function<void()> missing) {
 
   QElapsedTimer clock;
   clock.start();
-  const auto end = [opener, clock, missing = std::move(missing)](bool opened) {
+  const auto end = [opener, clock, asked = AnsweredAct(), missing = std::move(missing)](bool opened) {
     opener->deleteLater();
+    const Answering answering(asked);
     if (!opened && clock.elapsed() < kLongEnoughForABrowser) missing();
   };
   QObject::connect(opener, &QProcess::finished, opener, [end](int status) { end(status == 0); });

@@ -8,7 +8,7 @@
 namespace quillon {
 
 /// Shows the address in the browser, and returns at once. Where there is no browser, `missing` is called from the event
-/// loop soon after.
+/// loop soon after, in answer to the same act of the user's ("toolkit/application.h").
 void OpenInBrowser(const QUrl& address, std::function<void()> missing);
 
 }  // namespace quillon

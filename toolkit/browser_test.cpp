@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "testing/fake_opener.h"
+#include "toolkit/application.h"
+#include "toolkit/label.h"
 
 namespace quillon {
 namespace {
@@ -33,6 +35,25 @@ TEST(Browser, IsMissedWhereNothingOpensAddresses) {
   EXPECT_TRUE(QTest::qWaitFor([&missed] { return missed > 0; }));
   EXPECT_EQ(missed, 1);
   qputenv("PATH", path);
+}
+
+TEST(Browser, IsMissedByTheWindowThatAskedForIt) {
+  const FakeOpener opener(FakeOpener::kNoneFound);
+  QWidget asker;
+  Label link(&asker);
+  link.SetUse(ControlUse::kLink);
+  QWidget other;
+  asker.show();
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  const QWidget* missedBy = nullptr;
+  QObject::connect(&link, &Control::Clicked, &asker, [&missedBy] {
+    OpenInBrowser(QUrl(QStringLiteral("http://www.quillon.example/")), [&missedBy] { missedBy = AskingWindow(); });
+  });
+  QTest::keyClick(&link, Qt::Key_Return);
+  EXPECT_NE(opener.Opened(), "");
+  EXPECT_EQ(missedBy, &asker);
 }
 
 }  // namespace

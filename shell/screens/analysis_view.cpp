@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "analysis/analysis_driver.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/placement.h"
 #include "toolkit/text.h"
@@ -16,7 +17,13 @@ std::string AnalysisView::SelectedRange(std::int16_t index) const {
   return parts_.Choosers.List(index).CurrentText();
 }
 
+void AnalysisView::Stop(AnalysisState& state) {
+  StopAnalysis(state);
+  stop_ = AnsweredAct();
+}
+
 void AnalysisView::ShowFrame(std::string_view name) {
+  const Answering answering(std::exchange(stop_, {}).value_or(AnsweredAct()));
   parts_.Screens.ShowFrame(name);
 }
 

@@ -3,8 +3,10 @@
 // The main window as an analysis sees it.
 
 #include <functional>
+#include <optional>
 #include <utility>
 
+#include "analysis/analysis_state.h"
 #include "analysis/analysis_window.h"
 #include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_choosers.h"
@@ -12,6 +14,7 @@
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/results_view.h"
+#include "toolkit/application.h"
 
 namespace quillon {
 
@@ -30,6 +33,9 @@ class AnalysisView : public AnalysisWindow {
   };
 
   explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
+
+  /// Stops a run. The screen that comes up then answers the act of this moment, not the one that started the run.
+  void Stop(AnalysisState& state);
 
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
   [[nodiscard]] std::string SelectedRange(std::int16_t index) const override;
@@ -50,6 +56,7 @@ class AnalysisView : public AnalysisWindow {
 
  private:
   Parts parts_;
+  std::optional<UserAct> stop_;  // until it has been answered
 };
 
 }  // namespace quillon

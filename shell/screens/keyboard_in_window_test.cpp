@@ -395,6 +395,19 @@ TEST_F(KeyboardInWindow, WhatStartedARunDecidesOnTheFocusWhateverIsPressedMeanwh
   EXPECT_TRUE(Form.findChild<FocusMark*>()->isVisible());
 }
 
+TEST_F(KeyboardInWindow, WhatStopsARunDecidesOnTheFocusWhateverStartedIt) {
+  EnterEquity("Tight");
+  DuringRun("50%", [this] { Press(Qt::Key_Escape); });
+  Click("cmdPreflopEV", 2);
+  EXPECT_EQ(Screen(), "Equity Only");
+  EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3));
+
+  DuringRun("50%", [this] { Click("lblStopCalc"); });
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Screen(), "Equity Only");
+  EXPECT_EQ(Form.focusWidget(), &Form);
+}
+
 TEST_F(KeyboardInWindow, TheHoverPanelLiesInFrontOfTheMark) {
   RunEquity("Tight");
   Focus("lblCards", 14);

@@ -106,7 +106,7 @@ MainForm::MainForm(Surroundings surroundings)
                  .Boxes = around_.Messages,
                  .Marks = around_.Marks}),
       zoom_(*this, around_.Folder),
-      stop_(BindKey(*this, Qt::Key_Escape, [this] { StopAnalysis(state_); })) {
+      stop_(BindKey(*this, Qt::Key_Escape, [this] { analysis_.Stop(state_); })) {
   // It covers the cells until a run brings them up one by one.
   controls_.PictureAt("imgGridBack").raise();
   focusMark_.StayBehind(controls_.FrameAt("frameHover"));
@@ -210,7 +210,7 @@ void MainForm::BindScreens() {
     OnClick("lblWhatsThis", i,
             [this, i] { ShowFieldHelp(FromQt(controls_.LabelAt("lblWhatsThis", i).toolTip()), around_.Messages); });
   }
-  OnClick("lblStopCalc", kNoIndex, [this] { StopAnalysis(state_); });
+  OnClick("lblStopCalc", kNoIndex, [this] { analysis_.Stop(state_); });
 }
 
 void MainForm::BindGrid() {
