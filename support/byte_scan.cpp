@@ -180,14 +180,6 @@ QUILLON_PART_OF_SCAN std::size_t Find(std::string_view text, std::string_view wa
   return place < kBlock ? lastBlock + place : std::string_view::npos;
 }
 
-std::size_t BaselineNthByte(std::string_view text, char byte, std::size_t n) {
-  return NthByte<Baseline>(text, byte, n);
-}
-
-std::size_t BaselineFind(std::string_view text, std::string_view wanted) {
-  return Find<Baseline>(text, wanted);
-}
-
 #ifdef QUILLON_CHOOSES_PROCESSOR
 [[gnu::target("avx2")]] std::size_t Avx2NthByte(std::string_view text, char byte, std::size_t n) {
   return NthByte<Avx2>(text, byte, n);
@@ -208,15 +200,23 @@ bool HasAvx2() {
 
 }  // namespace
 
+std::size_t FindNthByteInBaseline(std::string_view text, char byte, std::size_t n) {
+  return NthByte<Baseline>(text, byte, n);
+}
+
+std::size_t FindTextInBaseline(std::string_view text, std::string_view wanted) {
+  return Find<Baseline>(text, wanted);
+}
+
 #ifdef QUILLON_CHOOSES_PROCESSOR
 // The loader calls these, by their plain names, before anything else of the program has run.
 extern "C" {
 static NthByteSearch QuillonNthByteSearch() {
-  return HasAvx2() ? Avx2NthByte : BaselineNthByte;
+  return HasAvx2() ? Avx2NthByte : FindNthByteInBaseline;
 }
 
 static TextSearch QuillonTextSearch() {
-  return HasAvx2() ? Avx2Find : BaselineFind;
+  return HasAvx2() ? Avx2Find : FindTextInBaseline;
 }
 }
 
@@ -225,11 +225,11 @@ static TextSearch QuillonTextSearch() {
 [[gnu::ifunc("QuillonTextSearch")]] std::size_t FindText(std::string_view text, std::string_view wanted);
 #else
 std::size_t FindNthByte(std::string_view text, char byte, std::size_t n) {
-  return BaselineNthByte(text, byte, n);
+  return FindNthByteInBaseline(text, byte, n);
 }
 
 std::size_t FindText(std::string_view text, std::string_view wanted) {
-  return BaselineFind(text, wanted);
+  return FindTextInBaseline(text, wanted);
 }
 #endif
 

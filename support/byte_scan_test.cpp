@@ -63,88 +63,106 @@ class GuardedPage {
   void* all_ = ::mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
 };
 
-TEST(Searches, ReadNoByteBesideTheText) {
+// The searches that the program chose when it started, and those for a processor without AVX2.
+struct SearchPair {
+  const char* Name;
+  std::size_t (*NthByte)(std::string_view text, char byte, std::size_t n);
+  std::size_t (*Text)(std::string_view text, std::string_view wanted);
+};
+
+class Searches : public testing::TestWithParam<SearchPair> {};
+class NthByteSearch : public Searches {};
+class TextSearch : public Searches {};
+
+constexpr auto kName = [](const auto& searches) { return std::string(searches.param.Name); };
+const auto kSearches = testing::Values(SearchPair{"Chosen", FindNthByte, FindText},
+                                       SearchPair{"Baseline", FindNthByteInBaseline, FindTextInBaseline});
+INSTANTIATE_TEST_SUITE_P(Of, Searches, kSearches, kName);
+INSTANTIATE_TEST_SUITE_P(Of, NthByteSearch, kSearches, kName);
+INSTANTIATE_TEST_SUITE_P(Of, TextSearch, kSearches, kName);
+
+TEST_P(Searches, ReadNoByteBesideTheText) {
   const GuardedPage page;
   for (std::size_t length = 0; length <= kLongest; ++length) {
     for (const std::string_view text : {page.FirstBytes(length), page.LastBytes(length)}) {
-      ASSERT_EQ(FindNthByte(text, ' ', 0), kNowhere) << "length " << length;
+      ASSERT_EQ(GetParam().NthByte(text, ' ', 0), kNowhere) << "length " << length;
       for (const std::string_view wanted : {"y", "xy", "xxy", "xyx", "xxxy"})
-        ASSERT_EQ(FindText(text, wanted), kNowhere) << wanted << ", length " << length;
+        ASSERT_EQ(GetParam().Text(text, wanted), kNowhere) << wanted << ", length " << length;
     }
   }
 }
 
-TEST(FindNthByte, EqualsAPlainLoopAtEveryLength) {
+TEST_P(NthByteSearch, EqualsAPlainLoopAtEveryLength) {
   RandomTexts texts("ab ");
   for (std::size_t length = 0; length <= kLongest; ++length) {
     const std::string text = texts.Make(length);
     for (std::size_t n = 0; n <= length + 1; ++n) {
-      ASSERT_EQ(FindNthByte(text, ' ', n), plain::NthByte(text, ' ', n)) << "length " << length << ", n " << n;
+      ASSERT_EQ(GetParam().NthByte(text, ' ', n), plain::NthByte(text, ' ', n)) << "length " << length << ", n " << n;
     }
   }
 }
 
-TEST(FindNthByte, EqualsAPlainLoopForEveryByte) {
+TEST_P(NthByteSearch, EqualsAPlainLoopForEveryByte) {
   std::string text;
   for (int i = 0; i < 3 * 256; ++i)
     text += static_cast<char>(i % 256);
   for (int i = 0; i < 256; ++i) {
     const char byte = static_cast<char>(i);
     for (std::size_t n = 0; n < 3; ++n)
-      ASSERT_EQ(FindNthByte(text, byte, n), static_cast<std::size_t>(i) + n * 256) << "byte " << i;
-    ASSERT_EQ(FindNthByte(text, byte, 3), kNowhere) << "byte " << i;
+      ASSERT_EQ(GetParam().NthByte(text, byte, n), static_cast<std::size_t>(i) + n * 256) << "byte " << i;
+    ASSERT_EQ(GetParam().NthByte(text, byte, 3), kNowhere) << "byte " << i;
   }
 }
 
-TEST(FindNthByte, LoneByteIsFoundAtEveryPlaceOfEveryLength) {
+TEST_P(NthByteSearch, LoneByteIsFoundAtEveryPlaceOfEveryLength) {
   for (std::size_t length = 1; length <= kLongest; ++length) {
     std::string text(length, 'x');
     for (std::size_t place = 0; place < length; ++place) {
       text[place] = ' ';
-      ASSERT_EQ(FindNthByte(text, ' ', 0), place) << "length " << length;
-      ASSERT_EQ(FindNthByte(text, ' ', 1), kNowhere) << "length " << length << ", place " << place;
+      ASSERT_EQ(GetParam().NthByte(text, ' ', 0), place) << "length " << length;
+      ASSERT_EQ(GetParam().NthByte(text, ' ', 1), kNowhere) << "length " << length << ", place " << place;
       text[place] = 'x';
     }
   }
 }
 
-TEST(FindNthByte, TextOfNothingElseHasOccurrenceNAtN) {
+TEST_P(NthByteSearch, TextOfNothingElseHasOccurrenceNAtN) {
   for (const std::size_t length : kBlockEdges) {
     const std::string text(length, ' ');
     for (std::size_t n = 0; n < length; ++n)
-      ASSERT_EQ(FindNthByte(text, ' ', n), n) << "length " << length;
-    EXPECT_EQ(FindNthByte(text, ' ', length), kNowhere) << "length " << length;
-    EXPECT_EQ(FindNthByte(text, ' ', std::numeric_limits<std::size_t>::max()), kNowhere) << "length " << length;
+      ASSERT_EQ(GetParam().NthByte(text, ' ', n), n) << "length " << length;
+    EXPECT_EQ(GetParam().NthByte(text, ' ', length), kNowhere) << "length " << length;
+    EXPECT_EQ(GetParam().NthByte(text, ' ', std::numeric_limits<std::size_t>::max()), kNowhere) << "length " << length;
   }
 }
 
-TEST(FindNthByte, NothingBesideTheTextIsLookedAt) {
+TEST_P(NthByteSearch, NothingBesideTheTextIsLookedAt) {
   const std::string around(kLongest, ' ');
   for (const std::size_t length : kBlockEdges) {
     const std::string_view text = std::string_view(around).substr(1, length);
-    EXPECT_EQ(FindNthByte(text, ' ', length), kNowhere) << "length " << length;
+    EXPECT_EQ(GetParam().NthByte(text, ' ', length), kNowhere) << "length " << length;
   }
 }
 
-TEST(FindText, EqualsTheLibrarySearchAtEveryLength) {
+TEST_P(TextSearch, EqualsTheLibrarySearchAtEveryLength) {
   RandomTexts texts("aab");  // few letters: many near misses and overlaps
   RandomTexts wantedTexts("ab");
   for (std::size_t length = 0; length <= kLongest; ++length) {
     const std::string text = texts.Make(length);
     for (std::size_t wantedLength = 0; wantedLength <= 12; ++wantedLength) {
       const std::string wanted = wantedTexts.Make(wantedLength);
-      ASSERT_EQ(FindText(text, wanted), std::string_view(text).find(wanted)) << text << " / " << wanted;
+      ASSERT_EQ(GetParam().Text(text, wanted), std::string_view(text).find(wanted)) << text << " / " << wanted;
     }
   }
 }
 
-TEST(FindText, LoneOccurrenceIsFoundAtEveryPlaceOfEveryLength) {
+TEST_P(TextSearch, LoneOccurrenceIsFoundAtEveryPlaceOfEveryLength) {
   for (const std::string_view wanted : {"a", "ab", "abc", "aab"}) {
     for (std::size_t length = wanted.size(); length <= kLongest; ++length) {
       std::string text(length, 'x');
       for (std::size_t place = 0; place + wanted.size() <= length; ++place) {
         text.replace(place, wanted.size(), wanted);
-        ASSERT_EQ(FindText(text, wanted), place) << wanted << ", length " << length;
+        ASSERT_EQ(GetParam().Text(text, wanted), place) << wanted << ", length " << length;
         text.replace(place, wanted.size(), wanted.size(), 'x');
       }
     }
@@ -155,7 +173,7 @@ std::string Xs(std::size_t count) {
   return std::string(count, 'x');
 }
 
-TEST(FindText, IsFoundAtItsPlace) {
+TEST_P(TextSearch, IsFoundAtItsPlace) {
   struct Case {
     const char* rule;
     std::string text;
@@ -175,15 +193,15 @@ TEST(FindText, IsFoundAtItsPlace) {
                          {"case counts", "aks AKS", "AKs", kNowhere},
                          {"a zero byte is a byte", std::string("a\0b", 3), std::string("\0b", 2), 1},
                          {"bytes above 127 are bytes", Xs(130) + "\xFF\xFE\xFF\xFD", "\xFF\xFD", 132}})
-    EXPECT_EQ(FindText(c.text, c.wanted), c.place) << c.rule;
+    EXPECT_EQ(GetParam().Text(c.text, c.wanted), c.place) << c.rule;
 }
 
-TEST(FindText, NothingBesideTheTextIsLookedAt) {
+TEST_P(TextSearch, NothingBesideTheTextIsLookedAt) {
   const std::string around = std::string(kLongest, 'x') + "AKs";
   for (std::size_t cut = 1; cut <= 3; ++cut) {
     for (std::size_t start = 0; start < kLongest; ++start) {
       const std::string_view text = std::string_view(around).substr(start, around.size() - start - cut);
-      ASSERT_EQ(FindText(text, "AKs"), kNowhere) << "start " << start << ", cut " << cut;
+      ASSERT_EQ(GetParam().Text(text, "AKs"), kNowhere) << "start " << start << ", cut " << cut;
     }
   }
 }
