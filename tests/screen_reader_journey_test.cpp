@@ -154,6 +154,16 @@ TEST_F(ScreenReaderJourney, RangesArePaintedInBothDialogsAndTheirSavingIsHeard) 
                       [&] { return Reader().Description(The("combo box", "Select a Range:")) == "Aces"; });
 }
 
+// On screens without a text of several lines, which has parts of Qt's own.
+TEST_F(ScreenReaderJourney, DecorationIsNotHeard) {
+  for (const char* screen : {"Preflop Call", "Preflop Raise", "Equity Only"}) {
+    Press("link", screen);
+    static_cast<void>(The("panel", screen));
+    for (const char* role : {"filler", "image", "icon"})
+      EXPECT_FALSE(Reader().Find(role, "")) << role << " on " << screen;
+  }
+}
+
 TEST_F(ScreenReaderJourney, WhatIsHiddenNeitherSpeaksNorIsPressed) {
   const std::optional<Part> grid = Reader().FindAnywhere("link", "ALL IN Grid");
   ASSERT_TRUE(grid);
