@@ -434,16 +434,17 @@ TEST_F(AnalysisDriver, ARangeFileChangedDuringARunIsNotReadAgain) {
 // A window in which a range's file goes while the run starts, after the check has read it.
 class VanishingRange : public RecordingWindow {
  public:
-  VanishingRange(EnteredSituation entered, const TemporaryProgram& ranges)
-      : RecordingWindow(std::move(entered)), ranges_(ranges) {}
+  VanishingRange(EnteredSituation entered, const TemporaryProgram& ranges, int readings = 1)
+      : RecordingWindow(std::move(entered)), ranges_(ranges), readings_(readings) {}
 
   [[nodiscard]] std::string SelectedRange(std::int16_t index) const override {
-    if (++asked_ == 2) ranges_.Remove("Aces");
+    if (++asked_ == readings_ + 1) ranges_.Remove("Aces");
     return RecordingWindow::SelectedRange(index);
   }
 
  private:
   const TemporaryProgram& ranges_;
+  int readings_;  // of the lists by the check
   mutable int asked_ = 0;
 };
 
@@ -458,16 +459,25 @@ TEST_F(AnalysisDriver, ARangeFileThatVanishesAfterTheCheckIsFatal) {
   EXPECT_EQ(window.Log.back(), "RaiseCell 0");
 }
 
-TEST_F(AnalysisDriver, ARangeFileThatComesBackBeforeTheFirstClassIsReadThenAndKept) {
-  VanishingRange window({"100", "50", "", "Aces", ""}, ranges_);
-  window.OnCall = [this](const std::string& line) {
-    if (line != "ShowFrame Progress") return;
-    EXPECT_EQ(state_.RangeText, "");
-    ranges_.Save("Aces", kAces);
+TEST_F(AnalysisDriver, ARangeFileThatReturnsBeforeTheFirstClassIsReadThenAndKept) {
+  struct Row {
+    std::int16_t button;
+    EnteredSituation entered;
+    int readings;
+    std::string AnalysisState::*text;
   };
-  RunAnalysis(state_, kCallButton, window, ranges_.Folder());
-  EXPECT_EQ(state_.RangeText, kAces);
-  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, {"100", "50", "", "Aces", ""}));
+  for (const Row& row : {Row{kCallButton, {"100", "50", "", "Aces", ""}, 1, &AnalysisState::RangeText},
+                         Row{kRaiseButton, {"15", "5", "100", "Full", "Aces"}, 2, &AnalysisState::CallingRangeText}}) {
+    VanishingRange window(row.entered, ranges_, row.readings);
+    window.OnCall = [&](const std::string& line) {
+      if (line != "ShowFrame Progress") return;
+      EXPECT_EQ(state_.*row.text, "");
+      ranges_.Save("Aces", kAces);
+    };
+    RunAnalysis(state_, row.button, window, ranges_.Folder());
+    EXPECT_EQ(state_.*row.text, kAces);
+    EXPECT_EQ(state_.HandInfo, TableOf(row.button, row.entered));
+  }
 }
 
 TEST_F(AnalysisDriver, AShoveWithoutARangeFileFailsOnTheFirstClass) {

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr auto kLimit = std::chrono::seconds(30);
+constexpr auto kLimit = std::chrono::seconds(60);
 constexpr auto kBetweenQuestions = milliseconds(10);
 constexpr auto kStill = milliseconds(150);
 
