@@ -7,12 +7,12 @@
 #include <span>
 #include <string_view>
 
-#include "ranges/dialogs/shift_watch.h"
 #include "ranges/range_files.h"
 #include "support/input_boxes.h"
 #include "support/message_boxes.h"
 #include "support/twips.h"
 #include "toolkit/form_builder.h"
+#include "toolkit/shift_watch.h"
 
 namespace quillon {
 

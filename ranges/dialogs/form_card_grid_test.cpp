@@ -1,4 +1,4 @@
-#include "ranges/dialogs/form_card_grid.h"
+#include "toolkit/form_card_grid.h"
 
 #include <QAccessible>
 #include <QCheckBox>

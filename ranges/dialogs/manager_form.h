@@ -14,10 +14,10 @@
 #include <string_view>
 
 #include "ranges/dialogs/dialog_window.h"
-#include "ranges/dialogs/form_card_grid.h"
-#include "ranges/dialogs/form_list.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/range_messages.h"
+#include "toolkit/form_card_grid.h"
+#include "toolkit/form_list.h"
 
 namespace quillon {
 

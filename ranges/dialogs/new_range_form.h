@@ -13,8 +13,8 @@
 #include <string>
 
 #include "ranges/dialogs/dialog_window.h"
-#include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/new_range_layout.h"
+#include "toolkit/form_card_grid.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {

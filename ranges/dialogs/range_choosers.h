@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
-#include "ranges/dialogs/form_list.h"
 #include "ranges/range_files.h"
 #include "toolkit/form_builder.h"
+#include "toolkit/form_list.h"
 
 namespace quillon {
 

@@ -8,13 +8,13 @@
 
 #include "analysis/analysis_state.h"
 #include "analysis/analysis_window.h"
-#include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_choosers.h"
 #include "shell/screens/main_layout.h"
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/results_view.h"
 #include "toolkit/application.h"
+#include "toolkit/form_card_grid.h"
 
 namespace quillon {
 

@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "ranges/dialogs/form_card_grid.h"
 #include "results/hover_panel.h"
 #include "shell/screens/main_layout.h"
+#include "toolkit/form_card_grid.h"
 
 namespace quillon {
 

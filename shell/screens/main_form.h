@@ -9,7 +9,6 @@
 #include <functional>
 
 #include "analysis/analysis_state.h"
-#include "ranges/dialogs/form_card_grid.h"
 #include "ranges/dialogs/range_dialogs.h"
 #include "shell/screens/about_view.h"
 #include "shell/screens/analysis_view.h"
@@ -23,6 +22,7 @@
 #include "shell/screens/zoom_view.h"
 #include "shell/web_client.h"
 #include "toolkit/focus_mark.h"
+#include "toolkit/form_card_grid.h"
 
 namespace quillon {
 

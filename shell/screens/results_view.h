@@ -5,9 +5,9 @@
 
 #include <string_view>
 
-#include "ranges/dialogs/form_card_grid.h"
 #include "results/results_grid.h"
 #include "shell/screens/main_layout.h"
+#include "toolkit/form_card_grid.h"
 
 namespace quillon {
 

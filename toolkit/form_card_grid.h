@@ -13,8 +13,8 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/card_grid.h"
-#include "ranges/dialogs/shift_watch.h"
 #include "toolkit/form_builder.h"
+#include "toolkit/shift_watch.h"
 
 namespace quillon {
 

@@ -1,4 +1,4 @@
-#include "ranges/dialogs/form_list.h"
+#include "toolkit/form_list.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,4 +1,4 @@
-#include "ranges/dialogs/shift_watch.h"
+#include "toolkit/shift_watch.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
