@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <stdexcept>
 
 #include "toolkit/colors.h"
 #include "toolkit/comma_lines.h"
@@ -140,11 +139,9 @@ QWidget* BuildControl(QWidget& container, const ControlRow& row, const FontSpec&
 
 FormControls::FormControls(QWidget& form, std::span<const ControlTable> layout) {
   for (const ControlTable& table : layout) {
-    const std::string containerName(table.Container);
-    QWidget* container = containerName.empty() ? &form : Find(containerName);
-    if (container == nullptr) ControlMissing(containerName);
+    QWidget& container = table.Container.empty() ? form : At(std::string(table.Container));
     for (auto row = table.Rows.rbegin(); row != table.Rows.rend(); ++row)
-      Add(BuildControl(*container, *row, table.Font));
+      Add(BuildControl(container, *row, table.Font));
   }
 }
 
@@ -162,10 +159,6 @@ std::int16_t FormControls::CountOf(std::string_view name) const {
   while (Find(ObjectName(name, count)) != nullptr)
     ++count;
   return count;
-}
-
-void ControlMissing(const std::string& objectName) {
-  throw std::logic_error("The form has no control of this kind: " + objectName);
 }
 
 }  // namespace quillon

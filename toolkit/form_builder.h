@@ -31,8 +31,10 @@ class FormControls {
   /// Null for a name that is not there.
   [[nodiscard]] QWidget* Find(const std::string& objectName) const;
 
-  /// The control that a row of the layout has become.
-  [[nodiscard]] QWidget& At(const ControlRow& row) const { return *controls_.at(ObjectName(row.Name, row.Index)); }
+  /// The control of that name, and that which a row of the layout has become. A name that is not there is a fault in
+  /// the program: std::out_of_range.
+  [[nodiscard]] QWidget& At(const std::string& objectName) const { return *controls_.at(objectName); }
+  [[nodiscard]] QWidget& At(const ControlRow& row) const { return At(ObjectName(row.Name, row.Index)); }
 
   /// How many controls there are of that name, counted from index 0 without a gap.
   [[nodiscard]] std::int16_t CountOf(std::string_view name) const;
@@ -40,8 +42,6 @@ class FormControls {
  private:
   std::unordered_map<std::string, QWidget*> controls_;
 };
-
-[[noreturn]] void ControlMissing(const std::string& objectName);
 
 /// The controls of the form that is built from `kLayout`, each as the kind that its row makes.
 template <const auto& kLayout>
@@ -52,13 +52,10 @@ class LayoutControls : public FormControls {
 
   explicit LayoutControls(QWidget& form) : FormControls(form, kLayout) {}
 
-  /// The control of that name. An index that is not there is a fault in the program and ends it.
+  /// The control of that name. An index that is not there is a fault in the program: std::out_of_range.
   template <typename Widget>
   [[nodiscard]] Widget& Get(Key<Widget> key, std::int16_t index = kNoIndex) const {
-    const std::string objectName = ObjectName(key.Name(), index);
-    auto* control = qobject_cast<Widget*>(Find(objectName));
-    if (control == nullptr) ControlMissing(objectName);
-    return *control;
+    return dynamic_cast<Widget&>(At(ObjectName(key.Name(), index)));
   }
 
   [[nodiscard]] Label& LabelAt(Key<Label> key, std::int16_t index = kNoIndex) const { return Get<Label>(key, index); }

@@ -3,9 +3,10 @@
 #include <atomic>
 #include <cerrno>
 #include <fcntl.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "support/run_time_error.h"
 
 namespace quillon {
 namespace {
@@ -24,7 +25,7 @@ void WakeUp(int /*signal*/) {
 
 EndSignals::EndSignals(std::function<void()> end) {
   if (pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-    throw std::system_error(errno, std::generic_category(), "pipe2");
+    throw RunTimeError(RunTimeFaultOf(errno), "pipe2");
   }
   wakeUpEnd = pipe_[1];
   notifier_ = std::make_unique<QSocketNotifier>(pipe_[0], QSocketNotifier::Read);
