@@ -15,7 +15,6 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kProgressScreen = "Progress";
-constexpr std::int16_t kGridNav = 3;
 constexpr std::int16_t kLastHandClass = kHandClassCount - 1;
 
 std::string BoxTextIn(std::int16_t box, const AnalysisWindow& window) {

@@ -14,6 +14,14 @@
 
 namespace quillon {
 
+/// The links of the side panel, `lblNav`, by index: those to the input screens, and from the grid's on those to
+/// results.
+inline constexpr std::int16_t kCallNav = 0;
+inline constexpr std::int16_t kRaiseNav = 1;
+inline constexpr std::int16_t kEquityNav = 2;
+inline constexpr std::int16_t kGridNav = 3;
+inline constexpr std::int16_t kDetailsNav = 4;
+
 class AnalysisWindow {
  public:
   virtual ~AnalysisWindow() = default;

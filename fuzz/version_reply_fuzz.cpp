@@ -22,11 +22,11 @@ void CheckLook(const UpgradeLook& look, const std::string& reply) {
     return;
   }
   Require(IsNumericText(look.CurrentVersion), "any reply is a number");
-  const bool isNewer = LeadingNumber(reply) > LeadingNumber(VersionText());
+  const bool isNewer = LeadingNumber(reply) > LeadingNumber(kVersionText);
   const bool tellsNewer = look.Link == "Download latest version of Quillon";
   Require(tellsNewer || look.Link == "You have the latest version of Quillon", "the link tells one of two things");
   // Between neighbours the caption's 15 digits decide, and nobody could follow more.
-  const bool isClose = std::abs(LeadingNumber(reply) - LeadingNumber(VersionText())) < 1e-12;
+  const bool isClose = std::abs(LeadingNumber(reply) - LeadingNumber(kVersionText)) < 1e-12;
   Require(isClose || tellsNewer == isNewer, "the link goes by the number");
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// The results grid of a finished analysis: the colour of each of the 169 cells, the situation under the grid, the
-// explanation beside it, and the links that lead there. A hand is profitable when its expected value is 0 or more: it
-// is painted green and counted in the percentage.
+// The results grid of a finished analysis: the colour of each of the 169 cells, the situation under the grid, and the
+// explanation beside it. A hand is profitable when its expected value is 0 or more: it is painted green and counted in
+// the percentage.
 
 #include <cstdint>
 #include <string>
@@ -14,9 +14,6 @@
 #include "ranges/card_grid.h"
 
 namespace quillon {
-
-/// The first link of the side panel that leads to results, the grid's; those before it lead to the input screens.
-inline constexpr std::int16_t kFirstResultsNav = 3;
 
 /// What the legend says of green cells, and of red ones.
 inline constexpr std::string_view kGoodLegend = "Go ALL IN";

@@ -1,17 +1,13 @@
 #include "shell/navigation.h"
 
-#include "results/results_grid.h"
-
 namespace quillon {
 namespace {
 
 constexpr Rgb kBlack = {};
 constexpr Rgb kDarkGray = {0x40, 0x40, 0x40};
 constexpr Rgb kWhite = {0xFF, 0xFF, 0xFF};
-constexpr Rgb kPaleYellow = {0xFF, 0xFF, 0xC0};
 constexpr Rgb kPaleGreen = {0xCD, 0xFA, 0xED};
 
-constexpr float kScreenHeight = 8645;
 constexpr float kBarLeft = -10;
 constexpr float kBarHeight = 475;
 constexpr float kBarAboveLink = 80;
@@ -20,7 +16,7 @@ constexpr float kBarIntoScreen = 20;
 }  // namespace
 
 LinkLook RestingLink(std::int16_t index, bool selected) {
-  const bool leadsToResults = index >= kFirstResultsNav;
+  const bool leadsToResults = index >= kGridNav;
   if (selected) return {.Color = leadsToResults ? kDarkGray : kBlack, .Underlined = true};
   return {.Color = leadsToResults ? kPaleYellow : kWhite};
 }

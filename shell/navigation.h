@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "analysis/analysis_window.h"
 #include "support/rgb.h"
 #include "support/twips.h"
 
@@ -18,11 +19,14 @@ namespace quillon {
 /// The screen that has no link: it shows at the start and on a click on the logo.
 inline constexpr std::string_view kAboutScreen = "About";
 
-/// The link to the written report.
-inline constexpr std::int16_t kDetailsNav = 4;
+/// The height of every screen.
+inline constexpr float kScreenHeight = 8645;
 
 /// In place of a link's index where none is selected.
 inline constexpr std::int16_t kNoNav = -1;
+
+/// The colour of the headings on the panel, and of the links that lead to results.
+inline constexpr Rgb kPaleYellow = {0xFF, 0xFF, 0xC0};
 
 /// How a link `lblNav` looks.
 struct LinkLook {

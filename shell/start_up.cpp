@@ -29,7 +29,7 @@ void PrepareFolders(const ProgramFolder& folder) {
 }
 
 std::string MainWindowTitle() {
-  return std::string(kApplicationTitle) + " " + VersionText();
+  return std::string(kApplicationTitle).append(" ").append(kVersionText);
 }
 
 TwipSize MainWindowSize(const TwipRect& panel, float screenWidth) {

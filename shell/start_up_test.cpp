@@ -85,7 +85,7 @@ TEST(MainWindow, IsAsWideAsPanelAndFirstScreenAreDesigned) {
 }
 
 TEST(MainWindow, HasTheVersionInItsTitle) {
-  EXPECT_EQ(VersionText(), "0.9");
+  EXPECT_EQ(kVersionText, "0.9");
   EXPECT_EQ(MainWindowTitle(), "Quillon 0.9");
 }
 

@@ -38,7 +38,7 @@ UpgradeLook UpgradeLookOf(std::string_view reply) {
   if (reply.empty()) return {.CurrentVersion = "Error Connecting", .Link = {}};
   const std::string latest = NumberText(LeadingNumber(reply));
   // The user must be able to follow the outcome, so the captions are what is compared, digit for digit.
-  const bool upToDate = LeadingNumber(VersionText()) >= LeadingNumber(latest);
+  const bool upToDate = LeadingNumber(kVersionText) >= LeadingNumber(latest);
   return {.CurrentVersion = latest, .Link = upToDate ? kLatestCaption : kDownloadCaption};
 }
 

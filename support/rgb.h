@@ -18,6 +18,11 @@ struct Rgb {
 /// A colour from components of any size: above 255 counts as 255, below 0 as 0.
 [[nodiscard]] Rgb MakeRgb(int red, int green, int blue);
 
+/// 0xRRGGBB.
+[[nodiscard]] constexpr std::int32_t RgbNumber(Rgb color) {
+  return color.Red * 0x10000 + color.Green * 0x100 + color.Blue;
+}
+
 /// "#rrggbb" in lower-case hexadecimal digits: (200, 255, 200) is "#c8ffc8".
 [[nodiscard]] std::string ColorText(Rgb color);
 

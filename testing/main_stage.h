@@ -35,19 +35,11 @@ namespace quillon {
 
 /// The screens, frameContent, by index.
 inline constexpr std::int16_t kCallScreen = 0;
-inline constexpr std::int16_t kGridScreenIndex = 1;
 inline constexpr std::int16_t kDetailsScreen = 2;
 inline constexpr std::int16_t kProgressScreenIndex = 3;
 inline constexpr std::int16_t kRaiseScreen = 4;
 inline constexpr std::int16_t kAboutScreenIndex = 5;
 inline constexpr std::int16_t kEquityScreen = 6;
-
-/// The links, lblNav, by index.
-inline constexpr std::int16_t kCallNav = 0;
-inline constexpr std::int16_t kRaiseNav = 1;
-inline constexpr std::int16_t kEquityNav = 2;
-inline constexpr std::int16_t kGridNavIndex = 3;
-inline constexpr std::int16_t kDetailsNavIndex = 4;
 
 /// What the window of a stage takes for the time.
 enum class StageClock : std::uint8_t {

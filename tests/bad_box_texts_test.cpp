@@ -254,7 +254,7 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
     const bool through = story.Result.Outcome.GoesThrough();
     tally.Count(story.Result.Outcome.Fate());
     EXPECT_EQ(Screen(), through ? "ALL IN Grid" : raise ? "Preflop Raise" : "Preflop Call");
-    EXPECT_EQ(Shows("lblNav", kGridNavIndex), through);
+    EXPECT_EQ(Shows("lblNav", kGridNav), through);
     if (through) {
       EXPECT_EQ(Form.State().PotSize, plain::BoxValue(boxes[0]));
       EXPECT_EQ(Form.State().CallAmount, plain::BoxValue(boxes[1]));

@@ -154,8 +154,7 @@ TEST_F(Soak, Dialogs) {
 
 TEST_F(Soak, Reports) {
   RunRaise("150", "50", "62.5", "Pairs", "Tight");
-  Repeat("openings of the report", Times(30),
-         [this](int turn) { Open(turn % 2 == 0 ? kDetailsNavIndex : kGridNavIndex); });
+  Repeat("openings of the report", Times(30), [this](int turn) { Open(turn % 2 == 0 ? kDetailsNav : kGridNav); });
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ void Control::mouseMoveEvent(QMouseEvent* /*event*/) {
 }
 
 void Control::keyPressEvent(QKeyEvent* event) {
-  const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  const bool presses = IsEnterKey(event->key()) || event->key() == Qt::Key_Space;
   if (!CanBeClicked() || !presses || event->isAutoRepeat()) {
     QWidget::keyPressEvent(event);
     return;

@@ -14,6 +14,11 @@
 
 namespace quillon {
 
+/// Whether a Qt::Key is Enter, on the keyboard or on its number pad.
+[[nodiscard]] constexpr bool IsEnterKey(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 class Control : public QWidget {
   Q_OBJECT
 

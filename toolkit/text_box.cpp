@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "toolkit/control.h"
 #include "toolkit/single_line.h"
 
 namespace quillon {
@@ -39,7 +40,7 @@ void TextBox::Leave() {
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Q_EMIT EnterPressed();
+  if (IsEnterKey(event->key())) Q_EMIT EnterPressed();
   QLineEdit::keyPressEvent(event);
 }
 

@@ -131,7 +131,7 @@ int RunCompanion(std::span<const std::string> arguments, const Surroundings& sur
   CLI::App app("Call the all-in, or shove yourself? The answer for all 169 starting hands.", "quillon-cli");
   app.require_subcommand(0, 1);
   app.formatter(std::make_shared<ManualFormatter>());
-  app.set_version_flag("--version", "quillon-cli " + VersionText());
+  app.set_version_flag("--version", std::string("quillon-cli ").append(kVersionText));
   std::vector<OfferedCommand> commands;
   for (const Command& command : kCommands) {
     CLI::App* const options = app.add_subcommand(command.Name, command.Description);

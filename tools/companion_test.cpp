@@ -111,7 +111,7 @@ TEST(Companion, AnswersOnStandardOutput) {
   for (const auto& [arguments, output] : std::vector<std::pair<Arguments, std::string>>{
            {{"summary", "--range", "Loose"}, "Full: 99+,AQs+,KQs,AQo+ | Half: 88,AJs\n"},
            {{"summary", "--range", "Nothing"}, "[None]\n"},
-           {{"--version"}, "quillon-cli " + VersionText() + "\n"},
+           {{"--version"}, std::string("quillon-cli ").append(kVersionText) + "\n"},
            {{"ranges"},
             "Loose\t5.8% selected\tFull: 99+,AQs+,KQs,AQo+ | Half: 88,AJs\n"
             "Nothing\t0% selected\t[None]\n"

@@ -34,10 +34,6 @@ constexpr FontSpec kTahoma8p25{.Family = "Tahoma", .Points = 8.25F};
 constexpr std::int32_t kHeading = 0x336699;
 constexpr std::int32_t kKeyLine = 0x404040;
 
-constexpr std::int32_t RowColor(Rgb color) {
-  return color.Red * 0x10000 + color.Green * 0x100 + color.Blue;
-}
-
 // One row stays one row.
 // clang-format off
 
@@ -77,18 +73,18 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 8, .Text = "Key", .Place = {7560, 4140, 450, 285}, .Fore = kHeading,
      .Font = kArial12Bold},
     {.Name = "shapeKey", .Index = 0, .Kind = kShape, .Place = {7620, 4620, 285, 285},
-     .Back = RowColor(kUnselectedSuitedColor), .Fore = kKeyLine},
+     .Back = RgbNumber(kUnselectedSuitedColor), .Fore = kKeyLine},
     {.Name = "Label", .Index = 9, .Text = "Suited Hands", .Place = {8040, 4650, 2055, 240}},
     {.Name = "shapeKey", .Index = 2, .Kind = kShape, .Place = {7620, 4980, 285, 285},
-     .Back = RowColor(kUnselectedOffsuitColor), .Fore = kKeyLine},
+     .Back = RgbNumber(kUnselectedOffsuitColor), .Fore = kKeyLine},
     {.Name = "Label", .Index = 10, .Text = "Offsuit Hands", .Place = {8040, 5010, 2055, 240}},
     {.Name = "shapeKey", .Index = 3, .Kind = kShape, .Place = {7620, 5340, 285, 285},
-     .Back = RowColor(kUnselectedPairColor), .Fore = kKeyLine},
+     .Back = RgbNumber(kUnselectedPairColor), .Fore = kKeyLine},
     {.Name = "Label", .Index = 11, .Text = "Paired Hands", .Place = {8040, 5370, 2055, 240}},
-    {.Name = "shapeKey", .Index = 1, .Kind = kShape, .Place = {7620, 5700, 285, 285}, .Back = RowColor(kFullColor),
+    {.Name = "shapeKey", .Index = 1, .Kind = kShape, .Place = {7620, 5700, 285, 285}, .Back = RgbNumber(kFullColor),
      .Fore = kKeyLine},
     {.Name = "Label", .Index = 12, .Text = "Selected Hands", .Place = {8040, 5730, 2055, 240}},
-    {.Name = "shapeKey", .Index = 4, .Kind = kShape, .Place = {7620, 6060, 285, 285}, .Back = RowColor(kHalfColor),
+    {.Name = "shapeKey", .Index = 4, .Kind = kShape, .Place = {7620, 6060, 285, 285}, .Back = RgbNumber(kHalfColor),
      .Fore = kKeyLine},
     {.Name = "Label", .Index = 13, .Text = "Half as Likely", .Place = {8040, 6090, 2055, 240}},
     {.Name = "Label", .Index = 14, .Text = "Range Name:", .Place = {7560, 6600, 1560, 285}, .Fore = kHeading,

@@ -70,7 +70,7 @@ AboutView::AboutView(const MainControls& controls, Surroundings surroundings)
 
 void AboutView::CheckForUpgrade() {
   Label& link = controls_.LabelAt("lblLink", kUpgradeLink);
-  controls_.LabelAt("lblVersion").SetText(ToQt(VersionText()));
+  controls_.LabelAt("lblVersion").SetText(ToQt(kVersionText));
   ShowCurrentVersion(kUpgradeOffCaption);
   const CheckBoxState state = StoredUpgradeBox(around_.Folder);
   controls_.Get<QCheckBox>("chkUpgrade").setCheckState(CheckStateOf(state));

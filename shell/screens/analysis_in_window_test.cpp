@@ -73,12 +73,12 @@ TEST_F(AnalysisInWindow, EquityComesToTheEnginesResultsAndTouchesNoAmount) {
 
 TEST_F(AnalysisInWindow, TheResultsGoAtTheClick) {
   RunEquity("Tight");
-  EXPECT_TRUE(Shows("lblNav", kGridNavIndex));
+  EXPECT_TRUE(Shows("lblNav", kGridNav));
   EnterCall("100", "50", "Tight");
   DuringRun("1%", [this] {
     EXPECT_EQ(Screen(), "Progress");
-    EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
-    EXPECT_FALSE(Shows("lblNav", kDetailsNavIndex));
+    EXPECT_FALSE(Shows("lblNav", kGridNav));
+    EXPECT_FALSE(Shows("lblNav", kDetailsNav));
     EXPECT_TRUE(Shows("lblNoResults"));
     EXPECT_EQ(Caption("lblNoResults"), "Please wait...");
     EXPECT_TRUE(LabelAt("lblNoResults").HasUnderline());
@@ -86,8 +86,8 @@ TEST_F(AnalysisInWindow, TheResultsGoAtTheClick) {
     EXPECT_TRUE(Get("imgGridBack").isHidden());
   });
   Click("cmdPreflopEV", 0);
-  EXPECT_TRUE(Shows("lblNav", kGridNavIndex));
-  EXPECT_TRUE(Shows("lblNav", kDetailsNavIndex));
+  EXPECT_TRUE(Shows("lblNav", kGridNav));
+  EXPECT_TRUE(Shows("lblNav", kDetailsNav));
   EXPECT_FALSE(Shows("lblNoResults"));
   EXPECT_EQ(Caption("lblNoResults"), kNothingYet);
   EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
@@ -96,7 +96,7 @@ TEST_F(AnalysisInWindow, TheResultsGoAtTheClick) {
 
 TEST_F(AnalysisInWindow, ThePictureCoversTheGridUntilTheFirstRun) {
   EXPECT_FALSE(Get("imgGridBack").isHidden());
-  EXPECT_EQ(Get("frameContent", kGridScreenIndex).childAt(Get("imgGridBack").geometry().center()), &Get("imgGridBack"));
+  EXPECT_EQ(Get("frameContent", kGridScreen).childAt(Get("imgGridBack").geometry().center()), &Get("imgGridBack"));
   RunEquity("Tight");
   EXPECT_FALSE(Shows("imgGridBack"));
 }
@@ -138,7 +138,7 @@ TEST_F(AnalysisInWindow, AStopIsNoticedAfterTheNextClass) {
   EXPECT_EQ(Screen(), "Preflop Call");
   EXPECT_EQ(Caption("lblNoResults"), kNothingYet);
   EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+  EXPECT_FALSE(Shows("lblNav", kGridNav));
   EXPECT_EQ(Form.State().HandInfo, "");
 }
 
@@ -181,12 +181,12 @@ TEST_F(AnalysisInWindow, ANestedRunEndsFirstAndStopsTheOuterOne) {
     RunEquity("Pairs");
     EXPECT_EQ(Screen(), "ALL IN Grid");
     EXPECT_EQ(Caption("lblGridTitle"), "Equity Grid");
-    EXPECT_TRUE(Shows("lblNav", kGridNavIndex));
+    EXPECT_TRUE(Shows("lblNav", kGridNav));
   });
   Click("cmdPreflopEV", 0);
   EXPECT_EQ(Screen(), "Equity Only") << "stopped, under the scenario of the nested run";
   EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Pairs", ""}));
-  EXPECT_TRUE(Shows("lblNav", kGridNavIndex)) << "the nested run's results stay";
+  EXPECT_TRUE(Shows("lblNav", kGridNav)) << "the nested run's results stay";
   EXPECT_FALSE(Form.State().Running);
 }
 
@@ -198,7 +198,7 @@ TEST_F(AnalysisInWindow, ARefusedClickLeavesPleaseWait) {
   VerifyExpectedBoxes();
   EXPECT_EQ(Form.State().Mode, AnalysisMode::kEquityOnly) << "written before the check";
   EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+  EXPECT_FALSE(Shows("lblNav", kGridNav));
   EXPECT_EQ(Caption("lblNoResults"), "Please wait...");
   EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
   EXPECT_EQ(LabelAt("lblNoResults").cursor().shape(), Qt::PointingHandCursor);

@@ -22,9 +22,9 @@ class DetailsInWindow : public MainFormTest {
 
   /// The Details screen of a made-up analysis.
   void ShowDetailsOf(const Analysis& state) {
-    if (!Shows("lblNav", kDetailsNavIndex)) RunEquity("Tight");
+    if (!Shows("lblNav", kDetailsNav)) RunEquity("Tight");
     static_cast<Analysis&>(Form.State()) = state;
-    Open(kDetailsNavIndex);
+    Open(kDetailsNav);
   }
 
   /// Picks an entry with the keyboard.
@@ -196,7 +196,7 @@ TEST_F(DetailsInWindow, HandsCanBePickedForTheForumAlone) {
   PickPlain();
   expectPick(false);
   PickForum();
-  Open(kDetailsNavIndex);
+  Open(kDetailsNav);
   EXPECT_EQ(Get<QComboBox>("cmboOutputType").currentIndex(), 0);
   expectPick(false);
   EXPECT_TRUE(ReportText().starts_with("Situation\n"));
@@ -269,7 +269,7 @@ TEST_F(DetailsInWindow, ANewRunLeavesTheReportUntilItIsOpened) {
   const std::string before = ReportText();
   RunEquity("Tight");
   EXPECT_EQ(ReportText(), before);
-  Open(kDetailsNavIndex);
+  Open(kDetailsNav);
   EXPECT_TRUE(ReportText().starts_with("Range\n"));
 }
 

@@ -75,7 +75,7 @@ TEST_F(GridImageInWindow, IsABitmapOfTheRegionUnderTheNameTyped) {
   EXPECT_FALSE(std::filesystem::exists(SavedGrids() / "Shove grid.bmp")) << "no extension is added";
   const QImage image = ImageOf(SavedGrids() / "Shove grid");
   EXPECT_EQ(image.size(), QSize(409, 521));
-  const QImage shown = Get("frameContent", kGridScreenIndex).grab(QRect(16, 12, 409, 521)).toImage();
+  const QImage shown = Get("frameContent", kGridScreen).grab(QRect(16, 12, 409, 521)).toImage();
   EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32), shown.convertToFormat(QImage::Format_RGB32));
 }
 
@@ -91,7 +91,7 @@ TEST_F(GridImageInWindow, HasNoPanelOfTheKeyboardsInIt) {
 
   EXPECT_FALSE(Shows("frameHover")) << "nor does it come back with the window";
   const QImage saved = ImageOf(SavedGrids() / "grid").convertToFormat(QImage::Format_RGB32);
-  const QImage shown = Get("frameContent", kGridScreenIndex).grab(saved.rect().translated(16, 12)).toImage();
+  const QImage shown = Get("frameContent", kGridScreen).grab(saved.rect().translated(16, 12)).toImage();
   EXPECT_EQ(saved, shown.convertToFormat(QImage::Format_RGB32)) << "nor is the mark of the cell in it";
   EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 1));
 }
@@ -243,7 +243,7 @@ TEST_F(GridImageInWindow, OnlyYesOpensItInTheDesktopsProgram) {
 TEST_F(GridImageInWindow, WhatLiesOverTheGridIsInIt) {
   MoveOver("lblCards", HandIndex("AA"));
   ASSERT_TRUE(Shows("frameHover"));
-  const QImage shown = Get("frameContent", kGridScreenIndex).grab(QRect(16, 12, 409, 521)).toImage();
+  const QImage shown = Get("frameContent", kGridScreen).grab(QRect(16, 12, 409, 521)).toImage();
   ExpectName("grid.bmp");
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Click("imgSave");

@@ -119,7 +119,7 @@ TEST_F(HoverInWindow, ThePanelHangsBelowItsCellOrStandsAboveIt) {
 TEST_F(HoverInWindow, ThePanelLiesInFront) {
   ShowGridOf(sample::CallState());
   Hover("AA");
-  QWidget& screen = Get("frameContent", kGridScreenIndex);
+  QWidget& screen = Get("frameContent", kGridScreen);
   const QRect place = Get("frameHover").geometry();
   for (const QPoint& point : {place.topLeft(), place.center(), place.bottomRight()}) {
     const QWidget* there = screen.childAt(point);
@@ -143,7 +143,7 @@ TEST_F(HoverInWindow, StripAndGapBelongToTheScreen) {
   const QRect square = Get("shapeCardBack", 14).geometry();
   const QRect label = Get("lblCards", 14).geometry();
   EXPECT_EQ(label.top() - square.top(), 7) << "100 twips";
-  const QPoint corner = Get("frameContent", kGridScreenIndex).mapTo(&Form, QPoint(0, 0));
+  const QPoint corner = Get("frameContent", kGridScreen).mapTo(&Form, QPoint(0, 0));
   const std::array<QPoint, 4> outside = {
       QPoint(square.center().x(), square.top() + 3),  // the strip above the label
       QPoint(label.left() - 1, square.center().y()),  // at its left

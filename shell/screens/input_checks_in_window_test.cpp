@@ -19,7 +19,7 @@ TEST_F(ChecksInWindow, AComplaintIsShownInsteadOfARun) {
     VerifyExpectedBoxes();
     ComeToFront();
     EXPECT_EQ(Screen(), screen);
-    EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+    EXPECT_FALSE(Shows("lblNav", kGridNav));
     EXPECT_EQ(Caption("lblNoResults"), "Please wait...");
     EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
     EXPECT_FALSE(Form.State().Running);

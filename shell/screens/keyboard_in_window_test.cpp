@@ -647,13 +647,13 @@ TEST_F(SpokenWindow, TheEndOfARunIsAnnouncedWithTheExplanation) {
   RunEquity("Tight");
   EXPECT_EQ(heard.Texts(), std::vector{Caption("lblResults")});
   OpenScreen("Preflop Call");
-  Open(kGridNavIndex);
+  Open(kGridNav);
   EXPECT_EQ(heard.Texts().size(), 1U) << "the end of a run alone";
 }
 
 TEST_F(SpokenWindow, NothingHiddenIsPressed) {
   QAccessibleActionInterface& grid =
-      *QAccessible::queryAccessibleInterface(&Get("lblNav", kGridNavIndex))->actionInterface();
+      *QAccessible::queryAccessibleInterface(&Get("lblNav", kGridNav))->actionInterface();
   grid.doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(Screen(), "About");
   RunEquity("Tight");

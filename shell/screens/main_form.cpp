@@ -34,7 +34,8 @@ namespace {
 
 // The design's own size is there from the start: the screens are fitted to the window as they come up.
 MainControls BuildMainControls(QWidget& form) {
-  SetPlace(form, {.Left = 0, .Top = 0, .Width = 15300, .Height = kMainWindowHeight});
+  constexpr TwipRect kScreen = main_layout::kScreenPlace;
+  SetPlace(form, {.Left = 0, .Top = 0, .Width = kScreen.Left + kScreen.Width, .Height = kMainWindowHeight});
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
   // Of every window: boxes and dialogs, too.

@@ -1,7 +1,8 @@
 #pragma once
 
 // The main window as tables: the side panel, the seven screens, the two frames on the grid screen, and a frame that is
-// never shown and keeps things. The words are the product's own, odd ones too.
+// never shown and keeps things. The words are the product's own, odd ones too. The product's web host and the address
+// where its maker reads mail come with the build.
 
 #include <array>
 #include <cstdint>
@@ -9,13 +10,9 @@
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
 #include "shell/field_help.h"
+#include "shell/navigation.h"
 #include "toolkit/control_row.h"
 #include "toolkit/form_builder.h"
-
-// Both addresses come with the build: the product's web host, and where its maker reads mail.
-#if !defined(QUILLON_WEB_HOST) || !defined(QUILLON_CONTACT_ADDRESS)
-#error "The build sets QUILLON_WEB_HOST and QUILLON_CONTACT_ADDRESS."
-#endif
 
 namespace quillon {
 
@@ -60,8 +57,10 @@ constexpr FontSpec kVerdana11p25{.Family = "Verdana", .Points = 11.25F};
 constexpr FontSpec kVerdana9p75{.Family = "Verdana", .Points = 9.75F};
 constexpr FontSpec kVerdana8p25{.Family = "Verdana", .Points = 8.25F};
 
-// Beside the side panel, which is 3,300 wide.
-constexpr TwipRect kScreenPlace = {3300, 0, 12000, 8645};
+// Beside the side panel.
+constexpr TwipRect kScreenPlace = {3300, 0, 12000, kScreenHeight};
+
+constexpr std::int32_t kHeading = RgbNumber(kPaleYellow);
 
 // One row stays one row.
 // clang-format off
@@ -85,19 +84,19 @@ inline constexpr auto kSidePanel = std::to_array<ControlRow>({
     {.Name = "imgBackground", .Kind = kPicture, .Place = {480, 11280, 2730, 435}, .Picture = "panel_footer"},
     {.Name = "lblRangeManager", .Text = "Range Manager", .Place = {855, 6550, 1545, 240}, .Fore = 0x000000,
      .Font = kArial9p75BoldUnderlined, .Use = kLink},
-    {.Name = "Label", .Index = 48, .Text = "Tools:", .Place = {180, 6060, 1845, 285}, .Fore = 0xFFFFC0,
+    {.Name = "Label", .Index = 48, .Text = "Tools:", .Place = {180, 6060, 1845, 285}, .Fore = kHeading,
      .Font = kArial9Bold},
     {.Name = "lblNav", .Index = 2, .Text = "Equity Only", .Place = {480, 3240, 1320, 285}, .Fore = 0xFFFFFF,
      .Font = kArial12Bold, .Use = kLink},
     {.Name = "Label", .Index = 46, .Text = "What do you want to do?", .Place = {180, 1800, 2415, 210},
-     .Fore = 0xFFFFC0, .Font = kTahoma9Bold},
+     .Fore = kHeading, .Font = kTahoma9Bold},
     {.Name = "lblNav", .Index = 4, .Text = "Details", .Place = {420, 4680, 780, 285}, .Fore = 0xFFFFFF,
      .Font = kArial12Bold, .Use = kLink},
     {.Name = "lblNav", .Index = 3, .Text = "ALL IN Grid", .Place = {420, 4200, 1305, 285}, .Fore = 0xFFFFFF,
      .Font = kArial12Bold, .Use = kLink},
     {.Name = "lblNoResults", .Text = "There are no results to display at this time.", .Place = {420, 4140, 2535, 555},
-     .Fore = 0xFFFFC0, .Font = kTahoma9},
-    {.Name = "Label", .Index = 16, .Text = "Results:", .Place = {180, 3720, 1845, 285}, .Fore = 0xFFFFC0,
+     .Fore = kHeading, .Font = kTahoma9},
+    {.Name = "Label", .Index = 16, .Text = "Results:", .Place = {180, 3720, 1845, 285}, .Fore = kHeading,
      .Font = kTahoma9Bold},
     {.Name = "lblNav", .Index = 0, .Text = "Preflop Call", .Place = {480, 2160, 1320, 285}, .Fore = 0xFFFFFF,
      .Font = kArial12Bold, .Use = kLink},

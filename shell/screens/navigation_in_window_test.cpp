@@ -113,14 +113,14 @@ TEST_F(NavigationInWindow, HoveringColoursALinkUntilTheMouseIsOverThePanel) {
 TEST_F(NavigationInWindow, HoveringTheSelectedResultsLinkTurnsItBlack) {
   RunEquity("Tight");
   EXPECT_EQ(LinkLooks(), "ffffff ffffff ffffff 404040_ ffffc0");
-  MoveOver("lblNav", kGridNavIndex);
+  MoveOver("lblNav", kGridNav);
   EXPECT_EQ(LinkLooks(), "ffffff ffffff ffffff 000000_ ffffc0");
 }
 
 TEST_F(NavigationInWindow, ResultsLinksAreWhiteAfterThePanel) {
   RunEquity("Tight");
   Open(kCallNav);
-  MoveOver("lblNav", kGridNavIndex);
+  MoveOver("lblNav", kGridNav);
   EXPECT_EQ(LinkLooks(), "000000_ ffffff ffffff cdfaed_ ffffc0");
   MoveOverPanel();
   EXPECT_EQ(LinkLooks(), "000000_ ffffff ffffff ffffff ffffff");
@@ -277,7 +277,7 @@ TEST_F(NavigationInWindow, SweepingTheMouseOverEverythingRaisesNoError) {
   }
   RunCall("100", "50", "Tight");
   sweep();
-  Open(kDetailsNavIndex);
+  Open(kDetailsNav);
   sweep();
 }
 

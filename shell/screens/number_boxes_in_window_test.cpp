@@ -113,11 +113,11 @@ TEST_F(NumberBoxesInWindow, AnyChangeHidesTheResults) {
   for (std::int16_t i = 0; i < 5; ++i) {
     SCOPED_TRACE(i);
     RunEquity("Tight");
-    ASSERT_TRUE(Shows("lblNav", kGridNavIndex));
+    ASSERT_TRUE(Shows("lblNav", kGridNav));
     Open(i < 2 ? kCallNav : kRaiseNav);
     Click("txtNumber", i);
     TypeKeys("7");
-    EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+    EXPECT_FALSE(Shows("lblNav", kGridNav));
     EXPECT_TRUE(Shows("lblNoResults"));
     EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.");
   }
@@ -127,7 +127,7 @@ TEST_F(NumberBoxesInWindow, AnEvaluationIsAChangeToo) {
   Open(kCallNav);
   Type(0, "=1+1");
   RunEquity("Tight");
-  ASSERT_TRUE(Shows("lblNav", kGridNavIndex));
+  ASSERT_TRUE(Shows("lblNav", kGridNav));
   Open(kCallNav);
   Get<QLineEdit>("txtNumber", 0).setText(QStringLiteral("=1+1"));
   RunEquity("Tight");
@@ -135,7 +135,7 @@ TEST_F(NumberBoxesInWindow, AnEvaluationIsAChangeToo) {
   Click("txtNumber", 0);
   Press(Qt::Key_Return);
   EXPECT_EQ(BoxText(0), "2");
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
+  EXPECT_FALSE(Shows("lblNav", kGridNav));
 }
 
 TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {

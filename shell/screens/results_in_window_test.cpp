@@ -21,7 +21,7 @@ class ResultsInWindow : public MainFormTest {
   /// The pixels of the grid screen show the colours that the engine gives the state.
   void ExpectCellsAsWorkedOut() {
     const std::array<Rgb, kHandClassCount> colors = GridColors(Form.State());
-    const QImage shown = Get("frameContent", kGridScreenIndex).grab().toImage();
+    const QImage shown = Get("frameContent", kGridScreen).grab().toImage();
     for (std::int16_t i = 0; i < kHandClassCount; ++i) {
       const QPoint corner = Get("shapeCardBack", i).geometry().topLeft() + QPoint(2, 2);
       EXPECT_EQ(ColorName(shown.pixelColor(corner)), ColorText(colors.at(static_cast<std::size_t>(i)))) << HandLabel(i);
@@ -181,7 +181,7 @@ TEST_F(ResultsAsRange, HalfWeightIsAsTheDialogSays) {
   Open(kCallNav);
   Click("lblNewRange", 0);
   Dialog().Controls().Get<QCheckBox>("chkHalf").setChecked(true);
-  Open(kGridNavIndex);
+  Open(kGridNav);
   Click("imgSaveAsRange");
   EXPECT_EQ(RangeTextFromGrid(Dialog().Grid().Colors()), TextWith("", Winners()));
 }

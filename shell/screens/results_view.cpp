@@ -44,7 +44,7 @@ void ResultsView::Present(const Analysis& analysis) {
 }
 
 void ResultsView::SetResultsShown(bool shown) {
-  for (std::int16_t link = kFirstResultsNav; link < controls_.CountOf("lblNav"); ++link) {
+  for (std::int16_t link = kGridNav; link < controls_.CountOf("lblNav"); ++link) {
     Label& label = controls_.LabelAt("lblNav", link);
     label.SetTextColor(ToColor(RestingLink(link, false).Color));
     label.setVisible(shown);

@@ -50,8 +50,8 @@ TEST_F(StartInWindow, ShowsTheAboutScreenWithNoLinkSelected) {
     EXPECT_FALSE(LabelAt("lblNav", i).HasUnderline());
   }
   EXPECT_TRUE(Shows("lblNav", kCallNav));
-  EXPECT_FALSE(Shows("lblNav", kGridNavIndex));
-  EXPECT_FALSE(Shows("lblNav", kDetailsNavIndex));
+  EXPECT_FALSE(Shows("lblNav", kGridNav));
+  EXPECT_FALSE(Shows("lblNav", kDetailsNav));
   EXPECT_TRUE(Shows("lblNoResults"));
   EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.");
   EXPECT_FALSE(Form.rect().intersects(Get("shapeBack").geometry())) << "the selection bar waits out of sight";

@@ -127,7 +127,7 @@ TEST_F(ZoomInWindow, KeepsWhatIsOnTheScreen) {
     Press(key, Qt::ControlModifier);
     EXPECT_EQ(Screen(), "ALL IN Grid");
     EXPECT_EQ(Caption("lblResults"), explanation);
-    EXPECT_EQ(Get("frameContent", kGridScreenIndex).geometry(), PixelPlace({3300, 0, 12000, 8645}));
+    EXPECT_EQ(Get("frameContent", kGridScreen).geometry(), PixelPlace({3300, 0, 12000, 8645}));
     EXPECT_EQ(Get("shapeBack").geometry(), PixelPlace({-10, 4120, 3330, 475}));
     EXPECT_EQ(Get("lblCards", 168).isVisible(), true);
     MoveOver("lblCards", 20);
