@@ -85,9 +85,8 @@ class DialogStage {
   MessageDialogs Boxes;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
   StagedMain Main;
-  RangeDialogs Dialogs{Main,
-                       ChooserControls(Main.Controls),
-                       {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
+  RangeDialogs Dialogs{
+      Main, Main.Controls, {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
 };
 
 /// A click of the left mouse button in the middle of the control, sent the way of the window's own events, so that it

@@ -3,8 +3,6 @@
 // The name of a control, checked against the layout of its form as the program is compiled: a name that no row has does
 // not compile, nor does one whose row makes another kind of control than the one asked for.
 
-#include <algorithm>
-#include <array>
 #include <concepts>
 #include <span>
 #include <string_view>
@@ -29,43 +27,31 @@ class RichTextBox;
 class Shape;
 class TextBox;
 
-/// The rows that make a control of that class. Every row makes a QWidget.
+/// Whether a row of that kind makes a `Widget`.
 template <typename Widget>
-inline constexpr std::array<ControlKind, 0> kKindsOf = {};
-template <>
-inline constexpr std::array kKindsOf<Label> = {ControlKind::kLabel};
-template <>
-inline constexpr std::array kKindsOf<Picture> = {ControlKind::kPicture};
-template <>
-inline constexpr std::array kKindsOf<Frame> = {ControlKind::kFrame};
-template <>
-inline constexpr std::array kKindsOf<Control> = {ControlKind::kLabel, ControlKind::kPicture, ControlKind::kFrame};
-template <>
-inline constexpr std::array kKindsOf<Shape> = {ControlKind::kShape, ControlKind::kRoundedShape, ControlKind::kLine};
-template <>
-inline constexpr std::array kKindsOf<TextBox> = {ControlKind::kTextBox};
-template <>
-inline constexpr std::array kKindsOf<QLineEdit> = {ControlKind::kTextBox};
-template <>
-inline constexpr std::array kKindsOf<QPlainTextEdit> = {ControlKind::kMemo, ControlKind::kReadOnlyMemo};
-template <>
-inline constexpr std::array kKindsOf<RichTextBox> = {ControlKind::kRichTextBox};
-template <>
-inline constexpr std::array kKindsOf<QComboBox> = {ControlKind::kChooser};
-template <>
-inline constexpr std::array kKindsOf<QListWidget> = {ControlKind::kListBox};
-template <>
-inline constexpr std::array kKindsOf<QCheckBox> = {ControlKind::kCheckBox};
-template <>
-inline constexpr std::array kKindsOf<QPushButton> = {ControlKind::kButton};
+[[nodiscard]] constexpr bool Makes(ControlKind kind) {
+  using enum ControlKind;
+  if (std::same_as<Widget, Control>) return kind == kLabel || kind == kPicture || kind == kFrame;
+  if (std::same_as<Widget, Frame>) return kind == kFrame;
+  if (std::same_as<Widget, Label>) return kind == kLabel;
+  if (std::same_as<Widget, Picture>) return kind == kPicture;
+  if (std::same_as<Widget, RichTextBox>) return kind == kRichTextBox;
+  if (std::same_as<Widget, Shape>) return kind == kShape || kind == kRoundedShape || kind == kLine;
+  if (std::same_as<Widget, TextBox> || std::same_as<Widget, QLineEdit>) return kind == kTextBox;
+  if (std::same_as<Widget, QCheckBox>) return kind == kCheckBox;
+  if (std::same_as<Widget, QComboBox>) return kind == kChooser;
+  if (std::same_as<Widget, QListWidget>) return kind == kListBox;
+  if (std::same_as<Widget, QPlainTextEdit>) return kind == kMemo || kind == kReadOnlyMemo;
+  if (std::same_as<Widget, QPushButton>) return kind == kButton;
+  return std::same_as<Widget, QWidget>;
+}
 
 /// Whether a row of the layout has that name and makes a `Widget`.
 template <typename Widget>
 [[nodiscard]] constexpr bool HasControl(std::span<const ControlTable> layout, std::string_view name) {
   for (const ControlTable& table : layout) {
     for (const ControlRow& row : table.Rows) {
-      if (row.Name != name) continue;
-      if (std::same_as<Widget, QWidget> || std::ranges::count(kKindsOf<Widget>, row.Kind) > 0) return true;
+      if (row.Name == name && Makes<Widget>(row.Kind)) return true;
     }
   }
   return false;

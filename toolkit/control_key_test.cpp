@@ -1,5 +1,6 @@
 #include "toolkit/control_key.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace quillon {

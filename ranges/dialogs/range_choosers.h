@@ -20,35 +20,18 @@ namespace quillon {
 
 inline constexpr std::int16_t kChooserCount = 4;
 
-/// What the main window has for the choosers.
-struct ChooserControls {
-  struct Chooser {
-    QComboBox& List;
-    Label& Or;
-    Label& Edit;
-    Label& New;
-  };
-
-  template <typename Controls>
-  explicit ChooserControls(const Controls& controls) : LastEdit(controls.LabelAt("lblLastEdit")) {
-    for (std::int16_t i = 0; i < kChooserCount; ++i) {
-      Choosers.push_back({.List = controls.template Get<QComboBox>("cmboRanges", i),
-                          .Or = controls.LabelAt("lblOr", i),
-                          .Edit = controls.LabelAt("lblEditRange", i),
-                          .New = controls.LabelAt("lblNewRange", i)});
-    }
-  }
-
-  std::vector<Chooser> Choosers;
-  Label& LastEdit;
-};
-
 class RangeChoosers : public QObject {
   Q_OBJECT
 
  public:
-  /// The controls outlive this.
-  explicit RangeChoosers(ChooserControls controls);
+  /// `controls` are those of the main window, which outlive this.
+  template <typename Controls>
+  explicit RangeChoosers(const Controls& controls) : lastEdit_(controls.LabelAt("lblLastEdit")) {
+    for (std::int16_t i = 0; i < kChooserCount; ++i) {
+      Add(controls.template Get<QComboBox>("cmboRanges", i), controls.LabelAt("lblOr", i),
+          controls.LabelAt("lblEditRange", i), controls.LabelAt("lblNewRange", i));
+    }
+  }
 
   [[nodiscard]] FormChooser& List(std::int16_t index) const { return *lists_.at(static_cast<std::size_t>(index)); }
 
@@ -65,9 +48,9 @@ class RangeChoosers : public QObject {
   void NewClicked(qint16 index);  // lblNewRange
 
  private:
-  void ShowLinks(std::int16_t index);
+  void Add(QComboBox& box, Label& orWord, Label& edit, Label& make);
 
-  ChooserControls controls_;
+  Label& lastEdit_;
   std::vector<std::unique_ptr<FormChooser>> lists_;
 };
 

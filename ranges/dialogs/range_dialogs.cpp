@@ -1,11 +1,8 @@
 #include "ranges/dialogs/range_dialogs.h"
 
-#include <utility>
-
 namespace quillon {
 
-RangeDialogs::RangeDialogs(QWidget& mainWindow, ChooserControls controls, DialogSurroundings surroundings)
-    : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(std::move(controls)) {
+void RangeDialogs::Bind() {
   connect(&choosers_, &RangeChoosers::EditClicked, this, &RangeDialogs::EditRange);
   // Where the dialog is open already, for another chooser, its range goes to this one from now on.
   connect(&choosers_, &RangeChoosers::NewClicked, this, [this](qint16 index) {

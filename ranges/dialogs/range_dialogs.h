@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <memory>
+#include <utility>
 
 #include "ranges/dialogs/dialog_window.h"
 #include "ranges/dialogs/manager_form.h"
@@ -20,7 +21,11 @@ class RangeDialogs : public QObject {
  public:
   /// `controls` are those of the main window, among them the choosers; the boxes stand over the dialog that asks. All
   /// that is given outlives the dialogs.
-  RangeDialogs(QWidget& mainWindow, ChooserControls controls, DialogSurroundings surroundings);
+  template <typename Controls>
+  RangeDialogs(QWidget& mainWindow, const Controls& controls, DialogSurroundings surroundings)
+      : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(controls) {
+    Bind();
+  }
 
   [[nodiscard]] const RangeChoosers& Choosers() const { return choosers_; }
 
@@ -40,6 +45,7 @@ class RangeDialogs : public QObject {
   [[nodiscard]] NewRangeForm* LoadedNewRange() const { return newRange_.get(); }
 
  private:
+  void Bind();
   void EditRange(std::int16_t chooser);
   [[nodiscard]] ManagerForm& Manager();
   [[nodiscard]] NewRangeForm& NewRange();

@@ -85,7 +85,7 @@ MainForm::MainForm(Surroundings surroundings)
       navigation_(*this, controls_),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
       dialogs_(
-          *this, ChooserControls(controls_),
+          *this, controls_,
           {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
