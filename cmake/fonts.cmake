@@ -26,6 +26,6 @@ function(quillon_add_fonts TARGET)
   set(list ${CMAKE_CURRENT_BINARY_DIR}/quillon_fonts.qrc)
   file(CONFIGURE OUTPUT ${list} @ONLY CONTENT "<RCC>\n  <qresource prefix=\"/fonts\">\n${entries}  </qresource>\n</RCC>\n")
   # Millions of bytes as a source would take a compiler minutes.
-  qt_add_big_resources(objects ${list} OPTIONS --no-compress)
+  qt_add_big_resources(objects ${list} OPTIONS --no-compress ${QUILLON_RESOURCE_OPTIONS})
   target_sources(${TARGET} PRIVATE ${objects})
 endfunction()

@@ -6,6 +6,9 @@ endif()
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb) # hands the clipboard over as the program ends
 
+# Later formats have the times of the files in them, and a program would depend on when its sources were unpacked.
+set(QUILLON_RESOURCE_OPTIONS --format-version 1)
+
 add_library(quillon_qt INTERFACE)
 target_link_libraries(quillon_qt INTERFACE Qt6::Widgets Qt6::Svg)
 target_compile_definitions(quillon_qt INTERFACE
