@@ -1,11 +1,13 @@
 // From the first start in an empty folder to the next one, and starts that go wrong.
 
+#include <QUrl>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "shell/settings_file.h"
+#include "shell/user_guide.h"
 #include "support/files.h"
 #include "tests/window_journey.h"
 
@@ -66,12 +68,17 @@ TEST_F(StartJourney, InstalledProgramKeepsEverythingInTheUsersFolder) {
   std::ofstream(installed / "installed") << ".\n";
   Session().AddExampleRanges();
   fs::copy_file(QUILLON_CLI_PROGRAM, installed / "quillon-cli");
+  Session().AddCommand("xdg-open");
   StartProgram();
   EXPECT_TRUE(fs::exists(folder / "Ranges" / "Tight Open.txt"));
   EXPECT_TRUE(fs::is_directory(folder / "Saved Grids"));
   const auto companion = Session().StartBeside((installed / "quillon-cli").string(), {"folder"});
   Session().WaitUntil("the companion has ended", [&] { return companion->Status().has_value(); });
   EXPECT_EQ(companion->Output(), folder.string() + "\n");
+
+  Session().Press({"F1"});
+  const QUrl guide = QUrl::fromLocalFile(QString::fromStdString(UserGuidePath(installed).string()));
+  EXPECT_EQ(Session().CommandArguments("xdg-open"), guide.toEncoded().toStdString() + "\n");
 
   EXPECT_EQ(CloseProgram(), 0);
   EXPECT_TRUE(fs::exists(folder / "settings.ini"));
