@@ -61,7 +61,7 @@ QWidget* WindowOf(const QWidget& control) {
   return window;
 }
 
-// Nothing for an event that is no act of a user's, or not yet that of a control.
+// Nothing for an event that is not an act of the user, or not yet one on a control.
 std::optional<UserAct> ActOf(QObject* receiver, const QEvent& event) {
   // A shortcut may be that of another window than the one in front, in which the key was pressed.
   if (event.type() == QEvent::Shortcut) return UserAct{.ByKey = true, .Window = QApplication::activeWindow()};

@@ -15,8 +15,8 @@ namespace quillon {
 
 /// The logical pixel of a screen in its own pixels: the screen's factor in QT_SCREEN_SCALE_FACTORS
 /// ("eDP-1=1.5;HDMI-1=2" by their names, "1.5;2" in their order), or else its dots to the inch over 96, unless
-/// QT_ENABLE_HIGHDPI_SCALING says 0; times QT_SCALE_FACTOR. What is no number above 0 counts as 1. A null screen has 96
-/// dots to the inch and no name.
+/// QT_ENABLE_HIGHDPI_SCALING says 0; times QT_SCALE_FACTOR. Anything but a number above 0 counts as 1. A null screen
+/// has 96 dots to the inch and no name.
 [[nodiscard]] double DesktopScale(const QScreen* screen);
 
 /// Keeps Qt from scaling windows itself: an application that is made while it lives does not. The environment is as it

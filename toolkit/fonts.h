@@ -1,8 +1,8 @@
 #pragma once
 
 // The fonts of the layouts. They name fonts of another platform; a free font of the same measures, compiled into the
-// program, stands for each, so that the window looks the same on every machine. Sizes are in points of 96 dots to the
-// inch, so they become pixels here, by the scale of the program
+// program, stands in for each, so that the window looks the same on every machine. Sizes are in points of 96 dots to
+// the inch, so they become pixels here, by the scale of the program
 // ("toolkit/twip_geometry.h"), and do not change with what the screen reports of itself.
 
 #include <QFont>
@@ -17,8 +17,8 @@ namespace quillon {
 /// Makes the fonts that are compiled in known to Qt. Called once, before the first font is made.
 void LoadFonts();
 
-/// What stands for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu Sans
-/// for Verdana, Liberation Mono for Courier New. Any other name is kept.
+/// What stands in for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu
+/// Sans for Verdana, Liberation Mono for Courier New. Any other name is kept.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 
 /// The font of what no layout has: message boxes, menus, tool tips.

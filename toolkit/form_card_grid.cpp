@@ -20,7 +20,7 @@ Qt::CheckState CheckStateOf(Rgb color) {
   return color == kHalfColor ? Qt::PartiallyChecked : Qt::Unchecked;
 }
 
-// Where the key leads from a cell: to itself at the edge of the grid, and nowhere where it is no key of the grid's.
+// Where the key leads from a cell: to itself at the edge of the grid, and nowhere where it is not a key of the grid.
 std::optional<std::int16_t> CellReachedFrom(std::int16_t from, const QKeyEvent& press) {
   constexpr int kLast = kRankCount - 1;
   int row = from / kRankCount;

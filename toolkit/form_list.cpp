@@ -96,7 +96,7 @@ FormListBox::FormListBox(QListWidget& list) : list_(list) {
   });
 }
 
-// Swallows what is no selection: another button than the left one, and the left one with Ctrl.
+// Swallows what does not select: another button than the left one, and the left one with Ctrl.
 bool FormListBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
   if (!press && event->type() != QEvent::MouseMove) return QObject::eventFilter(watched, event);

@@ -16,7 +16,7 @@ class MessageDialogs : public MessageBoxes, public InputBoxes {
   std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override;
 };
 
-/// Dresses a box: its text stands as it is and is never read as mark-up, and can be selected with the mouse.
+/// Dresses a box: its text is shown as it is, never read as mark-up, and can be selected with the mouse.
 void FillMessageBox(QMessageBox& box, const Message& message);
 
 }  // namespace quillon

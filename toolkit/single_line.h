@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// What is pasted, dropped or set in the box ends before its first line end, and each tab becomes a space. What stands
+/// What is pasted, dropped or set in the box ends before its first line end, and each tab becomes a space. What is
 /// after the caret stays.
 void KeepToOneLine(QLineEdit& box);
 

@@ -34,7 +34,7 @@ bool HasOwner(xcb_connection_t* screen, xcb_atom_t selection) {
   return reply != nullptr && reply->owner != XCB_NONE;
 }
 
-// A window that only stands for the program in the exchange, and is never shown.
+// A window that only represents the program in the exchange, and is never shown.
 xcb_window_t MakeRequestor(xcb_connection_t* screen) {
   const xcb_window_t window = xcb_generate_id(screen);
   const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(screen)).data->root;

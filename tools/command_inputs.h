@@ -116,7 +116,7 @@ class CommandInputs {
   /// empty text is 0, as in an amount box. A comma that cuts it short gives a warning.
   [[nodiscard]] std::optional<double> Amount(std::string_view option, std::string text, LeastAmount least);
 
-  /// The first half of that: whether the text is no sum or was replaced by the value of its sum.
+  /// The first half of that: whether the text is not a sum or was replaced by the value of its sum.
   [[nodiscard]] bool EvaluateAmount(std::string_view option, std::string& text);
 
   /// A range, or nothing after it was told what is wrong with it: no file, a file that is none of a range, a notation

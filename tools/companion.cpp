@@ -70,7 +70,7 @@ bool IsCommand(const std::string& name) {
   return std::ranges::any_of(kCommands, [&](const Command& command) { return command.Name == name; });
 }
 
-// Help on what is no command. An option after "help" is for the library to tell of.
+// Help on what is not a command. An option after "help" is for the library to tell of.
 void CheckHelpOf(std::span<const std::string> arguments) {
   if (arguments.size() < 2 || arguments[0] != kHelpCommand || arguments[1].starts_with('-')) return;
   if (IsCommand(arguments[1]) || arguments[1] == kHelpCommand) return;

@@ -216,7 +216,7 @@ TEST(Ranges, InUtf8AreListedAsTheyAreWritten) {
   EXPECT_EQ(RunCompanionIn(program.Folder().Path, {"ranges"}).Output, "Überfall am Fluß\t0.5% selected\tAA\n");
 }
 
-// ---- files that are no ranges
+// ---- files that are not ranges
 
 TEST(BadFile, IsReportedByNameAndTheOthersAreListed) {
   for (const auto& [rule, file, content] :

@@ -33,7 +33,7 @@ class RangeDialogs : public QObject {
   /// hidden. Each keeps what it shows where that range still exists. RunTimeError as told at FillRangeList.
   void RefreshLists();
 
-  /// Shows the Range Manager as it stands.
+  /// Shows the Range Manager as it is.
   void ShowManager();
 
   /// Shows the New Range dialog. Where it was closed before, or never open, it comes with an empty grid; where it was

@@ -121,7 +121,7 @@ std::string GridImageView::AskName() {
 
 // The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that
 // does not let itself be copied gives the window's own drawing instead. At a higher scale these are the screen's own,
-// finer pixels. The mark of the focus is no part of the picture: nobody has the focus meanwhile.
+// finer pixels. The mark of the focus is not part of the picture: nobody has the focus meanwhile.
 std::string GridImageView::CaptureGrid() {
   QWidget* const focused = form_.focusWidget();
   form_.setFocus(Qt::OtherFocusReason);

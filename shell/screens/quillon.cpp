@@ -53,7 +53,7 @@ int RunProgram(int argc, char** argv) {
     return kWrongUsage;
   }
 
-  // Caught in here: only as long as the application stands can a failed start be shown.
+  // Caught in here: only while the application exists can a failed start be shown.
   try {
     return RunWindow();
   } catch (...) {
