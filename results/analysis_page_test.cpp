@@ -1,6 +1,7 @@
 #include "results/analysis_page.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,6 +36,11 @@ std::string SeenText(const std::string& markup) {
     tag = tag && c != '>';
   }
   return text;
+}
+
+// A length that a tag gives, in pixels.
+int Length(const std::string& tag, const std::string& name) {
+  return std::stoi(Split(" " + tag, " " + name + "=\"").at(1));
 }
 
 // The cells of the grid, each with what is in it.
@@ -149,6 +155,14 @@ TEST(AnalysisPage, ShowsARangeNameAsTextWhateverItHolds) {
   EXPECT_THAT(page, HasSubstr("<dd><b>&quot;&#39;&amp;\xEF\xBF\xBD\xEF\xBF\xBD</b><br>AA</dd>"));
 }
 
+TEST(AnalysisPage, TellsARangeThatHasNoOtherNameOnce) {
+  for (const char* name : {"", "AA"}) {
+    Analysis analysis = sample::RaiseState();
+    analysis.CallingRangeName = name;
+    EXPECT_THAT(AnalysisPage(analysis), HasSubstr("<dt>His Calling Range</dt><dd><b>AA</b></dd>")) << name;
+  }
+}
+
 TEST(WebPage, EscapesEveryText) {
   const std::string evil = "<i>&";
   WebPage page{.Title = evil,
@@ -180,6 +194,20 @@ TEST_P(EachPage, HasAPictureOfItsGrid) {
                 AllOf(HasSubstr("fill=\"" + ColorText(color) + "\"/>"),
                       HasSubstr(" fill=\"" + ColorText(ReadableOn(color)) + "\">" + std::string(HandLabel(index)) +
                                 "</text>")));
+  }
+}
+
+TEST(GridPicture, HasTheSameMarginOnEverySide) {
+  for (const std::size_t count : std::vector<std::size_t>{1, 2, 3}) {
+    const std::vector<PictureGrid> grids(count);
+    auto rects = Split(GridPicture("", grids), "<rect ");
+    const int width = Length(rects.at(1), "width");
+    const int height = Length(rects.at(1), "height");
+    rects.erase(rects.begin(), rects.begin() + 2);
+    const int margin = Length(rects.front(), "x");
+    EXPECT_EQ(Length(rects.front(), "y"), margin);
+    EXPECT_EQ(width - Length(rects.back(), "x") - Length(rects.back(), "width"), margin);
+    EXPECT_EQ(height - Length(rects.back(), "y") - Length(rects.back(), "height"), margin);
   }
 }
 

@@ -83,6 +83,12 @@ TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
   EXPECT_NEAR(zero - lines[0][0].second, lines[1][1].second - zero, 0.11);
   EXPECT_NEAR(zero - lines[1][2].second, 3 * (zero - lines[0][1].second), 0.3);
   EXPECT_NEAR(lines[0][1].first - lines[0][0].first, lines[0][2].first - lines[0][1].first, 0.11);
+  // The highest and the lowest point are as far from the ends of the axis.
+  const std::string axis = Split(Split(picture, "stroke=\"#7b8794\"").at(0), "<line").back();
+  const double above = lines[1][2].second - LeadingNumber(Attribute(axis, "y1"));
+  const double below = LeadingNumber(Attribute(axis, "y2")) - lines[1][1].second;
+  EXPECT_GT(above, 5);
+  EXPECT_NEAR(above, below, 0.11);
   EXPECT_THAT(picture, AllOf(HasSubstr(">AA</text>"), HasSubstr(">72o</text>"), HasSubstr(">Preflop Raise</text>"),
                              HasSubstr(">Shove</text>"), HasSubstr(">Expected value, in the unit of the amounts<")));
 }
