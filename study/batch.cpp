@@ -282,6 +282,11 @@ std::variant<BatchQuestion, BatchRefusal> Batch::Read(std::string_view line) con
   LineValues values;
   nlohmann::json::sax_parse(line, &values);
   if (!values.Fault().empty()) return BatchRefusal{values.Id(), values.Fault()};
+  // The parser takes a NUL for the end of the text.
+  if (const std::size_t nul = line.find('\0'); nul != std::string_view::npos) {
+    return BatchRefusal{values.Id(),
+                        Joined({"this is not JSON from byte ", std::to_string(nul + 1), " on: a NUL character"})};
+  }
   try {
     return Reader(*this, values).Read();
   } catch (const RunTimeError& error) {  // of this line, and the next one is another matter

@@ -229,6 +229,8 @@ std::vector<RefusedCase> RefusedLines() {
       {"NotANumber", with(R"(,"call":NaN)"), "1", "this is not JSON from byte 51 on: \"call\":N"},
       {"Infinity", with(R"(,"call":Infinity)"), "1", "this is not JSON"},
       {"NulByte", with(",\"call\":\0 1"s), "1", "this is not JSON from byte 51 on: \"call\":<U+0000>"},
+      {"NulAfterIt", with(",\"call\":1") + "\0"s, "1", "this is not JSON from byte 53 on: a NUL character"},
+      {"NulBeforeMore", with(",\"call\":1") + "\0 x"s, "1", "this is not JSON from byte 53 on: a NUL character"},
       {"NulInAText", with(",\"call\":\"1\0\""s), "1", "this is not JSON"},
       {"NotUtf8", with(",\"call\":\"\xff\""), "1", "this is not JSON"},
       {"BeyondAllNumbers", with(R"(,"call":1e999)"), "1", "1e999 is beyond all numbers"},
