@@ -3,6 +3,7 @@
 #include "tools/commands.h"
 
 #include <chrono>
+#include <cmath>
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,6 +20,7 @@
 #include "study/limits.h"
 #include "support/files.h"
 #include "support/number_text.h"
+#include "support/rounding.h"
 #include "testing/companion_program.h"
 #include "testing/fault_of.h"
 #include "testing/split_text.h"
@@ -356,6 +358,17 @@ TEST(SweepCommand, GoesThroughWidthsInEachFormat) {
     EXPECT_EQ(step["ev"]["KTo"], GetHandResult(single.Output, "KTo").ExpectedValue) << share;
   }
   EXPECT_EQ(Lines(program.Run(width).Output).at(0), "width  profitable       KTo");
+}
+
+TEST(SweepCommand, RoundsTheShareInItsTableOnly) {
+  const CompanionProgram program;
+  const Arguments width = {"sweep", "call", "--pot", "100", "--call", "90", "--width", "10:10:1"};
+  const double share =
+      Json::parse(program.Run(With(width, {"--format", "json"})).Output)["steps"][0]["profitable_percent"];
+  const double combos = share * kConcreteHandCount / 100;
+  EXPECT_NEAR(combos, std::round(combos), 1e-9) << "a whole number of hands";
+  EXPECT_EQ(Lines(program.Run(With(width, {"--format", "csv"})).Output).at(1), "10," + NumberText(share));
+  EXPECT_THAT(program.Run(width).Output, testing::EndsWith(" " + NumberText(RoundTo(share, 2)) + "\n"));
 }
 
 TEST(BalanceCommand, PrintsAndSavesBothRanges) {

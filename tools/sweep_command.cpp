@@ -30,7 +30,7 @@ struct Request {
 constexpr std::string_view kWidthOption = "--width";
 
 double SharePercent(const SweepRow& row) {
-  return PercentOf(row.ProfitableCombos, kConcreteHandCount, 2);
+  return 100.0 * row.ProfitableCombos / kConcreteHandCount;
 }
 
 using Rows = std::vector<SweepRow>;
@@ -45,10 +45,14 @@ struct Answer {
 enum class Figures { kExact, kRounded };
 
 std::vector<std::string> Cells(const SweepRow& row, Figures figures) {
-  constexpr int kDecimals = 4;
-  std::vector<std::string> cells = {row.At, NumberText(SharePercent(row))};
+  constexpr int kShareDecimals = 2;
+  constexpr int kValueDecimals = 4;
+  const auto text = [figures](double figure, int decimals) {
+    return NumberText(figures == Figures::kExact ? figure : RoundTo(figure, decimals));
+  };
+  std::vector<std::string> cells = {row.At, text(SharePercent(row), kShareDecimals)};
   for (const double value : row.ExpectedValues)
-    cells.push_back(NumberText(figures == Figures::kExact ? value : RoundTo(value, kDecimals)));
+    cells.push_back(text(value, kValueDecimals));
   return cells;
 }
 
