@@ -40,13 +40,14 @@ struct Answer {
 };
 
 std::string PlainOutput(const Answer& answer) {
-  const Equilibrium& found = answer.found;
+  const auto& [question, found] = answer;
   const auto range = [](std::string_view what, const ClassWeights& weights) {
     return std::string(what) + NumberText(PercentOfHands(weights)) + "% of hands: " + RangeNotation(weights) + "\n";
   };
-  return range("Shove ", found.Shove) + range("Call  ", found.Call) + "Worth " + NumberText(RoundTo(found.Value, 6)) +
+  return range("You hold ", question.OwnHands) + range("He holds ", question.HisHands) + range("Shove ", found.Shove) +
+         range("Call  ", found.Call) + "Worth " + NumberText(RoundTo(found.Value, 6)) +
          " on average\nBoth together could gain at most " +
-         NumberText(PercentOf(found.Exploitability, answer.question.Pot, 9)) + "% of the pot by changing\n";
+         NumberText(PercentOf(found.Exploitability, question.Pot, 9)) + "% of the pot by changing\n";
 }
 
 std::string JsonOutput(const Answer& answer) {
@@ -57,6 +58,8 @@ std::string JsonOutput(const Answer& answer) {
   const nlohmann::ordered_json object = {{"pot", question.Pot},
                                          {"call", question.Call},
                                          {"shove", question.Shove},
+                                         {"own_range", range(question.OwnHands)},
+                                         {"his_range", range(question.HisHands)},
                                          {"shove_range", range(found.Shove)},
                                          {"call_range", range(found.Call)},
                                          {"value", found.Value},
@@ -65,7 +68,8 @@ std::string JsonOutput(const Answer& answer) {
 }
 
 constexpr std::array<Format<Answer>, 2> kFormats = {{
-    {{"plain", "both ranges as notation, what they are worth, and how near they are to balance"}, PlainOutput},
+    {{"plain", "what both can hold, both ranges as notation, what they are worth, and how near they are to balance"},
+     PlainOutput},
     {{"json", "the same as one object, with the situation"}, JsonOutput},
 }};
 
@@ -107,6 +111,11 @@ bool MaySaveBoth(const Request& request, CommandInputs& inputs, const Surroundin
   return false;
 }
 
+std::optional<NamedText> NamedTextOf(const std::optional<std::string>& name, const ClassWeights& weights) {
+  if (!name) return std::nullopt;
+  return NamedText{*name, SearchableRangeText(weights)};
+}
+
 int Print(const Request& request, const Surroundings& surroundings) {
   CommandInputs inputs(surroundings, request.folder);
   const std::optional<BalanceQuestion> question = QuestionOf(request, inputs);
@@ -116,8 +125,12 @@ int Print(const Request& request, const Surroundings& surroundings) {
     inputs.Refuse("No ranges were found that are in balance to a millionth of the pot: the shove is too large for it");
     return inputs.Status();
   }
-  if (request.saveShove) SaveRangeText(inputs.Folder(), *request.saveShove, SearchableRangeText(found->Shove));
-  if (request.saveCall) SaveRangeText(inputs.Folder(), *request.saveCall, SearchableRangeText(found->Call));
+  const auto shove = NamedTextOf(request.saveShove, found->Shove);
+  const auto call = NamedTextOf(request.saveCall, found->Call);
+  if (shove && call)
+    SaveBoth(inputs.Folder(), *shove, *call);
+  else if (const auto& one = shove ? shove : call)
+    SaveRangeText(inputs.Folder(), one->Name, one->Text);
   surroundings.Output << InFormat(kFormats, request.format, Answer{*question, *found});
   return kDone;
 }

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cmath>
 #include <fcntl.h>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <istream>
@@ -398,6 +399,39 @@ TEST(BalanceCommand, PrintsAndSavesBothRanges) {
       program.Run(With(balance, {"--own-hands", "AA:1e-200", "--hands", "KK:1e-200", "--format", "json"})).Output);
   EXPECT_EQ(seldom["shove_range"]["hands"], "AA:1E-200") << "so seldom that a deal of both is no number";
   EXPECT_EQ(seldom["value"], 1.5) << "kings fold";
+}
+
+TEST(BalanceCommand, TellsWhatBothCanHold) {
+  const CompanionProgram program;
+  const Arguments balance = {"balance", "--pot", "1.5", "--call", "0.5", "--shove", "9"};
+  const CompanionOutcome all = program.Run(balance);
+  EXPECT_THAT(all.Output, StartsWith("You hold 100% of hands: any\nHe holds 100% of hands: any\nShove "));
+  const Arguments some = With(balance, {"--own-hands", "AA,72o:0.5", "--range", "Tight"});
+  EXPECT_THAT(program.Run(some).Output,
+              StartsWith("You hold 0.9% of hands: AA,72o:0.5\nHe holds 2.56% of hands: QQ+,AKs,AKo\n"));
+  const Json json = Json::parse(program.Run(With(some, {"--format", "json"})).Output);
+  EXPECT_EQ(json["own_range"], (Json{{"hands", "AA,72o:0.5"}, {"percent", 0.9}}));
+  EXPECT_EQ(json["his_range"], (Json{{"hands", "QQ+,AKs,AKo"}, {"percent", 2.56}}));
+}
+
+TEST(BalanceCommand, SavesBothRangesOrNeither) {
+  const CompanionProgram program;
+  const std::filesystem::path ranges = RangeFolderPath(program.Folder());
+  std::filesystem::create_directory(ranges / "Blocked.txt");
+  const std::string tight = program.Read("Tight.txt");
+  for (const Arguments& names : std::vector<Arguments>{
+           {"--save-shove", "New", "--save-call", "Blocked"},
+           {"--save-shove", "Blocked", "--save-call", "New"},
+           {"--save-shove", "Tight", "--save-call", "Blocked"},
+       }) {
+    const CompanionOutcome outcome =
+        program.Run(With({"balance", "--pot", "1.5", "--call", "0.5", "--shove", "9", "--replace"}, names));
+    EXPECT_EQ(outcome.Status, kFailed) << testing::PrintToString(names);
+    EXPECT_THAT(outcome.Errors, HasSubstr("Blocked.txt")) << testing::PrintToString(names);
+    EXPECT_EQ(outcome.Output, "") << testing::PrintToString(names);
+    EXPECT_FALSE(std::filesystem::exists(ranges / "New.txt")) << testing::PrintToString(names);
+    EXPECT_EQ(program.Read("Tight.txt"), tight) << testing::PrintToString(names);
+  }
 }
 
 TEST(ChartCommand, TellsTheSameInEachFormat) {

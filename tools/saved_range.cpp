@@ -1,8 +1,14 @@
 #include "tools/saved_range.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <system_error>
 
 #include "ranges/range_names.h"
+#include "support/files.h"
+#include "support/run_time_error.h"
 
 namespace quillon {
 
@@ -14,6 +20,24 @@ bool MaySave(CommandInputs& inputs, const std::string& name, bool replace, const
   }
   PrintedMessages messages(surroundings.Errors);
   return ValidateRangeName(inputs.Folder(), name, messages, replace);
+}
+
+void SaveBoth(const ProgramFolder& folder, const NamedText& first, const NamedText& second) {
+  const std::filesystem::path file = RangeFilePath(folder, first.Name);
+  std::error_code unknown;
+  const bool isNew = !std::filesystem::exists(file, unknown);
+  const std::optional<std::string> before = TryReadAllBytes(file, *folder.Calls);
+  if (!before) FailOnFile(EACCES, file);
+  SaveRangeText(folder, first.Name, first.Text);
+  try {
+    SaveRangeText(folder, second.Name, second.Text);
+  } catch (const RunTimeError&) {
+    if (isNew)
+      DeleteFile(file, *folder.Calls);
+    else
+      ReplaceFile(file, *before, folder.Path, *folder.Calls);
+    throw;
+  }
 }
 
 }  // namespace quillon
