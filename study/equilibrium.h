@@ -57,8 +57,9 @@ struct Equilibrium {
 
 /// Balanced ranges for a question. Which of several balanced pairs is found is not said, and a class that is never
 /// faced with a shove may have any weight. Nothing if one of the players can hold no hand, or if no ranges as near to
-/// balance as promised were found: with shoves of hundreds of pots and few hands, the opponent calls with so small a
-/// share of a hand that rounds of learning do not come near it.
+/// balance as promised were found: with shoves of many hundreds of pots and few hands, such as AA and 72o against KK
+/// beyond some 700 pots, the opponent calls with so small a share of a hand that as much learning as five analyses of a
+/// raise take does not come near it. With all hands on both sides there is an answer at every stack.
 [[nodiscard]] std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question);
 
 }  // namespace quillon

@@ -233,9 +233,12 @@ TEST(Equilibrium, IsFoundWhereASmallShareDecides) {
 
 // What is not as near to balance as promised is no answer.
 TEST(Equilibrium, ThatIsNotFoundIsNotTold) {
-  BalanceQuestion question = {.Pot = 1.5, .Call = 0.5, .Shove = 1e6, .OwnHands = Only("AA"), .HisHands = Only("KK")};
-  question.OwnHands.at(Index("72o")) = 1;
-  EXPECT_FALSE(FindEquilibrium(Hands(), question));
+  for (const double shove : {1300.0, 1e6}) {
+    BalanceQuestion question = {
+        .Pot = 1.5, .Call = 0.5, .Shove = shove, .OwnHands = Only("AA"), .HisHands = Only("KK")};
+    question.OwnHands.at(Index("72o")) = 1;
+    EXPECT_FALSE(FindEquilibrium(Hands(), question)) << shove;
+  }
 }
 
 TEST(Equilibrium, IsThatOfHandsHeldAsOftenHoweverSeldom) {
