@@ -101,14 +101,27 @@ class KeptText {
 // What happens to the new process before its program starts.
 class Preparation {
  public:
-  Preparation() { Demand(posix_spawn_file_actions_init(&actions_) == 0, "posix_spawn_file_actions_init"); }
+  Preparation() {
+    Demand(posix_spawn_file_actions_init(&actions_) == 0, "posix_spawn_file_actions_init");
+    Demand(posix_spawnattr_init(&attributes_) == 0, "posix_spawnattr_init");
+    // Tests may run in the background, where Ctrl+C is ignored; the program is started as in the foreground.
+    sigset_t interrupt;
+    sigemptyset(&interrupt);
+    sigaddset(&interrupt, SIGINT);
+    posix_spawnattr_setsigdefault(&attributes_, &interrupt);
+    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF);
+  }
   Preparation(const Preparation&) = delete;
   Preparation(Preparation&&) = delete;
   Preparation& operator=(const Preparation&) = delete;
   Preparation& operator=(Preparation&&) = delete;
-  ~Preparation() { posix_spawn_file_actions_destroy(&actions_); }
+  ~Preparation() {
+    posix_spawnattr_destroy(&attributes_);
+    posix_spawn_file_actions_destroy(&actions_);
+  }
 
   [[nodiscard]] const posix_spawn_file_actions_t& Actions() const { return actions_; }
+  [[nodiscard]] const posix_spawnattr_t& Attributes() const { return attributes_; }
 
   void EnterFolder(const std::filesystem::path& folder) {
     Check(posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()));
@@ -123,6 +136,7 @@ class Preparation {
   static void Check(int error) { Demand(error == 0, "posix_spawn_file_actions", error); }
 
   posix_spawn_file_actions_t actions_{};
+  posix_spawnattr_t attributes_{};
 };
 
 void Connect(Preparation& preparation, int stream, StreamEnd end, const KeptText& kept,
@@ -173,7 +187,7 @@ pid_t Start(const ProgramRun& run, const Preparation& preparation) {
   arguments.insert(arguments.end(), run.Arguments.begin(), run.Arguments.end());
   std::vector<std::string> environment = EnvironmentOf(run);
   pid_t process = 0;
-  const int error = posix_spawn(&process, run.Program.c_str(), &preparation.Actions(), nullptr,
+  const int error = posix_spawn(&process, run.Program.c_str(), &preparation.Actions(), &preparation.Attributes(),
                                 Pointers(arguments).data(), Pointers(environment).data());
   Demand(error == 0, run.Program.c_str(), error);
   return process;

@@ -83,33 +83,31 @@ class Filter {
   // The exit status. What could not be answered or written ends it with an exception.
   int Run(std::streambuf& input) {
     std::future<int> written = std::async(std::launch::async, [this] { return Write(); });
-    bool interrupted = false;
     try {
-      interrupted = Read(input);
+      Read(input);
     } catch (...) {  // of input that cannot be read; the others must not wait for more
       Close();
       throw;
     }
     Close();
     const int status = written.get();
-    return interrupted ? kInterrupted : status;
+    return InterruptWatch::Came() ? kInterrupted : status;
   }
 
  private:
   static constexpr std::size_t kLinesForEachJob = 16;
 
-  // Whether Ctrl+C ended it. What was read is answered all the same, which takes a moment.
-  bool Read(std::streambuf& input) {
-    for (std::int64_t number = 1; !failed_; ++number) {
+  // Up to the end or Ctrl+C. What was read is answered all the same, which takes a moment, or until the answers are
+  // taken.
+  void Read(std::streambuf& input) {
+    for (std::int64_t number = 1; !failed_ && !InterruptWatch::Came(); ++number) {
       std::optional<std::string> line = NextLine(input);
-      if (InterruptWatch::Came()) return true;  // perhaps in the middle of the line
-      if (!line) break;
+      if (!line || InterruptWatch::Came()) break;  // perhaps in the middle of the line
       std::packaged_task<BatchAnswer()> task(
           [this, number, line = *std::move(line)] { return batch_.Answer(line, number); });
       answers_.Push(task.get_future());
       tasks_.Push(std::move(task));
     }
-    return false;
   }
 
   void Work() {

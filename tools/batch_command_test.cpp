@@ -160,6 +160,20 @@ TEST_F(BatchCommand, FailsOverWhatCannotBeRead) {
   EXPECT_THAT(outcome.Errors, StartsWith("Run-time error '"));
 }
 
+// SIGINT as a program finds it: SIG_DFL in the foreground, SIG_IGN where a shell starts it in the background.
+class StartedWith {
+ public:
+  explicit StartedWith(void (*interrupt)(int)) : before_(std::signal(SIGINT, interrupt)) {}
+  StartedWith(const StartedWith&) = delete;
+  StartedWith(StartedWith&&) = delete;
+  StartedWith& operator=(const StartedWith&) = delete;
+  StartedWith& operator=(StartedWith&&) = delete;
+  ~StartedWith() { std::signal(SIGINT, before_); }
+
+ private:
+  void (*before_)(int);
+};
+
 // Lines without end, with Ctrl+C in the middle of one.
 class EndlessLines final : public std::streambuf {
  public:
@@ -177,11 +191,12 @@ class EndlessLines final : public std::streambuf {
 
  private:
   int interruptedAt_;
-  int begun_ = 0;
+  std::atomic<int> begun_ = 0;
   std::string line_;
 };
 
 TEST_F(BatchCommand, EndsBetweenTwoLinesOnAnInterrupt) {
+  const StartedWith foreground(SIG_DFL);
   EndlessLines lines(100);
   std::ostringstream output;
   EXPECT_EQ(Run({"batch", "--jobs", "2", "--fields", "best"}, lines, output), kInterrupted);
@@ -193,14 +208,14 @@ TEST_F(BatchCommand, EndsBetweenTwoLinesOnAnInterrupt) {
 }
 
 // However fast the input comes, no more of it is taken than the answers that have been written make room for.
-class BlockedOutput final : public std::streambuf {
+class BlockedOutput final : public std::stringbuf {
  public:
   explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}
 
  protected:
   int_type overflow(int_type c) override {
     released_.wait();
-    return traits_type::not_eof(c);
+    return std::stringbuf::overflow(c);
   }
 
  private:
@@ -236,6 +251,27 @@ TEST_F(BatchCommand, ReadsNoFartherAheadThanItsWindow) {
   EXPECT_EQ(lines.begun, 400);
 }
 
+// The reader of lines waits for room then, and must not go on when there is some.
+TEST_F(BatchCommand, ReadsNothingMoreOnceInterruptedWhileItsOutputIsBlocked) {
+  const StartedWith foreground(SIG_DFL);
+  EndlessLines lines(-1);
+  std::promise<void> release;
+  BlockedOutput blocked(release.get_future().share());
+  std::ostream output(&blocked);
+  auto run = std::async(std::launch::async, [&] {
+    return Run({"batch", "--jobs", "2", "--fields", "best"}, lines, output);
+  });
+  EXPECT_EQ(run.wait_for(std::chrono::milliseconds(500)), std::future_status::timeout);
+  const int begun = lines.Begun();
+  ASSERT_GT(begun, 0);
+  static_cast<void>(std::raise(SIGINT));
+  release.set_value();
+  EXPECT_EQ(run.get(), kInterrupted);
+  EXPECT_EQ(lines.Begun(), begun);
+  EXPECT_EQ(Lines(blocked.str()).size(), static_cast<std::size_t>(begun)) << "what was read is answered";
+  EXPECT_THAT(blocked.str(), EndsWith("\n"));
+}
+
 TEST_F(BatchCommand, EndsWhereItsOutputFails) {
   class FullDisk final : public std::streambuf {};
   FullDisk full;
@@ -264,6 +300,13 @@ TEST(BoundedQueue, HandsEverythingOverInOrder) {
   EXPECT_TRUE(queue.IsEmpty());
 }
 
+TEST(InterruptWatch, LeavesAnIgnoredSignalIgnored) {
+  const StartedWith background(SIG_IGN);
+  const InterruptWatch watch;
+  static_cast<void>(std::raise(SIGINT));
+  EXPECT_FALSE(InterruptWatch::Came());
+}
+
 TEST(DescriptorInput, ReadsToTheEndOrToTheInterrupt) {
   std::array<int, 2> ends{};
   ASSERT_EQ(pipe(ends.data()), 0);
@@ -273,6 +316,7 @@ TEST(DescriptorInput, ReadsToTheEndOrToTheInterrupt) {
   std::string line;
   EXPECT_TRUE(std::getline(input, line));
   EXPECT_EQ(line, "one");
+  const StartedWith foreground(SIG_DFL);
   const InterruptWatch watch;
   std::jthread user([] {
     std::this_thread::sleep_for(std::chrono::milliseconds(50));

@@ -32,10 +32,12 @@ extern "C" void NoteInterrupt(int /*signal*/) {
 InterruptWatch::InterruptWatch() {
   if (pipe2(wakeUp.data(), O_CLOEXEC | O_NONBLOCK) != 0) FailOnFile(errno, "a pipe for Ctrl+C");
   came = false;
+  sigaction(SIGINT, nullptr, &before);
+  if (before.sa_handler == SIG_IGN) return;
   struct sigaction action {};
   action.sa_handler = NoteInterrupt;
   action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
-  sigaction(SIGINT, &action, &before);
+  sigaction(SIGINT, &action, nullptr);
 }
 
 InterruptWatch::~InterruptWatch() {

@@ -10,9 +10,9 @@
 
 namespace quillon {
 
-/// While it lives, the first SIGINT does not end the program but is noted, even where the program was started with that
-/// signal ignored, as shells start what runs in the background: whoever sends it means it. A second one ends the
-/// program as usual. There may be one at a time.
+/// While it lives, the first SIGINT does not end the program but is noted. A second one ends the program as usual.
+/// Where the program was started with that signal ignored, as shells start what runs in the background, it stays
+/// ignored: the Ctrl+C is for what runs in the foreground. There may be one at a time.
 class InterruptWatch {
  public:
   InterruptWatch();
