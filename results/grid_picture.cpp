@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "support/joined_text.h"
 #include "support/markup_text.h"
@@ -17,6 +18,8 @@ constexpr int kGap = 2;
 constexpr int kMargin = 12;
 constexpr int kGridGap = 28;
 constexpr int kCaptionHeight = 28;
+constexpr int kNoteLineHeight = 16;
+constexpr std::size_t kNoteLineLength = 130;  // characters of the small font that fit below a grid
 constexpr int kGridWidth = kRankCount * (kCellWidth + kGap) - kGap;
 constexpr int kGridHeight = kRankCount * (kCellHeight + kGap) - kGap;
 
@@ -38,6 +41,23 @@ std::string CellMarkup(std::string_view label, const PictureCell& cell, int left
   return markup + TextAt(middle, top + 18, fill, label) + TextAt(middle, top + 33, fill + " class=\"s\"", cell.Text);
 }
 
+std::vector<std::string> NoteLines(std::string_view note) {
+  std::vector<std::string> lines;
+  while (!note.empty()) {
+    const std::string_view word = note.substr(0, note.find(' '));
+    if (lines.empty() || lines.back().size() + 1 + word.size() > kNoteLineLength)
+      lines.emplace_back(word);
+    else
+      lines.back().append(" ").append(word);
+    note.remove_prefix(std::min(word.size() + 1, note.size()));
+  }
+  return lines;
+}
+
+int NoteHeight(const PictureGrid& grid) {
+  return static_cast<int>(NoteLines(grid.Note).size()) * kNoteLineHeight;
+}
+
 std::string GridMarkup(const PictureGrid& grid, int left, int top) {
   std::string markup;
   for (std::size_t i = 0; i < grid.Cells.size(); ++i) {
@@ -46,6 +66,9 @@ std::string GridMarkup(const PictureGrid& grid, int left, int top) {
     markup += CellMarkup(HandLabel(static_cast<std::int16_t>(i)), grid.Cells[i], left + column * (kCellWidth + kGap),
                          top + row * (kCellHeight + kGap));
   }
+  int below = top + kGridHeight;
+  for (const std::string& line : NoteLines(grid.Note))
+    markup += TextAt(left, below += kNoteLineHeight, R"( class="s" text-anchor="start")", line);
   return markup;
 }
 
@@ -56,7 +79,10 @@ std::string GridPicture(std::string_view title, std::span<const PictureGrid> gri
   const int top = kMargin + (captions ? kCaptionHeight : 0);
   const int count = static_cast<int>(grids.size());
   const std::string width = Number(2 * kMargin + count * kGridWidth + (count - 1) * kGridGap);
-  const std::string height = Number(top + kGridHeight + kMargin);
+  int noteHeight = 0;
+  for (const PictureGrid& grid : grids)
+    noteHeight = std::max(noteHeight, NoteHeight(grid));
+  const std::string height = Number(top + kGridHeight + noteHeight + kMargin);
   std::string markup = Joined(
       {R"(<svg xmlns="http://www.w3.org/2000/svg" width=")", width, "\" height=\"", height, "\" viewBox=\"0 0 ", width,
        " ", height, R"(" role="img" font-family="Arial, Helvetica, sans-serif" font-size="15" font-weight="bold" )",

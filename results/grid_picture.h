@@ -20,10 +20,11 @@ struct PictureCell {
 
 using PictureCells = std::array<PictureCell, kHandClassCount>;
 
-/// A grid with the line above it, or none.
+/// A grid with the line above it, or none, and a note below it, or none, which is broken into lines between words.
 struct PictureGrid {
   std::string Caption;
   PictureCells Cells;
+  std::string Note{};
 };
 
 /// One SVG document with the grids side by side. The title is for screen readers and for the tab of a browser. Labels

@@ -140,6 +140,17 @@ PageCell CellOf(const std::string& title, const StackLimit& limit, const Shades&
   return cell;
 }
 
+// What the stars of a picture stand for, since it has no panels.
+std::string GapsNote(const StackLimits& limits) {
+  std::string note;
+  for (std::size_t i = 0; i < limits.size(); ++i) {
+    if (limits[i].Gaps.empty()) continue;
+    note.append(note.empty() ? "* But not at: " : "; ").append(HandLabel(static_cast<std::int16_t>(i)));
+    note.append(" ").append(GapsText(limits[i]));
+  }
+  return note;
+}
+
 PageGrid GridOf(const std::string& title, const StackLimits& limits, const Steps& stacks) {
   Shades shades;
   shades.Add(LeadingNumber(stacks.Text(0)));
@@ -205,7 +216,7 @@ std::string ChartPage(const StackChart& chart, const Steps& stacks) {
 std::string ChartPicture(const StackChart& chart, const Steps& stacks) {
   const auto grid = [&stacks](const char* title, const StackLimits& limits) {
     return PictureGrid{std::string(title) + ", up to so many " + kUnit + " (* with gaps)",
-                       PictureOf(GridOf(title, limits, stacks))};
+                       PictureOf(GridOf(title, limits, stacks)), GapsNote(limits)};
   };
   return GridPicture("Up to which stack each hand is shoved, and called with",
                      std::array{grid(kShoveTitle, chart.Shove), grid(kCallTitle, chart.Call)});

@@ -90,7 +90,8 @@ TEST(ChartPage, TellsStacksAndGaps) {
 
 TEST(ChartPicture, ShowsBothGrids) {
   const std::string picture = ChartPicture(SomeChart(), std::get<Steps>(Steps::Read("1.1:20:0.1")));
-  for (const char* text : {">20+<", ">7.1*<", ">1.5<", ">Shove, up to so many big blinds (* with gaps)<"})
+  for (const char* text :
+       {">20+<", ">7.1*<", ">1.5<", ">Shove, up to so many big blinds (* with gaps)<", ">* But not at: AKs 2.3-5.1<"})
     EXPECT_THAT(picture, HasSubstr(text));
   std::size_t cells = 0;
   for (std::size_t at = 0; (at = picture.find("<rect class=", at)) != std::string::npos; ++at)

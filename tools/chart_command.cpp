@@ -96,7 +96,7 @@ constexpr std::array<Format<Answer>, 5> kFormats = {{
     {{"csv", "hand, shove, shove_gaps, call, call_gaps; what is never played is empty"}, CsvOutput},
     {{"json", "the same as one object; what is never played is null"}, JsonOutput},
     {{"html", "a web page of one file: both grids and a table"}, HtmlOutput},
-    {{"svg", "both grids as a picture"}, SvgOutput},
+    {{"svg", "both grids as a picture, and the gaps"}, SvgOutput},
 }};
 
 std::optional<Steps> StacksOf(const Request& request, CommandInputs& inputs) {

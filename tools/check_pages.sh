@@ -101,7 +101,7 @@ check_page raise.svg $golden/raise_grid.png 760 580 raise --shove 400 "${shove[@
 check_page limits.html $golden/limits_page.png 1180 900 limits raise "${shove[@]}"
 check_page limits.svg $golden/limits_grid.png 760 610 limits raise "${shove[@]}"
 check_page chart.html $golden/chart_page.png 1180 1500 chart
-check_page chart.svg $golden/chart_grids.png 1510 610 chart
+check_page chart.svg $golden/chart_grids.png 1510 660 chart
 
 # Those of the guide.
 guide=(raise --pot 1.5 --call 0.5 --hands any --calling-hands "top 30%")

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <istream>
 #include <nlohmann/json.hpp>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -440,6 +441,9 @@ TEST(ChartCommand, TellsTheSameInEachFormat) {
   const Json json = Json::parse(program.Run(With(chart, {"--format", "json"})).Output);
   const auto csv = Lines(program.Run(With(chart, {"--format", "csv"})).Output);
   const CompanionOutcome grid = program.Run(chart);
+  // With what is broken into lines as one.
+  const std::string svg = std::regex_replace(program.Run(With(chart, {"--format", "svg"})).Output,
+                                             std::regex("</text>\n<text [^>]*text-anchor=\"start\">"), " ");
   ASSERT_EQ(json["hands"].size(), 169U);
   ASSERT_EQ(csv.size(), 170U);
   EXPECT_EQ(csv.at(0), "hand,shove,shove_gaps,call,call_gaps");
@@ -457,6 +461,10 @@ TEST(ChartCommand, TellsTheSameInEachFormat) {
         if (gap["from"] != gap["to"]) gaps += "-" + NumberText(gap["to"]);
       }
       line += gaps;
+      if (gaps.empty()) continue;
+      const std::string label = hand["hand"];
+      EXPECT_THAT(grid.Output, HasSubstr("\n* " + label + " but not at " + gaps + "\n"));
+      EXPECT_THAT(svg, testing::ContainsRegex(label + " " + gaps + "(;|</text>)"));
     }
     EXPECT_EQ(csv.at(i + 1), line);
   }
