@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAccessibleObject>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -34,7 +35,7 @@ QAccessible::Role RoleOf(const Control& control) {
   return qobject_cast<const Picture*>(&control) != nullptr ? QAccessible::Graphic : QAccessible::StaticText;
 }
 
-// By way of a key, so that whatever takes the keyboard away from the program takes this away, too.
+// By way of a key, so that an event filter that takes the keyboard away from the program takes this away, too.
 void SendSpace(QWidget& control, QEvent::Type type) {
   QKeyEvent space(type, Qt::Key_Space, Qt::NoModifier);
   QCoreApplication::sendEvent(&control, &space);
@@ -46,8 +47,17 @@ void SetChecked(QAccessible::State& state, Qt::CheckState check) {
   state.checkStateMixed = check == Qt::PartiallyChecked;
 }
 
+// Qt stops the mouse and the keyboard for it where the system's events come in, which a screen reader's press passes.
+bool IsBehindAModalWindow(const QWidget& control) {
+  const QWidget* const modal = QApplication::activeModalWidget();
+  const QWidget* part = &control;
+  while (part != nullptr && part != modal)
+    part = part->parentWidget();
+  return part != modal;
+}
+
 bool CanBePressed(const QWidget& control) {
-  return control.isVisible() && control.isEnabled();
+  return control.isVisible() && control.isEnabled() && !IsBehindAModalWindow(control);
 }
 
 // What only looks nice: lines, grounds, and pictures of which there is nothing to say.

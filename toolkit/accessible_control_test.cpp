@@ -6,7 +6,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
@@ -217,6 +220,71 @@ TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
   EXPECT_EQ(Spoken(chooser).indexOfChild(Spoken(chooser).child(0)), 0);
   actions.doAction(open);
   EXPECT_FALSE(chooser.view()->isVisible());
+}
+
+// What the mouse and the keyboard cannot reach either.
+TEST(AccessibleControl, CannotBeUsedBehindAModalWindow) {
+  QWidget window;
+  Label link(&window);
+  link.SetUse(ControlUse::kLink);
+  QPushButton button(&window);
+  QCheckBox check(&window);
+  QComboBox chooser(&window);
+  window.show();
+  const QSignalSpy linkClicks(&link, &Control::Clicked);
+  const QSignalSpy buttonClicks(&button, &QPushButton::clicked);
+  const QSignalSpy toggles(&check, &QCheckBox::clicked);
+  const std::vector<QString> uses = {QAccessibleActionInterface::pressAction(),
+                                     QAccessibleActionInterface::toggleAction(),
+                                     QAccessibleActionInterface::showMenuAction()};
+  const auto useAll = [&] {
+    bool offered = false;
+    for (QWidget* control : std::initializer_list<QWidget*>{&link, &button, &check, &chooser}) {
+      QAccessibleActionInterface& actions = *Spoken(*control).actionInterface();
+      for (const QString& use : uses) {
+        offered = offered || actions.actionNames().contains(use);
+        actions.doAction(use);
+      }
+    }
+    return offered;
+  };
+
+  QMessageBox message;
+  QInputDialog input;
+  QFileDialog file;
+  file.setOption(QFileDialog::DontUseNativeDialog);
+  for (QDialog* box : std::initializer_list<QDialog*>{&message, &input, &file}) {
+    for (QWidget* parent : {static_cast<QWidget*>(nullptr), &window}) {
+      box->setParent(parent, box->windowFlags());
+      box->setModal(true);
+      box->show();
+      EXPECT_FALSE(useAll()) << box->metaObject()->className();
+      EXPECT_FALSE(chooser.view()->isVisible()) << box->metaObject()->className();
+      box->hide();
+    }
+    box->setParent(nullptr, box->windowFlags());
+  }
+  EXPECT_EQ(linkClicks.count() + buttonClicks.count() + toggles.count(), 0);
+
+  EXPECT_TRUE(useAll()) << "the modal windows are gone";
+  EXPECT_GT(linkClicks.count(), 0);
+  EXPECT_GT(buttonClicks.count(), 0);
+  EXPECT_GT(toggles.count(), 0);
+}
+
+TEST(AccessibleControl, CanBeUsedInAModalWindowAndItsChildWindows) {
+  QDialog box;
+  box.setModal(true);
+  QPushButton button(&box);
+  QWidget child(&box, Qt::Window);
+  QPushButton inner(&child);
+  box.show();
+  child.show();
+  for (QPushButton* control : {&button, &inner}) {
+    const QSignalSpy clicks(control, &QPushButton::clicked);
+    Spoken(*control).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(clicks.count(), 1);
+  }
 }
 
 TEST(AccessibleControl, ATopWindowIsAWindow) {

@@ -241,6 +241,26 @@ TEST_F(InputBlockTest, HearsWhatIsDoneToABoxThatComesUpDuringTheBlock) {
   EXPECT_EQ(answer, QMessageBox::Ok);
 }
 
+// The block hears everything while a box is up; the window under it is the box's to block.
+TEST_F(InputBlockTest, NeverLearnsOfAScreenReadersActionUnderABoxThatComesUpDuringTheBlock) {
+  Label label(nullptr);
+  label.SetUse(ControlUse::kLink);
+  Cover(label);
+  const QSignalSpy clicks(&label, &Control::Clicked);
+  const auto press = [&] {
+    QAccessible::queryAccessibleInterface(&label)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+  };
+  ExpectDialog([&](QDialog& box) {
+    press();
+    box.done(QMessageBox::Ok);
+  });
+  SeenWhileBlocked([&] { QMessageBox(QMessageBox::Critical, {}, {}, QMessageBox::Ok, &window).exec(); });
+  EXPECT_EQ(clicks.count(), 0);
+  press();
+  EXPECT_EQ(clicks.count(), 1);
+}
+
 TEST_F(InputBlockTest, HearsAgainAfterTheBlock) {
   SeenWhileBlocked([] {});
   // The way to a spot is one move, unless the mouse is there already.
