@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 
@@ -194,6 +195,10 @@ void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return DrawEdge(*painter, *option);
     case PE_PanelButtonCommand:
       return DrawButton(*painter, *option);
+    case PE_FrameFocusRect:
+      // Flat tool buttons have no edge of their own to tell it by.
+      if (qobject_cast<const QToolButton*>(widget) != nullptr) return DrawEdge(*painter, *option);
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_IndicatorCheckBox:
       return DrawCheckBox(*painter, *option);
     default:

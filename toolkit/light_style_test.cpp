@@ -4,13 +4,18 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <memory>
 
 #include "toolkit/colors.h"
@@ -62,6 +67,45 @@ TEST_F(LightStyleTest, DrawsEdgesThatStandOutFromWhite) {
       for (const QPoint& edge : {QPoint(0, 40), QPoint(199, 40), QPoint(100, 0), QPoint(100, 79)}) {
         EXPECT_GE(ContrastRatio(FromColor(image.pixelColor(edge)), FromColor(QColor::fromRgb(white))), kLeast)
             << kind << " at " << scale << ": " << edge.x() << ", " << edge.y();
+      }
+    }
+  }
+}
+
+// What the focus changes on each side of a control of a box stands out from what was there.
+TEST_F(LightStyleTest, MarksTheFocusOnEachSide) {
+  constexpr double kLeast = 3;
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    QDialog box;
+    QPushButton other(&box);
+    QPushButton push(&box);
+    QLineEdit line(&box);
+    QListView list(&box);
+    QToolButton tool(&box);
+    tool.setAutoRaise(true);
+    box.resize(600, 400);
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    for (QWidget* control : std::initializer_list<QWidget*>{&push, &line, &list, &tool}) {
+      control->setGeometry(100, 100, 120, 80);
+      other.setFocus(Qt::TabFocusReason);
+      const QImage before = control->grab().toImage();
+      control->setFocus(Qt::TabFocusReason);
+      ASSERT_TRUE(control->hasFocus());
+      const QImage after = control->grab().toImage();
+      const QPoint middle = before.rect().center();
+      constexpr int kDepth = 6;
+      for (const QPoint inward : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
+        const QPoint edge(inward.x() == 0 ? middle.x() : (inward.x() > 0 ? 0 : before.width() - 1),
+                          inward.y() == 0 ? middle.y() : (inward.y() > 0 ? 0 : before.height() - 1));
+        double most = 1;
+        for (int depth = 0; depth < kDepth; ++depth) {
+          const QPoint point = edge + inward * depth;
+          most = std::max(most, ContrastRatio(FromColor(before.pixelColor(point)), FromColor(after.pixelColor(point))));
+        }
+        EXPECT_GE(most, kLeast) << control->metaObject()->className() << " at " << scale << " from " << edge.x() << ", "
+                                << edge.y();
       }
     }
   }
