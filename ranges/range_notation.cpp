@@ -22,6 +22,7 @@ constexpr std::string_view kSeparators = ",; \t\r\n";
 constexpr std::string_view kHalfAHand = "a hand is two cards, such as AKs, AK or 88";
 constexpr std::string_view kBadRun =
     "a run goes from pair to pair, keeps its high card, or falls with both cards, all suited or all offsuit";
+constexpr std::string_view kSpacedRun = "a run has no space before or after its dash, as in JJ-88";
 constexpr std::string_view kBadShare = "a share is from 0% to 100%";
 constexpr std::string_view kBadWeight = "a weight is from 0 to 1, or from 0% to 100%";
 
@@ -130,7 +131,17 @@ class NotationReader {
     return true;
   }
 
+  // After hands and spaces, with no other separator between them.
+  [[nodiscard]] bool SpacedDashIsNext() const {
+    return !named_.empty() && Rest().starts_with('-') &&
+           kSeparators.find(text_[text_.find_last_not_of(kBlanks, place_ - 1)]) == std::string_view::npos;
+  }
+
   void ReadItem() {
+    if (SpacedDashIsNext()) {
+      Fail(kSpacedRun);
+      return;
+    }
     named_.clear();
     if (!ReadClasses()) return;
     const std::optional<double> weight = ReadWeight();
@@ -201,6 +212,7 @@ class NotationReader {
       Name(*first);
       return true;
     }
+    if (!Rest().empty() && kBlanks.find(Rest().front()) != std::string_view::npos) return Fail(kSpacedRun);
     const std::optional<WrittenHand> second = TakeHand();
     return second && NameRun(*first, *second);
   }

@@ -9,7 +9,8 @@
 //
 //     88   AKs   AKo   AK               one class; AK is AKs and AKo
 //     88+  ATs+  AT+                    that class and every better one; of two ranks the high card stays
-//     JJ-88   A9s-AQs   76s-54s         all classes between the two, in either order; the high card stays, or both fall
+//     JJ-88   A9s-AQs   76s-54s         all classes between the two, in either order, without spaces; the high card
+//                                       stays, or both fall
 //     top 15%   15%                     the best classes by a given order, as many as come nearest to that share
 //     any   [Everything]                all classes
 //     none   [None]                     no class

@@ -136,6 +136,7 @@ TEST(RangeNotation, ReadsWeights) {
 }
 
 TEST(RangeNotation, AnErrorMarksTheItem) {
+  const std::string spaced = "a run has no space before or after its dash, as in JJ-88";
   const std::string run =
       "a run goes from pair to pair, keeps its high card, or falls with both cards, all suited or all offsuit";
   const std::string weight = "a weight is from 0 to 1, or from 0% to 100%";
@@ -155,8 +156,11 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"A", "A\n^ " + half},
            {"A,K", "A,K\n^ " + half},
            {"KK A+", "KK A+\n   ^ " + half},
-           {"JJ - 88", "JJ - 88\n   ^ " + half},
            {"88s", "88s\n^ a pair is neither suited nor offsuit"},
+           {"JJ - 88", "JJ - 88\n   ^ " + spaced},
+           {"AA JJ -88", "AA JJ -88\n      ^ " + spaced},
+           {"JJ- 88", "JJ- 88\n^ " + spaced},
+           {"JJ, -88", "JJ, -88\n    ^ " + half},
            {"QQ-AKs", "QQ-AKs\n^ " + run},
            {"AQs-A9o", "AQs-A9o\n^ " + run},
            {"AQs-A9", "AQs-A9\n^ " + run},

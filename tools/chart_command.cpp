@@ -93,7 +93,8 @@ std::string SvgOutput(const Answer& answer) {
 
 constexpr std::array<Format<Answer>, 5> kFormats = {{
     {{"grid", "two grids to read, and the gaps; a plus is the largest stack of the chart"}, PlainOutput},
-    {{"csv", "hand, shove, shove_gaps, call, call_gaps; what is never played is empty"}, CsvOutput},
+    {{"csv", "hand, shove, shove_gaps, call, call_gaps; empty means never, the last stack means at least that"},
+     CsvOutput},
     {{"json", "the same as one object; what is never played is null"}, JsonOutput},
     {{"html", "a web page of one file: both grids and a table"}, HtmlOutput},
     {{"svg", "both grids as a picture, and the gaps"}, SvgOutput},

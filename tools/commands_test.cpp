@@ -362,6 +362,13 @@ TEST(SweepCommand, GoesThroughWidthsInEachFormat) {
   EXPECT_EQ(Lines(program.Run(width).Output).at(0), "width  profitable       KTo");
 }
 
+TEST(SweepCommand, HasOneColumnForAHandThatIsNamedTwice) {
+  const CompanionProgram program;
+  const CompanionOutcome outcome = program.Run({"sweep", "call", "--pot", "9", "--call", "1", "--width", "5:5:1",
+                                                "--hand", "AA", "KK", "AA", "--format", "csv"});
+  EXPECT_EQ(Lines(outcome.Output).at(0), "width,profitable,AA,KK");
+}
+
 TEST(SweepCommand, RoundsTheShareInItsTableOnly) {
   const CompanionProgram program;
   const Arguments width = {"sweep", "call", "--pot", "100", "--call", "90", "--width", "10:10:1"};

@@ -220,7 +220,16 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
   return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
 }
 
-int Sweep(AnalysisMode mode, const Request& request, const Surroundings& surroundings) {
+std::vector<std::string> EachOnce(std::vector<std::string> hands) {
+  std::vector<std::string> once;
+  for (std::string& hand : hands) {
+    if (std::ranges::find(once, hand) == once.end()) once.push_back(std::move(hand));
+  }
+  return once;
+}
+
+int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) {
+  request.hands = EachOnce(std::move(request.hands));
   const auto count = static_cast<std::size_t>(ScenarioOf(mode).AmountCount);
   const std::optional<std::size_t> swept = SweptPlace(request, count);
   CommandInputs inputs(surroundings, request.folder);
