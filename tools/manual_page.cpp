@@ -88,7 +88,7 @@ constexpr std::string_view kEnvironment =
 }  // namespace
 
 std::string ManualPage(const CommandText& root, std::string_view exitStatuses, const std::string& guide) {
-  std::string page = ".TH QUILLON\\-CLI 1 \"\" \"Quillon " + std::string(kVersionText) + "\" \"User Commands\"\n";
+  std::string page = R"(.TH QUILLON\-CLI 1 "" "Quillon )" + std::string(kVersionText) + "\" \"User Commands\"\n";
   page += ".SH NAME\nquillon\\-cli \\- " + Plain(root.Description) + "\n";
   page += ".SH SYNOPSIS\n.B quillon\\-cli\n" + Italic("COMMAND") + " [" + Italic("OPTION") + "...]\n";
   page += ".SH DESCRIPTION\nThe companion of\n.BR quillon (1),\nfor scripts and for machines without a display.\n";

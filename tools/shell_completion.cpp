@@ -239,6 +239,7 @@ std::string FishLines(const CommandText& command) {
 std::string FishCompletion(const CommandText& root) {
   const std::vector<const CommandText*> commands = AllCommands(root);
   std::vector<std::string> paths;
+  paths.reserve(commands.size());
   for (const CommandText* command : commands)
     paths.push_back(FishQuoted(command->Path));
   std::string script =

@@ -20,10 +20,11 @@ std::string AnalysisView::SelectedRange(std::int16_t index) const {
 void AnalysisView::Stop(AnalysisState& state) {
   StopAnalysis(state);
   stop_ = AnsweredAct();
+  isStopping_ = true;
 }
 
 void AnalysisView::ShowFrame(std::string_view name) {
-  const Answering answering(std::exchange(stop_, {}).value_or(AnsweredAct()));
+  const Answering answering(std::exchange(isStopping_, false) ? stop_ : AnsweredAct());
   parts_.Screens.ShowFrame(name);
 }
 

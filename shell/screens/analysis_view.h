@@ -3,7 +3,6 @@
 // The main window as an analysis sees it.
 
 #include <functional>
-#include <optional>
 #include <utility>
 
 #include "analysis/analysis_state.h"
@@ -56,7 +55,8 @@ class AnalysisView : public AnalysisWindow {
 
  private:
   Parts parts_;
-  std::optional<UserAct> stop_;  // until it has been answered
+  UserAct stop_;
+  bool isStopping_ = false;  // until the stop has been answered
 };
 
 }  // namespace quillon
