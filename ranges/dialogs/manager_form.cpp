@@ -7,7 +7,9 @@
 #include <utility>
 
 #include "ranges/dialogs/form_place.h"
+#include "ranges/range_messages.h"
 #include "ranges/range_names.h"
+#include "toolkit/accessible_control.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/text.h"
 
@@ -77,6 +79,7 @@ void ManagerForm::ClickNew() {
   ShowSelectionCaption();
   SaveGridAs(answer);
   RefreshAndSelect(answer);
+  Announce(*this, ToQt(RangeSavedMessage(answer).text));  // no box tells of it
 }
 
 void ManagerForm::ClickSave() {

@@ -437,7 +437,10 @@ TEST_F(ManagerFormTest, ASavedRangeIsAnnounced) {
   ExpectInputBox(kSaveAsQuestion, "Pushes");
   ExpectMessageBox(Saved("Pushes"));
   Click("imgSaveAs");
-  EXPECT_THAT(heard.Texts(), testing::ElementsAre(Saved("Button Shove").text, Saved("Pushes").text));
+  ExpectInputBox(kNewQuestion, "Folds");
+  Click("imgNew");
+  EXPECT_THAT(heard.Texts(),
+              testing::ElementsAre(Saved("Button Shove").text, Saved("Pushes").text, Saved("Folds").text));
 }
 
 }  // namespace
