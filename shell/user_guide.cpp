@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "support/windows_1252.h"
+
 namespace quillon {
 
 std::filesystem::path UserGuidePath(const std::filesystem::path& sharedFolder) {
@@ -10,8 +12,8 @@ std::filesystem::path UserGuidePath(const std::filesystem::path& sharedFolder) {
 
 Message NoUserGuideMessage(const std::filesystem::path& guide) {
   return {std::string(kApplicationTitle),
-          "The user guide could not be opened. It is the file:\r\n\r\n" + guide.string(), MessageIcon::kExclamation,
-          MessageButtons::kOk};
+          "The user guide could not be opened. It is the file:\r\n\r\n" + TextOfFileName(guide.string()),
+          MessageIcon::kExclamation, MessageButtons::kOk};
 }
 
 }  // namespace quillon

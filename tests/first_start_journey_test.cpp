@@ -191,10 +191,33 @@ TEST_F(StartJourney, NameTooShortForARangeFileEndsTheProgram) {
 }
 
 TEST_F(StartJourney, FolderWhoseNameIsNotUtf8IsTheProgramsAllTheSame) {
-  const fs::path folder = Session().StartFromAnother("K\xE4se");
-  static_cast<void>(Session().WaitForWindow("Quillon 0.9"));
-  EXPECT_TRUE(fs::is_directory(folder / "Ranges"));
-  EXPECT_TRUE(fs::is_directory(folder / "Saved Grids"));
+  Session().AddCommand("xdg-open");
+  const fs::path folder = StartProgramWithRangesFrom("K\xE4se");
+  const fs::path grids = folder / "Saved Grids";
+  const QUrl parent = QUrl::fromLocalFile(QString::fromStdString(folder.parent_path().string()));
+  const std::string address = parent.toEncoded().toStdString() + "/K%E4se/";
+  ASSERT_TRUE(fs::is_directory(grids));
+  Session().Press({"F1"});
+  EXPECT_EQ(Session().CommandArguments("xdg-open"), address + "Guide/user-guide.html\n");
+
+  Analyze(kRaiseRun, {"150", "50", "400", "Button Shove", "Big Blind Call"});
+  Click("imgSave");
+  const Window first = Session().WaitForWindow("Save Expected Value Grid");
+  Session().Type("shove");
+  Answer(first, {"Return"});
+  Answer(Session().WaitForWindow("Open Now?"), {"alt+n"});
+  EXPECT_TRUE(fs::exists(grids / "shove"));
+
+  // The folder and the name are those of before.
+  Click("imgSave");
+  const Window second = Session().WaitForWindow("Save Expected Value Grid");
+  fs::remove(grids / "shove");
+  Answer(second, {"Return"});
+  Session().AddCommand("xdg-open");
+  Answer(Session().WaitForWindow("Open Now?"), {"alt+y"});
+  EXPECT_EQ(Session().CommandArguments("xdg-open"), address + "Saved%20Grids/shove\n");
+  EXPECT_EQ(ReadAllBytes(grids / "shove").substr(0, 2), "BM");
+  EXPECT_EQ(CloseProgram(), 0);
 }
 
 }  // namespace

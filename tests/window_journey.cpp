@@ -77,6 +77,16 @@ void WindowJourney::StartProgramWithRanges() {
   StartProgram();
 }
 
+fs::path WindowJourney::StartProgramWithRangesFrom(const std::string& folderName) {
+  session_.AddExampleRanges();
+  const fs::path program = session_.Program().Path;
+  fs::create_directory(program / folderName);
+  fs::copy(program / "Ranges", program / folderName / "Ranges");
+  fs::path folder = session_.StartFromAnother(folderName);
+  main_ = session_.WaitForWindow(kMainTitle);
+  return folder;
+}
+
 int WindowJourney::CloseProgram() {
   session_.Press({"alt+F4"});
   return session_.WaitForEnd();

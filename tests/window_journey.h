@@ -6,6 +6,7 @@
 #include <QImage>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -50,6 +51,8 @@ class WindowJourney : public testing::Test {
   void StartProgram();
   /// The same, with the example ranges in its folder.
   void StartProgramWithRanges();
+  /// The same from a folder of that name in the program's own; returns the folder.
+  std::filesystem::path StartProgramWithRangesFrom(const std::string& folderName);
   /// Closes the main window as the window manager's user does, and waits for the end. Returns the exit status.
   int CloseProgram();
 

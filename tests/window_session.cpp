@@ -150,6 +150,7 @@ void WindowSession::AddCommand(const std::string& name) const {
   const fs::path command = home_ / "bin" / name;
   std::ofstream(command) << "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.new\" && mv \"$0.new\" \"$0.arguments\"\n";
   fs::permissions(command, fs::perms::owner_all);
+  fs::remove(command.string() + ".arguments");
 }
 
 std::string WindowSession::CommandArguments(const std::string& name) const {

@@ -73,7 +73,8 @@ class WindowSession {
   /// The exit status of the program, which ends now.
   [[nodiscard]] int WaitForEnd() const;
 
-  /// The commands that the program finds, by name, and what they are given. A command does nothing but write that down.
+  /// The commands that the program finds, by name, and what they are given. A command does nothing but write that down,
+  /// and one that is added again has not been called yet.
   void AddCommand(const std::string& name) const;
   [[nodiscard]] std::string CommandArguments(const std::string& name) const;
 

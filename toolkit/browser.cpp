@@ -16,6 +16,11 @@ constexpr qint64 kLongEnoughForABrowser = 10'000;
 
 }  // namespace
 
+QUrl AddressOfFile(const std::filesystem::path& file) {
+  const QByteArray path = QByteArray::fromStdString(file.string());
+  return QUrl::fromEncoded("file://" + path.toPercentEncoding("/!$&'()*+,;=:@"));
+}
+
 void OpenInBrowser(const QUrl& address, std::function<void()> missing) {
   auto* opener = new QProcess(qApp);
   // A session of its own: the browser stays when the terminal of the program is closed.

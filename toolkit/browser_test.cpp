@@ -1,5 +1,6 @@
 #include "toolkit/browser.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 #include "testing/fake_opener.h"
@@ -15,6 +16,22 @@ TEST(Browser, IsGivenTheAddressAsItIsWritten) {
   OpenInBrowser(QUrl(QStringLiteral("http://www.quillon.example/a b?c=%2B&d")), [&missed] { ++missed; });
   EXPECT_EQ(opener.Opened(), "http://www.quillon.example/a%20b?c=%2B&d\n");
   EXPECT_EQ(missed, 0);
+}
+
+TEST(Browser, FindsAFileByTheBytesOfItsName) {
+  struct Row {
+    const char* File;
+    const char* Address;
+  };
+  constexpr std::array kRows = {
+      Row{"/home/ann/My Quillon/guide.html", "file:///home/ann/My%20Quillon/guide.html"},
+      Row{"/K\xC3\xA4se/guide.html", "file:///K%C3%A4se/guide.html"},
+      Row{"/K\xE4se/guide.html", "file:///K%E4se/guide.html"},
+      Row{"/100% #1?/it's (a) guide.html", "file:///100%25%20%231%3F/it's%20(a)%20guide.html"},
+      Row{"/%E4/guide.html", "file:///%25E4/guide.html"},
+  };
+  for (const Row& row : kRows)
+    EXPECT_EQ(AddressOfFile(row.File).toEncoded().toStdString(), row.Address);
 }
 
 TEST(Browser, ThatIsNotThereIsMissedOnce) {

@@ -1,3 +1,4 @@
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -5,6 +6,7 @@
 #include <QImageReader>
 #include <QPushButton>
 #include <QScreen>
+#include <QWheelEvent>
 #include <set>
 
 #include "testing/main_stage.h"
@@ -195,6 +197,24 @@ TEST_F(GridImageInWindow, AFolderIsEnteredAndATildeIsTheHome) {
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Click("imgSave");
   EXPECT_TRUE(std::filesystem::remove(Home() / "at home.bmp"));
+}
+
+TEST_F(GridImageInWindow, TheWheelOverTheListOfFoldersLeavesTheFolder) {
+  ExpectDialog([this](QDialog& dialog) {
+    for (QComboBox* list : dialog.findChildren<QComboBox*>()) {
+      list->showPopup();  // has no folder but the present one before that
+      list->hidePopup();
+      LineOf(dialog).setFocus();
+      const QPointF spot = QRectF(list->rect()).center();
+      for (const int turn : {120, -120}) {
+        QWheelEvent wheel(spot, list->mapToGlobal(spot), {}, {0, turn}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(list, &wheel);
+        EXPECT_EQ(FromQt(dynamic_cast<QFileDialog&>(dialog).directory().absolutePath()), SavedGrids().string());
+      }
+    }
+    dialog.reject();
+  });
+  Click("imgSave");
 }
 
 TEST_F(GridImageInWindow, ANameIsOneLine) {

@@ -1,6 +1,7 @@
 #include "shell/screens/grid_image_view.h"
 
 #include <QBuffer>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QEventLoop>
@@ -11,8 +12,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
-#include <QUrl>
 #include <climits>
+#include <dirent.h>
+#include <memory>
 #include <utility>
 
 #include "shell/grid_image.h"
@@ -21,10 +23,13 @@
 #include "support/files.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
+#include "support/windows_1252.h"
+#include "toolkit/browser.h"
 #include "toolkit/placement.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
+#include "toolkit/wheel_focus.h"
 
 namespace quillon {
 namespace {
@@ -51,6 +56,8 @@ class FileNameDialog : public QFileDialog {
     setFileMode(AnyFile);
     line_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     KeepToOneLine(*line_);
+    for (QComboBox* list : findChildren<QComboBox*>())
+      TurnByWheelWithFocusOnly(*list);
     QPushButton* save = findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save);
     connect(line_, &QLineEdit::textChanged, save, [save](const QString& text) { save->setEnabled(!text.isEmpty()); });
   }
@@ -79,6 +86,36 @@ class FileNameDialog : public QFileDialog {
   QString fileName_;
 };
 
+// A folder as Qt knows it, whose names of files are Unicode. One with a path that is not UTF-8 is reached by way of
+// this process's own hold on it, as long as this lives.
+class FolderForQt {
+ public:
+  explicit FolderForQt(const std::string& path) : path_(path), name_(ToQt(path)) {
+    if (FromQt(name_) == path) return;
+    hold_.reset(opendir(path.c_str()));
+    if (hold_ != nullptr) name_ = QStringLiteral("/proc/self/fd/%1").arg(dirfd(hold_.get()));
+  }
+
+  [[nodiscard]] const QString& Name() const { return name_; }
+  [[nodiscard]] QString NameOf(const std::string& file) const {
+    const bool within = file.starts_with(path_ + '/');
+    return within ? name_ + ToQt(std::string_view(file).substr(path_.size())) : ToQt(file);
+  }
+  [[nodiscard]] std::string PathOf(const QString& file) const {
+    const bool within = file.startsWith(name_ + QLatin1Char('/'));
+    return within ? path_ + FromQt(file.mid(name_.size())) : FromQt(file);
+  }
+
+ private:
+  struct Closer {
+    void operator()(DIR* folder) const { closedir(folder); }
+  };
+
+  std::string path_;
+  QString name_;
+  std::unique_ptr<DIR, Closer> hold_;
+};
+
 // The save dialog has just closed; what lay under it is drawn again before the screen is copied.
 void WaitForTheScreen() {
   QEventLoop loop;
@@ -91,8 +128,8 @@ void WaitForTheScreen() {
 
 // In the image program of the desktop.
 void OpenImage(const std::string& fileName) {
-  if (QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(fileName)))) return;
-  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + fileName);
+  if (QDesktopServices::openUrl(AddressOfFile(fileName))) return;
+  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + TextOfFileName(fileName));
 }
 
 }  // namespace
@@ -113,10 +150,10 @@ void GridImageView::Save() {
 // As it was typed: no extension is added, quotes are part of it, and a file that is there is no reason to ask. Empty if
 // the dialog is cancelled.
 std::string GridImageView::AskName() {
-  const QString folder = ToQt(SavedGridsFolderPath(folder_).string());
-  FileNameDialog box(&form_, ToQt(kSaveImageTitle), folder, NameFilter(kSaveImageFilter));
-  if (!lastName_.empty()) box.selectFile(ToQt(lastName_));
-  return box.exec() == QDialog::Accepted ? FromQt(box.FileName()) : std::string();
+  const FolderForQt folder(SavedGridsFolderPath(folder_).string());
+  FileNameDialog box(&form_, ToQt(kSaveImageTitle), folder.Name(), NameFilter(kSaveImageFilter));
+  if (!lastName_.empty()) box.selectFile(folder.NameOf(lastName_));
+  return box.exec() == QDialog::Accepted ? folder.PathOf(box.FileName()) : std::string();
 }
 
 // The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that

@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QIcon>
 #include <QPushButton>
-#include <QUrl>
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -272,8 +271,7 @@ void MainForm::Run(std::int16_t button) {
 
 void MainForm::ShowUserGuide() {
   const std::filesystem::path& guide = around_.UserGuide;
-  OpenInBrowser(QUrl::fromLocalFile(ToQt(guide.string())),
-                [this, guide] { around_.Messages.Show(NoUserGuideMessage(guide)); });
+  OpenInBrowser(AddressOfFile(guide), [this, guide] { around_.Messages.Show(NoUserGuideMessage(guide)); });
 }
 
 // The side panel comes first. Nobody has the focus until somebody is given it: the window keeps it.
