@@ -13,9 +13,13 @@ namespace {
 constexpr std::string_view kSection = "View";
 constexpr std::string_view kKey = "Zoom";
 
-bool Fits(int percent, TwipSize window, TwipSize room) {
+// What a window manager puts round a window. It cannot be asked before the window shows; most title bars are lower.
+constexpr float kTitleBar = 40 * kTwipsPerPixel;
+constexpr float kSideBorders = 4 * kTwipsPerPixel;
+
+bool Fits(int percent, TwipSize window, TwipSize screen) {
   const float scale = static_cast<float>(percent) / kDesignZoom;
-  return window.Width * scale <= room.Width && window.Height * scale <= room.Height;
+  return window.Width * scale + kSideBorders <= screen.Width && window.Height * scale + kTitleBar <= screen.Height;
 }
 
 }  // namespace
@@ -30,9 +34,9 @@ int SmallerZoom(int percent) {
   return same == kZoomSteps.begin() ? kZoomSteps.front() : *std::prev(same);
 }
 
-int FittingZoom(TwipSize window, TwipSize room) {
+int FittingZoom(TwipSize window, TwipSize screen) {
   int percent = kDesignZoom;
-  while (percent > kZoomSteps.front() && !Fits(percent, window, room))
+  while (percent > kZoomSteps.front() && !Fits(percent, window, screen))
     percent = SmallerZoom(percent);
   return percent;
 }

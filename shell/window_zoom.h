@@ -19,9 +19,10 @@ inline constexpr int kDesignZoom = 100;
 [[nodiscard]] int LargerZoom(int percent);
 [[nodiscard]] int SmallerZoom(int percent);
 
-/// 100, or the largest smaller step at which a window of that size fits into `room`, or the smallest where it fits at
-/// none. An exact fit counts as inside.
-[[nodiscard]] int FittingZoom(TwipSize window, TwipSize room);
+/// 100, or the largest smaller step at which a window of that size and what a window manager puts round it fit on the
+/// screen, or the smallest where they fit at none. An exact fit counts as inside. `screen` is what panels leave of it,
+/// in twips of the desktop's logical pixels.
+[[nodiscard]] int FittingZoom(TwipSize window, TwipSize screen);
 
 /// What was kept; nothing where there is no such setting or it is none of the steps.
 [[nodiscard]] std::optional<int> StoredZoom(const ProgramFolder& folder);

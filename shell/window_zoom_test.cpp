@@ -26,24 +26,44 @@ TEST(WindowZoom, GoesFromStepToStepAndEndsAtTheLast) {
   }
 }
 
-TEST(WindowZoom, IsTheLargestUpToTheDesignsAtWhichTheWindowFits) {
+TEST(WindowZoom, IsTheLargestUpToTheDesignsAtWhichTheFramedWindowFits) {
   struct Row {
     const char* Rule;
-    TwipSize Room;
+    TwipSize Screen;
     int Percent;
   };
   constexpr TwipSize kWindow = {.Width = 15000, .Height = 9000};
   constexpr std::array kRows = {
       Row{"much room is not used up", {60000, 60000}, 100},
-      Row{"an exact fit is one", {15000, 9000}, 100},
-      Row{"too narrow", {14999, 9000}, 90},
-      Row{"too low", {15000, 8999}, 90},
-      Row{"an exact fit at a smaller step", {13500, 8100}, 90},
-      Row{"just below it", {13499, 8100}, 75},
+      Row{"an exact fit is one", {15060, 9600}, 100},
+      Row{"too narrow", {15059, 9600}, 90},
+      Row{"too low", {15060, 9599}, 90},
+      Row{"an exact fit at a smaller step", {13560, 8700}, 90},
+      Row{"just below it", {13559, 8700}, 75},
       Row{"where it never fits it is as small as it gets", {1000, 1000}, 75},
   };
   for (const Row& row : kRows)
-    EXPECT_EQ(FittingZoom(kWindow, row.Room), row.Percent) << row.Rule;
+    EXPECT_EQ(FittingZoom(kWindow, row.Screen), row.Percent) << row.Rule;
+}
+
+TEST(WindowZoom, FitsTheMainWindowOnUsualScreens) {
+  struct Row {
+    float Width;
+    float Height;
+    float DesktopScale;
+    int Percent;
+  };
+  constexpr std::array kRows = {
+      Row{3840, 2160, 1, 100},    Row{3840, 2160, 2, 100}, Row{1920, 1080, 1, 100},
+      Row{1920, 1080, 1.5F, 100}, Row{1920, 1080, 2, 75},  Row{1366, 768, 1, 100},
+      Row{1280, 720, 1, 100},     Row{1024, 600, 1, 90},   Row{800, 600, 1, 75},
+  };
+  constexpr TwipSize kMainWindow = {.Width = 15300, .Height = 9045};
+  for (const Row& row : kRows) {
+    const float twips = kTwipsPerPixel / row.DesktopScale;
+    EXPECT_EQ(FittingZoom(kMainWindow, {.Width = row.Width * twips, .Height = row.Height * twips}), row.Percent)
+        << row.Width << " by " << row.Height << " at " << row.DesktopScale;
+  }
 }
 
 TEST(WindowZoom, IsKeptAsAStepAndNothingElse) {

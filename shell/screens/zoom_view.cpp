@@ -11,14 +11,6 @@
 #include "toolkit/placement.h"
 
 namespace quillon {
-namespace {
-
-// What a window manager puts round a window, in the desktop's logical pixels. It cannot be asked before the window
-// shows; most title bars are lower.
-constexpr float kTitleBar = 40;
-constexpr float kSideBorders = 4;
-
-}  // namespace
 
 ZoomView::ZoomView(QWidget& form, ProgramFolder folder) : form_(form), folder_(std::move(folder)) {
   const auto bind = [this](const char* keys, int (*stepFrom)(int percent)) {
@@ -34,7 +26,8 @@ ZoomView::ZoomView(QWidget& form, ProgramFolder folder) : form_(form), folder_(s
 
 void ZoomView::Start() {
   const TwipRect design = PlaceOf(form_);
-  Show(StoredZoom(folder_).value_or(FittingZoom({.Width = design.Width, .Height = design.Height}, Room())));
+  const TwipSize screen = ScreenTwips(form_.screen()->availableSize());
+  Show(StoredZoom(folder_).value_or(FittingZoom({.Width = design.Width, .Height = design.Height}, screen)));
 }
 
 void ZoomView::Choose(int percent) {
@@ -48,11 +41,6 @@ void ZoomView::Choose(int percent) {
 void ZoomView::Show(int percent) {
   percent_ = percent;
   ShowAtScale(DesktopScale(form_.screen()) * percent / kDesignZoom);
-}
-
-TwipSize ZoomView::Room() const {
-  const TwipSize room = ScreenTwips(form_.screen()->availableSize());
-  return {.Width = room.Width - kSideBorders * kTwipsPerPixel, .Height = room.Height - kTitleBar * kTwipsPerPixel};
 }
 
 }  // namespace quillon

@@ -23,7 +23,6 @@ class ZoomView {
  private:
   void Choose(int percent);
   void Show(int percent);
-  [[nodiscard]] TwipSize Room() const;
 
   QWidget& form_;
   ProgramFolder folder_;
