@@ -138,6 +138,16 @@ TEST(AnalysisPage, OfARaiseHasTheFiguresOfEachHand) {
                           HasSubstr("<dt>His Calling Range</dt><dd><b>Tight</b><br>AA</dd>")));
 }
 
+TEST(AnalysisPage, RoundsAmountsToTwoDecimals) {
+  Analysis analysis = sample::RaiseState();
+  analysis.PotSize = 1.005;
+  analysis.CallAmount = 0.126;
+  analysis.ShoveAmount = 62.3456;
+  EXPECT_THAT(AnalysisPage(analysis), AllOf(HasSubstr("<dt>Pot Size</dt><dd><b>1</b></dd>"),
+                                            HasSubstr("<dt>Call Amount</dt><dd><b>0.13</b></dd>"),
+                                            HasSubstr("<dt>Shove Amount</dt><dd><b>62.35</b></dd>")));
+}
+
 TEST(AnalysisPage, OfAnEquityHasNoAmountsAndNoValues) {
   const std::string page = AnalysisPage(sample::EquityState());
   EXPECT_THAT(page, AllOf(Not(HasSubstr("Pot Size")), Not(HasSubstr(">EV<")), HasSubstr("Equity Grid")));

@@ -151,6 +151,27 @@ TEST(SweepPicture, HoldsNumbersOfAnySize) {
   }
 }
 
+TEST(SweepPicture, LeavesRoomBetweenNumbersOfAnyLength) {
+  constexpr double kDigitWidth = 7;
+  for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{
+           {"0", "10"}, {"123456", "234567"}, {"100000000000000", "900000000000000"}}) {
+    const std::string picture = SweepPicture({"", "", {"AA"}}, std::vector<SweepRow>{{from, 0, {1}}, {to, 0, {2}}});
+    double end = 0;
+    std::size_t numbers = 0;
+    for (const std::string& tag : Split(picture, "<text x=")) {
+      const std::size_t start = tag.find("text-anchor=\"middle\">") + 21;
+      const std::string number = tag.substr(0, tag.find("</text>"));
+      if (start < 21 || number.size() == start) continue;
+      const double half = kDigitWidth * static_cast<double>(number.size() - start) / 2;
+      const double middle = LeadingNumber(tag.substr(1));
+      EXPECT_GT(middle - half, end) << from;
+      end = middle + half;
+      ++numbers;
+    }
+    EXPECT_GE(numbers, 2U) << from;
+  }
+}
+
 // A line of a hundred thousand steps has no more points than can be told apart.
 TEST(SweepPicture, OfManyStepsIsNotLarge) {
   std::vector<SweepRow> rows;
