@@ -1,9 +1,9 @@
 #pragma once
 
-// The fonts of the layouts. They name fonts of another platform; a free font of the same measures, compiled into the
-// program, stands in for each, so that the window looks the same on every machine. Sizes are in points of 96 dots to
-// the inch, so they become pixels here, by the scale of the program
-// ("toolkit/twip_geometry.h"), and do not change with what the screen reports of itself.
+// The fonts of the layouts. They name fonts of another platform. The program draws with free fonts of the same measures
+// instead, which are compiled in, so that the window looks the same on every machine. Sizes are in points of 96 dots to
+// the inch, so they become pixels here, by the scale of the program ("toolkit/twip_geometry.h"), and do not change with
+// what the screen reports of itself.
 
 #include <QFont>
 #include <QString>
@@ -17,7 +17,7 @@ namespace quillon {
 /// Makes the fonts that are compiled in known to Qt. Called once, before the first font is made.
 void LoadFonts();
 
-/// What stands in for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu
+/// The substitute for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu
 /// Sans for Verdana, Liberation Mono for Courier New. Any other name is kept.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 

@@ -7,6 +7,7 @@
 #include <set>
 #include <vector>
 
+#include "analysis/input_checks.h"
 #include "shell/screens/main_layout.h"
 #include "testing/fake_opener.h"
 #include "testing/heard_announcements.h"
@@ -297,6 +298,25 @@ TEST_F(KeyboardInWindow, EscapeStopsARunAsBackDoes) {
     EXPECT_FALSE(Form.State().Running) << screen;
     EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3)) << screen;
   }
+}
+
+TEST_F(KeyboardInWindow, EscapeStopsARunStillAfterAnotherWasRefused) {
+  EnterEquity("Tight");
+  DuringRun("50%", [this] {
+    OpenScreen("Preflop Call");
+    const auto complaint = CheckInputs(AnalysisMode::kPreflopCall, {}, Program.Folder());
+    ASSERT_TRUE(complaint);
+    ExpectMessageBox({.title = std::string(complaint->Title),
+                      .text = std::string(complaint->Text),
+                      .icon = MessageIcon::kExclamation});
+    Click("cmdPreflopEV", 0);
+    VerifyExpectedBoxes();
+    Form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
+    Press(Qt::Key_Escape);
+  });
+  Click("cmdPreflopEV", 2);
+  EXPECT_FALSE(Shows("lblNav", kGridNav)) << "it has not gone on to its end";
 }
 
 TEST_F(KeyboardInWindow, EscapeIsTheGridsOwnWhereNothingRuns) {

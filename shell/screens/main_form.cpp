@@ -263,10 +263,12 @@ void MainForm::BindKeys() {
       *this, Qt::Key_F1, [this] { ShowUserGuide(); }, Qt::ApplicationShortcut);
 }
 
+// A run may be asked for, and refused, while another goes on.
 void MainForm::Run(std::int16_t button) {
+  const bool wasRunning = stop_.isEnabled();
   stop_.setEnabled(true);
   RunAnalysis(state_, button, analysis_, around_.Folder);
-  stop_.setEnabled(false);
+  stop_.setEnabled(wasRunning);
 }
 
 void MainForm::ShowUserGuide() {
