@@ -1,6 +1,7 @@
 #include "toolkit/light_style.h"
 
 #include <QIcon>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -140,6 +141,12 @@ QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
 }  // namespace
 
 LightStyle::LightStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void LightStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  auto* tip = qobject_cast<QLabel*>(widget);
+  if (tip != nullptr && tip->inherits("QTipLabel")) tip->setTextFormat(Qt::PlainText);
+}
 
 int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_DefaultFrameWidth || metric == PM_ComboBoxFrameWidth) return LinePixels(2);

@@ -5,12 +5,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -182,6 +184,15 @@ TEST_F(LightStyleTest, EndsANameThatIsTooLongForItsBoxWithAnEllipsis) {
     EXPECT_LT(letters, 92) << scale;
     EXPECT_NE(look(name.first(letters - 1)), look(name.first(letters))) << "each letter shows at " << scale;
   }
+}
+
+TEST_F(LightStyleTest, ShowsAToolTipAsItIs) {
+  QToolTip::showText({}, QStringLiteral("<b>Tight</b>"));
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto tip = std::ranges::find_if(windows, [](const QWidget* window) { return window->inherits("QTipLabel"); });
+  ASSERT_NE(tip, windows.end());
+  EXPECT_EQ(qobject_cast<QLabel*>(*tip)->textFormat(), Qt::PlainText);
+  QToolTip::hideText();
 }
 
 TEST_F(LightStyleTest, OpensAListOfTwentyRowsBeneathItsBox) {

@@ -18,9 +18,9 @@ std::string AnalysisView::SelectedRange(std::int16_t index) const {
 }
 
 void AnalysisView::Stop(AnalysisState& state) {
-  StopAnalysis(state);
+  isStopping_ = state.Running;
   stop_ = AnsweredAct();
-  isStopping_ = true;
+  StopAnalysis(state);
 }
 
 void AnalysisView::ShowFrame(std::string_view name) {

@@ -33,7 +33,8 @@ class AnalysisView : public AnalysisWindow {
 
   explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
 
-  /// Stops a run. The screen that comes up then answers the act of this moment, not the one that started the run.
+  /// Stops a run, if there is one. The screen that comes up then answers the act of this moment, not the one that
+  /// started the run.
   void Stop(AnalysisState& state);
 
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;
