@@ -1,10 +1,13 @@
 #include "toolkit/message_dialogs.h"
 
 #include <QInputDialog>
+#include <QLabel>
+#include <algorithm>
 
 #include "toolkit/application.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -48,6 +51,14 @@ MessageAnswer AnswerOf(int button) {
   }
 }
 
+// Qt breaks lines where a box becomes wider than 500 pixels, whatever its scale; the text has this much of them.
+void WidenToScale(const QMessageBox& box) {
+  constexpr int kTextWidth = 427;
+  if (PixelScale() <= 1) return;
+  auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  text->setMinimumWidth(std::min(text->sizeHint().width(), LinePixels(kTextWidth)));
+}
+
 }  // namespace
 
 void FillMessageBox(QMessageBox& box, const Message& message) {
@@ -55,6 +66,7 @@ void FillMessageBox(QMessageBox& box, const Message& message) {
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   box.setWindowTitle(ToQt(message.title));
   box.setText(ToQt(message.text));
+  WidenToScale(box);
   box.setIcon(IconOf(message.icon));
   box.setStandardButtons(ButtonsOf(message.buttons));
   box.setDefaultButton(message.buttons == MessageButtons::kOk ? QMessageBox::Ok : QMessageBox::Yes);

@@ -221,6 +221,28 @@ TEST(MessageDialogs, HaveAnIconOfTheirOwnInTheSizeOfTheScale) {
   ShowAtScale(1);
 }
 
+TEST(MessageDialogs, BreakLinesAlikeAtEachScale) {
+  const std::string sentence = "The pot size must be greater than the amount you have to call. ";
+  for (const int sentences : {1, 4}) {
+    std::vector<double> widths;
+    std::vector<double> heights;
+    for (const double scale : {1.0, 1.5, 2.0}) {
+      ShowAtScale(scale);
+      std::string text;
+      for (int i = 0; i < sentences; ++i)
+        text += sentence;
+      QMessageBox box;
+      FillMessageBox(box, {.title = "Pot Size", .text = text});
+      box.show();
+      widths.push_back(box.width() / scale);
+      heights.push_back(box.height() / scale);
+    }
+    ShowAtScale(1);
+    EXPECT_LE(std::ranges::max(widths), 1.1 * std::ranges::min(widths)) << sentences;
+    EXPECT_LE(std::ranges::max(heights), 1.1 * std::ranges::min(heights)) << sentences;
+  }
+}
+
 TEST(MessageDialogs, AskForALineOfText) {
   ExpectInputBox({"What is the range's name?", "New Range", "Button"}, "Big Blind \u00C4");
 

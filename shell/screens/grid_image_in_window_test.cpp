@@ -12,6 +12,7 @@
 #include "testing/main_stage.h"
 #include "testing/opened_files.h"
 #include "toolkit/focus_mark.h"
+#include "toolkit/placement.h"
 
 namespace quillon {
 namespace {
@@ -215,6 +216,20 @@ TEST_F(GridImageInWindow, TheWheelOverTheListOfFoldersLeavesTheFolder) {
     dialog.reject();
   });
   Click("imgSave");
+}
+
+TEST_F(GridImageInWindow, TheDialogGrowsWithTheWindow) {
+  std::vector<QSize> sizes;
+  for (const double scale : {1.0, 2.0}) {
+    ShowAtScale(scale);
+    ExpectDialog([&sizes](QDialog& dialog) {
+      sizes.push_back(dialog.size());
+      dialog.reject();
+    });
+    Click("imgSave");
+  }
+  ShowAtScale(1);
+  EXPECT_EQ(sizes[1], 2 * sizes[0]);
 }
 
 TEST_F(GridImageInWindow, ANameIsOneLine) {

@@ -54,6 +54,7 @@ class FileNameDialog : public QFileDialog {
     setOption(HideNameFilterDetails);
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
+    resize(LinePixels(620), LinePixels(440));
     line_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     KeepToOneLine(*line_);
     for (QComboBox* list : findChildren<QComboBox*>())
