@@ -25,7 +25,6 @@ class GridImageView {
   void Save();
 
  private:
-  [[nodiscard]] std::string AskName();
   [[nodiscard]] std::string CaptureGrid();
 
   QWidget& form_;
