@@ -50,28 +50,6 @@ double ZeroLine(const std::string& picture) {
   return LeadingNumber(Attribute(Split(Split(picture, "class=\"zero\"").at(0), "<line").back(), "y1"));
 }
 
-TEST(RoundTicks, AreRoundAndWithin) {
-  struct Case {
-    double low;
-    double high;
-    int wanted;
-    std::vector<double> ticks;
-  };
-  for (const Case& c : std::vector<Case>{
-           {0, 20, 5, {0, 5, 10, 15, 20}},
-           {-0.3, 1.1, 7, {-0.2, 0, 0.2, 0.4, 0.6, 0.8, 1}},
-           {7, 7, 5, {7}},
-           {0.1, 0.5, 4, {0.1, 0.2, 0.3, 0.4, 0.5}},
-           {1234, 5678, 5, {2000, 3000, 4000, 5000}},
-           {-kMost, kMost, 4, {-1e308, 0, 1e308}},
-           {1e15, 1e15 + 1, 8, {}},
-       }) {
-    const auto ticks = RoundTicks(c.low, c.high, c.wanted);
-    EXPECT_EQ(ticks, c.ticks.empty() ? ticks : c.ticks) << c.low;
-    EXPECT_LE(ticks.size(), static_cast<std::size_t>(c.wanted) + 1) << c.low;
-  }
-}
-
 TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
   const std::vector<SweepRow> rows = {{"5", 1326, {2, -1}}, {"10", 900, {1, -2}}, {"15", 100, {0, 3}}};
   const std::string picture = SweepPicture({"Preflop Raise", "Shove", {"AA", "72o"}}, rows);

@@ -1,0 +1,192 @@
+#pragma once
+
+// A figure of lines as data: two scales, lines, marks and their texts, and what is said of each point to somebody who
+// does not see it. Laid out for a size it is a list of rules, samples, texts, curves and rings, which a painter draws
+// as they are: one writes SVG ("study/figure_svg.h"), another draws in a window ("study/window/figure_view.h").
+//
+// Lengths are pixels of the design, counted from the upper left corner to the right and down.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace quillon {
+
+struct FigureScale {
+  std::string Title;  // beside it, with its unit
+  double Low = 0;
+  double High = 0;
+  std::string Unit{};  // as it is counted in words: "chip" makes "2 chips", and "%" makes "2%"
+  double Pot = 0;  // in that unit; above 0, the opposite side of the plot counts in pots
+};
+
+struct FigureLine {
+  std::string Name{};
+  std::vector<double> Values{};  // one for each place across
+  std::string Note{};  // below its name, such as "up to 23.07"
+  std::optional<double> Limit{};  // the place across where it crosses zero
+};
+
+/// A place across that is marked by an upright line, such as the current amount.
+struct FigureMark {
+  double At = 0;
+  std::string Text;
+};
+
+struct Figure {
+  std::string Title;
+  FigureScale Across;
+  FigureScale Up;
+  std::vector<std::string> Places;  // across, as numbers in texts, not falling; at least one
+  std::vector<FigureLine> Lines;  // at least one
+  std::vector<FigureMark> Marks{};
+};
+
+/// One point of a figure, by its line and its place.
+struct FigurePoint {
+  std::size_t Line = 0;
+  std::size_t Place = 0;
+
+  bool operator==(const FigurePoint&) const = default;
+};
+
+/// A point in words, values rounded to four decimals.
+///
+///     "K9o at 9 chips, 6 pots: 0.7085 chips, 0.4723 pots"      "Profitable at 30%: 85.52%"
+///
+/// A place that is marked has the mark's text after it, as in "K9o at 9 chips, 6 pots, now: ...".
+[[nodiscard]] std::string PointWords(const Figure& figure, FigurePoint point);
+
+/// The figure in words: its title, its marks, and its lines with their notes, "K9o, up to 23.07".
+[[nodiscard]] std::string FigureWords(const Figure& figure);
+
+struct FigureSpot {
+  double X = 0;
+  double Y = 0;
+
+  bool operator==(const FigureSpot&) const = default;
+};
+
+struct FigureSize {
+  double Width = 0;
+  double Height = 0;
+
+  bool operator==(const FigureSize&) const = default;
+};
+
+struct FigurePen {
+  std::string_view Color;  // as "#0072b2"
+  double Width = 1;
+  std::string_view Dashes{};  // the lengths of dashes and gaps in turn, as "7 4"; empty: solid
+};
+
+struct FigureFont {
+  std::string_view Color{};  // empty: kFigureTextColor
+  double Size = 0;  // 0: kFigureTextSize
+  bool Bold = false;
+  bool Halo = false;  // a white edge round the letters, which lie over lines
+};
+
+inline constexpr std::string_view kFigureTextColor = "#3e4c59";
+inline constexpr double kFigureTextSize = 13;
+
+/// A straight line. One that a style sheet may want to find has a name.
+struct FigureRule {
+  FigureSpot From;
+  FigureSpot To;
+  FigurePen Pen;
+  std::string_view Name{};
+};
+
+/// The piece of a line that its name begins with.
+struct FigureSample {
+  FigureSpot From;
+  double Length = 0;
+  FigurePen Pen;
+};
+
+enum class FigureAnchor { kStart, kMiddle, kEnd };
+
+struct FigureText {
+  FigureSpot At;  // on its base line: its start, its middle or its end
+  std::string Text;
+  FigureAnchor Anchor = FigureAnchor::kStart;
+  FigureFont Font{};
+  bool Turned = false;  // reads upwards
+};
+
+/// A line through points, in the order of the places, with a dot on each where there are few.
+struct FigureCurve {
+  std::vector<FigureSpot> Spots;
+  FigurePen Pen;
+  bool Dotted = false;
+};
+
+/// Round the place where a line crosses zero.
+struct FigureRing {
+  FigureSpot At;
+  FigurePen Pen;
+};
+
+inline constexpr double kFigureDotRadius = 3;
+inline constexpr double kFigureRingRadius = 4.5;
+
+/// What a painter draws.
+using FigurePart = std::variant<FigureRule, FigureSample, FigureText, FigureCurve, FigureRing>;
+
+/// A figure laid out for a size.
+class FigureLayout {
+ public:
+  /// The size at which a figure is published: all names have room.
+  [[nodiscard]] static FigureSize NaturalSize(const Figure& figure);
+
+  /// The figure must outlive it. A size that is too small for the texts is filled beyond its edges.
+  FigureLayout(const Figure& figure, FigureSize size);
+
+  [[nodiscard]] const Figure& Of() const { return *figure_; }
+  [[nodiscard]] FigureSize Size() const { return size_; }
+
+  /// From the back to the front. Within a curve, steps narrower than a tenth of a pixel are left out.
+  [[nodiscard]] std::vector<FigurePart> Parts() const;
+
+  /// The pen that a line is drawn with.
+  [[nodiscard]] static FigurePen PenOf(std::size_t line);
+
+  [[nodiscard]] FigureSpot SpotOf(FigurePoint point) const;
+
+  /// The place that is nearest across, and of its points the nearest; of two equally near ones the earlier.
+  [[nodiscard]] FigurePoint Nearest(FigureSpot spot) const;
+
+  /// Upper left and lower right corner of what is within the axes.
+  [[nodiscard]] FigureSpot PlotStart() const { return {left_, top_}; }
+  [[nodiscard]] FigureSpot PlotEnd() const { return {right_, bottom_}; }
+
+ private:
+  [[nodiscard]] double X(double across) const;
+  [[nodiscard]] double Y(double value) const;
+  void AddAxes(std::vector<FigurePart>& parts) const;
+  void AddAcrossAxis(std::vector<FigurePart>& parts) const;
+  void AddPots(std::vector<FigurePart>& parts) const;
+  void AddMarks(std::vector<FigurePart>& parts) const;
+  void AddNames(std::vector<FigurePart>& parts) const;
+  [[nodiscard]] FigureCurve CurveOf(std::size_t line) const;
+
+  const Figure* figure_;
+  FigureSize size_;
+  std::vector<double> places_;
+  double left_ = 0;
+  double right_ = 0;
+  double top_ = 0;
+  double bottom_ = 0;
+};
+
+/// Round numbers, 1, 2 or 5 times a power of ten apart, from `low` to `high`: at most one more than `wanted`, and where
+/// the two are too near to each other for steps, `low` alone. Both must be finite.
+///
+///     (0, 20, 5) -> 0, 5, 10, 15, 20      (-0.3, 1.1, 6) -> -0.2, 0, 0.2, ... 1      (7, 7, 5) -> 7
+[[nodiscard]] std::vector<double> RoundTicks(double low, double high, int wanted);
+
+}  // namespace quillon

@@ -1,0 +1,135 @@
+#include "study/figure_svg.h"
+
+#include <initializer_list>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "support/joined_text.h"
+#include "support/markup_text.h"
+#include "support/number_text.h"
+#include "support/rounding.h"
+
+namespace quillon {
+namespace {
+
+std::string Number(double pixels) {
+  return NumberText(RoundTo(pixels, 1));
+}
+
+std::string Attribute(std::string_view name, std::string_view value) {
+  return value.empty() ? "" : Joined({" ", name, "=\"", value, "\""});
+}
+
+std::string Dashes(const FigurePen& pen) {
+  return Attribute("stroke-dasharray", pen.Dashes);
+}
+
+std::string_view AnchorText(FigureAnchor anchor) {
+  switch (anchor) {
+    case FigureAnchor::kMiddle:
+      return "middle";
+    case FigureAnchor::kEnd:
+      return "end";
+    case FigureAnchor::kStart:
+      break;
+  }
+  return {};
+}
+
+// Writes each part as it comes.
+class Markup {
+ public:
+  void operator()(const FigureRule& rule) {
+    Add({"<line", Ends(rule.From, rule.To), Attribute("class", rule.Name), Attribute("stroke", rule.Pen.Color),
+         rule.Pen.Width == 1 ? "" : Attribute("stroke-width", Number(rule.Pen.Width)), Dashes(rule.Pen), "/>\n"});
+  }
+
+  void operator()(const FigureSample& sample) {
+    Add({"<line", Ends(sample.From, {sample.From.X + sample.Length, sample.From.Y}),
+         Attribute("stroke-width", Number(sample.Pen.Width)), Attribute("stroke", sample.Pen.Color), Dashes(sample.Pen),
+         "/>\n"});
+  }
+
+  void operator()(const FigureText& text) {
+    const std::string x = Number(text.At.X);
+    const std::string y = Number(text.At.Y);
+    Add({"<text",
+         text.Turned ? Attribute("transform", Joined({"translate(", x, " ", y, ") rotate(-90)"}))
+                     : Attribute("x", x) + Attribute("y", y),
+         Attribute("text-anchor", AnchorText(text.Anchor)),
+         text.Font.Size > 0 ? Attribute("font-size", Number(text.Font.Size)) : "",
+         text.Font.Bold ? R"( font-weight="bold")" : "", Attribute("fill", text.Font.Color),
+         text.Font.Halo ? R"( paint-order="stroke" stroke="#fff" stroke-width="4")" : "", ">", MarkupText(text.Text),
+         "</text>\n"});
+  }
+
+  void operator()(const FigureCurve& curve) {
+    std::string points;
+    std::string dots;
+    for (const FigureSpot& spot : curve.Spots) {
+      const std::string x = Number(spot.X);
+      const std::string y = Number(spot.Y);
+      points += Joined({points.empty() ? "" : " ", x, ",", y});
+      if (!curve.Dotted) continue;
+      dots += Joined({"<circle cx=\"", x, "\" cy=\"", y, "\" r=\"", Number(kFigureDotRadius), "\" fill=\"",
+                      curve.Pen.Color, "\"/>\n"});
+    }
+    Add({"<polyline fill=\"none\"", Attribute("stroke", curve.Pen.Color),
+         Attribute("stroke-width", Number(curve.Pen.Width)), R"( stroke-linejoin="round")", Dashes(curve.Pen),
+         " points=\"", points, "\"/>\n", dots});
+  }
+
+  void operator()(const FigureRing& ring) {
+    Add({"<circle class=\"limit\" cx=\"", Number(ring.At.X), "\" cy=\"", Number(ring.At.Y), "\" r=\"",
+         Number(kFigureRingRadius), "\" fill=\"#fff\"", Attribute("stroke", ring.Pen.Color),
+         Attribute("stroke-width", Number(ring.Pen.Width)), "/>\n"});
+  }
+
+  void Add(std::initializer_list<std::string_view> texts) { text_ += Joined(texts); }
+
+  [[nodiscard]] std::string Take() { return std::move(text_); }
+
+ private:
+  static std::string Ends(FigureSpot from, FigureSpot to) {
+    return Joined({" x1=\"", Number(from.X), "\" y1=\"", Number(from.Y), "\" x2=\"", Number(to.X), "\" y2=\"",
+                   Number(to.Y), "\""});
+  }
+
+  std::string text_;
+};
+
+}  // namespace
+
+std::string FigureSvg(const Figure& figure) {
+  const FigureLayout layout(figure, FigureLayout::NaturalSize(figure));
+  const std::string width = Number(layout.Size().Width);
+  const std::string height = Number(layout.Size().Height);
+  Markup markup;
+  markup.Add({R"(<svg xmlns="http://www.w3.org/2000/svg" width=")",
+              width,
+              "\" height=\"",
+              height,
+              "\" viewBox=\"0 0 ",
+              width,
+              " ",
+              height,
+              R"(" role="img" font-family="Arial, Helvetica, sans-serif" )",
+              "font-size=\"",
+              Number(kFigureTextSize),
+              "\" fill=\"",
+              kFigureTextColor,
+              "\">\n<title>",
+              MarkupText(figure.Title),
+              "</title>\n<rect width=\"",
+              width,
+              "\" height=\"",
+              height,
+              "\" fill=\"#fff\"/>\n"});
+  for (const FigurePart& part : layout.Parts())
+    std::visit(markup, part);
+  markup.Add({"</svg>\n"});
+  return markup.Take();
+}
+
+}  // namespace quillon

@@ -1,0 +1,202 @@
+#include "study/figure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "study/figure_svg.h"
+
+namespace quillon {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr double kMost = std::numeric_limits<double>::max();
+
+// Two hands over a shove of 1 to 5, in a pot of 2.
+Figure TwoHands() {
+  return {.Title = "Preflop Raise",
+          .Across = {.Title = "Shove", .Low = 0, .High = 5, .Unit = "chip", .Pot = 2},
+          .Up = {.Title = "Value", .Low = -4, .High = 4, .Unit = "chip", .Pot = 2},
+          .Places = {"1", "2", "3.5", "5"},
+          .Lines = {{.Name = "K9o", .Values = {3, 1, -2, -3.00006}, .Note = "up to 2.5", .Limit = 2.5},
+                    {.Name = "AA", .Values = {1, 1, 2, 3.5}, .Note = "always"}},
+          .Marks = {{.At = 2, .Text = "now"}}};
+}
+
+template <typename Part>
+std::vector<Part> PartsOf(const FigureLayout& layout) {
+  std::vector<Part> parts;
+  for (const FigurePart& part : layout.Parts()) {
+    if (const auto* const one = std::get_if<Part>(&part)) parts.push_back(*one);
+  }
+  return parts;
+}
+
+// The texts, from the back to the front, and where each is.
+const FigureText* TextOf(const std::vector<FigureText>& texts, const std::string& text) {
+  const auto found = std::ranges::find(texts, text, &FigureText::Text);
+  return found == texts.end() ? nullptr : &*found;
+}
+
+TEST(RoundTicks, AreRoundAndWithin) {
+  struct Case {
+    double low;
+    double high;
+    int wanted;
+    std::vector<double> ticks;
+  };
+  for (const Case& c : std::vector<Case>{
+           {0, 20, 5, {0, 5, 10, 15, 20}},
+           {-0.3, 1.1, 7, {-0.2, 0, 0.2, 0.4, 0.6, 0.8, 1}},
+           {7, 7, 5, {7}},
+           {0.1, 0.5, 4, {0.1, 0.2, 0.3, 0.4, 0.5}},
+           {1234, 5678, 5, {2000, 3000, 4000, 5000}},
+           {-kMost, kMost, 4, {-1e308, 0, 1e308}},
+           {1e15, 1e15 + 1, 8, {}},
+       }) {
+    const auto ticks = RoundTicks(c.low, c.high, c.wanted);
+    EXPECT_EQ(ticks, c.ticks.empty() ? ticks : c.ticks) << c.low;
+    EXPECT_LE(ticks.size(), static_cast<std::size_t>(c.wanted) + 1) << c.low;
+  }
+}
+
+TEST(Figure, TellsAPointInWords) {
+  Figure figure = TwoHands();
+  struct Case {
+    const char* rule;
+    FigurePoint point;
+    const char* words;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"one is one", {1, 0}, "AA at 1 chip, 0.5 pots: 1 chip, 0.5 pots"},
+           {"a marked place says so", {0, 1}, "K9o at 2 chips, 1 pot, now: 1 chip, 0.5 pots"},
+           {"four decimals", {0, 3}, "K9o at 5 chips, 2.5 pots: -3.0001 chips, -1.5 pots"},
+       })
+    EXPECT_EQ(PointWords(figure, c.point), c.words) << c.rule;
+  figure.Across.Unit = "%";
+  figure.Across.Pot = 0;
+  EXPECT_EQ(PointWords(figure, {0, 2}), "K9o at 3.5%: -2 chips, -1 pots");
+}
+
+TEST(Figure, TellsItselfInWords) {
+  EXPECT_EQ(FigureWords(TwoHands()), "Preflop Raise. now 2 chips, 1 pot. K9o, up to 2.5. AA, always");
+}
+
+TEST(FigureLayout, FindsThePointNearestToASpot) {
+  const Figure figure = TwoHands();
+  const FigureLayout layout(figure, {800, 500});
+  for (std::size_t line = 0; line < figure.Lines.size(); ++line) {
+    for (std::size_t place = 0; place < figure.Places.size(); ++place) {
+      const FigurePoint point{line, place};
+      const FigureSpot spot = layout.SpotOf(point);
+      const bool shared = place == 1;  // both lines meet there, and the earlier is told
+      EXPECT_EQ(layout.Nearest(spot), (FigurePoint{shared ? 0 : line, place})) << line << " " << place;
+      EXPECT_EQ(layout.Nearest({spot.X + 20, spot.Y + 5}).Place, place) << line << " " << place;
+    }
+  }
+  struct Case {
+    const char* rule;
+    FigureSpot spot;
+    FigurePoint point;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"left of the plot", {-100, layout.PlotStart().Y}, {0, 0}},
+           {"right of it", {1e9, layout.PlotEnd().Y}, {0, 3}},
+           {"above it", {layout.PlotEnd().X, -1e9}, {1, 3}},
+       })
+    EXPECT_EQ(layout.Nearest(c.spot), c.point) << c.rule;
+}
+
+// Of a scale without a span, and of one beyond all numbers.
+TEST(FigureLayout, FindsAPointOnAnyScale) {
+  Figure figure = TwoHands();
+  figure.Places = {"7"};
+  figure.Across = {.Title = "", .Low = 7, .High = 7};
+  for (FigureLine& line : figure.Lines)
+    line.Values = {kMost};
+  figure.Up = {.Title = "", .Low = -kMost, .High = kMost};
+  EXPECT_EQ(FigureLayout(figure, {400, 300}).Nearest({10, 10}), (FigurePoint{0, 0}));
+}
+
+TEST(FigureLayout, CountsInPotsAboveAndToTheRight) {
+  const Figure figure = TwoHands();
+  const FigureLayout layout(figure, {800, 500});
+  const auto texts = PartsOf<FigureText>(layout);
+  const FigureText* pots = TextOf(texts, "in pots");
+  ASSERT_NE(pots, nullptr);
+  EXPECT_GT(pots->At.X, layout.PlotEnd().X);
+  EXPECT_LT(pots->At.Y, layout.PlotStart().Y);
+  // 2.5 pots are 5 chips, where the plot ends.
+  EXPECT_TRUE(std::ranges::any_of(texts, [&layout](const FigureText& text) {
+    const bool atEnd = std::abs(text.At.X - layout.PlotEnd().X) < 0.01;
+    return text.Text == "2.5" && atEnd && text.At.Y < layout.PlotStart().Y;
+  }));
+
+  Figure plain = figure;
+  plain.Across.Pot = plain.Up.Pot = 0;
+  EXPECT_EQ(TextOf(PartsOf<FigureText>(FigureLayout(plain, {800, 500})), "in pots"), nullptr);
+}
+
+TEST(FigureLayout, MarksTheAmountAndTheLimitsThatItShows) {
+  Figure figure = TwoHands();
+  const FigureLayout layout(figure, {800, 500});
+  const auto rings = PartsOf<FigureRing>(layout);
+  ASSERT_EQ(rings.size(), 1U);
+  const double middle = (layout.PlotStart().X + layout.PlotEnd().X) / 2;
+  EXPECT_NEAR(rings[0].At.X, middle, 0.01) << "2.5 of 5";
+  EXPECT_NEAR(rings[0].At.Y, (layout.PlotStart().Y + layout.PlotEnd().Y) / 2, 0.01) << "on the zero line";
+  EXPECT_EQ(rings[0].Pen.Color, FigureLayout::PenOf(0).Color);
+  EXPECT_NE(TextOf(PartsOf<FigureText>(layout), "now"), nullptr);
+
+  figure.Lines[0].Limit = 5.1;
+  figure.Marks[0].At = 5.1;
+  EXPECT_TRUE(PartsOf<FigureRing>(layout).empty());
+  EXPECT_EQ(TextOf(PartsOf<FigureText>(layout), "now"), nullptr);
+}
+
+TEST(FigureLayout, KeepsAMarksTextWithinThePlot) {
+  Figure figure = TwoHands();
+  const FigureLayout layout(figure, {800, 500});
+  for (const double at : {0.0, 5.0}) {
+    figure.Marks[0].At = at;
+    const auto texts = PartsOf<FigureText>(layout);
+    const FigureText* text = TextOf(texts, "now");
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->Anchor, at == 0 ? FigureAnchor::kStart : FigureAnchor::kEnd);
+  }
+}
+
+TEST(FigureLayout, LeavesNotesOutWhereThereIsNoRoomForThem) {
+  const Figure figure = TwoHands();
+  for (const double height : {150.0, 400.0}) {
+    const FigureLayout layout(figure, {700, height});
+    const auto texts = PartsOf<FigureText>(layout);
+    EXPECT_EQ(TextOf(texts, "always") != nullptr, height == 400) << height;
+    for (const char* name : {"K9o", "AA"}) {
+      const FigureText* text = TextOf(texts, name);
+      ASSERT_NE(text, nullptr) << name;
+      EXPECT_TRUE(text->At.Y > layout.PlotStart().Y && text->At.Y < layout.PlotEnd().Y + 5) << name;
+    }
+  }
+}
+
+TEST(FigureSvg, HasMarksAndPots) {
+  const std::string picture = FigureSvg(TwoHands());
+  for (const char* part : {"class=\"zero\"", "class=\"mark\"", "class=\"limit\"", ">in pots<", ">now<", ">up to 2.5<"})
+    EXPECT_THAT(picture, HasSubstr(part));
+  Figure plain = TwoHands();
+  plain.Marks.clear();
+  plain.Lines[0].Limit.reset();
+  EXPECT_THAT(FigureSvg(plain), AllOf(Not(HasSubstr("class=\"mark\"")), Not(HasSubstr("class=\"limit\""))));
+}
+
+}  // namespace
+}  // namespace quillon
