@@ -38,6 +38,7 @@ constexpr double kNameStart = 28;  // after the sample
 constexpr double kGap = 8;
 constexpr double kTick = 5;
 constexpr double kLetter = 7;  // as wide as a digit of the ticks
+constexpr double kBold = 1.15;  // as many times as wide
 constexpr double kHalfCapital = 4.5;
 constexpr int kMostUpTicks = 8;
 constexpr int kDecimals = 4;
@@ -91,9 +92,10 @@ double PotsWidthOf(const Figure& figure) {
 }
 
 double NamesWidthOf(const Figure& figure) {
+  constexpr double kBeside = kGap + kNameStart + kGap;
   double width = kNameWidth;
   for (const FigureLine& line : figure.Lines)
-    width = std::max(width, kGap + kNameStart + WidthOf(line.Note) + (line.Note.empty() ? 0 : kGap));
+    width = std::max({width, WidthOf(line.Name) * kBold + kBeside, WidthOf(line.Note) + kBeside});
   return width;
 }
 
@@ -106,6 +108,22 @@ std::string Counted(std::string number, std::string_view unit) {
   if (unit == "%") return number + "%";
   const bool one = number == "1";
   return std::move(number) + " " + std::string(unit) + (one ? "" : "s");
+}
+
+// In the plot, where the axis tells the unit.
+std::string MarkLabel(const FigureMark& mark, const FigureScale& across) {
+  const std::string number = NumberText(RoundTo(mark.At, kDecimals));
+  return mark.Text + " " + (across.Unit == "%" ? number + "%" : number);
+}
+
+// No longer than that on the page, with an ellipsis for what is left out; never within a letter.
+std::string CutTo(std::string text, double width) {
+  if (WidthOf(text) <= width) return text;
+  auto length = static_cast<std::size_t>(std::max(0.0, width / kLetter - 1));
+  const auto isWithinALetter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
+  while (length > 0 && isWithinALetter(text[length]))
+    --length;
+  return text.substr(0, length) + "\u2026";
 }
 
 std::string Told(double value) {
@@ -135,6 +153,7 @@ std::string PointWords(const Figure& figure, FigurePoint point) {
 
 std::string FigureWords(const Figure& figure) {
   std::string words = figure.Title;
+  if (!figure.Subtitle.empty()) words += ". " + figure.Subtitle;
   for (const FigureMark& mark : figure.Marks)
     words += ". " + mark.Text + " " + Counted(figure.Across, NumberText(mark.At), mark.At);
   for (const FigureLine& line : figure.Lines)
@@ -163,6 +182,9 @@ FigureLayout::FigureLayout(const Figure& figure, FigureSize size)
 std::vector<FigurePart> FigureLayout::Parts() const {
   std::vector<FigurePart> parts;
   parts.emplace_back(FigureText{.At = {left_, 26}, .Text = figure_->Title, .Font = kTitleFont});
+  if (!figure_->Subtitle.empty()) {
+    parts.emplace_back(FigureText{.At = {left_, 44}, .Text = CutTo(figure_->Subtitle, right_ - left_)});
+  }
   AddAxes(parts);
   AddNames(parts);
   for (std::size_t line = 0; line < figure_->Lines.size(); ++line)
@@ -266,10 +288,11 @@ void FigureLayout::AddMarks(std::vector<FigurePart>& parts) const {
   for (const FigureMark& mark : figure_->Marks) {
     if (!isShown(mark.At)) continue;
     const double x = X(mark.At);
-    const bool fitsRight = x + kGap + WidthOf(mark.Text) < right_;
+    const std::string label = MarkLabel(mark, across);
+    const bool fitsRight = x + kGap + kBold * WidthOf(label) < right_;
     parts.emplace_back(FigureRule{{x, top_}, {x, bottom_}, kMarkPen, "mark"});
     parts.emplace_back(FigureText{.At = {fitsRight ? x + kGap : x - kGap, top_ + 16},
-                                  .Text = mark.Text,
+                                  .Text = label,
                                   .Anchor = fitsRight ? FigureAnchor::kStart : FigureAnchor::kEnd,
                                   .Font = kMarkFont});
   }

@@ -33,11 +33,12 @@ struct FigureLine {
 /// A place across that is marked by an upright line, such as the current amount.
 struct FigureMark {
   double At = 0;
-  std::string Text;
+  std::string Text;  // such as "now"
 };
 
 struct Figure {
   std::string Title;
+  std::string Subtitle{};  // UTF-8; cut at the plot's right end
   FigureScale Across;
   FigureScale Up;
   std::vector<std::string> Places;  // across, as numbers in texts, not falling; at least one

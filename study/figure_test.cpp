@@ -154,12 +154,12 @@ TEST(FigureLayout, MarksTheAmountAndTheLimitsThatItShows) {
   EXPECT_NEAR(rings[0].At.X, middle, 0.01) << "2.5 of 5";
   EXPECT_NEAR(rings[0].At.Y, (layout.PlotStart().Y + layout.PlotEnd().Y) / 2, 0.01) << "on the zero line";
   EXPECT_EQ(rings[0].Pen.Color, FigureLayout::PenOf(0).Color);
-  EXPECT_NE(TextOf(PartsOf<FigureText>(layout), "now"), nullptr);
+  EXPECT_NE(TextOf(PartsOf<FigureText>(layout), "now 2"), nullptr);
 
   figure.Lines[0].Limit = 5.1;
   figure.Marks[0].At = 5.1;
   EXPECT_TRUE(PartsOf<FigureRing>(layout).empty());
-  EXPECT_EQ(TextOf(PartsOf<FigureText>(layout), "now"), nullptr);
+  EXPECT_EQ(TextOf(PartsOf<FigureText>(layout), "now 5.1"), nullptr);
 }
 
 TEST(FigureLayout, KeepsAMarksTextWithinThePlot) {
@@ -168,7 +168,7 @@ TEST(FigureLayout, KeepsAMarksTextWithinThePlot) {
   for (const double at : {0.0, 5.0}) {
     figure.Marks[0].At = at;
     const auto texts = PartsOf<FigureText>(layout);
-    const FigureText* text = TextOf(texts, "now");
+    const FigureText* text = TextOf(texts, at == 0 ? "now 0" : "now 5");
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(text->Anchor, at == 0 ? FigureAnchor::kStart : FigureAnchor::kEnd);
   }
@@ -188,9 +188,22 @@ TEST(FigureLayout, LeavesNotesOutWhereThereIsNoRoomForThem) {
   }
 }
 
+TEST(FigureLayout, CutsASubtitleBetweenLetters) {
+  Figure figure = TwoHands();
+  const auto subtitle = [&figure](double width) {
+    return PartsOf<FigureText>(FigureLayout(figure, {width, 400})).at(1).Text;
+  };
+  figure.Subtitle = "He calls with \"Tight\"";
+  EXPECT_EQ(subtitle(600), figure.Subtitle);
+  EXPECT_EQ(subtitle(320), "He calls with \"T\u2026");
+  figure.Subtitle = "He calls with \"\u00c4\u00c4\u00c4\u00c4\u00c4\"";
+  EXPECT_EQ(subtitle(320), "He calls with \"\u2026");
+}
+
 TEST(FigureSvg, HasMarksAndPots) {
   const std::string picture = FigureSvg(TwoHands());
-  for (const char* part : {"class=\"zero\"", "class=\"mark\"", "class=\"limit\"", ">in pots<", ">now<", ">up to 2.5<"})
+  for (const char* part :
+       {"class=\"zero\"", "class=\"mark\"", "class=\"limit\"", ">in pots<", ">now 2<", ">up to 2.5<"})
     EXPECT_THAT(picture, HasSubstr(part));
   Figure plain = TwoHands();
   plain.Marks.clear();

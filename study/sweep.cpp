@@ -137,6 +137,26 @@ std::string Steps::Text(std::int64_t step) const {
   return digits;
 }
 
+double ProfitablePercent(const SweepRow& row) {
+  return 100.0 * row.ProfitableCombos / kConcreteHandCount;
+}
+
+std::string SweepCsv(std::string_view what, std::span<const std::string> hands, std::span<const SweepRow> rows) {
+  std::string text = std::string(what) + ",profitable";
+  for (const std::string& hand : hands)
+    text += "," + hand;
+  for (const SweepRow& row : rows) {
+    text += "\n" + row.At + "," + NumberText(ProfitablePercent(row));
+    for (const double value : row.ExpectedValues)
+      text += "," + NumberText(value);
+  }
+  return text + "\n";
+}
+
+SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, std::string at) {
+  return RowOf(question, question.Fixed, FiguresOf(ScenarioOf(question.Mode), ranges), std::move(at));
+}
+
 std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges, SweptAmount amount,
                                   const Steps& steps) {
   const AllFigures figures = FiguresOf(ScenarioOf(question.Mode), ranges);
@@ -156,8 +176,8 @@ std::vector<SweepRow> SweepRanges(const SweepQuestion& question,
   std::vector<SweepRow> rows;
   for (std::int64_t step = 0; step < steps.Count(); ++step) {
     std::string at = steps.Text(step);
-    const AllFigures figures = FiguresOf(ScenarioOf(question.Mode), rangesAt(at));
-    rows.push_back(RowOf(question, question.Fixed, figures, std::move(at)));
+    const RangeNumbers ranges = rangesAt(at);
+    rows.push_back(SweepRowAt(question, ranges, std::move(at)));
   }
   return rows;
 }

@@ -60,6 +60,17 @@ struct SweepRow {
   std::vector<double> ExpectedValues;  // of the hands asked for, in their order, as a results table holds them
 };
 
+/// The share of all hands that is profitable, in percent.
+[[nodiscard]] double ProfitablePercent(const SweepRow& row);
+
+/// The rows as comma-separated lines under a heading, with every digit. `what` goes up, and the hands are those of the
+/// rows, in their order.
+///
+///     shove,profitable,K9o,22
+///     5,100,0.909819209069834,1.00635614402889
+[[nodiscard]] std::string SweepCsv(std::string_view what, std::span<const std::string> hands,
+                                   std::span<const SweepRow> rows);
+
 /// Which amount goes up.
 enum class SweptAmount { kPot, kCall, kShove };
 
@@ -74,6 +85,9 @@ struct SweepQuestion {
 /// the ranges.
 [[nodiscard]] std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges,
                                                 SweptAmount amount, const Steps& steps);
+
+/// The row of one step, from what the ranges say at it and the amounts as they are there. Fails as FiguresOf does.
+[[nodiscard]] SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, std::string at);
 
 /// The same with all amounts fixed and the range of each step given: what FiguresOf is asked of at the step's text.
 [[nodiscard]] std::vector<SweepRow> SweepRanges(const SweepQuestion& question,

@@ -29,10 +29,6 @@ struct Request {
 
 constexpr std::string_view kWidthOption = "--width";
 
-double SharePercent(const SweepRow& row) {
-  return 100.0 * row.ProfitableCombos / kConcreteHandCount;
-}
-
 using Rows = std::vector<SweepRow>;
 
 struct Answer {
@@ -42,17 +38,12 @@ struct Answer {
   Rows rows;
 };
 
-enum class Figures { kExact, kRounded };
-
-std::vector<std::string> Cells(const SweepRow& row, Figures figures) {
+std::vector<std::string> RoundedCells(const SweepRow& row) {
   constexpr int kShareDecimals = 2;
   constexpr int kValueDecimals = 4;
-  const auto text = [figures](double figure, int decimals) {
-    return NumberText(figures == Figures::kExact ? figure : RoundTo(figure, decimals));
-  };
-  std::vector<std::string> cells = {row.At, text(SharePercent(row), kShareDecimals)};
+  std::vector<std::string> cells = {row.At, NumberText(RoundTo(ProfitablePercent(row), kShareDecimals))};
   for (const double value : row.ExpectedValues)
-    cells.push_back(text(value, kValueDecimals));
+    cells.push_back(NumberText(RoundTo(value, kValueDecimals)));
   return cells;
 }
 
@@ -63,23 +54,14 @@ std::vector<std::string> Headings(const Answer& answer) {
 }
 
 std::string CsvOutput(const Answer& answer) {
-  std::string text;
-  const auto line = [&text](const std::vector<std::string>& cells) {
-    for (std::size_t i = 0; i < cells.size(); ++i)
-      text.append(i == 0 ? "" : ",").append(cells[i]);
-    text += '\n';
-  };
-  line(Headings(answer));
-  for (const SweepRow& row : answer.rows)
-    line(Cells(row, Figures::kExact));
-  return text;
+  return SweepCsv(answer.what, answer.hands, answer.rows);
 }
 
 // Columns to the right, as numbers are read.
 std::string TableOutput(const Answer& answer) {
   std::vector<std::vector<std::string>> lines = {Headings(answer)};
   for (const SweepRow& row : answer.rows)
-    lines.push_back(Cells(row, Figures::kRounded));
+    lines.push_back(RoundedCells(row));
   std::vector<std::size_t> widths(lines.front().size());
   for (const auto& line : lines) {
     for (std::size_t i = 0; i < line.size(); ++i)
@@ -100,7 +82,8 @@ std::string JsonOutput(const Answer& answer) {
     nlohmann::ordered_json values = nlohmann::ordered_json::object();
     for (std::size_t i = 0; i < answer.hands.size(); ++i)
       values[answer.hands[i]] = row.ExpectedValues[i];
-    steps.push_back({{answer.what, LeadingNumber(row.At)}, {"profitable_percent", SharePercent(row)}, {"ev", values}});
+    steps.push_back(
+        {{answer.what, LeadingNumber(row.At)}, {"profitable_percent", ProfitablePercent(row)}, {"ev", values}});
   }
   return nlohmann::ordered_json{{"steps", steps}}.dump(2) + "\n";
 }
