@@ -4,7 +4,6 @@
 
 #include "ranges/range_lists.h"
 #include "ranges/range_summary.h"
-#include "ranges/range_text.h"
 
 namespace quillon {
 namespace {
@@ -117,7 +116,7 @@ std::string GridSummary(const CellColors& cells) {
   return RangeSummary(RangeTextFromGrid(cells));
 }
 
-void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
+ClassWeights ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
   const std::string text = LoadRangeText(folder, name);
   // A file with another extension reads as missing. A start that fails over it must name it as it is.
   const std::string file = text.empty() ? ListedFileName(folder, name) : RangeFileName(name);
@@ -126,6 +125,7 @@ void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string
     if (weights.at(index) == 1) cells.at(index) = kFullColor;
     if (weights.at(index) == 0.5) cells.at(index) = kHalfColor;
   }
+  return weights;
 }
 
 }  // namespace quillon

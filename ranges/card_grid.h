@@ -19,6 +19,7 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_files.h"
+#include "ranges/range_text.h"
 #include "support/rgb.h"
 #include "support/twips.h"
 
@@ -91,10 +92,10 @@ void ToggleCell(CellColors& cells, std::int16_t index, CellClick click);
 
 /// Paints a saved range: a class at weight 1 exactly is full, one at 0.5 exactly is half. At any other weight the
 /// square stays as it is, so the caller starts with unselected cells, and a weight such as 0.25 shows as not selected
-/// though an analysis counts it.
+/// though an analysis counts it. Returns the weights of the file.
 ///
 /// RunTimeError as for RangeWeightOf, so also for a range whose file is missing or empty; it names the file as
 /// ListedFileName does. The grid is as it was.
-void ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name);
+ClassWeights ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name);
 
 }  // namespace quillon

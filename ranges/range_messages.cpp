@@ -1,7 +1,11 @@
 #include "ranges/range_messages.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
+
+#include "ranges/range_text.h"
 
 namespace quillon {
 namespace {
@@ -37,6 +41,34 @@ Message SaveRangeQuestion(std::string_view name) {
   return Asked("Save Range?", "The range " + Quoted(name) +
                                   " has changed since you last saved it.\r\n\r\n"
                                   "Do you want to save the range now?");
+}
+
+Message NotARangeMessage(std::string_view notation, const NotationError& error) {
+  constexpr std::size_t kAroundPlace = 25;  // together what one line of a box has room for
+  std::string text = MarkedPlace(notation, error, kAroundPlace);
+  text.insert(text.find('\n'), "\r");
+  return {.title = "This Is Not a Range",
+          .text = std::move(text),
+          .icon = MessageIcon::kExclamation,
+          .buttons = MessageButtons::kOk,
+          .columns = true};
+}
+
+Message NotAShareMessage() {
+  return {.title = std::string(kAskTopShare.Title),
+          .text = "A share is a number from 0 to 100, such as 15 or 12.5.",
+          .icon = MessageIcon::kExclamation};
+}
+
+std::string LostWeightsNote(std::string_view name, std::span<const double, kHandClassCount> weights) {
+  constexpr std::size_t kLongest = 100;
+  ClassWeights lost{};
+  std::ranges::transform(weights, lost.begin(),
+                         [](double weight) { return weight == 0.5 || weight == 1 ? 0 : weight; });
+  if (lost == ClassWeights{}) return {};
+  std::string notation = RangeNotation(lost);
+  if (notation.size() > kLongest) notation = notation.substr(0, notation.rfind(',', kLongest)) + ", ...";
+  return "The range " + Quoted(name) + " has weights that the grid cannot show, and saving drops them: " + notation;
 }
 
 }  // namespace quillon

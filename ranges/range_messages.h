@@ -2,22 +2,27 @@
 
 // What the range dialogs say and ask. The words are the product's own, odd ones too.
 
+#include <span>
+#include <string>
 #include <string_view>
 
+#include "hand/hand_classes.h"
+#include "ranges/range_notation.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
 
 /// A question for a line of text ("support/input_boxes.h").
-struct NameQuestion {
+struct LineQuestion {
   std::string_view Prompt;
   std::string_view Title;
 };
 
 // Intentional: the title of New is that of Rename, as players know it.
-inline constexpr NameQuestion kAskNewName = {"What do you want to name the range?", "Rename Range"};
-inline constexpr NameQuestion kAskSaveAsName = {"What do you want to call the new range?", "Pick a Name"};
-inline constexpr NameQuestion kAskRename = {"What do you want to rename the range to?", "Rename Range"};
+inline constexpr LineQuestion kAskNewName = {"What do you want to name the range?", "Rename Range"};
+inline constexpr LineQuestion kAskSaveAsName = {"What do you want to call the new range?", "Pick a Name"};
+inline constexpr LineQuestion kAskRename = {"What do you want to rename the range to?", "Rename Range"};
+inline constexpr LineQuestion kAskTopShare = {"How many percent of all hands, the best first?", "Top x%"};
 
 /// After a save of the range `name`.
 [[nodiscard]] Message RangeSavedMessage(std::string_view name);
@@ -30,5 +35,17 @@ inline constexpr NameQuestion kAskRename = {"What do you want to rename the rang
 
 /// Before the Range Manager closes over a changed range: Yes, No or Cancel.
 [[nodiscard]] Message SaveRangeQuestion(std::string_view name);
+
+/// A text that was to be painted on a grid is no notation, or none that a grid can show: its place, with the reason.
+[[nodiscard]] Message NotARangeMessage(std::string_view notation, const NotationError& error);
+
+/// The answer to kAskTopShare is no share.
+[[nodiscard]] Message NotAShareMessage();
+
+/// What a player is to know of a range whose file has weights that a grid cannot show; the empty text where all weights
+/// are 0, 0.5 or 1. Of many weights, the first.
+///
+///     The range "Loose" has weights that the grid cannot show, and saving drops them: QQ:0.25,AJs+:0.7
+[[nodiscard]] std::string LostWeightsNote(std::string_view name, std::span<const double, kHandClassCount> weights);
 
 }  // namespace quillon

@@ -25,6 +25,7 @@ constexpr std::string_view kBadRun =
 constexpr std::string_view kSpacedRun = "a run has no space before or after its dash, as in JJ-88";
 constexpr std::string_view kBadShare = "a share is from 0% to 100%";
 constexpr std::string_view kBadWeight = "a weight is from 0 to 1, or from 0% to 100%";
+constexpr std::string_view kNoGridWeight = "the grid knows the weights 0, 0.5 and 1 only";
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -76,8 +77,9 @@ int Gap(const WrittenHand& hand) {
 
 class NotationReader {
  public:
-  NotationReader(std::string_view text, std::span<const std::int16_t, kHandClassCount> bestFirst)
-      : text_(text), bestFirst_(bestFirst) {}
+  NotationReader(std::string_view text, std::span<const std::int16_t, kHandClassCount> bestFirst,
+                 NotationWeights allowed)
+      : text_(text), bestFirst_(bestFirst), allowed_(allowed) {}
 
   NotationReading Read() {
     if (text_.size() > kLongestNotation) {
@@ -300,13 +302,19 @@ class NotationReader {
   std::optional<double> WeightOf(std::string_view written) {
     constexpr double kPercent = 100;
     const double weight = LeadingNumber(written) / (written.ends_with('%') ? kPercent : 1);
-    if (!written.empty() && weight <= 1) return weight;
-    Fail(kBadWeight);
+    if (written.empty() || weight > 1) {
+      Fail(kBadWeight);
+    } else if (allowed_ == NotationWeights::kOfGrid && weight != 0 && weight != 0.5 && weight != 1) {
+      Fail(kNoGridWeight);
+    } else {
+      return weight;
+    }
     return std::nullopt;
   }
 
   std::string_view text_;
   std::span<const std::int16_t, kHandClassCount> bestFirst_;
+  NotationWeights allowed_;
   std::size_t place_ = 0;
   double usualWeight_ = 1;
   std::vector<int> named_;  // the classes of the item at hand
@@ -343,19 +351,18 @@ std::string Printable(std::string_view text) {
 
 }  // namespace
 
-NotationReading ReadRangeNotation(std::string_view notation, std::span<const std::int16_t, kHandClassCount> bestFirst) {
-  return NotationReader(notation, bestFirst).Read();
+NotationReading ReadRangeNotation(std::string_view notation, std::span<const std::int16_t, kHandClassCount> bestFirst,
+                                  NotationWeights allowed) {
+  return NotationReader(notation, bestFirst, allowed).Read();
 }
 
-std::string MarkedPlace(std::string_view notation, const NotationError& error) {
-  constexpr std::size_t kMostBefore = 60;
-  constexpr std::size_t kMostAfter = 60;
+std::string MarkedPlace(std::string_view notation, const NotationError& error, std::size_t around) {
   constexpr std::string_view kLineEnds = "\r\n";
   std::size_t start = notation.substr(0, error.Place).find_last_of(kLineEnds) + 1;  // 0 where there is none
   if (start == 0 && notation.starts_with(kUtf8Mark)) start = std::min(kUtf8Mark.size(), error.Place);
   std::size_t end = std::min(notation.find_first_of(kLineEnds, error.Place), notation.size());
-  if (error.Place - start > kMostBefore) start = error.Place - kMostBefore;
-  if (end - error.Place > kMostAfter) end = error.Place + kMostAfter;
+  if (error.Place - start > around) start = error.Place - around;
+  if (end - error.Place > around) end = error.Place + around;
   while (start < error.Place && !StartsUtf8Character(notation[start]))
     ++start;
   const std::string_view before = notation.substr(start, error.Place - start);

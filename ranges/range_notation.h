@@ -19,6 +19,7 @@
 // "Half:" before items are the weights of those that have none of their own, and "|" may come before either. Of items
 // that name the same class the last counts.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -42,21 +43,31 @@ struct NotationError {
   bool operator==(const NotationError&) const = default;
 };
 
+/// The class indexes in some order, each once.
+using HandOrder = std::array<std::int16_t, kHandClassCount>;
+
+/// Which weights an item may have.
+enum class NotationWeights : std::uint8_t {
+  kAny,  // from 0 to 1
+  kOfGrid,  // 0, 0.5 and 1, all that a card grid can show
+};
+
 /// The weights of a range, or why there are none.
 using NotationReading = std::variant<ClassWeights, NotationError>;
 
 /// The range that a notation describes. `bestFirst` are the class indexes in the order that "top" takes them; the share
 /// counts concrete hands, and of two equally near ones the smaller is taken. A notation without an item is an error:
-/// the empty range is "none".
+/// the empty range is "none". An item of another weight than `allowed` is an error, too.
 [[nodiscard]] NotationReading ReadRangeNotation(std::string_view notation,
-                                                std::span<const std::int16_t, kHandClassCount> bestFirst);
+                                                std::span<const std::int16_t, kHandClassCount> bestFirst,
+                                                NotationWeights allowed = NotationWeights::kAny);
 
-/// The line of the notation that the error is in, and under it a mark with the reason. Of a long line, what is around
-/// the place; control characters show as "?".
+/// The line of the notation that the error is in, and under it a mark with the reason. Of a long line, `around` bytes
+/// to each side of the place; control characters show as "?".
 ///
 ///     AKs, KXs+
 ///          ^ "X" is not a rank
-[[nodiscard]] std::string MarkedPlace(std::string_view notation, const NotationError& error);
+[[nodiscard]] std::string MarkedPlace(std::string_view notation, const NotationError& error, std::size_t around = 60);
 
 /// The notation of weights in class index order: pairs, suited hands, offsuit hands, each from the best down, folded
 /// into runs of equal weight. A weight other than 1 follows its run in the general number form; "any" and "none" are

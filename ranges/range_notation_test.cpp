@@ -199,12 +199,35 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
   }
 }
 
+TEST(RangeNotation, ForAGridAWeightThatItCannotShowIsAnError) {
+  const std::string reason = "^ the grid knows the weights 0, 0.5 and 1 only";
+  struct Case {
+    std::string notation;
+    std::string marked;  // empty where the notation is good
+  };
+  for (const Case& c : std::vector<Case>{
+           {"AA:1, KK:0.5, QQ:0, JJ:50%, TT (0.5)", ""},
+           {"Half: 88", ""},
+           {"AA, KK:0.25", "AA, KK:0.25\n    " + reason},
+           {"AA (0.75), ", "AA (0.75), \n" + reason},
+           {"KK:0.25, KK", "KK:0.25, KK\n" + reason},
+           {"KK, none:10%", "KK, none:10%\n    " + reason},
+       }) {
+    const NotationReading all = ReadRangeNotation(c.notation, PairsFirst());
+    const NotationReading forGrid = ReadRangeNotation(c.notation, PairsFirst(), NotationWeights::kOfGrid);
+    const auto* const error = std::get_if<NotationError>(&forGrid);
+    EXPECT_EQ(error == nullptr ? "" : MarkedPlace(c.notation, *error), c.marked);
+    EXPECT_EQ(error == nullptr, forGrid == all) << c.notation;
+  }
+}
+
 TEST(RangeNotation, OfALongLineTheMarkShowsWhatIsAroundThePlace) {
   std::string before;
   for (int i = 0; i < 1000; ++i)
     before += "AA,";
   EXPECT_EQ(Read(before + "XX," + before), before.substr(0, 60) + "XX," + before.substr(0, 57) + "\n" +
                                                std::string(60, ' ') + "^ \"X\" is not a rank");
+  EXPECT_EQ(MarkedPlace("AA,KK,XX,QQ,JJ", {6, "wrong"}, 3), "KK,XX,\n   ^ wrong");
 }
 
 TEST(RangeNotation, ANotationWithoutEndIsRefused) {

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <array>
 #include <cstdint>
+#include <numeric>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,13 @@ class StagedMain : public QWidget {
   LayoutControls<kStagedLayout> Controls{*this};
 };
 
+/// AA, AKs, AQs and so on: for the stage as good an order as any.
+[[nodiscard]] inline HandOrder IndexOrder() {
+  HandOrder order{};
+  std::iota(order.begin(), order.end(), std::int16_t{0});
+  return order;
+}
+
 /// Everything on stage. The ranges are "Button Shove", with AA full and AKs half, and "Tight", with AA, KK and QQ.
 class DialogStage {
  public:
@@ -86,7 +94,9 @@ class DialogStage {
   ShiftWatch Shift{[this] { return ShiftHeld; }};
   StagedMain Main;
   RangeDialogs Dialogs{
-      Main, Main.Controls, {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift}};
+      Main,
+      Main.Controls,
+      {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift, .BestFirst = IndexOrder}};
 };
 
 /// A click of the left mouse button in the middle of the control, sent the way of the window's own events, so that it

@@ -105,7 +105,10 @@ class AccessibleControl : public AccessiblePart {
   }
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name ? control_->SpokenText() : QAccessibleWidget::text(kind);
+    if (kind == QAccessible::Name) return control_->SpokenText();
+    // Qt takes the tool tip where there is none; the one of a grid would be said at each of its cells.
+    if (kind == QAccessible::Description && control_->CheckState()) return control_->accessibleDescription();
+    return QAccessibleWidget::text(kind);
   }
 
   [[nodiscard]] QStringList actionNames() const override {

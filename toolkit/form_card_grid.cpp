@@ -1,8 +1,8 @@
 #include "toolkit/form_card_grid.h"
 
-#include <QKeyEvent>
+#include <QContextMenuEvent>
+#include <QMimeData>
 #include <algorithm>
-#include <optional>
 
 #include "toolkit/colors.h"
 #include "toolkit/placement.h"
@@ -65,6 +65,7 @@ FormCardGrid::FormCardGrid(const Patterns& patterns, FormControls& controls, QWi
                            const QCheckBox* half)
     : controls_(controls),
       container_(container),
+      frame_(patterns.Frame),
       shift_(shift),
       half_(half),
       places_(PlacesIn(patterns.Frame, patterns.Square)) {
@@ -74,6 +75,7 @@ FormCardGrid::FormCardGrid(const Patterns& patterns, FormControls& controls, QWi
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     BuildCell(index);
   MakeTabStop(0);
+  container.installEventFilter(this);
 }
 
 CellColors FormCardGrid::Colors() const {
@@ -116,6 +118,22 @@ void FormCardGrid::Toggle(std::int16_t index) {
   CellColors cells = Colors();
   ToggleCell(cells, index, {.Half = half_ != nullptr && half_->isChecked(), .Shift = shift_.Ask()});
   Show(cells);
+}
+
+void FormCardGrid::Toggle(std::span<const CellToggle> toggles) {
+  CellColors cells = Colors();
+  for (const CellToggle& toggle : toggles)
+    ToggleCell(cells, toggle.Index, {.Half = toggle.Half});
+  Show(cells);
+}
+
+void FormCardGrid::SetToolTip(const QString& text) {
+  for (Label* label : labels_)
+    label->setToolTip(text);
+}
+
+void FormCardGrid::TakeTexts() {
+  container_.setAcceptDrops(true);
 }
 
 void FormCardGrid::Raise(std::int16_t index) {
@@ -167,16 +185,67 @@ void FormCardGrid::Listen(std::int16_t index) {
   connect(&cell, &Control::FocusLeft, this, &FormCardGrid::CellLeft);
 }
 
+// What cells leave alone comes to the container: the mouse wherever it is over the grid, and the menu key.
 bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
-  auto* const cell = event->type() == QEvent::KeyPress ? std::ranges::find(labels_, watched) : labels_.end();
-  if (cell == labels_.end()) return QObject::eventFilter(watched, event);
-  const auto& press = dynamic_cast<QKeyEvent&>(*event);
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      if (const auto cell = CellOf(watched)) return HandlesKey(*cell, dynamic_cast<QKeyEvent&>(*event));
+      break;
+    case QEvent::ContextMenu:
+      if (const QPoint place = dynamic_cast<QContextMenuEvent&>(*event).pos();
+          watched == &container_ && IsOverGrid(place)) {
+        AskForMenu(place);
+        return true;
+      }
+      break;
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+      if (watched == &container_) return HandlesDrag(dynamic_cast<QDropEvent&>(*event));
+      break;
+    default:
+      break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+std::optional<std::int16_t> FormCardGrid::CellOf(const QObject* label) const {
+  const auto* const cell = std::ranges::find(labels_, label);
+  if (cell == labels_.end()) return {};
+  return static_cast<std::int16_t>(cell - labels_.begin());
+}
+
+// And not over what lies in front of it.
+bool FormCardGrid::IsOverGrid(const QPoint& place) const {
+  const QWidget* const front = container_.childAt(place);
+  return frame_.geometry().contains(place) && (front == nullptr || CellOf(front));
+}
+
+bool FormCardGrid::HandlesKey(std::int16_t from, const QKeyEvent& press) {
+  if (press.key() == Qt::Key_F10 && press.modifiers() == Qt::ShiftModifier) {
+    AskForMenu(Square(from).geometry().center());
+    return true;
+  }
   if (press.key() == Qt::Key_Escape) Q_EMIT CellLeft();
-  const auto from = static_cast<std::int16_t>(cell - labels_.begin());
   const auto to = CellReachedFrom(from, press);
-  if (!to) return QObject::eventFilter(watched, event);
-  MoveFocus(*to);  // also to where it is, for what it tells
+  if (to) MoveFocus(*to);  // also to where it is, for what it tells
+  return to.has_value();
+}
+
+// A copy: what is dragged stays where it is.
+bool FormCardGrid::HandlesDrag(QDropEvent& event) {
+  const bool entersWindow = event.type() == QEvent::DragEnter;
+  event.setDropAction(Qt::CopyAction);
+  event.setAccepted(event.mimeData()->hasText() && (entersWindow || IsOverGrid(event.position().toPoint())));
+  if (event.isAccepted() && event.type() == QEvent::Drop) Q_EMIT TextDropped(event.mimeData()->text());
   return true;
+}
+
+void FormCardGrid::AskForMenu(const QPoint& place) {
+  const auto* const square = std::ranges::find_if(
+      squares_, [&place](const Shape* candidate) { return candidate->geometry().contains(place); });
+  const auto index = square == squares_.end() ? -1 : square - squares_.begin();
+  Q_EMIT MenuWanted(static_cast<qint16>(index), container_.mapToGlobal(place));
 }
 
 void FormCardGrid::MoveFocus(std::int16_t to) {

@@ -3,16 +3,23 @@
 // The card grid of a form, made of the form's own controls: the cell of index 0, of which all others are copies, and
 // `shapeBlue`, which is fitted round them. It also carries what the keyboard does: Tab reaches the grid at one cell,
 // the arrow keys go from there to the neighbours, Home and End to the ends of the row and with Ctrl to those of the
-// grid, and Enter or Space presses the cell. An index is that of a class.
+// grid, and Enter or Space presses the cell; the menu key or Shift+F10 asks for its menu, as the right mouse button
+// does all over the grid. An index is that of a class.
 
 #include <QCheckBox>
+#include <QDropEvent>
+#include <QKeyEvent>
 #include <QObject>
+#include <QPoint>
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string_view>
 
 #include "hand/hand_classes.h"
 #include "ranges/card_grid.h"
+#include "ranges/grid_edits.h"
 #include "toolkit/form_builder.h"
 #include "toolkit/shift_watch.h"
 
@@ -47,6 +54,15 @@ class FormCardGrid : public QObject {
   /// What a click does: toggles the cell by the check box and the Shift test, which is used up by that.
   void Toggle(std::int16_t index);
 
+  /// Toggles cells one after another, whatever the check box says and whether Shift is pressed or not.
+  void Toggle(std::span<const CellToggle> toggles);
+
+  /// What the mouse is told over every cell; nothing by the empty text.
+  void SetToolTip(const QString& text);
+
+  /// Lets texts be dropped on the grid.
+  void TakeTexts();
+
   /// Brings a cell to the front.
   void Raise(std::int16_t index);
 
@@ -59,6 +75,9 @@ class FormCardGrid : public QObject {
   void CellHovered(qint16 index);  // the mouse moved over it
   void CellReached(qint16 index);  // the keyboard went there: Tab, or a key that goes from cell to cell
   void CellLeft();  // the keyboard went away, or the user pressed Escape
+  /// The user wants a menu at that point of the screen, of the cell there, -1 for a gap between cells.
+  void MenuWanted(qint16 index, const QPoint& place);
+  void TextDropped(const QString& text);
 
  private:
   /// What the form has of the grid before it is built.
@@ -73,6 +92,11 @@ class FormCardGrid : public QObject {
   void ShowHalo(std::int16_t index);
   void BuildCell(std::int16_t index);
   void Listen(std::int16_t index);
+  [[nodiscard]] std::optional<std::int16_t> CellOf(const QObject* label) const;
+  [[nodiscard]] bool IsOverGrid(const QPoint& place) const;
+  [[nodiscard]] bool HandlesKey(std::int16_t from, const QKeyEvent& press);
+  [[nodiscard]] bool HandlesDrag(QDropEvent& event);
+  void AskForMenu(const QPoint& place);
   void MoveFocus(std::int16_t to);
   void MakeTabStop(std::int16_t index);
   [[nodiscard]] Shape& Square(std::int16_t index) const { return *squares_.at(static_cast<std::size_t>(index)); }
@@ -80,6 +104,7 @@ class FormCardGrid : public QObject {
 
   FormControls& controls_;
   QWidget& container_;
+  const Shape& frame_;
   ShiftWatch& shift_;
   const QCheckBox* half_ = nullptr;
   CardGridPlaces places_;

@@ -1,8 +1,12 @@
 #include "toolkit/form_keys.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QShortcut>
+#include <QTextEdit>
 #include <utility>
 
 #include "toolkit/control.h"
@@ -18,6 +22,11 @@ void PressByKey(QWidget& control) {
   ours->Click();
 }
 
+bool IsTextBox(const QWidget* control) {
+  return qobject_cast<const QLineEdit*>(control) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(control) != nullptr || qobject_cast<const QTextEdit*>(control) != nullptr;
+}
+
 }  // namespace
 
 QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action, Qt::ShortcutContext context) {
@@ -26,6 +35,13 @@ QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> a
   shortcut->setContext(context);
   QObject::connect(shortcut, &QShortcut::activated, &parent, std::move(action));
   return *shortcut;
+}
+
+void BindKeyBesideText(QWidget& parent, QKeyCombination key, std::function<void()> action) {
+  QShortcut& shortcut = BindKey(parent, key, std::move(action));
+  shortcut.setEnabled(!IsTextBox(QApplication::focusWidget()));
+  QObject::connect(qApp, &QApplication::focusChanged, &shortcut,
+                   [&shortcut](QWidget* /*before*/, QWidget* now) { shortcut.setEnabled(!IsTextBox(now)); });
 }
 
 // A shortcut sleeps while its parent is hidden.

@@ -20,4 +20,8 @@ void BindPress(QWidget& control, QKeyCombination key);
 QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action,
                    Qt::ShortcutContext context = Qt::WindowShortcut);
 
+/// The same for a key that text boxes know, such as Ctrl+C: while one of the window has the focus, be it one to read
+/// from, the key is that box's.
+void BindKeyBesideText(QWidget& parent, QKeyCombination key, std::function<void()> action);
+
 }  // namespace quillon

@@ -1,6 +1,9 @@
 #include "toolkit/form_keys.h"
 
+#include <QClipboard>
 #include <QDialog>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -93,6 +96,30 @@ TEST_F(FormKeysTest, DoNothingWhileTheyAreDisabled) {
     Press(Qt::Key_Escape);
   }
   EXPECT_EQ(presses, 2);
+}
+
+TEST_F(FormKeysTest, LeaveToATextBoxWhatItKnows) {
+  int presses = 0;
+  BindKeyBesideText(form, Qt::CTRL | Qt::Key_C, [&presses] { ++presses; });
+  box.setText(QStringLiteral("typed"));
+  QPlainTextEdit read(QStringLiteral("read"), &form);
+  read.setReadOnly(true);
+  read.selectAll();
+  read.show();
+  struct Row {
+    QWidget* Focused;
+    QString Copied;
+    int Presses;
+  };
+  for (const Row& row : {Row{&box, QStringLiteral("typed"), 0}, Row{&button, {}, 1},
+                         Row{&read, QStringLiteral("read"), 1}, Row{&form, {}, 2}}) {
+    QGuiApplication::clipboard()->clear();
+    row.Focused->setFocus();
+    if (row.Focused == &box) box.selectAll();
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), row.Copied);
+    EXPECT_EQ(presses, row.Presses);
+  }
 }
 
 TEST_F(FormKeysTest, OfTheWholeProgramAreHeardInEveryWindowButNotBehindABox) {

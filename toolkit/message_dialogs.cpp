@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "toolkit/application.h"
+#include "toolkit/fonts.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -51,12 +52,16 @@ MessageAnswer AnswerOf(int button) {
   }
 }
 
+QLabel& TextOf(const QMessageBox& box) {
+  return *box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+}
+
 // Qt breaks lines where a box becomes wider than 500 pixels, whatever its scale; the text has this much of them.
 void WidenToScale(const QMessageBox& box) {
   constexpr int kTextWidth = 427;
   if (PixelScale() <= 1) return;
-  auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-  text->setMinimumWidth(std::min(text->sizeHint().width(), LinePixels(kTextWidth)));
+  QLabel& text = TextOf(box);
+  text.setMinimumWidth(std::min(text.sizeHint().width(), LinePixels(kTextWidth)));
 }
 
 }  // namespace
@@ -66,6 +71,9 @@ void FillMessageBox(QMessageBox& box, const Message& message) {
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   box.setWindowTitle(ToQt(message.title));
   box.setText(ToQt(message.text));
+  if (message.columns) {
+    TextOf(box).setFont(FormFont({.Family = "Courier New", .Points = kDialogFont.Points}, {}));
+  }
   WidenToScale(box);
   box.setIcon(IconOf(message.icon));
   box.setStandardButtons(ButtonsOf(message.buttons));

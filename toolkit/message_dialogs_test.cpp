@@ -94,6 +94,18 @@ TEST(MessageDialogs, ShowTheTextAsItStands) {
   MessageDialogs().Show({.title = "Quillon", .text = "The range \"<b>A & B</b>\"\r\nis there."});
 }
 
+TEST(MessageDialogs, ShowAMarkUnderItsPlace) {
+  for (const bool columns : {false, true}) {
+    ExpectDialog([columns](QDialog& dialog) {
+      const QFontMetrics letters(dialog.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->font());
+      EXPECT_EQ(letters.horizontalAdvance(QStringLiteral("Wi,")) == letters.horizontalAdvance(QStringLiteral("   ")),
+                columns);
+      dialog.accept();
+    });
+    MessageDialogs().Show({.title = "Quillon", .text = "Wi,X\r\n   ^ wrong", .columns = columns});
+  }
+}
+
 // Two windows, the second in front of the first.
 class AskingWindows : public testing::Test {
  protected:

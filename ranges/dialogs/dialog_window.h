@@ -4,10 +4,12 @@
 // Tab key, and how they come up.
 
 #include <QWidget>
+#include <functional>
 #include <span>
 #include <string_view>
 
 #include "ranges/range_files.h"
+#include "ranges/range_notation.h"
 #include "support/input_boxes.h"
 #include "support/message_boxes.h"
 #include "support/twips.h"
@@ -22,6 +24,7 @@ struct DialogSurroundings {
   MessageBoxes& Messages;
   InputBoxes& Inputs;
   ShiftWatch& Shift;
+  std::function<HandOrder()> BestFirst;  // the classes as "top 15%" takes them
 };
 
 /// Makes `form` a window with that title and inner area, hidden.

@@ -19,6 +19,7 @@ ManagerForm::ManagerForm(DialogSurroundings surroundings)
     : around_(std::move(surroundings)),
       controls_(BuildDialog<ManagerControls>(*this, kManagerTitle, kManagerSize)),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
+      painting_(*this, grid_, controls_.Get<QCheckBox>("chkHalf"), around_),
       list_(controls_.Get<QListWidget>("lstRanges")) {
   RestorePlace(*this, kManagerSection, around_.Folder);
   OrderTabs(controls_.All(manager_layout::kTabOrder));
@@ -29,6 +30,10 @@ void ManagerForm::RefreshList() {
   list_.Show(FillRangeList(around_.Folder, ListStart::kFirstRange, list_.CurrentText()));
 }
 
+void ManagerForm::showEvent(QShowEvent* /*event*/) {
+  if (!lostWeights_.empty()) Announce(*this, ToQt(lostWeights_));
+}
+
 void ManagerForm::closeEvent(QCloseEvent* event) {
   event->accept();
   WriteIniValues(PlaceSettings(kManagerSection, *this), around_.Folder);
@@ -37,11 +42,7 @@ void ManagerForm::closeEvent(QCloseEvent* event) {
 
 void ManagerForm::Bind() {
   connect(&list_, &FormListBox::Clicked, this, &ManagerForm::ShowRange);
-  connect(&grid_, &FormCardGrid::CellClicked, this, [this](qint16 index) {
-    grid_.Toggle(index);
-    ShowSelectionCaption();
-    SetSummary(GridSummary(grid_.Colors()));
-  });
+  connect(&painting_, &GridPainting::Painted, this, &ManagerForm::SumUp);
   connect(&controls_.PictureAt("imgNew"), &Control::Clicked, this, &ManagerForm::ClickNew);
   connect(&controls_.PictureAt("imgSave"), &Control::Clicked, this, &ManagerForm::ClickSave);
   connect(&controls_.PictureAt("imgSaveAs"), &Control::Clicked, this, &ManagerForm::ClickSaveAs);
@@ -62,12 +63,25 @@ void ManagerForm::ShowRange() {
   const std::string name = list_.CurrentText();
   CellColors cells = UnselectedCells();
   grid_.Show(cells);
-  ShowRangeOnGrid(cells, around_.Folder, name);
+  const ClassWeights file = ShowRangeOnGrid(cells, around_.Folder, name);
   grid_.Show(cells);
+  painting_.Start();
   // Of what the grid can show: a weight such as 0.25 in the file does not appear.
-  SetSummary(GridSummary(cells));
+  SumUp();
   controls_.LabelAt("lblRangeName").SetText(ToQt(name));
+  TellLostWeights(name, file);
+}
+
+void ManagerForm::SumUp() {
   ShowSelectionCaption();
+  SetSummary(GridSummary(grid_.Colors()));
+}
+
+// A refresh that shows the same range again is no news.
+void ManagerForm::TellLostWeights(std::string_view name, const ClassWeights& file) {
+  const std::string before = std::exchange(lostWeights_, LostWeightsNote(name, file));
+  grid_.SetToolTip(ToQt(lostWeights_));
+  if (!lostWeights_.empty() && lostWeights_ != before) Announce(*this, ToQt(lostWeights_));
 }
 
 void ManagerForm::ClickNew() {
@@ -126,7 +140,7 @@ void ManagerForm::ClickOk() {
   close();
 }
 
-std::string ManagerForm::AskName(const NameQuestion& question, std::string_view onOffer) {
+std::string ManagerForm::AskName(const LineQuestion& question, std::string_view onOffer) {
   return around_.Inputs.Ask(question.Prompt, question.Title, onOffer);
 }
 

@@ -6,16 +6,18 @@
 // an entry of the list, a refresh too, paints the grid anew from the file: changes that were not saved are gone then,
 // without a question.
 //
-// Nothing is kept beside the controls. The range that is shown is the selected entry, the empty text where none is, and
-// whether it was changed is found out by comparison. Failures of files are told at "ranges/range_files.h".
+// Of the range nothing is kept beside the controls. The one that is shown is the selected entry, the empty text where
+// none is, and whether it was changed is found out by comparison. Failures of files are told at "ranges/range_files.h".
 
 #include <QWidget>
 #include <string>
 #include <string_view>
 
 #include "ranges/dialogs/dialog_window.h"
+#include "ranges/dialogs/grid_painting.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/range_messages.h"
+#include "ranges/range_text.h"
 #include "toolkit/form_card_grid.h"
 #include "toolkit/form_list.h"
 
@@ -45,11 +47,14 @@ class ManagerForm : public QWidget {
   void Closed();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void Bind();
   void ShowRange();
+  void SumUp();
+  void TellLostWeights(std::string_view name, const ClassWeights& file);
   void ClickNew();
   void ClickSave();
   void ClickSaveAs();
@@ -57,7 +62,7 @@ class ManagerForm : public QWidget {
   void ClickDelete();
   void ClickOk();
 
-  [[nodiscard]] std::string AskName(const NameQuestion& question, std::string_view onOffer);
+  [[nodiscard]] std::string AskName(const LineQuestion& question, std::string_view onOffer);
   [[nodiscard]] bool MayTakeName(std::string_view name);
   [[nodiscard]] bool HasBeenModified() const;
   void SaveGridAs(std::string_view name);
@@ -68,7 +73,9 @@ class ManagerForm : public QWidget {
   DialogSurroundings around_;
   ManagerControls controls_;
   FormCardGrid grid_;
+  GridPainting painting_;
   FormListBox list_;
+  std::string lostWeights_;  // what a save drops of the range shown
 };
 
 }  // namespace quillon

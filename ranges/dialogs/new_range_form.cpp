@@ -18,6 +18,7 @@ NewRangeForm::NewRangeForm(DialogSurroundings surroundings)
     : around_(std::move(surroundings)),
       controls_(BuildDialog<NewRangeControls>(*this, kNewRangeTitle, kNewRangeSize)),
       grid_(controls_, *this, around_.Shift, &controls_.Get<QCheckBox>("chkHalf")),
+      painting_(*this, grid_, controls_.Get<QCheckBox>("chkHalf"), around_),
       name_(controls_.Get<TextBox>("txtRangeName")) {
   controls_.Get<QCheckBox>("chkSaveRange").setChecked(true);
 
@@ -29,6 +30,7 @@ NewRangeForm::NewRangeForm(DialogSurroundings surroundings)
 void NewRangeForm::Propose(std::span<const std::int16_t> cells) {
   for (const std::int16_t index : cells)
     grid_.Toggle(index);
+  painting_.AddStep();
   SumUp();
   name_.setFocus(Qt::OtherFocusReason);
 }
@@ -40,10 +42,7 @@ void NewRangeForm::closeEvent(QCloseEvent* event) {
 }
 
 void NewRangeForm::Bind() {
-  connect(&grid_, &FormCardGrid::CellClicked, this, [this](qint16 index) {
-    grid_.Toggle(index);
-    SumUp();
-  });
+  connect(&painting_, &GridPainting::Painted, this, &NewRangeForm::SumUp);
   connect(&controls_.Get<QCheckBox>("chkSaveRange"), &QCheckBox::toggled, this, &NewRangeForm::ClickSaveRange);
   connect(&name_, &TextBox::EnterPressed, this, &NewRangeForm::ClickOk);
   connect(&controls_.Get<QPushButton>("cmdOK"), &QPushButton::clicked, this, &NewRangeForm::ClickOk);

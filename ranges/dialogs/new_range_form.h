@@ -13,6 +13,7 @@
 #include <string>
 
 #include "ranges/dialogs/dialog_window.h"
+#include "ranges/dialogs/grid_painting.h"
 #include "ranges/dialogs/new_range_layout.h"
 #include "toolkit/form_card_grid.h"
 #include "toolkit/text_box.h"
@@ -30,7 +31,7 @@ class NewRangeForm : public QWidget {
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
 
   /// Toggles these cells as clicks on them would, one after another, sums the grid up, and puts the focus on the name
-  /// where it can be typed.
+  /// where it can be typed. All of it is one step to undo.
   void Propose(std::span<const std::int16_t> cells);
 
  Q_SIGNALS:
@@ -52,6 +53,7 @@ class NewRangeForm : public QWidget {
   DialogSurroundings around_;
   NewRangeControls controls_;
   FormCardGrid grid_;
+  GridPainting painting_;
   TextBox& name_;
 };
 

@@ -23,6 +23,7 @@
 #include "shell/screens/main_layout.h"
 #include "shell/start_up.h"
 #include "shell/user_guide.h"
+#include "study/hand_order.h"
 #include "toolkit/browser.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/placement.h"
@@ -83,9 +84,12 @@ MainForm::MainForm(Surroundings surroundings)
       controls_(BuildMainControls(*this)),
       navigation_(*this, controls_),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
-      dialogs_(
-          *this, controls_,
-          {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
+      dialogs_(*this, controls_,
+               {.Folder = around_.Folder,
+                .Messages = around_.Messages,
+                .Inputs = around_.Inputs,
+                .Shift = around_.Shift,
+                .BestFirst = [] { return HandsBestFirst(HandNumbers()); }}),
       results_(controls_, grid_),
       hover_(controls_, grid_),
       boxes_(controls_, around_.Messages, [this] { results_.SetResultsShown(false); }),

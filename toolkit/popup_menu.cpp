@@ -1,0 +1,33 @@
+#include "toolkit/popup_menu.h"
+
+#include <QAction>
+#include <QMenu>
+#include <algorithm>
+
+#include "toolkit/application.h"
+
+namespace quillon {
+
+void PopUpMenu(QWidget& owner, const QPoint& place, const std::vector<MenuEntry>& entries) {
+  auto* menu = new QMenu(owner.window());
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const MenuEntry& entry : entries) {
+    if (entry.Text.isEmpty()) {
+      menu->addSeparator();
+      continue;
+    }
+    // After a tab a menu shows a key, which the menu itself does not hear.
+    QString text = QString(entry.Text).replace(QLatin1Char('&'), QStringLiteral("&&"));
+    if (!entry.Key.isEmpty()) text += QLatin1Char('\t') + entry.Key.toString(QKeySequence::NativeText);
+    QAction* action = menu->addAction(text);
+    action->setEnabled(entry.Enabled);
+    QObject::connect(action, &QAction::triggered, owner.window(), entry.Action);
+  }
+  menu->popup(place);
+  if (!AnswersKey()) return;
+  const QList<QAction*> actions = menu->actions();
+  const auto first = std::ranges::find_if(actions, [](const QAction* action) { return action->isEnabled(); });
+  if (first != actions.end()) menu->setActiveAction(*first);
+}
+
+}  // namespace quillon
