@@ -26,11 +26,6 @@ Limit LimitOfLine(double atZero, double slope) {
   return {neverBelow ? LimitKind::kAlways : LimitKind::kNever, 0};
 }
 
-// Whether a hand may lose at an amount near its limit.
-bool MayLose(const Limit& limit, double amount) {
-  return limit.Kind == LimitKind::kUpTo ? amount > limit.Amount : amount < limit.Amount;
-}
-
 // Half of `unit` farther to the side on which the hand does not lose, so that the nearest multiple is on that side.
 double Safer(const Limit& limit, double unit) {
   return limit.Amount + (limit.Kind == LimitKind::kUpTo ? -unit / 2 : unit / 2);
@@ -75,6 +70,34 @@ Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call) {
                   [pot, call](const ClassFigures& figures) { return ShoveLimit(pot, call, figures); });
 }
 
+std::string_view LimitKindName(LimitKind kind) {
+  switch (kind) {
+    case LimitKind::kUpTo:
+      return "up to";
+    case LimitKind::kFrom:
+      return "from";
+    case LimitKind::kAlways:
+      return "always";
+    case LimitKind::kNever:
+      break;
+  }
+  return "never";
+}
+
+bool LosesAt(const Limit& limit, double amount) {
+  switch (limit.Kind) {
+    case LimitKind::kUpTo:
+      return amount > limit.Amount;
+    case LimitKind::kFrom:
+      return amount < limit.Amount;
+    case LimitKind::kAlways:
+      return false;
+    case LimitKind::kNever:
+      break;
+  }
+  return true;
+}
+
 std::string LimitText(const Limit& limit) {
   switch (limit.Kind) {
     case LimitKind::kUpTo:
@@ -95,12 +118,12 @@ std::string ShortAmount(const Limit& limit) {
   constexpr std::array<std::pair<int, double>, 3> kUnits = {{{2, 0.01}, {1, 0.1}, {0, 1}}};
   for (const auto& [decimals, unit] : kUnits) {
     double rounded = RoundTo(limit.Amount, decimals);
-    if (MayLose(limit, rounded)) rounded = RoundTo(Safer(limit, unit), decimals);
+    if (LosesAt(limit, rounded)) rounded = RoundTo(Safer(limit, unit), decimals);
     std::string text = NumberText(rounded);
     if (text.size() <= kMost && limit.Amount >= kLeast) return text;
   }
   std::string text = WithPowerOfTen(limit.Amount);
-  if (!MayLose(limit, LeadingNumber(text))) return text;
+  if (!LosesAt(limit, LeadingNumber(text))) return text;
   return WithPowerOfTen(Safer(limit, std::pow(10, std::floor(std::log10(limit.Amount)) - 1)));
 }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "analysis/range_sources.h"
 #include "hand/hand_classes.h"
@@ -44,6 +45,17 @@ using Limits = std::array<Limit, kHandClassCount>;
 /// The limits of all classes, by class index. `range` must have some weight above 0; fails as FiguresOf does.
 [[nodiscard]] Limits CallLimits(const RangeNumbers& range, double pot);
 [[nodiscard]] Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call);
+
+/// Whether a limit has an amount.
+[[nodiscard]] constexpr bool HasAmount(const Limit& limit) {
+  return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
+}
+
+/// The kind of a limit as tables have it: "up to", "always", "never", "from".
+[[nodiscard]] std::string_view LimitKindName(LimitKind kind);
+
+/// Whether a class with this limit loses at an amount.
+[[nodiscard]] bool LosesAt(const Limit& limit, double amount);
 
 /// A limit in words; the amount has the general number form.
 ///

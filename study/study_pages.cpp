@@ -2,47 +2,18 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 
-#include "results/grid_colors.h"
 #include "results/grid_picture.h"
+#include "study/limit_cells.h"
 #include "support/number_text.h"
 
 namespace quillon {
 namespace {
 
-constexpr Rgb kNeverColor = {0xE3, 0xE6, 0xEA};
-constexpr Rgb kFromColor = {0xFF, 0xD3, 0x7A};
 constexpr Rgb kPanelColor = {0x1F, 0x5F, 0xA8};
 constexpr double kLast = 1e300;  // in the order of a table; the largest number of all would not be one with 15 digits
-
-// The shades of an equity, from pale to the darkest; by ratios, as amounts go over several sizes.
-class Shades {
- public:
-  void Add(double amount) {
-    least_ = std::min(least_, amount);
-    most_ = std::max(most_, amount);
-  }
-
-  [[nodiscard]] Rgb Of(double amount) const {
-    const double span = std::log(most_) - std::log(least_);
-    const double place = span > 0 ? (std::log(amount) - std::log(least_)) / span : 0;
-    return EquityColor(kPalest + place * (kDeepest - kPalest));
-  }
-
-  static Rgb Deepest() { return EquityColor(1); }
-  static Rgb Middle() { return EquityColor((kPalest + kDeepest) / 2); }
-
- private:
-  static constexpr double kPalest = 0.1;
-  static constexpr double kDeepest = 0.7;  // a shade below what is always good
-
-  double least_ = std::numeric_limits<double>::max();
-  double most_ = 0;
-};
 
 std::array<PictureCell, kHandClassCount> PictureOf(const PageGrid& grid) {
   PictureCells cells;
@@ -53,30 +24,6 @@ std::array<PictureCell, kHandClassCount> PictureOf(const PageGrid& grid) {
 }
 
 // ---- limits
-
-std::string LimitWords(const Limit& limit) {
-  if (limit.Kind == LimitKind::kUpTo) return "up to " + LimitText(limit);
-  return LimitText(limit) + (limit.Kind == LimitKind::kFrom ? " on" : "");
-}
-
-std::string ShortText(const Limit& limit) {
-  if (limit.Kind == LimitKind::kUpTo) return ShortAmount(limit);
-  return limit.Kind == LimitKind::kFrom ? "\u2265" + ShortAmount(limit) : LimitText(limit);
-}
-
-Rgb ColorOf(const Limit& limit, const Shades& shades) {
-  switch (limit.Kind) {
-    case LimitKind::kUpTo:
-      return shades.Of(limit.Amount);
-    case LimitKind::kAlways:
-      return Shades::Deepest();
-    case LimitKind::kFrom:
-      return kFromColor;
-    case LimitKind::kNever:
-      break;
-  }
-  return kNeverColor;
-}
 
 double OrderOf(const Limit& limit) {
   switch (limit.Kind) {
@@ -93,30 +40,12 @@ double OrderOf(const Limit& limit) {
 }
 
 PageGrid GridOf(const std::string& title, const Limits& limits) {
-  Shades shades;
-  for (const Limit& limit : limits) {
-    if (limit.Kind == LimitKind::kUpTo) shades.Add(limit.Amount);
-  }
   PageGrid grid{.Name = title, .Cells = {}};
-  std::ranges::transform(limits, grid.Cells.begin(), [&shades](const Limit& limit) {
-    return PageCell{.Color = ColorOf(limit, shades),
-                    .Text = ShortText(limit),
-                    .PanelColor = kPanelColor,
-                    .Panel = {{"Does not lose:", LimitWords(limit)}}};
+  std::ranges::transform(LimitCells(limits), grid.Cells.begin(), [](const ClassCell& cell) {
+    return PageCell{
+        .Color = cell.Color, .Text = cell.Text, .PanelColor = kPanelColor, .Panel = {{"Does not lose:", cell.Words}}};
   });
   return grid;
-}
-
-std::vector<PageLegend> LegendOf(const Limits& limits) {
-  const auto has = [&limits](LimitKind kind) {
-    return std::ranges::any_of(limits, [kind](const Limit& limit) { return limit.Kind == kind; });
-  };
-  std::vector<PageLegend> legend;
-  if (has(LimitKind::kAlways)) legend.push_back({Shades::Deepest(), "always"});
-  if (has(LimitKind::kUpTo)) legend.push_back({Shades::Middle(), "up to this amount; the larger, the darker"});
-  if (has(LimitKind::kFrom)) legend.push_back({kFromColor, "from this amount on"});
-  if (has(LimitKind::kNever)) legend.push_back({kNeverColor, "never"});
-  return legend;
 }
 
 // ---- charts
@@ -130,8 +59,8 @@ std::string CellText(const StackLimit& limit) {
   return StackText(limit) + (limit.Gaps.empty() ? "" : "*");
 }
 
-PageCell CellOf(const std::string& title, const StackLimit& limit, const Shades& shades) {
-  PageCell cell{.Color = kNeverColor,
+PageCell CellOf(const std::string& title, const StackLimit& limit, const AmountShades& shades) {
+  PageCell cell{.Color = kNeverPlayedColor,
                 .Text = CellText(limit),
                 .PanelColor = kPanelColor,
                 .Panel = {{title + ":", limit.Largest.empty() ? StackText(limit) : "up to " + StackText(limit)}}};
@@ -152,7 +81,7 @@ std::string GapsNote(const StackLimits& limits) {
 }
 
 PageGrid GridOf(const std::string& title, const StackLimits& limits, const Steps& stacks) {
-  Shades shades;
+  AmountShades shades;
   shades.Add(LeadingNumber(stacks.Text(0)));
   shades.Add(LeadingNumber(stacks.Text(stacks.Count() - 1)));
   PageGrid grid{.Name = title, .Cells = {}};
@@ -173,7 +102,7 @@ std::string LimitsPage(const LimitsQuestion& question, const Limits& limits) {
   WebPage page{.Title = question.Title,
                .Subtitle = "Up to which amount each hand does not lose",
                .Situation = question.Situation,
-               .Legend = LegendOf(limits),
+               .Legend = LimitLegend(limits),
                .Grids = {GridOf(question.Title, limits)},
                .Columns = {"Combos", "Does not lose"}};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -203,7 +132,7 @@ std::string ChartPage(const StackChart& chart, const Steps& stacks) {
                       "A number is the largest stack, in big blinds, at which the hand is played; a plus says that it "
                       "is the largest of the chart. A star says that the hand is not played at some smaller stacks: "
                       "its panel and the table tell which."},
-      .Legend = {{Shades::Middle(), "up to this stack; the larger, the darker"}, {kNeverColor, "at none"}},
+      .Legend = {{AmountShades::Middle(), "up to this stack; the larger, the darker"}, {kNeverPlayedColor, "at none"}},
       .Grids = {GridOf(kShoveTitle, chart.Shove, stacks), GridOf(kCallTitle, chart.Call, stacks)},
       .Columns = {"Shove up to", "but not at", "Call up to", "but not at"}};
   for (std::size_t i = 0; i < kHandClassCount; ++i) {

@@ -25,27 +25,9 @@ struct Answer {
   Limits limits;
 };
 
-bool HasAmount(const Limit& limit) {
-  return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
-}
-
 std::string GridText(const Limit& limit) {
   if (!HasAmount(limit)) return LimitText(limit);
   return (limit.Kind == LimitKind::kFrom ? "from " : "") + ShortAmount(limit);
-}
-
-std::string_view KindName(LimitKind kind) {
-  switch (kind) {
-    case LimitKind::kUpTo:
-      return "up to";
-    case LimitKind::kFrom:
-      return "from";
-    case LimitKind::kAlways:
-      return "always";
-    case LimitKind::kNever:
-      break;
-  }
-  return "never";
 }
 
 std::string GridOutput(const Answer& answer) {
@@ -58,7 +40,7 @@ std::string CsvOutput(const Answer& answer) {
   std::string text = "hand,limit,amount\n";
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const Limit& limit = answer.limits[static_cast<std::size_t>(index)];
-    text.append(HandLabel(index)).append(",").append(KindName(limit.Kind)).append(",");
+    text.append(HandLabel(index)).append(",").append(LimitKindName(limit.Kind)).append(",");
     text.append(HasAmount(limit) ? NumberText(limit.Amount) : "").append("\n");
   }
   return text;
@@ -68,7 +50,8 @@ std::string JsonOutput(const Answer& answer) {
   nlohmann::ordered_json hands = nlohmann::ordered_json::array();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const Limit& limit = answer.limits[static_cast<std::size_t>(index)];
-    nlohmann::ordered_json hand = {{"hand", HandLabel(index)}, {"limit", KindName(limit.Kind)}, {"amount", nullptr}};
+    nlohmann::ordered_json hand = {
+        {"hand", HandLabel(index)}, {"limit", LimitKindName(limit.Kind)}, {"amount", nullptr}};
     if (HasAmount(limit)) hand["amount"] = limit.Amount;
     hands.push_back(hand);
   }

@@ -1,0 +1,40 @@
+#pragma once
+
+// A finished analysis as the study's pages ask about it further: what was asked, with the ranges read once.
+
+#include <string>
+
+#include "analysis/analysis.h"
+#include "analysis/range_sources.h"
+#include "ranges/range_text.h"
+
+namespace quillon {
+
+struct StudySituation {
+  Situation Asked;  // what its scenario does not ask for is 0 or empty
+  ClassWeights Range{};  // the weights of Asked.RangeText
+  ClassWeights CallingRange{};  // of Asked.CallingRangeText; all 0 in a scenario without one
+  const HandNumbers* Hands = nullptr;  // never null; outlives the situation
+
+  /// The ranges, ready for thousands of questions.
+  [[nodiscard]] RangeNumbers Numbers() const { return {*Hands, Range, CallingRange}; }
+
+  /// The amounts of the situation.
+  [[nodiscard]] Amounts AllAmounts() const { return {Asked.PotSize, Asked.CallAmount, Asked.ShoveAmount}; }
+
+  /// The amount that the move is about: the call, or the shove; 0 where only equities were asked for.
+  [[nodiscard]] double OwnAmount() const;
+};
+
+/// The situation of a finished analysis, whose fields may hold more than its scenario asks for. `hands` must outlive
+/// what is returned. Fails as RangeWeightsOf does, as on texts that no analysis finishes with.
+[[nodiscard]] StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands);
+
+/// One line about a situation, which must have a scenario.
+///
+///     Preflop Call: pot 110, 90 to call; he plays "Button Shove"
+///     Preflop Raise: pot 150, 50 to call, he must call 400; he plays "Button Shove" and calls with "Tight"
+///     Equity Only: against "Tight"
+[[nodiscard]] std::string SituationWords(const Situation& situation);
+
+}  // namespace quillon
