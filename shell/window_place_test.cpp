@@ -70,5 +70,33 @@ TEST(PlaceSettings, AreNumberTexts) {
   EXPECT_EQ(ReadIniValue("Main", "Top", program.Folder()), "-67.5");
 }
 
+TEST(StoredSize, IsWhatTheWindowHad) {
+  constexpr TwipSize kLeast = {12000, 9000};
+  constexpr TwipSize kOtherwise = {14000, 10000};
+  struct Case {
+    const char* rule;
+    std::string width;
+    std::string height;
+    TwipSize size;
+  };
+  const std::vector<Case> cases = {
+      {"a size", "15000", "9150.5", {15000, 9150.5F}},
+      {"nothing stored", "", "", kOtherwise},
+      {"no height", "15000", "", kOtherwise},
+      {"no width", "", "9500", kOtherwise},
+      {"less than the least", "100", "-5", kLeast},
+      {"no numbers", "wide", "high", kLeast},
+      {"beyond any screen", "1e999", "150001", {kMostWindowLength, kMostWindowLength}},
+  };
+  const TemporaryProgram program;
+  for (const Case& c : cases) {
+    WriteIniValue("Study", "Width", c.width, program.Folder());
+    WriteIniValue("Study", "Height", c.height, program.Folder());
+    EXPECT_EQ(StoredSize("Study", kLeast, kOtherwise, program.Folder()), c.size) << c.rule;
+  }
+  WriteIniValues(SizeSettings("Study", {15000, 9150.5F}), program.Folder());
+  EXPECT_EQ(StoredSize("Study", kLeast, kOtherwise, program.Folder()), (TwipSize{15000, 9150.5F}));
+}
+
 }  // namespace
 }  // namespace quillon

@@ -80,6 +80,19 @@ void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QRec
   DrawSign(painter, sign, {{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}, 1.6);
 }
 
+// The chosen tab is white and open to its page, with a line of the colour of a focused edge over it.
+void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
+  const bool chosen = Has(tab, QStyle::State_Selected);
+  const int line = LinePixels(1);
+  QRgb face = Has(tab, QStyle::State_MouseOver) ? kHoveredFace : kFace;
+  if (chosen) face = qRgb(255, 255, 255);
+  const QRect place = chosen ? tab.rect : tab.rect.adjusted(0, LinePixels(2), 0, -line);
+  painter.fillRect(place, QColor::fromRgb(kEdge));
+  painter.fillRect(place.adjusted(line, line, -line, chosen ? 0 : -line), QColor::fromRgb(face));
+  if (!chosen) return;
+  painter.fillRect(place.left(), place.top(), place.width(), LinePixels(3), QColor::fromRgb(kFocusedEdge));
+}
+
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, QRect handle) {
   painter.fillRect(bar.rect, QColor::fromRgb(kGroove));
   if (!Has(bar, QStyle::State_Enabled) || bar.maximum <= bar.minimum) return;
@@ -199,6 +212,7 @@ void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   switch (element) {
     case PE_Frame:
     case PE_FrameLineEdit:
+    case PE_FrameTabWidget:
       return DrawEdge(*painter, *option);
     case PE_PanelButtonCommand:
       return DrawButton(*painter, *option);
@@ -215,6 +229,8 @@ void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 
 void LightStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
+  const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+  if (element == CE_TabBarTabShape && tab != nullptr) return DrawTab(*painter, *tab);
   const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
   if (element != CE_ComboBoxLabel || box == nullptr) {
     return QProxyStyle::drawControl(element, option, painter, widget);

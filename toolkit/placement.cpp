@@ -14,6 +14,8 @@ namespace quillon {
 namespace {
 
 constexpr const char* kPlaceProperty = "placeInTwips";
+constexpr const char* kLeastProperty = "leastSizeInTwips";
+constexpr const char* kSizeProperty = "sizeInTwips";
 constexpr const char* kPointsProperty = "fontPoints";
 
 // For more than one. It goes by the layout and not by pixels, so that a label is the same at every scale.
@@ -62,6 +64,28 @@ void TakeScale(QWidget& control) {
   TakePlace(control);
 }
 
+QSize Pixels(const TwipSize& size) {
+  return PixelPlace({.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height}).size();
+}
+
+TwipSize KeptSize(const QWidget& window, const char* property) {
+  const QSizeF kept = window.property(property).toSizeF();
+  return {.Width = static_cast<float>(kept.width()), .Height = static_cast<float>(kept.height())};
+}
+
+void KeepSize(QWidget& window, const char* property, const TwipSize& size) {
+  window.setProperty(property, QSizeF(static_cast<double>(size.Width), static_cast<double>(size.Height)));
+}
+
+bool IsResizable(const QWidget& window) {
+  return window.property(kLeastProperty).isValid();
+}
+
+void TakeSize(QWidget& window) {
+  window.setMinimumSize(Pixels(KeptSize(window, kLeastProperty)));
+  if (!window.isMaximized()) window.resize(Pixels(KeptSize(window, kSizeProperty)));
+}
+
 }  // namespace
 
 void SetPlace(QWidget& control, const TwipRect& place) {
@@ -79,6 +103,19 @@ TwipRect PlaceOf(const QWidget& control) {
           .Height = static_cast<float>(place.height())};
 }
 
+void SetResizable(QWidget& window, const TwipSize& least, const TwipSize& size) {
+  KeepSize(window, kLeastProperty, least);
+  KeepSize(window, kSizeProperty, size);
+  TakeSize(window);
+}
+
+TwipSize SizeOf(const QWidget& window) {
+  const TwipSize kept = KeptSize(window, kSizeProperty);
+  if (window.isMaximized() || Pixels(kept) == window.size()) return kept;
+  const TwipRect place = TwipsOf(QRect({0, 0}, window.size()));
+  return {.Width = place.Width, .Height = place.Height};
+}
+
 void SetFormFont(QWidget& control, const FontSpec& font, const FontSpec& inherited) {
   control.setProperty(kPointsProperty, (font.Family.empty() ? inherited : font).Points);
   control.setFont(FormFont(font, inherited));
@@ -91,11 +128,15 @@ void CopyFormFont(QWidget& control, const QWidget& other) {
 }
 
 void ShowAtScale(double scale) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (IsResizable(*window)) KeepSize(*window, kSizeProperty, SizeOf(*window));
+  }
   SetPixelScale(scale);
   QApplication::setFont(FormFont(kDialogFont, {}));
   QToolTip::setFont(FormFont(kDialogFont, {}));
   for (QWidget* window : QApplication::topLevelWidgets()) {
     TakeScale(*window);
+    if (IsResizable(*window)) TakeSize(*window);
     // What holds a control comes before it, so a label finds the room that it may grow into.
     for (QWidget* control : window->findChildren<QWidget*>())
       TakeScale(*control);

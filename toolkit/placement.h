@@ -17,6 +17,14 @@ void SetPlace(QWidget& control, const TwipRect& place);
 /// Where SetPlace has put it; all zero where it never has.
 [[nodiscard]] TwipRect PlaceOf(const QWidget& control);
 
+/// Makes a window one that the user may resize, down to `least`, and gives it `size`, which is no less. Both grow with
+/// the scale, and so does what the user makes of it.
+void SetResizable(QWidget& window, const TwipSize& least, const TwipSize& size);
+
+/// The size that such a window has, exactly what SetResizable gave it as long as the user has not changed it. Of one
+/// that is maximised, the size before.
+[[nodiscard]] TwipSize SizeOf(const QWidget& window);
+
 /// Gives a control its font, `inherited` where `font` names none.
 void SetFormFont(QWidget& control, const FontSpec& font, const FontSpec& inherited);
 

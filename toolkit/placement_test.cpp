@@ -55,6 +55,24 @@ TEST_F(Placement, FollowsTheScaleAndComesBack) {
   EXPECT_EQ(box->font().pixelSize(), 15);
 }
 
+TEST_F(Placement, KeepsASizeThatTheUserHasGiven) {
+  QWidget form;
+  SetResizable(form, {9000, 6000}, {15005, 9050});
+  EXPECT_EQ(form.size(), QSize(1000, 603));
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    EXPECT_EQ(form.minimumSize(), PixelPlace({0, 0, 9000, 6000}).size()) << scale;
+    EXPECT_EQ(form.size(), PixelPlace({0, 0, 15005, 9050}).size()) << scale;
+    EXPECT_EQ(SizeOf(form), (TwipSize{15005, 9050})) << scale;
+  }
+  form.resize(2000, 1500);
+  EXPECT_EQ(SizeOf(form), (TwipSize{10000, 7500}));
+  ShowAtScale(1);
+  EXPECT_EQ(form.size(), QSize(667, 500));
+  form.resize(10, 10);
+  EXPECT_EQ(SizeOf(form), (TwipSize{9000, 6000})) << "the least";
+}
+
 TEST_F(Placement, LeavesGapsThatAreAlikeToAPixel) {
   const Grid grid;
   for (const double scale : kScales) {

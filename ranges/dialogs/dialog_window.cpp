@@ -16,14 +16,17 @@
 
 namespace quillon {
 
-void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size) {
+void DressWindow(QWidget& form, std::string_view title) {
   InitArtwork();
   form.setWindowTitle(ToQt(title));
   form.setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
-  SetPlace(form, {.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height});
-
   form.setBackgroundRole(QPalette::Base);
   form.setAutoFillBackground(true);
+}
+
+void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size) {
+  DressWindow(form, title);
+  SetPlace(form, {.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height});
 }
 
 void FrameBoxes(QWidget& form) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the two dialogs have in common as windows: a size that stays, a white ground, the program's icon, a way for the
+// What the windows beside the main window have in common: a white ground, the program's icon, a way for the
 // Tab key, and how they come up.
 
 #include <QWidget>
@@ -26,6 +26,9 @@ struct DialogSurroundings {
   ShiftWatch& Shift;
   std::function<HandOrder()> BestFirst;  // the classes as "top 15%" takes them
 };
+
+/// Gives a window that title, the ground and the icon of the dialogs.
+void DressWindow(QWidget& form, std::string_view title);
 
 /// Makes `form` a window with that title and inner area, hidden.
 void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size);

@@ -76,6 +76,7 @@ void AnalysisView::Yield() {
 
 void AnalysisView::PresentResults(const Analysis& analysis) {
   parts_.Results.Present(analysis);
+  parts_.Finished(analysis);
 }
 
 }  // namespace quillon

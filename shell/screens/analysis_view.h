@@ -27,6 +27,7 @@ class AnalysisView : public AnalysisWindow {
     NavigationView& Screens;
     std::function<void(std::int16_t link)> ClickNav;
     ResultsView& Results;
+    std::function<void(const Analysis& analysis)> Finished;
     MessageBoxes& Boxes;
     NumberMarks Marks;
   };

@@ -100,6 +100,8 @@ MainForm::MainForm(Surroundings surroundings)
                          .Web = around_.Web,
                          .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages, around_.Folder),
+      study_(
+          {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
       analysis_({.Controls = controls_,
                  .Amounts = boxes_,
                  .Choosers = dialogs_.Choosers(),
@@ -107,6 +109,7 @@ MainForm::MainForm(Surroundings surroundings)
                  .Screens = navigation_,
                  .ClickNav = [this](std::int16_t link) { ClickNav(link); },
                  .Results = results_,
+                 .Finished = [this](const Analysis& analysis) { study_.Finish(analysis); },
                  .Boxes = around_.Messages,
                  .Marks = around_.Marks}),
       zoom_(*this, around_.Folder),
@@ -139,6 +142,7 @@ void MainForm::closeEvent(QCloseEvent* event) {
   // In one go: each write of its own would wait anew for another copy of the program that holds the file.
   std::vector<IniSetting> settings = PlaceSettings(kMainSection, *this);
   std::ranges::move(BoxTextSettings(boxes_.Texts()), std::back_inserter(settings));
+  std::ranges::move(study_.PlaceSettings(), std::back_inserter(settings));
   WriteIniValues(settings, around_.Folder);
   around_.EndProcess();
 }
@@ -261,6 +265,8 @@ void MainForm::BindKeys() {
   stop_.setEnabled(false);
 
   BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
+  BindKey(
+      *this, Qt::CTRL | Qt::Key_T, [this] { study_.Show(); }, Qt::ApplicationShortcut);
   BindKey(
       *this, Qt::CTRL | Qt::Key_Q, [this] { close(); }, Qt::ApplicationShortcut);
   BindKey(

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "analysis/analysis_state.h"
 #include "ranges/dialogs/range_dialogs.h"
@@ -19,6 +20,7 @@
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_view.h"
+#include "shell/screens/study_view.h"
 #include "shell/screens/zoom_view.h"
 #include "shell/web_client.h"
 #include "toolkit/focus_mark.h"
@@ -53,10 +55,15 @@ class MainForm : public QWidget {
   [[nodiscard]] AnalysisState& State() { return state_; }
   [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
   [[nodiscard]] const ZoomView& Zoom() const { return zoom_; }
+  [[nodiscard]] const StudyView& Study() const { return study_; }
+
+  /// Brings up the study window at a page about the results that the main window shows, and there at a hand.
+  void ShowStudy(StudyTopic topic, std::optional<std::int16_t> hand = {}) { study_.ShowPage(topic, hand); }
 
  protected:
   /// For whatever reason the window closes: it is hidden, its place and all box texts are stored as they are, sums
-  /// unevaluated and empty boxes too, and the process ends. No other window is asked, and an analysis just stops.
+  /// unevaluated and empty boxes too, with the place of the study window, and the process ends. No other window is
+  /// asked, and an analysis just stops.
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -86,6 +93,7 @@ class MainForm : public QWidget {
   ReportView report_;
   AboutView about_;
   GridImageView image_;
+  StudyView study_;
   AnalysisView analysis_;
   ZoomView zoom_;
   QShortcut& stop_;  // "< Back" from whatever screen, during a run

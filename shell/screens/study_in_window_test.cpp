@@ -1,0 +1,76 @@
+// The study window as the main window opens it and tells it of analyses.
+
+#include <QTabWidget>
+#include <gmock/gmock.h>
+
+#include "study/window/limits_page.h"
+#include "testing/main_stage.h"
+
+namespace quillon {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class StudyInWindow : public MainFormTest {
+ protected:
+  /// What the window says that it is about.
+  [[nodiscard]] std::string About() const { return FromQt(Study().findChild<QLabel*>()->text()); }
+  [[nodiscard]] StudyForm& Study() const { return *Form.Study().Loaded(); }
+};
+
+TEST_F(StudyInWindow, OpensByKeyAboutTheLastFinishedAnalysis) {
+  EXPECT_EQ(Form.Study().Loaded(), nullptr);
+  RunCall("110", "90", "Tight");
+  Press(Qt::Key_T, Qt::ControlModifier);
+  ASSERT_NE(Form.Study().Loaded(), nullptr);
+  EXPECT_TRUE(Study().isVisible());
+  EXPECT_EQ(About(), "Preflop Call: pot 110, 90 to call; he plays \"Tight\"");
+  EXPECT_TRUE(Form.isEnabled());
+
+  ComeToFront();
+  RunRaise("150", "50", "400", "Everything", "Tight");
+  EXPECT_THAT(About(), HasSubstr("Preflop Call")) << "it keeps its own";
+  Press(Qt::Key_T, Qt::ControlModifier);
+  EXPECT_THAT(About(), HasSubstr("Preflop Call")) << "and comes up as it is";
+  Study().close();
+  ComeToFront();
+  Press(Qt::Key_T, Qt::ControlModifier);
+  EXPECT_THAT(About(), HasSubstr("Preflop Raise")) << "a window that is opened is about what was asked last";
+}
+
+TEST_F(StudyInWindow, IsAboutTheResultsThatAreAskedAbout) {
+  RunCall("110", "90", "Tight");
+  Press(Qt::Key_T, Qt::ControlModifier);
+  ComeToFront();
+  RunRaise("150", "50", "400", "Everything", "Tight");
+  Form.ShowStudy(StudyTopic::kLimits, HandIndex("T9s"));
+  EXPECT_THAT(About(), HasSubstr("Preflop Raise"));
+  EXPECT_EQ(FromQt(Study().focusWidget()->accessibleName()), "T9s");
+}
+
+TEST_F(StudyInWindow, HearsOfNoRunThatWasStopped) {
+  RunCall("110", "90", "Tight");
+  DuringRun("50%", [this] { Press(Qt::Key_Escape); });
+  RunCall("110", "80", "Tight");
+  Press(Qt::Key_T, Qt::ControlModifier);
+  EXPECT_THAT(About(), HasSubstr("90 to call"));
+}
+
+TEST_F(StudyInWindow, HasItsPlaceStoredWhenTheMainWindowCloses) {
+  Press(Qt::Key_T, Qt::ControlModifier);
+  Study().resize(1000, 700);
+  ComeToFront();
+  Press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(Ends, 1);
+  EXPECT_THAT(Settings(), HasSubstr("[Study]"));
+  EXPECT_THAT(Settings(), HasSubstr("Width=15000\r\n"));
+}
+
+TEST_F(StudyInWindow, LeavesTheSettingsAloneWhereItWasNeverOpen) {
+  Press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_THAT(Settings(), Not(HasSubstr("[Study]")));
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,33 @@
+#include "shell/screens/study_view.h"
+
+namespace quillon {
+
+void StudyView::Show() {
+  StudyForm& form = Form();
+  if (!form.isVisible() && finished_) form.Follow(*finished_);
+  BringUp(form);
+}
+
+void StudyView::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
+  StudyForm& form = Form();
+  if (finished_) form.Follow(*finished_);
+  BringUp(form);
+  form.ShowPage(topic, hand);
+}
+
+void StudyView::Finish(const Analysis& analysis) {
+  finished_ = analysis;
+  if (form_ != nullptr && form_->isVisible()) form_->Offer(analysis);
+}
+
+std::vector<IniSetting> StudyView::PlaceSettings() const {
+  if (form_ == nullptr || !form_->isVisible()) return {};
+  return form_->PlaceSettings();
+}
+
+StudyForm& StudyView::Form() {
+  if (form_ == nullptr) form_ = std::make_unique<StudyForm>(around_);
+  return *form_;
+}
+
+}  // namespace quillon

@@ -1,0 +1,167 @@
+#include "study/window/study_form.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QTabBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "ranges/dialogs/form_place.h"
+#include "study/window/limits_page.h"
+#include "study/window/text_label.h"
+#include "toolkit/accessible_control.h"
+#include "toolkit/form_keys.h"
+#include "toolkit/placement.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+// At the least, every cell has room for its text.
+constexpr TwipSize kLeastSize = {.Width = 12900, .Height = 9000};
+constexpr TwipSize kFirstSize = {.Width = 14400, .Height = 10200};
+
+constexpr const char* kNothingYet =
+    "No analysis has finished yet. Fill in Preflop Call or Preflop Raise in the main window and click Analyze; then "
+    "this page shows what follows from it.";
+
+}  // namespace
+
+StudyForm::StudyForm(DialogSurroundings surroundings)
+    : around_(std::move(surroundings)),
+      about_(*MakeTextLabel(this, kHeadingPoints, true)),
+      follow_(*new QPushButton(QStringLiteral("Follow the new analysis"), this)),
+      tabs_(*new QTabWidget(this)) {
+  DressWindow(*this, kStudyTitle);
+  SetResizable(*this, kLeastSize, StoredSize(kStudySection, kLeastSize, kFirstSize, around_.Folder));
+  auto* head = new QHBoxLayout;
+  head->addWidget(&about_, 1);
+  head->addWidget(&follow_, 0, Qt::AlignTop);
+  auto* rows = new QVBoxLayout(this);
+  rows->addLayout(head);
+  rows->addWidget(&tabs_, 1);
+  about_.setText(QStringLiteral("No situation yet"));
+  follow_.setAutoDefault(true);
+  follow_.hide();
+  tabs_.setAccessibleName(QStringLiteral("Pages"));
+
+  AddPage(StudyTopic::kLimits, new LimitsPage);
+  FrameBoxes(*this);
+  RestorePlace(*this, kStudySection, around_.Folder);
+  connect(&follow_, &QPushButton::clicked, this, &StudyForm::FollowOffer);
+  connect(&tabs_, &QTabWidget::currentChanged, this, &StudyForm::ShowCurrent);
+  BindKeys();
+  ShowCurrent();
+}
+
+void StudyForm::AddPage(StudyTopic topic, StudyPage* page) {
+  auto* notice = MakeTextLabel(this, kTextPoints);
+  notice->setAlignment(Qt::AlignCenter);
+  auto* stack = new QStackedWidget(this);
+  stack->addWidget(notice);
+  stack->addWidget(page);
+  leaves_.push_back({topic, page, notice, stack});
+  tabs_.addTab(stack, page->Title());
+  connect(page, &StudyPage::HandAsked, this,
+          [this](StudyTopic asked, qint16 index) { ShowPage(asked, static_cast<std::int16_t>(index)); });
+}
+
+void StudyForm::BindKeys() {
+  constexpr std::array kPageKeys = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4};
+  for (std::size_t i = 0; i < leaves_.size(); ++i)
+    BindKey(*this, Qt::CTRL | kPageKeys.at(i), [this, topic = leaves_[i].Topic] { ShowPage(topic); });
+  const auto turn = [this](int pages) {
+    const int count = tabs_.count();
+    ShowPage(leaves_[static_cast<std::size_t>((tabs_.currentIndex() + pages + count) % count)].Topic);
+  };
+  BindKey(*this, Qt::CTRL | Qt::Key_Tab, [turn] { turn(1); });
+  BindKey(*this, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, [turn] { turn(-1); });
+  BindKey(*this, Qt::Key_F5, [this] { FollowOffer(); });
+  BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
+}
+
+void StudyForm::Follow(const Analysis& analysis) {
+  if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
+  situation_ = StudySituationOf(analysis, *hands_);
+  about_.setText(ToQt(SituationWords(situation_->Asked)));
+  offered_.reset();
+  for (Leaf& leaf : leaves_)
+    leaf.IsCurrent = false;
+  ShowCurrent();
+  if (follow_.hasFocus()) FocusPage();
+  follow_.hide();
+}
+
+void StudyForm::Offer(const Analysis& analysis) {
+  if (!situation_) return Follow(analysis);
+  const Situation asked = StudySituationOf(analysis, *hands_).Asked;
+  const bool isNew = asked != situation_->Asked;
+  follow_.setVisible(isNew);
+  offered_.reset();
+  if (!isNew) return;
+  offered_ = analysis;
+  const QString words = ToQt(SituationWords(asked));
+  follow_.setToolTip(words);
+  follow_.setAccessibleDescription(words);
+  Announce(*this, QStringLiteral("Follow the new analysis: %1").arg(words));
+}
+
+void StudyForm::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
+  const auto found = std::ranges::find(leaves_, topic, &Leaf::Topic);
+  const Leaf& leaf = found == leaves_.end() ? leaves_.front() : *found;
+  tabs_.setCurrentWidget(leaf.Stack);
+  FocusPage();
+  if (hand && leaf.Stack->currentWidget() == leaf.Page) leaf.Page->ShowHand(*hand);
+}
+
+std::vector<IniSetting> StudyForm::PlaceSettings() const {
+  if (isMaximized()) return {};
+  std::vector<IniSetting> settings = quillon::PlaceSettings(kStudySection, *this);
+  std::ranges::move(SizeSettings(kStudySection, SizeOf(*this)), std::back_inserter(settings));
+  return settings;
+}
+
+void StudyForm::closeEvent(QCloseEvent* event) {
+  event->accept();
+  WriteIniValues(PlaceSettings(), around_.Folder);
+}
+
+void StudyForm::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!event->spontaneous()) FocusPage();
+}
+
+void StudyForm::FollowOffer() {
+  if (!offered_) return;
+  const Analysis analysis = *std::exchange(offered_, std::nullopt);
+  Follow(analysis);
+  Announce(*this, about_.text());
+}
+
+StudyForm::Leaf& StudyForm::Current() {
+  return leaves_.at(static_cast<std::size_t>(tabs_.currentIndex()));
+}
+
+void StudyForm::FocusPage() {
+  const Leaf& leaf = Current();
+  const bool takesIt = leaf.Stack->currentWidget() == leaf.Page && leaf.Page->focusProxy() != nullptr;
+  QWidget* place = tabs_.tabBar();
+  if (takesIt) place = leaf.Page;
+  place->setFocus(Qt::OtherFocusReason);
+}
+
+void StudyForm::ShowCurrent() {
+  Leaf& leaf = Current();
+  const std::optional<QString> nothing =
+      situation_ ? leaf.Page->WhyNothing(*situation_) : QString::fromLatin1(kNothingYet);
+  leaf.Notice->setText(nothing.value_or(QString()));
+  leaf.Stack->setCurrentIndex(nothing ? 0 : 1);
+  if (nothing) return Announce(*leaf.Notice, *nothing);
+  if (std::exchange(leaf.IsCurrent, true)) return;
+  leaf.Page->Show(*situation_);
+}
+
+}  // namespace quillon

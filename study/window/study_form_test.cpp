@@ -1,0 +1,168 @@
+#include "study/window/study_form.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTabBar>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "study/limit_cells.h"
+#include "study/window/limits_page.h"
+#include "testing/heard_announcements.h"
+#include "testing/recorded_input.h"
+#include "testing/recorded_messages.h"
+#include "testing/sample_analysis.h"
+#include "testing/study_hands.h"
+#include "testing/temporary_program.h"
+#include "toolkit/placement.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+using testing::HasSubstr;
+
+class StudyWindow : public testing::Test {
+ protected:
+  StudyWindow() { LoadEquityTable(); }
+  ~StudyWindow() override { ShowAtScale(1); }
+
+  void Open() {
+    Form.show();
+    Form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
+  }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
+
+  /// All texts that show, one a line.
+  [[nodiscard]] std::string Texts() const {
+    std::string texts;
+    for (const QLabel* label : Form.findChildren<QLabel*>()) {
+      if (label->isVisible()) texts += FromQt(label->text()) + "\n";
+    }
+    return texts;
+  }
+
+  [[nodiscard]] QPushButton& Follow() const {
+    for (QPushButton* button : Form.findChildren<QPushButton*>()) {
+      if (button->text() == QStringLiteral("Follow the new analysis")) return *button;
+    }
+    throw std::logic_error("no button to follow");
+  }
+
+  [[nodiscard]] LimitsPage& Limits() const { return *Form.findChild<LimitsPage*>(); }
+
+  TemporaryProgram Program;
+  RecordedMessages Messages;
+  RecordedInput Inputs;
+  ShiftWatch Shift{[] { return false; }};
+  StudyForm Form{{.Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift}};
+};
+
+TEST_F(StudyWindow, SaysWhatToDoBeforeAnyAnalysis) {
+  Open();
+  EXPECT_THAT(Texts(), HasSubstr("No situation yet"));
+  EXPECT_THAT(Texts(), HasSubstr("No analysis has finished yet."));
+  EXPECT_FALSE(Limits().isVisible());
+  EXPECT_FALSE(Follow().isVisible());
+}
+
+TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
+  Open();
+  const HeardAnnouncements heard;
+  Form.Offer(sample::CallState());
+  EXPECT_THAT(Texts(), HasSubstr("Preflop Call: pot 150, 50 to call; he plays \"Tight\""));
+  EXPECT_TRUE(Limits().isVisible());
+
+  Form.Offer(sample::CallState());
+  EXPECT_FALSE(Follow().isVisible()) << "it asks the same";
+
+  Form.Offer(sample::RaiseState());
+  EXPECT_TRUE(Follow().isVisible());
+  EXPECT_THAT(Texts(), HasSubstr("Preflop Call:"));
+  EXPECT_THAT(heard.Texts().back(), HasSubstr("Follow the new analysis: Preflop Raise: pot 150"));
+
+  Follow().setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Space);
+  EXPECT_THAT(Texts(), HasSubstr("Preflop Raise: pot 150, 50 to call, he must call 62.5;"));
+  EXPECT_FALSE(Follow().isVisible());
+  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "the button that had the keyboard is gone";
+
+  Form.Offer(sample::CallState());
+  Press(Qt::Key_F5);
+  EXPECT_THAT(Texts(), HasSubstr("Preflop Call:"));
+
+  Form.Offer(sample::RaiseState());
+  Form.Offer(sample::CallState());
+  EXPECT_FALSE(Follow().isVisible()) << "the one that is shown is the last again";
+}
+
+TEST_F(StudyWindow, SaysWhereEquitiesAloneHaveNothing) {
+  Open();
+  Form.Follow(sample::EquityState());
+  EXPECT_THAT(Texts(), HasSubstr("asks for no amounts"));
+  EXPECT_FALSE(Limits().isVisible());
+  EXPECT_TRUE(Form.Tabs().tabBar()->hasFocus());
+}
+
+TEST_F(StudyWindow, TellsTheLimitsOfTheHandThatIsReached) {
+  Open();
+  Form.Follow(sample::RaiseState());
+  const StudySituation situation = StudySituationOf(sample::RaiseState(), Hands());
+  const auto limits = ShoveLimits(situation.Numbers(), 150, 50);
+  const ClassCells cells = LimitCellsAt(limits, 62.5);
+  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
+    Limits().ShowHand(i);
+    const auto at = static_cast<std::size_t>(i);
+    EXPECT_EQ(FromQt(Form.focusWidget()->accessibleName()), HandLabel(i));
+    EXPECT_EQ(FromQt(Form.focusWidget()->accessibleDescription()), cells.at(at).Words);
+    EXPECT_THAT(Texts(), HasSubstr("\n" + std::string(HandLabel(i)) + "\nDoes not lose: " + LimitWords(limits.at(at)) +
+                                   "\nNow, at 62.5: " + (LosesAt(limits.at(at), 62.5) ? "loses" : "does not lose")));
+  }
+  EXPECT_THAT(Texts(), HasSubstr("Shove up to"));
+  EXPECT_THAT(Texts(), HasSubstr("Now 62.5: " + std::to_string(CombosGoodAt(limits, 62.5)) + " of 1326 hands"));
+
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(FromQt(QGuiApplication::clipboard()->text()), LimitTable(limits));
+
+  Form.Follow(sample::CallState());
+  EXPECT_THAT(Texts(), HasSubstr("Call up to"));
+  EXPECT_THAT(Texts(), HasSubstr("Now 50: "));
+}
+
+TEST_F(StudyWindow, RemembersItsPlaceAndSize) {
+  Open();
+  Form.move(31, 47);
+  Form.resize(1001, 703);
+  Press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_FALSE(Form.isVisible());
+  EXPECT_EQ(ReadIniValue("Study", "Width", Program.Folder()), "15015");
+  EXPECT_EQ(ReadIniValue("Study", "Height", Program.Folder()), "10545");
+  EXPECT_EQ(ReadIniValue("Study", "Left", Program.Folder()), "465");
+
+  StudyForm again({.Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift});
+  EXPECT_EQ(again.size(), QSize(1001, 703));
+  EXPECT_EQ(again.pos(), QPoint(31, 47));
+  ShowAtScale(1.5);
+  EXPECT_EQ(again.size(), QSize(1502, 1055));
+}
+
+TEST_F(StudyWindow, CutsNothingOffAtItsLeastSize) {
+  Open();
+  Form.Follow(sample::RaiseState());
+  for (const double scale : {0.75, 1.0, 1.5, 2.0, 3.0}) {
+    ShowAtScale(scale);
+    Form.resize(Form.minimumSize());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the texts want more";
+    for (const QLabel* label : Form.findChildren<QLabel*>()) {
+      if (!label->isVisible()) continue;
+      EXPECT_GE(label->height(), label->heightForWidth(label->width())) << scale << " " << FromQt(label->text());
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,17 @@
+#include "study/window/study_page.h"
+
+#include "analysis/scenarios.h"
+
+namespace quillon {
+
+std::optional<QString> StudyPage::WhyNothing(const StudySituation& situation) const {
+  if (ScenarioOf(situation.Asked.Mode).HasExpectedValue()) return std::nullopt;
+  return QStringLiteral(
+      "\u201cEquity Only\u201d asks for no amounts, so nothing is won or lost here. Analyze a Preflop Call or a "
+      "Preflop "
+      "Raise.");
+}
+
+void StudyPage::ShowHand(std::int16_t /*index*/) {}
+
+}  // namespace quillon
