@@ -84,12 +84,7 @@ MainForm::MainForm(Surroundings surroundings)
       controls_(BuildMainControls(*this)),
       navigation_(*this, controls_),
       grid_(controls_, controls_.FrameAt("frameContent", kGridScreen), around_.Shift, nullptr),
-      dialogs_(*this, controls_,
-               {.Folder = around_.Folder,
-                .Messages = around_.Messages,
-                .Inputs = around_.Inputs,
-                .Shift = around_.Shift,
-                .BestFirst = [] { return HandsBestFirst(HandNumbers()); }}),
+      dialogs_(*this, controls_, AroundDialogs()),
       results_(controls_, grid_),
       hover_(controls_, grid_),
       boxes_(controls_, around_.Messages, [this] { results_.SetResultsShown(false); }),
@@ -100,8 +95,7 @@ MainForm::MainForm(Surroundings surroundings)
                          .Web = around_.Web,
                          .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages, around_.Folder),
-      study_(
-          {.Folder = around_.Folder, .Messages = around_.Messages, .Inputs = around_.Inputs, .Shift = around_.Shift}),
+      study_(AroundDialogs()),
       analysis_({.Controls = controls_,
                  .Amounts = boxes_,
                  .Choosers = dialogs_.Choosers(),
@@ -124,6 +118,14 @@ MainForm::MainForm(Surroundings surroundings)
   BindAbout();
   BindKeys();
   OrderTabs();
+}
+
+DialogSurroundings MainForm::AroundDialogs() const {
+  return {.Folder = around_.Folder,
+          .Messages = around_.Messages,
+          .Inputs = around_.Inputs,
+          .Shift = around_.Shift,
+          .BestFirst = [] { return HandsBestFirst(HandNumbers()); }};
 }
 
 void MainForm::Start() {

@@ -67,6 +67,7 @@ class MainForm : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  [[nodiscard]] DialogSurroundings AroundDialogs() const;
   void ShowAboutContent();
   void LoadStartupState();
   void ClickNav(std::int16_t link);

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "study/hand_order.h"
 #include "study/limit_cells.h"
 #include "study/window/limits_page.h"
 #include "testing/heard_announcements.h"
@@ -58,7 +59,11 @@ class StudyWindow : public testing::Test {
   RecordedMessages Messages;
   RecordedInput Inputs;
   ShiftWatch Shift{[] { return false; }};
-  StudyForm Form{{.Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift}};
+  DialogSurroundings Around{
+      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = [] {
+        return HandsBestFirst(Hands());
+      }};
+  StudyForm Form{Around};
 };
 
 TEST_F(StudyWindow, SaysWhatToDoBeforeAnyAnalysis) {
@@ -142,7 +147,7 @@ TEST_F(StudyWindow, RemembersItsPlaceAndSize) {
   EXPECT_EQ(ReadIniValue("Study", "Height", Program.Folder()), "10545");
   EXPECT_EQ(ReadIniValue("Study", "Left", Program.Folder()), "465");
 
-  StudyForm again({.Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift});
+  const StudyForm again(Around);
   EXPECT_EQ(again.size(), QSize(1001, 703));
   EXPECT_EQ(again.pos(), QPoint(31, 47));
   ShowAtScale(1.5);
