@@ -9,12 +9,10 @@
 #include "hand/hand_classes.h"
 #include "results/analysis_json.h"
 #include "results/analysis_page.h"
+#include "results/analysis_table.h"
 #include "results/hand_line.h"
 #include "results/report.h"
-#include "results/results_grid.h"
-#include "support/joined_text.h"
 #include "support/line_ends.h"
-#include "support/number_text.h"
 
 namespace quillon {
 namespace {
@@ -47,20 +45,6 @@ std::string ReportOutput(ReportForm form, const Analysis& analysis, std::span<co
   return UnixLineEnds(screen.Text());
 }
 
-// What the scenario does not have is left out: a value where only equity was asked for, a fold share where nobody
-// folds.
-std::string CsvOutput(const Analysis& analysis) {
-  const Scenario& scenario = ScenarioOf(analysis.Mode);
-  std::string text = "hand,combos,ev,equity,fold,colour\n";
-  for (const auto& [hand, color] : ShownHands(analysis)) {
-    const std::string value = scenario.HasExpectedValue() ? NumberText(hand.ExpectedValue) : "";
-    const std::string fold = scenario.HasCallingRange ? NumberText(hand.FoldShare) : "";
-    text += Joined({hand.Label, ",", std::to_string(hand.Combos), ",", value, ",", NumberText(hand.Equity), ",", fold,
-                    ",", color, "\n"});
-  }
-  return text;
-}
-
 // Black on light cells, white on dark ones. Source of the weights: ITU-R BT.601, luma.
 bool ReadsBetterInWhite(Rgb color) {
   constexpr int kHalfLuma = 128 * 1000;
@@ -91,7 +75,7 @@ std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::s
       // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
       return AnalysisJson(analysis).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     case OutputFormat::kCsv:
-      return CsvOutput(analysis);
+      return AnalysisTable(analysis, ',');
     case OutputFormat::kHtml:
       return AnalysisPage(analysis);
     case OutputFormat::kSvg:

@@ -38,10 +38,9 @@ inline constexpr std::array<OutputFormatRow, 7> kAnalysisFormats = {{
 ///
 /// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
 /// (class labels). kHtml and kSvg are those of "results/analysis_page.h". kTable is the results table byte for byte,
-/// its line ends included. kCsv has a header row, then hand, combos, ev, equity, fold and colour for each class, and
-/// kJson is one object: what the scenario does not have, such as the fold share of a call, is nothing in the one and
-/// null in the other. Numbers read back as those of the table; an equity of -1 says that the opponent never calls.
-/// Fails as BuildReport and MakeGridTexts do.
+/// its line ends included. kCsv is AnalysisTable with commas, and kJson is one object: what the scenario does not have,
+/// such as the fold share of a call, is null there. Numbers read back as those of the table; an equity of -1 says that
+/// the opponent never calls. Fails as BuildReport and MakeGridTexts do.
 [[nodiscard]] std::string AnalysisOutput(OutputFormat format, const Analysis& analysis,
                                          std::span<const std::string> hands);
 

@@ -61,6 +61,22 @@ void GridImageView::Save() {
   if (messages_.Show(OpenImageQuestion()) == MessageAnswer::kYes) OpenImage(fileName);
 }
 
+QPixmap GridImageView::Picture() const {
+  Frame& panel = controls_.FrameAt("frameHover");
+  const bool shown = panel.isVisible();
+  panel.hide();
+  const QPixmap picture = controls_.FrameAt("frameContent", kGridScreen).grab(GridArea());
+  panel.setVisible(shown);
+  return picture;
+}
+
+// In pixels of the grid screen.
+QRect GridImageView::GridArea() const {
+  const CaptureRect rect = CaptureRectOf(PlaceOf(controls_.ShapeAt("GridContainer")));
+  const PixelRect place = PixelsOf(rect, TwipsPerPixel(), TwipsPerPixel());
+  return {place.Left, place.Top, place.Width, place.Height};
+}
+
 // The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that
 // does not let itself be copied gives the window's own drawing instead. At a higher scale these are the screen's own,
 // finer pixels. The mark of the focus is not part of the picture: nobody has the focus meanwhile.
@@ -68,12 +84,10 @@ std::string GridImageView::CaptureGrid() {
   QWidget* const focused = form_.focusWidget();
   form_.setFocus(Qt::OtherFocusReason);
   WaitForTheScreen();
-  const CaptureRect rect = CaptureRectOf(PlaceOf(controls_.ShapeAt("GridContainer")));
-  const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
-  const PixelRect place = PixelsOf(rect, TwipsPerPixel(), TwipsPerPixel());
-  const QRect area(place.Left, place.Top, place.Width, place.Height);
+  const QRect area = GridArea();
 
   // Counted from the window, whose corner can stand between two device-independent pixels of the screen.
+  const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
   const QPoint corner = grid.mapTo(&form_, area.topLeft());
   QPixmap copy = form_.screen()->grabWindow(form_.winId(), corner.x(), corner.y(), area.width(), area.height());
   if (copy.isNull()) copy = controls_.FrameAt("frameContent", kGridScreen).grab(area);

@@ -2,6 +2,8 @@
 
 // The saving of the grid's image ("shell/grid_image.h") from the grid screen.
 
+#include <QPixmap>
+#include <QRect>
 #include <QWidget>
 #include <string>
 
@@ -24,7 +26,11 @@ class GridImageView {
   /// an old file of that name is still there, or the picture not be opened.
   void Save();
 
+  /// The same region as the window draws it, with nothing over it, not even the hover panel.
+  [[nodiscard]] QPixmap Picture() const;
+
  private:
+  [[nodiscard]] QRect GridArea() const;
   [[nodiscard]] std::string CaptureGrid();
 
   QWidget& form_;

@@ -96,6 +96,13 @@ MainForm::MainForm(Surroundings surroundings)
                          .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages, around_.Folder),
       study_(AroundDialogs()),
+      menu_({.Form = *this,
+             .State = state_,
+             .Image = image_,
+             .Messages = around_.Messages,
+             .Folder = around_.Folder,
+             .ShowHowFar = [this](std::int16_t hand) { ShowStudy(StudyTopic::kHowFar, hand); },
+             .ShowInReport = [this](std::int16_t hand) { ShowInReport(hand); }}),
       analysis_({.Controls = controls_,
                  .Amounts = boxes_,
                  .Choosers = dialogs_.Choosers(),
@@ -188,6 +195,15 @@ void MainForm::ClickNav(std::int16_t link) {
   report_.Build(state_);
 }
 
+// The clicks on "Details", "2+2" and the hand.
+void MainForm::ShowInReport(std::int16_t hand) {
+  ClickNav(kDetailsNav);
+  controls_.Get<QComboBox>("cmboOutputType").setCurrentIndex(static_cast<int>(ReportForm::kForum));
+  report_.Build(state_);
+  controls_.Get<QComboBox>("cmbo169").setCurrentText(ToQt(HandLabel(hand)));
+  report_.AddHand(state_, HandLabel(hand));
+}
+
 void MainForm::OnClick(MainControls::Key<Control> key, std::int16_t index, std::function<void()> action) {
   connect(&controls_.Get<Control>(key, index), &Control::Clicked, this, std::move(action));
 }
@@ -229,6 +245,8 @@ void MainForm::BindGrid() {
   connect(&grid_, &FormCardGrid::CellReached, this,
           [this](qint16 index) { hover_.ShowForKeyboard(ToIndex(index), state_); });
   connect(&grid_, &FormCardGrid::CellLeft, this, [this] { hover_.LeaveWithKeyboard(); });
+  connect(&grid_, &FormCardGrid::MenuWanted, this,
+          [this](qint16 index, const QPoint& place) { menu_.Show(ToIndex(index), place); });
   OnClick("imgSave", kNoIndex, [this] { image_.Save(); });
   OnClick("imgSaveAsRange", kNoIndex, [this] {
     if (state_.HandInfo.empty()) return;

@@ -19,6 +19,7 @@
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/screens/report_view.h"
+#include "shell/screens/results_menu.h"
 #include "shell/screens/results_view.h"
 #include "shell/screens/study_view.h"
 #include "shell/screens/zoom_view.h"
@@ -71,6 +72,7 @@ class MainForm : public QWidget {
   void ShowAboutContent();
   void LoadStartupState();
   void ClickNav(std::int16_t link);
+  void ShowInReport(std::int16_t hand);
   void BindSidePanel();
   void BindScreens();
   void BindGrid();
@@ -95,6 +97,7 @@ class MainForm : public QWidget {
   AboutView about_;
   GridImageView image_;
   StudyView study_;
+  ResultsMenu menu_;
   AnalysisView analysis_;
   ZoomView zoom_;
   QShortcut& stop_;  // "< Back" from whatever screen, during a run

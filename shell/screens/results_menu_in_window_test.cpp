@@ -1,0 +1,203 @@
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QMenu>
+#include <gmock/gmock.h>
+#include <vector>
+
+#include "results/analysis_page.h"
+#include "testing/fake_opener.h"
+#include "testing/heard_announcements.h"
+#include "testing/main_stage.h"
+#include "testing/sample_analysis.h"
+#include "testing/split_text.h"
+#include "tools/analysis_output.h"
+
+namespace quillon {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+
+const Message kSaved = {.title = "Open Now?",
+                        .text = "Web page saved successfully.\r\n\r\nDo you want to open the web page now?",
+                        .icon = MessageIcon::kQuestion,
+                        .buttons = MessageButtons::kYesNo};
+
+class ResultsMenuInWindow : public MainFormTest {
+ protected:
+  /// The grid screen, showing a made-up analysis.
+  void ShowGridOf(const Analysis& state) {
+    RunEquity("Tight");
+    static_cast<Analysis&>(Form.State()) = state;
+  }
+
+  [[nodiscard]] QMenu* Menu() const { return Form.findChild<QMenu*>(); }
+  void OpenMenuAt(const QPoint& place) { QTest::mouseClick(Form.windowHandle(), Qt::RightButton, {}, place); }
+  void OpenMenuOn(std::string_view hand) { OpenMenuAt(MiddleOf("lblCards", HandIndex(hand))); }
+  [[nodiscard]] std::vector<std::string> Entries() const {
+    std::vector<std::string> entries;
+    for (const QAction* action : Menu()->actions())
+      entries.push_back(action->isSeparator() ? "" : FromQt(action->text()) + (action->isEnabled() ? "" : " (off)"));
+    return entries;
+  }
+  void CloseMenu() const {
+    Menu()->close();
+    QTest::qWait(0);
+  }
+  void Choose(std::string_view hand, std::string_view text) {
+    OpenMenuOn(hand);
+    ASSERT_NE(Menu(), nullptr);
+    QMenu& menu = *Menu();
+    for (QAction* action : menu.actions()) {
+      if (FromQt(action->text()) != text) continue;
+      QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+      QTest::qWait(0);  // the menu has gone
+      return;
+    }
+    ADD_FAILURE() << text;
+  }
+  [[nodiscard]] std::filesystem::path Saved(std::string_view name) const {
+    return Program.Folder().Path / "Saved Grids" / name;
+  }
+  static void ExpectName(const std::string& typed) {
+    ExpectDialog([typed](QDialog& dialog) {
+      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(ToQt(typed));
+      dialog.accept();
+    });
+  }
+};
+
+TEST_F(ResultsMenuInWindow, IsTheHandsUnderTheMouseAndElsewhereOnTheGridThatOfNoHand) {
+  ShowGridOf(sample::CallState());
+  OpenMenuOn("T9s");
+  EXPECT_THAT(Entries(),
+              ElementsAre("Copy picture", "Copy table", "Save as web page...", "", "How far?", "In the report"));
+  CloseMenu();
+  const QRect cell = Get("shapeCardBack", 14).geometry();
+  OpenMenuAt(Get("frameContent", kGridScreen).mapTo(&Form, cell.bottomRight() + QPoint(1, 1)));
+  EXPECT_THAT(Entries(), ElementsAre("Copy picture", "Copy table", "Save as web page...", "", "How far? (off)",
+                                     "In the report (off)"));
+  CloseMenu();
+  OpenMenuAt(MiddleOf("lblGridTitle"));
+  EXPECT_EQ(Menu(), nullptr);
+}
+
+TEST_F(ResultsMenuInWindow, OffersNothingBeforeAnAnalysis) {
+  ShowGridOf({});
+  OpenMenuOn("AA");
+  EXPECT_THAT(Entries(), ElementsAre("Copy picture (off)", "Copy table (off)", "Save as web page... (off)", "",
+                                     "How far? (off)", "In the report (off)"));
+}
+
+TEST_F(ResultsMenuInWindow, CopiesThePictureThatIsSavedWithoutThePanel) {
+  Form.move(0, 0);
+  RunCall("150", "50", "Tight");
+  const QImage bare = Get("frameContent", kGridScreen).grab(QRect(16, 12, 409, 521)).toImage();
+  MoveOver("lblCards", HandIndex("AA"));
+  ASSERT_TRUE(Shows("frameHover"));
+  const HeardAnnouncements heard;
+  Choose("AA", "Copy picture");
+  EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
+            bare.convertToFormat(QImage::Format_RGB32));
+  EXPECT_TRUE(Shows("frameHover"));
+  EXPECT_THAT(heard.Texts(), ElementsAre("Copied."));
+}
+
+TEST_F(ResultsMenuInWindow, CopiesTheTableThatTheCompanionPrintsWithTabs) {
+  for (const auto& state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+    ShowGridOf(state);
+    Choose("72o", "Copy table");
+    EXPECT_EQ(FromQt(QGuiApplication::clipboard()->text()),
+              Replaced(AnalysisOutput(OutputFormat::kCsv, state, {}), ",", "\t"));
+  }
+}
+
+TEST_F(ResultsMenuInWindow, SavesTheCompanionsPageUnderTheNameTyped) {
+  const FakeOpener opener;
+  ShowGridOf(sample::RaiseState());
+  ExpectDialog([this](QDialog& dialog) {
+    const auto& box = dynamic_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(FromQt(box.windowTitle()), "Save as Web Page");
+    EXPECT_EQ(FromQt(box.directory().absolutePath()), Saved("").parent_path().string());
+    EXPECT_EQ(box.nameFilters().join(QLatin1Char(';')), QStringLiteral("Web page (*.html)"));
+    dialog.reject();
+  });
+  Choose("AA", "Save as web page...");
+  VerifyExpectedBoxes();
+  EXPECT_TRUE(std::filesystem::is_empty(Saved("")));
+
+  ComeToFront();
+  ExpectName("My \"shove\".html");
+  ExpectMessageBox(kSaved, MessageAnswer::kNo);
+  Choose("AA", "Save as web page...");
+  VerifyExpectedBoxes();
+  EXPECT_EQ(BytesOf(Saved("My \"shove\".html")), AnalysisOutput(OutputFormat::kHtml, sample::RaiseState(), {}));
+  EXPECT_EQ(opener.Opened(), "");
+
+  ComeToFront();
+  ExpectDialog([](QDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("My \"shove\".html"));
+    dialog.accept();
+  });
+  ExpectMessageBox(kSaved, MessageAnswer::kYes);
+  Choose("AA", "Save as web page...");
+  VerifyExpectedBoxes();
+  EXPECT_THAT(opener.Opened(), EndsWith("/Saved%20Grids/My%20%22shove%22.html\n"));
+}
+
+TEST_F(ResultsMenuInWindow, TellsWhereThePageIsIfNothingOpensIt) {
+  const FakeOpener opener(FakeOpener::kNoneFound);
+  ShowGridOf(sample::RaiseState());
+  ExpectName("page.html");
+  ExpectMessageBox(kSaved, MessageAnswer::kYes);
+  ExpectMessageBox({.title = "Quillon",
+                    .text = "The web page could not be opened. It is the file:\r\n\r\n" + Saved("page.html").string(),
+                    .icon = MessageIcon::kExclamation});
+  Choose("AA", "Save as web page...");
+  static_cast<void>(opener.Opened());
+  VerifyExpectedBoxes();
+}
+
+TEST_F(ResultsMenuInWindow, HowFarOpensTheStudyWindowWhereThereIsAnAmount) {
+  RunEquity("Tight");
+  OpenMenuOn("T9s");
+  EXPECT_THAT(Entries(), testing::Contains("How far? (off)"));
+  CloseMenu();
+  RunCall("150", "50", "Tight");
+  Choose("T9s", "How far?");
+  ASSERT_NE(Form.Study().Loaded(), nullptr);
+  EXPECT_TRUE(Form.Study().Loaded()->isVisible());
+}
+
+TEST_F(ResultsMenuInWindow, AHandInTheReportIsDetailsForumAndThatHand) {
+  const std::vector<std::string> hands = {"K9o"};
+  ShowGridOf(sample::RaiseState());
+  Choose("K9o", "In the report");
+  const auto expectReport = [&] {
+    EXPECT_EQ(Screen(), "Details");
+    EXPECT_EQ(FromQt(Get<QComboBox>("cmboOutputType").currentText()), "2+2");
+    EXPECT_EQ(FromQt(Get<QComboBox>("cmbo169").currentText()), "K9o");
+    EXPECT_TRUE(Shows("cmbo169"));
+    EXPECT_EQ(FromQt(Get<RichTextBox>("rtfSummary").toPlainText()),
+              AnalysisOutput(OutputFormat::kForum, sample::RaiseState(), hands));
+  };
+  expectReport();
+
+  // By the keyboard, and with the same hand in the list already.
+  Open(kGridNav);
+  Get("lblCards", HandIndex("K9o")).setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_NE(Menu(), nullptr);
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Return})
+    QTest::keyClick(Menu(), key);
+  expectReport();
+  EXPECT_TRUE(Form.focusWidget() != nullptr && Form.focusWidget()->isVisible());
+}
+
+}  // namespace
+}  // namespace quillon
