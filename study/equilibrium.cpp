@@ -189,36 +189,6 @@ Answer AnswerOf(const Game& game, const PerClass& shove, const PerClass& call) {
   return {shove, call, game.Exploitability(shove, call)};
 }
 
-// Ranges in which every class is played or not are found as they are, others as a mean. The mean is that of the second
-// half of all rounds, since the first ones know nothing.
-Answer Solve(const Game& game) {
-  Learner hero;
-  Learner opponent;
-  Answer best = AnswerOf(game, hero.Last(kShareDecimals), opponent.Last(kShareDecimals));
-  for (int round = 0; round < kMostRounds;) {
-    // Worked out anew after each look, so that no error of rounding adds up.
-    PerClass shoveGains = game.ShoveGains(opponent.Plays());
-    PerClass callGains = game.CallGains(hero.Plays());
-    for (const int look = round + kRoundsBetweenLooks; round < look; ++round) {
-      hero.Learn(shoveGains, [&](std::size_t hand, double change) { game.ChangeShove(hand, change, callGains); });
-      opponent.Learn(callGains, [&](std::size_t hand, double change) { game.ChangeCall(hand, change, shoveGains); });
-      hero.Count();
-      opponent.Count();
-    }
-    const int decimals = round < kPatience ? kShareDecimals : kFineShareDecimals;
-    for (const Answer& answer : {AnswerOf(game, hero.Last(decimals), opponent.Last(decimals)),
-                                 AnswerOf(game, hero.Mean(decimals), opponent.Mean(decimals))}) {
-      if (answer.exploitability < best.exploitability) best = answer;
-    }
-    if (best.exploitability <= (round < kPatience ? kWanted : kGoodEnough)) break;
-    if (std::has_single_bit(static_cast<unsigned>(round))) {
-      hero.Forget();
-      opponent.Forget();
-    }
-  }
-  return best;
-}
-
 // A range of which each class is played so often.
 ClassWeights Played(const ClassWeights& held, const PerClass& plays) {
   ClassWeights played{};
@@ -237,13 +207,79 @@ PairCounts CountPairs(const HandNumbers& hands, std::int16_t index) {
   return counts;
 }
 
-std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question) {
-  const Game game(hands, question);
-  if (!game.HasDeals()) return std::nullopt;
-  const Answer answer = Solve(game);
-  if (answer.exploitability > kPromised) return std::nullopt;
+struct BalanceSearch::State {
+  BalanceQuestion Question;
+  Game Dealt;
+  Learner Hero;
+  Learner Opponent;
+  Answer Best;
+  int Round = 0;
+  bool Ended = false;
+
+  State(const HandNumbers& hands, const BalanceQuestion& question)
+      : Question(question),
+        Dealt(hands, question),
+        Best(AnswerOf(Dealt, Hero.Last(kShareDecimals), Opponent.Last(kShareDecimals))),
+        Ended(!Dealt.HasDeals()) {}
+
+  // Gains are worked out anew after each look, so that no error of rounding adds up.
+  void Learn() {
+    PerClass shoveGains = Dealt.ShoveGains(Opponent.Plays());
+    PerClass callGains = Dealt.CallGains(Hero.Plays());
+    for (const int look = Round + kRoundsBetweenLooks; Round < look; ++Round) {
+      Hero.Learn(shoveGains, [&](std::size_t hand, double change) { Dealt.ChangeShove(hand, change, callGains); });
+      Opponent.Learn(callGains, [&](std::size_t hand, double change) { Dealt.ChangeCall(hand, change, shoveGains); });
+      Hero.Count();
+      Opponent.Count();
+    }
+  }
+
+  // Ranges in which every class is played or not are found as they are, others as a mean. The mean is that of the
+  // second half of all rounds, since the first ones know nothing.
+  void Look() {
+    const int decimals = Round < kPatience ? kShareDecimals : kFineShareDecimals;
+    for (const Answer& answer : {AnswerOf(Dealt, Hero.Last(decimals), Opponent.Last(decimals)),
+                                 AnswerOf(Dealt, Hero.Mean(decimals), Opponent.Mean(decimals))}) {
+      if (answer.exploitability < Best.exploitability) Best = answer;
+    }
+    Ended = Best.exploitability <= (Round < kPatience ? kWanted : kGoodEnough) || Round >= kMostRounds;
+    if (!std::has_single_bit(static_cast<unsigned>(Round))) return;
+    Hero.Forget();
+    Opponent.Forget();
+  }
+};
+
+BalanceSearch::BalanceSearch(const HandNumbers& hands, const BalanceQuestion& question)
+    : state_(std::make_unique<State>(hands, question)) {}
+BalanceSearch::~BalanceSearch() = default;
+BalanceSearch::BalanceSearch(BalanceSearch&& other) noexcept = default;
+BalanceSearch& BalanceSearch::operator=(BalanceSearch&& other) noexcept = default;
+
+bool BalanceSearch::GoOn() {
+  if (state_->Ended) return false;
+  state_->Learn();
+  state_->Look();
+  return !state_->Ended;
+}
+
+double BalanceSearch::ShareDone() const {
+  return static_cast<double>(state_->Round) / kMostRounds;
+}
+
+std::optional<Equilibrium> BalanceSearch::Found() const {
+  const Game& game = state_->Dealt;
+  const Answer& answer = state_->Best;
+  const BalanceQuestion& question = state_->Question;
+  if (!game.HasDeals() || answer.exploitability > kPromised) return std::nullopt;
   return Equilibrium{Played(question.OwnHands, answer.shove), Played(question.HisHands, answer.call),
                      game.Value(answer.shove, answer.call) * question.Pot, answer.exploitability * question.Pot};
+}
+
+std::optional<Equilibrium> FindEquilibrium(const HandNumbers& hands, const BalanceQuestion& question) {
+  BalanceSearch search(hands, question);
+  while (search.GoOn()) {
+  }
+  return search.Found();
 }
 
 }  // namespace quillon

@@ -20,6 +20,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "analysis/range_sources.h"
@@ -53,6 +54,31 @@ struct Equilibrium {
   ClassWeights Call{};
   double Value = 0;  // what the hero gains on average against folding everything
   double Exploitability = 0;  // what both could gain by changing, in sum: at most a millionth of the pot
+};
+
+/// The search for balanced ranges, in steps, so that a window may show how far it is and answer its user meanwhile.
+class BalanceSearch {
+ public:
+  /// `hands` need not outlive it.
+  BalanceSearch(const HandNumbers& hands, const BalanceQuestion& question);
+  ~BalanceSearch();
+  BalanceSearch(BalanceSearch&& other) noexcept;
+  BalanceSearch& operator=(BalanceSearch&& other) noexcept;
+  BalanceSearch(const BalanceSearch&) = delete;
+  BalanceSearch& operator=(const BalanceSearch&) = delete;
+
+  /// Searches on for about a millisecond. False once there is nothing more to do.
+  bool GoOn();
+
+  /// How much of the longest search is done, 0 to 1; most end far earlier.
+  [[nodiscard]] double ShareDone() const;
+
+  /// What was found when GoOn has returned false; nothing as told at FindEquilibrium.
+  [[nodiscard]] std::optional<Equilibrium> Found() const;
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
 };
 
 /// Balanced ranges for a question. Which of several balanced pairs is found is not said, and a class that is never

@@ -272,5 +272,30 @@ TEST(Equilibrium, TheUnitOfTheAmountsDoesNotMatter) {
   EXPECT_NEAR(chips.Value * 100, cents.Value, 1e-4);
 }
 
+TEST(BalanceSearch, FindsTheSameStepByStep) {
+  const BalanceQuestion question = HeadsUp(12);
+  BalanceSearch search(Hands(), question);
+  EXPECT_EQ(search.ShareDone(), 0);
+  int steps = 1;
+  for (double done = 0; search.GoOn(); ++steps) {
+    ASSERT_GT(search.ShareDone(), done);
+    done = search.ShareDone();
+  }
+  EXPECT_GT(steps, 1);
+  EXPECT_LE(search.ShareDone(), 1);
+  EXPECT_FALSE(search.GoOn()) << "it has ended";
+  const Equilibrium found = Find(question);
+  ASSERT_TRUE(search.Found());
+  EXPECT_EQ(search.Found()->Shove, found.Shove);
+  EXPECT_EQ(search.Found()->Call, found.Call);
+  EXPECT_EQ(search.Found()->Value, found.Value);
+}
+
+TEST(BalanceSearch, EndsAtOnceWhereNothingCanBeDealt) {
+  BalanceSearch search(Hands(), {.Pot = 1.5, .Call = 0.5, .Shove = 9, .OwnHands = {}});
+  EXPECT_FALSE(search.GoOn());
+  EXPECT_FALSE(search.Found());
+}
+
 }  // namespace
 }  // namespace quillon
