@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ranges/range_notation.h"
-#include "study/equilibrium.h"
+#include "study/balance_texts.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/commands.h"
@@ -25,14 +25,6 @@ struct Request {
   std::string format;
   std::string folder;
 };
-
-// How much of all hands a range is, in percent.
-double PercentOfHands(const ClassWeights& weights) {
-  double combos = 0;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    combos += weights[static_cast<std::size_t>(index)] * ComboCount(HandLabel(index));
-  return PercentOf(combos, kConcreteHandCount, 2);
-}
 
 struct Answer {
   BalanceQuestion question;
@@ -78,8 +70,7 @@ std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& in
   if (!option.Given()) return AllHands();
   const std::optional<GivenRange> range = inputs.RangeWithHands(option);
   if (!range) return std::nullopt;
-  if (std::ranges::all_of(range->Weights, [](double weight) { return weight >= 0 && weight <= 1; }))
-    return range->Weights;
+  if (CanBeHeld(range->Weights)) return range->Weights;
   inputs.Refuse("The range \"" + range->Name + "\" has weights that are not from 0 to 1.");
   return std::nullopt;
 }

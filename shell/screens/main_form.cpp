@@ -95,7 +95,7 @@ MainForm::MainForm(Surroundings surroundings)
                          .Web = around_.Web,
                          .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages, around_.Folder),
-      study_(AroundDialogs()),
+      study_(dialogs_, AroundDialogs()),
       menu_({.Form = *this,
              .State = state_,
              .Image = image_,

@@ -1,6 +1,6 @@
 // The study window as the main window opens it and tells it of analyses.
 
-#include <QTabWidget>
+#include <QPushButton>
 #include <gmock/gmock.h>
 
 #include "study/window/limits_page.h"
@@ -55,6 +55,27 @@ TEST_F(StudyInWindow, HearsOfNoRunThatWasStopped) {
   RunCall("110", "80", "Tight");
   Press(Qt::Key_T, Qt::ControlModifier);
   EXPECT_THAT(About(), HasSubstr("90 to call"));
+}
+
+TEST_F(StudyInWindow, SavesTheRangeToCallWithAndChoosesIt) {
+  RunRaise("150", "50", "400", "Everything", "Tight");
+  Form.ShowStudy(StudyTopic::kBalanced);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Study()));
+  QPushButton* save = nullptr;
+  for (QPushButton* button : Study().findChildren<QPushButton*>()) {
+    if (button->text() == QStringLiteral("Save his range...")) save = button;
+  }
+  ASSERT_NE(save, nullptr);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return save->isEnabled(); }));
+  ExpectInputBox({"What do you want to call the new range?", "Pick a Name", "Balanced call"}, "His best");
+  ExpectMessageBox({.title = "Quillon",
+                    .text = "The range \"His best\" was saved successfully!",
+                    .icon = MessageIcon::kInformation,
+                    .buttons = MessageButtons::kOk});
+  save->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(Study().windowHandle(), Qt::Key_Space);
+  EXPECT_EQ(FromQt(Get<QComboBox>("cmboRanges", 2).currentText()), "His best");
+  EXPECT_EQ(FromQt(Get<QComboBox>("cmboRanges", 1).currentText()), "Everything");
 }
 
 TEST_F(StudyInWindow, HasItsPlaceStoredWhenTheMainWindowCloses) {

@@ -1,5 +1,7 @@
 #include "shell/screens/study_view.h"
 
+#include "analysis/input_screens.h"
+
 namespace quillon {
 
 void StudyView::Show() {
@@ -26,7 +28,13 @@ std::vector<IniSetting> StudyView::PlaceSettings() const {
 }
 
 StudyForm& StudyView::Form() {
-  if (form_ == nullptr) form_ = std::make_unique<StudyForm>(around_);
+  if (form_ == nullptr) {
+    form_ = std::make_unique<StudyForm>(around_);
+    QObject::connect(form_.get(), &StudyForm::CallingRangeSaved, form_.get(), [this](const std::string& name) {
+      ranges_.RefreshLists();
+      ranges_.Choosers().List(kRaiseCallingRangeList).SelectEntry(name);
+    });
+  }
   return *form_;
 }
 

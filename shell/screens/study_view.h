@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "analysis/analysis.h"
-#include "ranges/dialogs/dialog_window.h"
+#include "ranges/dialogs/range_dialogs.h"
 #include "study/window/study_form.h"
 
 namespace quillon {
@@ -19,7 +19,8 @@ namespace quillon {
 class StudyView {
  public:
   /// All that is given outlives the view.
-  explicit StudyView(DialogSurroundings surroundings) : around_(std::move(surroundings)) {}
+  StudyView(RangeDialogs& ranges, DialogSurroundings surroundings)
+      : ranges_(ranges), around_(std::move(surroundings)) {}
 
   /// Shows the window, about the last finished analysis where it was closed or never open, and brings it up as it is
   /// where it is open.
@@ -40,6 +41,7 @@ class StudyView {
  private:
   StudyForm& Form();
 
+  RangeDialogs& ranges_;
   DialogSurroundings around_;
   std::optional<Analysis> finished_;
   std::unique_ptr<StudyForm> form_;

@@ -34,22 +34,25 @@ class GridCell : public Control {
     QPainter painter(this);
     painter.fillRect(rect(), ToColor(cell_.Color));
     painter.setPen(ToColor(ReadableOn(cell_.Color)));
+    // Heights of cells differ by a pixel; the letters are to be alike.
+    const QSize whole = parentWidget()->size() / kRankCount;
+    const int label = std::min(whole.height() * kLabelShare, whole.width() * kLabelWidthShare) / 100;
     const bool hasText = !cell_.Text.empty();
     QRect upper = rect();
     if (hasText) upper.setBottom(height() * kUpperShare / 100);
-    Write(painter, upper, label_, height() * (hasText ? kLabelShare : kLoneLabelShare) / 100, !cell_.Pale);
+    Write(painter, upper, label_, label, !cell_.Pale);
     if (!hasText) return;
     QRect lower = rect();
     lower.setTop(upper.bottom());
-    Write(painter, lower, ToQt(cell_.Text), height() * kTextShare / 100, false);
+    Write(painter, lower, ToQt(cell_.Text), whole.height() * kTextShare / 100, false);
   }
 
  private:
-  // Percentages of the height.
+  // Percentages of a cell's height, and of its width, in which "AKo" has to fit.
   static constexpr int kUpperShare = 54;
   static constexpr int kLabelShare = 38;
-  static constexpr int kLoneLabelShare = 44;
   static constexpr int kTextShare = 30;
+  static constexpr int kLabelWidthShare = 38;
 
   // As large as asked for, smaller where the text would be too wide.
   void Write(QPainter& painter, const QRect& place, const QString& text, int pixels, bool bold) const {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "ranges/dialogs/form_place.h"
+#include "study/window/balanced_page.h"
 #include "study/window/limits_page.h"
 #include "study/window/text_label.h"
 #include "toolkit/accessible_control.h"
@@ -49,6 +50,9 @@ StudyForm::StudyForm(DialogSurroundings surroundings)
   tabs_.setAccessibleName(QStringLiteral("Pages"));
 
   AddPage(StudyTopic::kLimits, new LimitsPage);
+  auto* balanced = new BalancedPage(around_);
+  connect(balanced, &BalancedPage::CallingRangeSaved, this, &StudyForm::CallingRangeSaved);
+  AddPage(StudyTopic::kBalanced, balanced);
   FrameBoxes(*this);
   RestorePlace(*this, kStudySection, around_.Folder);
   connect(&follow_, &QPushButton::clicked, this, &StudyForm::FollowOffer);

@@ -46,6 +46,10 @@ class StudyForm : public QWidget {
 
   [[nodiscard]] QTabWidget& Tabs() const { return tabs_; }
 
+ Q_SIGNALS:
+  /// A range to call a shove with was saved and the player told: lists are to be filled anew before this returns.
+  void CallingRangeSaved(const std::string& name);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;

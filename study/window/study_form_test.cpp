@@ -3,67 +3,23 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QTabBar>
-#include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "study/hand_order.h"
 #include "study/limit_cells.h"
 #include "study/window/limits_page.h"
 #include "testing/heard_announcements.h"
-#include "testing/recorded_input.h"
-#include "testing/recorded_messages.h"
 #include "testing/sample_analysis.h"
-#include "testing/study_hands.h"
-#include "testing/temporary_program.h"
-#include "toolkit/placement.h"
-#include "toolkit/text.h"
+#include "testing/study_stage.h"
 
 namespace quillon {
 namespace {
 
 using testing::HasSubstr;
 
-class StudyWindow : public testing::Test {
+class StudyWindow : public StudyStage {
  protected:
-  StudyWindow() { LoadEquityTable(); }
-  ~StudyWindow() override { ShowAtScale(1); }
-
-  void Open() {
-    Form.show();
-    Form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
-  }
-
-  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
-
-  /// All texts that show, one a line.
-  [[nodiscard]] std::string Texts() const {
-    std::string texts;
-    for (const QLabel* label : Form.findChildren<QLabel*>()) {
-      if (label->isVisible()) texts += FromQt(label->text()) + "\n";
-    }
-    return texts;
-  }
-
-  [[nodiscard]] QPushButton& Follow() const {
-    for (QPushButton* button : Form.findChildren<QPushButton*>()) {
-      if (button->text() == QStringLiteral("Follow the new analysis")) return *button;
-    }
-    throw std::logic_error("no button to follow");
-  }
-
+  [[nodiscard]] QPushButton& Follow() const { return Button("Follow the new analysis"); }
   [[nodiscard]] LimitsPage& Limits() const { return *Form.findChild<LimitsPage*>(); }
-
-  TemporaryProgram Program;
-  RecordedMessages Messages;
-  RecordedInput Inputs;
-  ShiftWatch Shift{[] { return false; }};
-  DialogSurroundings Around{
-      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = [] {
-        return HandsBestFirst(Hands());
-      }};
-  StudyForm Form{Around};
 };
 
 TEST_F(StudyWindow, SaysWhatToDoBeforeAnyAnalysis) {

@@ -1,0 +1,81 @@
+#pragma once
+
+// The page "Balanced ranges": which hands to shove, and which to call the shove with, so that neither player gains by
+// changing ("study/equilibrium.h"). The amounts are those of the situation until the player types others. He holds the
+// range of the situation, or any hand.
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "ranges/dialogs/dialog_window.h"
+#include "study/balance_texts.h"
+#include "study/window/class_grid_view.h"
+#include "study/window/legend_view.h"
+#include "study/window/study_page.h"
+#include "study/window/study_work.h"
+#include "toolkit/text_box.h"
+
+namespace quillon {
+
+class BalancedPage : public StudyPage {
+  Q_OBJECT
+
+ public:
+  explicit BalancedPage(DialogSurroundings surroundings, QWidget* parent = nullptr);
+
+  [[nodiscard]] QString Title() const override { return QStringLiteral("Balanced ranges"); }
+
+  /// Never: with its own boxes the page can ask about any situation.
+  [[nodiscard]] std::optional<QString> WhyNothing(const StudySituation& situation) const override;
+  void Show(const StudySituation& situation) override;
+
+ Q_SIGNALS:
+  /// The range to call with was saved and the player told: lists are to be filled anew before this returns.
+  void CallingRangeSaved(const std::string& name);
+
+ private:
+  /// A grid under a heading.
+  struct Side {
+    QLabel& Heading;
+    ClassGridView& Grid;
+    ClassCells Cells{};
+  };
+
+  [[nodiscard]] Side MakeSide();
+  [[nodiscard]] BalanceTexts Texts() const;
+  void BuildPage();
+  void Bind();
+  void LeaveBox(TextBox& box);
+  void Ask();
+  void Search(const BalanceQuestion& question);
+  void ShowFound(const BalanceQuestion& question, const std::optional<Equilibrium>& found);
+  void ShowNotice(const QString& notice);
+  void ShowSide(Side& side, const std::string& move, const ClassWeights& played, const ClassWeights& held);
+  void Tell(std::int16_t index);
+  void SaveCall();
+
+  DialogSurroundings around_;
+  std::array<TextBox*, 3> boxes_;  // pot, call, shove
+  QCheckBox& onlyHis_;
+  StudyWork& work_;
+  QLabel& notice_;  // in place of the grids
+  QWidget& grids_;
+  Side shove_;
+  Side call_;
+  QLabel& worth_;
+  QLabel& hand_;
+  LegendView& legend_;
+  QPushButton& save_;
+  std::optional<StudySituation> situation_;
+  std::optional<BalanceTexts> asked_;  // what the page shows, or works out
+  bool askedOnlyHis_ = false;
+  ClassWeights found_{};  // the range to call with, while the button can save it
+  std::int16_t told_ = 0;
+};
+
+}  // namespace quillon

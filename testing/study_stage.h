@@ -1,0 +1,64 @@
+#pragma once
+
+// The study window on a program folder of its own, with boxes that are recorded and answered ahead.
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "study/hand_order.h"
+#include "study/window/study_form.h"
+#include "testing/recorded_input.h"
+#include "testing/recorded_messages.h"
+#include "testing/study_hands.h"
+#include "testing/temporary_program.h"
+#include "toolkit/placement.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+
+class StudyStage : public testing::Test {
+ protected:
+  StudyStage() { LoadEquityTable(); }
+  ~StudyStage() override { ShowAtScale(1); }
+
+  void Open() {
+    Form.show();
+    Form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
+  }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
+
+  /// All texts that show, one a line.
+  [[nodiscard]] std::string Texts() const {
+    std::string texts;
+    for (const QLabel* label : Form.findChildren<QLabel*>()) {
+      if (label->isVisible()) texts += FromQt(label->text()) + "\n";
+    }
+    return texts;
+  }
+
+  [[nodiscard]] QPushButton& Button(std::string_view text) const {
+    for (QPushButton* button : Form.findChildren<QPushButton*>()) {
+      if (FromQt(button->text()) == text) return *button;
+    }
+    throw std::logic_error("no such button");
+  }
+
+  TemporaryProgram Program;
+  RecordedMessages Messages;
+  RecordedInput Inputs;
+  ShiftWatch Shift{[] { return false; }};
+  DialogSurroundings Around{
+      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = [] {
+        return HandsBestFirst(Hands());
+      }};
+  StudyForm Form{Around};
+};
+
+}  // namespace quillon
