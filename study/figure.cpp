@@ -29,8 +29,10 @@ constexpr FigureFont kMarkFont = {.Color = "#1f2933", .Bold = true, .Halo = true
 constexpr double kPlotWidth = 640;
 constexpr double kLeastPlotHeight = 380;
 constexpr double kTop = 52;
+constexpr double kTopUntitled = 20;
 constexpr double kPotsHeight = 24;  // of the numbers above the plot
 constexpr double kBelow = 62;
+constexpr double kBelowUntitled = 30;
 constexpr double kNameHeight = 18;
 constexpr double kNoteHeight = 16;
 constexpr double kNameWidth = 76;
@@ -84,23 +86,28 @@ double NaturalNameHeight(const Figure& figure) {
 }
 
 double LeftOf(const Figure& figure) {
-  return 44 + WidestOf(UpTicks(figure.Up));
+  return std::max(figure.LeastLeft, 44 + WidestOf(UpTicks(figure.Up)));
 }
 
 double PotsWidthOf(const Figure& figure) {
   return figure.Up.Pot > 0 ? kGap + WidestOf(UpTicks(InPots(figure.Up))) : 0;
 }
 
-double NamesWidthOf(const Figure& figure) {
+double RightOf(const Figure& figure) {
   constexpr double kBeside = kGap + kNameStart + kGap;
-  double width = kNameWidth;
+  double names = kNameWidth;
   for (const FigureLine& line : figure.Lines)
-    width = std::max({width, WidthOf(line.Name) * kBold + kBeside, WidthOf(line.Note) + kBeside});
-  return width;
+    names = std::max({names, WidthOf(line.Name) * kBold + kBeside, WidthOf(line.Note) + kBeside});
+  return std::max(figure.LeastRight, PotsWidthOf(figure) + names);
 }
 
 double TopOf(const Figure& figure) {
-  return figure.Across.Pot > 0 ? kTop + kPotsHeight : kTop;
+  const double top = figure.Title.empty() ? kTopUntitled : kTop;
+  return figure.Across.Pot > 0 ? top + kPotsHeight : top;
+}
+
+double BelowOf(const Figure& figure) {
+  return figure.Across.Title.empty() ? kBelowUntitled : kBelow;
 }
 
 // As many of a unit as a number says, "1 chip", "2.5 chips" or "50%".
@@ -139,6 +146,19 @@ std::string Counted(const FigureScale& scale, std::string number, double value) 
 
 }  // namespace
 
+void AlignFigures(std::span<Figure> figures) {
+  double left = 0;
+  double right = 0;
+  for (const Figure& figure : figures) {
+    left = std::max(left, LeftOf(figure));
+    right = std::max(right, RightOf(figure));
+  }
+  for (Figure& figure : figures) {
+    figure.LeastLeft = left;
+    figure.LeastRight = right;
+  }
+}
+
 std::string PointWords(const Figure& figure, FigurePoint point) {
   const FigureLine& line = figure.Lines.at(point.Line);
   const std::string& place = figure.Places.at(point.Place);
@@ -152,7 +172,7 @@ std::string PointWords(const Figure& figure, FigurePoint point) {
 }
 
 std::string FigureWords(const Figure& figure) {
-  std::string words = figure.Title;
+  std::string words = figure.Title.empty() ? figure.Up.Title : figure.Title;
   if (!figure.Subtitle.empty()) words += ". " + figure.Subtitle;
   for (const FigureMark& mark : figure.Marks)
     words += ". " + mark.Text + " " + Counted(figure.Across, NumberText(mark.At), mark.At);
@@ -164,16 +184,16 @@ std::string FigureWords(const Figure& figure) {
 FigureSize FigureLayout::NaturalSize(const Figure& figure) {
   const double height =
       std::max(kLeastPlotHeight, NaturalNameHeight(figure) * static_cast<double>(figure.Lines.size()));
-  return {LeftOf(figure) + kPlotWidth + PotsWidthOf(figure) + NamesWidthOf(figure), TopOf(figure) + height + kBelow};
+  return {LeftOf(figure) + kPlotWidth + RightOf(figure), TopOf(figure) + height + BelowOf(figure)};
 }
 
 FigureLayout::FigureLayout(const Figure& figure, FigureSize size)
     : figure_(&figure),
       size_(size),
       left_(LeftOf(figure)),
-      right_(std::max(left_ + 1, size.Width - PotsWidthOf(figure) - NamesWidthOf(figure))),
+      right_(std::max(left_ + 1, size.Width - RightOf(figure))),
       top_(TopOf(figure)),
-      bottom_(std::max(top_ + 1, size.Height - kBelow)) {
+      bottom_(std::max(top_ + 1, size.Height - BelowOf(figure))) {
   places_.reserve(figure.Places.size());
   for (const std::string& place : figure.Places)
     places_.push_back(LeadingNumber(place));
@@ -274,7 +294,8 @@ void FigureLayout::AddPots(std::vector<FigurePart>& parts) const {
       parts.emplace_back(FigureRule{{right_, y}, {right_ + kTick, y}, kAxisPen});
       parts.emplace_back(FigureText{.At = {right_ + kTick + 4, y + kHalfCapital}, .Text = NumberText(tick)});
     }
-    parts.emplace_back(FigureText{.At = {right_ + kTick + 4, 26 + kPotsHeight}, .Text = "in pots"});
+    const double above = across.Pot > 0 ? kPotsHeight + 2 : 10;
+    parts.emplace_back(FigureText{.At = {right_ + kTick + 4, top_ - above}, .Text = "in pots"});
   }
 }
 

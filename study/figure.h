@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -37,14 +38,19 @@ struct FigureMark {
 };
 
 struct Figure {
-  std::string Title;
+  std::string Title;  // empty in a figure that lies under another of the same places
   std::string Subtitle{};  // UTF-8; cut at the plot's right end
   FigureScale Across;
   FigureScale Up;
   std::vector<std::string> Places;  // across, as numbers in texts, not falling; at least one
   std::vector<FigureLine> Lines;  // at least one
   std::vector<FigureMark> Marks{};
+  double LeastLeft = 0;  // room beside the plot, where it has to lie under another
+  double LeastRight = 0;
 };
+
+/// Gives figures that lie one under the other the same room beside their plots.
+void AlignFigures(std::span<Figure> figures);
 
 /// One point of a figure, by its line and its place.
 struct FigurePoint {
@@ -61,7 +67,8 @@ struct FigurePoint {
 /// A place that is marked has the mark's text after it, as in "K9o at 9 chips, 6 pots, now: ...".
 [[nodiscard]] std::string PointWords(const Figure& figure, FigurePoint point);
 
-/// The figure in words: its title, its marks, and its lines with their notes, "K9o, up to 23.07".
+/// The figure in words: its titles, its marks, and its lines with their notes, "K9o, up to 23.07". Where it has no
+/// title, that of the scale upwards.
 [[nodiscard]] std::string FigureWords(const Figure& figure);
 
 struct FigureSpot {

@@ -1,5 +1,6 @@
 #include "study/figure_svg.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <string_view>
 #include <utility>
@@ -101,10 +102,14 @@ class Markup {
 
 }  // namespace
 
-std::string FigureSvg(const Figure& figure) {
-  const FigureLayout layout(figure, FigureLayout::NaturalSize(figure));
-  const std::string width = Number(layout.Size().Width);
-  const std::string height = Number(layout.Size().Height);
+std::string FigureSvg(std::span<const Figure> figures) {
+  FigureSize whole;
+  for (const Figure& figure : figures) {
+    const FigureSize size = FigureLayout::NaturalSize(figure);
+    whole = {std::max(whole.Width, size.Width), whole.Height + size.Height};
+  }
+  const std::string width = Number(whole.Width);
+  const std::string height = Number(whole.Height);
   Markup markup;
   markup.Add({R"(<svg xmlns="http://www.w3.org/2000/svg" width=")",
               width,
@@ -120,16 +125,27 @@ std::string FigureSvg(const Figure& figure) {
               "\" fill=\"",
               kFigureTextColor,
               "\">\n<title>",
-              MarkupText(figure.Title),
+              MarkupText(figures.front().Title),
               "</title>\n<rect width=\"",
               width,
               "\" height=\"",
               height,
               "\" fill=\"#fff\"/>\n"});
-  for (const FigurePart& part : layout.Parts())
-    std::visit(markup, part);
+  double top = 0;
+  for (const Figure& figure : figures) {
+    const FigureLayout layout(figure, FigureLayout::NaturalSize(figure));
+    if (top > 0) markup.Add({"<g transform=\"translate(0 ", Number(top), ")\">\n"});
+    for (const FigurePart& part : layout.Parts())
+      std::visit(markup, part);
+    if (top > 0) markup.Add({"</g>\n"});
+    top += layout.Size().Height;
+  }
   markup.Add({"</svg>\n"});
   return markup.Take();
+}
+
+std::string FigureSvg(const Figure& figure) {
+  return FigureSvg(std::span(&figure, 1));
 }
 
 }  // namespace quillon

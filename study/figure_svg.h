@@ -2,13 +2,16 @@
 
 // A figure ("study/figure.h") as an SVG picture.
 
+#include <span>
 #include <string>
 
 #include "study/figure.h"
 
 namespace quillon {
 
-/// One SVG document of the figure in its natural size.
+/// One SVG document of the figures, one under the other, each in its natural size, with the title of the first. There
+/// must be one.
+[[nodiscard]] std::string FigureSvg(std::span<const Figure> figures);
 [[nodiscard]] std::string FigureSvg(const Figure& figure);
 
 }  // namespace quillon

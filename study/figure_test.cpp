@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "study/figure_svg.h"
+#include "support/number_text.h"
 
 namespace quillon {
 namespace {
@@ -198,6 +199,24 @@ TEST(FigureLayout, CutsASubtitleBetweenLetters) {
   EXPECT_EQ(subtitle(320), "He calls with \"T\u2026");
   figure.Subtitle = "He calls with \"\u00c4\u00c4\u00c4\u00c4\u00c4\"";
   EXPECT_EQ(subtitle(320), "He calls with \"\u2026");
+}
+
+TEST(FigureLayout, LiesUnderAnother) {
+  std::vector<Figure> figures = {TwoHands(), TwoHands()};
+  figures[0].Lines[0].Note = "up to 116724.4, which is far";
+  figures[1].Up.High = 4e6;
+  figures[1].Title.clear();
+  AlignFigures(figures);
+  const FigureLayout above(figures[0], FigureLayout::NaturalSize(figures[0]));
+  const FigureLayout below(figures[1], FigureLayout::NaturalSize(figures[1]));
+  EXPECT_EQ(above.PlotStart().X, below.PlotStart().X);
+  EXPECT_EQ(above.PlotEnd().X, below.PlotEnd().X);
+  EXPECT_EQ(above.Size().Width, below.Size().Width);
+  EXPECT_LT(below.PlotStart().Y, above.PlotStart().Y) << "nothing has to have room above it";
+
+  const std::string both = FigureSvg(figures);
+  EXPECT_THAT(both, HasSubstr("<g transform=\"translate(0 " + NumberText(above.Size().Height) + ")\">"));
+  EXPECT_THAT(both, HasSubstr("height=\"" + NumberText(above.Size().Height + below.Size().Height) + "\""));
 }
 
 TEST(FigureSvg, HasMarksAndPots) {
