@@ -310,13 +310,28 @@ void FigureLayout::AddMarks(std::vector<FigurePart>& parts) const {
     if (!isShown(mark.At)) continue;
     const double x = X(mark.At);
     const std::string label = MarkLabel(mark, across);
-    const bool fitsRight = x + kGap + kBold * WidthOf(label) < right_;
+    const double width = kBold * WidthOf(label);
+    const bool fitsRight = x + kGap + width < right_;
+    const double start = fitsRight ? x + kGap : x - kGap - width;
+    const double y = IsCrossed({start, top_}, {start + width, top_ + kNameHeight}) ? bottom_ - 7 : top_ + 16;
     parts.emplace_back(FigureRule{{x, top_}, {x, bottom_}, kMarkPen, "mark"});
-    parts.emplace_back(FigureText{.At = {fitsRight ? x + kGap : x - kGap, top_ + 16},
+    parts.emplace_back(FigureText{.At = {fitsRight ? x + kGap : x - kGap, y},
                                   .Text = label,
                                   .Anchor = fitsRight ? FigureAnchor::kStart : FigureAnchor::kEnd,
                                   .Font = kMarkFont});
   }
+}
+
+bool FigureLayout::IsCrossed(FigureSpot start, FigureSpot end) const {
+  for (std::size_t place = 0; place < places_.size(); ++place) {
+    const double x = X(places_[place]);
+    if (x < start.X || x > end.X) continue;
+    for (const FigureLine& line : figure_->Lines) {
+      const double y = Y(line.Values[place]);
+      if (y >= start.Y && y <= end.Y) return true;
+    }
+  }
+  return false;
 }
 
 // From the highest end of a line to the lowest, each as near to it as those above and below leave room. Where there is

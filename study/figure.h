@@ -180,6 +180,7 @@ class FigureLayout {
   void AddPots(std::vector<FigurePart>& parts) const;
   void AddMarks(std::vector<FigurePart>& parts) const;
   void AddNames(std::vector<FigurePart>& parts) const;
+  [[nodiscard]] bool IsCrossed(FigureSpot start, FigureSpot end) const;  // that rectangle, by a point of a line
   [[nodiscard]] FigureCurve CurveOf(std::size_t line) const;
 
   const Figure* figure_;

@@ -175,6 +175,21 @@ TEST(FigureLayout, KeepsAMarksTextWithinThePlot) {
   }
 }
 
+TEST(FigureLayout, PutsAMarksTextWhereNoLineIs) {
+  Figure figure = TwoHands();
+  figure.Marks[0].At = 3.2;
+  const auto isAtTheTop = [&figure] {
+    const FigureLayout layout(figure, {800, 500});
+    const auto texts = PartsOf<FigureText>(layout);
+    const FigureText* text = TextOf(texts, "now 3.2");
+    EXPECT_NE(text, nullptr);
+    return text != nullptr && text->At.Y < layout.PlotStart().Y + 20;
+  };
+  EXPECT_TRUE(isAtTheTop());
+  figure.Lines[1].Values = {1, 1, 3.9, 3.9};
+  EXPECT_FALSE(isAtTheTop());
+}
+
 TEST(FigureLayout, LeavesNotesOutWhereThereIsNoRoomForThem) {
   const Figure figure = TwoHands();
   for (const double height : {150.0, 400.0}) {

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "analysis/scenarios.h"
-#include "ranges/range_notation.h"
 #include "study/limits.h"
 #include "study/sweep_picture.h"
 #include "support/number_text.h"
@@ -258,6 +257,7 @@ std::array<Figure, 2> WidthFigures(const StudySituation& situation, const HandCu
   if (shove) share.Title += ", he must call " + NumberText(asked.ShoveAmount);
   if (shove) share.Subtitle = "He plays " + Quoted(asked.RangeName);
   share.Lines.front().Name = "Profitable";
+  share.Up.High = 105;  // a line at 100 is clear of the frame
   values.Up.Title = kValuesTitle;
   CountInPots(values.Up, situation);
   const double now = WidthOf(shove ? situation.CallingRange : situation.Range);

@@ -13,14 +13,12 @@
 #include <variant>
 #include <vector>
 
-#include "hand/hand_classes.h"
+#include "ranges/range_notation.h"
 #include "study/figure.h"
 #include "study/study_situation.h"
 #include "study/sweep.h"
 
 namespace quillon {
-
-using HandOrder = std::array<std::int16_t, kHandClassCount>;
 
 /// More lines cannot be told apart, and more steps not be seen.
 inline constexpr std::size_t kMostCurves = 13;

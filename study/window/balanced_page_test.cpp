@@ -24,14 +24,13 @@ class BalancedRanges : public StudyStage {
 
   void WaitForTheEnd() const {
     constexpr int kLongest = 60000;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !Form.findChild<StudyWork*>()->HasWork(); }, kLongest));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !Page().findChild<StudyWork*>()->HasWork(); }, kLongest));
   }
 
-  [[nodiscard]] TextBox& Box(int index) const { return *Form.findChildren<TextBox*>().at(index); }
-  [[nodiscard]] QCheckBox& OnlyHis() const { return *Form.findChild<BalancedPage*>()->findChild<QCheckBox*>(); }
-  [[nodiscard]] ClassGridView& Grid(int index) const {
-    return *Form.findChild<BalancedPage*>()->findChildren<ClassGridView*>().at(index);
-  }
+  [[nodiscard]] BalancedPage& Page() const { return *Form.findChild<BalancedPage*>(); }
+  [[nodiscard]] TextBox& Box(int index) const { return *Page().findChildren<TextBox*>().at(index); }
+  [[nodiscard]] QCheckBox& OnlyHis() const { return *Page().findChild<QCheckBox*>(); }
+  [[nodiscard]] ClassGridView& Grid(int index) const { return *Page().findChildren<ClassGridView*>().at(index); }
 
   void Type(int box, std::string_view text) {
     Box(box).setFocus(Qt::TabFocusReason);

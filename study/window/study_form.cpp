@@ -11,8 +11,10 @@
 
 #include "ranges/dialogs/form_place.h"
 #include "study/window/balanced_page.h"
+#include "study/window/how_far_page.h"
 #include "study/window/limits_page.h"
 #include "study/window/text_label.h"
+#include "study/window/width_page.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/placement.h"
@@ -50,6 +52,8 @@ StudyForm::StudyForm(DialogSurroundings surroundings)
   tabs_.setAccessibleName(QStringLiteral("Pages"));
 
   AddPage(StudyTopic::kLimits, new LimitsPage);
+  AddPage(StudyTopic::kHowFar, new HowFarPage(around_.Folder));
+  AddPage(StudyTopic::kWidth, new WidthPage(around_.Folder));
   auto* balanced = new BalancedPage(around_);
   connect(balanced, &BalancedPage::CallingRangeSaved, this, &StudyForm::CallingRangeSaved);
   AddPage(StudyTopic::kBalanced, balanced);

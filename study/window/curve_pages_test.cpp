@@ -1,0 +1,259 @@
+#include <QAccessible>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "ranges/range_notation.h"
+#include "study/figure_svg.h"
+#include "study/hand_order.h"
+#include "study/window/how_far_page.h"
+#include "study/window/width_page.h"
+#include "testing/expected_boxes.h"
+#include "testing/heard_announcements.h"
+#include "testing/study_hands.h"
+#include "testing/temporary_program.h"
+#include "toolkit/text.h"
+
+namespace quillon {
+namespace {
+
+const HandOrder& Order() {
+  static const HandOrder order = HandsBestFirst(Hands());
+  return order;
+}
+
+ClassWeights Range(const std::string& notation) {
+  return std::get<ClassWeights>(ReadRangeNotation(notation, Order()));
+}
+
+StudySituation Shove() {
+  return {.Asked = {.Mode = AnalysisMode::kPreflopRaise,
+                    .PotSize = 1.5,
+                    .CallAmount = 0.5,
+                    .ShoveAmount = 9,
+                    .RangeName = "Any",
+                    .CallingRangeName = "Calls"},
+          .Range = Range("any"),
+          .CallingRange = Range("top 30%"),
+          .Hands = &Hands()};
+}
+
+StudySituation Call() {
+  return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = 110, .CallAmount = 90, .RangeName = "Button"},
+          .Range = Range("top 30%"),
+          .Hands = &Hands()};
+}
+
+template <typename Page>
+class PageTest : public testing::Test {
+ public:
+  void Open(const StudySituation& situation) {
+    page.resize(900, 620);
+    page.show();
+    page.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&page));
+    page.Show(situation);
+  }
+
+  // The boxes in their order: hands, from, to, steps.
+  [[nodiscard]] TextBox& Box(qsizetype index) { return *page.template findChildren<TextBox*>().at(index); }
+  [[nodiscard]] std::string Boxes() {
+    std::string texts;
+    for (const TextBox* box : page.template findChildren<TextBox*>())
+      texts += (texts.empty() ? "" : "|") + FromQt(box->text());
+    return texts;
+  }
+  void Type(qsizetype index, const char* text) {
+    Box(index).setFocus();
+    Box(index).selectAll();
+    QTest::keyClicks(&Box(index), QString::fromLatin1(text));
+    QTest::keyClick(&Box(index), Qt::Key_Return);
+  }
+  [[nodiscard]] std::string Told() {
+    for (const QLabel* label : page.template findChildren<QLabel*>()) {
+      if (label->wordWrap()) return FromQt(label->text().trimmed());
+    }
+    return {};
+  }
+  [[nodiscard]] FigureView& View(std::size_t index = 0) { return *page.Views().at(index); }
+  [[nodiscard]] std::size_t PlacesShown() { return View().Shown().Places.size(); }
+  [[nodiscard]] std::string Said(std::size_t index = 0) { return FromQt(View(index).accessibleName()); }
+
+  void SaveAs(Qt::KeyboardModifiers keys, const std::string& offered, const std::string& name) {
+    ExpectDialog([&](QDialog& dialog) {
+      auto* line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      EXPECT_EQ(FromQt(line->text()), offered);
+      line->setText(ToQt(name));
+      dialog.accept();
+    });
+    QTest::keyClick(&page, Qt::Key_S, keys);
+    VerifyExpectedBoxes();
+    page.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&page));
+  }
+  [[nodiscard]] std::string FileOf(const std::string& name) const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(program.Folder().Path / "Saved Grids" / name, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+
+  TemporaryProgram program;
+  Page page{program.Folder()};
+};
+
+// A slow machine goes on after the first moment.
+void WaitFor(const WidthPage& page) {
+  EXPECT_TRUE(QTest::qWaitFor([&page] { return !page.Work().HasWork(); }, 60000));
+}
+
+using HowFarPageTest = PageTest<HowFarPage>;
+using WidthPageTest = PageTest<WidthPage>;
+
+TEST_F(HowFarPageTest, BeginsWithTheHandThatHardlyPays) {
+  Open(Shove());
+  EXPECT_EQ(Boxes(), FromQt(ToQt(HandLabel(MarginalHand(Shove())))) + "|0.1|18|0.1");
+  EXPECT_EQ(Told(), "");
+}
+
+TEST_F(HowFarPageTest, ShowsTheHandAskedFor) {
+  Open(Shove());
+  page.ShowHand(HandIndex("K9o"));
+  EXPECT_EQ(Boxes(), "K9o|0.2|29|0.2");
+  EXPECT_EQ(Said(),
+            "Preflop Raise: pot 1.5, 0.5 to call. He plays \"Any\" and calls with \"Calls\". now 9 chips, 6 pots. "
+            "K9o, up to 23.07");
+  EXPECT_TRUE(View().hasFocus());
+  EXPECT_EQ(FromQt(View().Words()), "K9o at 9 chips, 6 pots, now: 0.7085 chips, 0.4723 pots");
+}
+
+TEST_F(HowFarPageTest, ReadsWhatIsTyped) {
+  Open(Call());
+  struct Case {
+    qsizetype box;
+    const char* text;
+    const char* boxes;
+    const char* told;
+    std::size_t lines;
+  };
+  for (const Case& c : std::vector<Case>{
+           {0, "88 A7o", "88 A7o|1|109|1", "", 2},
+           {0, "88 A7x", "88 A7x|1|109|1", "Hands: \"x\" does not belong here", 2},
+           {0, "TT+", "TT+|1|109|1", "", 5},
+           {2, "50", "TT+|1|50|1", "", 5},
+           {0, "AA", "AA|1|50|1", "", 1},  // steps of the player's own stay
+           {2, "110", "AA|1|110|1", "From, to and steps: a call is smaller than the pot, which is 110", 1},
+           {2, "20", "AA|1|20|1", "", 1},
+           {3, "0", "AA|1|20|0", "From, to and steps: the step must be above 0", 1},
+       }) {
+    const HeardAnnouncements heard;
+    Type(c.box, c.text);
+    EXPECT_EQ(Boxes(), c.boxes) << c.text;
+    EXPECT_EQ(Told(), c.told) << c.text;
+    ASSERT_EQ(heard.Texts().size(), 1U) << c.text;
+    EXPECT_EQ(heard.Texts()[0], Told().empty() ? Said() : Told()) << c.text;
+  }
+}
+
+TEST_F(HowFarPageTest, LeavesTheFigureAloneWhereNothingWasTyped) {
+  Open(Call());
+  Box(0).setFocus();
+  const HeardAnnouncements heard;
+  for (int i = 0; i < 4; ++i)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_TRUE(heard.Texts().empty());
+}
+
+TEST_F(HowFarPageTest, KeepsTheHandsOfAnotherSituationAndForgetsTheSteps) {
+  Open(Call());
+  Type(0, "88 A7o");
+  Type(2, "50");
+  page.Show(Shove());
+  EXPECT_EQ(Boxes(), "88 A7o|0.5|95.5|0.5");
+  Type(0, "nonsense");
+  page.Show(Call());
+  EXPECT_EQ(Boxes().substr(0, Boxes().find('|')), std::string(HandLabel(MarginalHand(Call()))));
+}
+
+TEST_F(HowFarPageTest, SavesThePictureAndTheCompanionsTable) {
+  Open(Shove());
+  page.ShowHand(HandIndex("K9o"));
+  SaveAs(Qt::ControlModifier, "K9o shove.svg", "my picture.svg");
+  const auto steps = std::get<Steps>(Steps::Read("0.2:29:0.2"));
+  const HandCurves curves = AmountCurves(Shove(), {HandIndex("K9o")}, steps);
+  EXPECT_EQ(FileOf("my picture.svg"), FigureSvg(AmountFigure(Shove(), curves)));
+  EXPECT_EQ(Told(), "Saved as my picture.svg.");
+  SaveAs(Qt::ControlModifier | Qt::ShiftModifier, "K9o shove.csv", "table.csv");
+  EXPECT_EQ(FileOf("table.csv"), curves.Csv());
+}
+
+TEST_F(HowFarPageTest, CopiesThePictureThatItShows) {
+  Open(Shove());
+  QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32), View().Picture());
+  EXPECT_EQ(Told(), "The picture is copied.");
+}
+
+TEST_F(WidthPageTest, ShowsTheShareAndTheHands) {
+  Open(Shove());
+  page.ShowHand(HandIndex("K9o"));
+  EXPECT_EQ(Boxes(), "K9o|1|100|1");
+  WaitFor(page);
+  for (const auto& [view, words] : {std::pair{std::size_t{0}, "Profitable at 30%, now: 85.52%"},
+                                    {std::size_t{1}, "K9o at 30%, now: 0.7085 chips, 0.4723 pots"}}) {
+    View(view).setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(FromQt(View(view).Words()).substr(0, 10), std::string(words).substr(0, 10)) << view;
+  }
+}
+
+TEST_F(WidthPageTest, GoesOnWhereItTakesLongerAndCanBeStopped) {
+  Open(Shove());
+  Type(1, "0.1");
+  Type(3, "0.05");
+  ASSERT_TRUE(page.Work().isVisible());
+  const HeardAnnouncements heard;
+  QTest::keyClick(&page, Qt::Key_Escape);
+  EXPECT_EQ(heard.Texts(), std::vector<std::string>{"Stopped"});
+  const std::size_t stopped = PlacesShown();
+  EXPECT_GT(stopped, 0U) << "the lines are there as far as they are";
+  QTest::qWait(50);
+  EXPECT_EQ(PlacesShown(), stopped);
+
+  page.Work().findChild<QPushButton*>()->click();
+  WaitFor(page);
+  EXPECT_EQ(PlacesShown(), 1999U);
+  EXPECT_EQ(heard.Texts().back(), Said(1)) << "once it is whole, and not before";
+}
+
+TEST_F(WidthPageTest, DropsWorkForAnotherSituation) {
+  Open(Shove());
+  Type(3, "0.05");
+  ASSERT_TRUE(page.Work().HasWork());
+  page.Show(Call());
+  WaitFor(page);
+  EXPECT_EQ(PlacesShown(), 100U);
+  EXPECT_EQ(Said().substr(0, 34), "Preflop Call: pot 110, 90 to call.");
+}
+
+TEST_F(WidthPageTest, SavesBothFiguresAsOnePicture) {
+  Open(Call());
+  page.ShowHand(HandIndex("88"));
+  WaitFor(page);
+  SaveAs(Qt::ControlModifier, "88 width.svg", "both.svg");
+  EXPECT_NE(FileOf("both.svg").find(">Profitable</text>"), std::string::npos);
+  EXPECT_NE(FileOf("both.svg").find(">88</text>"), std::string::npos);
+  QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->image().height(), View(0).Picture().height() + View(1).Picture().height());
+}
+
+}  // namespace
+}  // namespace quillon

@@ -1,0 +1,56 @@
+#include "study/window/width_page.h"
+
+#include <QElapsedTimer>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace quillon {
+namespace {
+
+// Long enough that drawing what is there costs little, and short enough for a step of the work.
+constexpr int kStepMilliseconds = 10;
+
+}  // namespace
+
+WidthPage::WidthPage(ProgramFolder folder, QWidget* parent)
+    : CurvePage(std::move(folder), 2, parent), work_(*new StudyWork(this)) {
+  ShowBelowBoxes(work_);
+}
+
+void WidthPage::Show(const StudySituation& situation) {
+  work_.Drop();
+  CurvePage::Show(situation);
+}
+
+StepTexts WidthPage::StepsFor(std::span<const std::int16_t> /*hands*/) const {
+  return {.From = "1", .To = "100", .Step = "1"};
+}
+
+std::variant<Steps, std::string> WidthPage::ReadSteps(const StepTexts& texts) const {
+  return ReadWidthSteps(About(), texts, BestFirst());
+}
+
+void WidthPage::Begin(const std::vector<std::int16_t>& hands, const Steps& steps) {
+  const auto curves = std::make_shared<HandCurves>(HandCurves{.What = "width", .Hands = hands, .Rows = {}});
+  const auto step = [this, curves, steps]() -> std::optional<double> {
+    QElapsedTimer watch;
+    watch.start();
+    const std::int64_t count = steps.Count();
+    auto done = static_cast<std::int64_t>(curves->Rows.size());
+    for (; done < count && watch.elapsed() < kStepMilliseconds; ++done)
+      curves->Rows.push_back(WidthRow(About(), curves->Hands, BestFirst(), steps.Text(done)));
+    Draw(*curves);
+    if (done == count) return std::nullopt;
+    return static_cast<double>(done) / static_cast<double>(count);
+  };
+  work_.Start(QStringLiteral("Working out the widths"), step, [this] { TellFigure(); });
+}
+
+std::vector<Figure> WidthPage::FiguresOf(const HandCurves& curves) const {
+  const auto figures = WidthFigures(About(), curves);
+  return {figures.begin(), figures.end()};
+}
+
+}  // namespace quillon

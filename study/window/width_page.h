@@ -1,0 +1,32 @@
+#pragma once
+
+// The page "Width": the share of profitable hands, and what some hands are worth, as the opponent's range goes up, or
+// the range that he calls with. Every width is worked out on its own, and the lines grow as they are.
+
+#include "study/window/curve_page.h"
+#include "study/window/study_work.h"
+
+namespace quillon {
+
+class WidthPage : public CurvePage {
+  Q_OBJECT
+
+ public:
+  explicit WidthPage(ProgramFolder folder, QWidget* parent = nullptr);
+
+  [[nodiscard]] QString Title() const override { return QStringLiteral("Width"); }
+  void Show(const StudySituation& situation) override;
+
+  [[nodiscard]] StudyWork& Work() const { return work_; }
+
+ protected:
+  [[nodiscard]] StepTexts StepsFor(std::span<const std::int16_t> hands) const override;
+  [[nodiscard]] std::variant<Steps, std::string> ReadSteps(const StepTexts& texts) const override;
+  void Begin(const std::vector<std::int16_t>& hands, const Steps& steps) override;
+  [[nodiscard]] std::vector<Figure> FiguresOf(const HandCurves& curves) const override;
+
+ private:
+  StudyWork& work_;
+};
+
+}  // namespace quillon
