@@ -69,6 +69,17 @@ void CurvePage::ShowHand(std::int16_t index) {
   setFocus(Qt::OtherFocusReason);
 }
 
+void CurvePage::TakeHands(const QString& hands) {
+  if (hands == hands_->text()) return;
+  hands_->setText(hands);
+  isStale_ = true;
+}
+
+void CurvePage::showEvent(QShowEvent* event) {
+  StudyPage::showEvent(event);
+  if (situation_ && isStale_) Read();
+}
+
 void CurvePage::Draw(HandCurves curves) {
   curves_ = std::move(curves);
   std::vector<Figure> figures = FiguresOf(curves_);
@@ -120,6 +131,7 @@ void CurvePage::Typed(TextBox& box) {
 }
 
 void CurvePage::Read() {
+  isStale_ = false;
   const auto refuse = [this](const std::string& what, const std::string& reason) {
     Tell(what + ": " + reason);
     Announce(*this, words_.text());
@@ -127,6 +139,7 @@ void CurvePage::Read() {
   auto hands = ReadCurveHands(FromQt(hands_->text()), bestFirst_);
   if (const auto* const reason = std::get_if<std::string>(&hands)) return refuse("Hands", *reason);
   auto& chosen = std::get<std::vector<std::int16_t>>(hands);
+  Q_EMIT HandsChosen(hands_->text());
   if (!hasOwnSteps_) {
     const StepTexts texts = StepsFor(chosen);
     from_->setText(ToQt(texts.From));

@@ -32,10 +32,18 @@ class CurvePage : public StudyPage {
   /// The hand takes the place of the others.
   void ShowHand(std::int16_t index) override;
 
+  /// Takes the hands of another page, as text; they are drawn when this page shows.
+  void TakeHands(const QString& hands);
+
   /// The figures, from above down.
   [[nodiscard]] const std::vector<FigureView*>& Views() const { return views_; }
 
+ Q_SIGNALS:
+  void HandsChosen(const QString& hands);
+
  protected:
+  void showEvent(QShowEvent* event) override;
+
   /// A page with that many figures, whose files go into that folder.
   CurvePage(ProgramFolder folder, int figures, QWidget* parent);
 
@@ -88,6 +96,7 @@ class CurvePage : public StudyPage {
   std::optional<StudySituation> situation_;
   HandOrder bestFirst_{};
   bool hasOwnSteps_ = false;  // the player's
+  bool isStale_ = false;  // other hands have been taken than those that are drawn
   bool answers_ = false;  // the player, who is told of what comes of it
   HandCurves curves_;
 };

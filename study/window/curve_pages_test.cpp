@@ -20,7 +20,9 @@
 #include "study/window/width_page.h"
 #include "testing/expected_boxes.h"
 #include "testing/heard_announcements.h"
+#include "testing/sample_analysis.h"
 #include "testing/study_hands.h"
+#include "testing/study_stage.h"
 #include "testing/temporary_program.h"
 #include "toolkit/text.h"
 
@@ -253,6 +255,45 @@ TEST_F(WidthPageTest, SavesBothFiguresAsOnePicture) {
   EXPECT_NE(FileOf("both.svg").find(">88</text>"), std::string::npos);
   QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->image().height(), View(0).Picture().height() + View(1).Picture().height());
+}
+
+class CurvesInWindow : public StudyStage {
+ protected:
+  [[nodiscard]] static std::vector<std::string> LinesOf(const CurvePage& page) {
+    std::vector<std::string> names;
+    for (const FigureLine& line : page.Views().back()->Shown().Lines)
+      names.push_back(line.Name);
+    return names;
+  }
+};
+
+TEST_F(CurvesInWindow, ShareTheHands) {
+  Open();
+  const auto& width = *Form.findChild<WidthPage*>();
+  const auto& howFar = *Form.findChild<HowFarPage*>();
+  Form.Follow(sample::RaiseState());
+  Form.ShowPage(StudyTopic::kHowFar, HandIndex("K9o"));
+  Form.ShowPage(StudyTopic::kWidth);
+  WaitFor(width);
+  EXPECT_EQ(LinesOf(width), std::vector<std::string>{"K9o"});
+
+  auto* hands = width.findChild<TextBox*>();
+  hands->setFocus();
+  QTest::keyClicks(hands, QStringLiteral(" AA"));
+  QTest::keyClick(hands, Qt::Key_Return);
+  WaitFor(width);
+  EXPECT_EQ(LinesOf(howFar), std::vector<std::string>{"K9o"}) << "nothing is drawn that nobody sees";
+  Form.ShowPage(StudyTopic::kHowFar);
+  EXPECT_EQ(LinesOf(howFar), (std::vector<std::string>{"AA", "K9o"}));
+}
+
+TEST_F(CurvesInWindow, SayWhereEquitiesAloneHaveNothing) {
+  Open();
+  Form.Follow(sample::EquityState());
+  for (const StudyTopic topic : {StudyTopic::kHowFar, StudyTopic::kWidth}) {
+    Form.ShowPage(topic, HandIndex("AA"));
+    EXPECT_NE(Texts().find("asks for no amounts"), std::string::npos);
+  }
 }
 
 }  // namespace

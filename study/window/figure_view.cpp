@@ -256,6 +256,10 @@ void FigureView::mouseMoveEvent(QMouseEvent* event) {
   GoTo(Layout().Nearest({spot.x(), spot.y()}));
 }
 
+void FigureView::leaveEvent(QEvent* /*event*/) {
+  if (!hasFocus()) GoTo(std::nullopt);
+}
+
 void FigureView::keyPressEvent(QKeyEvent* event) {
   if (figure_ && point_ && event->key() == Qt::Key_Escape) return GoTo(std::nullopt);
   const std::optional<FigurePoint> reached = figure_ ? PointReachedBy(event->key()) : std::nullopt;

@@ -68,6 +68,18 @@ TEST_F(FigureViewTest, FindsThePointNearestToTheMouse) {
   }
 }
 
+TEST_F(FigureViewTest, KeepsThePointOfTheKeyboardWhenTheMouseLeaves) {
+  View.Show(Hands());
+  for (const bool focused : {true, false}) {
+    if (!focused) View.clearFocus();
+    MoveTo(View.SpotOf({0, focused ? 0U : 1U}));
+    ASSERT_TRUE(View.Point());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&View, &leave);
+    EXPECT_EQ(View.Point().has_value(), focused);
+  }
+}
+
 TEST_F(FigureViewTest, IsReadOffByKeys) {
   View.Show(Hands());
   View.clearFocus();

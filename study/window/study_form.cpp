@@ -52,8 +52,12 @@ StudyForm::StudyForm(DialogSurroundings surroundings)
   tabs_.setAccessibleName(QStringLiteral("Pages"));
 
   AddPage(StudyTopic::kLimits, new LimitsPage);
-  AddPage(StudyTopic::kHowFar, new HowFarPage(around_.Folder));
-  AddPage(StudyTopic::kWidth, new WidthPage(around_.Folder));
+  auto* howFar = new HowFarPage(around_.Folder);
+  auto* width = new WidthPage(around_.Folder);
+  connect(howFar, &CurvePage::HandsChosen, width, &CurvePage::TakeHands);
+  connect(width, &CurvePage::HandsChosen, howFar, &CurvePage::TakeHands);
+  AddPage(StudyTopic::kHowFar, howFar);
+  AddPage(StudyTopic::kWidth, width);
   auto* balanced = new BalancedPage(around_);
   connect(balanced, &BalancedPage::CallingRangeSaved, this, &StudyForm::CallingRangeSaved);
   AddPage(StudyTopic::kBalanced, balanced);
