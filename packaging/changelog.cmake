@@ -20,6 +20,11 @@ function(quillon_read_changelog FILE)
       if(releases STREQUAL "" AND NOT version STREQUAL PROJECT_VERSION)
         message(FATAL_ERROR "CHANGELOG.md begins with ${version}, and the program is ${PROJECT_VERSION}")
       endif()
+      # The program reads versions as decimal numbers, packages read them part by part; both must see them fall.
+      if(newer AND NOT (newer GREATER version AND newer VERSION_GREATER version))
+        message(FATAL_ERROR "CHANGELOG.md has ${version} after ${newer}")
+      endif()
+      set(newer ${version})
       string(APPEND releases "${release_end}    <release version=\"${version}\" date=\"${date}\">\n"
         "      <description>\n        <ul>\n")
       set(release_end "        </ul>\n      </description>\n    </release>\n")

@@ -8,9 +8,13 @@ list(FILTER licence_files EXCLUDE REGEX "^LICENSE")
 
 # ---- the Debian package
 
-quillon_print(${made}/copyright
-  DEPENDS ${PROJECT_SOURCE_DIR}/NOTICE ${licence_files}
-  COMMAND cat ${PROJECT_SOURCE_DIR}/NOTICE ${licence_files})
+file(READ ${PROJECT_SOURCE_DIR}/NOTICE copyright)
+string(PREPEND copyright "Quillon's sources: https://${QUILLON_WEB_HOST}/quillon/\n\n")
+foreach(name file IN ZIP_LISTS licence_names licence_files)
+  file(READ ${file} text)
+  string(APPEND copyright "\n---- ${name} ----\n\n${text}")
+endforeach()
+file(WRITE ${made}/copyright "${copyright}")
 quillon_print(${made}/changelog.gz DEPENDS ${made}/debian-changelog COMMAND gzip -9nc ${made}/debian-changelog)
 install(FILES ${made}/changelog.gz ${made}/copyright DESTINATION ${docs} COMPONENT system)
 file(MAKE_DIRECTORY ${made}/docs)

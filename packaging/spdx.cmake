@@ -1,11 +1,13 @@
 # quillon_write_spdx(FILE VERSION PACKAGES...): a bill of materials in SPDX 2.3 (JSON) of a portable folder: the program,
 # what is compiled into it, and the Debian packages whose libraries it carries, with the licence of each from
-# bundled_licences.cmake. Of SOURCE_DATE_EPOCH is the time in it, so that two makings are the same.
+# bundled_licences.cmake. Reads `QUILLON_WEB_HOST` and `httplib_version`. Of SOURCE_DATE_EPOCH is the time in it, so that two makings are the same.
 
 # Appends a package to the caller's `packages_json` and `relations_json`.
 function(quillon_append_spdx NAME VERSION LICENCE RELATION URL)
   string(REGEX REPLACE "[^A-Za-z0-9.-]" "-" id "SPDXRef-${NAME}")
   set(reference "")
+  string(REPLACE "+" "%2B" URL "${URL}")
+  string(REGEX REPLACE "(@.*):" "\\1%3A" URL "${URL}")
   if(NOT URL STREQUAL "")
     set(reference ",
       \"externalRefs\": [
@@ -35,7 +37,7 @@ function(quillon_write_spdx FILE VERSION)
   set(packages_json "")
   set(relations_json "")
   quillon_append_spdx(quillon ${VERSION} MIT "SPDXRef-DOCUMENT DESCRIBES" "")
-  quillon_append_spdx(cpp-httplib 0.18.7 MIT "SPDXRef-quillon CONTAINS" "")
+  quillon_append_spdx(cpp-httplib ${httplib_version} MIT "SPDXRef-quillon CONTAINS" "")
   foreach(compiled_in fonts-liberation2=OFL-1.1 fonts-dejavu-core=Bitstream-Vera fonts-dejavu-extra=Bitstream-Vera
       libcli11-dev=BSD-3-Clause nlohmann-json3-dev=MIT)
     string(REPLACE "=" ";" compiled_in ${compiled_in})
@@ -60,7 +62,7 @@ function(quillon_write_spdx FILE VERSION)
   \"dataLicense\": \"CC0-1.0\",
   \"SPDXID\": \"SPDXRef-DOCUMENT\",
   \"name\": \"Quillon-${VERSION}-linux-x86_64\",
-  \"documentNamespace\": \"https://www.quillon.example/quillon/spdx/${VERSION}\",
+  \"documentNamespace\": \"https://${QUILLON_WEB_HOST}/quillon/spdx/${VERSION}\",
   \"creationInfo\": {\"created\": \"${now}\", \"creators\": [\"Organization: The Quillon developers\"]},
   \"hasExtractedLicensingInfos\": [
     {\"licenseId\": \"LicenseRef-public-domain\", \"extractedText\": \"In the public domain.\"}
@@ -73,6 +75,8 @@ ${relations_json}
   ]
 }
 ")
+  file(READ "${FILE}" written)
+  string(JSON packages LENGTH "${written}" packages) # fails where it is not JSON
 endfunction()
 
 # The version of an installed Debian package.

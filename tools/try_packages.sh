@@ -17,7 +17,7 @@ readonly bare=$PWD/build/bare
 readonly display=:79
 
 # What packaging/host_libraries.txt names, as packages.
-readonly host_packages=(libx11-6 libx11-xcb1 libxcb1 libwayland-client0 libegl1 libglx0 libopengl0 libfontconfig1)
+readonly host_packages=(libx11-6 libx11-xcb1 libxcb1 libwayland-client0 libegl1 libglx0 libfontconfig1)
 
 fail() {
   echo "Failed: $*" >&2
@@ -115,6 +115,21 @@ portable() {
   [ ! -e "$trial/home/ann/.local" ] || fail "a portable copy has written elsewhere"
   mv "$trial$folder" "$trial/home/ann/moved"
   [ "$(in_trial ann /home/ann/moved/quillon-cli folder)" = /home/ann/moved ] || fail "it cannot be moved"
+
+  # Every part finds what it needs, those too that this screen does not ask for.
+  in_trial ann sh -c 'find /home/ann/moved/plugins -name "*.so" -exec ldd {} +' | grep 'not found' && fail "libraries are missing"
+  in_trial ann env QT_QPA_PLATFORM=offscreen timeout 5 /home/ann/moved/quillon && fail "no window stayed open"
+  [ $? -eq 124 ] || fail "no start without a screen"
+
+  # Half a copy says so in a line, and makes nothing.
+  for part in lib/libQt6Svg.so.6 plugins; do
+    cp -a "$trial/home/ann/moved" "$trial/home/ann/half"
+    rm -r "$trial/home/ann/half/$part" "$trial/home/ann/half/settings.ini"
+    in_trial ann /home/ann/half/quillon 2>"$bare/told" && fail "it starts without $part"
+    [ "$(wc -l <"$bare/told")" -eq 1 ] || fail "without $part it says: $(cat "$bare/told")"
+    [ ! -e "$trial/home/ann/half/settings.ini" ] || fail "half a copy has written its settings"
+    rm -r "$trial/home/ann/half"
+  done
   end_trial
   echo "The portable archive runs on what every desktop has."
 }
