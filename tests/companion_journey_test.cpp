@@ -162,7 +162,7 @@ struct GuideSample {
 
 std::vector<GuideSample> SamplesOfTheGuide() {
   constexpr std::string_view kIndentation = "    ";
-  constexpr std::string_view kPrompt = "    $ ./run cli ";
+  constexpr std::string_view kPrompt = "    $ quillon-cli ";
   std::vector<GuideSample> samples;
   bool inSample = false;
   for (const std::string& line : Lines(ReadAllBytes(QUILLON_GUIDE))) {

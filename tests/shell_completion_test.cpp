@@ -159,7 +159,7 @@ TEST_F(GeneratedTexts, AreAManualPageThatManReadsWithoutAWarning) {
   EXPECT_THAT(outcome.Output, testing::HasSubstr("\n       3      the input was refused"));
   std::ostringstream source;
   source << std::ifstream(page).rdbuf();
-  EXPECT_THAT(source.str(), EndsWith("\nThe user guide: /usr/share/quillon/Guide/user\\-guide.html\n"));
+  EXPECT_THAT(source.str(), EndsWith("\nThe user guide: file:///usr/share/quillon/Guide/user\\-guide.html\n"));
 }
 
 TEST_F(GeneratedTexts, AreRefusedWhereNoSuchOneIs) {

@@ -45,7 +45,12 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
   // Qt goes on to abort.
   const std::string reason =
       FromQt(heard.NoDisplay.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : heard.NoDisplay);
-  std::fputs(("Quillon finds no display for its window: " + reason + "\n").c_str(), stderr);
+  // Qt looks for the part that knows a display before it looks for the display.
+  const bool incomplete = reason.starts_with("Could not find");
+  const std::string message = incomplete
+                                  ? "Quillon cannot show its window, and may have to be installed or unpacked again: "
+                                  : "Quillon finds no display for its window: ";
+  std::fputs((message + reason + "\n").c_str(), stderr);
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -99,7 +99,7 @@ std::string ManualPage(const CommandText& root, std::string_view exitStatuses, c
   }
   page += ".SH EXIT STATUS\n" + StatusesOf(exitStatuses);
   page.append(".SH ENVIRONMENT\n").append(kEnvironment);
-  page += ".SH SEE ALSO\n.BR quillon (1)\n.PP\nThe user guide: " + Plain(guide) + "\n";
+  page += ".SH SEE ALSO\n.BR quillon (1)\n.PP\nThe user guide: file://" + Plain(guide) + "\n";
   return page;
 }
 
