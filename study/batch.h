@@ -14,7 +14,6 @@
 // ("analysis/range_sources.h").
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <mutex>
@@ -26,12 +25,10 @@
 #include "analysis/analysis.h"
 #include "analysis/range_sources.h"
 #include "ranges/range_files.h"
+#include "study/batch_line.h"
 #include "study/given_range.h"
 
 namespace quillon {
-
-/// A longer line is refused: no situation needs it, and whoever reads lines need not keep more of one.
-inline constexpr std::size_t kLongestBatchLine = 1 << 20;
 
 /// A line that was read.
 struct BatchQuestion {
@@ -62,8 +59,9 @@ class Batch {
   /// AnalysisFieldNames, or all of them. The name "id" is for its id alone. The equity table must have been loaded.
   explicit Batch(ProgramFolder folder, std::vector<std::string> fields = {});
 
-  /// The situation of a line. Never fails: what would end a single run, such as a sum beyond all numbers, is a refusal.
-  [[nodiscard]] std::variant<BatchQuestion, BatchRefusal> Read(std::string_view line) const;
+  /// The situation of the line with that text. Never fails: what would end a single run, such as a sum beyond all
+  /// numbers, is a refusal.
+  [[nodiscard]] std::variant<BatchQuestion, BatchRefusal> Read(std::string_view text) const;
 
   /// The answer to the line of that number: the object of AnalysisJson on one line, with the id before its other
   /// fields, or what is wrong. Never fails.
