@@ -2,8 +2,8 @@
 
 #include <system_error>
 
+#include "support/folders.h"
 #include "support/run_time_error.h"
-#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -35,11 +35,6 @@ bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem:
   return !std::filesystem::is_symlink(oldFile, unknown) && std::filesystem::equivalent(oldFile, newFile, unknown);
 }
 
-// Joined as text: the path operator would let a name that starts with a separator replace the folder.
-std::filesystem::path PathOfBytes(const ProgramFolder& folder, std::string_view name) {
-  return RangeFolderPath(folder).string().append("/").append(RangeFileName(name));
-}
-
 }  // namespace
 
 std::filesystem::path RangeFolderPath(const ProgramFolder& folder) {
@@ -51,11 +46,7 @@ std::string RangeFileName(std::string_view name) {
 }
 
 std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name) {
-  std::filesystem::path usual = PathOfBytes(folder, name);
-  const std::string bytes = Windows1252FromUtf8(name);
-  if (bytes == name || TextOfFileName(bytes) != name || !ErrorOfFile(usual)) return usual;
-  std::filesystem::path old = PathOfBytes(folder, bytes);
-  return ErrorOfFile(old) ? usual : old;
+  return FileOfName(RangeFolderPath(folder), RangeFileName(name));
 }
 
 std::string LoadRangeText(const ProgramFolder& folder, std::string_view name) {

@@ -25,11 +25,10 @@ struct ProgramFolder {
 /// The name of a range's file, for messages: "Button" -> "Button.txt".
 [[nodiscard]] std::string RangeFileName(std::string_view name);
 
-/// The file of the range called `name`: the range folder, a separator, the name, ".txt". The name is UTF-8, as file
-/// names on disk are, and is put in as it is; the empty name gives the file ".txt". Where no such file is there but one
-/// whose name is not UTF-8 and is shown as this one (TextOfFileName), it is that file. Names are told apart as the
-/// file system does it: where it heeds case, "button" and "Button" are two ranges, and a file "Button.TXT" is neither
-/// of them.
+/// The file of the range called `name` in the range folder (FileOfName): the name, ".txt". The empty name gives the
+/// file
+/// ".txt". Names are told apart as the file system does it: where it heeds case, "button" and "Button" are two ranges,
+/// and a file "Button.TXT" is neither of them.
 [[nodiscard]] std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name);
 
 /// The content of a range's file without its line end; if there are several line ends, without the last. A file that is

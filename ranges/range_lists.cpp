@@ -2,25 +2,17 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <system_error>
 #include <utility>
 
-#include "support/files.h"
+#include "support/folders.h"
 #include "support/letter_case.h"
 #include "support/run_time_error.h"
 #include "support/utf8.h"
-#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
 
 constexpr int kExtensionLength = 4;
-
-[[noreturn]] void FailToList(const std::filesystem::path& folder, const std::error_code& error) {
-  const bool missing = error == std::errc::no_such_file_or_directory;
-  throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.value()),
-                     TextOfFileName(folder.string()) + ": " + error.message());
-}
 
 // Where the last four characters of a file's name begin; nothing if it has fewer.
 std::optional<std::size_t> StartOfExtension(std::string_view fileName) {
@@ -43,21 +35,11 @@ std::u32string SortingKey(std::string_view fileName) {
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
   using Sortable = std::pair<std::u32string, std::string>;  // the key, the name
-  const std::filesystem::path path = RangeFolderPath(folder);
-
   std::vector<Sortable> entries;
-  std::error_code error;
-  std::filesystem::directory_iterator file(path, error);
-  for (const std::filesystem::directory_iterator end; !error && file != end; file.increment(error)) {
-    // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing range.
-    std::error_code unknown;
-    if (file->is_directory(unknown)) continue;
-    std::string name = TextOfFileName(file->path().filename().string());
-    if (IsScratchName(name)) continue;
+  for (std::string& name : FileNamesIn(RangeFolderPath(folder))) {
     std::u32string key = SortingKey(name);
     entries.emplace_back(std::move(key), std::move(name));
   }
-  if (error) FailToList(path, error);
 
   std::sort(entries.begin(), entries.end());
   std::vector<std::string> names;

@@ -27,10 +27,9 @@ struct RangeListContents {
 /// How a list of ranges begins.
 enum class ListStart : std::uint8_t { kBlankEntry, kFirstRange };
 
-/// The names of all files in the range folder as text (TextOfFileName), whatever their extension, but not of folders
-/// in it nor of the program's own scratch files. They are sorted by what they are listed under, without regard to the
-/// case of letters of any script (WithoutCase); those that are then equal are in byte order. RunTimeError, with the
-/// folder and the reason, if it cannot be read: "Path not found" where it is missing.
+/// The names of all files in the range folder (FileNamesIn), whatever their extension. They are sorted by what they are
+/// listed under, without regard to the case of letters of any script (WithoutCase); those that are then equal are in
+/// byte order. Fails as FileNamesIn does.
 [[nodiscard]] std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder);
 
 /// The name that a file is listed under: its own less the last four characters, the length of ".txt". A character is

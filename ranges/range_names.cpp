@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "support/files.h"
+#include "support/joined_text.h"
 
 namespace quillon {
 namespace {
@@ -15,29 +16,38 @@ constexpr std::string_view kForbiddenCharacters = R"(/\:*?"<>|)";
 constexpr std::string_view kRefusedCharacters = kForbiddenCharacters.substr(0, 8);
 static_assert(kForbiddenCharacters.size() == 9 && kRefusedCharacters.ends_with('>'));
 
-bool Refuse(MessageBoxes& messages, std::string_view title, std::string text) {
-  messages.Show({std::string(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk});
-  return false;
+Message Refusal(std::string_view title, std::string text) {
+  return {std::string(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
+}
+
+std::optional<Message> ExistenceComplaint(const ProgramFolder& folder, std::string_view name) {
+  if (name == kScratchRangeName || !RangeExists(folder, name)) return std::nullopt;
+  return Refusal(kErrorTitle,
+                 Joined({"A range with the name \"", name, "\" already exists.\r\n\r\nPlease choose another name."}));
 }
 
 }  // namespace
 
+std::optional<Message> NameComplaint(std::string_view thing, std::string_view name) {
+  if (name.empty()) return Refusal(kErrorTitle, Joined({"You must choose a name for this ", thing, "."}));
+  if (name.find_first_of(kRefusedCharacters) == std::string_view::npos) return std::nullopt;
+  return Refusal(kApplicationTitle, Joined({"The following characters are not allowed in the ", thing,
+                                            " name: \r\n\r\n", kForbiddenCharacters}));
+}
+
+std::optional<Message> LengthComplaint(std::string_view thing, const ProgramFolder& folder,
+                                       const std::filesystem::path& file) {
+  if (!IsPathTooLong(file, *folder.Calls)) return std::nullopt;
+  return Refusal(kErrorTitle, Joined({"Your ", thing, " name is too long. Please choose a shorter one."}));
+}
+
 bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages, bool mayReplace) {
-  if (name.empty()) return Refuse(messages, kErrorTitle, "You must choose a name for this range.");
-  if (name.find_first_of(kRefusedCharacters) != std::string_view::npos) {
-    return Refuse(
-        messages, kApplicationTitle,
-        "The following characters are not allowed in the range name: \r\n\r\n" + std::string(kForbiddenCharacters));
-  }
-  if (!mayReplace && name != kScratchRangeName && RangeExists(folder, name)) {
-    return Refuse(
-        messages, kErrorTitle,
-        "A range with the name \"" + std::string(name) + "\" already exists.\r\n\r\nPlease choose another name.");
-  }
-  if (IsPathTooLong(RangeFilePath(folder, name), *folder.Calls)) {
-    return Refuse(messages, kErrorTitle, "Your range name is too long. Please choose a shorter one.");
-  }
-  return true;
+  constexpr std::string_view kRange = "range";
+  std::optional<Message> complaint = NameComplaint(kRange, name);
+  if (!complaint && !mayReplace) complaint = ExistenceComplaint(folder, name);
+  if (!complaint) complaint = LengthComplaint(kRange, folder, RangeFilePath(folder, name));
+  if (complaint) messages.Show(*complaint);
+  return !complaint;
 }
 
 }  // namespace quillon

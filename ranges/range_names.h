@@ -1,8 +1,10 @@
 #pragma once
 
 // The names of ranges. A range's name is the name of its file less the extension, so a new name must be one that a file
-// can have and that no other range has yet.
+// can have and that no other range has yet. Whatever else the user saves under a name keeps to the same rules.
 
+#include <filesystem>
+#include <optional>
 #include <string_view>
 
 #include "ranges/range_files.h"
@@ -21,5 +23,13 @@ inline constexpr std::string_view kScratchRangeName = "Temp Range1";
 /// existing range of that name is allowed.
 [[nodiscard]] bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages,
                                      bool mayReplace = false);
+
+/// What the user is told of a name that no file can have, and nothing of any other: it must not be empty, and must hold
+/// none of the eight characters. `thing` is what is saved under the name, such as "range".
+[[nodiscard]] std::optional<Message> NameComplaint(std::string_view thing, std::string_view name);
+
+/// The same of a name that makes its file's longer than the file system takes.
+[[nodiscard]] std::optional<Message> LengthComplaint(std::string_view thing, const ProgramFolder& folder,
+                                                     const std::filesystem::path& file);
 
 }  // namespace quillon

@@ -18,10 +18,13 @@
 #include <vector>
 
 #include "shell/settings_file.h"
+#include "shell/situations.h"
 #include "support/files.h"
 #include "support/run_time_error.h"
 #include "testing/file_calls.h"
 #include "testing/range_texts.h"
+#include "testing/recorded_input.h"
+#include "testing/recorded_messages.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
@@ -56,6 +59,16 @@ std::string Edited() {
   return TextWith("AA QQ", "KK");
 }
 
+// What Ctrl+S writes, and Yes where there is one of that name.
+void SaveSituation(const std::string& name, const ProgramFolder& folder) {
+  RecordedInput inputs;
+  RecordedMessages messages;
+  inputs.Answers = {name};
+  messages.Answers = {MessageAnswer::kYes};
+  const ScreenSituation situation = {AnalysisMode::kPreflopCall, {"150", "50", {}, std::string(900, 'x'), {}}};
+  EXPECT_EQ(AskAndSaveSituation(situation, {}, folder, inputs, messages), name);
+}
+
 struct Action {
   const char* Name;
   std::function<void(const ProgramFolder&)> Do;
@@ -77,6 +90,20 @@ const std::vector<Action>& Actions() {
        [](const ProgramFolder& folder) { RenameRange(folder, "Old", "New", Edited()); },
        {"Ranges/Old.txt", "Ranges/New.txt"}},
       {"Delete", [](const ProgramFolder& folder) { DeleteRange(folder, "Old"); }, {}},
+      {"SaveSituation", [](const ProgramFolder& folder) { SaveSituation("Old", folder); }, {"Situations/Old.json"}},
+      {"FirstSituation",
+       [](const ProgramFolder& folder) {
+         fs::remove_all(SituationFolderPath(folder));
+         SaveSituation("New", folder);
+       },
+       {}},
+      {"DeleteSituation",
+       [](const ProgramFolder& folder) {
+         RecordedMessages messages;
+         messages.Answers = {MessageAnswer::kYes};
+         EXPECT_TRUE(AskAndDeleteSituation("Old", folder, messages));
+       },
+       {}},
       {"Settings",
        [](const ProgramFolder& folder) { WriteIniValue("Values", "0", "735", folder); },
        {"settings.ini"},
@@ -128,6 +155,8 @@ class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
     program.Write("Temp Range1.txt", TextWith("22") + "\r\n");
     program.Write("zzz.txt", TextWith("72o") + "\r\n");
     std::ofstream(SettingsFilePath(program.Folder()), std::ios::binary) << "[Values]\r\n0=150\r\n1=50\r\n";
+    fs::create_directory(SituationFolderPath(program.Folder()));
+    std::ofstream(SituationFilePath(program.Folder(), "Old"), std::ios::binary) << "{\"mode\":\"equity\"}\n";
     std::ofstream(program.Folder().Path / "old.bmp", std::ios::binary) << "BM old picture, which is longer";
 
     Outcome outcome;
@@ -143,11 +172,9 @@ class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
 
 // The files before any of the actions.
 Files FilesBefore() {
-  return {{"Ranges/Old.txt", TextWith("AA", "KK") + "\r\n"},
-          {"Ranges/Temp Range1.txt", TextWith("22") + "\r\n"},
-          {"Ranges/zzz.txt", TextWith("72o") + "\r\n"},
-          {"old.bmp", "BM old picture, which is longer"},
-          {"settings.ini", "[Values]\r\n0=150\r\n1=50\r\n"}};
+  return {{"Ranges/Old.txt", TextWith("AA", "KK") + "\r\n"}, {"Ranges/Temp Range1.txt", TextWith("22") + "\r\n"},
+          {"Ranges/zzz.txt", TextWith("72o") + "\r\n"},      {"Situations/Old.json", "{\"mode\":\"equity\"}\n"},
+          {"old.bmp", "BM old picture, which is longer"},    {"settings.ini", "[Values]\r\n0=150\r\n1=50\r\n"}};
 }
 
 // Nothing where a file is missing.

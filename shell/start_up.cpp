@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "hand/hand_classes.h"
+#include "shell/situations.h"
 #include "shell/version.h"
 #include "support/files.h"
 #include "support/folders.h"
@@ -23,9 +24,10 @@ std::filesystem::path SavedGridsFolderPath(const ProgramFolder& folder) {
 void PrepareFolders(const ProgramFolder& folder) {
   MakeFolderIfMissing(RangeFolderPath(folder), *folder.Calls);
   MakeFolderIfMissing(SavedGridsFolderPath(folder), *folder.Calls);
-  // Among the ranges there are scratch files only where the program's own folder cannot hold them.
   RemoveStaleScratchFiles(folder.Path, *folder.Calls);
+  // Beside what was saved there are scratch files only where the program's own folder cannot hold them.
   RemoveStaleScratchFiles(RangeFolderPath(folder), *folder.Calls);
+  RemoveStaleScratchFiles(SituationFolderPath(folder), *folder.Calls);
 }
 
 std::string MainWindowTitle() {

@@ -10,6 +10,8 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_lists.h"
+#include "shell/situations.h"
+#include "shell/situations.h"
 #include "shell/version.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
@@ -73,8 +75,14 @@ TEST(PrepareFolders, ClearsAwayWhatAKilledProgramLeftOfASave) {
   std::filesystem::last_write_time(left, longAgo);
   std::filesystem::last_write_time(program.RangeFile(".quillon-1-1.tmp"), longAgo);
 
+  const std::filesystem::path amongSituations = SituationFolderPath(program.Folder()) / ".quillon-1-2.tmp";
+  std::filesystem::create_directory(SituationFolderPath(program.Folder()));
+  std::ofstream(amongSituations) << "half";
+  std::filesystem::last_write_time(amongSituations, longAgo);
+
   PrepareFolders(program.Folder());
   EXPECT_FALSE(std::filesystem::exists(left));
+  EXPECT_FALSE(std::filesystem::exists(amongSituations));
   EXPECT_FALSE(std::filesystem::exists(program.RangeFile(".quillon-1-1.tmp")));
   EXPECT_TRUE(std::filesystem::exists(program.RangeFile("Tight.txt")));
 }

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "support/run_time_error.h"
 #include "support/uninterrupted.h"
@@ -15,6 +16,24 @@ namespace {
 // To a caller who makes a folder, "File not found" would speak of the wrong thing: what is missing is on the way to it.
 RunTimeFault FaultOfMaking(int systemError) {
   return systemError == ENOENT ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError);
+}
+
+[[noreturn]] void FailToList(const std::filesystem::path& folder, const std::error_code& error) {
+  const bool missing = error == std::errc::no_such_file_or_directory;
+  throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.value()),
+                     TextOfFileName(folder.string()) + ": " + error.message());
+}
+
+// Joined as text: the path operator would let a name that starts with a separator replace the folder.
+std::filesystem::path PathOfBytes(const std::filesystem::path& folder, std::string_view name) {
+  return folder.string().append("/").append(name);
+}
+
+// A link to nowhere is a file too: it is listed, and it can be deleted.
+bool IsThere(const std::filesystem::path& file) {
+  std::error_code error;
+  static_cast<void>(std::filesystem::symlink_status(file, error));
+  return !error;
 }
 
 }  // namespace
@@ -44,6 +63,29 @@ void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
 
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
   if (!FolderExists(path, calls)) MakeFolder(path, calls);
+}
+
+std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  std::filesystem::directory_iterator file(folder, error);
+  for (const std::filesystem::directory_iterator end; !error && file != end; file.increment(error)) {
+    // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing file.
+    std::error_code unknown;
+    if (file->is_directory(unknown)) continue;
+    std::string name = TextOfFileName(file->path().filename().string());
+    if (!IsScratchName(name)) names.push_back(std::move(name));
+  }
+  if (error) FailToList(folder, error);
+  return names;
+}
+
+std::filesystem::path FileOfName(const std::filesystem::path& folder, std::string_view name) {
+  std::filesystem::path usual = PathOfBytes(folder, name);
+  const std::string bytes = Windows1252FromUtf8(name);
+  if (bytes == name || TextOfFileName(bytes) != name || IsThere(usual)) return usual;
+  std::filesystem::path old = PathOfBytes(folder, bytes);
+  return IsThere(old) ? old : usual;
 }
 
 }  // namespace quillon

@@ -4,6 +4,9 @@
 // gone since.
 
 #include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "support/files.h"
 
@@ -25,5 +28,14 @@ void MakeFolder(const std::filesystem::path& path, FileCalls& calls = SystemFile
 /// Makes a folder if it is not there. Fails as MakeFolder does, so a folder that is there but may not be listed is a
 /// failure too.
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
+
+/// The names of all files in a folder as text (TextOfFileName), in no order; not those of folders in it nor of the
+/// program's own scratch files. RunTimeError, with the folder and the reason, if it cannot be read: "Path not found"
+/// where it is missing.
+[[nodiscard]] std::vector<std::string> FileNamesIn(const std::filesystem::path& folder);
+
+/// The file of a name, in UTF-8 as names on disk are: the folder, a separator, and the name as it is. Where no such
+/// file is there but one whose name is not UTF-8 and is shown as this one (TextOfFileName), it is that file.
+[[nodiscard]] std::filesystem::path FileOfName(const std::filesystem::path& folder, std::string_view name);
 
 }  // namespace quillon

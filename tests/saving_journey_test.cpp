@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
@@ -13,9 +14,11 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <variant>
 
 #include "ranges/range_lists.h"
 #include "shell/settings_file.h"
+#include "shell/situations.h"
 #include "support/files.h"
 #include "testing/temporary_program.h"
 #include "tests/program_run.h"
@@ -49,6 +52,17 @@ void ExpectWholeRanges(const ProgramFolder& folder, Loops loops) {
     if (text.empty() && loops == Loops::kRunning) continue;  // renamed since the folder was listed
     ASSERT_FALSE(text.empty()) << name;
     EXPECT_EQ(text, EvenRangeText(RangeWeightOf(text, "AA"))) << name;
+  }
+}
+
+void ExpectWholeSituations(const ProgramFolder& folder) {
+  for (const std::string& name : SituationNames(folder)) {
+    EXPECT_TRUE(name == "A" || name == "B" || name == kSharedRange) << name << " is none of the situations";
+    const std::string text = ReadAllBytes(SituationFilePath(folder, name));
+    const auto read = SituationOfText(text);
+    ASSERT_TRUE(std::holds_alternative<ReadSituation>(read)) << text;
+    const int round = std::atoi(std::get<ReadSituation>(read).Situation.Entered.Pot.c_str());
+    EXPECT_EQ(text, TextOfSituation(LongSituation(round)).Line) << name;
   }
 }
 
@@ -114,9 +128,11 @@ TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
     }
     SCOPED_TRACE("kill " + std::to_string(kill));
     ExpectWholeRanges(program.Folder(), Loops::kEnded);
+    ExpectWholeSituations(program.Folder());
     ExpectWholeSettings(program.Folder());
     EXPECT_TRUE(RangeExists(program.Folder(), "A") || RangeExists(program.Folder(), "A moved"));
     EXPECT_EQ(ScratchFilesIn(RangeFolderPath(program.Folder())), 0U);
+    EXPECT_EQ(ScratchFilesIn(SituationFolderPath(program.Folder())), 0U);
   }
 
   const std::size_t left = ScratchFilesIn(program.Folder().Path);
@@ -125,6 +141,7 @@ TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
   RemoveStaleScratchFiles(program.Folder().Path);
   EXPECT_EQ(ScratchFilesIn(program.Folder().Path), 0U) << "the next start clears them away";
   EXPECT_TRUE(fs::exists(SettingsFilePath(program.Folder())));
+  EXPECT_THAT(SituationNames(program.Folder()), testing::ElementsAre("A", kSharedRange));
 }
 
 TEST(Saving, TwoProgramsAtOnceLoseNothing) {
@@ -135,6 +152,7 @@ TEST(Saving, TwoProgramsAtOnceLoseNothing) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(120);
   while ((!first.Status() || !second.Status()) && std::chrono::steady_clock::now() < end) {
     ExpectWholeRanges(program.Folder(), Loops::kRunning);
+    ExpectWholeSituations(program.Folder());
     ExpectWholeSettings(program.Folder());
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
@@ -144,6 +162,8 @@ TEST(Saving, TwoProgramsAtOnceLoseNothing) {
   for (const std::string name : {"A", "B"}) {
     EXPECT_EQ(LoadRangeText(program.Folder(), name), EvenRangeText(kRounds - 1 + 0.75));
     EXPECT_FALSE(RangeExists(program.Folder(), name + std::string(kMovedEnd)));
+    EXPECT_EQ(ReadAllBytes(SituationFilePath(program.Folder(), name)),
+              TextOfSituation(LongSituation(kRounds - 1)).Line);
     for (int index = 0; index < kKeysOfALoop; ++index) {
       EXPECT_EQ(ReadIniValue("Values", LoopKey(name, index), program.Folder()),
                 LongSetting(kRounds - kKeysOfALoop + index))

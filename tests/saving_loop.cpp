@@ -1,5 +1,5 @@
-// Saves and renames ranges and stores settings, round upon round, in the manner of the program and with its own
-// routines:
+// Saves and renames ranges, saves situations and stores settings, round upon round, in the manner of the program and
+// with its own routines:
 //
 //   saving_loop FOLDER NAME ROUNDS
 //
@@ -15,7 +15,10 @@
 
 #include "ranges/range_files.h"
 #include "shell/settings_file.h"
+#include "shell/situations.h"
 #include "support/files.h"
+#include "testing/recorded_input.h"
+#include "testing/recorded_messages.h"
 
 namespace quillon {
 namespace {
@@ -28,12 +31,24 @@ void RequireEarlierSetting(const ProgramFolder& folder, const std::string& name,
   throw std::runtime_error("lost: the setting " + key + " of round " + std::to_string(round - 1));
 }
 
+// What Ctrl+S does, and Yes where there is one of that name.
+void SaveSituation(const ProgramFolder& folder, const std::string& name, int round) {
+  RecordedInput inputs;
+  RecordedMessages messages;
+  inputs.Answers = {name};
+  messages.Answers = {MessageAnswer::kYes};
+  if (AskAndSaveSituation(LongSituation(round), {}, folder, inputs, messages) == name) return;
+  throw std::runtime_error("not saved: the situation " + name);
+}
+
 void RunRound(const ProgramFolder& folder, const std::string& name, int round) {
   RequireEarlierSetting(folder, name, round);
   const std::string moved = name + std::string(kMovedEnd);
   SaveRangeText(folder, name, EvenRangeText(round));
   RenameRange(folder, name, moved, EvenRangeText(round + 0.25));
   SaveRangeText(folder, kSharedRange, EvenRangeText(round + 0.5));
+  SaveSituation(folder, name, round);
+  SaveSituation(folder, std::string(kSharedRange), round);
   WriteIniValue("Values", LoopKey(name, round % kKeysOfALoop), LongSetting(round), folder);
   RenameRange(folder, moved, name, EvenRangeText(round + 0.75));
 }

@@ -9,6 +9,7 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_text.h"
+#include "study/situation_file.h"
 #include "support/number_text.h"
 
 namespace quillon {
@@ -16,8 +17,8 @@ namespace quillon {
 /// The settings that each of several loops keeps for itself.
 inline constexpr int kKeysOfALoop = 5;
 
-/// The range that all loops save, beside one of their own under the loop's name, which is renamed back and forth
-/// between that and the name with this ending.
+/// The range, and the situation, that all loops save, beside one of their own under the loop's name, which is renamed
+/// back and forth between that and the name with this ending.
 inline constexpr std::string_view kSharedRange = "Shared";
 inline constexpr std::string_view kMovedEnd = " moved";
 
@@ -34,6 +35,12 @@ inline std::string LongSetting(int round) {
   for (int repeat = 0; repeat < 100; ++repeat)
     text += ":" + std::to_string(round);
   return text;
+}
+
+/// A situation whose texts are such settings.
+inline ScreenSituation LongSituation(int round) {
+  const std::string text = LongSetting(round);
+  return {AnalysisMode::kPreflopRaise, {text, text, text, text, text}};
 }
 
 /// The settings' key of a loop.
