@@ -25,15 +25,6 @@ std::string RangeIn(std::int16_t list, const AnalysisWindow& window) {
   return list == kNoControl ? std::string() : window.SelectedRange(list);
 }
 
-EnteredSituation EnteredOn(const InputScreen& screen, const AnalysisWindow& window) {
-  return {.Pot = BoxTextIn(screen.AmountBoxes[0], window),
-          .Call = BoxTextIn(screen.AmountBoxes[1], window),
-          .Shove = BoxTextIn(screen.AmountBoxes[2], window),
-          .Range = RangeIn(screen.RangeLists[0], window),
-          .CallingRange = RangeIn(screen.RangeLists[1], window),
-          .Marks = window.Marks()};
-}
-
 void ShowComplaint(const Complaint& complaint, AnalysisWindow& window) {
   window.Messages().Show({std::string(complaint.Title), std::string(complaint.Text), MessageIcon::kExclamation});
 }
@@ -94,6 +85,15 @@ void Finish(AnalysisState& state, const Analysis& analysis, AnalysisWindow& wind
 }
 
 }  // namespace
+
+EnteredSituation EnteredOn(const InputScreen& screen, const AnalysisWindow& window) {
+  return {.Pot = BoxTextIn(screen.AmountBoxes[0], window),
+          .Call = BoxTextIn(screen.AmountBoxes[1], window),
+          .Shove = BoxTextIn(screen.AmountBoxes[2], window),
+          .Range = RangeIn(screen.RangeLists[0], window),
+          .CallingRange = RangeIn(screen.RangeLists[1], window),
+          .Marks = window.Marks()};
+}
 
 void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder) {
   const InputScreen& screen = ScreenOfButton(buttonIndex);

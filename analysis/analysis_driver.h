@@ -15,6 +15,8 @@
 
 #include "analysis/analysis_state.h"
 #include "analysis/analysis_window.h"
+#include "analysis/entered_situation.h"
+#include "analysis/input_screens.h"
 #include "ranges/range_files.h"
 
 namespace quillon {
@@ -27,6 +29,9 @@ inline constexpr std::string_view kNoResultsCaption = "There are no results to d
 
 /// The width of the full progress bar, in twips.
 inline constexpr double kProgressBarWidth = 7815;
+
+/// What is entered on an input screen at this moment; nothing where it has no such box or list.
+[[nodiscard]] EnteredSituation EnteredOn(const InputScreen& screen, const AnalysisWindow& window);
 
 /// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check has a
 /// complaint, the click ends with it. Intentional: the label goes on saying "Please wait..." although nothing runs, and

@@ -11,7 +11,6 @@
 #include "hand/hand_classes.h"
 #include "ranges/range_lists.h"
 #include "shell/situations.h"
-#include "shell/situations.h"
 #include "shell/version.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"

@@ -257,9 +257,9 @@ void WindowSession::MoveTo(QPoint point) const {
   Use(To(point));
 }
 
-void WindowSession::ClickAt(QPoint point) const {
+void WindowSession::Click(QPoint point, const std::string& button) const {
   std::vector<std::string> actions = To(point);
-  actions.insert(actions.end(), {"click", "1"});
+  actions.insert(actions.end(), {"click", button});
   Use(actions);
 }
 

@@ -103,7 +103,8 @@ class WindowSession {
 
   /// The mouse goes there, and stays.
   void MoveTo(QPoint point) const;
-  void ClickAt(QPoint point) const;
+  void ClickAt(QPoint point) const { Click(point, "1"); }
+  void RightClickAt(QPoint point) const { Click(point, "3"); }
   /// Keys by their names in the window system, pressed one after the other: "ctrl+a", "Return".
   void Press(const std::vector<std::string>& keys) const;
   /// Holds a key down until it is released.
@@ -130,6 +131,7 @@ class WindowSession {
   [[nodiscard]] ProgramRun Prepare(const std::string& program, const std::vector<std::string>& arguments) const;
   [[nodiscard]] std::string Ask(const std::string& program, const std::vector<std::string>& arguments) const;
   void Use(const std::vector<std::string>& actions) const;
+  void Click(QPoint point, const std::string& button) const;
   [[nodiscard]] std::vector<std::string> FindIds() const;
   [[nodiscard]] std::string TitleOf(const std::string& id) const;
   [[nodiscard]] QRect PlaceOf(const std::string& id) const;

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QIcon>
 #include <QPushButton>
 #include <algorithm>
@@ -27,10 +28,15 @@
 #include "toolkit/browser.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/placement.h"
+#include "toolkit/popup_menu.h"
 #include "toolkit/text.h"
 
 namespace quillon {
 namespace {
+
+constexpr QKeyCombination kSaveSituationKey = Qt::CTRL | Qt::Key_S;
+constexpr QKeyCombination kOpenSituationKey = Qt::CTRL | Qt::Key_O;
+constexpr QKeyCombination kStudyKey = Qt::CTRL | Qt::Key_T;
 
 // The design's own size is there from the start: the screens are fitted to the window as they come up.
 MainControls BuildMainControls(QWidget& form) {
@@ -113,6 +119,15 @@ MainForm::MainForm(Surroundings surroundings)
                  .Finished = [this](const Analysis& analysis) { study_.Finish(analysis); },
                  .Boxes = around_.Messages,
                  .Marks = around_.Marks}),
+      situations_({.Form = *this,
+                   .Inputs = analysis_,
+                   .Amounts = boxes_,
+                   .Choosers = dialogs_.Choosers(),
+                   .Screens = navigation_,
+                   .ClickNav = [this](std::int16_t link) { ClickNav(link); },
+                   .Messages = around_.Messages,
+                   .Names = around_.Inputs,
+                   .Folder = around_.Folder}),
       zoom_(*this, around_.Folder),
       stop_(BindKey(*this, Qt::Key_Escape, [this] { analysis_.Stop(state_); })) {
   // It covers the cells until a run brings them up one by one.
@@ -154,6 +169,19 @@ void MainForm::closeEvent(QCloseEvent* event) {
   std::ranges::move(study_.PlaceSettings(), std::back_inserter(settings));
   WriteIniValues(settings, around_.Folder);
   around_.EndProcess();
+}
+
+void MainForm::contextMenuEvent(QContextMenuEvent* event) {
+  PopUpMenu(*this, event->globalPos(),
+            {{.Text = QStringLiteral("Save situation..."),
+              .Action = [this] { situations_.Save(); },
+              .Key = kSaveSituationKey,
+              .Enabled = situations_.CanSave()},
+             {.Text = QStringLiteral("Open situation..."),
+              .Action = [this] { situations_.Open(state_); },
+              .Key = kOpenSituationKey},
+             {},
+             {.Text = ToQt(kStudyTitle), .Action = [this] { study_.Show(); }, .Key = kStudyKey}});
 }
 
 void MainForm::ShowAboutContent() {
@@ -284,9 +312,11 @@ void MainForm::BindKeys() {
   }
   stop_.setEnabled(false);
 
+  BindKey(*this, kSaveSituationKey, [this] { situations_.Save(); });
+  BindKey(*this, kOpenSituationKey, [this] { situations_.Open(state_); });
   BindKey(*this, Qt::CTRL | Qt::Key_W, [this] { close(); });
   BindKey(
-      *this, Qt::CTRL | Qt::Key_T, [this] { study_.Show(); }, Qt::ApplicationShortcut);
+      *this, kStudyKey, [this] { study_.Show(); }, Qt::ApplicationShortcut);
   BindKey(
       *this, Qt::CTRL | Qt::Key_Q, [this] { close(); }, Qt::ApplicationShortcut);
   BindKey(

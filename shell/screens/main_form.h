@@ -21,6 +21,7 @@
 #include "shell/screens/report_view.h"
 #include "shell/screens/results_menu.h"
 #include "shell/screens/results_view.h"
+#include "shell/screens/situation_view.h"
 #include "shell/screens/study_view.h"
 #include "shell/screens/zoom_view.h"
 #include "shell/web_client.h"
@@ -67,6 +68,9 @@ class MainForm : public QWidget {
   /// asked, and an analysis just stops.
   void closeEvent(QCloseEvent* event) override;
 
+  /// A right click where nothing else answers it, or the menu key: what the keys of situations and of the study do.
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
  private:
   [[nodiscard]] DialogSurroundings AroundDialogs() const;
   void ShowAboutContent();
@@ -99,6 +103,7 @@ class MainForm : public QWidget {
   StudyView study_;
   ResultsMenu menu_;
   AnalysisView analysis_;
+  SituationView situations_;
   ZoomView zoom_;
   QShortcut& stop_;  // "< Back" from whatever screen, during a run
   FocusMark focusMark_{*this};

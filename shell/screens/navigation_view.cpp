@@ -62,6 +62,14 @@ TwipRect NavigationView::PanelPlace() const {
   return PlaceOf(controls_.PictureAt("imgBack"));
 }
 
+std::string NavigationView::ShownScreen() const {
+  for (std::int16_t index = 0; index < controls_.CountOf(kScreenName); ++index) {
+    const Frame& screen = controls_.FrameAt(kScreenName, index);
+    if (!screen.isHidden()) return FromQt(screen.Caption());
+  }
+  return {};
+}
+
 Frame& NavigationView::ShowFrame(std::string_view name) {
   Frame& shown = ScreenOfName(controls_, name);
   for (std::int16_t index = 0; index < controls_.CountOf(kScreenName); ++index) {

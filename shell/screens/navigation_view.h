@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "shell/navigation.h"
@@ -17,6 +18,9 @@ class NavigationView {
 
   /// Where the panel's background lies.
   [[nodiscard]] TwipRect PanelPlace() const;
+
+  /// The name of the screen that shows.
+  [[nodiscard]] std::string ShownScreen() const;
 
   /// Shows the screen of that name, exactly that, white and in front of all others, which are hidden, and returns it. A
   /// waiting pointer ends. In answer to a key ("toolkit/application.h"), the first control of the screen that is not

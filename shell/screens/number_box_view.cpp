@@ -26,16 +26,19 @@ std::vector<std::string> NumberBoxView::Texts() const {
   return texts;
 }
 
+void NumberBoxView::Set(std::int16_t index, std::string_view text) {
+  {
+    const QSignalBlocker quiet(Box(index));
+    Box(index).setText(ToQt(text));
+  }
+  hideResults_();
+  if (index == kRaiseShoveBox) ShowOdds(OddsOfRestoredBoxes);
+}
+
 void NumberBoxView::Restore(std::span<const std::string> texts) {
   for (std::int16_t i = 0; i < static_cast<std::int16_t>(texts.size()); ++i) {
     const std::string& text = texts[static_cast<std::size_t>(i)];
-    if (text.empty()) continue;
-    {
-      const QSignalBlocker quiet(Box(i));
-      Box(i).setText(ToQt(text));
-    }
-    hideResults_();
-    if (i == kRaiseShoveBox) ShowOdds(OddsOfRestoredBoxes);
+    if (!text.empty()) Set(i, text);
   }
 }
 

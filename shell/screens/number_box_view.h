@@ -7,6 +7,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "shell/number_boxes.h"
@@ -24,6 +25,9 @@ class NumberBoxView {
   /// The text of a box.
   [[nodiscard]] std::string Text(std::int16_t index) const;
   [[nodiscard]] std::vector<std::string> Texts() const;
+
+  /// Sets the text of a box, one that was kept. Earlier results go, and the odds follow as they do at a start.
+  void Set(std::int16_t index, std::string_view text);
 
   /// Sets texts that the last run left; an empty one leaves its box as it is.
   void Restore(std::span<const std::string> texts);

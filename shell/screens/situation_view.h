@@ -1,0 +1,59 @@
+#pragma once
+
+// Ctrl+S and Ctrl+O of the main window: what an input screen holds is saved under a name, and brought back
+// ("shell/situations.h").
+
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "analysis/analysis_state.h"
+#include "analysis/analysis_window.h"
+#include "analysis/input_screens.h"
+#include "ranges/dialogs/range_choosers.h"
+#include "shell/screens/navigation_view.h"
+#include "shell/screens/number_box_view.h"
+#include "shell/situations.h"
+#include "support/input_boxes.h"
+
+namespace quillon {
+
+class SituationView {
+ public:
+  /// What is written to and shown. All of it outlives the view.
+  struct Parts {
+    QWidget& Form;
+    const AnalysisWindow& Inputs;
+    NumberBoxView& Amounts;
+    const RangeChoosers& Choosers;
+    const NavigationView& Screens;
+    std::function<void(std::int16_t link)> ClickNav;
+    MessageBoxes& Messages;
+    InputBoxes& Names;
+    ProgramFolder Folder;
+  };
+
+  explicit SituationView(Parts parts) : parts_(std::move(parts)) {}
+
+  /// Whether an input screen shows.
+  [[nodiscard]] bool CanSave() const { return ShownInputs() != nullptr; }
+
+  /// Saves what is entered on the screen that shows, a sum that is being typed as it is. On a screen that is no input
+  /// screen the user is told where to save.
+  void Save();
+
+  /// Lets the user choose a situation, brings up its screen and fills it in, with blank boxes and lists for what it
+  /// lacks. During a run, which reads the boxes, he is told to wait.
+  void Open(const AnalysisState& state);
+
+ private:
+  [[nodiscard]] const InputScreen* ShownInputs() const;
+  void Show(const ScreenSituation& situation);
+
+  Parts parts_;
+  std::string lastName_;  // saved or opened
+};
+
+}  // namespace quillon
