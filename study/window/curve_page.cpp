@@ -109,7 +109,7 @@ TextBox& CurvePage::AddBox(QHBoxLayout& row, const char* caption, const char* sp
   row.addWidget(label);
   row.addWidget(box, stretch);
   for (const auto left : {&TextBox::EnterPressed, &TextBox::FocusLost})
-    connect(box, left, this, [this, box] { Typed(*box); });
+    connect(box, left, this, [this, box] { Leave(*box); });
   return *box;
 }
 
@@ -121,10 +121,13 @@ void CurvePage::AddButton(const char* text, QKeyCombination key, void (CurvePage
   actions_.addWidget(button);
 }
 
+QStringList CurvePage::Typed() const {
+  return {hands_->text(), from_->text(), to_->text(), step_->text()};
+}
+
 // Whoever only passes through a box has typed nothing.
-void CurvePage::Typed(TextBox& box) {
-  if (!situation_ || !box.isModified()) return;
-  box.setModified(false);
+void CurvePage::Leave(const TextBox& box) {
+  if (!situation_ || Typed() == read_) return;
   if (&box != hands_) hasOwnSteps_ = true;
   answers_ = true;
   Read();
@@ -132,7 +135,9 @@ void CurvePage::Typed(TextBox& box) {
 
 void CurvePage::Read() {
   isStale_ = false;
+  read_ = Typed();
   const auto refuse = [this](const std::string& what, const std::string& reason) {
+    answers_ = false;
     Tell(what + ": " + reason);
     Announce(*this, words_.text());
   };
@@ -145,6 +150,7 @@ void CurvePage::Read() {
     from_->setText(ToQt(texts.From));
     to_->setText(ToQt(texts.To));
     step_->setText(ToQt(texts.Step));
+    read_ = Typed();
   }
   const auto steps = ReadSteps({FromQt(from_->text()), FromQt(to_->text()), FromQt(step_->text())});
   if (const auto* const reason = std::get_if<std::string>(&steps)) return refuse("From, to and steps", *reason);

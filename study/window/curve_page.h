@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
+#include <QStringList>
 #include <QVBoxLayout>
 #include <optional>
 #include <string>
@@ -77,7 +78,8 @@ class CurvePage : public StudyPage {
  private:
   TextBox& AddBox(QHBoxLayout& row, const char* caption, const char* spoken, int stretch);
   void AddButton(const char* text, QKeyCombination key, void (CurvePage::*action)());
-  void Typed(TextBox& box);
+  [[nodiscard]] QStringList Typed() const;
+  void Leave(const TextBox& box);
   void Read();
   void CopyPicture();
   void SavePicture();
@@ -95,6 +97,7 @@ class CurvePage : public StudyPage {
   TextBox* step_ = nullptr;
   std::optional<StudySituation> situation_;
   HandOrder bestFirst_{};
+  QStringList read_;  // the texts of the boxes when they were read last
   bool hasOwnSteps_ = false;  // the player's
   bool isStale_ = false;  // other hands have been taken than those that are drawn
   bool answers_ = false;  // the player, who is told of what comes of it

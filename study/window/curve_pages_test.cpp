@@ -175,6 +175,15 @@ TEST_F(HowFarPageTest, LeavesTheFigureAloneWhereNothingWasTyped) {
   EXPECT_TRUE(heard.Texts().empty());
 }
 
+// As a screen reader writes it.
+TEST_F(HowFarPageTest, ReadsWhatIsWrittenIntoABox) {
+  Open(Call());
+  Box(0).setFocus();
+  QAccessible::queryAccessibleInterface(&Box(0))->setText(QAccessible::Value, QStringLiteral("AA"));
+  QTest::keyClick(&Box(0), Qt::Key_Tab);
+  EXPECT_EQ(Said().substr(Said().size() - 10), "AA, always");
+}
+
 TEST_F(HowFarPageTest, KeepsTheHandsOfAnotherSituationAndForgetsTheSteps) {
   Open(Call());
   Type(0, "88 A7o");
