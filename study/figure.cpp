@@ -313,7 +313,7 @@ void FigureLayout::AddMarks(std::vector<FigurePart>& parts) const {
     const double width = kBold * WidthOf(label);
     const bool fitsRight = x + kGap + width < right_;
     const double start = fitsRight ? x + kGap : x - kGap - width;
-    const double y = IsCrossed({start, top_}, {start + width, top_ + kNameHeight}) ? bottom_ - 7 : top_ + 16;
+    const double y = IsCrossed({start, top_}, {start + width, top_ + kNameHeight + 4}) ? bottom_ - 7 : top_ + 16;
     parts.emplace_back(FigureRule{{x, top_}, {x, bottom_}, kMarkPen, "mark"});
     parts.emplace_back(FigureText{.At = {fitsRight ? x + kGap : x - kGap, y},
                                   .Text = label,

@@ -186,7 +186,7 @@ TEST(FigureLayout, PutsAMarksTextWhereNoLineIs) {
     return text != nullptr && text->At.Y < layout.PlotStart().Y + 20;
   };
   EXPECT_TRUE(isAtTheTop());
-  figure.Lines[1].Values = {1, 1, 3.9, 3.9};
+  figure.Lines[1].Values = {1, 1, 3.5, 3.5};
   EXPECT_FALSE(isAtTheTop());
 }
 
