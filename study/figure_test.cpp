@@ -186,7 +186,7 @@ TEST(FigureLayout, PutsAMarksTextWhereNoLineIs) {
     return text != nullptr && text->At.Y < layout.PlotStart().Y + 20;
   };
   EXPECT_TRUE(isAtTheTop());
-  figure.Lines[1].Values = {1, 1, 3.5, 3.5};
+  figure.Lines[1].Values = {1, 1, 3.55, 3.55};  // just below the letters
   EXPECT_FALSE(isAtTheTop());
 }
 
