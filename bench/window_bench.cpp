@@ -1,5 +1,6 @@
 // What a player waits for in the window: from a click on Analyze to the painted grid, from a move of the mouse to the
-// painted hover panel, from a click on Details to the written report, and the making of the whole window. The window is
+// painted hover panel, from a click on Details to the written report, from asking for a page of the study window to the
+// page, and the making of the whole window. The window is
 // a real one on whatever platform Qt is told; bench/window.sh runs this on a virtual screen.
 
 #include <QCheckBox>
@@ -16,6 +17,7 @@
 
 #include "ranges/dialogs/range_dialogs.h"
 #include "shell/screens/main_form.h"
+#include "study/window/study_work.h"
 #include "testing/range_texts.h"
 #include "testing/temporary_program.h"
 #include "toolkit/application.h"
@@ -159,6 +161,38 @@ void ClickDetailsToReport(benchmark::State& timing) {
   }
 }
 BENCHMARK(ClickDetailsToReport)->Unit(benchmark::kMillisecond);
+
+// The study window is open at another page, and is turned to that one for a situation that it has not shown yet.
+void AskForPage(benchmark::State& timing, StudyTopic topic, StudyTopic other) {
+  Program& program = TheProgram();
+  const auto analyze = [&program] {
+    program.FillInRaise();
+    program.Controls().PictureAt("cmdPreflopEV", 1).Click();
+  };
+  analyze();
+  while (timing.KeepRunning()) {
+    timing.PauseTiming();
+    program.Window->ShowStudy(other);
+    QCoreApplication::processEvents();
+    auto* const page = program.Window->Study().Loaded()->Page(topic);
+    const PaintWatch paints(*page);
+    timing.ResumeTiming();
+    program.Window->ShowStudy(topic);
+    paints.WaitForNext();
+    while (page->findChild<StudyWork*>() != nullptr && page->findChild<StudyWork*>()->HasWork())
+      QCoreApplication::processEvents();
+  }
+}
+
+void ShowStudyToPaintedLimits(benchmark::State& timing) {
+  AskForPage(timing, StudyTopic::kLimits, StudyTopic::kBalanced);
+}
+BENCHMARK(ShowStudyToPaintedLimits)->Unit(benchmark::kMillisecond);
+
+void ShowStudyToBalancedRanges(benchmark::State& timing) {
+  AskForPage(timing, StudyTopic::kBalanced, StudyTopic::kLimits);
+}
+BENCHMARK(ShowStudyToBalancedRanges)->Unit(benchmark::kMillisecond);
 
 void MakeTheWindow(benchmark::State& timing) {
   while (timing.KeepRunning()) {

@@ -18,9 +18,9 @@ namespace {
 constexpr Rgb kNotHeldColor = {0xF7, 0xF8, 0xF9};
 constexpr Rgb kAtTimesColor = {0xFF, 0xB0, 0x60};
 
-constexpr const char* kAlways = "always";
-constexpr const char* kNever = "never";
-constexpr const char* kNotHeld = "not held";
+std::string OftenWords(BalanceSide side, const std::string& before, const std::string& after = {}) {
+  return (side == BalanceSide::kShove ? "you " + before + "shove" : "he " + before + "calls") + after;
+}
 
 // Why an amount does not do, or nothing.
 std::string WhyNot(std::string_view what, const std::string& text, bool mayBeZero) {
@@ -40,14 +40,19 @@ std::string ShortPercent(double share) {
   return NumberText(std::clamp(RoundTo(percent, 0), 1.0, 99.0)) + "%";
 }
 
-ClassCell PlayedCell(double played, double held) {
-  if (held == 0) return {.Color = kNotHeldColor, .Words = kNotHeld, .Pale = true};
-  if (played == 0) return {.Color = kNeverPlayedColor, .Words = kNever};
-  if (played == 1) return {.Color = kFullColor, .Words = kAlways};
+ClassCell PlayedCell(BalanceSide side, double played, double held) {
+  if (held == 0) {
+    return {.Color = kNotHeldColor,
+            .Words = side == BalanceSide::kShove ? "you do not hold it" : "he does not hold it",
+            .Pale = true};
+  }
+  if (played == 0) return {.Color = kNeverPlayedColor, .Words = OftenWords(side, "never ")};
+  if (played == 1) return {.Color = kFullColor, .Words = OftenWords(side, "always ")};
   constexpr int kDecimals = 10;  // of a share with twelve
+  const std::string percent = NumberText(RoundTo(played * 100, kDecimals)) + "%";
   return {.Color = kAtTimesColor,
           .Text = ShortPercent(played),
-          .Words = NumberText(RoundTo(played * 100, kDecimals)) + "%"};
+          .Words = OftenWords(side, {}, " " + percent + " of the time")};
 }
 
 }  // namespace
@@ -75,15 +80,16 @@ double PercentOfHands(const ClassWeights& weights) {
   return PercentOf(combos, kConcreteHandCount, 2);
 }
 
-ClassCells PlayedCells(const ClassWeights& played, const ClassWeights& held) {
+ClassCells PlayedCells(BalanceSide side, const ClassWeights& played, const ClassWeights& held) {
   ClassCells cells;
-  std::ranges::transform(played, held, cells.begin(), PlayedCell);
+  std::ranges::transform(played, held, cells.begin(),
+                         [side](double often, double most) { return PlayedCell(side, often, most); });
   return cells;
 }
 
 std::vector<PageLegend> PlayedLegend(const ClassCells& one, const ClassCells& other) {
   std::vector<PageLegend> legend = {
-      {kFullColor, kAlways}, {kAtTimesColor, "at times"}, {kNeverPlayedColor, kNever}, {kNotHeldColor, kNotHeld}};
+      {kFullColor, "always"}, {kAtTimesColor, "at times"}, {kNeverPlayedColor, "never"}, {kNotHeldColor, "not held"}};
   std::erase_if(legend, [&](const PageLegend& line) {
     const auto has = [&line](const ClassCell& cell) { return cell.Color == line.Color; };
     return std::ranges::none_of(one, has) && std::ranges::none_of(other, has);

@@ -3,6 +3,7 @@
 // Balanced ranges as people read them: what is asked, from texts; a grid of how often each class is played; and what
 // the game is worth.
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -33,11 +34,14 @@ struct BalanceTexts {
 /// How much of all hands a range is, in percent with two decimals.
 [[nodiscard]] double PercentOfHands(const ClassWeights& weights);
 
+/// Whose range it is: yours, with which you shove, or his, with which he calls.
+enum class BalanceSide : std::uint8_t { kShove, kCall };
+
 /// How often the classes are played, by class index. What is always played is dark, what is never played is grey, and
 /// what is played at times is orange with its percentage, in at most four characters; what is not held is pale.
 ///
-///     "always"      "37.25%"      "never"      "not held"
-[[nodiscard]] ClassCells PlayedCells(const ClassWeights& played, const ClassWeights& held);
+///     "you always shove"      "he calls 37.25% of the time"      "you never shove"      "he does not hold it"
+[[nodiscard]] ClassCells PlayedCells(BalanceSide side, const ClassWeights& played, const ClassWeights& held);
 
 /// What the colours of both grids say, one line for each kind that occurs in one of them.
 [[nodiscard]] std::vector<PageLegend> PlayedLegend(const ClassCells& one, const ClassCells& other);

@@ -62,40 +62,42 @@ TEST(PlayedCells, TellHowOftenAClassIsPlayed) {
     double played;
     double held;
     const char* text;
-    const char* words;
+    const char* shove;
+    const char* call;
   };
   for (const Case& c : {
-           Case{1, 1, "", "always"},
-           Case{0, 1, "", "never"},
-           Case{0, 0, "", "not held"},
-           Case{0.3725, 1, "37%", "37.25%"},
-           Case{0.999999, 1, "99%", "99.9999%"},
-           Case{0.000001, 1, "<.1%", "0.0001%"},
-           Case{0.000000000001, 1, "<.1%", "0.0000000001%"},
-           Case{0.0061, 1, "0.6%", "0.61%"},
-           Case{0.00999, 1, "1%", "0.999%"},
-           Case{0.0149, 1, "1%", "1.49%"},
+           Case{1, 1, "", "you always shove", "he always calls"},
+           Case{0, 1, "", "you never shove", "he never calls"},
+           Case{0, 0, "", "you do not hold it", "he does not hold it"},
+           Case{0.3725, 1, "37%", "you shove 37.25% of the time", "he calls 37.25% of the time"},
+           Case{0.999999, 1, "99%", "you shove 99.9999% of the time", "he calls 99.9999% of the time"},
+           Case{0.000001, 1, "<.1%", "you shove 0.0001% of the time", "he calls 0.0001% of the time"},
+           Case{1e-12, 1, "<.1%", "you shove 0.0000000001% of the time", "he calls 0.0000000001% of the time"},
+           Case{0.0061, 1, "0.6%", "you shove 0.61% of the time", "he calls 0.61% of the time"},
+           Case{0.00999, 1, "1%", "you shove 0.999% of the time", "he calls 0.999% of the time"},
+           Case{0.0149, 1, "1%", "you shove 1.49% of the time", "he calls 1.49% of the time"},
        }) {
     ClassWeights played{};
     ClassWeights held{};
     played[3] = c.played;
     held[3] = c.held;
-    const ClassCell cell = PlayedCells(played, held)[3];
+    const ClassCell cell = PlayedCells(BalanceSide::kShove, played, held)[3];
     EXPECT_EQ(cell.Text, c.text);
-    EXPECT_EQ(cell.Words, c.words);
-    EXPECT_EQ(cell.Pale, c.held == 0) << c.words;
+    EXPECT_EQ(cell.Words, c.shove);
+    EXPECT_EQ(PlayedCells(BalanceSide::kCall, played, held)[3].Words, c.call);
+    EXPECT_EQ(cell.Pale, c.held == 0) << c.shove;
     EXPECT_LE(cell.Text.size(), 4U);
-    EXPECT_GE(ContrastRatio(cell.Color, ReadableOn(cell.Color)), 4.5) << c.words;
+    EXPECT_GE(ContrastRatio(cell.Color, ReadableOn(cell.Color)), 4.5) << c.shove;
   }
 }
 
 TEST(PlayedLegend, HasALineForEachColourOfEitherGrid) {
   ClassWeights some{};
   some[0] = 0.5;
-  const ClassCells all = PlayedCells(AllHands(), AllHands());
+  const ClassCells all = PlayedCells(BalanceSide::kShove, AllHands(), AllHands());
   EXPECT_EQ(PlayedLegend(all, all).size(), 1U);
-  EXPECT_EQ(PlayedLegend(all, PlayedCells(some, AllHands())).size(), 3U);
-  EXPECT_EQ(PlayedLegend(PlayedCells(some, some), all).size(), 3U) << "always, at times, not held";
+  EXPECT_EQ(PlayedLegend(all, PlayedCells(BalanceSide::kCall, some, AllHands())).size(), 3U);
+  EXPECT_EQ(PlayedLegend(PlayedCells(BalanceSide::kShove, some, some), all).size(), 3U) << "always, at times, not held";
 }
 
 TEST(PercentOfHands, CountsWeights) {

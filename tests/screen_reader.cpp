@@ -179,6 +179,21 @@ bool ScreenReader::HasFocus(const Part& part) const {
   return Is(part.Path, kFocused);
 }
 
+QRect ScreenReader::PlaceOf(const Part& part) const {
+  constexpr unsigned kOnScreen = 0;
+  const QVariant answer =
+      Ask(part.Path, QStringLiteral("org.a11y.atspi.Component"), QStringLiteral("GetExtents"), {kOnScreen}).value(0);
+  const auto extents = answer.value<QDBusArgument>();  // "(iiii)"
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  extents.beginStructure();
+  extents >> left >> top >> width >> height;
+  extents.endStructure();
+  return {left, top, width, height};
+}
+
 // Without waiting for the end of what it does: that may be a box that waits for an answer.
 void ScreenReader::Press(const Part& part) const {
   QDBusMessage press = QDBusMessage::createMethodCall(program_, part.Path, QStringLiteral("org.a11y.atspi.Action"),

@@ -1,6 +1,8 @@
 // A player who hears the window instead of seeing it: all three analyses, both dialogs and the report, by way of the
 // accessibility bus as a screen reader uses it.
 
+#include "tests/screen_reader_journey.h"
+
 #include <QCoreApplication>
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -10,12 +12,9 @@
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
 #include "ranges/range_lists.h"
-#include "results/results_grid.h"
 #include "shell/situations.h"
 #include "support/files.h"
 #include "testing/range_dialog_messages.h"
-#include "tests/screen_reader.h"
-#include "tests/window_journey.h"
 
 namespace quillon {
 namespace {
@@ -23,67 +22,6 @@ namespace {
 const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
 const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
 const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
-
-class ScreenReaderJourney : public WindowJourney {
- protected:
-  using Part = ScreenReader::Part;
-
-  ScreenReaderJourney() : WindowJourney(Desk{.IsHeard = true}) {
-    // First, so that the registry is there for the program to enter.
-    reader_ = std::make_unique<ScreenReader>(Session().BusAddress());
-    StartProgramWithRanges();
-    Session().WaitUntil("the screen reader knows the program", [&] { return reader_->Meet(Session().Running().Id()); });
-  }
-
-  [[nodiscard]] ScreenReader& Reader() { return *reader_; }
-
-  /// The part, once it shows.
-  [[nodiscard]] Part The(std::string_view role, std::string_view name) {
-    std::optional<Part> part;
-    const std::string what = "there is a " + std::string(role) + " called \"" + std::string(name) + "\"";
-    Session().WaitUntil(what, [&] { return (part = Reader().Find(role, name)).has_value(); });
-    return *part;
-  }
-  void Press(std::string_view role, std::string_view name) { Reader().Press(The(role, name)); }
-  void Choose(std::string_view question, std::string_view range) {
-    const Part list = The("combo box", question);
-    Reader().GiveFocus(list);
-    Session().WaitUntil("the list has the focus", [&] { return Reader().HasFocus(list); });
-    Session().Press({"Home"});
-    for (int steps = 0; steps < 50 && Reader().Description(list) != range; ++steps) {
-      const std::string before = Reader().Description(list);
-      Session().Press({"Down"});
-      Session().WaitUntil("the next range is chosen", [&] { return Reader().Description(list) != before; });
-    }
-    ASSERT_EQ(Reader().Description(list), range);
-  }
-  void Fill(std::string_view question, const std::string& amount) {
-    const Part box = The("text", question);
-    Reader().Write(box, amount);
-    Session().WaitUntil("the amount is in its box", [&] { return Reader().Text(box) == amount; });
-  }
-
-  [[nodiscard]] std::string NextAnnouncement() {
-    std::vector<std::string> said;
-    Session().WaitUntil("something is announced", [&] {
-      said = Reader().TakeAnnouncements();
-      return !said.empty();
-    });
-    return said.front();
-  }
-  [[nodiscard]] std::string Figures(const char* hand) { return Reader().Description(The("label", hand)); }
-
-  /// Runs to the end, which is announced as the situation's explanation.
-  void Analyze(std::int16_t button, const EnteredSituation& situation) {
-    Press("push button", "Analyze");
-    std::string expected = MakeGridTexts(AnalysisOf(button, situation, Session().Program())).Results;
-    std::erase(expected, '\r');
-    EXPECT_EQ(NextAnnouncement(), expected);
-  }
-
- private:
-  std::unique_ptr<ScreenReader> reader_;
-};
 
 TEST_F(ScreenReaderJourney, AllThreeAnalysesAreEnteredAndHeard) {
   static_cast<void>(The("frame", kMainTitle));

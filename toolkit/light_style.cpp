@@ -36,14 +36,17 @@ QColor SignColor(const QStyleOption& option) {
   return QColor::fromRgb(Has(option, QStyle::State_Enabled) ? kSign : kDisabledSign);
 }
 
-// A line on the inner side of the rectangle's edge, twice as wide where the control has the keyboard.
+// A line on the inner side of the rectangle's edge.
+void DrawLineAlong(QPainter& painter, const QRect& rectangle, int width, QRgb color) {
+  const QRegion inner(rectangle.adjusted(width, width, -width, -width));
+  for (const QRect& side : QRegion(rectangle) - inner)
+    painter.fillRect(side, QColor::fromRgb(color));
+}
+
+// Twice as wide where the control has the keyboard.
 void DrawEdge(QPainter& painter, const QStyleOption& option) {
   const bool focused = Has(option, QStyle::State_HasFocus);
-  const int width = LinePixels(focused ? 2 : 1);
-  const QRegion inner(option.rect.adjusted(width, width, -width, -width));
-  const QColor color = QColor::fromRgb(focused ? kFocusedEdge : kEdge);
-  for (const QRect& side : QRegion(option.rect) - inner)
-    painter.fillRect(side, color);
+  DrawLineAlong(painter, option.rect, LinePixels(focused ? 2 : 1), focused ? kFocusedEdge : kEdge);
 }
 
 // Signs are drawn on a square of so many pixels of the design, from its middle.
@@ -212,8 +215,9 @@ void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   switch (element) {
     case PE_Frame:
     case PE_FrameLineEdit:
-    case PE_FrameTabWidget:
       return DrawEdge(*painter, *option);
+    case PE_FrameTabWidget:
+      return DrawLineAlong(*painter, option->rect, LinePixels(1), kEdge);
     case PE_PanelButtonCommand:
       return DrawButton(*painter, *option);
     case PE_FrameFocusRect:

@@ -10,6 +10,8 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
@@ -23,6 +25,7 @@
 #include "toolkit/colors.h"
 #include "toolkit/form_builder.h"
 #include "toolkit/placement.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -71,6 +74,28 @@ TEST_F(LightStyleTest, DrawsEdgesThatStandOutFromWhite) {
             << kind << " at " << scale << ": " << edge.x() << ", " << edge.y();
       }
     }
+  }
+}
+
+TEST_F(LightStyleTest, DrawsTabsThatStandOutFromWhite) {
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    QTabWidget tabs;
+    tabs.addTab(new QWidget, QStringLiteral("One"));
+    tabs.addTab(new QWidget, QStringLiteral("Two"));
+    tabs.resize(LinePixels(300), LinePixels(200));
+    tabs.show();  // lays it out
+    const QImage image = tabs.grab().toImage();
+    const auto contrast = [&](const QPoint& point) {
+      return ContrastRatio(FromColor(image.pixelColor(point)), FromColor(QColor(Qt::white)));
+    };
+    const QRect chosen = tabs.tabBar()->tabRect(0).translated(tabs.tabBar()->pos());
+    const QRect other = tabs.tabBar()->tabRect(1).translated(tabs.tabBar()->pos());
+    EXPECT_GE(contrast({chosen.center().x(), chosen.top()}), 4.5) << scale << ": the line over the chosen one";
+    EXPECT_GE(contrast({chosen.left(), chosen.center().y()}), 3) << scale;
+    EXPECT_GE(contrast({other.right(), other.center().y()}), 3) << scale;
+    EXPECT_LT(contrast({other.center().x(), other.top()}), 1.5) << scale << ": it is lower";
+    EXPECT_GE(contrast({tabs.width() / 2, tabs.height() - 1}), 3) << scale << ": the page's edge";
   }
 }
 

@@ -117,8 +117,11 @@ void BalancedPage::Bind() {
     connect(box, &TextBox::EnterPressed, this, [this, box] { LeaveBox(*box); });
   }
   connect(&onlyHis_, &QCheckBox::toggled, this, &BalancedPage::Ask);
-  for (const Side* side : {&shove_, &call_})
+  for (const Side* side : {&shove_, &call_}) {
     connect(&side->Grid, &ClassGridView::HandReached, this, [this](qint16 index) { Tell(index); });
+    connect(&side->Grid, &ClassGridView::HandPressed, this,
+            [this](qint16 index) { Q_EMIT HandAsked(StudyTopic::kHowFar, index); });
+  }
   connect(&save_, &QPushButton::clicked, this, &BalancedPage::SaveCall);
 }
 
@@ -188,8 +191,10 @@ void BalancedPage::ShowNotice(const QString& notice) {
 
 void BalancedPage::ShowFound(const BalanceQuestion& question, const std::optional<Equilibrium>& found) {
   if (!found) return ShowNotice(QString::fromLatin1(kNotFound));
-  ShowSide(shove_, "Shove", found->Shove, question.OwnHands);
-  ShowSide(call_, "Call the shove", found->Call, question.HisHands);
+  shove_.Cells = PlayedCells(BalanceSide::kShove, found->Shove, question.OwnHands);
+  call_.Cells = PlayedCells(BalanceSide::kCall, found->Call, question.HisHands);
+  ShowSide(shove_, "Shove", found->Shove);
+  ShowSide(call_, "Call the shove", found->Call);
   found_ = found->Call;
   const QString worth = ToQt(BalanceWords(*found));
   worth_.setText(worth);
@@ -202,8 +207,7 @@ void BalancedPage::ShowFound(const BalanceQuestion& question, const std::optiona
   Announce(*this, shove_.Heading.text() + QStringLiteral(". ") + call_.Heading.text() + QStringLiteral(". ") + worth);
 }
 
-void BalancedPage::ShowSide(Side& side, const std::string& move, const ClassWeights& played, const ClassWeights& held) {
-  side.Cells = PlayedCells(played, held);
+void BalancedPage::ShowSide(const Side& side, const std::string& move, const ClassWeights& played) {
   side.Grid.Show(side.Cells);
   const QString heading = ToQt(move + ": " + NumberText(PercentOfHands(played)) + "% of hands");
   side.Heading.setText(heading);
@@ -213,8 +217,8 @@ void BalancedPage::ShowSide(Side& side, const std::string& move, const ClassWeig
 void BalancedPage::Tell(std::int16_t index) {
   told_ = index;
   const auto at = static_cast<std::size_t>(index);
-  hand_.setText(ToQt(std::string(HandLabel(index)) + ": you shove " + shove_.Cells.at(at).Words + "; he calls " +
-                     call_.Cells.at(at).Words));
+  hand_.setText(
+      ToQt(std::string(HandLabel(index)) + ": " + shove_.Cells.at(at).Words + ", " + call_.Cells.at(at).Words));
 }
 
 void BalancedPage::SaveCall() {

@@ -55,7 +55,7 @@ class BalancedPage : public StudyPage {
   void Search(const BalanceQuestion& question);
   void ShowFound(const BalanceQuestion& question, const std::optional<Equilibrium>& found);
   void ShowNotice(const QString& notice);
-  void ShowSide(Side& side, const std::string& move, const ClassWeights& played, const ClassWeights& held);
+  static void ShowSide(const Side& side, const std::string& move, const ClassWeights& played);
   void Tell(std::int16_t index);
   void SaveCall();
 

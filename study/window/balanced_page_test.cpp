@@ -44,8 +44,8 @@ class BalancedRanges : public StudyStage {
   // Every cell of both grids, and the words, are those of the answer.
   void ExpectAnswerTo(const BalanceQuestion& question) const {
     const Equilibrium found = FindEquilibrium(Hands(), question).value();
-    const ClassCells shove = PlayedCells(found.Shove, question.OwnHands);
-    const ClassCells call = PlayedCells(found.Call, question.HisHands);
+    const ClassCells shove = PlayedCells(BalanceSide::kShove, found.Shove, question.OwnHands);
+    const ClassCells call = PlayedCells(BalanceSide::kCall, found.Call, question.HisHands);
     for (std::int16_t i = 0; i < kHandClassCount; ++i) {
       const auto at = static_cast<std::size_t>(i);
       ASSERT_EQ(FromQt(Grid(0).Cell(i).accessibleDescription()), shove.at(at).Words) << HandLabel(i);
@@ -78,9 +78,9 @@ TEST_F(BalancedRanges, TellTheHandOfBothGrids) {
   const auto words = [this](int grid, std::string_view hand) {
     return FromQt(Grid(grid).Cell(HandIndex(hand)).accessibleDescription());
   };
-  EXPECT_THAT(Texts(), HasSubstr("AA: you shove " + words(0, "AA") + "; he calls " + words(1, "AA")));
+  EXPECT_THAT(Texts(), HasSubstr("AA: " + words(0, "AA") + ", " + words(1, "AA")));
   Grid(1).FocusCell(HandIndex("72o"));
-  EXPECT_THAT(Texts(), HasSubstr("72o: you shove " + words(0, "72o") + "; he calls not held"));
+  EXPECT_THAT(Texts(), HasSubstr("72o: " + words(0, "72o") + ", he does not hold it"));
 }
 
 TEST_F(BalancedRanges, FollowTheBoxes) {

@@ -97,13 +97,14 @@ void StudyForm::BindKeys() {
 
 void StudyForm::Follow(const Analysis& analysis) {
   if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
+  const bool isFirst = !situation_;
   situation_ = StudySituationOf(analysis, *hands_);
   about_.setText(ToQt(SituationWords(situation_->Asked)));
   offered_.reset();
   for (Leaf& leaf : leaves_)
     leaf.IsCurrent = false;
   ShowCurrent();
-  if (follow_.hasFocus()) FocusPage();
+  if (isFirst || follow_.hasFocus()) FocusPage();
   follow_.hide();
 }
 
@@ -127,6 +128,11 @@ void StudyForm::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
   tabs_.setCurrentWidget(leaf.Stack);
   FocusPage();
   if (hand && leaf.Stack->currentWidget() == leaf.Page) leaf.Page->ShowHand(*hand);
+}
+
+StudyPage* StudyForm::Page(StudyTopic topic) const {
+  const auto found = std::ranges::find(leaves_, topic, &Leaf::Topic);
+  return found == leaves_.end() ? nullptr : found->Page;
 }
 
 std::vector<IniSetting> StudyForm::PlaceSettings() const {

@@ -46,6 +46,9 @@ class StudyForm : public QWidget {
 
   [[nodiscard]] QTabWidget& Tabs() const { return tabs_; }
 
+  /// The page of a topic; null where the window has none.
+  [[nodiscard]] StudyPage* Page(StudyTopic topic) const;
+
  Q_SIGNALS:
   /// A range to call a shove with was saved and the player told: lists are to be filled anew before this returns.
   void CallingRangeSaved(const std::string& name);

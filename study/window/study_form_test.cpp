@@ -32,8 +32,10 @@ TEST_F(StudyWindow, SaysWhatToDoBeforeAnyAnalysis) {
 
 TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
   Open();
+  EXPECT_TRUE(Form.Tabs().tabBar()->hasFocus());
   const HeardAnnouncements heard;
   Form.Offer(sample::CallState());
+  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "there was nothing to give the keyboard to";
   EXPECT_THAT(Texts(), HasSubstr("Preflop Call: pot 150, 50 to call; he plays \"Tight\""));
   EXPECT_TRUE(Limits().isVisible());
 
