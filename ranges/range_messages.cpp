@@ -68,7 +68,7 @@ std::string LostWeightsNote(std::string_view name, std::span<const double, kHand
   if (lost == ClassWeights{}) return {};
   std::string notation = RangeNotation(lost);
   if (notation.size() > kLongest) notation = notation.substr(0, notation.rfind(',', kLongest)) + ", ...";
-  return "The range " + Quoted(name) + " has weights that the grid cannot show, and saving drops them: " + notation;
+  return "The range " + Quoted(name) + " has weights that the grid cannot show, and saving drops them:\r\n" + notation;
 }
 
 }  // namespace quillon

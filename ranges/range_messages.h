@@ -43,9 +43,10 @@ inline constexpr LineQuestion kAskTopShare = {"How many percent of all hands, th
 [[nodiscard]] Message NotAShareMessage();
 
 /// What a player is to know of a range whose file has weights that a grid cannot show; the empty text where all weights
-/// are 0, 0.5 or 1. Of many weights, the first.
+/// are 0, 0.5 or 1. Of many weights, the first. Two lines, separated by CR LF.
 ///
-///     The range "Loose" has weights that the grid cannot show, and saving drops them: QQ:0.25,AJs+:0.7
+///     The range "Loose" has weights that the grid cannot show, and saving drops them:
+///     QQ:0.25,AJs+:0.7
 [[nodiscard]] std::string LostWeightsNote(std::string_view name, std::span<const double, kHandClassCount> weights);
 
 }  // namespace quillon

@@ -33,7 +33,7 @@ TEST(RangeMessages, ShowTheMistakeInALineThatABoxHasRoomFor) {
 }
 
 TEST(RangeMessages, TellOfWeightsThatAGridCannotShow) {
-  const std::string told = "The range \"Loose\" has weights that the grid cannot show, and saving drops them: ";
+  const std::string told = "The range \"Loose\" has weights that the grid cannot show, and saving drops them:\r\n";
   const std::string folded = RangeWith({{"AA", 0.1},
                                         {"QQ", 0.2},
                                         {"TT", 0.3},

@@ -1,5 +1,5 @@
 // A clipboard manager for tests: it says "ready", and when a program asks it to take over what was copied there, it
-// prints that text. Called with "silent" it never answers.
+// prints that as the kind of data it is called with, such as "UTF8_STRING". Called with "silent" it never answers.
 
 #include <cstdint>
 #include <cstdlib>
@@ -13,7 +13,7 @@ namespace {
 
 class Manager {
  public:
-  explicit Manager(bool silent) : silent_(silent) {
+  explicit Manager(std::string_view kind) : kind_(kind), silent_(kind == "silent") {
     xcb_screen_t* root = xcb_setup_roots_iterator(xcb_get_setup(screen_)).data;
     xcb_create_window(screen_, 0, window_, root->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
                       0, nullptr);
@@ -28,8 +28,7 @@ class Manager {
       const unsigned kind = event->response_type & 0x7FU;
       if (kind == XCB_SELECTION_REQUEST && !silent_) {
         request_ = *reinterpret_cast<const xcb_selection_request_event_t*>(event.get());
-        xcb_convert_selection(screen_, window_, Atom("CLIPBOARD"), Atom("UTF8_STRING"), Atom("TAKEN"),
-                              XCB_CURRENT_TIME);
+        xcb_convert_selection(screen_, window_, Atom("CLIPBOARD"), Atom(kind_), Atom("TAKEN"), XCB_CURRENT_TIME);
       } else if (kind == XCB_SELECTION_NOTIFY) {
         std::cout << Taken() << std::flush;
         Answer();
@@ -66,6 +65,7 @@ class Manager {
     xcb_send_event(screen_, 0, request_.requestor, 0, reinterpret_cast<const char*>(&notify));
   }
 
+  std::string_view kind_;
   bool silent_;
   xcb_connection_t* screen_ = xcb_connect(nullptr, nullptr);
   xcb_window_t window_ = xcb_generate_id(screen_);
@@ -75,6 +75,6 @@ class Manager {
 }  // namespace
 
 int main(int argc, char** argv) {
-  Manager(argc > 1 && argv[1] == std::string_view("silent")).Run();
+  Manager(argc > 1 ? argv[1] : "UTF8_STRING").Run();
   return EXIT_SUCCESS;
 }

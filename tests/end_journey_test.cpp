@@ -1,10 +1,13 @@
 // The ways in which the program ends besides its close box, and what is still there afterwards.
 
+#include <QByteArray>
+#include <QImage>
 #include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "shell/settings_file.h"
 #include "tests/window_journey.h"
@@ -62,13 +65,27 @@ TEST_F(EndJourney, SignalEndsTheProgramInFrontOfABoxAndDuringARun) {
 }
 
 TEST_F(EndJourney, CopiedTextIsHandedToTheClipboardManager) {
-  const auto manager = StartManager("taking");
+  const auto manager = StartManager("UTF8_STRING");
   StartProgram();
   Click("lblNav(0)");
   Fill(0, "735");
   EXPECT_EQ(BoxText(0), "735");  // by way of the clipboard
   EXPECT_EQ(CloseProgram(), 0);
   EXPECT_EQ(manager->Output(), "ready\n735");
+}
+
+TEST_F(EndJourney, CopiedPictureIsHandedToTheClipboardManager) {
+  const auto manager = StartManager("image/png");
+  StartProgramWithRanges();
+  Analyze(kEquityRun, {{}, {}, {}, "Button Shove", {}});
+  const QImage shown = Look("GridContainer");
+  const QPoint cell = OnScreen("shapeCardBack(0)").center();
+  const Window menu = Session().OpenedBy([&] { Session().RightClickAt(cell); });
+  Session().Press({"Down", "Return"});
+  Session().WaitUntilGone(menu);
+  EXPECT_EQ(CloseProgram(), 0);
+  const QByteArray taken = QByteArray::fromStdString(manager->Output().substr(std::string_view("ready\n").size()));
+  EXPECT_EQ(QImage::fromData(taken).convertToFormat(shown.format()), shown);
 }
 
 TEST_F(EndJourney, ClipboardManagerThatDoesNotAnswerHoldsTheEndUpForASecond) {

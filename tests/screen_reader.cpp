@@ -91,6 +91,8 @@ void ScreenReader::Hear(const QDBusMessage& event) {
     const auto text = event.arguments().value(3).value<QDBusVariant>();
     announcements_.push_back(text.variant().toString().toStdString());
   }
+  const bool tellsOfFocus = event.arguments().value(0).toString() == QStringLiteral("focused");
+  if (tellsOfFocus && event.arguments().value(1).toInt() == 1) focused_ = event.path();
   // Of its state a part may tell that it is hidden now.
   const bool comesOrGoes =
       event.member() == QStringLiteral("StateChanged") || event.member() == QStringLiteral("ChildrenChanged");
@@ -124,6 +126,10 @@ bool ScreenReader::Is(const QString& path, unsigned state) const {
   return (words.value(static_cast<qsizetype>(state / 32)) >> state % 32 & 1U) != 0;
 }
 
+std::string ScreenReader::RoleOf(const QString& path) const {
+  return Ask(path, kAccessible, QStringLiteral("GetRoleName")).value(0).toString().toStdString();
+}
+
 std::optional<ScreenReader::Part> ScreenReader::Find(std::string_view role, std::string_view name) const {
   return Find(kRoot, role, name, false);
 }
@@ -139,8 +145,7 @@ std::optional<ScreenReader::Part> ScreenReader::Find(const QString& path, std::s
   for (const Reference& child : References(children.first())) {
     if (!hidden && !Shows(child.Path)) continue;
     if (Property(child.Path, QStringLiteral("Name")).toString().toStdString() == name) {
-      const std::string itsRole =
-          Ask(child.Path, kAccessible, QStringLiteral("GetRoleName")).value(0).toString().toStdString();
+      const std::string itsRole = RoleOf(child.Path);
       if (itsRole == role) return Part{child.Path, itsRole, std::string(name)};
     }
     if (std::optional<Part> found = Find(child.Path, role, name, hidden)) return found;
@@ -192,6 +197,11 @@ QRect ScreenReader::PlaceOf(const Part& part) const {
   extents >> left >> top >> width >> height;
   extents.endStructure();
   return {left, top, width, height};
+}
+
+ScreenReader::Part ScreenReader::Focused() const {
+  QCoreApplication::processEvents();
+  return {focused_, RoleOf(focused_), Property(focused_, QStringLiteral("Name")).toString().toStdString()};
 }
 
 // Without waiting for the end of what it does: that may be a box that waits for an answer.

@@ -49,6 +49,9 @@ class ScreenReader : public QObject {
   /// Where it is on the screen.
   [[nodiscard]] QRect PlaceOf(const Part& part) const;
 
+  /// The part that told last that it has the focus. An open menu is no part of any window, and only heard this way.
+  [[nodiscard]] Part Focused() const;
+
   /// Its first action, that of a click; nothing where it offers none.
   void Press(const Part& part) const;
   void Write(const Part& part, std::string_view text) const;
@@ -67,6 +70,7 @@ class ScreenReader : public QObject {
   QList<QVariant> Ask(const QString& path, const QString& interface, const QString& method,
                       const QList<QVariant>& arguments = {}) const;
   [[nodiscard]] QVariant Property(const QString& path, const QString& name) const;
+  [[nodiscard]] std::string RoleOf(const QString& path) const;
   [[nodiscard]] bool Is(const QString& path, unsigned state) const;
   [[nodiscard]] std::optional<Part> Find(const QString& path, std::string_view role, std::string_view name,
                                          bool hidden) const;
@@ -75,6 +79,7 @@ class ScreenReader : public QObject {
   QString program_;  // its name on the bus
   std::vector<std::string> announcements_;
   std::vector<QString> speakers_;
+  QString focused_;
 };
 
 }  // namespace quillon

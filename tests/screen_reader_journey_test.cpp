@@ -15,6 +15,7 @@
 #include "shell/situations.h"
 #include "support/files.h"
 #include "testing/range_dialog_messages.h"
+#include "testing/range_texts.h"
 
 namespace quillon {
 namespace {
@@ -91,6 +92,50 @@ TEST_F(ScreenReaderJourney, RangesArePaintedInBothDialogsAndTheirSavingIsHeard) 
   Answer(told, {"Return"});
   Session().WaitUntil("the range is chosen",
                       [&] { return Reader().Description(The("combo box", "Select a Range:")) == "Aces"; });
+}
+
+TEST_F(ScreenReaderJourney, FastPaintingIsHeard) {
+  SaveRangeText(Session().Program(), "Aaa", RangeWith({{"AA", 1}, {"KK", 0.25}}));
+  Press("link", "Preflop Call");  // fills the lists anew
+  Press("link", "Range Manager");
+  const Window manager = Session().WaitForWindow(kManagerTitle);
+  Reader().GiveFocus(The("list", "Select a Range:"));
+  Session().Press({"Home"});
+  EXPECT_EQ(NextAnnouncement(),
+            "The range \"Aaa\" has weights that the grid cannot show, and saving drops them:\nKK:0.25");
+  const Part kings = The("check box", "KK");
+  EXPECT_EQ(Reader().Description(kings), "");
+
+  Session().PutOnClipboard("KK+");
+  Session().Press({"ctrl+v"});
+  EXPECT_EQ(NextAnnouncement(), "0.9% selected");
+  EXPECT_TRUE(Reader().IsChecked(kings));
+
+  const Part aces = The("check box", "AA");  // where Tab reaches the grid
+  Reader().GiveFocus(aces);
+  Session().WaitUntil("the cell has the focus", [&] { return Reader().HasFocus(aces); });
+  // Each entry is said as the keys reach it.
+  Session().Press({"shift+F10"});
+  for (const std::string_view entry : {"Copy", "Paste", "Everything", "Clear", "Invert"}) {
+    Session().WaitUntil("the entry is reached", [&] {
+      const Part reached = Reader().Focused();
+      return reached.Role == "menu item" && reached.Name == entry;
+    });
+    Session().Press({entry == "Invert" ? "Return" : "Down"});
+  }
+  EXPECT_EQ(NextAnnouncement(), "99.1% selected");
+  EXPECT_FALSE(Reader().IsChecked(kings));
+  Session().Press({"ctrl+z"});
+  EXPECT_EQ(NextAnnouncement(), "0.9% selected");
+  EXPECT_TRUE(Reader().IsChecked(kings));
+
+  Session().PutOnClipboard("KXs");
+  Session().Press({"ctrl+v"});
+  static_cast<void>(Session().WaitForWindow("This Is Not a Range"));
+  static_cast<void>(The("label", "KXs\n^ \"X\" is not a rank"));
+  Session().Press({"Return"});
+  static_cast<void>(Session().WaitForWindow(kManagerTitle));
+  EXPECT_TRUE(Reader().IsChecked(kings));
 }
 
 // On screens without a text of several lines, which has parts of Qt's own.

@@ -215,6 +215,19 @@ std::size_t WindowSession::WindowCount() const {
   return FindIds().size();
 }
 
+Window WindowSession::OpenedBy(const std::function<void()>& open) const {
+  const std::vector<std::string> before = FindIds();
+  open();
+  std::string opened;
+  WaitUntil("a window comes up", [&] {
+    for (const std::string& id : FindIds()) {
+      if (std::ranges::find(before, id) == before.end()) opened = id;
+    }
+    return !opened.empty();
+  });
+  return {opened, PlaceOf(opened)};
+}
+
 void WindowSession::WaitUntilGone(const Window& window) const {
   WaitUntil("the window has gone", [&] { return std::ranges::count(FindIds(), window.Id) == 0; });
 }
@@ -263,6 +276,15 @@ void WindowSession::Click(QPoint point, const std::string& button) const {
   Use(actions);
 }
 
+void WindowSession::Drag(QPoint from, QPoint to) const {
+  Use(To(from));
+  Use({"mousedown", "1"});
+  // In steps: the first begins the drag, and the last is where it ends.
+  for (const QPoint& step : {from + QPoint(20, 0), (from + to) / 2, to - QPoint(1, 1), to})
+    Use(To(step));
+  Use({"mouseup", "1"});
+}
+
 void WindowSession::Press(const std::vector<std::string>& keys) const {
   std::vector<std::string> actions = {"key", "--delay", "0"};
   actions.insert(actions.end(), keys.begin(), keys.end());
@@ -277,19 +299,27 @@ void WindowSession::PutMouseAside() const {
   MoveTo({desk_.Width - 1, desk_.Height - 1});
 }
 
-// The clipboard holds a mark first, so that an old text is not taken for the new one.
 std::string WindowSession::CopyAllText() const {
+  return CopiedBy([this] { Press({"ctrl+a", "ctrl+c"}); });
+}
+
+void WindowSession::PutOnClipboard(std::string_view text) const {
+  const fs::path file = home_ / "copied";
+  std::ofstream(file) << text;
+  static_cast<void>(Ask("xclip", {"-selection", "clipboard", "-in", file.string()}));
+}
+
+// The clipboard holds a mark first, so that an old text is not taken for the new one.
+std::string WindowSession::CopiedBy(const std::function<void()>& copy, const std::string& kind) const {
   constexpr std::string_view kMark = "nothing has been copied yet";
-  const fs::path mark = home_ / "mark";
-  std::ofstream(mark) << kMark;
-  static_cast<void>(Ask("xclip", {"-selection", "clipboard", "-in", mark.string()}));
-  Press({"ctrl+a", "ctrl+c"});
-  std::string text;
-  WaitUntil("a text has been copied", [&] {
-    text = Ask("xclip", {"-selection", "clipboard", "-out", "-target", "UTF8_STRING"});
-    return text != kMark && !text.empty();
+  PutOnClipboard(kMark);
+  copy();
+  std::string copied;
+  WaitUntil("something has been copied", [&] {
+    copied = Ask("xclip", {"-selection", "clipboard", "-out", "-target", kind});
+    return copied != kMark && !copied.empty();
   });
-  return text;
+  return copied;
 }
 
 std::string WindowSession::Ask(const std::string& program, const std::vector<std::string>& arguments) const {

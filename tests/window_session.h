@@ -93,6 +93,8 @@ class WindowSession {
   /// How many windows of the program can be seen, opened lists among them.
   [[nodiscard]] std::size_t WindowCount() const;
   void WaitUntilGone(const Window& window) const;
+  /// The one that comes up when `open` has been done: a menu, which has no title.
+  [[nodiscard]] Window OpenedBy(const std::function<void()>& open) const;
   /// Lays a small window of another program there, in front of all, and leaves the keyboard with `keeper`. Returns
   /// its inner area.
   QRect LayNote(QPoint corner, const Window& keeper);
@@ -105,6 +107,8 @@ class WindowSession {
   void MoveTo(QPoint point) const;
   void ClickAt(QPoint point) const { Click(point, "1"); }
   void RightClickAt(QPoint point) const { Click(point, "3"); }
+  /// Presses the left button there and releases it here.
+  void Drag(QPoint from, QPoint to) const;
   /// Keys by their names in the window system, pressed one after the other: "ctrl+a", "Return".
   void Press(const std::vector<std::string>& keys) const;
   /// Holds a key down until it is released.
@@ -115,6 +119,9 @@ class WindowSession {
   void PutMouseAside() const;
   /// All the text of the control that has the keyboard, by way of the clipboard.
   [[nodiscard]] std::string CopyAllText() const;
+  void PutOnClipboard(std::string_view text) const;
+  /// What `copy` puts on the clipboard, as that kind of data.
+  [[nodiscard]] std::string CopiedBy(const std::function<void()>& copy, const std::string& kind = "UTF8_STRING") const;
 
   // ---- the screen
 

@@ -179,6 +179,18 @@ int LightStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+QSize LightStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (type != CT_MenuItem || entry == nullptr) return size;
+  // What it leaves round the text of an entry, and all of a line between entries, are pixels whatever the scale is.
+  const bool line = entry->menuItemType == QStyleOptionMenuItem::Separator;
+  const int fixed = line ? size.height() : size.height() - entry->fontMetrics.height();
+  size.rheight() += LinePixels(fixed) - fixed;
+  return size;
+}
+
 QRect LightStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                                  const QWidget* widget) const {
   const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);

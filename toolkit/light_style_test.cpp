@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -52,6 +53,23 @@ TEST_F(LightStyleTest, MeasuresInTheScaleOfTheProgram) {
       ShowAtScale(scale);
       EXPECT_EQ(style.pixelMetric(metric), std::lround(design * scale)) << metric << " " << scale;
     }
+  }
+}
+
+TEST_F(LightStyleTest, EntriesOfMenusGrowWithTheScale) {
+  const auto heights = [] {
+    QMenu menu;
+    QAction* const entry = menu.addAction(QStringLiteral("Copy"));
+    QAction* const line = menu.addSeparator();
+    menu.addAction(QStringLiteral("Clear"));
+    return std::array{menu.actionGeometry(entry).height(), menu.actionGeometry(line).height()};
+  };
+  ShowAtScale(1);
+  const std::array design = heights();
+  for (const double scale : kScales) {
+    ShowAtScale(scale);
+    for (std::size_t i = 0; i < design.size(); ++i)
+      EXPECT_NEAR(heights().at(i), design.at(i) * scale, 1.5) << scale;
   }
 }
 

@@ -16,10 +16,11 @@ void PopUpMenu(QWidget& owner, const QPoint& place, const std::vector<MenuEntry>
       menu->addSeparator();
       continue;
     }
-    // After a tab a menu shows a key, which the menu itself does not hear.
-    QString text = QString(entry.Text).replace(QLatin1Char('&'), QStringLiteral("&&"));
-    if (!entry.Key.isEmpty()) text += QLatin1Char('\t') + entry.Key.toString(QKeySequence::NativeText);
-    QAction* action = menu->addAction(text);
+    QAction* action = menu->addAction(QString(entry.Text).replace(QLatin1Char('&'), QStringLiteral("&&")));
+    // Only to be seen: the key of an entry is heard by nobody but the menu.
+    action->setShortcut(entry.Key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setShortcutVisibleInContextMenu(true);
     action->setEnabled(entry.Enabled);
     QObject::connect(action, &QAction::triggered, owner.window(), entry.Action);
   }

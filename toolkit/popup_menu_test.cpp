@@ -41,8 +41,10 @@ TEST_F(PopUpMenuTest, HasItsEntriesWithTheirKeysAndALineBetweenGroups) {
   Open();
   std::vector<std::string> shown;
   for (const QAction* action : Menu()->actions())
-    shown.push_back(FromQt(action->text()) + (action->isSeparator() ? "---" : action->isEnabled() ? "" : " (off)"));
-  EXPECT_EQ(shown, (std::vector<std::string>{"Copy (off)", "Paste\tCtrl+V", "---", "This && that"}));
+    shown.push_back(FromQt(action->text() + action->shortcut().toString()) + (action->isSeparator() ? "---"
+                                                                              : action->isEnabled() ? ""
+                                                                                                    : " (off)"));
+  EXPECT_EQ(shown, (std::vector<std::string>{"Copy (off)", "PasteCtrl+V", "---", "This && that"}));
   EXPECT_EQ(Menu()->activeAction(), nullptr) << "nothing is marked for the mouse";
 }
 
@@ -60,6 +62,17 @@ TEST_F(PopUpMenuTest, DoesOneEntryAndIsGone) {
   EXPECT_EQ(done_, "this and that");
   QTest::qWait(0);
   EXPECT_EQ(Menu(), nullptr);
+}
+
+TEST_F(PopUpMenuTest, LeavesTheKeysThatItShowsToTheForm) {
+  BindKey(form_, Qt::CTRL | Qt::Key_V, [this] { done_ += "pasted by the form"; });
+  Open();
+  QTest::keyClick(Menu(), Qt::Key_Escape);
+  QTest::qWait(0);
+  form_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form_));
+  QTest::keyClick(form_.windowHandle(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(done_, "pasted by the form");
 }
 
 TEST_F(PopUpMenuTest, DoesNothingWhereItIsLeft) {

@@ -130,9 +130,9 @@ TEST_F(PaintingTest, TheMenuHasAllOfItWithItsKeys) {
   ClickRight(MiddleOf("AA"));
   std::vector<std::string> shown;
   for (const QAction* action : Menu()->actions())
-    shown.push_back(action->isSeparator() ? "" : FromQt(action->text()) + (action->isEnabled() ? "" : " (off)"));
-  EXPECT_THAT(shown, ElementsAre("Copy\tCtrl+C", "Paste\tCtrl+V", "", "Everything", "Clear", "Invert", "Top x%...", "",
-                                 "Undo\tCtrl+Z (off)", "Redo\tCtrl+Shift+Z (off)"));
+    shown.push_back(FromQt(action->text() + action->shortcut().toString()) + (action->isEnabled() ? "" : " (off)"));
+  EXPECT_THAT(shown, ElementsAre("CopyCtrl+C", "PasteCtrl+V", "", "Everything", "Clear", "Invert", "Top x%...", "",
+                                 "UndoCtrl+Z (off)", "RedoCtrl+Shift+Z (off)"));
 }
 
 TEST_F(PaintingTest, UndoAndRedoAreOnOfferWhereThereIsAStep) {
@@ -448,9 +448,10 @@ TEST_F(ManagerPaintingTest, WhatShowsARangeForgetsTheSteps) {
 }
 
 TEST_F(ManagerPaintingTest, WeightsThatASaveWouldDropAreTold) {
-  const std::string note = "The range \"Loose\" has weights that the grid cannot show, and saving drops them: QQ:0.25";
+  const std::string note =
+      "The range \"Loose\" has weights that the grid cannot show, and saving drops them:\r\nQQ:0.25";
   const auto tip = [this](std::string_view cell) {
-    return FromQt(Controls().LabelAt("lblCards", HandIndex(cell)).toolTip());
+    return LinesFromQt(Controls().LabelAt("lblCards", HandIndex(cell)).toolTip());
   };
   const HeardAnnouncements heard;
   EXPECT_EQ(tip("AA"), "");

@@ -1,0 +1,85 @@
+// Any bytes pasted on any grid: what can be read is what toggles of single cells make of the grid, and copies as a
+// notation that pastes the same; what cannot be read has a place and a reason. The same bytes as a share.
+
+#include <numeric>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "fuzz/fuzz_target.h"
+#include "ranges/grid_edits.h"
+#include "ranges/range_messages.h"
+
+namespace quillon {
+namespace {
+
+HandOrder IndexOrder() {
+  HandOrder order{};
+  std::iota(order.begin(), order.end(), std::int16_t{0});
+  return order;
+}
+
+std::variant<CellColors, NotationError> Pasted(std::string_view text) {
+  return CellsOfNotation(text, IndexOrder());
+}
+
+// Four cells a byte; of four states two are none.
+CellColors AnyCells(FuzzInput& input) {
+  constexpr std::size_t kBytes = 43;
+  const std::string_view states = input.TakeText(input.TakeBelow(kBytes + 1));
+  CellColors cells = UnselectedCells();
+  for (std::size_t i = 0; i < 4 * states.size() && i < cells.size(); ++i) {
+    const unsigned state = (static_cast<unsigned char>(states[i / 4]) >> (2 * (i % 4))) & 3U;
+    if (state == 1) cells.at(i) = kFullColor;
+    if (state == 2) cells.at(i) = kHalfColor;
+  }
+  return cells;
+}
+
+void CheckToggles(const CellColors& from, const CellColors& to) {
+  CellColors cells = from;
+  const auto toggles = TogglesBetween(from, to);
+  for (const CellToggle& toggle : toggles)
+    ToggleCell(cells, toggle.Index, {.Half = toggle.Half});
+  Require(cells == to, "toggles lead to the grid that is wanted");
+  Require(toggles.size() <= 2 * cells.size(), "a cell is toggled twice at most");
+  GridHistory history(from);
+  history.Add(to);
+  Require(history.CanUndo() == (from != to), "a change is a step");
+  Require(history.Undo() == from && history.Redo() == to, "a step goes back and forth");
+}
+
+void CheckError(std::string_view text, const NotationError& error) {
+  Require(error.Place <= text.size(), "an error is in the text");
+  Require(NotARangeMessage(text, error).text.ends_with("^ " + error.Reason), "a message ends in the reason");
+}
+
+void CheckShare(std::string_view share, bool half, const CellColors& shown) {
+  const std::optional<CellColors> best = BestCells(share, half, IndexOrder());
+  if (!best) return;
+  CheckToggles(shown, *best);
+  for (const Rgb color : *best)
+    Require(color != (half ? kFullColor : kHalfColor), "a share is selected as a click does");
+}
+
+}  // namespace
+}  // namespace quillon
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
+  FuzzInput input(data, size);
+  const bool half = input.TakeBelow(2) == 1;
+  const CellColors shown = AnyCells(input);
+  CheckToggles(shown, InvertedCells(shown, half));
+  CheckShare(input.Rest(), half, shown);
+
+  const auto pasted = Pasted(input.Rest());
+  if (const auto* const error = std::get_if<NotationError>(&pasted)) {
+    CheckError(input.Rest(), *error);
+    return 0;
+  }
+  const auto& cells = std::get<CellColors>(pasted);
+  CheckToggles(shown, cells);
+  Require(Pasted(RangeNotation(RangeTextFromGrid(cells))) == pasted, "what is copied pastes the same");
+  return 0;
+}
