@@ -189,6 +189,9 @@ TEST_P(PaintingJourney, ResultsAreTakenAlong) {
   Session().WaitUntil("the report shows", [&] { return Look("GridContainer") != shown; });
   Click("rtfSummary");
   EXPECT_EQ(Session().CopyAllText(), CompanionText({"--format", "2+2", "--hand", "AKs"}));
+
+  Press({"ctrl+4", "ctrl+Home", "Menu", "Up", "Up", "Return"});
+  static_cast<void>(Session().WaitForWindow("Study"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Window, PaintingJourney,

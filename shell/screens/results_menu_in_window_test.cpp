@@ -163,7 +163,7 @@ TEST_F(ResultsMenuInWindow, TellsWhereThePageIsIfNothingOpensIt) {
   VerifyExpectedBoxes();
 }
 
-TEST_F(ResultsMenuInWindow, HowFarOpensTheStudyWindowWhereThereIsAnAmount) {
+TEST_F(ResultsMenuInWindow, HowFarOpensThatPageAtTheHandWhereThereIsAnAmount) {
   RunEquity("Tight");
   OpenMenuOn("T9s");
   EXPECT_THAT(Entries(), testing::Contains("How far? (off)"));
@@ -172,6 +172,9 @@ TEST_F(ResultsMenuInWindow, HowFarOpensTheStudyWindowWhereThereIsAnAmount) {
   Choose("T9s", "How far?");
   ASSERT_NE(Form.Study().Loaded(), nullptr);
   EXPECT_TRUE(Form.Study().Loaded()->isVisible());
+  const QTabWidget& pages = Form.Study().Loaded()->Tabs();
+  EXPECT_EQ(pages.tabText(pages.currentIndex()), QStringLiteral("How far?"));
+  EXPECT_EQ(pages.currentWidget()->findChild<QLineEdit*>()->text(), QStringLiteral("T9s"));
 }
 
 TEST_F(ResultsMenuInWindow, AHandInTheReportIsDetailsForumAndThatHand) {
