@@ -104,6 +104,7 @@ TEST_F(StudyJourney, LimitsAreReadByKeysAndAreTheCompanions) {
   RunRaise();
   static_cast<void>(OpenStudy());
   static_cast<void>(The("label", kRaiseWords));
+  static_cast<void>(The("panel", "Limits"));
   WaitForFocusOn("AA");
   Session().Press({"Right", "Down", "ctrl+End", "Home"});
   WaitForFocusOn("A2o");

@@ -244,6 +244,9 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   if (window != nullptr && window->windowType() == Qt::Window) {
     return new AccessiblePart(window, QAccessible::Window);
   }
+  // What has a name of its own and no other role is heard as one: a grid, whose cells are its parts.
+  if (window != nullptr && !window->accessibleName().isEmpty())
+    return new AccessiblePart(window, QAccessible::Grouping);
   return nullptr;
 }
 

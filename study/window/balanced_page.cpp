@@ -84,6 +84,8 @@ void BalancedPage::BuildPage() {
     ++column;
   }
   sides->setRowStretch(1, 1);
+  shove_.Grid.setAccessibleName(QStringLiteral("Shove"));
+  call_.Grid.setAccessibleName(QStringLiteral("Call the shove"));
   notice_.setAlignment(Qt::AlignCenter);
 
   auto* words = new QVBoxLayout;

@@ -59,6 +59,7 @@ LimitsPage::LimitsPage(QWidget* parent)
   auto* page = new QHBoxLayout(this);
   page->addWidget(&grid_, kGridShare);
   page->addLayout(side, kPanelShare);
+  grid_.setAccessibleName(QStringLiteral("Limits"));
   grid_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
   setFocusProxy(&grid_);
 

@@ -15,6 +15,7 @@
 #include "study/window/limits_page.h"
 #include "study/window/text_label.h"
 #include "study/window/width_page.h"
+#include "support/utf8.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/placement.h"
@@ -30,6 +31,15 @@ constexpr TwipSize kFirstSize = {.Width = 14400, .Height = 10200};
 constexpr const char* kNothingYet =
     "No analysis has finished yet. Fill in Preflop Call or Preflop Raise in the main window and click Analyze; then "
     "this page shows what follows from it.";
+
+// With names cut that would take the room of the pages; the tool tip and a screen reader have them whole.
+QString ShortWords(Situation situation) {
+  constexpr std::size_t kLongest = 40;
+  for (std::string* name : {&situation.RangeName, &situation.CallingRangeName}) {
+    if (name->size() > kLongest) *name = std::string(WholeCharacters(*name, kLongest)) + "\u2026";
+  }
+  return ToQt(SituationWords(situation));
+}
 
 }  // namespace
 
@@ -99,7 +109,10 @@ void StudyForm::Follow(const Analysis& analysis) {
   if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
   const bool isFirst = !situation_;
   situation_ = StudySituationOf(analysis, *hands_);
-  about_.setText(ToQt(SituationWords(situation_->Asked)));
+  const QString words = ToQt(SituationWords(situation_->Asked));
+  about_.setText(ShortWords(situation_->Asked));
+  about_.setToolTip(words);
+  about_.setAccessibleName(words);
   offered_.reset();
   for (Leaf& leaf : leaves_)
     leaf.IsCurrent = false;
@@ -156,7 +169,7 @@ void StudyForm::FollowOffer() {
   if (!offered_) return;
   const Analysis analysis = *std::exchange(offered_, std::nullopt);
   Follow(analysis);
-  Announce(*this, about_.text());
+  Announce(*this, about_.accessibleName());
 }
 
 StudyForm::Leaf& StudyForm::Current() {

@@ -1,5 +1,6 @@
 #include "study/window/study_form.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QTabBar>
@@ -7,6 +8,7 @@
 
 #include "study/limit_cells.h"
 #include "study/window/limits_page.h"
+#include "study/window/study_work.h"
 #include "testing/heard_announcements.h"
 #include "testing/sample_analysis.h"
 #include "testing/study_stage.h"
@@ -112,19 +114,49 @@ TEST_F(StudyWindow, RemembersItsPlaceAndSize) {
   EXPECT_EQ(again.size(), QSize(1502, 1055));
 }
 
+// Its least room is what the pages need, whatever the ranges are called.
 TEST_F(StudyWindow, CutsNothingOffAtItsLeastSize) {
   Open();
-  Form.Follow(sample::RaiseState());
+  Analysis analysis = sample::RaiseState();
+  analysis.RangeName = std::string(250, 'x');
+  analysis.CallingRangeName = std::string(250, 'y');
+  Form.Follow(analysis);
+  Form.Offer(sample::CallState());
   for (const double scale : {0.75, 1.0, 1.5, 2.0, 3.0}) {
     ShowAtScale(scale);
     Form.resize(Form.minimumSize());
-    QCoreApplication::processEvents();
-    EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the texts want more";
-    for (const QLabel* label : Form.findChildren<QLabel*>()) {
-      if (!label->isVisible()) continue;
-      EXPECT_GE(label->height(), label->heightForWidth(label->width())) << scale << " " << FromQt(label->text());
+    for (const StudyTopic topic :
+         {StudyTopic::kLimits, StudyTopic::kHowFar, StudyTopic::kWidth, StudyTopic::kBalanced}) {
+      Form.ShowPage(topic);
+      const auto* work = Form.Page(topic)->findChild<StudyWork*>();
+      ASSERT_TRUE(QTest::qWaitFor([&] { return work == nullptr || !work->HasWork(); }));
+      for (int rounds = 0; rounds < 3; ++rounds)  // fonts are told of their size, and layouts of the fonts
+        QCoreApplication::processEvents();
+      EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the page wants more";
+      for (const QWidget* part : Form.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(part);
+        const bool isText = label != nullptr || qobject_cast<const QAbstractButton*>(part) != nullptr;
+        if (!isText || !part->isVisible()) continue;
+        const QString text = label != nullptr ? label->text() : part->property("text").toString();
+        EXPECT_TRUE(Form.rect().contains(QRect(part->mapTo(&Form, QPoint()), part->size())))
+            << scale << " " << FromQt(text);
+        if (part->hasHeightForWidth()) {
+          EXPECT_GE(part->height(), part->heightForWidth(part->width())) << scale << " " << FromQt(text);
+        } else {
+          EXPECT_EQ(part->size().expandedTo(part->sizeHint()), part->size()) << scale << " " << FromQt(text);
+        }
+      }
     }
   }
+}
+
+TEST_F(StudyWindow, CutsLongNamesInItsLineAndSaysThemWhole) {
+  Open();
+  Analysis analysis = sample::CallState();
+  analysis.RangeName = std::string(250, 'x');
+  Form.Follow(analysis);
+  EXPECT_THAT(Texts(), HasSubstr("he plays \"" + std::string(40, 'x') + "\u2026\""));
+  EXPECT_EQ(FromQt(Form.findChild<QLabel*>()->accessibleName()), SituationWords(analysis));
 }
 
 }  // namespace
