@@ -5,14 +5,18 @@
 #include <gmock/gmock.h>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "hand/equity_table.h"
 #include "ranges/range_files.h"
 #include "ranges/range_text.h"
 #include "study/balance_texts.h"
 #include "study/window/study_form.h"
+#include "support/files.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
+#include "testing/split_text.h"
 #include "tests/program_run.h"
 #include "tests/screen_reader_journey.h"
 
@@ -76,6 +80,15 @@ class StudyJourney : public ScreenReaderJourney {
   void WaitForFocusOn(std::string_view hand) {
     const Part cell = The("link", hand);
     Session().WaitUntil("the keyboard is on " + std::string(hand), [&] { return Reader().HasFocus(cell); });
+  }
+
+  // A figure of the companion's table, by its line and its column, as the window rounds it.
+  [[nodiscard]] static std::string Told(const std::string& table, const std::string& place, std::size_t column) {
+    for (const std::string& line : Split(table, "\n")) {
+      const std::vector<std::string> cells = Split(line, ",");
+      if (cells.front() == place) return NumberText(RoundTo(LeadingNumber(cells.at(column)), 4));
+    }
+    return "no such line";
   }
 
   [[nodiscard]] QPoint MiddleOf(std::string_view role, std::string_view name) {
@@ -165,6 +178,75 @@ TEST_F(StudyJourney, HisBalancedRangeIsSavedAndChosen) {
     return list && Reader().Description(*list) == "Ours";
   });
   EXPECT_EQ(LoadRangeText(Session().Program(), "Ours"), LoadRangeText(Session().Program(), "Theirs"));
+}
+
+// By keys alone: the hands, the points, and the table, which is the companion's byte for byte.
+TEST_F(StudyJourney, HowFarIsReadOffByKeysAndSaved) {
+  RunRaise();
+  static_cast<void>(OpenStudy());
+  Session().Press({"ctrl+2"});
+  const Part hands = The("text", "Hands, such as A7o 88");
+  Reader().GiveFocus(hands);
+  Session().WaitUntil("the box has the focus", [&] { return Reader().HasFocus(hands); });
+  static_cast<void>(Reader().TakeAnnouncements());
+  Session().Press({"ctrl+a"});
+  Session().Type("K9o 88");
+  Session().Press({"Return"});
+  const std::string figure = NextAnnouncement();
+  EXPECT_THAT(figure, AllOf(StartsWith("Preflop Raise: pot 150, 50 to call. He plays \"Button Shove\" and calls with "
+                                       "\"Big Blind Call\". now 1200 chips, 8 pots. K9o, up to "),
+                            EndsWith(". 88, always")));
+
+  const std::string table =
+      Companion({"sweep", "raise", "--pot", "150", "--call", "50", "--shove", "20:2400:20", "--range", "Button Shove",
+                 "--calling-range", "Big Blind Call", "--hand", "K9o", "--hand", "88", "--format", "csv"});
+  const Part chart = The("chart", figure);
+  Reader().GiveFocus(chart);
+  Session().WaitUntil("the figure has the focus", [&] { return Reader().HasFocus(chart); });
+  EXPECT_THAT(Reader().Description(chart), StartsWith("K9o at 1200 chips, 8 pots, now: " + Told(table, "1200", 2)));
+  static_cast<void>(Reader().TakeAnnouncements());
+  Session().Press({"Up", "Right"});
+  WaitForAnnouncement("88 at 1220 chips, 8.1333 pots: " + Told(table, "1220", 3));
+
+  Session().Press({"ctrl+shift+s"});
+  const Window box = Session().WaitForWindow("Save Table");
+  Session().Press({"ctrl+a"});
+  Session().Type("how far.csv");
+  Session().Press({"Return"});
+  Session().WaitUntilGone(box);
+  WaitForAnnouncement("Saved as how far.csv.");
+  EXPECT_EQ(ReadAllBytes(Session().Program().Path / "Saved Grids" / "how far.csv"), table);
+}
+
+TEST_F(StudyJourney, WidthIsReadOffByMouse) {
+  RunCall();
+  static_cast<void>(OpenStudy());
+  Session().ClickAt(MiddleOf("page tab", "Width"));
+  Session().ClickAt(MiddleOf("text", "Hands, such as A7o 88"));
+  static_cast<void>(Reader().TakeAnnouncements());
+  Session().Press({"ctrl+a"});
+  Session().Type("A7o");
+  Session().Press({"Return"});
+  const std::string figure = NextAnnouncement();
+  EXPECT_THAT(figure, AllOf(StartsWith("Expected value, in chips. now "), EndsWith("%. A7o")));
+
+  const std::string table = Companion(
+      {"sweep", "call", "--pot", "110", "--call", "90", "--width", "1:100:1", "--hand", "A7o", "--format", "csv"});
+  const Part chart = The("chart", figure);
+  const QRect place = Reader().PlaceOf(chart);
+  for (const int x : {place.width() / 3, place.width() / 2}) {
+    Session().MoveTo(place.topLeft() + QPoint(x, place.height() / 2));
+    std::string words;
+    Session().WaitUntil("another point is told", [&] {
+      const std::string before = std::exchange(words, Reader().Description(chart));
+      return words.starts_with("A7o at ") && words == before;
+    });
+    const std::string width = words.substr(7, words.find('%') - 7);
+    EXPECT_EQ(words.substr(0, words.find(" chip")), "A7o at " + width + "%: " + Told(table, width, 2));
+  }
+
+  Session().ClickAt(MiddleOf("push button", "Copy Picture"));
+  WaitForAnnouncement("The picture is copied.");
 }
 
 }  // namespace
