@@ -181,14 +181,15 @@ int LightStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
 
 QSize LightStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const {
-  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (type != CT_MenuItem || entry == nullptr) return size;
-  // What it leaves round the text of an entry, and all of a line between entries, are pixels whatever the scale is.
+  // What it leaves round the text of an entry, and all of a line between entries, are pixels whatever the scale is. It
+  // draws with no less beside the text.
   const bool line = entry->menuItemType == QStyleOptionMenuItem::Separator;
-  const int fixed = line ? size.height() : size.height() - entry->fontMetrics.height();
-  size.rheight() += LinePixels(fixed) - fixed;
-  return size;
+  const int beside = size.width() - contents.width();
+  const int above = line ? size.height() : size.height() - entry->fontMetrics.height();
+  return size + QSize(std::max(LinePixels(beside) - beside, 0), LinePixels(above) - above);
 }
 
 QRect LightStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,

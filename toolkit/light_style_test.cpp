@@ -57,19 +57,27 @@ TEST_F(LightStyleTest, MeasuresInTheScaleOfTheProgram) {
 }
 
 TEST_F(LightStyleTest, EntriesOfMenusGrowWithTheScale) {
-  const auto heights = [] {
+  struct Sizes {
+    int BesideText;
+    int Entry;
+    int Line;
+  };
+  const auto sizes = [](double scale) {
+    ShowAtScale(scale);
     QMenu menu;
-    QAction* const entry = menu.addAction(QStringLiteral("Copy"));
+    QAction* const entry = menu.addAction(QStringLiteral("Save as web page..."));
     QAction* const line = menu.addSeparator();
     menu.addAction(QStringLiteral("Clear"));
-    return std::array{menu.actionGeometry(entry).height(), menu.actionGeometry(line).height()};
+    const QRect place = menu.actionGeometry(entry);
+    return Sizes{place.width() - menu.fontMetrics().horizontalAdvance(entry->text()), place.height(),
+                 menu.actionGeometry(line).height()};
   };
-  ShowAtScale(1);
-  const std::array design = heights();
+  const Sizes design = sizes(1);
   for (const double scale : kScales) {
-    ShowAtScale(scale);
-    for (std::size_t i = 0; i < design.size(); ++i)
-      EXPECT_NEAR(heights().at(i), design.at(i) * scale, 1.5) << scale;
+    const Sizes scaled = sizes(scale);
+    EXPECT_NEAR(scaled.BesideText, design.BesideText * std::max(scale, 1.0), 2) << "no less than it draws with";
+    EXPECT_NEAR(scaled.Entry, design.Entry * scale, 1.5) << scale;
+    EXPECT_NEAR(scaled.Line, design.Line * scale, 1.5) << scale;
   }
 }
 
