@@ -165,14 +165,12 @@ BENCHMARK(ClickDetailsToReport)->Unit(benchmark::kMillisecond);
 // The study window is open at another page, and is turned to that one for a situation that it has not shown yet.
 void AskForPage(benchmark::State& timing, StudyTopic topic, StudyTopic other) {
   Program& program = TheProgram();
-  const auto analyze = [&program] {
-    program.FillInRaise();
-    program.Controls().PictureAt("cmdPreflopEV", 1).Click();
-  };
-  analyze();
+  program.FillInRaise();
+  program.Controls().PictureAt("cmdPreflopEV", 1).Click();
   while (timing.KeepRunning()) {
     timing.PauseTiming();
     program.Window->ShowStudy(other);
+    program.Window->Study().Loaded()->Follow(program.Window->State());
     QCoreApplication::processEvents();
     auto* const page = program.Window->Study().Loaded()->Page(topic);
     const PaintWatch paints(*page);
@@ -188,6 +186,16 @@ void ShowStudyToPaintedLimits(benchmark::State& timing) {
   AskForPage(timing, StudyTopic::kLimits, StudyTopic::kBalanced);
 }
 BENCHMARK(ShowStudyToPaintedLimits)->Unit(benchmark::kMillisecond);
+
+void ShowStudyToPaintedCurves(benchmark::State& timing) {
+  AskForPage(timing, StudyTopic::kHowFar, StudyTopic::kLimits);
+}
+BENCHMARK(ShowStudyToPaintedCurves)->Unit(benchmark::kMillisecond);
+
+void ShowStudyToPaintedWidths(benchmark::State& timing) {
+  AskForPage(timing, StudyTopic::kWidth, StudyTopic::kLimits);
+}
+BENCHMARK(ShowStudyToPaintedWidths)->Unit(benchmark::kMillisecond);
 
 void ShowStudyToBalancedRanges(benchmark::State& timing) {
   AskForPage(timing, StudyTopic::kBalanced, StudyTopic::kLimits);
