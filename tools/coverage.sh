@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 core=(support hand ranges analysis results study shell)
-forms=(toolkit range_dialogs screens)
+forms=(toolkit range_dialogs study_window screens)
 
 tools/install_packages.sh coverage
 [ -f build/coverage/build.ninja ] || cmake --preset coverage >/dev/null

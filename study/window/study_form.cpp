@@ -189,6 +189,9 @@ void StudyForm::ShowCurrent() {
   const std::optional<QString> nothing =
       situation_ ? leaf.Page->WhyNothing(*situation_) : QString::fromLatin1(kNothingYet);
   leaf.Notice->setText(nothing.value_or(QString()));
+  // Before the page goes, or Qt would give the keyboard to whatever comes next.
+  const bool takesKeyboard = nothing && leaf.Page->isAncestorOf(focusWidget());
+  if (takesKeyboard) tabs_.tabBar()->setFocus(Qt::OtherFocusReason);
   leaf.Stack->setCurrentIndex(nothing ? 0 : 1);
   if (nothing) return Announce(*leaf.Notice, *nothing);
   if (std::exchange(leaf.IsCurrent, true)) return;

@@ -66,6 +66,8 @@ TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
 
 TEST_F(StudyWindow, SaysWhereEquitiesAloneHaveNothing) {
   Open();
+  Form.Follow(sample::RaiseState());
+  Limits().ShowHand(HandIndex("KK"));
   Form.Follow(sample::EquityState());
   EXPECT_THAT(Texts(), HasSubstr("asks for no amounts"));
   EXPECT_FALSE(Limits().isVisible());
