@@ -56,8 +56,9 @@ double ShareOf(double value, double low, double high) {
   return std::isfinite(span) ? (value - low) / span : (value / 2 - low / 2) / (high / 2 - low / 2);
 }
 
-std::vector<double> UpTicks(const FigureScale& up) {
-  return RoundTicks(up.Low, up.High, kMostUpTicks);
+// As many as there is room for.
+std::vector<double> UpTicks(const FigureScale& up, double height = kLeastPlotHeight) {
+  return RoundTicks(up.Low, up.High, std::clamp(static_cast<int>(height / kNameHeight), 2, kMostUpTicks));
 }
 
 FigureScale InPots(const FigureScale& scale) {
@@ -246,7 +247,7 @@ double FigureLayout::Y(double value) const {
 }
 
 void FigureLayout::AddAxes(std::vector<FigurePart>& parts) const {
-  for (const double tick : UpTicks(figure_->Up)) {
+  for (const double tick : UpTicks(figure_->Up, bottom_ - top_)) {
     const double y = Y(tick);
     parts.emplace_back(FigureRule{{left_, y}, {right_, y}, kGridPen});
     parts.emplace_back(
@@ -289,7 +290,7 @@ void FigureLayout::AddPots(std::vector<FigurePart>& parts) const {
   }
   if (up.Pot > 0) {
     parts.emplace_back(FigureRule{{right_, top_}, {right_, bottom_}, kAxisPen});
-    for (const double tick : UpTicks(InPots(up))) {
+    for (const double tick : UpTicks(InPots(up), bottom_ - top_)) {
       const double y = Y(tick * up.Pot);
       parts.emplace_back(FigureRule{{right_, y}, {right_ + kTick, y}, kAxisPen});
       parts.emplace_back(FigureText{.At = {right_ + kTick + 4, y + kHalfCapital}, .Text = NumberText(tick)});

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -201,6 +202,21 @@ TEST(FigureLayout, LeavesNotesOutWhereThereIsNoRoomForThem) {
       ASSERT_NE(text, nullptr) << name;
       EXPECT_TRUE(text->At.Y > layout.PlotStart().Y && text->At.Y < layout.PlotEnd().Y + 5) << name;
     }
+  }
+}
+
+TEST(FigureLayout, HasAsManyNumbersAsThereIsRoomFor) {
+  const Figure figure = TwoHands();
+  for (const auto& [height, most] : {std::pair{700.0, 9U}, {200.0, 4U}}) {
+    const FigureLayout layout(figure, {800, height});
+    std::vector<double> places;
+    for (const FigureText& text : PartsOf<FigureText>(layout)) {
+      if (text.Anchor == FigureAnchor::kEnd) places.push_back(text.At.Y);
+    }
+    EXPECT_GE(places.size(), 1U) << height;
+    EXPECT_LE(places.size(), most) << height;
+    for (std::size_t i = 1; i < places.size(); ++i)
+      EXPECT_GT(std::abs(places[i] - places[i - 1]), 15) << height;
   }
 }
 

@@ -257,6 +257,7 @@ std::array<Figure, 2> WidthFigures(const StudySituation& situation, const HandCu
   if (shove) share.Title += ", he must call " + NumberText(asked.ShoveAmount);
   if (shove) share.Subtitle = "He plays " + Quoted(asked.RangeName);
   share.Lines.front().Name = "Profitable";
+  share.Up.Title = "Profitable hands, in %";  // fits a low plot
   share.Up.High = 105;  // a line at 100 is clear of the frame
   values.Up.Title = kValuesTitle;
   CountInPots(values.Up, situation);

@@ -43,7 +43,7 @@ CurvePage::CurvePage(ProgramFolder folder, int figures, QWidget* parent)
   rows_.addLayout(&actions_);
   for (int i = 0; i < figures; ++i) {
     views_.push_back(new FigureView(this));
-    rows_.addWidget(views_.back(), 1);
+    rows_.addWidget(views_.back(), 1 + i);  // the names of the hands, in the last, need more room
   }
   setFocusProxy(views_.front());
 }

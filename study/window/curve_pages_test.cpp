@@ -219,6 +219,7 @@ TEST_F(WidthPageTest, ShowsTheShareAndTheHands) {
   page.ShowHand(HandIndex("K9o"));
   EXPECT_EQ(Boxes(), "K9o|1|100|1");
   WaitFor(page);
+  EXPECT_GT(View(1).height(), 3 * View(0).height() / 2) << "for the names of many hands";
   for (const auto& [view, words] : {std::pair{std::size_t{0}, "Profitable at 30%, now: 85.52%"},
                                     {std::size_t{1}, "K9o at 30%, now: 0.7085 chips, 0.4723 pots"}}) {
     View(view).setFocus(Qt::TabFocusReason);

@@ -24,7 +24,7 @@ namespace {
 
 // Pixels of the design.
 constexpr double kWordsHeight = 26;
-constexpr FigureSize kLeastSize = {420, 210};
+constexpr FigureSize kLeastSize = {420, 170};
 constexpr FigureSize kWantedSize = {820, 500};
 constexpr double kLeftEdge = 12;
 
