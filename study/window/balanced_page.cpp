@@ -30,7 +30,8 @@ constexpr const char* kGridNote = "The file keeps every weight. Editing it on a 
 
 // The amounts that the scenario asks for, the others empty.
 BalanceTexts TextsOf(const StudySituation& situation) {
-  const int count = ScenarioOf(situation.Asked.Mode).AmountCount;
+  const Scenario* const scenario = FindRow(kScenarios, situation.Asked.Mode);
+  const int count = scenario == nullptr ? 0 : scenario->AmountCount;
   const auto text = [count](int amount, double value) { return amount < count ? NumberText(value) : std::string(); };
   return {text(0, situation.Asked.PotSize), text(1, situation.Asked.CallAmount), text(2, situation.Asked.ShoveAmount)};
 }

@@ -30,7 +30,7 @@ class BalancedPage : public StudyPage {
 
   [[nodiscard]] QString Title() const override { return QStringLiteral("Balanced ranges"); }
 
-  /// Never: with its own boxes the page can ask about any situation.
+  /// Never: with its own boxes the page can ask about any situation, before the first analysis too.
   [[nodiscard]] std::optional<QString> WhyNothing(const StudySituation& situation) const override;
   void Show(const StudySituation& situation) override;
 

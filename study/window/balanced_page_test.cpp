@@ -73,6 +73,19 @@ TEST_F(BalancedRanges, AreThoseOfTheSituation) {
   ExpectAnswerTo(Raise);
 }
 
+TEST_F(BalancedRanges, AreThoseOfTypedAmountsBeforeAnyAnalysis) {
+  Open();
+  Form.ShowPage(StudyTopic::kBalanced);
+  EXPECT_THAT(Texts(), HasSubstr("Type the pot."));
+  EXPECT_TRUE(Box(0).hasFocus()) << "the answer is three amounts away";
+  EXPECT_FALSE(OnlyHis().isEnabled()) << "he has no range yet";
+  Type(0, "150");
+  Type(1, "50");
+  Type(2, "62.5");
+  Raise.HisHands = AllHands();
+  ExpectAnswerTo(Raise);
+}
+
 TEST_F(BalancedRanges, TellTheHandOfBothGrids) {
   OpenPage(sample::RaiseState());
   const auto words = [this](int grid, std::string_view hand) {

@@ -28,10 +28,6 @@ namespace {
 constexpr TwipSize kLeastSize = {.Width = 12900, .Height = 9000};
 constexpr TwipSize kFirstSize = {.Width = 14400, .Height = 10200};
 
-constexpr const char* kNothingYet =
-    "No analysis has finished yet. Fill in Preflop Call or Preflop Raise in the main window and click Analyze; then "
-    "this page shows what follows from it.";
-
 // With names cut that would take the room of the pages; the tool tip and a screen reader have them whole.
 QString ShortWords(Situation situation) {
   constexpr std::size_t kLongest = 40;
@@ -106,11 +102,10 @@ void StudyForm::BindKeys() {
 }
 
 void StudyForm::Follow(const Analysis& analysis) {
-  if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
-  const bool isFirst = !situation_;
-  situation_ = StudySituationOf(analysis, *hands_);
-  const QString words = ToQt(SituationWords(situation_->Asked));
-  about_.setText(ShortWords(situation_->Asked));
+  const bool isFirst = situation_.Asked.Mode == AnalysisMode::kNone;
+  situation_ = StudySituationOf(analysis, Hands());
+  const QString words = ToQt(SituationWords(situation_.Asked));
+  about_.setText(ShortWords(situation_.Asked));
   about_.setToolTip(words);
   about_.setAccessibleName(words);
   offered_.reset();
@@ -122,9 +117,9 @@ void StudyForm::Follow(const Analysis& analysis) {
 }
 
 void StudyForm::Offer(const Analysis& analysis) {
-  if (!situation_) return Follow(analysis);
-  const Situation asked = StudySituationOf(analysis, *hands_).Asked;
-  const bool isNew = asked != situation_->Asked;
+  if (situation_.Asked.Mode == AnalysisMode::kNone) return Follow(analysis);
+  const Situation asked = StudySituationOf(analysis, Hands()).Asked;
+  const bool isNew = asked != situation_.Asked;
   follow_.setVisible(isNew);
   offered_.reset();
   if (!isNew) return;
@@ -186,8 +181,7 @@ void StudyForm::FocusPage() {
 
 void StudyForm::ShowCurrent() {
   Leaf& leaf = Current();
-  const std::optional<QString> nothing =
-      situation_ ? leaf.Page->WhyNothing(*situation_) : QString::fromLatin1(kNothingYet);
+  const std::optional<QString> nothing = leaf.Page->WhyNothing(situation_);
   leaf.Notice->setText(nothing.value_or(QString()));
   // Before the page goes, or Qt would give the keyboard to whatever comes next.
   const bool takesKeyboard = nothing && leaf.Page->isAncestorOf(focusWidget());
@@ -195,7 +189,13 @@ void StudyForm::ShowCurrent() {
   leaf.Stack->setCurrentIndex(nothing ? 0 : 1);
   if (nothing) return Announce(*leaf.Notice, *nothing);
   if (std::exchange(leaf.IsCurrent, true)) return;
-  leaf.Page->Show(*situation_);
+  situation_.Hands = &Hands();
+  leaf.Page->Show(situation_);
+}
+
+const HandNumbers& StudyForm::Hands() {
+  if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
+  return *hands_;
 }
 
 }  // namespace quillon

@@ -73,14 +73,15 @@ class StudyForm : public QWidget {
   void ShowCurrent();
   void FocusPage();
   [[nodiscard]] Leaf& Current();
+  [[nodiscard]] const HandNumbers& Hands();
 
   DialogSurroundings around_;
   QLabel& about_;
   QPushButton& follow_;
   QTabWidget& tabs_;
   std::vector<Leaf> leaves_;
-  std::unique_ptr<HandNumbers> hands_;  // read with the first situation
-  std::optional<StudySituation> situation_;
+  std::unique_ptr<HandNumbers> hands_;  // read when they are needed first
+  StudySituation situation_;  // without a scenario before the first analysis
   std::optional<Analysis> offered_;
 };
 

@@ -25,7 +25,7 @@ class StudyPage : public QWidget {
   [[nodiscard]] virtual QString Title() const = 0;
 
   /// Why the page has nothing for a situation, in a sentence; nothing where it has. By default situations without
-  /// amounts have nothing.
+  /// amounts have nothing, and so has the one without a scenario, before the first analysis.
   [[nodiscard]] virtual std::optional<QString> WhyNothing(const StudySituation& situation) const;
 
   /// Shows what the page has for a situation, one that it has something for. `situation` is a value to copy.
