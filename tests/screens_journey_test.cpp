@@ -17,6 +17,7 @@
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
 #include "results/results_grid.h"
+#include "study/window/study_form.h"
 #include "tests/window_journey.h"
 
 namespace quillon {
@@ -27,6 +28,8 @@ namespace fs = std::filesystem;
 const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
 const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
 const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
+// The small blind with 12 big blinds, against any hand.
+const EnteredSituation kSmallBlindShove = {"1.5", "0.5", "11", "Everything", "Big Blind Call"};
 
 // How far a colour may be off, and how much of any one tile of a picture may be further off than that: edges of letters
 // are not drawn alike by every version of the font library. Over a whole picture a lost word would hardly count.
@@ -201,6 +204,31 @@ TEST_P(ScreensJourney, LookAsTheyShould) {
   Session().Type("Worth a shove");
   Session().PutMouseAside();
   ExpectLook(dialog, "new_range");
+}
+
+// The study window is laid out by the size of its texts, so it does not look the same from afar.
+TEST_P(ScreensJourney, TheStudyOfAShoveLooksAsItShould) {
+  if (!HasPictures()) GTEST_SKIP() << "there are no pictures at this scale";
+  StartProgramWithRanges();
+  Analyze(kRaiseRun, kSmallBlindShove);
+  const GridColorTable colors = CellColors();
+  const QPoint hand = OnScreen(ObjectName("lblCards", HandIndex("A7o"))).center();
+  Session().MoveTo(hand);
+  Session().WaitUntil("the panel shows", [&] { return CellColors() != colors; });
+  ExpectLook("shove_a7o");
+
+  Session().RightClickAt(hand);
+  Session().WaitUntil("the menu shows", [&] { return Session().WindowCount() == 2; });
+  Session().Press({"Down", "Down", "Down", "Down", "Return"});
+  const Window study = Session().WaitForWindow(kStudyTitle);
+  Session().PutMouseAside();
+  ExpectLook(study, "study_how_far");
+  Session().Press({"ctrl+1"});
+  ExpectLook(study, "study_limits");
+  Session().Press({"ctrl+3"});
+  ExpectLook(study, "study_width");
+  Session().Press({"ctrl+4"});
+  ExpectLook(study, "study_balanced");
 }
 
 INSTANTIATE_TEST_SUITE_P(Window, ScreensJourney,

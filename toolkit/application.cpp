@@ -1,5 +1,6 @@
 #include "toolkit/application.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QProcess>
@@ -66,13 +67,20 @@ QWidget* WindowOf(const QWidget& control) {
   return window;
 }
 
+// The menu key asks for its menu by an event that is none of a key.
+bool IsOfKey(const QEvent& event) {
+  const auto* const menu = dynamic_cast<const QContextMenuEvent*>(&event);
+  if (menu != nullptr) return menu->reason() == QContextMenuEvent::Keyboard;
+  return dynamic_cast<const QKeyEvent*>(&event) != nullptr;
+}
+
 // Nothing for an event that is not an act of the user, or not yet one on a control.
 std::optional<UserAct> ActOf(QObject* receiver, const QEvent& event) {
   // A shortcut may be that of another window than the one in front, in which the key was pressed.
   if (event.type() == QEvent::Shortcut) return UserAct{.ByKey = true, .Window = QApplication::activeWindow()};
   const auto* control = event.isInputEvent() ? qobject_cast<const QWidget*>(receiver) : nullptr;
   if (control == nullptr) return {};
-  return UserAct{.ByKey = dynamic_cast<const QKeyEvent*>(&event) != nullptr, .Window = WindowOf(*control)};
+  return UserAct{.ByKey = IsOfKey(event), .Window = WindowOf(*control)};
 }
 
 }  // namespace

@@ -282,7 +282,9 @@ TEST_F(SituationsInWindow, TheMenuComesByTheKeyboardToo) {
   Open(kEquityNav);
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, Form.mapToGlobal(QPoint(10, 10)));
   QCoreApplication::sendEvent(&Get("frameContent", kEquityScreen), &event);
-  EXPECT_NE(Form.findChild<QMenu*>(), nullptr);
+  const auto* const menu = Form.findChild<QMenu*>();
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->activeAction(), menu->actions().constFirst()) << "Enter takes it";
 }
 
 // ---- the list
