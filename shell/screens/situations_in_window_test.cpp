@@ -62,7 +62,8 @@ class SituationsInWindow : public MainFormTest {
     auto* const menu = Form.findChild<QMenu*>();
     EXPECT_NE(menu, nullptr);
     for (const QAction* action : menu == nullptr ? QList<QAction*>() : menu->actions())
-      entries.push_back(FromQt(action->text()) + (action->isEnabled() || action->isSeparator() ? "" : " (off)"));
+      entries.push_back(FromQt(action->text() + action->shortcut().toString()) +
+                        (action->isEnabled() || action->isSeparator() ? "" : " (off)"));
     return entries;
   }
   void ChooseInMenu(int entry) {
@@ -266,13 +267,13 @@ TEST_F(SituationsInWindow, NoneIsOpenedDuringARun) {
 TEST_F(SituationsInWindow, AreSavedAndOpenedWithTheMouseAlone) {
   EnterEquity("Tight");
   EXPECT_THAT(MenuOf({Form.width() - 20, Form.height() - 60}),
-              ElementsAre("Save situation...\tCtrl+S", "Open situation...\tCtrl+O", "", "Study\tCtrl+T"));
+              ElementsAre("Save situation...Ctrl+S", "Open situation...Ctrl+O", "", "StudyCtrl+T"));
   ExpectInputBox(kAskName, "By mouse");
   ExpectMessageBox(Told("The situation \"By mouse\" was saved successfully!"));
   ChooseInMenu(0);
   ComeToFront();
   Click("picLogo");
-  EXPECT_THAT(MenuOf(MiddleOf("imgBack")), Contains("Save situation...\tCtrl+S (off)"));
+  EXPECT_THAT(MenuOf(MiddleOf("imgBack")), Contains("Save situation...Ctrl+S (off)"));
   ExpectDialog([](QDialog& dialog) { ClickButton(dialog, QStringLiteral("Open")); });
   ChooseInMenu(1);
   EXPECT_EQ(Screen(), "Equity Only");
