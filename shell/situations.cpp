@@ -13,6 +13,7 @@
 #include "support/folders.h"
 #include "support/joined_text.h"
 #include "support/letter_case.h"
+#include "support/windows_1252.h"
 
 namespace quillon {
 namespace {
@@ -55,7 +56,7 @@ void DropUnknownRanges(ReadSituation& read, const ProgramFolder& folder) {
 
 std::optional<Message> RemarksOn(std::string_view name, const std::vector<std::string>& notTaken) {
   if (notTaken.empty()) return std::nullopt;
-  std::string text = Joined({"The situation \"", name, "\" is open, but this was not taken from its file:\r\n"});
+  std::string text = Joined({"The situation \"", name, "\" is open. Some of its file cannot be used:\r\n"});
   for (const std::string& remark : notTaken)
     text += Joined({"\r\n- ", remark});
   return Message{std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk};
@@ -115,8 +116,8 @@ std::optional<OpenedSituation> OpenSituation(std::string_view name, const Progra
   auto reading = bytes.empty() ? std::variant<ReadSituation, std::string>("its file is missing, empty or unreadable")
                                : SituationOfText(bytes);
   if (const auto* const reason = std::get_if<std::string>(&reading)) {
-    messages.Show(
-        Refusal(Joined({"The situation \"", name, "\" cannot be opened: ", *reason, ".\r\n\r\n", file.string()})));
+    messages.Show(Refusal(Joined(
+        {"The situation \"", name, "\" cannot be opened: ", *reason, ".\r\n\r\n", TextOfFileName(file.string())})));
     return std::nullopt;
   }
   auto& read = std::get<ReadSituation>(reading);
@@ -127,7 +128,9 @@ std::optional<OpenedSituation> OpenSituation(std::string_view name, const Progra
 
 bool AskAndDeleteSituation(std::string_view name, const ProgramFolder& folder, MessageBoxes& messages) {
   if (messages.Show(DeleteRangeQuestion(name)) != MessageAnswer::kYes) return false;
-  DeleteFile(SituationFilePath(folder, name), *folder.Calls);
+  // Somebody else may have deleted it meanwhile.
+  if (const std::filesystem::path file = SituationFilePath(folder, name); IsThere(file))
+    DeleteFile(file, *folder.Calls);
   return true;
 }
 

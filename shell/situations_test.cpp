@@ -188,7 +188,7 @@ TEST_F(Situations, TellWhatTheScreenDoesNotTake) {
   EXPECT_EQ(opened->Situation.Entered.Range, "");
   EXPECT_EQ(opened->Situation.Entered.CallingRange, "");
   const std::string text =
-      "The situation \"Sent\" is open, but this was not taken from its file:\r\n"
+      "The situation \"Sent\" is open. Some of its file cannot be used:\r\n"
       "\r\n- \"id\" has no place on a screen"
       "\r\n- \"calling_hands\" is no range with a name, and the list has no other: 22+"
       "\r\n- There is no range \"Tihgt\" in " +
@@ -248,12 +248,13 @@ TEST_F(Situations, WhoseFileFailsToBeReadAreToldAtEachCall) {
 
 TEST_F(Situations, AreDeletedOnYesAlone) {
   Put("Old.json", "old");
-  messages_.Answers = {MessageAnswer::kNo, MessageAnswer::kCancel, MessageAnswer::kYes};
+  messages_.Answers = {MessageAnswer::kNo, MessageAnswer::kCancel, MessageAnswer::kYes, MessageAnswer::kYes};
   EXPECT_FALSE(AskAndDeleteSituation("Old", Folder(), messages_));
   EXPECT_FALSE(AskAndDeleteSituation("Old", Folder(), messages_));
   EXPECT_TRUE(fs::exists(SituationFilePath(Folder(), "Old")));
   EXPECT_TRUE(AskAndDeleteSituation("Old", Folder(), messages_));
   EXPECT_FALSE(fs::exists(SituationFilePath(Folder(), "Old")));
+  EXPECT_TRUE(AskAndDeleteSituation("Old", Folder(), messages_)) << "somebody else has deleted it";
   EXPECT_EQ(messages_.Shown.front(), (Message{"Delete?", "Do you really want to delete \"Old\"?",
                                               MessageIcon::kQuestion, MessageButtons::kYesNoCancel}));
 }

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "analysis/scenarios.h"
+#include "study/balance_texts.h"
+#include "study/batch_line.h"
 #include "study/limits.h"
 #include "study/sweep_picture.h"
 #include "support/number_text.h"
@@ -83,18 +85,6 @@ double StepFor(double reach, double amount) {
 
 std::string TitleOf(const Situation& asked) {
   return std::string(ScenarioOf(asked.Mode).Name) + ": pot " + NumberText(asked.PotSize);
-}
-
-std::string Quoted(const std::string& name) {
-  return "\"" + name + "\"";
-}
-
-// The share of all hands in a range, those at a weight by their weights.
-double WidthOf(const ClassWeights& weights) {
-  double hands = 0;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    hands += weights.at(static_cast<std::size_t>(index)) * ComboCount(HandLabel(index));
-  return PercentOf(hands, kConcreteHandCount, 2);
 }
 
 void CountInPots(FigureScale& scale, const StudySituation& situation) {
@@ -261,7 +251,7 @@ std::array<Figure, 2> WidthFigures(const StudySituation& situation, const HandCu
   share.Up.High = 105;  // a line at 100 is clear of the frame
   values.Up.Title = kValuesTitle;
   CountInPots(values.Up, situation);
-  const double now = WidthOf(shove ? situation.CallingRange : situation.Range);
+  const double now = PercentOfHands(shove ? situation.CallingRange : situation.Range);
   for (Figure& figure : figures) {
     figure.Across.Low = 0;
     figure.Across.High = 100;

@@ -1,16 +1,10 @@
 #include "study/study_situation.h"
 
 #include "analysis/scenarios.h"
+#include "study/batch_line.h"
 #include "support/number_text.h"
 
 namespace quillon {
-namespace {
-
-std::string Quoted(const std::string& name) {
-  return "\"" + name + "\"";
-}
-
-}  // namespace
 
 double StudySituation::OwnAmount() const {
   const Scenario& scenario = ScenarioOf(Asked.Mode);

@@ -20,7 +20,7 @@ struct Message {
   std::string text;  // line ends are CR LF
   MessageIcon icon = MessageIcon::kInformation;
   MessageButtons buttons = MessageButtons::kOk;
-  bool columns = false;  // letters stand one under another, as a mark under its place does
+  bool columns = false;  // letters are one under another, as a mark under its place does
 
   bool operator==(const Message&) const = default;
 };

@@ -211,7 +211,7 @@ TEST_F(SituationsInWindow, ALineOfABatchIsTakenAsFarAsTheScreenGoes) {
   const HeardAnnouncements heard;
   ExpectDialog([](QDialog& dialog) { dialog.accept(); });
   ExpectMessageBox({"Quillon",
-                    "The situation \"Sent\" is open, but this was not taken from its file:\r\n"
+                    "The situation \"Sent\" is open. Some of its file cannot be used:\r\n"
                     "\r\n- \"id\" has no place on a screen"
                     "\r\n- \"call\" is missing"
                     "\r\n- \"hands\" is no range with a name, and the list has no other: any"

@@ -49,6 +49,24 @@ TEST_F(StudyInWindow, IsAboutTheResultsThatAreAskedAbout) {
   EXPECT_EQ(FromQt(Study().focusWidget()->accessibleName()), "T9s");
 }
 
+// A question about one more hand, or a window that was closed, costs nothing that was typed on another page.
+TEST_F(StudyInWindow, KeepsWhatWasTypedAboutTheSameAnalysis) {
+  RunRaise("150", "50", "400", "Everything", "Tight");
+  Form.ShowStudy(StudyTopic::kBalanced);
+  auto* const pot = Study().Page(StudyTopic::kBalanced)->findChild<QLineEdit*>();
+  ASSERT_NE(pot, nullptr);
+  pot->setText(QStringLiteral("175"));
+  Form.ShowStudy(StudyTopic::kHowFar, HandIndex("K9o"));
+  Study().close();
+  ComeToFront();
+  Press(Qt::Key_T, Qt::ControlModifier);
+  Form.ShowStudy(StudyTopic::kBalanced);
+  EXPECT_EQ(FromQt(pot->text()), "175");
+  RunRaise("150", "50", "300", "Everything", "Tight");
+  Form.ShowStudy(StudyTopic::kBalanced);
+  EXPECT_EQ(FromQt(pot->text()), "150") << "another situation has amounts of its own";
+}
+
 TEST_F(StudyInWindow, HearsOfNoRunThatWasStopped) {
   RunCall("110", "90", "Tight");
   DuringRun("50%", [this] { Press(Qt::Key_Escape); });

@@ -6,15 +6,20 @@ namespace quillon {
 
 void StudyView::Show() {
   StudyForm& form = Form();
-  if (!form.isVisible() && finished_) form.Follow(*finished_);
+  if (!form.isVisible()) FollowLast();
   BringUp(form);
 }
 
 void StudyView::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
   StudyForm& form = Form();
-  if (finished_) form.Follow(*finished_);
+  FollowLast();
   BringUp(form);
   form.ShowPage(topic, hand);
+}
+
+// What the player has typed and found on the pages stays where they are about it already.
+void StudyView::FollowLast() {
+  if (finished_ && !form_->IsAbout(*finished_)) form_->Follow(*finished_);
 }
 
 void StudyView::Finish(const Analysis& analysis) {

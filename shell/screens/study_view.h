@@ -40,6 +40,7 @@ class StudyView {
 
  private:
   StudyForm& Form();
+  void FollowLast();
 
   RangeDialogs& ranges_;
   DialogSurroundings around_;

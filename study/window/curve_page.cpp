@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "shell/start_up.h"
@@ -24,6 +25,19 @@
 #include "toolkit/text.h"
 
 namespace quillon {
+namespace {
+
+// "K9o shove.svg", or "K9o shove 2.svg" where that is taken: the dialog does not ask before it replaces a file.
+std::string FreeName(const std::filesystem::path& folder, const std::string& stem, const std::string& extension) {
+  std::string name = stem + extension;
+  std::error_code unknown;
+  for (int number = 2; std::filesystem::exists(folder / name, unknown); ++number)
+    name = stem + " " + std::to_string(number) + extension;
+  return name;
+}
+
+}  // namespace
+
 CurvePage::CurvePage(ProgramFolder folder, int figures, QWidget* parent)
     : StudyPage(parent),
       folder_(std::move(folder)),
@@ -93,6 +107,11 @@ void CurvePage::TellFigure() {
 
 void CurvePage::ShowBelowBoxes(QWidget& part) {
   rows_.insertWidget(2, &part);
+  QWidget* before = &part;
+  for (FigureView* view : views_) {
+    setTabOrder(before, view);
+    before = view;
+  }
 }
 
 void CurvePage::Tell(const std::string& words) {
@@ -198,7 +217,8 @@ void CurvePage::Save(const char* title, const char* kind, const std::string& byt
   const std::filesystem::path folder = SavedGridsFolderPath(folder_);
   MakeFolderIfMissing(folder, *folder_.Calls);
   const std::string filter = kind == std::string_view("svg") ? "Picture | *.svg" : "Table | *.csv";
-  const std::string name = CurveHandsText(curves_.Hands) + " " + curves_.What + "." + kind;
+  const std::string name =
+      FreeName(folder, CurveHandsText(curves_.Hands) + " " + curves_.What, std::string(".") + kind);
   const std::string file = AskFileName(
       *this, {.Title = title, .Filter = filter, .Folder = folder.string(), .Offered = (folder / name).string()});
   if (file.empty()) return;

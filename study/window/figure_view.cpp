@@ -193,7 +193,8 @@ void FigureView::Show(Figure figure) {
     }
   }
   figure_ = std::move(figure);
-  setAccessibleName(ToQt(FigureWords(*figure_)));
+  // While a figure grows its name stays, and is not to be read again.
+  if (const QString name = ToQt(FigureWords(*figure_)); name != accessibleName()) setAccessibleName(name);
   GoTo(kept ? kept : hasFocus() ? std::optional(StartPoint()) : std::nullopt);
 }
 
@@ -268,7 +269,7 @@ void FigureView::keyPressEvent(QKeyEvent* event) {
   Announce(*this, Words());
 }
 
-// Whoever comes by the keyboard stands on a point at once.
+// Whoever comes by the keyboard is on a point at once.
 void FigureView::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   if (figure_ && !point_ && event->reason() != Qt::MouseFocusReason) GoTo(StartPoint());
@@ -336,7 +337,8 @@ FigurePoint FigureView::Neighbour(FigurePoint from, int linesUp) const {
 void FigureView::GoTo(std::optional<FigurePoint> point) {
   point_ = point;
   update();
-  if (!QAccessible::isActive()) return;
+  const QString words = Words();
+  if (words == std::exchange(told_, words) || !QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::DescriptionChanged);
   QAccessible::updateAccessibility(&event);
 }

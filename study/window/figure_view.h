@@ -60,6 +60,7 @@ class FigureView : public QWidget {
 
   std::optional<Figure> figure_;
   std::optional<FigurePoint> point_;
+  QString told_;  // the words that a screen reader knows
 };
 
 }  // namespace quillon

@@ -116,15 +116,18 @@ void StudyForm::Follow(const Analysis& analysis) {
   follow_.hide();
 }
 
+bool StudyForm::IsAbout(const Analysis& analysis) {
+  return StudySituationOf(analysis, Hands()).Asked == situation_.Asked;
+}
+
 void StudyForm::Offer(const Analysis& analysis) {
   if (situation_.Asked.Mode == AnalysisMode::kNone) return Follow(analysis);
-  const Situation asked = StudySituationOf(analysis, Hands()).Asked;
-  const bool isNew = asked != situation_.Asked;
+  const bool isNew = !IsAbout(analysis);
   follow_.setVisible(isNew);
   offered_.reset();
   if (!isNew) return;
   offered_ = analysis;
-  const QString words = ToQt(SituationWords(asked));
+  const QString words = ToQt(SituationWords(StudySituationOf(analysis, Hands()).Asked));
   follow_.setToolTip(words);
   follow_.setAccessibleDescription(words);
   Announce(*this, QStringLiteral("Follow the new analysis: %1").arg(words));

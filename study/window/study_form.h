@@ -33,6 +33,9 @@ class StudyForm : public QWidget {
   /// Takes a finished analysis as the situation that the window is about. The equity table must have been loaded.
   void Follow(const Analysis& analysis);
 
+  /// Whether the window is about an analysis that asks the same.
+  [[nodiscard]] bool IsAbout(const Analysis& analysis);
+
   /// Tells of a finished analysis: the first is followed at once, a later one only offered, where it asks something
   /// else.
   void Offer(const Analysis& analysis);

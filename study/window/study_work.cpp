@@ -32,6 +32,7 @@ StudyWork::StudyWork(QWidget* parent)
   bar_.setRange(0, kWhole);
   bar_.setTextVisible(false);
   button_.setAutoDefault(true);
+  setFocusProxy(&button_);
   connect(&button_, &QPushButton::clicked, this, &StudyWork::StopOrGoOn);
   connect(&timer_, &QTimer::timeout, this, [this] { GoOnFor(kBetweenEvents); });
   hide();

@@ -39,8 +39,9 @@ void WidthPage::Begin(const std::vector<std::int16_t>& hands, const Steps& steps
     watch.start();
     const std::int64_t count = steps.Count();
     auto done = static_cast<std::int64_t>(curves->Rows.size());
-    for (; done < count && watch.elapsed() < kStepMilliseconds; ++done)
+    do {  // at least one, however busy the machine is: no rows are no figure
       curves->Rows.push_back(WidthRow(About(), curves->Hands, BestFirst(), steps.Text(done)));
+    } while (++done < count && watch.elapsed() < kStepMilliseconds);
     Draw(*curves);
     if (done == count) return std::nullopt;
     return static_cast<double>(done) / static_cast<double>(count);
