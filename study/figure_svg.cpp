@@ -82,8 +82,8 @@ class Markup {
   }
 
   void operator()(const FigureRing& ring) {
-    Add({"<circle class=\"limit\" cx=\"", Number(ring.At.X), "\" cy=\"", Number(ring.At.Y), "\" r=\"",
-         Number(kFigureRingRadius), "\" fill=\"#fff\"", Attribute("stroke", ring.Pen.Color),
+    Add({R"(<circle class="limit" cx=")", Number(ring.At.X), "\" cy=\"", Number(ring.At.Y), "\" r=\"",
+         Number(kFigureRingRadius), R"(" fill="#fff")", Attribute("stroke", ring.Pen.Color),
          Attribute("stroke-width", Number(ring.Pen.Width)), "/>\n"});
   }
 

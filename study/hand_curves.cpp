@@ -118,7 +118,7 @@ std::variant<std::vector<std::int16_t>, std::string> ReadCurveHands(std::string_
                                                                     const HandOrder& bestFirst) {
   const NotationReading reading = ReadRangeNotation(notation, bestFirst);
   if (const auto* const error = std::get_if<NotationError>(&reading)) return error->Reason;
-  const ClassWeights& weights = std::get<ClassWeights>(reading);
+  const auto& weights = std::get<ClassWeights>(reading);
   std::vector<std::int16_t> hands;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     if (weights.at(static_cast<std::size_t>(index)) > 0) hands.push_back(index);

@@ -65,7 +65,7 @@ QPixmap GridImageView::Picture() const {
   Frame& panel = controls_.FrameAt("frameHover");
   const bool shown = panel.isVisible();
   panel.hide();
-  const QPixmap picture = controls_.FrameAt("frameContent", kGridScreen).grab(GridArea());
+  QPixmap picture = controls_.FrameAt("frameContent", kGridScreen).grab(GridArea());
   panel.setVisible(shown);
   return picture;
 }

@@ -46,8 +46,8 @@ BalancedPage::BalancedPage(DialogSurroundings surroundings, QWidget* parent)
       work_(*new StudyWork(this)),
       notice_(*MakeTextLabel(this, kTextPoints)),
       grids_(*new QWidget(this)),
-      shove_(MakeSide()),
-      call_(MakeSide()),
+      shove_{*MakeTextLabel(&grids_, kHeadingPoints, true), *new ClassGridView(&grids_)},
+      call_{*MakeTextLabel(&grids_, kHeadingPoints, true), *new ClassGridView(&grids_)},
       worth_(*MakeTextLabel(this, kTextPoints)),
       hand_(*MakeTextLabel(this, kTextPoints, true)),
       legend_(*new LegendView(this)),
@@ -55,10 +55,6 @@ BalancedPage::BalancedPage(DialogSurroundings surroundings, QWidget* parent)
   BuildPage();
   Bind();
   setFocusProxy(boxes_.front());
-}
-
-BalancedPage::Side BalancedPage::MakeSide() {
-  return {*MakeTextLabel(&grids_, kHeadingPoints, true), *new ClassGridView(&grids_)};
 }
 
 void BalancedPage::BuildPage() {

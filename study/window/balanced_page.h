@@ -46,7 +46,6 @@ class BalancedPage : public StudyPage {
     ClassCells Cells{};
   };
 
-  [[nodiscard]] Side MakeSide();
   [[nodiscard]] BalanceTexts Texts() const;
   void BuildPage();
   void Bind();

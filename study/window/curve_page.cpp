@@ -17,6 +17,7 @@
 #include "study/window/text_label.h"
 #include "support/files.h"
 #include "support/folders.h"
+#include "support/joined_text.h"
 #include "support/windows_1252.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/form_keys.h"
@@ -32,7 +33,7 @@ std::string FreeName(const std::filesystem::path& folder, const std::string& ste
   std::string name = stem + extension;
   std::error_code unknown;
   for (int number = 2; std::filesystem::exists(folder / name, unknown); ++number)
-    name = stem + " " + std::to_string(number) + extension;
+    name = Joined({stem, " ", std::to_string(number), extension});
   return name;
 }
 

@@ -63,10 +63,10 @@ class StudyForm : public QWidget {
  private:
   /// A page, and the notice that shows in its place while it has nothing to show.
   struct Leaf {
-    StudyTopic Topic;
-    StudyPage* Page;
-    QLabel* Notice;
-    QStackedWidget* Stack;
+    StudyTopic Topic = StudyTopic::kLimits;
+    StudyPage* Page = nullptr;
+    QLabel* Notice = nullptr;
+    QStackedWidget* Stack = nullptr;
     bool IsCurrent = false;  // has been shown the situation
   };
 
