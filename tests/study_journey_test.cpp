@@ -227,7 +227,8 @@ TEST_F(StudyJourney, WidthIsReadOffByMouse) {
   Session().Press({"ctrl+a"});
   Session().Type("A7o");
   Session().Press({"Return"});
-  const std::string figure = NextAnnouncement();
+  std::string figure = NextAnnouncement();
+  if (figure == "Working out the widths...") figure = NextAnnouncement();  // which only a slow machine says
   EXPECT_THAT(figure, AllOf(StartsWith("Expected value, in chips. now "), EndsWith("%. A7o")));
 
   const std::string table = Companion(
