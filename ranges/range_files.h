@@ -26,9 +26,8 @@ struct ProgramFolder {
 [[nodiscard]] std::string RangeFileName(std::string_view name);
 
 /// The file of the range called `name` in the range folder (FileOfName): the name, ".txt". The empty name gives the
-/// file
-/// ".txt". Names are told apart as the file system does it: where it heeds case, "button" and "Button" are two ranges,
-/// and a file "Button.TXT" is neither of them.
+/// file ".txt". Names are told apart as the file system does it: where it heeds case, "button" and "Button" are two
+/// ranges, and a file "Button.TXT" is neither of them.
 [[nodiscard]] std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name);
 
 /// The content of a range's file without its line end; if there are several line ends, without the last. A file that is

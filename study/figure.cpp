@@ -7,6 +7,7 @@
 
 #include "support/number_text.h"
 #include "support/rounding.h"
+#include "support/utf8.h"
 
 namespace quillon {
 namespace {
@@ -124,14 +125,11 @@ std::string MarkLabel(const FigureMark& mark, const FigureScale& across) {
   return mark.Text + " " + (across.Unit == "%" ? number + "%" : number);
 }
 
-// No longer than that on the page, with an ellipsis for what is left out; never within a letter.
+// No longer than that on the page, with an ellipsis for what is left out.
 std::string CutTo(std::string text, double width) {
   if (WidthOf(text) <= width) return text;
-  auto length = static_cast<std::size_t>(std::max(0.0, width / kLetter - 1));
-  const auto isWithinALetter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
-  while (length > 0 && isWithinALetter(text[length]))
-    --length;
-  return text.substr(0, length) + "\u2026";
+  const auto length = static_cast<std::size_t>(std::max(0.0, width / kLetter - 1));
+  return std::string(WholeCharacters(text, length)) + "\u2026";
 }
 
 std::string Told(double value) {

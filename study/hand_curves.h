@@ -1,9 +1,9 @@
 #pragma once
 
 // What hands are worth while one thing goes up and the rest of a situation stays: the amount that the move is about, or
-// the width of the opponent's range, of which the calling range is meant where he may fold. These are sweeps
-// ("study/sweep.h"), figure for figure, with what their figures show beside the lines: the amount or the width at hand,
-// and the limit of each hand.
+// the width of the opponent's range; where he may fold, of the range he calls with. These are sweeps ("study/sweep.h"),
+// figure for figure, with what their figures show beside the lines: the amount or the width at hand, and the limit of
+// each hand.
 
 #include <array>
 #include <cstdint>
