@@ -6,13 +6,10 @@
 #include <utility>
 
 #include "ranges/range_text.h"
+#include "support/joined_text.h"
 
 namespace quillon {
 namespace {
-
-std::string Quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
-}
 
 Message Told(std::string text) {
   return {std::string(kApplicationTitle), std::move(text), MessageIcon::kInformation, MessageButtons::kOk};

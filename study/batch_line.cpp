@@ -182,10 +182,6 @@ BatchLine ReadBatchLine(std::string_view line) {
   return read;
 }
 
-std::string Quoted(std::string_view text) {
-  return Joined({"\"", text, "\""});
-}
-
 std::string QuotedKey(BatchKey key) {
   return Quoted(kBatchKeys.at(key));
 }

@@ -53,8 +53,7 @@ struct BatchLine {
 /// Never fails.
 [[nodiscard]] BatchLine ReadBatchLine(std::string_view line);
 
-/// A text, or a key, in double quotes.
-[[nodiscard]] std::string Quoted(std::string_view text);
+/// A key in double quotes.
 [[nodiscard]] std::string QuotedKey(BatchKey key);
 
 /// The scenario that a line names, or why it names none.

@@ -7,9 +7,9 @@
 
 #include "analysis/scenarios.h"
 #include "study/balance_texts.h"
-#include "study/batch_line.h"
 #include "study/limits.h"
 #include "study/sweep_picture.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 

@@ -1,7 +1,7 @@
 #include "study/study_situation.h"
 
 #include "analysis/scenarios.h"
-#include "study/batch_line.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 
 namespace quillon {

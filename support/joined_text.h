@@ -22,4 +22,9 @@ namespace quillon {
   return text;
 }
 
+/// A text in double quotes.
+[[nodiscard]] inline std::string Quoted(std::string_view text) {
+  return Joined({"\"", text, "\""});
+}
+
 }  // namespace quillon
