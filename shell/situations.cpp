@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <system_error>
 #include <utility>
 
 #include "ranges/range_lists.h"
@@ -36,11 +35,6 @@ Message ReplaceQuestion(std::string_view name) {
   return {"Replace?",
           Joined({"A situation with the name \"", name, "\" already exists.\r\n\r\nDo you want to replace it?"}),
           MessageIcon::kQuestion, MessageButtons::kYesNo};
-}
-
-bool IsThere(const std::filesystem::path& file) {
-  std::error_code unknown;
-  return std::filesystem::exists(std::filesystem::symlink_status(file, unknown));
 }
 
 // A range that no list has is not chosen, and a remark says so.

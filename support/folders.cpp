@@ -29,14 +29,13 @@ std::filesystem::path PathOfBytes(const std::filesystem::path& folder, std::stri
   return folder.string().append("/").append(name);
 }
 
-// A link to nowhere is a file too: it is listed, and it can be deleted.
+}  // namespace
+
 bool IsThere(const std::filesystem::path& file) {
   std::error_code error;
   static_cast<void>(std::filesystem::symlink_status(file, error));
   return !error;
 }
-
-}  // namespace
 
 std::filesystem::path ExecutableFolder() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path();

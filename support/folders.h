@@ -29,6 +29,9 @@ void MakeFolder(const std::filesystem::path& path, FileCalls& calls = SystemFile
 /// failure too.
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
+/// Whether anything of that name is there. A link to nowhere is a file too: it is listed, and it can be deleted.
+[[nodiscard]] bool IsThere(const std::filesystem::path& file);
+
 /// The names of all files in a folder as text (TextOfFileName), in no order; not those of folders in it nor of the
 /// program's own scratch files. RunTimeError, with the folder and the reason, if it cannot be read: "Path not found"
 /// where it is missing.

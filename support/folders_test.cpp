@@ -13,6 +13,7 @@
 
 #include "support/run_time_error.h"
 #include "testing/closed_input.h"
+#include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_folder.h"
 
@@ -155,6 +156,28 @@ TEST_F(Folders, AreMadeIfMissingAndElseLeftAlone) {
 TEST_F(Folders, OneThatMayNotBeListedIsFatalWhereItIsNeeded) {
   WatchedCalls calls(FailAll(Call::kOpen, EACCES));
   EXPECT_THROW(MakeFolderIfMissing(Home(), calls), RunTimeError);
+}
+
+TEST_F(Folders, ListTheirFilesAsText) {
+  for (const char* name : {"b.txt", "a", "K\xE4se", ".quillon-4711-0.tmp"})
+    std::ofstream(Home() / name) << "x";
+  fs::create_directory(Home() / "inner");
+  fs::create_symlink(Home() / "nowhere", Home() / "dangling");
+  EXPECT_THAT(FileNamesIn(Home()), testing::UnorderedElementsAre("b.txt", "a", "Käse", "dangling"));
+  EXPECT_EQ(FaultOf([&] { return FileNamesIn(Home() / "gone"); }), RunTimeFault::kPathNotFound);
+}
+
+TEST_F(Folders, HaveTheFileOfANameUnderItsOldBytesToo) {
+  const auto file = [&](std::string_view name) { return FileOfName(Home(), name).filename().string(); };
+  EXPECT_EQ(file("Käse"), "Käse") << "a new one is UTF-8";
+  std::ofstream(Home() / "K\xE4se") << "old";
+  EXPECT_EQ(file("Käse"), "K\xE4se");
+  std::ofstream(Home() / "Käse") << "new";
+  EXPECT_EQ(file("Käse"), "Käse");
+  EXPECT_EQ(FileOfName(Home(), "/etc"), Home() / "etc") << "no name leads out by being absolute";
+  fs::create_symlink("nowhere", Home() / "dangling");
+  EXPECT_TRUE(IsThere(Home() / "dangling"));
+  EXPECT_FALSE(IsThere(Home() / "nowhere"));
 }
 
 }  // namespace

@@ -98,8 +98,9 @@ void Control::focusInEvent(QFocusEvent* event) {
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) Q_EMIT FocusReached();
 }
 
-void Control::focusOutEvent(QFocusEvent* /*event*/) {
-  Q_EMIT FocusLeft();
+// A menu brings the focus back when it closes.
+void Control::focusOutEvent(QFocusEvent* event) {
+  if (event->reason() != Qt::PopupFocusReason) Q_EMIT FocusLeft();
 }
 
 void Control::enterEvent(QEnterEvent* /*event*/) {

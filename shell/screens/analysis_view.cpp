@@ -33,6 +33,7 @@ void AnalysisView::ClickNav(std::int16_t index) {
   // The end of a run leads here.
   Label& results = parts_.Controls.LabelAt("lblResults");
   Announce(results, results.Text());
+  if (const Analysis* const finished = std::exchange(finished_, nullptr)) parts_.Finished(*finished);
 }
 
 void AnalysisView::SetResultsShown(bool shown) {
@@ -76,7 +77,7 @@ void AnalysisView::Yield() {
 
 void AnalysisView::PresentResults(const Analysis& analysis) {
   parts_.Results.Present(analysis);
-  parts_.Finished(analysis);
+  finished_ = &analysis;
 }
 
 }  // namespace quillon

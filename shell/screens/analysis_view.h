@@ -59,6 +59,7 @@ class AnalysisView : public AnalysisWindow {
   Parts parts_;
   UserAct stop_;
   bool isStopping_ = false;  // until the stop has been answered
+  const Analysis* finished_ = nullptr;  // until its results show
 };
 
 }  // namespace quillon

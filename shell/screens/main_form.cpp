@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPushButton>
 #include <algorithm>
@@ -172,6 +173,8 @@ void MainForm::closeEvent(QCloseEvent* event) {
 }
 
 void MainForm::contextMenuEvent(QContextMenuEvent* event) {
+  // A menu would take the release of what is held down, and it would stay pressed.
+  if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) return;
   PopUpMenu(*this, event->globalPos(),
             {{.Text = QStringLiteral("Save situation..."),
               .Action = [this] { situations_.Save(); },

@@ -67,6 +67,22 @@ TEST_F(StudyInWindow, KeepsWhatWasTypedAboutTheSameAnalysis) {
   EXPECT_EQ(FromQt(pot->text()), "150") << "another situation has amounts of its own";
 }
 
+// An offer is of the analysis that finished last, also of one that finished while the window was closed.
+TEST_F(StudyInWindow, OffersNothingWhereItIsAboutTheLastAnalysis) {
+  RunCall("110", "90", "Tight");
+  Press(Qt::Key_T, Qt::ControlModifier);
+  ComeToFront();
+  RunCall("110", "80", "Tight");
+  const QPushButton* const follow = Study().findChild<QPushButton*>();
+  EXPECT_TRUE(follow->isVisible());
+  Study().close();
+  ComeToFront();
+  RunCall("110", "90", "Tight");
+  Press(Qt::Key_T, Qt::ControlModifier);
+  EXPECT_THAT(About(), HasSubstr("90 to call"));
+  EXPECT_FALSE(follow->isVisible());
+}
+
 TEST_F(StudyInWindow, HearsOfNoRunThatWasStopped) {
   RunCall("110", "90", "Tight");
   DuringRun("50%", [this] { Press(Qt::Key_Escape); });

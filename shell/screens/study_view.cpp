@@ -17,9 +17,14 @@ void StudyView::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
   form.ShowPage(topic, hand);
 }
 
-// What the player has typed and found on the pages stays where they are about it already.
+// What the player has typed and found on the pages stays where they are about it already; then there is nothing to
+// offer, either.
 void StudyView::FollowLast() {
-  if (finished_ && !form_->IsAbout(*finished_)) form_->Follow(*finished_);
+  if (!finished_) return;
+  if (form_->IsAbout(*finished_))
+    form_->Offer(*finished_);
+  else
+    form_->Follow(*finished_);
 }
 
 void StudyView::Finish(const Analysis& analysis) {

@@ -86,6 +86,14 @@ TEST_F(BalancedRanges, AreThoseOfTypedAmountsBeforeAnyAnalysis) {
   ExpectAnswerTo(Raise);
 }
 
+TEST_F(BalancedRanges, TakeTheAmountsOfTheFirstAnalysis) {
+  Open();
+  Form.ShowPage(StudyTopic::kBalanced);
+  Type(0, "7");
+  Form.Offer(sample::RaiseState());
+  EXPECT_EQ(Box(0).text(), QStringLiteral("150"));
+}
+
 TEST_F(BalancedRanges, TellTheHandOfBothGrids) {
   OpenPage(sample::RaiseState());
   const auto words = [this](int grid, std::string_view hand) {
