@@ -22,7 +22,7 @@ struct LineQuestion {
 inline constexpr LineQuestion kAskNewName = {"What do you want to name the range?", "Rename Range"};
 inline constexpr LineQuestion kAskSaveAsName = {"What do you want to call the new range?", "Pick a Name"};
 inline constexpr LineQuestion kAskRename = {"What do you want to rename the range to?", "Rename Range"};
-inline constexpr LineQuestion kAskTopShare = {"How many percent of all hands, the best first?", "Top x%"};
+inline constexpr LineQuestion kAskTopShare = {"What percentage of all hands, the best first?", "Top x%"};
 
 /// After a save of the range `name`.
 [[nodiscard]] Message RangeSavedMessage(std::string_view name);

@@ -50,7 +50,7 @@ void DropUnknownRanges(ReadSituation& read, const ProgramFolder& folder) {
 
 std::optional<Message> RemarksOn(std::string_view name, const std::vector<std::string>& notTaken) {
   if (notTaken.empty()) return std::nullopt;
-  std::string text = Joined({"The situation \"", name, "\" is open. Some of its file cannot be used:\r\n"});
+  std::string text = Joined({"The situation \"", name, "\" is open. Some of the file cannot be used:\r\n"});
   for (const std::string& remark : notTaken)
     text += Joined({"\r\n- ", remark});
   return Message{std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk};

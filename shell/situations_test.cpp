@@ -188,9 +188,9 @@ TEST_F(Situations, TellWhatTheScreenDoesNotTake) {
   EXPECT_EQ(opened->Situation.Entered.Range, "");
   EXPECT_EQ(opened->Situation.Entered.CallingRange, "");
   const std::string text =
-      "The situation \"Sent\" is open. Some of its file cannot be used:\r\n"
+      "The situation \"Sent\" is open. Some of the file cannot be used:\r\n"
       "\r\n- \"id\" has no place on a screen"
-      "\r\n- \"calling_hands\" is no range with a name, and the list has no other: 22+"
+      "\r\n- \"calling_hands\" is a notation, and the list takes only ranges with a name: 22+"
       "\r\n- There is no range \"Tihgt\" in " +
       RangeFolderPath(Folder()).string() + ". The nearest names: \"Tight\", \"Any\"";
   EXPECT_EQ(opened->Remarks, (Message{"Quillon", text, MessageIcon::kExclamation, MessageButtons::kOk}));

@@ -6,6 +6,7 @@
 
 #include "analysis/expressions.h"
 #include "ranges/range_lookup.h"
+#include "support/ascii_text.h"
 #include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/utf8.h"
@@ -108,6 +109,7 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
     std::string_view end = std::string_view(token).substr(token.size() - std::min(token.size(), kShown));
     while (!end.empty() && !StartsUtf8Character(end.front()))
       end.remove_prefix(1);
+    end = Trimmed(end, " \t\r\n");
     if (error.id == kNumberOverflow)
       Break(Joined({end, " is beyond all numbers"}));
     else

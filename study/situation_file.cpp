@@ -34,8 +34,8 @@ std::string Shown(std::string_view notation) {
 
 std::string TakeRange(const BatchLine& line, BatchKey nameKey, BatchKey handsKey, std::vector<std::string>& notTaken) {
   if (line[handsKey]) {
-    notTaken.push_back(
-        Joined({QuotedKey(handsKey), " is no range with a name, and the list has no other: ", Shown(*line[handsKey])}));
+    notTaken.push_back(Joined(
+        {QuotedKey(handsKey), " is a notation, and the list takes only ranges with a name: ", Shown(*line[handsKey])}));
   } else if (!line[nameKey]) {
     notTaken.push_back(Missing(nameKey, handsKey));
   }

@@ -145,18 +145,18 @@ TEST(SituationFile, AnyLineOfABatchIsTakenAsFarAsTheScreenGoes) {
        R"({"mode":"raise","pot":3,"call":2,"shove":9,"hands":"any","calling_hands":"top 30%"})",
        kRaise,
        {"3", "2", "9", "", ""},
-       {"\"hands\" is no range with a name, and the list has no other: any",
-        "\"calling_hands\" is no range with a name, and the list has no other: top 30%"}},
+       {"\"hands\" is a notation, and the list takes only ranges with a name: any",
+        "\"calling_hands\" is a notation, and the list takes only ranges with a name: top 30%"}},
       {"a notation beside a name",
        R"({"mode":"equity","range":"A","hands":"AA"})",
        kEquity,
        {"", "", "", "A", ""},
-       {"\"hands\" is no range with a name, and the list has no other: AA"}},
+       {"\"hands\" is a notation, and the list takes only ranges with a name: AA"}},
       {"a long notation, up to a whole character",
        R"({"mode":"equity","range":"A","hands":")" + std::string(99, 'A') + "ääää\"}",
        kEquity,
        {"", "", "", "A", ""},
-       {"\"hands\" is no range with a name, and the list has no other: " + std::string(99, 'A') + "..."}},
+       {"\"hands\" is a notation, and the list takes only ranges with a name: " + std::string(99, 'A') + "..."}},
       {"what is missing leaves its box empty",
        R"({"mode":"raise","call":2})",
        kRaise,
@@ -205,6 +205,7 @@ TEST(SituationFile, WithoutAnObjectOrAModeHoldsNoSituation) {
       {"no JSON", "AA (1), AKs (1), ", "this is not JSON from byte 1 on: A"},
       {"a line that is cut", R"({"mode":"ca)", "this is not JSON from byte"},
       {"an unknown key before the cut", R"({"stack":1,"mode":"ca)", "this is not JSON from byte"},
+      {"a line that is cut before its end", "{\"pot\": 1.5, \r\n", "this is not JSON from byte 15 on: 1.5,"},
       {"an object over two lines", "{\"mode\":\n\"equity\"}", "this is not JSON from byte"},
       {"UTF-16", "{\0\"\0"s, "this is not JSON from byte 2 on"},
       {"a NUL character", "{\"mode\":\"equity\"}\0"s, "this is not JSON from byte 18 on: a NUL character"},
@@ -219,6 +220,7 @@ TEST(SituationFile, WithoutAnObjectOrAModeHoldsNoSituation) {
     const auto* const reason = std::get_if<std::string>(&read);
     ASSERT_NE(reason, nullptr) << c.rule;
     EXPECT_THAT(*reason, HasSubstr(c.reason)) << c.rule;
+    EXPECT_EQ(reason->find_last_not_of(" \r\n"), reason->size() - 1) << c.rule << ": it goes into a sentence";
   }
 }
 

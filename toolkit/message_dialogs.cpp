@@ -2,6 +2,7 @@
 
 #include <QInputDialog>
 #include <QLabel>
+#include <QScreen>
 #include <algorithm>
 
 #include "toolkit/application.h"
@@ -56,12 +57,24 @@ QLabel& TextOf(const QMessageBox& box) {
   return *box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
 }
 
-// Qt breaks lines where a box becomes wider than 500 pixels, whatever its scale; the text has this much of them.
+// Qt makes no box wider, whatever it holds, and cuts the rest off.
+int WidestBox(const QMessageBox& box) {
+  constexpr int kSmallScreen = 1024;
+  constexpr int kBeside = 480;
+  constexpr int kMost = 1000;
+  const int screen = box.screen()->availableGeometry().width();
+  return screen <= kSmallScreen ? screen : std::min(screen - kBeside, kMost);
+}
+
+// Qt breaks lines where a box becomes wider than 500 pixels, whatever its scale; the text has this much of them, and
+// the icon and what is round both have some more.
 void WidenToScale(const QMessageBox& box) {
   constexpr int kTextWidth = 427;
+  constexpr int kBesideText = 72;
   if (PixelScale() <= 1) return;
   QLabel& text = TextOf(box);
-  text.setMinimumWidth(std::min(text.sizeHint().width(), LinePixels(kTextWidth)));
+  text.setMinimumWidth(
+      std::min({text.sizeHint().width(), LinePixels(kTextWidth), WidestBox(box) - LinePixels(kBesideText)}));
 }
 
 }  // namespace

@@ -255,6 +255,22 @@ TEST(MessageDialogs, BreakLinesAlikeAtEachScale) {
   }
 }
 
+TEST(MessageDialogs, ShowAllOfALongTextAtEachScale) {
+  std::string text;
+  for (int i = 0; i < 4; ++i)
+    text += "The pot size must be greater than the amount you have to call. ";
+  for (const double scale : {1.0, 1.5, 2.0, 2.5, 3.0}) {
+    ShowAtScale(scale);
+    QMessageBox box;
+    FillMessageBox(box, {.title = "Pot Size", .text = text, .icon = MessageIcon::kStop});
+    box.show();
+    const auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    EXPECT_LE(label->geometry().right(), box.width()) << scale;
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << scale;
+  }
+  ShowAtScale(1);
+}
+
 TEST(MessageDialogs, AskForALineOfText) {
   ExpectInputBox({"What is the range's name?", "New Range", "Button"}, "Big Blind \u00C4");
 

@@ -27,7 +27,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const InputQuestion kShareQuestion = {"How many percent of all hands, the best first?", "Top x%", ""};
+const InputQuestion kShareQuestion = {"What percentage of all hands, the best first?", "Top x%", ""};
 
 Message NotARange(const std::string& marked) {
   return {.title = "This Is Not a Range", .text = marked, .icon = MessageIcon::kExclamation, .columns = true};

@@ -211,10 +211,10 @@ TEST_F(SituationsInWindow, ALineOfABatchIsTakenAsFarAsTheScreenGoes) {
   const HeardAnnouncements heard;
   ExpectDialog([](QDialog& dialog) { dialog.accept(); });
   ExpectMessageBox({"Quillon",
-                    "The situation \"Sent\" is open. Some of its file cannot be used:\r\n"
+                    "The situation \"Sent\" is open. Some of the file cannot be used:\r\n"
                     "\r\n- \"id\" has no place on a screen"
                     "\r\n- \"call\" is missing"
-                    "\r\n- \"hands\" is no range with a name, and the list has no other: any"
+                    "\r\n- \"hands\" is a notation, and the list takes only ranges with a name: any"
                     "\r\n- There is no range \"Nobody\" in " +
                         RangeFolderPath(Program.Folder()).string() +
                         ". The nearest names: \"Nothing\", \"Pairs\", \"Tight\"",

@@ -12,7 +12,7 @@ std::optional<QString> StudyPage::WhyNothing(const StudySituation& situation) co
   }
   if (ScenarioOf(situation.Asked.Mode).HasExpectedValue()) return std::nullopt;
   return QStringLiteral(
-      "\u201cEquity Only\u201d asks for no amounts, so nothing is won or lost here. Analyze a Preflop Call or a "
+      "\"Equity Only\" asks for no amounts, so nothing is won or lost here. Analyze a Preflop Call or a "
       "Preflop Raise.");
 }
 
