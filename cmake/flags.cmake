@@ -27,8 +27,14 @@ target_compile_options(quillon_flags INTERFACE
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64)$")
   target_compile_options(quillon_flags INTERFACE $<${hardened}:-fcf-protection=full>)
 endif()
-target_link_options(quillon_flags INTERFACE
-  $<${hardened}:-pie> $<${hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>)
+if(WIN32)
+  # Windows 10 and later, with names in UTF-16, and without the macros that hide std::min and std::max.
+  target_compile_definitions(quillon_flags INTERFACE
+    _WIN32_WINNT=0x0A00 WINVER=0x0A00 NOMINMAX UNICODE _UNICODE)
+else()
+  target_link_options(quillon_flags INTERFACE
+    $<${hardened}:-pie> $<${hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>)
+endif()
 
 if(QUILLON_SANITIZE)
   target_compile_options(quillon_flags INTERFACE

@@ -70,7 +70,7 @@ void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::str
                  std::string_view text) {
   RequireFileName(oldName);
   const std::filesystem::path oldFile = RangeFilePath(folder, oldName);
-  if (const std::error_code error = ErrorOfFile(oldFile)) FailOnFile(error.value(), oldFile);
+  if (const std::error_code error = ErrorOfFile(oldFile)) FailOnFile(error.default_error_condition().value(), oldFile);
 
   SaveRangeText(folder, newName, text);
   if (!HoldsContentOf(oldFile, RangeFilePath(folder, newName))) DeleteRange(folder, oldName);

@@ -25,9 +25,9 @@ bool IsInstalled(const fs::path& executableFolder) {
 
 // Where programs keep a user's data.
 fs::path DataHome(const EnvironmentVariable& variable) {
-  fs::path dataHome = variable("XDG_DATA_HOME");
+  fs::path dataHome = PathOf(variable("XDG_DATA_HOME"));
   if (dataHome.is_absolute()) return dataHome;
-  const fs::path home = variable("HOME");
+  const fs::path home = PathOf(variable("HOME"));
   if (home.is_absolute()) return home / ".local" / "share";
   throw RunTimeError(RunTimeFault::kPathNotFound,
                      "HOME and XDG_DATA_HOME are not set, and one of them has to say where ranges are kept");
@@ -56,7 +56,8 @@ void CopyExamples(const fs::path& from, const fs::path& to, FileCalls& calls) {
   fs::directory_iterator entry(from, error);
   for (const fs::directory_iterator end; !error && entry != end; entry.increment(error))
     CopyFile(entry->path(), to / entry->path().filename(), calls);
-  if (error) FailOnFile(error.value(), from, "; it is part of the package, so install Quillon again");
+  if (error)
+    FailOnFile(error.default_error_condition().value(), from, "; it is part of the package, so install Quillon again");
 }
 
 // A folder that is to get its name when it is complete, and is gone if it never does.
@@ -97,7 +98,7 @@ void MakeProgramFolder(const fs::path& path, const fs::path& examples, FileCalls
 fs::path SharedFolderPath(const fs::path& executableFolder) {
   if (!IsInstalled(executableFolder)) return executableFolder;
   const std::string marker = ReadAllBytes(executableFolder / kPackageMarker);
-  return (executableFolder / marker.substr(0, marker.find('\n'))).lexically_normal();
+  return (executableFolder / PathOf(std::string_view(marker).substr(0, marker.find('\n')))).lexically_normal();
 }
 
 fs::path ProgramFolderPath(const fs::path& executableFolder, const EnvironmentVariable& variable, FileCalls& calls) {

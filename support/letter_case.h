@@ -1,7 +1,7 @@
 #pragma once
 
-// Letters of every script, whatever the user's locale is and whether it is installed: the tables of Unicode as the C
-// library keeps them for its locale "C.UTF-8".
+// Letters of every script, whatever the user's locale is and whether it is installed: the tables of Unicode as the
+// system keeps them.
 
 #include <string>
 #include <string_view>
@@ -14,6 +14,10 @@ namespace quillon {
 ///
 ///     "ŠZ" -> "šz"      "Бета" -> "бета"      "ς" -> "σ"      "ß" -> "ß"      "_a" -> "_a"
 [[nodiscard]] std::u32string WithoutCase(std::string_view text);
+
+/// The other case of a letter; a character that has none is as it is.
+[[nodiscard]] char32_t CapitalLetter(char32_t character);
+[[nodiscard]] char32_t SmallLetter(char32_t character);
 
 /// Whether a character is a letter of any script.
 [[nodiscard]] bool IsLetter(char32_t character);

@@ -2,6 +2,8 @@
 
 #include <cerrno>
 
+#include "support/files.h"
+
 namespace quillon {
 namespace {
 
@@ -53,7 +55,6 @@ RunTimeFault RunTimeFaultOf(int systemError) {
     case ENOENT:
       return RunTimeFault::kFileNotFound;
     case ENOSPC:
-    case EDQUOT:
       return RunTimeFault::kDiskFull;
     case EACCES:
     case EPERM:
@@ -70,7 +71,7 @@ RunTimeFault RunTimeFaultOf(int systemError) {
     case EBUSY:
       return RunTimeFault::kPathFileAccess;
     default:
-      return RunTimeFault::kDeviceError;
+      return IsQuotaError(systemError) ? RunTimeFault::kDiskFull : RunTimeFault::kDeviceError;
   }
 }
 

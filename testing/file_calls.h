@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
-#include <fcntl.h>
 #include <functional>
 #include <optional>
 #include <span>
@@ -24,7 +23,7 @@ enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFo
 struct MadeCall {
   quillon::Call Call;
   std::string Path;
-  int Flags = 0;
+  std::optional<OpenFor> Purpose = {};  // of kOpen
 };
 
 /// Passes every call on to the system, keeps a record of it, and makes the chosen ones fail.
@@ -37,15 +36,15 @@ class WatchedCalls : public FileCalls {
   explicit WatchedCalls(Fault fault = {}, std::size_t largestPiece = std::string_view::npos)
       : fault_(std::move(fault)), largestPiece_(largestPiece) {}
 
-  int Open(const std::string& path, int flags, mode_t mode) override {
-    const auto error = Record({Call::kOpen, path, flags});
-    return error ? *error : system_.Open(path, flags, mode);
+  int Open(const std::string& path, OpenFor purpose, FileMode mode) override {
+    const auto error = Record({Call::kOpen, path, purpose});
+    return error ? *error : system_.Open(path, purpose, mode);
   }
-  ssize_t Read(int file, std::span<char> buffer) override {
+  std::ptrdiff_t Read(int file, std::span<char> buffer) override {
     const auto error = Record({Call::kRead, {}});
     return error ? *error : system_.Read(file, buffer.first(std::min(buffer.size(), largestPiece_)));
   }
-  ssize_t Write(int file, std::string_view bytes) override {
+  std::ptrdiff_t Write(int file, std::string_view bytes) override {
     const auto error = Record({Call::kWrite, {}});
     return error ? *error : system_.Write(file, bytes.substr(0, largestPiece_));
   }
@@ -75,7 +74,7 @@ class WatchedCalls : public FileCalls {
     const auto error = Record({Call::kMode, {}});
     return error ? *error : system_.Mode(file);
   }
-  int SetMode(int file, mode_t mode) override {
+  int SetMode(int file, FileMode mode) override {
     const auto error = Record({Call::kSetMode, {}});
     return error ? *error : system_.SetMode(file, mode);
   }
@@ -91,7 +90,7 @@ class WatchedCalls : public FileCalls {
   [[nodiscard]] std::vector<std::string> ScratchFiles() const {
     std::vector<std::string> paths;
     for (const MadeCall& call : made_) {
-      if (call.Call == Call::kOpen && (call.Flags & O_CREAT) != 0) paths.push_back(call.Path);
+      if (call.Purpose == OpenFor::kCreating) paths.push_back(call.Path);
     }
     return paths;
   }

@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
-#include <fcntl.h>
 #include <map>
 #include <span>
 #include <string>
@@ -30,28 +29,27 @@ class MemoryFiles final : public FileCalls {
   std::map<int, OpenFile> Opened;
   int NextFile = 3;
 
-  int Open(const std::string& path, int flags, mode_t /*mode*/) override {
+  int Open(const std::string& path, OpenFor purpose, FileMode /*mode*/) override {
     if (path.size() - path.rfind('/') > kLongestName + 1) return -ENAMETOOLONG;
     const bool isThere = Contents.contains(path);
-    if ((flags & O_DIRECTORY) == 0) {
-      if (!isThere && (flags & O_CREAT) == 0) return -ENOENT;
-      if (isThere && (flags & O_EXCL) != 0) return -EEXIST;
+    if (purpose != OpenFor::kListing) {
+      if (isThere == (purpose == OpenFor::kCreating)) return isThere ? -EEXIST : -ENOENT;
       Contents.try_emplace(path);
     }
     Opened[NextFile] = {path, 0};
     return NextFile++;
   }
-  ssize_t Read(int file, std::span<char> buffer) override {
+  std::ptrdiff_t Read(int file, std::span<char> buffer) override {
     OpenFile& from = Opened.at(file);
     const std::string_view rest = std::string_view(Contents[from.path]).substr(from.place);
     const std::size_t count = std::min(rest.size(), buffer.size());
     std::memcpy(buffer.data(), rest.data(), count);
     from.place += count;
-    return static_cast<ssize_t>(count);
+    return static_cast<std::ptrdiff_t>(count);
   }
-  ssize_t Write(int file, std::string_view bytes) override {
+  std::ptrdiff_t Write(int file, std::string_view bytes) override {
     Contents[Opened.at(file).path] += bytes;
-    return static_cast<ssize_t>(bytes.size());
+    return static_cast<std::ptrdiff_t>(bytes.size());
   }
   int Sync(int /*file*/) override { return 0; }
   int Close(int file) override { return Opened.erase(file) == 1 ? 0 : -EBADF; }
@@ -64,7 +62,7 @@ class MemoryFiles final : public FileCalls {
   int Unlink(const std::string& path) override { return Contents.erase(path) == 1 ? 0 : -ENOENT; }
   int MakeFolder(const std::string& /*path*/) override { return 0; }
   int Mode(int /*file*/) override { return 0644; }
-  int SetMode(int /*file*/, mode_t /*mode*/) override { return 0; }
+  int SetMode(int /*file*/, FileMode /*mode*/) override { return 0; }
   int TryLock(int /*file*/) override { return 0; }
 
   /// Whether every file that was opened has been closed.

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <exception>
-#include <fcntl.h>
 #include <future>
 #include <istream>
 #include <memory>
@@ -14,14 +13,13 @@
 #include <string>
 #include <system_error>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
 #include "results/analysis_json.h"
 #include "study/batch.h"
 #include "support/files.h"
-#include "support/usable_cores.h"
+#include "support/this_process.h"
 #include "tools/bounded_queue.h"
 #include "tools/commands.h"
 #include "tools/interrupt.h"
@@ -156,7 +154,7 @@ class Filter {
 class OpenFile {
  public:
   OpenFile(const std::string& path, CommandInputs& inputs)
-      : descriptor_(SystemFileCalls().Open(path, O_RDONLY | O_CLOEXEC, 0)) {
+      : descriptor_(SystemFileCalls().Open(path, OpenFor::kStreaming, 0)) {
     if (descriptor_ < 0) inputs.Refuse(path + ": " + std::error_code(-descriptor_, std::generic_category()).message());
   }
   OpenFile(const OpenFile&) = delete;
@@ -164,7 +162,7 @@ class OpenFile {
   OpenFile& operator=(const OpenFile&) = delete;
   OpenFile& operator=(OpenFile&&) = delete;
   ~OpenFile() {
-    if (descriptor_ >= 0) close(descriptor_);
+    if (descriptor_ >= 0) SystemFileCalls().Close(descriptor_);
   }
 
   [[nodiscard]] int Descriptor() const { return descriptor_; }

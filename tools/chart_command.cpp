@@ -12,7 +12,7 @@
 #include "study/stack_chart.h"
 #include "study/study_pages.h"
 #include "support/number_text.h"
-#include "support/usable_cores.h"
+#include "support/this_process.h"
 #include "tools/class_grid.h"
 #include "tools/commands.h"
 #include "tools/progress_bar.h"

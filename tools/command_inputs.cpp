@@ -134,7 +134,7 @@ std::string CheckLabel(const std::string& label) {
 }
 
 CommandInputs::CommandInputs(const Surroundings& surroundings, const std::string& folder)
-    : surroundings_(surroundings), folder_{folder}, hands_(ReadHandNumbers()) {}
+    : surroundings_(surroundings), folder_{PathOf(folder)}, hands_(ReadHandNumbers()) {}
 
 const ProgramFolder& CommandInputs::Folder() {
   if (folder_.Path.empty()) folder_.Path = surroundings_.ProgramFolder();

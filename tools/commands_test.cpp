@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <fcntl.h>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -216,7 +215,7 @@ TEST(Notation, OfAWeightAboveOneIsNotRead) {
 // Input that cannot be read is not input that is empty.
 TEST(StandardInput, ThatCannotBeReadEndsTheRun) {
   const CompanionProgram program;
-  const int folder = SystemFileCalls().Open("/", O_RDONLY | O_CLOEXEC, 0);
+  const int folder = SystemFileCalls().Open("/", OpenFor::kListing, 0);
   ASSERT_GE(folder, 0);
   for (const Arguments& arguments : {Arguments{"notation", "--hands", "-"}, Arguments{"batch"}}) {
     DescriptorInput unreadable(folder, "standard input");

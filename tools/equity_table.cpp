@@ -12,11 +12,10 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <unistd.h>
 #include <vector>
 
 #include "support/files.h"
-#include "support/usable_cores.h"
+#include "support/this_process.h"
 #include "tools/equity_enumeration.h"
 #include "tools/equity_row_text.h"
 
@@ -85,7 +84,7 @@ void Describe(CLI::App& app, Request& request) {
 
 // Shows the share done, on one line that is overwritten, if standard error is a terminal.
 ProgressReport MakeProgressReport() {
-  if (isatty(fileno(stderr)) == 0) return {};
+  if (!IsTerminal(kErrorStream)) return {};
   return [shown = std::size_t{0}](std::size_t done, std::size_t total) mutable {
     const std::size_t percent = 100 * done / total;
     if (percent == shown) return;
@@ -105,7 +104,7 @@ int Write(const Request& request, const std::vector<std::string>& rows) {
     std::cout << text << std::flush;
     return std::cout ? 0 : Fail("standard output cannot be written");
   }
-  const std::filesystem::path path = request.out;
+  const std::filesystem::path path = PathOf(request.out);
   std::error_code unknown;
   // What is not a file (a device, a pipe, a folder) must not be replaced by one.
   if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown)) {

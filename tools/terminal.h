@@ -2,7 +2,7 @@
 
 // What of the companion's output suits the terminal that it is printed on.
 
-#include "support/environment.h"
+#include "support/this_process.h"
 
 namespace quillon {
 

@@ -1,5 +1,3 @@
-#include "tools/interrupt.h"
-
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -10,6 +8,7 @@
 #include <unistd.h>
 
 #include "support/files.h"
+#include "tools/interrupt.h"
 
 namespace quillon {
 namespace {

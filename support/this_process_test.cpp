@@ -1,4 +1,4 @@
-#include "support/usable_cores.h"
+#include "support/this_process.h"
 
 #include <gtest/gtest.h>
 #include <sched.h>

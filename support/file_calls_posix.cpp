@@ -1,0 +1,82 @@
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "support/files.h"
+
+namespace quillon {
+namespace {
+
+constexpr mode_t kFolderMode = 0777;  // less what the user's umask takes off
+constexpr mode_t kPermissions = 0777;  // what of a file's mode is its permissions
+
+template <typename Result>
+Result OrError(Result result) {
+  return result < 0 ? static_cast<Result>(-errno) : result;
+}
+
+int FlagsOf(OpenFor purpose) {
+  switch (purpose) {
+    case OpenFor::kReading:
+      return O_RDONLY | O_NONBLOCK;
+    case OpenFor::kStreaming:
+      return O_RDONLY;
+    case OpenFor::kWriting:
+      return O_WRONLY | O_NONBLOCK;
+    case OpenFor::kRewriting:
+      return O_WRONLY | O_TRUNC;
+    case OpenFor::kCreating:
+      return O_WRONLY | O_CREAT | O_EXCL;
+    case OpenFor::kListing:
+      return O_RDONLY | O_DIRECTORY;
+  }
+  return O_RDONLY;
+}
+
+class PosixFileCalls final : public FileCalls {
+ public:
+  int Open(const std::string& path, OpenFor purpose, FileMode mode) override {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the call is so
+    return OrError(::open(path.c_str(), FlagsOf(purpose) | O_CLOEXEC, mode));
+  }
+  std::ptrdiff_t Read(int file, std::span<char> buffer) override {
+    return OrError(::read(file, buffer.data(), buffer.size()));
+  }
+  std::ptrdiff_t Write(int file, std::string_view bytes) override {
+    return OrError(::write(file, bytes.data(), bytes.size()));
+  }
+  int Sync(int file) override { return OrError(::fsync(file)); }
+  int Close(int file) override { return OrError(::close(file)); }
+  int Rename(const std::string& from, const std::string& to) override {
+    return OrError(std::rename(from.c_str(), to.c_str()));
+  }
+  int Unlink(const std::string& path) override { return OrError(::unlink(path.c_str())); }
+  int MakeFolder(const std::string& path) override { return OrError(::mkdir(path.c_str(), kFolderMode)); }
+  int Mode(int file) override {
+    struct stat status {};
+    const int result = OrError(::fstat(file, &status));
+    return result < 0 ? result : static_cast<int>(status.st_mode & kPermissions);
+  }
+  int SetMode(int file, FileMode mode) override { return OrError(::fchmod(file, mode)); }
+  int TryLock(int file) override { return OrError(::flock(file, LOCK_EX | LOCK_NB)); }
+};
+
+}  // namespace
+
+FileCalls& SystemFileCalls() {
+  static PosixFileCalls calls;
+  return calls;
+}
+
+std::filesystem::path PathOf(std::string_view text) {
+  return text;
+}
+
+bool IsQuotaError(int systemError) {
+  return systemError == EDQUOT;
+}
+
+}  // namespace quillon
