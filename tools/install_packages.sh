@@ -4,6 +4,7 @@
 #   tools/install_packages.sh run      what ./run needs: to build the programs and to run them
 #   tools/install_packages.sh check    what ./check needs: that, and what tests and benchmarks are made of
 #   tools/install_packages.sh lint     what .ci/run needs on top of ./check
+#   tools/install_packages.sh windows  what the preset windows needs on top of ./check
 #   tools/install_packages.sh newer    what the nightly check of a newer compiler needs on top of ./check
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
@@ -33,6 +34,8 @@ check+=(bash zsh fish groff-base)
 check+=(desktop-file-utils appstream)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
+# Programs for Windows, and what runs them.
+windows=(g++-mingw-w64-x86-64-posix wine wine64)
 newer=(clang-16)
 coverage=("${fuzz[@]}" llvm-14)
 pages=(chromium)
@@ -49,6 +52,7 @@ case "${1:-}" in
   check) wanted=("${check[@]}") ;;
   lint) wanted=("${check[@]}" "${lint[@]}") ;;
   fuzz) wanted=("${check[@]}" "${fuzz[@]}") ;;
+  windows) wanted=("${check[@]}" "${windows[@]}") ;;
   newer) wanted=("${check[@]}" "${newer[@]}") ;;
   coverage) wanted=("${check[@]}" "${coverage[@]}") ;;
   reliability) wanted=("${check[@]}" "${lint[@]}" "${coverage[@]}" "${reliability[@]}") ;;
@@ -57,7 +61,7 @@ case "${1:-}" in
   pages) wanted=("${check[@]}" "${pages[@]}") ;;
   screens) wanted=("${check[@]}" "${screens[@]}") ;;
   *)
-    echo "Usage: $0 run|check|lint|newer|fuzz|coverage|pages|screens|package|bare|reliability" >&2
+    echo "Usage: $0 run|check|lint|newer|windows|fuzz|coverage|pages|screens|package|bare|reliability" >&2
     exit 2
     ;;
 esac

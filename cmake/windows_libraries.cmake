@@ -1,0 +1,16 @@
+# What Debian has for itself only, made for Windows: the libraries of headers alone as they are, GoogleTest from its
+# sources. The headers of this machine's own system must not be found along with them.
+function(quillon_borrow_headers TARGET NAME)
+  set(borrowed ${CMAKE_BINARY_DIR}/borrowed/${NAME})
+  file(MAKE_DIRECTORY ${borrowed})
+  file(CREATE_LINK /usr/include/${NAME} ${borrowed}/${NAME} SYMBOLIC)
+  add_library(${TARGET} INTERFACE IMPORTED GLOBAL)
+  target_include_directories(${TARGET} SYSTEM INTERFACE ${borrowed})
+endfunction()
+
+quillon_borrow_headers(nlohmann_json::nlohmann_json nlohmann)
+quillon_borrow_headers(CLI11::CLI11 CLI)
+
+if(QUILLON_TESTS)
+  add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+endif()

@@ -1,0 +1,16 @@
+#pragma once
+
+// Text at the border of Windows, which keeps names in UTF-16. Only sources for that system include this.
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// UTF-8 as UTF-16; a byte that is not UTF-8 becomes U+FFFD, which no name holds.
+[[nodiscard]] std::wstring WideText(std::string_view text);
+
+/// UTF-16 as UTF-8; half a surrogate pair becomes U+FFFD.
+[[nodiscard]] std::string NarrowText(std::wstring_view text);
+
+}  // namespace quillon

@@ -1,0 +1,82 @@
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <fcntl.h>
+#include <io.h>
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+#include "support/text_windows.h"
+#include "support/this_process.h"
+
+namespace quillon {
+namespace {
+
+HANDLE HandleOf(int file) {
+  return reinterpret_cast<HANDLE>(_get_osfhandle(file));  // NOLINT: that is what the number is
+}
+
+}  // namespace
+
+std::filesystem::path ExecutableFolder() {
+  constexpr std::size_t kLongest = 1U << 16U;
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD size = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    if (size == 0 || path.size() > kLongest)
+      throw std::filesystem::filesystem_error(
+          "the program's folder", std::error_code(static_cast<int>(GetLastError()), std::system_category()));
+    if (size < path.size()) return std::filesystem::path(path.substr(0, size)).parent_path();
+    path.resize(path.size() * 2);
+  }
+}
+
+unsigned ProcessNumber() {
+  return GetCurrentProcessId();
+}
+
+unsigned UsableCores() {
+  DWORD_PTR mine = 0;
+  DWORD_PTR all = 0;
+  if (GetProcessAffinityMask(GetCurrentProcess(), &mine, &all) == 0) return 1;
+  return std::max(1U, static_cast<unsigned>(std::popcount(static_cast<unsigned long long>(mine))));
+}
+
+std::string ProcessVariable(const char* name) {
+  const wchar_t* const value = _wgetenv(WideText(name).c_str());
+  return value == nullptr ? "" : NarrowText(value);
+}
+
+// The C library takes "NUL" for a terminal too.
+bool IsTerminal(int file) {
+  DWORD mode = 0;
+  return GetConsoleMode(HandleOf(file), &mode) != 0;
+}
+
+std::vector<std::string> ProcessArguments(int /*count*/, char** /*arguments*/) {
+  int count = 0;
+  // Those of `main` are in the code page of the system, which lacks most characters.
+  wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int i = 1; wide != nullptr && i < count; ++i)
+    arguments.push_back(NarrowText(wide[i]));
+  LocalFree(wide);
+  return arguments;
+}
+
+void PrepareStandardStreams() {
+  constexpr std::array<std::pair<int, int>, 3> kUseless = {
+      {{kInputStream, _O_WRONLY}, {kOutputStream, _O_RDONLY}, {kErrorStream, _O_RDONLY}}};
+  for (const auto& [stream, direction] : kUseless) {
+    if (_get_osfhandle(stream) < 0) static_cast<void>(_open("NUL", direction | _O_NOINHERIT));
+    _setmode(stream, _O_BINARY);
+    DWORD mode = 0;
+    const HANDLE console = HandleOf(stream);
+    if (stream != kInputStream && GetConsoleMode(console, &mode) != 0)
+      SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+  }
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+}  // namespace quillon
