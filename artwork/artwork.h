@@ -1,8 +1,8 @@
 #pragma once
 
-// The pictures of the window, compiled into the program as SVG sources. A picture is found among Qt's resources by the
-// name of its file, as in ":/artwork/logo.svg", and its default size is the one that it has on a screen of 96 dots to
-// the inch. README.md beside this header tells what makes them one family.
+// The pictures of the window, compiled into the program: as SVG sources, or as the build has drawn them. A picture is
+// found among Qt's resources by "toolkit/artwork_painting.h", and its default size is the one that it has on a screen
+// of 96 dots to the inch. README.md beside this header tells what makes them one family.
 
 namespace quillon {
 

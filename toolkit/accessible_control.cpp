@@ -7,9 +7,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -17,6 +14,7 @@
 #include <utility>
 
 #include "support/message_boxes.h"
+#include "toolkit/announcement.h"
 #include "toolkit/application.h"
 #include "toolkit/frame.h"
 #include "toolkit/picture.h"
@@ -248,19 +246,6 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   if (window != nullptr && !window->accessibleName().isEmpty())
     return new AccessiblePart(window, QAccessible::Grouping);
   return nullptr;
-}
-
-// Qt before 6.8 has no event for an announcement; the signal is the one that it sends since, from the same connection.
-void SendAnnouncement(QWidget* speaker, const QString& text) {
-  const QDBusConnection bus(QStringLiteral("a11y"));
-  if (!bus.isConnected()) return;
-  constexpr int kPolite = 1;
-  const QAccessible::Id id = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(speaker));
-  QDBusMessage signal =
-      QDBusMessage::createSignal(QStringLiteral("/org/a11y/atspi/accessible/%1").arg(id),
-                                 QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
-  signal << QString() << kPolite << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
-  bus.send(signal);
 }
 
 bool TellsThatSomethingComesOrGoes(QAccessible::Event type) {

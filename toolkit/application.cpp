@@ -13,13 +13,13 @@
 
 #include "support/run_time_error.h"
 #include "toolkit/accessible_control.h"
+#include "toolkit/clipboard.h"
 #include "toolkit/desktop_scale.h"
 #include "toolkit/fonts.h"
 #include "toolkit/light_look.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/placement.h"
 #include "toolkit/text.h"
-#include "toolkit/x11_clipboard.h"
 
 namespace quillon {
 namespace {

@@ -1,6 +1,5 @@
 #include "toolkit/light_style.h"
 
-#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "toolkit/picture.h"
 #include "toolkit/twip_geometry.h"
 
 namespace quillon {
@@ -211,13 +211,13 @@ QRect LightStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
 QIcon LightStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
   switch (icon) {
     case SP_MessageBoxInformation:
-      return QIcon(QStringLiteral(":/artwork/message_information.svg"));
+      return ArtworkIcon(QStringLiteral("message_information"));
     case SP_MessageBoxWarning:
-      return QIcon(QStringLiteral(":/artwork/message_exclamation.svg"));
+      return ArtworkIcon(QStringLiteral("message_exclamation"));
     case SP_MessageBoxQuestion:
-      return QIcon(QStringLiteral(":/artwork/message_question.svg"));
+      return ArtworkIcon(QStringLiteral("message_question"));
     case SP_MessageBoxCritical:
-      return QIcon(QStringLiteral(":/artwork/message_stop.svg"));
+      return ArtworkIcon(QStringLiteral("message_stop"));
     default:
       return QProxyStyle::standardIcon(icon, option, widget);
   }

@@ -3,17 +3,10 @@
 #include <QFile>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QSvgRenderer>
+
+#include "toolkit/artwork_painting.h"
 
 namespace quillon {
-namespace {
-
-QString ArtworkFile(const QString& name) {
-  return QStringLiteral(":/artwork/%1.svg").arg(name);
-}
-
-}  // namespace
-
 Picture::Picture(QWidget* parent) : Control(parent) {}
 
 void Picture::SetArtwork(const QString& name) {
@@ -40,16 +33,18 @@ QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale) {
   QPixmap pixmap;
   if (QPixmapCache::find(key, &pixmap)) return pixmap;
 
-  QSvgRenderer renderer(ArtworkFile(name));
-  if (!renderer.isValid()) return {};
   pixmap = QPixmap((QSizeF(size) * scale).toSize());
   pixmap.setDevicePixelRatio(scale);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
-  renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+  if (!PaintArtwork(name, painter, QRectF(QPointF(0, 0), QSizeF(size)))) return {};
   painter.end();
   QPixmapCache::insert(key, pixmap);
   return pixmap;
+}
+
+QIcon ArtworkIcon(const QString& name) {
+  return QIcon(ArtworkFile(name));
 }
 
 }  // namespace quillon

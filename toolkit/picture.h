@@ -4,6 +4,7 @@
 // of 100%. One that can be clicked may have a look of its own for the mouse over it and for being pressed: files of its
 // name followed by "_hover" and "_pressed".
 
+#include <QIcon>
 #include <QPixmap>
 #include <QString>
 
@@ -17,7 +18,7 @@ class Picture : public Control {
  public:
   explicit Picture(QWidget* parent);
 
-  /// Takes the file ":/artwork/NAME.svg"; the empty name shows nothing.
+  /// Takes the picture of that name; the empty name shows nothing.
   void SetArtwork(const QString& name);
   [[nodiscard]] const QString& Artwork() const { return name_; }
 
@@ -31,7 +32,10 @@ class Picture : public Control {
   bool hasLooks_ = false;
 };
 
-/// The picture ":/artwork/NAME.svg" for a widget of that size and scale. Drawn once and kept; empty if there is none.
+/// The picture of that name for a widget of that size and scale. Drawn once and kept; empty if there is none.
 [[nodiscard]] QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale);
+
+/// The same in whatever size it is wanted in.
+[[nodiscard]] QIcon ArtworkIcon(const QString& name);
 
 }  // namespace quillon

@@ -7,10 +7,8 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
-#include <climits>
-#include <dirent.h>
-#include <memory>
 
+#include "support/files.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -18,6 +16,8 @@
 
 namespace quillon {
 namespace {
+
+constexpr qsizetype kLongestName = 255;  // of a file, in bytes: every system takes as many
 
 // The dialog's "what it says | the files it lists" in Qt's form, the list in brackets.
 QString NameFilter(std::string_view filter) {
@@ -59,7 +59,7 @@ class FileNameDialog : public QFileDialog {
       return;
     }
     const QString name = file.fileName();
-    if (name.isEmpty() || QFile::encodeName(name).size() > NAME_MAX) return;  // no file can be called so
+    if (name.isEmpty() || name.toUtf8().size() > kLongestName) return;  // no file can be called so
     fileName_ = file.absoluteFilePath();
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): QFileDialog's would look for marks in the name
   }
@@ -69,14 +69,21 @@ class FileNameDialog : public QFileDialog {
   QString fileName_;
 };
 
-// A folder as Qt knows it, whose names of files are Unicode. One with a path that is not UTF-8 is reached by way of
-// this process's own hold on it, as long as this lives.
+// A folder as Qt knows it, whose names of files are Unicode. One with a path that is not UTF-8, as only POSIX has, is
+// reached by way of this process's own hold on it, as long as this lives.
 class FolderForQt {
  public:
   explicit FolderForQt(const std::string& path) : path_(path), name_(ToQt(path)) {
     if (FromQt(name_) == path) return;
-    hold_.reset(opendir(path.c_str()));
-    if (hold_ != nullptr) name_ = QStringLiteral("/proc/self/fd/%1").arg(dirfd(hold_.get()));
+    hold_ = SystemFileCalls().Open(path, OpenFor::kListing, 0);
+    if (hold_ >= 0) name_ = QStringLiteral("/proc/self/fd/%1").arg(hold_);
+  }
+  FolderForQt(const FolderForQt&) = delete;
+  FolderForQt(FolderForQt&&) = delete;
+  FolderForQt& operator=(const FolderForQt&) = delete;
+  FolderForQt& operator=(FolderForQt&&) = delete;
+  ~FolderForQt() {
+    if (hold_ >= 0) SystemFileCalls().Close(hold_);
   }
 
   [[nodiscard]] const QString& Name() const { return name_; }
@@ -90,13 +97,9 @@ class FolderForQt {
   }
 
  private:
-  struct Closer {
-    void operator()(DIR* folder) const { closedir(folder); }
-  };
-
   std::string path_;
   QString name_;
-  std::unique_ptr<DIR, Closer> hold_;
+  int hold_ = -1;
 };
 
 }  // namespace

@@ -5,11 +5,10 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "toolkit/right_shift.h"
+
 namespace quillon {
 namespace {
-
-// The X window system's name for the right Shift key; where none is told, a Shift key counts as the left one.
-constexpr quint32 kRightShiftSymbol = 0xFFE2;
 
 bool WindowSystemHasShiftDown() {
   return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);
@@ -35,7 +34,7 @@ bool ShiftWatch::eventFilter(QObject* watched, QEvent* event) {
   const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
   const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
   if (key != nullptr && key->key() == Qt::Key_Shift && !key->isAutoRepeat() && !IsKnown(*key)) {
-    const ShiftKey side = key->nativeVirtualKey() == kRightShiftSymbol ? ShiftKey::kRight : ShiftKey::kLeft;
+    const ShiftKey side = IsRightShift(*key) ? ShiftKey::kRight : ShiftKey::kLeft;
     if (event->type() == QEvent::KeyPress) {
       keys_.KeyDown(side);
     } else {

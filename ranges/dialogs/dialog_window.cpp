@@ -1,6 +1,5 @@
 #include "ranges/dialogs/dialog_window.h"
 
-#include <QIcon>
 #include <QPlainTextEdit>
 #include <algorithm>
 #include <iterator>
@@ -10,6 +9,7 @@
 #include "ranges/range_messages.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/focus_mark.h"
+#include "toolkit/picture.h"
 #include "toolkit/placement.h"
 #include "toolkit/text.h"
 #include "toolkit/text_box.h"
@@ -19,7 +19,7 @@ namespace quillon {
 void DressWindow(QWidget& form, std::string_view title) {
   InitArtwork();
   form.setWindowTitle(ToQt(title));
-  form.setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
+  form.setWindowIcon(ArtworkIcon(QStringLiteral("icon")));
   form.setBackgroundRole(QPalette::Base);
   form.setAutoFillBackground(true);
 }

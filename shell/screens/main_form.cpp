@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QPushButton>
 #include <algorithm>
 #include <array>
@@ -28,6 +27,7 @@
 #include "study/hand_order.h"
 #include "toolkit/browser.h"
 #include "toolkit/form_keys.h"
+#include "toolkit/picture.h"
 #include "toolkit/placement.h"
 #include "toolkit/popup_menu.h"
 #include "toolkit/text.h"
@@ -46,7 +46,7 @@ MainControls BuildMainControls(QWidget& form) {
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
   // Of every window: boxes and dialogs, too.
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/icon.svg")));
+  QApplication::setWindowIcon(ArtworkIcon(QStringLiteral("icon")));
   return MainControls(form);
 }
 

@@ -11,10 +11,10 @@
 #include "shell/user_guide.h"
 #include "support/this_process.h"
 #include "toolkit/application.h"
+#include "toolkit/clipboard.h"
+#include "toolkit/end_signals.h"
 #include "toolkit/message_dialogs.h"
-#include "toolkit/posix_signals.h"
 #include "toolkit/text.h"
-#include "toolkit/x11_clipboard.h"
 
 namespace quillon {
 namespace {

@@ -1,7 +1,8 @@
-#include "toolkit/posix_signals.h"
-
 #include <QTest>
+#include <csignal>
 #include <gtest/gtest.h>
+
+#include "toolkit/end_signals.h"
 
 namespace quillon {
 namespace {

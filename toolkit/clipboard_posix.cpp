@@ -1,5 +1,3 @@
-#include "toolkit/x11_clipboard.h"
-
 #include <QAbstractNativeEventFilter>
 #include <QClipboard>
 #include <QEventLoop>
@@ -11,6 +9,8 @@
 #include <memory>
 #include <string_view>
 #include <xcb/xcb.h>
+
+#include "toolkit/clipboard.h"
 
 namespace quillon {
 namespace {

@@ -1,5 +1,3 @@
-#include "toolkit/browser.h"
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -7,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/application.h"
+#include "toolkit/browser.h"
 
 namespace quillon {
 namespace {

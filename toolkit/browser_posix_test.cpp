@@ -1,10 +1,9 @@
-#include "toolkit/browser.h"
-
 #include <array>
 #include <gtest/gtest.h>
 
 #include "testing/fake_opener.h"
 #include "toolkit/application.h"
+#include "toolkit/browser.h"
 #include "toolkit/label.h"
 
 namespace quillon {

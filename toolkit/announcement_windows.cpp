@@ -1,0 +1,42 @@
+#include <initguid.h>
+#include <uiautomation.h>
+
+#include "toolkit/announcement.h"
+
+namespace quillon {
+namespace {
+
+// What UI Automation has for this since the update 1709 of Windows 10, and mingw-w64's headers have not.
+using HostProvider = HRESULT(WINAPI*)(HWND, IRawElementProviderSimple**);
+using RaiseNotification = HRESULT(WINAPI*)(IRawElementProviderSimple*, int kind, int processing, BSTR text,
+                                           BSTR activity);
+constexpr int kOtherKind = 4;
+constexpr int kAllInOrder = 2;
+
+template <typename Function>
+Function FunctionOf(HMODULE library, const char* name) {
+  // NOLINTNEXTLINE: the system knows a function by its name alone
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+}  // namespace
+
+void SendAnnouncement(QWidget* speaker, const QString& text) {
+  static const HMODULE library = LoadLibraryExW(L"uiautomationcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) return;
+  static const auto hostOf = FunctionOf<HostProvider>(library, "UiaHostProviderFromHwnd");
+  static const auto notify = FunctionOf<RaiseNotification>(library, "UiaRaiseNotificationEvent");
+  if (hostOf == nullptr || notify == nullptr) return;
+
+  IRawElementProviderSimple* window = nullptr;
+  const auto handle = reinterpret_cast<HWND>(speaker->window()->winId());  // NOLINT: that is what the number is
+  if (FAILED(hostOf(handle, &window)) || window == nullptr) return;
+  const BSTR said = SysAllocString(reinterpret_cast<const wchar_t*>(text.utf16()));  // NOLINT: both are UTF-16
+  const BSTR activity = SysAllocString(L"Quillon");
+  notify(window, kOtherKind, kAllInOrder, said, activity);
+  SysFreeString(activity);
+  SysFreeString(said);
+  window->Release();
+}
+
+}  // namespace quillon
