@@ -3,15 +3,21 @@
 // A program folder with some ranges, a main window that has nothing but the four choosers, and the dialogs
 // themselves, which speak in real boxes ("testing/expected_boxes.h").
 
+#include <QPlainTextEdit>
 #include <QTest>
 #include <array>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <numeric>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 #include "hand/hand_classes.h"
 #include "ranges/dialogs/range_dialogs.h"
+#include "ranges/range_text.h"
+#include "testing/bring_to_front.h"
 #include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
@@ -115,5 +121,50 @@ template <typename Controls>
 void ClickCell(const Controls& controls, std::string_view label) {
   ClickOn(controls, "lblCards", HandIndex(label));
 }
+
+/// A test on one of the two dialogs, once the test has opened it.
+template <typename Dialog>
+class DialogFormTest : public testing::Test {
+ protected:
+  using DialogControls = std::remove_cvref_t<decltype(std::declval<Dialog>().Controls())>;
+  static constexpr bool kIsManager = std::is_same_v<Dialog, ManagerForm>;
+
+  [[nodiscard]] Dialog* Loaded() const {
+    if constexpr (kIsManager) {
+      return Stage.Dialogs.LoadedManager();
+    } else {
+      return Stage.Dialogs.LoadedNewRange();
+    }
+  }
+  [[nodiscard]] Dialog& Form() const { return *Loaded(); }
+  [[nodiscard]] bool IsClosed() const { return Loaded() == nullptr; }
+  [[nodiscard]] const DialogControls& Controls() const { return Form().Controls(); }
+
+  void Click(typename DialogControls::template Key<QWidget> name) const { ClickOn(Controls(), name); }
+  void Cell(std::string_view label) const { ClickCell(Controls(), label); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) const { QTest::keyClick(Form().windowHandle(), key, held); }
+  /// The Shift key goes down, and stays down until ShiftUp.
+  void ShiftDown() {
+    Stage.ShiftHeld = true;
+    QTest::keyPress(Form().windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
+  }
+  void ShiftUp() {
+    Stage.ShiftHeld = false;
+    QTest::keyRelease(Form().windowHandle(), Qt::Key_Shift);
+  }
+  /// What the user does when another window was in front.
+  void ComeToFront() const { BringToFront(Form()); }
+
+  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid().Colors()); }
+  [[nodiscard]] std::string Share() const {
+    return FromQt(Controls().LabelAt(kIsManager ? "lblRangeInfo" : "lblPercSelected").Text());
+  }
+  [[nodiscard]] std::string Summary() const {
+    return FromQt(Controls().template Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
+  }
+  [[nodiscard]] std::string FileText(std::string_view name) const { return Stage.FileText(name); }
+
+  DialogStage Stage;
+};
 
 }  // namespace quillon

@@ -4,6 +4,7 @@
 // ("testing/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web but one that a test gives it.
 
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
@@ -21,6 +22,7 @@
 #include "hand/hand_classes.h"
 #include "shell/screens/main_form.h"
 #include "shell/user_guide.h"
+#include "testing/bring_to_front.h"
 #include "testing/dialog_stage.h"
 #include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
@@ -79,10 +81,7 @@ class MainStage {
   }
 
   /// What the user does when another window was in front.
-  void ComeToFront() {
-    Form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
-  }
+  void ComeToFront() { BringToFront(Form); }
 
   template <typename Kind = QWidget>
   [[nodiscard]] Kind& Get(MainControls::Key<std::type_identity_t<Kind>> name, std::int16_t index = kNoIndex) {
@@ -180,20 +179,47 @@ class MainStage {
     Click("cmdPreflopEV", 2);
   }
 
-  /// Does `act` once, between two classes of a run, as soon as the percentage reads so. A test fails where that never
-  /// happens.
-  void DuringRun(std::string_view percent, std::function<void()> act) {
+  /// Does `act` once, as soon as `ready` holds while the program runs or waits for something. A test fails where that
+  /// never happens.
+  void Once(std::function<bool()> ready, std::function<void()> act) {
     ++ActsToCome;
     auto* timer = new QTimer(&Form);
     QObject::connect(timer, &QTimer::timeout, &Form,
-                     [this, timer, wanted = std::string(percent), action = std::move(act)] {
-                       if (!Form.State().Running || Caption("lblProgressPerc") != wanted) return;
+                     [this, timer, isReady = std::move(ready), action = std::move(act)] {
+                       if (!isReady()) return;
                        timer->stop();
                        --ActsToCome;
                        action();
                      });
     timer->start(0);
   }
+  /// The same between two classes of a run, as soon as the percentage reads so.
+  void DuringRun(std::string_view percent, std::function<void()> act) {
+    Once([this, wanted = std::string(percent)] { return Form.State().Running && Caption("lblProgressPerc") == wanted; },
+         std::move(act));
+  }
+  /// The same under the hourglass, before a note goes out.
+  void DuringWait(std::function<void()> act) {
+    Once([] { return QGuiApplication::overrideCursor() != nullptr; }, std::move(act));
+  }
+
+  /// The grid screen, showing a made-up analysis.
+  void ShowGridOf(const Analysis& state) {
+    RunEquity("Tight");
+    static_cast<Analysis&>(Form.State()) = state;
+  }
+
+  /// The dialog for a file's name comes, and the user types one.
+  static void ExpectFileName(const std::string& typed) {
+    ExpectDialog([typed](QDialog& dialog) {
+      NameLineOf(dialog).setText(ToQt(typed));
+      dialog.accept();
+    });
+  }
+  [[nodiscard]] static QLineEdit& NameLineOf(QDialog& dialog) {
+    return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+  [[nodiscard]] std::filesystem::path SavedGrids() const { return Program.Folder().Path / "Saved Grids"; }
 
   [[nodiscard]] static std::string BytesOf(const std::filesystem::path& file) {
     std::ostringstream bytes;

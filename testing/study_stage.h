@@ -12,6 +12,7 @@
 
 #include "study/hand_order.h"
 #include "study/window/study_form.h"
+#include "testing/bring_to_front.h"
 #include "testing/recorded_input.h"
 #include "testing/recorded_messages.h"
 #include "testing/study_hands.h"
@@ -26,11 +27,7 @@ class StudyStage : public testing::Test {
   StudyStage() { LoadEquityTable(); }
   ~StudyStage() override { ShowAtScale(1); }
 
-  void Open() {
-    Form.show();
-    Form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
-  }
+  void Open() { BringToFront(Form); }
 
   void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
 

@@ -36,39 +36,21 @@ class AnalysisInWindow : public MainFormTest {
   QWidget& Bar() { return Get("picProgBar"); }
 };
 
-TEST_F(AnalysisInWindow, CallComesToTheEnginesResults) {
+// The fields of the state have tests without a window.
+TEST_F(AnalysisInWindow, EachComesToTheEnginesResults) {
+  EXPECT_EQ(Get("frameContent", kGridScreen).childAt(Get("imgGridBack").geometry().center()), &Get("imgGridBack"))
+      << "it covers the grid until the first run";
   RunCall("150", "50", "Pairs");
   EXPECT_EQ(Form.State().HandInfo, EngineTable(0, {"150", "50", "", "Pairs", ""}));
-  EXPECT_EQ(Form.State().Mode, AnalysisMode::kPreflopCall);
-  EXPECT_EQ(Form.State().PotSize, 150);
-  EXPECT_EQ(Form.State().CallAmount, 50);
-  EXPECT_EQ(Form.State().RangeName, "Pairs");
-  EXPECT_EQ(Form.State().RangeText, TextWith("AA KK", "QQ"));
-  EXPECT_FALSE(Form.State().Running);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
   EXPECT_EQ(Caption("lblProgressMsg"), "Please wait while we determine what hands you should go ALL IN with...");
-}
-
-TEST_F(AnalysisInWindow, RaiseComesToTheEnginesResults) {
   RunRaise("150", "50", "62.5", "Pairs", "Tight");
   EXPECT_EQ(Form.State().HandInfo, EngineTable(1, {"150", "50", "62.5", "Pairs", "Tight"}));
-  EXPECT_EQ(Form.State().Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(Form.State().ShoveAmount, 62.5);
-  EXPECT_EQ(Form.State().CallingRangeName, "Tight");
-  EXPECT_EQ(Form.State().CallingRangeText, TextWith("AA KK AKs AKo"));
-  EXPECT_FALSE(Form.State().DroppedHands.empty());
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-}
-
-TEST_F(AnalysisInWindow, EquityComesToTheEnginesResultsAndTouchesNoAmount) {
-  RunRaise("150", "50", "100", "Pairs", "Tight");
   RunEquity("Tight");
   EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Tight", ""}));
-  EXPECT_EQ(Form.State().Mode, AnalysisMode::kEquityOnly);
-  EXPECT_EQ(Form.State().PotSize, 150);
-  EXPECT_EQ(Form.State().CallAmount, 50);
-  EXPECT_EQ(Form.State().ShoveAmount, 100);
   EXPECT_EQ(Caption("lblProgressMsg"), "Quillon is determing your equity vs the following range: \r\nTight");
+  EXPECT_EQ(Form.State().ShoveAmount, 62.5) << "no amount is touched";
+  EXPECT_FALSE(Form.State().Running);
+  EXPECT_EQ(Screen(), "ALL IN Grid");
 }
 
 TEST_F(AnalysisInWindow, TheResultsGoAtTheClick) {
@@ -92,13 +74,6 @@ TEST_F(AnalysisInWindow, TheResultsGoAtTheClick) {
   EXPECT_EQ(Caption("lblNoResults"), kNothingYet);
   EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
   EXPECT_EQ(LabelAt("lblNoResults").cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(AnalysisInWindow, ThePictureCoversTheGridUntilTheFirstRun) {
-  EXPECT_FALSE(Get("imgGridBack").isHidden());
-  EXPECT_EQ(Get("frameContent", kGridScreen).childAt(Get("imgGridBack").geometry().center()), &Get("imgGridBack"));
-  RunEquity("Tight");
-  EXPECT_FALSE(Shows("imgGridBack"));
 }
 
 TEST_F(AnalysisInWindow, TheBarMovesAndIsPaintedForEachClass) {
@@ -126,22 +101,6 @@ TEST_F(AnalysisInWindow, TheBarMovesAndIsPaintedForEachClass) {
   EXPECT_GE(bar.Paints, 169);
 }
 
-TEST_F(AnalysisInWindow, AStopIsNoticedAfterTheNextClass) {
-  EnterCall("100", "50", "Tight");
-  DuringRun("1%", [this] {
-    EXPECT_EQ(Bar().width(), BarWidthAfter(1));
-    Click("lblStopCalc");
-    EXPECT_EQ(Screen(), "Progress");
-  });
-  Click("cmdPreflopEV", 0);
-  EXPECT_EQ(Bar().width(), BarWidthAfter(2));
-  EXPECT_EQ(Screen(), "Preflop Call");
-  EXPECT_EQ(Caption("lblNoResults"), kNothingYet);
-  EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
-  EXPECT_FALSE(Shows("lblNav", kGridNav));
-  EXPECT_EQ(Form.State().HandInfo, "");
-}
-
 TEST_F(AnalysisInWindow, OtherScreensStayUsableAndTheLinkLeadsBack) {
   EnterEquity("Tight");
   DuringRun("20%", [this] {
@@ -159,61 +118,6 @@ TEST_F(AnalysisInWindow, OtherScreensStayUsableAndTheLinkLeadsBack) {
   });
   Click("cmdPreflopEV", 2);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-}
-
-TEST_F(AnalysisInWindow, TypingDuringARunTakesItsLinkAway) {
-  EnterEquity("Tight");
-  DuringRun("20%", [this] {
-    Open(kCallNav);
-    Click("txtNumber", 0);
-    TypeKeys("9");
-    EXPECT_EQ(Caption("lblNoResults"), kNothingYet);
-    Click("lblNoResults");
-    EXPECT_EQ(Screen(), "Preflop Call");
-  });
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-}
-
-TEST_F(AnalysisInWindow, ANestedRunEndsFirstAndStopsTheOuterOne) {
-  EnterCall("100", "50", "Tight");
-  DuringRun("10%", [this] {
-    RunEquity("Pairs");
-    EXPECT_EQ(Screen(), "ALL IN Grid");
-    EXPECT_EQ(Caption("lblGridTitle"), "Equity Grid");
-    EXPECT_TRUE(Shows("lblNav", kGridNav));
-  });
-  Click("cmdPreflopEV", 0);
-  EXPECT_EQ(Screen(), "Equity Only") << "stopped, under the scenario of the nested run";
-  EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Pairs", ""}));
-  EXPECT_TRUE(Shows("lblNav", kGridNav)) << "the nested run's results stay";
-  EXPECT_FALSE(Form.State().Running);
-}
-
-TEST_F(AnalysisInWindow, ARefusedClickLeavesPleaseWait) {
-  Open(kEquityNav);
-  ExpectMessageBox(
-      {.title = "Select Range", .text = "Please select a range for your opponent.", .icon = MessageIcon::kExclamation});
-  Click("cmdPreflopEV", 2);
-  VerifyExpectedBoxes();
-  EXPECT_EQ(Form.State().Mode, AnalysisMode::kEquityOnly) << "written before the check";
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_FALSE(Shows("lblNav", kGridNav));
-  EXPECT_EQ(Caption("lblNoResults"), "Please wait...");
-  EXPECT_FALSE(LabelAt("lblNoResults").HasUnderline());
-  EXPECT_EQ(LabelAt("lblNoResults").cursor().shape(), Qt::PointingHandCursor);
-
-  Click("lblNoResults");
-  EXPECT_EQ(Screen(), "Progress") << "though nothing runs";
-  EXPECT_EQ(Caption("lblProgressMsg"), "Quillon...");
-  EXPECT_EQ(Caption("lblProgressPerc"), "%...");
-  Click("lblStopCalc");
-  EXPECT_EQ(Screen(), "Progress") << "there is nothing to stop";
-  Open(kEquityNav);
-  EXPECT_EQ(Screen(), "Equity Only");
-
-  RunEquity("Tight");
-  EXPECT_EQ(Caption("lblNoResults"), kNothingYet) << "the next run sets it right";
 }
 
 TEST_F(AnalysisInWindow, ThePressedLookEndsWithTheClick) {

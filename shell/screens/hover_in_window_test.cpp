@@ -1,17 +1,13 @@
+#include "results/hover_panel.h"
 #include "testing/main_stage.h"
 #include "testing/sample_analysis.h"
+#include "toolkit/placement.h"
 
 namespace quillon {
 namespace {
 
 class HoverInWindow : public MainFormTest {
  protected:
-  /// The grid screen, showing a made-up analysis.
-  void ShowGridOf(const Analysis& state) {
-    RunEquity("Tight");
-    static_cast<Analysis&>(Form.State()) = state;
-  }
-
   QPoint CellOf(std::string_view hand) { return MiddleOf("lblCards", HandIndex(hand)); }
   void Hover(std::string_view hand) {
     MoveTo(CellOf(hand) + QPoint(2, 2));  // a mouse that is there already has to move
@@ -32,87 +28,35 @@ class HoverInWindow : public MainFormTest {
   [[nodiscard]] bool PanelShows() { return Shows("frameHover"); }
 };
 
-struct HoverCase {
-  const char* Name;
-  Analysis (*State)();
-  std::string_view Hand;
-  std::string_view Picture;
-  std::string_view EquityTitle;
-  std::string_view Equity;
-  std::string_view Value;
-  std::string_view Return;
-  std::string_view FoldShare;  // empty: the line is hidden
-  std::string_view Advice;
-};
-
-class HoverTextsInWindow : public HoverInWindow, public testing::WithParamInterface<HoverCase> {};
-
-TEST_P(HoverTextsInWindow, TellWhatTheRunFound) {
-  const HoverCase& row = GetParam();
-  ShowGridOf(row.State());
-  Hover(row.Hand);
-
-  ASSERT_TRUE(PanelShows());
-  EXPECT_EQ(Caption("lblHov_Cards"), row.Hand);
-  EXPECT_EQ(FromQt(Get<Picture>("imgHover").Artwork()), row.Picture);
-  EXPECT_EQ(Caption("lblHovDesc_Eq"), row.EquityTitle);
-  EXPECT_EQ(Caption("lblHov_Eq"), row.Equity);
-  for (const ControlName name :
-       std::to_array<ControlName>({"lblHovDesc_EV", "lblHov_EV", "lblHovDesc_ROI", "lblHov_ROI"}))
-    EXPECT_EQ(Shows(name), !row.Value.empty()) << name.Name();
-  if (!row.Value.empty()) {
-    EXPECT_EQ(Caption("lblHovDesc_EV"), "EV:");
-    EXPECT_EQ(Caption("lblHov_EV"), row.Value);
-    EXPECT_EQ(Caption("lblHovDesc_ROI"), "ROI:");
-    EXPECT_EQ(Caption("lblHov_ROI"), row.Return);
-  }
-  for (const ControlName name : std::to_array<ControlName>({"lblHovDesc_FoldPerc", "lblHov_FoldPerc"}))
-    EXPECT_EQ(Shows(name), !row.FoldShare.empty()) << name.Name();
-  if (!row.FoldShare.empty()) {
-    EXPECT_EQ(Caption("lblHov_FoldPerc"), row.FoldShare);
-  }
-  EXPECT_EQ(Caption("lblHov_Advice"), row.Advice);
-}
-
-Analysis NothingToCall() {
-  Analysis state = sample::RaiseState();
-  state.CallAmount = 0;
-  return state;
-}
-
-Analysis QuarterEquity() {
-  Analysis state = sample::EquityState();
-  state.HandInfo = sample::ResultsTable({{"AA", "0\t0.25\t1"}, {"22", "0\t0.2499\t1"}});
-  return state;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    HoverInWindow, HoverTextsInWindow,
-    testing::Values(HoverCase{"CallThatWins", sample::CallState, "AA", "hover_green", "Equity:", "85%", "+120", "240%",
-                              "", "You should go ALL IN"},
-                    HoverCase{"ShoveThatWins", sample::RaiseState, "AKs", "hover_green", "Equity when Called:", "55%",
-                              "+98.2", "196.4%", "40%", "You should go ALL IN"},
-                    HoverCase{"ShoveThatNobodyCalls", sample::RaiseState, "AA", "hover_green",
-                              "Equity when Called:", "N/A", "+150", "300%", "100%", "You should go ALL IN"},
-                    HoverCase{"ShoveWithNothingToCall", NothingToCall, "AKs", "hover_green",
-                              "Equity when Called:", "55%", "+98.2", "N/A", "40%", "You should go ALL IN"},
-                    HoverCase{"EquityOfAQuarter", QuarterEquity, "AA", "hover_blue", "Equity:", "25%", "", "", "",
-                              ":)"}),
-    CaseName<HoverCase>);
-
-TEST_F(HoverInWindow, ThePanelHangsBelowItsCellOrStandsAboveIt) {
-  ShowGridOf(sample::CallState());
-  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
-    MoveOffTheGrid();
-    Hover(HandLabel(i));
-    const int row = i / 13;
-    const int column = i % 13;
-    const auto left = static_cast<float>(520 + column * 430);
-    const auto top = static_cast<float>(940 + row * 430);
-    const bool above = row >= 10;
-    ASSERT_TRUE(PanelShows());
-    const QRect place = PixelPlace({left, above ? top - 3315 - 25 : top + 405 + 25, 3780, 3315});
-    EXPECT_EQ(Get("frameHover").geometry(), place) << HandLabel(i);
+TEST_F(HoverInWindow, ThePanelShowsTheTextsOfItsHandBesideItsCell) {
+  constexpr std::array<std::string_view, 3> kPictures = {"hover_green", "hover_red", "hover_blue"};
+  const auto expectLine = [this](LabelKey title, LabelKey figure, const std::optional<std::string>& text) {
+    EXPECT_EQ(LabelAt(title).isVisible(), text.has_value()) << title.Name();
+    EXPECT_EQ(LabelAt(figure).isVisible(), text.has_value()) << figure.Name();
+    if (text) {
+      EXPECT_EQ(Caption(figure), *text);
+    }
+  };
+  for (const Analysis& state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
+    ShowGridOf(state);
+    for (const std::string_view hand : {"AA", "AKs", "72o", "A2s", "22", "22"}) {  // one of them once more
+      SCOPED_TRACE(hand);
+      MoveOffTheGrid();
+      Hover(hand);
+      const HoverTexts texts = MakeHoverTexts(HandIndex(hand), state).value();
+      ASSERT_TRUE(PanelShows());
+      EXPECT_EQ(Get<Picture>("imgHover").Artwork(), ToQt(kPictures.at(static_cast<std::size_t>(texts.Picture))));
+      EXPECT_EQ(Caption("lblHov_Cards"), hand);
+      EXPECT_EQ(Caption("lblHovDesc_Eq"), texts.EquityTitle);
+      EXPECT_EQ(Caption("lblHov_Eq"), texts.Equity);
+      EXPECT_EQ(Caption("lblHov_Advice"), texts.Advice);
+      expectLine("lblHovDesc_EV", "lblHov_EV", texts.Value);
+      expectLine("lblHovDesc_ROI", "lblHov_ROI", texts.Return);
+      expectLine("lblHovDesc_FoldPerc", "lblHov_FoldPerc", texts.FoldShare);
+      const TwipRect place =
+          HoverPlace({0, 0, 3780, 3315}, PlaceOf(Get("shapeCardBack", HandIndex(hand))), {0, 0, 12000, 8645});
+      EXPECT_EQ(Get("frameHover").geometry(), PixelPlace(place));
+    }
   }
 }
 
@@ -126,16 +70,6 @@ TEST_F(HoverInWindow, ThePanelLiesInFront) {
     ASSERT_NE(there, nullptr);
     EXPECT_TRUE(there == &Get("frameHover") || Get("frameHover").isAncestorOf(there));
   }
-}
-
-TEST_F(HoverInWindow, TheBareScreenClosesThePanel) {
-  ShowGridOf(sample::CallState());
-  Hover("AA");
-  ASSERT_TRUE(PanelShows());
-  MoveOffTheGrid();
-  EXPECT_FALSE(PanelShows());
-  Hover("AA");
-  EXPECT_TRUE(PanelShows());
 }
 
 TEST_F(HoverInWindow, StripAndGapBelongToTheScreen) {

@@ -9,6 +9,7 @@
 
 #include "analysis/input_checks.h"
 #include "shell/screens/main_layout.h"
+#include "testing/bring_to_front.h"
 #include "testing/fake_opener.h"
 #include "testing/heard_announcements.h"
 #include "testing/main_stage.h"
@@ -125,130 +126,6 @@ TEST_F(KeyboardInWindow, TabGoesWhereTheEyeGoes) {
   }
 }
 
-TEST_F(KeyboardInWindow, TheGridIsOneStopInOnePlaceWhicheverCellHasIt) {
-  RunEquity("Tight");
-  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) {
-    Focus("lblCards", key == Qt::Key_Home ? 0 : 14);
-    Press(key, Qt::ControlModifier);
-    Press(Qt::Key_Tab);
-    EXPECT_EQ(Form.focusWidget(), &Get("txtHandInfo"));
-    Press(Qt::Key_Backtab, Qt::ShiftModifier);
-    Press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(Form.focusWidget(), &Get("lblRangeManager"));
-  }
-}
-
-TEST_F(KeyboardInWindow, ShiftTabGoesBack) {
-  OpenScreen("Preflop Call");
-  Focus("txtNumber", 1);
-  Press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0));
-}
-
-TEST_F(KeyboardInWindow, EnterAndSpacePressALink) {
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-    Focus("lblNav", kCallNav);
-    Press(key);
-    EXPECT_EQ(Screen(), "Preflop Call");
-    EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0));
-    Focus("picLogo");
-    Press(key);
-    EXPECT_EQ(Screen(), "About");
-  }
-}
-
-TEST_F(KeyboardInWindow, OtherKeysPressNothing) {
-  Focus("lblNav", kCallNav);
-  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Escape, Qt::Key_Down})
-    Press(key);
-  EXPECT_EQ(Screen(), "About");
-}
-
-TEST_F(KeyboardInWindow, AnalyzeRunsFromTheKeyboard) {
-  OpenScreen("Equity Only");
-  Choose(3, "Tight");
-  Focus("cmdPreflopEV", 2);
-  Press(Qt::Key_Space);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-}
-
-TEST_F(KeyboardInWindow, AWholeSituationIsEnteredWithoutTheMouse) {
-  Press(Qt::Key_1, Qt::ControlModifier);
-  TypeKeys("=100+50");
-  Press(Qt::Key_Tab);
-  TypeKeys("50");
-  Press(Qt::Key_Tab);
-  Press(Qt::Key_End);
-  ASSERT_EQ(FromQt(Get<QComboBox>("cmboRanges", 0).currentText()), "Tight");
-  Press(Qt::Key_Tab);
-  Press(Qt::Key_Return);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(Form.State().PotSize, 150);
-}
-
-TEST_F(KeyboardInWindow, EachKindOfControlIsPressed) {
-  OpenScreen("Preflop Call");
-  Choose(0, "Tight");
-  Focus("lblEditRange", 0);
-  Press(Qt::Key_Return);
-  EXPECT_TRUE(Dialogs.LoadedManager()->isVisible());
-  ComeToFront();
-  Focus("lblNewRange", 0);
-  Press(Qt::Key_Space);
-  EXPECT_TRUE(Dialogs.LoadedNewRange()->isVisible());
-  ComeToFront();
-  Focus("lblWhatsThis", 7);
-  ExpectMessageBox({.title = "Call ALL IN - Current Range",
-                    .text = "Your opponent's range contains all the possible hands that you think he can currently "
-                            "have."});
-  Press(Qt::Key_Return);
-  VerifyExpectedBoxes();
-  ComeToFront();
-
-  OpenScreen("About");
-  Focus("chkUpgrade");
-  Press(Qt::Key_Space);
-  EXPECT_EQ(Caption("lblCurrentVersion"), "Error Connecting");
-  Focus("cmdSendFeedback");
-  ExpectMessageBox(
-      {.title = "Quillon", .text = "Please fill out the feedback before sending.", .icon = MessageIcon::kExclamation});
-  Press(Qt::Key_Space);
-}
-
-TEST_F(KeyboardInWindow, EnterPressesTheSendButton) {
-  Focus("cmdSendFeedback");
-  ExpectMessageBox(
-      {.title = "Quillon", .text = "Please fill out the feedback before sending.", .icon = MessageIcon::kExclamation});
-  Press(Qt::Key_Return);
-}
-
-TEST_F(KeyboardInWindow, ControlAndADigitOpenTheInputScreens) {
-  Press(Qt::Key_2, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Preflop Raise");
-  EXPECT_TRUE(LabelAt("lblNav", kRaiseNav).HasUnderline()) << "as a click on the link does";
-  Press(Qt::Key_3, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Equity Only");
-  Press(Qt::Key_1, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Preflop Call");
-  Click("txtNumber", 0);
-  TypeKeys("5");
-  Press(Qt::Key_2, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Preflop Raise") << "also from within a box";
-  EXPECT_EQ(BoxText(0), "5");
-}
-
-TEST_F(KeyboardInWindow, ControlAndADigitOpenTheResultsWhileTheirLinksShow) {
-  for (const Qt::Key key : {Qt::Key_4, Qt::Key_5}) {
-    Press(key, Qt::ControlModifier);
-    EXPECT_EQ(Screen(), "About");
-  }
-  RunEquity("Tight");
-  Press(Qt::Key_5, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Details");
-  Press(Qt::Key_4, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "ALL IN Grid");
-}
-
 TEST_F(KeyboardInWindow, ControlAndEnterAnalyzeWithTheSumThatIsBeingTyped) {
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     EnterCall("100", "50", "Tight");
@@ -259,27 +136,6 @@ TEST_F(KeyboardInWindow, ControlAndEnterAnalyzeWithTheSumThatIsBeingTyped) {
   }
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to analyse here";
-}
-
-TEST_F(KeyboardInWindow, NothingRunsAfterAComplaintAboutTheSumThatIsBeingTyped) {
-  for (const bool byKey : {true, false}) {
-    EnterCall("100", "50", "Tight");
-    Type(0, "=1 + 2");
-    ExpectMessageBox({.title = "Problem",
-                      .text = "There was a problem processing your expression: \r\n\r\n"
-                              "Only addition (+) and subtract (-) are supported",
-                      .icon = MessageIcon::kInformation});
-    if (byKey) {
-      Press(Qt::Key_Return, Qt::ControlModifier);
-    } else {
-      Click("cmdPreflopEV", 0);
-    }
-    VerifyExpectedBoxes();
-    EXPECT_EQ(Screen(), "Preflop Call");
-    EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.") << "not even the checks";
-    ComeToFront();
-    Type(0, "1");
-  }
 }
 
 // Also from a screen that does not show the link "< Back" itself.
@@ -311,20 +167,11 @@ TEST_F(KeyboardInWindow, EscapeStopsARunStillAfterAnotherWasRefused) {
                       .icon = MessageIcon::kExclamation});
     Click("cmdPreflopEV", 0);
     VerifyExpectedBoxes();
-    Form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form));
+    BringToFront(Form);
     Press(Qt::Key_Escape);
   });
   Click("cmdPreflopEV", 2);
   EXPECT_FALSE(Shows("lblNav", kGridNav)) << "it has not gone on to its end";
-}
-
-TEST_F(KeyboardInWindow, EscapeIsTheGridsOwnWhereNothingRuns) {
-  RunEquity("Tight");
-  Focus("lblCards", 0);
-  ASSERT_TRUE(Shows("frameHover"));
-  Press(Qt::Key_Escape);
-  EXPECT_FALSE(Shows("frameHover"));
 }
 
 TEST_F(KeyboardInWindow, KeysOpenTheRangeManagerAndCloseWindows) {
@@ -334,22 +181,15 @@ TEST_F(KeyboardInWindow, KeysOpenTheRangeManagerAndCloseWindows) {
   EXPECT_EQ(Dialogs.LoadedManager(), nullptr);
   EXPECT_EQ(Ends, 0);
   ComeToFront();
-  Press(Qt::Key_W, Qt::ControlModifier);
-  EXPECT_EQ(Ends, 1);
-}
-
-TEST_F(KeyboardInWindow, ControlAndQEndsFromEveryWindow) {
   Press(Qt::Key_R, Qt::ControlModifier);
   ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
   QTest::keyClick(Dialogs.LoadedManager()->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
-  EXPECT_EQ(Ends, 1);
+  EXPECT_EQ(Ends, 1) << "from any window";
 }
 
-TEST_F(KeyboardInWindow, F1OpensTheUserGuide) {
-  const FakeOpener opener;
-  Press(Qt::Key_F1);
-  const std::string file = (Program.Folder().Path / "Guide" / "user-guide.html").string();
-  EXPECT_EQ(opener.Opened(), QUrl::fromLocalFile(ToQt(file)).toEncoded().toStdString() + "\n");
+TEST_F(KeyboardInWindow, ControlAndWEndsFromTheMainWindow) {
+  Press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(Ends, 1);
 }
 
 TEST_F(KeyboardInWindow, ABoxTellsWhereTheUserGuideCannotBeOpened) {
@@ -365,21 +205,27 @@ TEST_F(KeyboardInWindow, ABoxTellsWhereTheUserGuideCannotBeOpened) {
 
 struct FirstBoxCase {
   Qt::Key Key;
+  std::string_view Screen;
   MainControls::Key<> Control;
   std::int16_t Index;
 };
 
-TEST_F(KeyboardInWindow, AScreenBroughtUpByKeyHasItsFirstBoxFocused) {
+TEST_F(KeyboardInWindow, ControlAndADigitOpenAScreenWhoseLinkShowsAtItsFirstBox) {
   constexpr auto kCases = std::to_array<FirstBoxCase>({
-      {Qt::Key_1, "txtNumber", 0},
-      {Qt::Key_2, "txtNumber", 2},
-      {Qt::Key_3, "cmboRanges", 3},
-      {Qt::Key_4, "lblCards", 0},
-      {Qt::Key_5, "rtfSummary", kNoIndex},
+      {Qt::Key_1, "Preflop Call", "txtNumber", 0},
+      {Qt::Key_2, "Preflop Raise", "txtNumber", 2},
+      {Qt::Key_3, "Equity Only", "cmboRanges", 3},
+      {Qt::Key_4, "ALL IN Grid", "lblCards", 0},
+      {Qt::Key_5, "Details", "rtfSummary", kNoIndex},
   });
+  for (const Qt::Key key : {Qt::Key_4, Qt::Key_5}) {
+    Press(key, Qt::ControlModifier);
+    EXPECT_EQ(Screen(), "About") << "there are no results yet";
+  }
   RunEquity("Tight");
   for (const FirstBoxCase& row : kCases) {
     Press(row.Key, Qt::ControlModifier);
+    EXPECT_EQ(Screen(), row.Screen);
     EXPECT_EQ(Form.focusWidget(), &Get(row.Control, row.Index)) << row.Control.Name();
   }
   Focus("lblNav", kRaiseNav);
@@ -467,20 +313,6 @@ TEST_F(KeyboardInWindow, NobodyHasTheFocusUntilSomebodyIsGivenIt) {
   EXPECT_EQ(Screen(), "Equity Only") << "nobody is pressed";
 }
 
-TEST_F(KeyboardInWindow, TheFocusMarkComesFromTheKeyboardAlone) {
-  OpenScreen("Equity Only");
-  MoveTo({600, 560});
-  const QImage resting = Form.grab().toImage();
-  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, MiddleOf("cmdPreflopEV", 2));
-  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, QPoint(600, 560));
-  ASSERT_EQ(Form.focusWidget(), &Get("cmdPreflopEV", 2));
-  EXPECT_EQ(Form.grab().toImage(), resting);
-
-  Focus("picLogo");
-  Focus("cmdPreflopEV", 2);
-  EXPECT_NE(Form.grab().toImage(), resting);
-}
-
 TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
   const QWidget& mark = *Form.findChild<FocusMark*>();
   RunEquity("Tight");
@@ -500,41 +332,6 @@ TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
       EXPECT_EQ(mark.geometry(), whole.adjusted(-out, -out, out, out).intersected(Form.rect())) << name;
     }
   }
-}
-
-TEST_F(KeyboardInWindow, NoMarkShowsAtTheStart) {
-  const QImage atStart = Form.grab().toImage();
-  if (Form.focusWidget() != nullptr) Form.focusWidget()->clearFocus();
-  EXPECT_EQ(Form.grab().toImage(), atStart);
-}
-
-TEST_F(KeyboardInWindow, ArrowsGoThroughTheGridAndShowEachHand) {
-  RunEquity("Tight");
-  Focus("lblCards", 0);
-  EXPECT_TRUE(Shows("frameHover"));
-  EXPECT_EQ(Caption("lblHov_Cards"), "AA");
-  Press(Qt::Key_Right);
-  EXPECT_EQ(Caption("lblHov_Cards"), "AKs");
-  Press(Qt::Key_Down);
-  EXPECT_EQ(Caption("lblHov_Cards"), "KK");
-  Press(Qt::Key_Left);
-  EXPECT_EQ(Caption("lblHov_Cards"), "AKo");
-  Press(Qt::Key_Left);
-  EXPECT_EQ(Caption("lblHov_Cards"), "AKo") << "the edge is the end";
-  Press(Qt::Key_Up);
-  EXPECT_EQ(Caption("lblHov_Cards"), "AA");
-  for (int i = 0; i < 20; ++i) {
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Right);
-  }
-  EXPECT_EQ(Caption("lblHov_Cards"), "22");
-  Press(Qt::Key_Return);
-  EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to press";
-
-  Press(Qt::Key_Tab);
-  EXPECT_FALSE(Form.focusWidget()->objectName().startsWith(QStringLiteral("lblCards")));
-  Press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 168)) << "back to where one was";
 }
 
 TEST_F(KeyboardInWindow, TheMouseTakesNoFocusToTheGrid) {
@@ -576,22 +373,16 @@ TEST_F(SpokenWindow, NamesAndRolesTellWhatAControlIs) {
   constexpr auto kRoles = std::to_array<RoleCase>({
       {"picLogo", kNoIndex, QAccessible::Button, "About Quillon"},
       {"lblNav", 1, QAccessible::Link, "Preflop Raise"},
-      {"lblRangeManager", kNoIndex, QAccessible::Link, "Range Manager"},
       {"cmdPreflopEV", 0, QAccessible::Button, "Analyze"},
       {"txtNumber", 0, QAccessible::EditableText, "How much is the current pot?"},
-      {"txtNumber", 4, QAccessible::EditableText, "How much will your opponent have to call if you go ALL IN?"},
       {"cmboRanges", 2, QAccessible::ComboBox, "What range will he call with?"},
       {"lblWhatsThis", 4, QAccessible::Link, "What's this? Calling Range"},
       {"lblHisOdds", kNoIndex, QAccessible::StaticText, "X:1"},
-      {"Label", 17, QAccessible::StaticText, "Preflop Calling ALL IN"},
-      {"lblEditRange", 1, QAccessible::Link, "Edit this Range... Current Range"},
       {"lblEditRange", 2, QAccessible::Link, "Edit this Range... Calling Range"},
-      {"lblNewRange", 1, QAccessible::Link, "Create a New Range... Current Range"},
       {"lblNewRange", 2, QAccessible::Link, "Create a New Range... Calling Range"},
       {"lblCards", 14, QAccessible::StaticText, "KK"},
       {"rtfSummary", kNoIndex, QAccessible::EditableText, "Analysis details"},
       {"chkUpgrade", kNoIndex, QAccessible::CheckBox, "Automatically check for upgrades"},
-      {"cmdSendFeedback", kNoIndex, QAccessible::Button, "Send"},
       {"txtFeedback", kNoIndex, QAccessible::EditableText, "Feedback"},
   });
   Choose(2, "Tight");
@@ -601,41 +392,6 @@ TEST_F(SpokenWindow, NamesAndRolesTellWhatAControlIs) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&control)->role(), row.Role)
         << ObjectName(row.Name.Name(), row.Index);
   }
-}
-
-TEST_F(SpokenWindow, ALabelSaysWhatItShowsNow) {
-  Open(kRaiseNav);
-  Type(2, "100");
-  Type(4, "50");
-  EXPECT_EQ(NameOf(Get("lblHisOdds")), "3 : 1");
-}
-
-TEST_F(SpokenWindow, AScreenReaderPresses) {
-  QAccessibleInterface* link = QAccessible::queryAccessibleInterface(&Get("lblNav", kRaiseNav));
-  ASSERT_TRUE(link->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
-  link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(Screen(), "Preflop Raise");
-  QAccessibleInterface* plain = QAccessible::queryAccessibleInterface(&Get("Label", 23));
-  EXPECT_FALSE(plain->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
-}
-
-TEST_F(SpokenWindow, AListTellsWhatIsChosenApartFromItsQuestion) {
-  Open(kRaiseNav);
-  Choose(1, "Tight");
-  Choose(2, "Pairs");
-  const auto chosen = [this](std::int16_t list) {
-    return FromQt(QAccessible::queryAccessibleInterface(&Get("cmboRanges", list))->text(QAccessible::Description));
-  };
-  EXPECT_EQ(NameOf(Get("cmboRanges", 1)), "What is his current range?");
-  EXPECT_EQ(chosen(1), "Tight");
-  EXPECT_EQ(NameOf(Get("cmboRanges", 2)), "What range will he call with?");
-  EXPECT_EQ(chosen(2), "Pairs");
-}
-
-TEST_F(SpokenWindow, AllWindowsAreWindows) {
-  Dialogs.ShowManager();
-  for (QWidget* window : std::initializer_list<QWidget*>{&Form, Dialogs.LoadedManager(), &Dialogs.ShowNewRange()})
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(window)->role(), QAccessible::Window);
 }
 
 TEST_F(SpokenWindow, ACellSaysWhatTheHoverPanelSays) {
@@ -669,17 +425,6 @@ TEST_F(SpokenWindow, TheEndOfARunIsAnnouncedWithTheExplanation) {
   OpenScreen("Preflop Call");
   Open(kGridNav);
   EXPECT_EQ(heard.Texts().size(), 1U) << "the end of a run alone";
-}
-
-TEST_F(SpokenWindow, NothingHiddenIsPressed) {
-  QAccessibleActionInterface& grid =
-      *QAccessible::queryAccessibleInterface(&Get("lblNav", kGridNav))->actionInterface();
-  grid.doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(Screen(), "About");
-  RunEquity("Tight");
-  Click("picLogo");
-  grid.doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(Screen(), "ALL IN Grid");
 }
 
 }  // namespace

@@ -80,15 +80,6 @@ TEST_F(NumberBoxesInWindow, TheMouseLeavesABoxByAnotherBoxOrList) {
   EXPECT_EQ(BoxText(1), "4");
 }
 
-TEST_F(NumberBoxesInWindow, AnotherWindowInFrontLeavesTheBoxAsItIs) {
-  Open(kCallNav);
-  Type(0, "=1+1");
-  Click("lblRangeManager");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
-  EXPECT_EQ(BoxText(0), "=1+1");
-  EXPECT_EQ(Get<Shape>("ShapeBorder", 0).LineWidth(), 3);
-}
-
 TEST_F(NumberBoxesInWindow, ARunThatEndsBehindAnotherWindowLeavesTheBox) {
   EnterEquity("Tight");
   DuringRun("50%", [this] {
@@ -103,12 +94,6 @@ TEST_F(NumberBoxesInWindow, ARunThatEndsBehindAnotherWindowLeavesTheBox) {
   EXPECT_EQ(Get<Shape>("ShapeBorder", 0).LineWidth(), 1);
 }
 
-TEST_F(NumberBoxesInWindow, AnyKeyGoesIntoTheText) {
-  Open(kCallNav);
-  Type(0, "a$=(%,.;Z9 ");
-  EXPECT_EQ(BoxText(0), "a$=(%,.;Z9 ");
-}
-
 TEST_F(NumberBoxesInWindow, AnyChangeHidesTheResults) {
   for (std::int16_t i = 0; i < 5; ++i) {
     SCOPED_TRACE(i);
@@ -121,21 +106,6 @@ TEST_F(NumberBoxesInWindow, AnyChangeHidesTheResults) {
     EXPECT_TRUE(Shows("lblNoResults"));
     EXPECT_EQ(Caption("lblNoResults"), "There are no results to display at this time.");
   }
-}
-
-TEST_F(NumberBoxesInWindow, AnEvaluationIsAChangeToo) {
-  Open(kCallNav);
-  Type(0, "=1+1");
-  RunEquity("Tight");
-  ASSERT_TRUE(Shows("lblNav", kGridNav));
-  Open(kCallNav);
-  Get<QLineEdit>("txtNumber", 0).setText(QStringLiteral("=1+1"));
-  RunEquity("Tight");
-  Open(kCallNav);
-  Click("txtNumber", 0);
-  Press(Qt::Key_Return);
-  EXPECT_EQ(BoxText(0), "2");
-  EXPECT_FALSE(Shows("lblNav", kGridNav));
 }
 
 TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
@@ -153,26 +123,6 @@ TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
   EXPECT_EQ(odds(), "N/A, N/A") << "a sum that is not worked out yet counts as 0";
   Press(Qt::Key_Return);
   EXPECT_EQ(odds(), "9 : 1, 10%");
-}
-
-TEST_F(NumberBoxesInWindow, TheOddsLabelsGrowWithTheirText) {
-  Open(kRaiseNav);
-  Type(2, "9999999");
-  Type(4, "7");
-  for (const LabelKey name : std::to_array<LabelKey>({"lblHisOdds", "lblHisBEP"})) {
-    const Label& label = LabelAt(name);
-    EXPECT_GE(label.width(), label.TextSize().width()) << name.Name();
-    EXPECT_FALSE(label.Wraps());
-  }
-  EXPECT_EQ(Caption("lblHisOdds"), "1428572.29 : 1");
-}
-
-// P + C + 2H = 0 has odds of -1, by which nothing can be divided.
-TEST_F(NumberBoxesInWindow, OddsOfMinusOneEndTheProgram) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  Open(kRaiseNav);
-  Type(2, "100");
-  EXPECT_EXIT(Type(4, "-50"), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '11': Division by zero");
 }
 
 }  // namespace

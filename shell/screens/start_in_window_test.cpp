@@ -57,33 +57,6 @@ TEST_F(StartInWindow, ShowsTheAboutScreenWithNoLinkSelected) {
   EXPECT_FALSE(Form.rect().intersects(Get("shapeBack").geometry())) << "the selection bar waits out of sight";
 }
 
-TEST_F(StartInWindow, FillsTheListsOfTheDetailsScreen) {
-  Start();
-
-  const auto& types = Get<QComboBox>("cmboOutputType");
-  ASSERT_EQ(types.count(), 2);
-  EXPECT_EQ(FromQt(types.itemText(0)), "Plain Text");
-  EXPECT_EQ(FromQt(types.itemText(1)), "2+2");
-  EXPECT_EQ(types.currentIndex(), 0);
-
-  const auto& hands = Get<QComboBox>("cmbo169");
-  ASSERT_EQ(hands.count(), 1 + kHandClassCount);
-  EXPECT_EQ(FromQt(hands.itemText(0)), "None");
-  for (std::int16_t i = 0; i < kHandClassCount; ++i)
-    EXPECT_EQ(FromQt(hands.itemText(i + 1)), HandLabel(i));
-}
-
-TEST_F(StartInWindow, BuildsTheGridAndTheHoverPanel) {
-  Start();
-
-  EXPECT_EQ(Form.Controls().CountOf("shapeCardBack"), kHandClassCount);
-  EXPECT_EQ(Form.Controls().CountOf("lblCards"), kHandClassCount);
-  for (std::int16_t i = 0; i < kHandClassCount; ++i)
-    EXPECT_EQ(Caption("lblCards", i), HandLabel(i));
-  EXPECT_EQ(Get("frameHover").size(), PixelPlace({0, 0, 3780, 3315}).size());
-  EXPECT_TRUE(Get("frameHover").isHidden());
-}
-
 TEST_F(StartInWindow, ShowsTheWindowBeforeItLooksForUpgrades) {
   WriteSettings("[Upgrade]\r\nAuto=1\r\n");
   Web.WhileAsked = [this] {
@@ -159,33 +132,6 @@ TEST_F(StartInWindow, ClosingDuringARunEndsTheProgram) {
   Click("cmdPreflopEV", 2);
   EXPECT_EQ(ActsToCome, 0);
   EXPECT_EQ(Ends, 1);
-}
-
-TEST_F(StartInWindow, OnlyPlaceAndBoxesComeBack) {
-  Start();
-  Form.move(75, 60);
-  EnterCall("$100", "=20+5", "Tight");
-  Form.close();
-
-  MainStage next;
-  next.WriteSettings(Settings());
-  next.Start();
-  EXPECT_EQ(next.Form.pos(), QPoint(75, 60));
-  EXPECT_EQ(next.BoxText(0), "$100");
-  EXPECT_EQ(next.BoxText(1), "25") << "left for the list, and so evaluated";
-  EXPECT_EQ(next.Get<QComboBox>("cmboRanges", 0).currentText(), QString());
-  EXPECT_EQ(next.Screen(), "About");
-}
-
-TEST_F(StartInWindow, FailsWhereAFolderCannotBeMade) {
-  std::filesystem::remove_all(Program.Folder().Path / "Ranges");
-  std::ofstream(Program.Folder().Path / "Ranges") << "a file";
-  EXPECT_EQ(FaultOf([this] {
-              Form.Start();
-              return 0;
-            }),
-            RunTimeFault::kPathFileAccess);
-  EXPECT_FALSE(Form.isVisible());
 }
 
 }  // namespace

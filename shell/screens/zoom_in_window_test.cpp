@@ -66,12 +66,6 @@ TEST_F(ZoomInWindow, TakesTheDialogsAlong) {
   EXPECT_TRUE(room.contains(Dialogs.LoadedManager()->frameGeometry())) << "and one that is hidden meanwhile";
 }
 
-TEST_F(ZoomInWindow, StartsWithTheStepThatIsKept) {
-  WriteSettings("[View]\r\nZoom=125\r\n");
-  Start();
-  ExpectZoom(125);
-}
-
 TEST_F(ZoomInWindow, StartsWithOneThatFitsTheScreen) {
   struct Row {
     const char* DesktopScale;
