@@ -13,118 +13,82 @@
 namespace quillon {
 namespace {
 
-class FormCardGridTest : public testing::Test {
- public:
-  void Press(Qt::Key key) const { QTest::keyClick(Form.windowHandle(), key); }
-  void ShiftDown() {
-    Stage.ShiftHeld = true;
-    QTest::keyPress(Form.windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
-  }
-  void ShiftUp() {
-    Stage.ShiftHeld = false;
-    QTest::keyRelease(Form.windowHandle(), Qt::Key_Shift);
-  }
-  void Click(std::string_view label) const { ClickCell(Form.Controls(), label); }
-  void CheckHalf() const { ClickOn(Form.Controls(), "chkHalf"); }
-  [[nodiscard]] std::string Text() const { return RangeTextFromGrid(Form.Grid().Colors()); }
+class FormCardGridTest : public DialogFormTest<NewRangeForm> {
+ protected:
+  FormCardGridTest() { Stage.OpenNewRange(); }
+
   [[nodiscard]] Rgb CaptionColor(std::string_view label) const {
-    return FromColor(Form.Controls().LabelAt("lblCards", HandIndex(label)).TextColor());
+    return FromColor(Form().Controls().LabelAt("lblCards", HandIndex(label)).TextColor());
   }
   [[nodiscard]] Qt::CheckState State(std::string_view label) const {
-    Label& cell = Form.Controls().LabelAt("lblCards", HandIndex(label));
+    Label& cell = Form().Controls().LabelAt("lblCards", HandIndex(label));
     const QAccessible::State state = QAccessible::queryAccessibleInterface(&cell)->state();
     if (state.checkStateMixed) return Qt::PartiallyChecked;
     return state.checked ? Qt::Checked : Qt::Unchecked;
   }
-
-  DialogStage Stage;
-  NewRangeForm& Form = Stage.OpenNewRange();
 };
 
 TEST_F(FormCardGridTest, CellsStandBesideEachOtherInsideTheFittedFrame) {
-  const FormCardGrid& grid = Form.Grid();
+  const FormCardGrid& grid = Form().Grid();
   EXPECT_EQ(grid.SquarePlace(0), (TwipRect{1360, 940, 405, 405}));
   EXPECT_EQ(grid.SquarePlace(14), (TwipRect{1790, 1370, 405, 405}));
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    EXPECT_EQ(Form.Controls().ShapeAt("shapeCardBack", index).geometry(), PixelPlace(grid.SquarePlace(index)));
-    EXPECT_EQ(Form.Controls().LabelAt("lblCards", index).Text(), ToQt(HandLabel(index)));
+    EXPECT_EQ(Form().Controls().ShapeAt("shapeCardBack", index).geometry(), PixelPlace(grid.SquarePlace(index)));
+    EXPECT_EQ(Form().Controls().LabelAt("lblCards", index).Text(), ToQt(HandLabel(index)));
   }
-  const Shape& frame = Form.Controls().ShapeAt("shapeBlue");
+  const Shape& frame = Form().Controls().ShapeAt("shapeBlue");
   EXPECT_EQ(frame.geometry(), PixelPlace({1260, 840, 5765, 5765}));
   EXPECT_FALSE(frame.isVisible());
 }
 
 TEST_F(FormCardGridTest, EveryCellCanBeClickedOnItsCaptionAndOnItsEdge) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const QRect square = Form.Controls().ShapeAt("shapeCardBack", index).geometry();
-    QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, square.center() + QPoint(0, 4));
+    const QRect square = Form().Controls().ShapeAt("shapeCardBack", index).geometry();
+    QTest::mouseClick(Form().windowHandle(), Qt::LeftButton, {}, square.center() + QPoint(0, 4));
   }
-  EXPECT_EQ(Text(), EveryHandAt(1));
+  EXPECT_EQ(GridText(), EveryHandAt(1));
 }
 
 TEST_F(FormCardGridTest, AClickSelectsAndAFurtherOneClears) {
-  Click("AKs");
-  EXPECT_EQ(Text(), TextWith("AKs"));
+  Cell("AKs");
+  EXPECT_EQ(GridText(), TextWith("AKs"));
   EXPECT_EQ(CaptionColor("AKs"), kCaptionOnFullColor);
-  Click("AKs");
-  EXPECT_EQ(Text(), TextWith(""));
+  Cell("AKs");
+  EXPECT_EQ(GridText(), TextWith(""));
   EXPECT_EQ(CaptionColor("AKs"), kCaptionColor);
 }
 
-TEST_F(FormCardGridTest, AQuickSecondClickIsAClickToo) {
-  Label& cell = Form.Controls().LabelAt("lblCards", HandIndex("AKs"));
-  ClickOn(cell);
-  QTest::mouseDClick(&cell, Qt::LeftButton);
-  EXPECT_EQ(Text(), TextWith("AKs"));
-}
-
 TEST_F(FormCardGridTest, HalfWeightFollowsTheCheckBoxAndNeverTurnsToFull) {
-  Click("KK");
-  CheckHalf();
-  Click("AA");
-  EXPECT_EQ(Text(), TextWith("KK", "AA"));
+  Cell("KK");
+  Click("chkHalf");
+  Cell("AA");
+  EXPECT_EQ(GridText(), TextWith("KK", "AA"));
   EXPECT_EQ(CaptionColor("AA"), kCaptionColor);
-  Click("AA");
-  Click("KK");
-  EXPECT_EQ(Text(), TextWith(""));
-}
-
-TEST_F(FormCardGridTest, DraggingSelectsNothing) {
-  const auto at = [this](std::string_view label) {
-    return Form.Controls().ShapeAt("shapeCardBack", HandIndex(label)).geometry().center();
-  };
-  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, at("AA"));
-  QTest::mouseMove(Form.windowHandle(), at("AKs"));
-  QTest::mouseMove(Form.windowHandle(), at("AQs"));
-  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, at("AQs"));
-  EXPECT_EQ(Text(), TextWith(""));
-}
-
-TEST_F(FormCardGridTest, TheRightButtonSelectsNothing) {
-  QTest::mouseClick(&Form.Controls().LabelAt("lblCards", 0), Qt::RightButton);
-  EXPECT_EQ(Text(), TextWith(""));
+  Cell("AA");
+  Cell("KK");
+  EXPECT_EQ(GridText(), TextWith(""));
 }
 
 TEST_F(FormCardGridTest, TheFirstClickUnderAShiftPressSweepsAndTheSecondDoesNot) {
   ShiftDown();
-  Click("AJs");
-  EXPECT_EQ(Text(), TextWith("AKs AQs AJs"));
-  Click("88");
-  EXPECT_EQ(Text(), TextWith("AKs AQs AJs 88"));
+  Cell("AJs");
+  EXPECT_EQ(GridText(), TextWith("AKs AQs AJs"));
+  Cell("88");
+  EXPECT_EQ(GridText(), TextWith("AKs AQs AJs 88"));
   ShiftUp();
   ShiftDown();
-  Click("AJs");
-  EXPECT_EQ(Text(), TextWith("88"));
+  Cell("AJs");
+  EXPECT_EQ(GridText(), TextWith("88"));
   ShiftUp();
 }
 
 TEST_F(FormCardGridTest, ARepeatOfAHeldShiftKeyIsNoNewPress) {
   ShiftDown();
-  Click("AJs");
+  Cell("AJs");
   QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier, QString(), true);
-  QCoreApplication::sendEvent(&Form, &repeat);
-  Click("A5s");
-  EXPECT_EQ(Text(), TextWith("AKs AQs AJs A5s"));
+  QCoreApplication::sendEvent(&Form(), &repeat);
+  Cell("A5s");
+  EXPECT_EQ(GridText(), TextWith("AKs AQs AJs A5s"));
   ShiftUp();
 }
 
@@ -135,51 +99,44 @@ TEST_F(FormCardGridTest, AReleaseThatComesTwiceIsOneRelease) {
     for (int i = 0; i < 2; ++i) {
       QKeyEvent event(type, Qt::Key_Shift, Qt::ShiftModifier);
       event.setTimestamp(when);
-      QCoreApplication::sendEvent(&Form, &event);
+      QCoreApplication::sendEvent(&Form(), &event);
     }
   };
   Stage.ShiftHeld = true;
-  Click("AJs");
-  EXPECT_EQ(Text(), TextWith("AKs AQs AJs"));
+  Cell("AJs");
+  EXPECT_EQ(GridText(), TextWith("AKs AQs AJs"));
   send(QEvent::KeyPress, 1000);
-  Click("QQ");
-  EXPECT_EQ(Text(), TextWith("AA KK QQ AKs AQs AJs"));
+  Cell("QQ");
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs"));
   send(QEvent::KeyRelease, 2000);
-  Click("A5s");
-  EXPECT_EQ(Text(), TextWith("AA KK QQ AKs AQs AJs A5s")) << "the press that is held has had its sweep";
-}
-
-TEST_F(FormCardGridTest, AShiftPressThatEndedBeforeTheClickIsNone) {
-  ShiftDown();
-  ShiftUp();
-  Click("88");
-  EXPECT_EQ(Text(), TextWith("88"));
+  Cell("A5s");
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs A5s")) << "the press that is held has had its sweep";
 }
 
 TEST_F(FormCardGridTest, ArrowKeysGoFromCellToCellAndEnterOrSpacePressesIt) {
-  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Form().Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_Right);
   Press(Qt::Key_Down);
   Press(Qt::Key_Space);
-  EXPECT_EQ(Text(), TextWith("KK"));
+  EXPECT_EQ(GridText(), TextWith("KK"));
   Press(Qt::Key_Left);
   Press(Qt::Key_Return);
-  EXPECT_EQ(Text(), TextWith("KK AKo"));
+  EXPECT_EQ(GridText(), TextWith("KK AKo"));
   Press(Qt::Key_Up);
   Press(Qt::Key_Enter);
-  EXPECT_EQ(Text(), TextWith("AA KK AKo"));
+  EXPECT_EQ(GridText(), TextWith("AA KK AKo"));
 }
 
 TEST_F(FormCardGridTest, ArrowKeysStopAtTheEdges) {
-  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Form().Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_Up);
   Press(Qt::Key_Left);
-  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(0)"));
+  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("lblCards(0)"));
   for (int step = 0; step < 20; ++step) {
     Press(Qt::Key_Down);
     Press(Qt::Key_Right);
   }
-  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(168)"));
+  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("lblCards(168)"));
 }
 
 struct KeyCase {
@@ -199,26 +156,26 @@ TEST_F(FormCardGridTest, HomeAndEndGoToTheEndsOfTheRowAndWithControlOfTheGrid) {
       {"22", Qt::Key_End, Qt::ControlModifier, "22"},
   });
   for (const KeyCase& row : kCases) {
-    Form.Controls().LabelAt("lblCards", HandIndex(row.From)).setFocus(Qt::TabFocusReason);
-    QTest::keyClick(Form.focusWidget(), row.Key, row.Held);
-    EXPECT_EQ(Form.focusWidget(), &Form.Controls().LabelAt("lblCards", HandIndex(row.To))) << row.From << row.To;
+    Form().Controls().LabelAt("lblCards", HandIndex(row.From)).setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Form().focusWidget(), row.Key, row.Held);
+    EXPECT_EQ(Form().focusWidget(), &Form().Controls().LabelAt("lblCards", HandIndex(row.To))) << row.From << row.To;
   }
 }
 
 TEST_F(FormCardGridTest, TabComesBackToTheCellItLeft) {
-  Form.Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
+  Form().Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_Right);
   Press(Qt::Key_Tab);
-  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("txtRangeAbbr"));
+  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("txtRangeAbbr"));
   Press(Qt::Key_Backtab);
-  EXPECT_EQ(Form.focusWidget()->objectName(), QStringLiteral("lblCards(1)"));
+  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("lblCards(1)"));
 }
 
 TEST_F(FormCardGridTest, AScreenReaderLearnsWhatTheColourTells) {
   EXPECT_EQ(State("AA"), Qt::Unchecked);
-  Click("AA");
-  CheckHalf();
-  Click("KK");
+  Cell("AA");
+  Click("chkHalf");
+  Cell("KK");
   EXPECT_EQ(State("AA"), Qt::Checked);
   EXPECT_EQ(State("KK"), Qt::PartiallyChecked);
 }

@@ -8,9 +8,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,13 +17,15 @@
 
 #include "testing/dialog_stage.h"
 #include "testing/heard_announcements.h"
+#include "testing/opened_menu.h"
 #include "testing/range_dialog_messages.h"
 
 namespace quillon {
 namespace {
 
+using testing::AllOf;
+using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const InputQuestion kShareQuestion = {"What percentage of all hands, the best first?", "Top x%", ""};
 
@@ -41,69 +41,29 @@ std::string Clipboard() {
 }
 
 // What a grid can do in either dialog.
-template <typename Form>
-class PaintedForm : public testing::Test {
+template <typename Dialog>
+class PaintedForm : public DialogFormTest<Dialog> {
  protected:
-  [[nodiscard]] const auto& Controls() const { return Dialog().Controls(); }
-  [[nodiscard]] std::string Grid() const { return RangeTextFromGrid(Dialog().Grid().Colors()); }
-  [[nodiscard]] std::string Caption(std::string_view label) const {
-    return FromQt(Dialog().template findChild<Label*>(ToQt(label))->Text());
-  }
-  [[nodiscard]] std::string Summary() const {
-    return FromQt(Controls().template Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
-  }
-  void Click(std::string_view label) const { ClickCell(Controls(), label); }
-  void CheckHalf() const { ClickOn(Controls(), "chkHalf"); }
-  void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::ControlModifier) const {
-    QTest::keyClick(Dialog().windowHandle(), key, held);
-  }
-  void Undo() const { Press(Qt::Key_Z); }
-  void Redo() const { Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+  void PressControl(Qt::Key key) const { this->Press(key, Qt::ControlModifier); }
+  void Undo() const { PressControl(Qt::Key_Z); }
+  void Redo() const { this->Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
   void Paste(const char* text) const {
     CopyToClipboard(text);
-    Press(Qt::Key_V);
+    PressControl(Qt::Key_V);
   }
-
-  [[nodiscard]] QMenu* Menu() const { return Dialog().template findChild<QMenu*>(); }
-  void ClickRight(const QPoint& place) const { QTest::mouseClick(Dialog().windowHandle(), Qt::RightButton, {}, place); }
   [[nodiscard]] QPoint MiddleOf(std::string_view label) const {
-    return Controls().ShapeAt("shapeCardBack", HandIndex(label)).geometry().center();
+    return this->Controls().ShapeAt("shapeCardBack", HandIndex(label)).geometry().center();
   }
-  /// Opens the menu with the right button and chooses by the left one.
-  void Choose(std::string_view text) const {
-    ClickRight(MiddleOf("T9s"));
-    ASSERT_NE(Menu(), nullptr);
-    QMenu& menu = *Menu();
-    for (QAction* action : menu.actions()) {
-      if (!FromQt(action->text()).starts_with(text)) continue;
-      QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
-      QTest::qWait(0);  // the menu has gone
-      return;
-    }
-    ADD_FAILURE() << text;
-  }
-
-  DialogStage Stage;
-
- private:
-  [[nodiscard]] Form& Dialog() const {
-    if constexpr (std::is_same_v<Form, ManagerForm>) {
-      return *Stage.Dialogs.LoadedManager();
-    } else {
-      return *Stage.Dialogs.LoadedNewRange();
-    }
-  }
+  void Choose(std::string_view text) const { ChooseInMenu(this->Form(), MiddleOf("T9s"), text); }
 };
 
 class PaintingTest : public PaintedForm<NewRangeForm> {
  protected:
-  PaintingTest() { Come(Stage.OpenNewRange()); }
-
-  static void Come(QWidget& form) {
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+  PaintingTest() {
+    Stage.OpenNewRange();
+    ComeToFront();
   }
-  [[nodiscard]] NewRangeForm& Form() const { return *Stage.Dialogs.LoadedNewRange(); }
+
   void Drop(const QPoint& place, const QMimeData& dragged, bool accepted) {
     QDragEnterEvent enter({1, 1}, Qt::MoveAction | Qt::CopyAction, &dragged, Qt::LeftButton, {});
     QCoreApplication::sendEvent(&Form(), &enter);
@@ -126,31 +86,19 @@ class PaintingTest : public PaintedForm<NewRangeForm> {
 
 // ---- the menu
 
-TEST_F(PaintingTest, TheMenuHasAllOfItWithItsKeys) {
-  ClickRight(MiddleOf("AA"));
-  std::vector<std::string> shown;
-  for (const QAction* action : Menu()->actions())
-    shown.push_back(FromQt(action->text() + action->shortcut().toString()) + (action->isEnabled() ? "" : " (off)"));
-  EXPECT_THAT(shown, ElementsAre("CopyCtrl+C", "PasteCtrl+V", "", "Everything", "Clear", "Invert", "Top x%...", "",
-                                 "UndoCtrl+Z (off)", "RedoCtrl+Shift+Z (off)"));
-}
-
-TEST_F(PaintingTest, UndoAndRedoAreOnOfferWhereThereIsAStep) {
-  const auto offers = [this](const char* text) {
-    ClickRight(MiddleOf("AA"));
-    bool enabled = false;
-    for (const QAction* action : Menu()->actions())
-      enabled = enabled || (FromQt(action->text()).starts_with(text) && action->isEnabled());
-    QTest::keyClick(Menu(), Qt::Key_Escape);
-    QTest::qWait(0);
-    return enabled;
+TEST_F(PaintingTest, TheMenuHasAllOfItWithItsKeysAndTheStepsThereAre) {
+  const auto entries = [this] {
+    OpenMenu(Form(), MiddleOf("AA"));
+    const std::vector<std::string> shown = MenuEntries(Form());
+    CloseMenu(Form());
+    return shown;
   };
-  Click("AA");
-  EXPECT_TRUE(offers("Undo"));
-  EXPECT_FALSE(offers("Redo"));
+  EXPECT_THAT(entries(), ElementsAre("CopyCtrl+C", "PasteCtrl+V", "", "Everything", "Clear", "Invert", "Top x%...", "",
+                                     "UndoCtrl+Z (off)", "RedoCtrl+Shift+Z (off)"));
+  Cell("AA");
+  EXPECT_THAT(entries(), AllOf(Contains("UndoCtrl+Z"), Contains("RedoCtrl+Shift+Z (off)")));
   Undo();
-  EXPECT_FALSE(offers("Undo"));
-  EXPECT_TRUE(offers("Redo"));
+  EXPECT_THAT(entries(), AllOf(Contains("UndoCtrl+Z (off)"), Contains("RedoCtrl+Shift+Z")));
 }
 
 TEST_F(PaintingTest, TheMenuComesAllOverTheGridAndNowhereElse) {
@@ -165,18 +113,17 @@ TEST_F(PaintingTest, TheMenuComesAllOverTheGridAndNowhereElse) {
        {Case{"on a caption", cell.center(), true}, Case{"on the upper edge", cell.topLeft(), true},
         Case{"between cells", cell.bottomRight() + QPoint(1, 1), true}, Case{"on the margin", grid.topLeft(), true},
         Case{"beside the grid", grid.topLeft() - QPoint(1, 1), false}, Case{"on the form", {2, 2}, false}}) {
-    ClickRight(c.place);
-    EXPECT_EQ(Menu() != nullptr, c.comes) << c.rule;
-    if (Menu() != nullptr) Menu()->close();
-    QTest::qWait(0);
+    OpenMenu(Form(), c.place);
+    EXPECT_EQ(OpenedMenu(Form()) != nullptr, c.comes) << c.rule;
+    if (OpenedMenu(Form()) != nullptr) CloseMenu(Form());
   }
 }
 
 TEST_F(PaintingTest, TheMenuComesByTheKeyboardWithItsFirstEntryMarked) {
-  Click("AKs");
+  Cell("AKs");
   Press(Qt::Key_F10, Qt::ShiftModifier);
-  ASSERT_NE(Menu(), nullptr);
-  QTest::keyClick(Menu(), Qt::Key_Return);
+  ASSERT_NE(OpenedMenu(Form()), nullptr);
+  QTest::keyClick(OpenedMenu(Form()), Qt::Key_Return);
   EXPECT_EQ(Clipboard(), "AKs");
   QTest::qWait(0);
 
@@ -184,20 +131,20 @@ TEST_F(PaintingTest, TheMenuComesByTheKeyboardWithItsFirstEntryMarked) {
   Label& cell = Controls().LabelAt("lblCards", 0);
   QContextMenuEvent event(QContextMenuEvent::Keyboard, cell.rect().center(), cell.mapToGlobal(cell.rect().center()));
   QCoreApplication::sendEvent(&cell, &event);
-  EXPECT_NE(Menu(), nullptr);
+  EXPECT_NE(OpenedMenu(Form()), nullptr);
 }
 
 // ---- copy and paste
 
 TEST_F(PaintingTest, CopiesTheExactNotation) {
-  Click("AA");
-  CheckHalf();
-  Click("AKs");
-  Click("32o");
+  Cell("AA");
+  Click("chkHalf");
+  Cell("AKs");
+  Cell("32o");
   for (const bool byKey : {true, false}) {
     CopyToClipboard("");
     if (byKey) {
-      Press(Qt::Key_C);
+      PressControl(Qt::Key_C);
     } else {
       Choose("Copy");
     }
@@ -206,19 +153,19 @@ TEST_F(PaintingTest, CopiesTheExactNotation) {
 }
 
 TEST_F(PaintingTest, PastesEachWeightWhateverMaybeSays) {
-  Click("32o");
-  CheckHalf();
+  Cell("32o");
+  Click("chkHalf");
   Paste("AA,AKs:0.5");
-  EXPECT_EQ(Grid(), TextWith("AA", "AKs"));
-  EXPECT_EQ(Caption("lblPercSelected"), "0.6% selected");
+  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
+  EXPECT_EQ(Share(), "0.6% selected");
   EXPECT_EQ(Summary(), "Full: AA | Half: AKs");
   CopyToClipboard("KK, top 1%:50%, AA");
   Choose("Paste");
-  EXPECT_EQ(Grid(), TextWith("AA KK", "AKs AQs"));
+  EXPECT_EQ(GridText(), TextWith("AA KK", "AKs AQs"));
   Paste(" Full: QQ | Half: JJ\n");
-  EXPECT_EQ(Grid(), TextWith("QQ", "JJ"));
+  EXPECT_EQ(GridText(), TextWith("QQ", "JJ"));
   Paste("none");
-  EXPECT_EQ(Grid(), TextWith(""));
+  EXPECT_EQ(GridText(), TextWith(""));
 }
 
 TEST_F(PaintingTest, WhatCannotBeReadIsShownAndChangesNothing) {
@@ -226,31 +173,31 @@ TEST_F(PaintingTest, WhatCannotBeReadIsShownAndChangesNothing) {
     const char* pasted;
     const char* marked;
   };
-  Click("AA");
+  Cell("AA");
   for (const Case& c : {Case{"AKs, KXs+", "AKs, KXs+\r\n     ^ \"X\" is not a rank"},
                         Case{"KK:0.25", "KK:0.25\r\n^ the grid knows the weights 0, 0.5 and 1 only"},
                         Case{"", "\r\n^ there is no hand here; write \"none\" for an empty range"}}) {
     ExpectMessageBox(NotARange(c.marked));
     Paste(c.pasted);
     VerifyExpectedBoxes();
-    Come(Form());
+    ComeToFront();
     ExpectMessageBox(NotARange(c.marked));
     DropText(MiddleOf("KK"), c.pasted);
     VerifyExpectedBoxes();
-    Come(Form());
-    EXPECT_EQ(Grid(), TextWith("AA"));
+    ComeToFront();
+    EXPECT_EQ(GridText(), TextWith("AA"));
   }
   Undo();
-  EXPECT_EQ(Grid(), TextWith("")) << "no step was made of them";
+  EXPECT_EQ(GridText(), TextWith("")) << "no step was made of them";
 }
 
 TEST_F(PaintingTest, TextBoxesKeepTheirKeys) {
-  Click("AA");
+  Cell("AA");
   auto& name = Controls().Get<QLineEdit>("txtRangeName");
   name.setFocus();
   QTest::keyClicks(&name, QStringLiteral("Loose"));
   name.selectAll();
-  Press(Qt::Key_C);
+  PressControl(Qt::Key_C);
   EXPECT_EQ(Clipboard(), "Loose");
   Paste("KK");
   EXPECT_EQ(FromQt(name.text()), "KK");
@@ -262,77 +209,75 @@ TEST_F(PaintingTest, TextBoxesKeepTheirKeys) {
   auto& summary = Controls().Get<QPlainTextEdit>("txtRangeAbbr");
   summary.setFocus();
   summary.selectAll();
-  Press(Qt::Key_C);
+  PressControl(Qt::Key_C);
   EXPECT_EQ(Clipboard(), "AA");
   Paste("QQ");
   Undo();
-  EXPECT_EQ(Grid(), TextWith("AA")) << "not the grid's while a box is read from";
+  EXPECT_EQ(GridText(), TextWith("AA")) << "not the grid's while a box is read from";
 
   Controls().Get<QPushButton>("cmdOK").setFocus();
   Undo();
-  EXPECT_EQ(Grid(), TextWith(""));
+  EXPECT_EQ(GridText(), TextWith(""));
 }
 
 TEST_F(PaintingTest, ATextIsDroppedOnTheGrid) {
   DropText(MiddleOf("72o"), "AA,AKs:0.5");
-  EXPECT_EQ(Grid(), TextWith("AA", "AKs"));
+  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
   DropText({2, 2}, "KK", false);
-  EXPECT_EQ(Grid(), TextWith("AA", "AKs")) << "beside the grid";
+  EXPECT_EQ(GridText(), TextWith("AA", "AKs")) << "beside the grid";
   QMimeData picture;
   picture.setImageData(QImage(2, 2, QImage::Format_RGB32));
   Drop(MiddleOf("72o"), picture, false);
-  EXPECT_EQ(Grid(), TextWith("AA", "AKs"));
+  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
 }
 
 // ---- whole grids
 
 TEST_F(PaintingTest, WholeGridsSelectAsAClickDoes) {
   for (const bool half : {false, true}) {
-    if (half) CheckHalf();
+    if (half) Click("chkHalf");
     const auto share = [half](const char* full, const char* halved) { return half ? halved : full; };
     Choose("Everything");
-    EXPECT_EQ(Grid(), EveryHandAt(half ? 0.5 : 1));
-    EXPECT_EQ(Caption("lblPercSelected"), share("100% selected", "50% selected"));
+    EXPECT_EQ(GridText(), EveryHandAt(half ? 0.5 : 1));
+    EXPECT_EQ(Share(), share("100% selected", "50% selected"));
     Choose("Clear");
-    EXPECT_EQ(Grid(), EveryHandAt(0));
+    EXPECT_EQ(GridText(), EveryHandAt(0));
     EXPECT_EQ(Summary(), "[None]");
     Choose("Invert");
-    EXPECT_EQ(Grid(), EveryHandAt(half ? 0.5 : 1));
+    EXPECT_EQ(GridText(), EveryHandAt(half ? 0.5 : 1));
     Choose("Invert");
-    EXPECT_EQ(Grid(), EveryHandAt(0));
+    EXPECT_EQ(GridText(), EveryHandAt(0));
     ExpectInputBox(kShareQuestion, "1%");
     Choose("Top x%...");
     VerifyExpectedBoxes();
-    Come(Form());
-    EXPECT_EQ(Grid(), half ? TextWith("", "AA AKs AQs") : TextWith("AA AKs AQs"));
+    ComeToFront();
+    EXPECT_EQ(GridText(), half ? TextWith("", "AA AKs AQs") : TextWith("AA AKs AQs"));
   }
 }
 
 TEST_F(PaintingTest, AShareThatIsNoneIsRefusedAndCancelIsSilent) {
-  Click("22");
+  Cell("22");
   ExpectInputBoxCancelled(kShareQuestion);
   Choose("Top x%...");
   VerifyExpectedBoxes();
-  Come(Form());
+  ComeToFront();
   ExpectInputBox(kShareQuestion, "15, AKs");
   ExpectMessageBox({.title = "Top x%",
                     .text = "A share is a number from 0 to 100, such as 15 or 12.5.",
                     .icon = MessageIcon::kExclamation});
   Choose("Top x%...");
   VerifyExpectedBoxes();
-  EXPECT_EQ(Grid(), TextWith("22"));
+  EXPECT_EQ(GridText(), TextWith("22"));
 }
 
 TEST_F(PaintingTest, ShiftIsNotReadAndStaysForTheNextClick) {
-  Stage.ShiftHeld = true;
-  QTest::keyPress(Form().windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
+  ShiftDown();
   CopyToClipboard("KQs");
   Choose("Paste");
-  EXPECT_EQ(Grid(), TextWith("KQs")) << "no sweep";
-  Click("QQ");
-  EXPECT_EQ(Grid(), TextWith("AA KK QQ KQs")) << "a sweep";
-  Stage.ShiftHeld = false;
-  QTest::keyRelease(Form().windowHandle(), Qt::Key_Shift);
+  EXPECT_EQ(GridText(), TextWith("KQs")) << "no sweep";
+  Cell("QQ");
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ KQs")) << "a sweep";
+  ShiftUp();
 }
 
 TEST_F(PaintingTest, AScreenReaderHearsWhatIsSelectedThen) {
@@ -340,22 +285,20 @@ TEST_F(PaintingTest, AScreenReaderHearsWhatIsSelectedThen) {
   Paste("AA");
   Choose("Everything");
   Undo();
-  Press(Qt::Key_C);
+  PressControl(Qt::Key_C);
   EXPECT_THAT(heard.Texts(), ElementsAre("0.5% selected", "100% selected", "0.5% selected", "Copied."));
 }
 
 // ---- steps
 
 TEST_F(PaintingTest, StepsGoBackAndForth) {
-  Click("AA");
-  Stage.ShiftHeld = true;
-  QTest::keyPress(Form().windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
-  Click("AJs");
-  Stage.ShiftHeld = false;
-  QTest::keyRelease(Form().windowHandle(), Qt::Key_Shift);
-  CheckHalf();
-  Click("AJs");
-  Click("AJs");
+  Cell("AA");
+  ShiftDown();
+  Cell("AJs");
+  ShiftUp();
+  Click("chkHalf");
+  Cell("AJs");
+  Cell("AJs");
   Paste("22");
   Choose("Clear");
   Choose("Clear");  // no step: it is clear
@@ -365,32 +308,32 @@ TEST_F(PaintingTest, StepsGoBackAndForth) {
     return bar == std::string::npos ? TextWith(step) : TextWith(step.substr(0, bar), step.substr(bar + 1));
   };
   for (std::size_t i = 0; i < steps.size(); ++i) {
-    EXPECT_EQ(Grid(), text(steps[i])) << i;
+    EXPECT_EQ(GridText(), text(steps[i])) << i;
     if (i + 1 < steps.size()) Undo();
   }
   Undo();
-  EXPECT_EQ(Grid(), TextWith("")) << "there is no step before";
+  EXPECT_EQ(GridText(), TextWith("")) << "there is no step before";
   for (std::size_t i = steps.size() - 1; i-- > 0;) {
     Redo();
-    EXPECT_EQ(Grid(), text(steps[i])) << i;
+    EXPECT_EQ(GridText(), text(steps[i])) << i;
   }
-  EXPECT_EQ(Caption("lblPercSelected"), "0% selected");
+  EXPECT_EQ(Share(), "0% selected");
   Choose("Undo");
   EXPECT_EQ(Summary(), "22");
-  Click("33");
+  Cell("33");
   Redo();
-  EXPECT_EQ(Grid(), TextWith("22", "33")) << "a click ends the way forth";
+  EXPECT_EQ(GridText(), TextWith("22", "33")) << "a click ends the way forth";
 }
 
 TEST_F(PaintingTest, AProposalIsOneStep) {
-  Click("22");
+  Cell("22");
   Form().Propose(std::vector<std::int16_t>{0, 14, 168});
-  EXPECT_EQ(Grid(), TextWith("AA KK"));
+  EXPECT_EQ(GridText(), TextWith("AA KK"));
   Controls().Get<QPushButton>("cmdOK").setFocus();
   Undo();
-  EXPECT_EQ(Grid(), TextWith("22"));
+  EXPECT_EQ(GridText(), TextWith("22"));
   Redo();
-  EXPECT_EQ(Grid(), TextWith("AA KK"));
+  EXPECT_EQ(GridText(), TextWith("AA KK"));
 }
 
 // ---- the Range Manager
@@ -401,34 +344,31 @@ class ManagerPaintingTest : public PaintedForm<ManagerForm> {
     Stage.Program.Write("Loose.txt", RangeWith({{"AA", 1}, {"QQ", 0.25}, {"22", 0.5}}));
     Stage.OpenManager();
   }
-  [[nodiscard]] ManagerForm& Form() const { return *Stage.Dialogs.LoadedManager(); }
   void Select(std::string_view name) const { Form().RangeList().SelectEntry(name); }
-  void ClickOk() const { ClickOn(Controls(), "cmdOK"); }
 };
 
 TEST_F(ManagerPaintingTest, KeysAreHeardWhileTheListHasTheFocus) {
   Controls().Get<QListWidget>("lstRanges").setFocus();
-  Press(Qt::Key_C);
+  PressControl(Qt::Key_C);
   EXPECT_EQ(Clipboard(), "AA,AKs:0.5");
   Paste("KK");
-  EXPECT_EQ(Grid(), TextWith("KK"));
-  EXPECT_EQ(Caption("lblRangeInfo"), "0.5% selected");
+  EXPECT_EQ(GridText(), TextWith("KK"));
+  EXPECT_EQ(Share(), "0.5% selected");
   EXPECT_EQ(Summary(), "KK");
   Undo();
-  EXPECT_EQ(Grid(), TextWith("AA", "AKs"));
+  EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
 }
 
 TEST_F(ManagerPaintingTest, APasteIsAChangeThatOkAsksAboutUnlessItIsUndone) {
   Paste("KK");
   EXPECT_EQ(Stage.FileText("Button Shove"), TextWith("AA", "AKs"));
   ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kCancel);
-  ClickOk();
+  Click("cmdOK");
   VerifyExpectedBoxes();
-  Form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  ComeToFront();
   Undo();
-  ClickOk();
-  EXPECT_EQ(Stage.Dialogs.LoadedManager(), nullptr) << "closed without a question";
+  Click("cmdOK");
+  EXPECT_TRUE(IsClosed()) << "closed without a question";
 }
 
 TEST_F(ManagerPaintingTest, WhatShowsARangeForgetsTheSteps) {
@@ -439,11 +379,11 @@ TEST_F(ManagerPaintingTest, WhatShowsARangeForgetsTheSteps) {
     } else {
       Stage.Dialogs.RefreshLists();
     }
-    const std::string shown = Grid();
+    const std::string shown = GridText();
     Undo();
-    EXPECT_EQ(Grid(), shown);
+    EXPECT_EQ(GridText(), shown);
     Redo();
-    EXPECT_EQ(Grid(), shown);
+    EXPECT_EQ(GridText(), shown);
   }
 }
 
@@ -471,7 +411,7 @@ TEST_F(ManagerPaintingTest, WeightsThatASaveWouldDropAreTold) {
   EXPECT_THAT(heard.Texts(), ElementsAre(note, note)) << "it comes up with that range";
 
   ExpectMessageBox(Saved("Loose"));
-  ClickOn(Controls(), "imgSave");
+  Click("imgSave");
   VerifyExpectedBoxes();
   EXPECT_EQ(tip("AA"), "") << "now they are gone";
 }

@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,27 +22,16 @@ const InputQuestion kNewQuestion = {"What do you want to name the range?", "Rena
 const InputQuestion kSaveAsQuestion = {"What do you want to call the new range?", "Pick a Name", "Button Shove"};
 const InputQuestion kRenameQuestion = {"What do you want to rename the range to?", "Rename Range", "Button Shove"};
 
-class ManagerFormTest : public testing::Test {
- public:
+class ManagerFormTest : public DialogFormTest<ManagerForm> {
+ protected:
   ManagerFormTest() { Stage.OpenManager(); }
 
-  [[nodiscard]] ManagerForm& Form() const { return *Stage.Dialogs.LoadedManager(); }
-  [[nodiscard]] const ManagerControls& Controls() const { return Form().Controls(); }
-  void Click(ManagerControls::Key<> name) const { ClickOn(Controls(), name); }
-  void Cell(std::string_view label) const { ClickCell(Controls(), label); }
   void SelectRow(int row) const {
     auto& list = Controls().Get<QListWidget>("lstRanges");
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
   }
   [[nodiscard]] std::string Selected() const { return Form().RangeList().CurrentText(); }
   [[nodiscard]] std::string Title() const { return FromQt(Controls().LabelAt("lblRangeName").Text()); }
-  [[nodiscard]] std::string Share() const { return FromQt(Controls().LabelAt("lblRangeInfo").Text()); }
-  [[nodiscard]] std::string Summary() const {
-    return FromQt(Controls().Get<QPlainTextEdit>("txtRangeAbbr").toPlainText());
-  }
-  [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid().Colors()); }
-  [[nodiscard]] bool IsClosed() const { return Stage.Dialogs.LoadedManager() == nullptr; }
-  [[nodiscard]] std::string FileText(std::string_view name) const { return Stage.FileText(name); }
 
   // Empties the folder and the list.
   void LoseAllRanges() {
@@ -51,8 +39,6 @@ class ManagerFormTest : public testing::Test {
       DeleteRange(Stage.Program.Folder(), name);
     Stage.Dialogs.RefreshLists();
   }
-
-  DialogStage Stage;
 };
 
 TEST_F(ManagerFormTest, ShowsTheFirstRangeOnceItIsLoaded) {
@@ -60,11 +46,6 @@ TEST_F(ManagerFormTest, ShowsTheFirstRangeOnceItIsLoaded) {
   EXPECT_EQ(GridText(), TextWith("AA", "AKs"));
   EXPECT_EQ(Share(), "0.6% selected");
   EXPECT_EQ(Summary(), "Full: AA | Half: AKs");
-}
-
-TEST_F(ManagerFormTest, TheArrowKeysOfTheListShowRangesToo) {
-  QTest::keyClick(&Controls().Get<QListWidget>("lstRanges"), Qt::Key_Down);
-  EXPECT_EQ(Title(), "Tight");
 }
 
 TEST_F(ManagerFormTest, AClickOnTheListShowsThatRangeAsItsFileHasIt) {
@@ -86,12 +67,9 @@ TEST_F(ManagerFormTest, ACellIsSummedUpAndNothingIsWritten) {
   EXPECT_EQ(Share(), "0.9% selected");
   EXPECT_EQ(Summary(), "KK+");
   EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
-}
-
-TEST_F(ManagerFormTest, TheHalfBoxMakesCellsHalf) {
   Click("chkHalf");
-  Cell("KK");
-  EXPECT_EQ(GridText(), TextWith("AA", "KK AKs"));
+  Cell("QQ");
+  EXPECT_EQ(GridText(), TextWith("AA KK", "QQ"));
 }
 
 TEST_F(ManagerFormTest, ARefreshByTheMainWindowDropsChangesWithoutAQuestion) {
@@ -100,15 +78,6 @@ TEST_F(ManagerFormTest, ARefreshByTheMainWindowDropsChangesWithoutAQuestion) {
   Stage.Dialogs.RefreshLists();
   EXPECT_EQ(Title(), "Tight");
   EXPECT_EQ(GridText(), TextWith("AA KK QQ"));
-}
-
-TEST_F(ManagerFormTest, CaptionsAreNoButtons) {
-  Click("lblRename");
-  Click("lblSaveAs");
-  Click("lblDelete");
-  ClickOn(Controls(), "lblAction", 0);
-  ClickOn(Controls(), "lblAction", 2);
-  EXPECT_EQ(Title(), "Button Shove");
 }
 
 TEST_F(ManagerFormTest, NewSavesAndShowsAnEmptyRange) {
@@ -227,16 +196,6 @@ TEST_F(ManagerFormTest, DeleteAsksAndThenShowsTheFirstRangeLeft) {
   EXPECT_EQ(GridText(), TextWith("AA KK QQ"));
 }
 
-TEST_F(ManagerFormTest, DeleteKeepsTheRangeOnAnyOtherAnswer) {
-  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kNo);
-  Click("imgDelete");
-  ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kCancel);
-  Click("imgDelete");
-  ExpectMessageBoxClosed(AskToDelete("Button Shove"));
-  Click("imgDelete");
-  EXPECT_TRUE(RangeExists(Stage.Program.Folder(), "Button Shove"));
-}
-
 TEST_F(ManagerFormTest, TheGridGoesOnShowingTheLastRangeDeleted) {
   SelectRow(1);
   ExpectMessageBox(AskToDelete("Tight"), MessageAnswer::kYes);
@@ -265,22 +224,6 @@ TEST_F(ManagerFormTest, NewInAnEmptyFolderSelectsItsRange) {
   ExpectInputBox(kNewQuestion, "Fresh");
   Click("imgNew");
   EXPECT_EQ(Selected(), "Fresh");
-}
-
-TEST_F(ManagerFormTest, ImagesArePressedByEnterAndSpace) {
-  auto& save = Controls().PictureAt("imgSave");
-  save.setFocus(Qt::TabFocusReason);
-  ExpectMessageBox(Saved("Button Shove"));
-  QTest::keyClick(Form().windowHandle(), Qt::Key_Return);
-  ExpectMessageBox(Saved("Button Shove"));
-  QTest::keyClick(Form().windowHandle(), Qt::Key_Space);
-}
-
-TEST_F(ManagerFormTest, OkClosesWithoutAQuestionWhereNothingDiffers) {
-  Cell("22");
-  Cell("22");
-  Click("cmdOK");
-  EXPECT_TRUE(IsClosed());
 }
 
 TEST_F(ManagerFormTest, EnterOnTheOkButtonPressesIt) {
@@ -340,24 +283,6 @@ TEST_F(ManagerFormTest, AFileThatChangedBeneathTheGridCountsAsChanged) {
   EXPECT_TRUE(Form().isVisible());
 }
 
-TEST_F(ManagerFormTest, YesRewritesWithoutTheWeightsThatTheGridCannotShow) {
-  SaveRangeText(Stage.Program.Folder(), "Button Shove", "AA (0.25), " + TextWith("KK").substr(8));
-  SelectRow(0);
-  EXPECT_EQ(Summary(), "KK");
-  EXPECT_EQ(Share(), "0.5% selected");
-  ExpectMessageBox(AskToSave("Button Shove"), MessageAnswer::kYes);
-  ExpectMessageBox(Saved("Button Shove"));
-  Click("cmdOK");
-  EXPECT_EQ(FileText("Button Shove"), TextWith("KK"));
-}
-
-TEST_F(ManagerFormTest, TheCloseBoxAsksNothing) {
-  Cell("22");
-  Form().close();
-  EXPECT_TRUE(IsClosed());
-  EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs"));
-}
-
 TEST_F(ManagerFormTest, ClosingKeepsThePlaceAndGivesThePointerBack) {
   Form().move(120, 64);
   Click("cmdOK");
@@ -390,12 +315,11 @@ TEST(ManagerFormDeathTest, AFileThatIsGoneStopsTheProgramAndIsNamed) {
 
 // What each key presses shows itself by the box that comes up.
 TEST_F(ManagerFormTest, KeysPressTheActions) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+  ComeToFront();
   const auto press = [this](Qt::Key key, Qt::KeyboardModifiers held = {}) {
-    QTest::keyClick(Form().windowHandle(), key, held);
+    Press(key, held);
     VerifyExpectedBoxes();
-    Form().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+    ComeToFront();
   };
   ExpectInputBoxCancelled(kNewQuestion);
   press(Qt::Key_N, Qt::ControlModifier);
@@ -408,26 +332,18 @@ TEST_F(ManagerFormTest, KeysPressTheActions) {
   press(Qt::Key_F2);
   ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kNo);
   press(Qt::Key_Delete);
+  EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs")) << "deleted on Yes alone";
 }
 
 TEST_F(ManagerFormTest, EscapeAndControlWCloseLikeTheCloseBox) {
   for (const auto& [key, held] : {std::pair(Qt::Key_Escape, Qt::KeyboardModifiers()),
                                   std::pair(Qt::Key_W, Qt::KeyboardModifiers(Qt::ControlModifier))}) {
     Stage.OpenManager();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
+    ComeToFront();
     Cell("22");
-    QTest::keyClick(Form().windowHandle(), key, held);
+    Press(key, held);
     EXPECT_TRUE(IsClosed()) << "without a question";
   }
-}
-
-TEST_F(ManagerFormTest, ABoxLeavesTheFocusWhereItWas) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Form()));
-  auto& cell = Controls().LabelAt("lblCards", 5);
-  cell.setFocus(Qt::TabFocusReason);
-  ExpectMessageBox(Saved("Button Shove"));
-  QTest::keyClick(Form().windowHandle(), Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(Form().focusWidget(), &cell);
 }
 
 TEST_F(ManagerFormTest, ASavedRangeIsAnnounced) {

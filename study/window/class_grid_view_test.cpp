@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "hand/hand_classes.h"
+#include "testing/bring_to_front.h"
 #include "toolkit/colors.h"
 #include "toolkit/text.h"
 
@@ -19,9 +20,7 @@ class ClassGrid : public testing::Test {
     QObject::connect(&View, &ClassGridView::HandReached, [this](qint16 index) { Reached.push_back(index); });
     QObject::connect(&View, &ClassGridView::HandPressed, [this](qint16 index) { Pressed.push_back(index); });
     View.resize(523, 417);
-    View.show();
-    View.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&View));
+    BringToFront(View);
   }
 
   [[nodiscard]] QWidget& At(std::string_view hand) const { return View.Cell(HandIndex(hand)); }

@@ -18,6 +18,7 @@
 #include "study/hand_order.h"
 #include "study/window/how_far_page.h"
 #include "study/window/width_page.h"
+#include "testing/bring_to_front.h"
 #include "testing/expected_boxes.h"
 #include "testing/heard_announcements.h"
 #include "testing/sample_analysis.h"
@@ -61,9 +62,7 @@ class PageTest : public testing::Test {
  public:
   void Open(const StudySituation& situation) {
     page.resize(900, 620);
-    page.show();
-    page.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&page));
+    BringToFront(page);
     page.Show(situation);
   }
 
@@ -100,8 +99,7 @@ class PageTest : public testing::Test {
     });
     QTest::keyClick(&page, Qt::Key_S, keys);
     VerifyExpectedBoxes();
-    page.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&page));
+    BringToFront(page);
   }
   [[nodiscard]] std::string FileOf(const std::string& name) const {
     std::ostringstream bytes;

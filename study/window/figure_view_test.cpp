@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "testing/bring_to_front.h"
 #include "testing/heard_announcements.h"
 #include "toolkit/placement.h"
 #include "toolkit/text.h"
@@ -31,9 +32,7 @@ class FigureViewTest : public testing::Test {
  public:
   FigureViewTest() {
     View.resize(700, 400);
-    View.show();
-    View.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&View));
+    BringToFront(View);
   }
 
   void TearDown() override { ShowAtScale(1); }

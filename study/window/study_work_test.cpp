@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "testing/bring_to_front.h"
 #include "testing/heard_announcements.h"
 #include "toolkit/text.h"
 
@@ -75,8 +76,7 @@ TEST_F(Work, CanBeStoppedAndGoneOnWith) {
 }
 
 TEST_F(Work, IsStoppedByEscape) {
-  Page.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Page));
+  BringToFront(Page);
   Start(200);
   for (int times = 0; times < 2; ++times) {
     QTest::keyClick(Page.windowHandle(), Qt::Key_Escape);
