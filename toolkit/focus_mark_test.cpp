@@ -5,9 +5,10 @@
 #include <QPlainTextEdit>
 #include <QTest>
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 
+#include "testing/bring_to_front.h"
+#include "toolkit/colors.h"
 #include "toolkit/frame.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
@@ -18,21 +19,6 @@
 
 namespace quillon {
 namespace {
-
-double Linear(int component) {
-  const double share = component / 255.0;
-  return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
-// The relative luminance and the contrast of the Web Content Accessibility Guidelines 2.1.
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.red()) + 0.7152 * Linear(color.green()) + 0.0722 * Linear(color.blue());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, pale] = std::minmax({Luminance(one), Luminance(other)});
-  return (pale + 0.05) / (dark + 0.05);
-}
 
 class FocusMarkTest : public testing::Test {
  public:
@@ -46,9 +32,7 @@ class FocusMarkTest : public testing::Test {
     list.setGeometry(20, 170, 100, 40);
     link.SetUse(ControlUse::kLink);
     picture.SetUse(ControlUse::kFocusLink);
-    form.show();
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    BringToFront(form);
     form.setFocus();
   }
 
@@ -88,7 +72,8 @@ TEST_F(FocusMarkTest, StandsOutFromEveryColour) {
         const QImage look = Look();
         double best = 0;
         for (int depth = 0; depth < 3; ++depth)
-          best = std::max(best, Contrast(look.pixelColor(place.left() + depth, place.center().y()), ground));
+          best = std::max(best, ContrastRatio(FromColor(look.pixelColor(place.left() + depth, place.center().y())),
+                                              FromColor(ground)));
         EXPECT_GE(best, 3) << qPrintable(ground.name());
       }
     }
@@ -133,8 +118,7 @@ TEST_F(FocusMarkTest, ComesWithAWindowThatAKeyHasOpened) {
       dialog.show();
       dialog.activateWindow();
     });
-    form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    BringToFront(form);
     link.setFocus(Qt::TabFocusReason);
     if (byKey) {
       Press(Qt::Key_Return);
@@ -157,12 +141,9 @@ TEST_F(FocusMarkTest, ReturnsWithTheWindow) {
     }
     ASSERT_EQ(mark.isVisible(), marked);
     QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    BringToFront(other);
     EXPECT_FALSE(mark.isVisible());
-    form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    BringToFront(form);
     EXPECT_EQ(mark.isVisible(), marked);
   }
 }

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFontMetrics>
 #include <array>
 #include <gtest/gtest.h>
 
@@ -58,27 +57,16 @@ TEST(Fonts, OfAnUnknownNameStandAlone) {
   EXPECT_EQ(FontFamilies("Wingdings"), QStringList({QStringLiteral("Wingdings")}));
 }
 
-TEST(Fonts, OfTheFixedPitchHaveOneWidth) {
-  const QFontMetrics metrics(FormFont({.Family = "Courier New", .Points = 9}, {}));
-
-  EXPECT_EQ(metrics.horizontalAdvance(QStringLiteral("iiii")), metrics.horizontalAdvance(QStringLiteral("WWWW")));
-}
-
 TEST(Fonts, OfARowWithoutOneAreThoseOfItsFrame) {
   const FontSpec frame = {.Family = "Verdana", .Points = 12, .Bold = true, .Underlined = true};
-
   EXPECT_EQ(FormFont({}, frame), FormFont(frame, {}));
   EXPECT_TRUE(FormFont({}, frame).bold());
   EXPECT_TRUE(FormFont({}, frame).underline());
-}
 
-TEST(Fonts, OfARowThatNamesOneTakeNothingFromItsFrame) {
-  const FontSpec frame = {.Family = "Verdana", .Points = 12, .Bold = true, .Underlined = true};
-  const QFont font = FormFont({.Family = "Arial", .Points = 8.25F}, frame);
-
-  EXPECT_EQ(font.pixelSize(), 11);
-  EXPECT_FALSE(font.bold());
-  EXPECT_FALSE(font.underline());
+  const QFont own = FormFont({.Family = "Arial", .Points = 8.25F}, frame);
+  EXPECT_EQ(own.pixelSize(), 11);
+  EXPECT_FALSE(own.bold());
+  EXPECT_FALSE(own.underline());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "testing/bring_to_front.h"
 #include "testing/expected_boxes.h"
 #include "toolkit/label.h"
 #include "toolkit/message_dialogs.h"
@@ -25,9 +26,7 @@ class FormKeysTest : public testing::Test {
     BindPress(link, Qt::CTRL | Qt::Key_L);
     BindPress(start, Qt::CTRL | Qt::Key_Return);
     BindPress(button, Qt::Key_F2);
-    form.show();
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    BringToFront(form);
     box.setFocus();
   }
 
@@ -76,8 +75,7 @@ TEST_F(FormKeysTest, PressNothingAfterAComplaintAboutTheBoxThatWasLeft) {
   Press(Qt::Key_Return, Qt::ControlModifier);
   VerifyExpectedBoxes();
   EXPECT_EQ(startClicks.count(), 0);
-  form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  BringToFront(form);
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(startClicks.count(), 1) << "the box has been left";
 }
@@ -127,9 +125,7 @@ TEST_F(FormKeysTest, OfTheWholeProgramAreHeardInEveryWindowButNotBehindABox) {
   BindKey(
       form, Qt::Key_F1, [&presses] { ++presses; }, Qt::ApplicationShortcut);
   QWidget other;
-  other.show();
-  other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  BringToFront(other);
   QTest::keyClick(other.windowHandle(), Qt::Key_F1);
   EXPECT_EQ(presses, 1);
   QTest::keyClick(other.windowHandle(), Qt::Key_L, Qt::ControlModifier);

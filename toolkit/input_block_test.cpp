@@ -113,12 +113,9 @@ class InputBlockTest : public testing::Test {
   WatchedWindow window;
 };
 
-TEST_F(InputBlockTest, IsDrawnDuringTheBlock) {
+TEST_F(InputBlockTest, IsDrawnAndCanBeClosedDuringTheBlock) {
   EXPECT_EQ(SeenWhileBlocked([&] { window.update(); }), "paint ");
-}
-
-TEST_F(InputBlockTest, CanBeClosedDuringTheBlock) {
-  EXPECT_EQ(SeenWhileBlocked([&] { window.windowHandle()->close(); }), "close ");
+  EXPECT_EQ(SeenWhileBlocked([&] { window.windowHandle()->close(); }), "paint close ");
 }
 
 TEST_F(InputBlockTest, NeverLearnsOfInputMadeDuringTheBlock) {
@@ -128,9 +125,6 @@ TEST_F(InputBlockTest, NeverLearnsOfInputMadeDuringTheBlock) {
             }),
             "");
   EXPECT_EQ(SeenByNow(), "");
-}
-
-TEST_F(InputBlockTest, NeverLearnsOfADropMadeDuringTheBlock) {
   DragIn();
   window.Seen.clear();
   EXPECT_EQ(SeenWhileBlocked([&] { Drop(); }), "");

@@ -64,14 +64,6 @@ TEST_F(LabelTest, OfOneLineGrowsBackFromItsContainersEdge) {
   EXPECT_EQ(label.geometry(), QRect(350, 50, 40, 16));
 }
 
-TEST_F(LabelTest, GoesBackToItsPlaceWithAShorterText) {
-  label.SetPlace(kOneLine);
-  label.SetText(kLong);
-  label.SetText(kShort);
-
-  EXPECT_EQ(label.geometry(), kOneLine);
-}
-
 TEST_F(LabelTest, OfOneLineIsNeverTooLowForItsFont) {
   label.SetPlace(QRect(100, 50, 60, 5));
   label.SetText(kShort);
@@ -164,13 +156,6 @@ TEST_F(LabelTest, IsDrawnInItsTextColour) {
   for (int x = 0; x < image.width(); ++x)
     found = found || image.pixelColor(x, image.height() / 2) == QColor(Qt::blue);
   EXPECT_TRUE(found);
-}
-
-TEST_F(LabelTest, SpeaksItsTextUnlessItHasAnotherNameForIt) {
-  label.SetText(kShort);
-  EXPECT_EQ(label.SpokenText(), kShort);
-  label.setAccessibleName(QStringLiteral("Size of the pot"));
-  EXPECT_EQ(label.SpokenText(), QStringLiteral("Size of the pot"));
 }
 
 TEST(Label, ThatIsCutKeepsItsPlaceAndHasTheWholeTextInItsToolTip) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "artwork/artwork.h"
+#include "testing/bring_to_front.h"
 #include "testing/expected_boxes.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/label.h"
@@ -47,38 +48,24 @@ TEST(MessageDialogs, ShowEveryIconAndGiveBackTheButton) {
   }
 }
 
-TEST(MessageDialogs, AnswerWhatChangesNothingWhereTheBoxIsClosed) {
+TEST(MessageDialogs, AnswerWhatChangesNothingWhereTheBoxIsClosedAndEnterWithTheFirstButton) {
   struct Row {
     MessageButtons Buttons;
-    MessageAnswer Answer;
+    MessageAnswer Closed;
+    MessageAnswer Entered;
   };
   constexpr std::array kRows = {
-      Row{MessageButtons::kOk, MessageAnswer::kOk},
-      Row{MessageButtons::kYesNo, MessageAnswer::kNo},
-      Row{MessageButtons::kYesNoCancel, MessageAnswer::kCancel},
+      Row{MessageButtons::kOk, MessageAnswer::kOk, MessageAnswer::kOk},
+      Row{MessageButtons::kYesNo, MessageAnswer::kNo, MessageAnswer::kYes},
+      Row{MessageButtons::kYesNoCancel, MessageAnswer::kCancel, MessageAnswer::kYes},
   };
   for (const Row& row : kRows) {
     ExpectMessageBoxClosed(With(row.Buttons));
-    EXPECT_EQ(MessageDialogs().Show(With(row.Buttons)), row.Answer);
-
-    ExpectDialog([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(MessageDialogs().Show(With(row.Buttons)), row.Answer);
-  }
-}
-
-TEST(MessageDialogs, AnswerEnterWithTheFirstButton) {
-  struct Row {
-    MessageButtons Buttons;
-    MessageAnswer Answer;
-  };
-  constexpr std::array kRows = {
-      Row{MessageButtons::kOk, MessageAnswer::kOk},
-      Row{MessageButtons::kYesNo, MessageAnswer::kYes},
-      Row{MessageButtons::kYesNoCancel, MessageAnswer::kYes},
-  };
-  for (const Row& row : kRows) {
-    ExpectDialog([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
-    EXPECT_EQ(MessageDialogs().Show(With(row.Buttons)), row.Answer);
+    EXPECT_EQ(MessageDialogs().Show(With(row.Buttons)), row.Closed);
+    for (const auto& [key, answer] : {std::pair(Qt::Key_Escape, row.Closed), {Qt::Key_Return, row.Entered}}) {
+      ExpectDialog([pressed = key](QDialog& box) { QTest::keyClick(&box, pressed); });
+      EXPECT_EQ(MessageDialogs().Show(With(row.Buttons)), answer);
+    }
   }
 }
 
@@ -118,11 +105,6 @@ class AskingWindows : public testing::Test {
     for (QWidget* window : {&asker, &other})
       window->show();
     BringToFront(other);
-  }
-
-  static void BringToFront(QWidget& window) {
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   }
 
   static void ExpectBoxOf(const QWidget& owner) {
@@ -271,12 +253,6 @@ TEST(MessageDialogs, ShowAllOfALongTextAtEachScale) {
   ShowAtScale(1);
 }
 
-TEST(MessageDialogs, AskForALineOfText) {
-  ExpectInputBox({"What is the range's name?", "New Range", "Button"}, "Big Blind \u00C4");
-
-  EXPECT_EQ(MessageDialogs().Ask("What is the range's name?", "New Range", "Button"), "Big Blind \u00C4");
-}
-
 TEST(MessageDialogs, OfferTheDefaultTextSelected) {
   ExpectDialog([](QDialog& dialog) {
     const auto* line = dialog.findChild<QLineEdit*>();
@@ -290,10 +266,10 @@ TEST(MessageDialogs, OfferTheDefaultTextSelected) {
 
 TEST(MessageDialogs, TakeOneLineWithoutTabs) {
   ExpectDialog([](QDialog& dialog) {
-    dialog.findChild<QLineEdit*>()->insert(QStringLiteral("Big\tBlind\r\nCall"));
+    dialog.findChild<QLineEdit*>()->insert(QStringLiteral("B\u00E4r\tBlind\r\nCall"));
     dialog.accept();
   });
-  EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", ""), "Big Blind");
+  EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", ""), "B\u00E4r Blind");
 
   ExpectDialog([](QDialog& dialog) { dialog.accept(); });
   EXPECT_EQ(MessageDialogs().Ask("Name?", "Rename Range", "Big\tBlind"), "Big Blind");

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "testing/bring_to_front.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/text.h"
 
@@ -17,9 +18,7 @@ class PopUpMenuTest : public testing::Test {
  protected:
   PopUpMenuTest() {
     BindKey(form_, Qt::SHIFT | Qt::Key_F10, [this] { Open(); });
-    form_.show();
-    form_.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
+    BringToFront(form_);
   }
 
   void Open() {
@@ -69,8 +68,7 @@ TEST_F(PopUpMenuTest, LeavesTheKeysThatItShowsToTheForm) {
   Open();
   QTest::keyClick(Menu(), Qt::Key_Escape);
   QTest::qWait(0);
-  form_.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form_));
+  BringToFront(form_);
   QTest::keyClick(form_.windowHandle(), Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(done_, "pasted by the form");
 }

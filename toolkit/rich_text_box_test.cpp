@@ -6,6 +6,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "testing/bring_to_front.h"
+
 namespace quillon {
 namespace {
 
@@ -40,9 +42,7 @@ TEST(RichTextBox, IsLeftWithTab) {
   QWidget form;
   RichTextBox box(&form);
   RichTextBox next(&form);
-  form.show();
-  form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  BringToFront(form);
   box.setFocus();
   QTest::keyClick(&box, Qt::Key_Tab);
 

@@ -79,12 +79,5 @@ TEST(Shape, ThatIsALineIsOneThroughAndThrough) {
   EXPECT_EQ(CountOf(Drawn(line, {20, 1}), Qt::blue), 20);
 }
 
-TEST(Shape, TakesNeitherMouseNorFocus) {
-  const Shape shape(ControlKind::kShape, nullptr);
-
-  EXPECT_TRUE(shape.testAttribute(Qt::WA_TransparentForMouseEvents));
-  EXPECT_EQ(shape.focusPolicy(), Qt::NoFocus);
-}
-
 }  // namespace
 }  // namespace quillon

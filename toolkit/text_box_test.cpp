@@ -5,6 +5,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "testing/bring_to_front.h"
+
 namespace quillon {
 namespace {
 
@@ -15,13 +17,7 @@ class TextBoxTest : public testing::Test {
     box.setGeometry(10, 10, 100, 20);
     other.setGeometry(10, 40, 100, 20);
     other.setFocus();
-    Activate(form);
-  }
-
-  static void Activate(QWidget& window) {
-    window.show();
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    BringToFront(form);
   }
 
   QWidget form;
@@ -49,8 +45,8 @@ TEST_F(TextBoxTest, TellsWhenItGetsAndLosesTheFocus) {
 TEST_F(TextBoxTest, StaysInTheMiddleOfItsWorkWhileAnotherWindowIsInFront) {
   box.setFocus(Qt::TabFocusReason);
   QWidget window;
-  Activate(window);
-  Activate(form);
+  BringToFront(window);
+  BringToFront(form);
 
   EXPECT_TRUE(box.hasFocus());
   EXPECT_EQ(got.count(), 1);
@@ -73,21 +69,16 @@ TEST_F(TextBoxTest, StaysInTheMiddleOfItsWorkUnderAMenu) {
 TEST_F(TextBoxTest, CanBeLeftWhileAnotherWindowIsInFrontAndIsLeftOnce) {
   box.setFocus(Qt::TabFocusReason);
   QWidget window;
-  Activate(window);
+  BringToFront(window);
   other.setFocus();
   EXPECT_EQ(lost.count(), 0);
 
   box.Leave();
   EXPECT_EQ(lost.count(), 1);
-  box.Leave();
-  Activate(form);
+  box.Leave();  // nobody is busy in it any longer
+  BringToFront(form);
   EXPECT_EQ(got.count(), 1);
   EXPECT_EQ(lost.count(), 1);
-}
-
-TEST_F(TextBoxTest, LeavingABoxThatNobodyIsBusyInTellsNothing) {
-  box.Leave();
-  EXPECT_EQ(lost.count(), 0);
 }
 
 TEST_F(TextBoxTest, TellsOfEnterAndReturnAndOfNoOtherKey) {
@@ -99,10 +90,6 @@ TEST_F(TextBoxTest, TellsOfEnterAndReturnAndOfNoOtherKey) {
   QTest::keyClick(&box, Qt::Key_Enter);
   EXPECT_EQ(enters.count(), 2);
   EXPECT_EQ(box.text(), QStringLiteral("1"));
-}
-
-TEST_F(TextBoxTest, HasNoBorderOfItsOwn) {
-  EXPECT_FALSE(box.hasFrame());
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
+#include "testing/bring_to_front.h"
+
 namespace quillon {
 namespace {
 
@@ -26,9 +28,7 @@ class WheelFocusTest : public testing::Test {
     list.setGeometry(0, 40, 100, 100);
     TurnByWheelWithFocusOnly(box);
     TurnByWheelWithFocusOnly(list);
-    form.show();
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    BringToFront(form);
     form.setFocus();
   }
 
