@@ -121,17 +121,6 @@ std::string AllShown(const Texts& texts) {
   return all;
 }
 
-void ExpectFigures(const std::string& csv, const plain::Result& result, bool raise) {
-  const std::vector<std::string> lines = Lines(csv);
-  ASSERT_EQ(lines.size(), plain::Labels().size() + 1);
-  for (std::size_t i = 0; i < plain::Labels().size(); ++i) {
-    const std::vector<std::string> cells = Split(lines[i + 1], ",");
-    EXPECT_EQ(cells[2], plain::NumberText(result.ExpectedValues[i])) << lines[i + 1];
-    EXPECT_EQ(cells[3], plain::NumberText(result.Equities[i])) << lines[i + 1];
-    EXPECT_EQ(cells[4], raise ? plain::NumberText(result.FoldShares[i]) : "") << lines[i + 1];
-  }
-}
-
 /// What became of it.
 std::string ExpectAsThePlainReader(const Ranges& ranges, const Texts& texts) {
   SCOPED_TRACE(AllShown(texts));
@@ -141,7 +130,7 @@ std::string ExpectAsThePlainReader(const Ranges& ranges, const Texts& texts) {
   EXPECT_EQ(outcome.Status, plain.Status());
   EXPECT_EQ(outcome.Errors, WarningsOf(story) + (plain.GoesThrough() ? "" : plain.Told() + "\n"));
   EXPECT_EQ(outcome.Output.empty(), !plain.GoesThrough());
-  if (plain.GoesThrough()) ExpectFigures(outcome.Output, story.Result, texts.size() == 3);
+  if (plain.GoesThrough()) ExpectFigures(outcome.Output, story.Result, RunOf(texts).Scenario);
   return plain.Fate();
 }
 

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <iostream>
 #include <vector>
 
 #include "testing/oracle/hands.h"
+#include "testing/oracle/numbers.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
@@ -194,6 +197,19 @@ Tally::~Tally() {
     text.append(text.empty() ? "" : ", ").append(std::to_string(count)).append(" ").append(fate);
   }
   std::cout << all << " " << kind_ << ": " << text << '\n';
+}
+
+void ExpectFigures(const std::string& csv, const plain::Result& result, plain::Mode mode) {
+  const std::vector<std::string> lines = Lines(csv);
+  ASSERT_EQ(lines.size(), plain::Labels().size() + 1);
+  for (std::size_t i = 0; i < plain::Labels().size(); ++i) {
+    const std::vector<std::string> cells = Split(lines[i + 1], ",");
+    ASSERT_EQ(cells.size(), 6U);
+    EXPECT_EQ(cells[0], plain::Labels()[i]);
+    EXPECT_EQ(cells[2], mode == plain::Mode::kEquity ? "" : plain::NumberText(result.ExpectedValues[i])) << cells[0];
+    EXPECT_EQ(cells[3], plain::NumberText(result.Equities[i])) << cells[0];
+    EXPECT_EQ(cells[4], mode == plain::Mode::kRaise ? plain::NumberText(result.FoldShares[i]) : "") << cells[0];
+  }
 }
 
 std::string Shown(std::string_view input) {

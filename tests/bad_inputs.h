@@ -11,6 +11,8 @@
 #include <string>
 #include <string_view>
 
+#include "testing/oracle/runs.h"
+
 namespace quillon {
 
 /// How many random inputs a test takes, given its share of all in hundredths. There are 300 of them by default, and as
@@ -71,6 +73,9 @@ class Tally {
   std::string kind_;
   std::map<std::string, int> fates_;
 };
+
+/// The companion's table in CSV has the figures of the oracle.
+void ExpectFigures(const std::string& csv, const plain::Result& result, plain::Mode mode);
 
 /// The input as a test can print it: unprintable characters as numbers, and only its first part.
 [[nodiscard]] std::string Shown(std::string_view input);

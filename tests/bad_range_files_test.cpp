@@ -206,19 +206,6 @@ std::string PointedOut(const TemporaryProgram& program, const std::string& name,
          " is missing, empty or no range file.\n";
 }
 
-void ExpectFigures(const std::string& csv, const plain::Result& result, plain::Mode mode) {
-  const std::vector<std::string> lines = Lines(csv);
-  ASSERT_EQ(lines.size(), plain::Labels().size() + 1);
-  for (std::size_t i = 0; i < plain::Labels().size(); ++i) {
-    const std::vector<std::string> cells = Split(lines[i + 1], ",");
-    ASSERT_EQ(cells.size(), 6U);
-    EXPECT_EQ(cells[0], plain::Labels()[i]);
-    EXPECT_EQ(cells[2], mode == plain::Mode::kEquity ? "" : plain::NumberText(result.ExpectedValues[i])) << cells[0];
-    EXPECT_EQ(cells[3], plain::NumberText(result.Equities[i])) << cells[0];
-    EXPECT_EQ(cells[4], mode == plain::Mode::kRaise ? plain::NumberText(result.FoldShares[i]) : "") << cells[0];
-  }
-}
-
 /// What became of it.
 std::string ExpectRunAsThePlainOne(const std::string& command, const std::string& file,
                                    const std::string& callingFile) {

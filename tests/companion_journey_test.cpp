@@ -19,6 +19,7 @@
 
 #include "results/web_addresses.h"
 #include "support/files.h"
+#include "testing/companion_program.h"
 #include "testing/folder_state.h"
 #include "testing/split_text.h"
 #include "testing/temporary_folder.h"
@@ -31,20 +32,13 @@ namespace {
 namespace fs = std::filesystem;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
-using Arguments = std::vector<std::string>;
 
 const Arguments kCall = {"call", "--pot", "110", "--call", "90", "--range", "Button Shove"};
 const Arguments kRaise = {"raise",        "--pot",           "150",           "--call",
                           "50",           "--shove",         "400",           "--range",
                           "Button Shove", "--calling-range", "Big Blind Call"};
 const Arguments kEquity = {"equity", "--range", "Tight Open"};
-
-Arguments With(Arguments arguments, const Arguments& more) {
-  arguments.insert(arguments.end(), more.begin(), more.end());
-  return arguments;
-}
 
 // A user's home with the program in one folder of it, and another folder from which it is started.
 class Household {
@@ -199,16 +193,6 @@ TEST(CompanionJourney, SaysWhatTheGuideShows) {
 
 // ---- where ranges are looked for
 
-TEST(CompanionJourney, ListsTheRangesBesideTheProgram) {
-  const Household household;
-  std::ofstream(household.RangeFolder() / "Überfall.txt") << "AA (1), KK (0)";
-  const ProgramOutcome outcome = household.Run({"ranges"});
-  EXPECT_EQ(outcome.Status, 0);
-  EXPECT_EQ(outcome.Errors, "");
-  EXPECT_THAT(outcome.Output, HasSubstr("Everything\t100% selected\t[Everything]\n"));
-  EXPECT_THAT(outcome.Output, HasSubstr("\nÜberfall\t"));
-}
-
 TEST(CompanionJourney, LooksBesideTheProgramThatALinkLeadsTo) {
   const Household household;
   ProgramRun run = household.Prepare({"summary", "--range", "Everything"});
@@ -242,13 +226,6 @@ class InstalledHousehold : public Household {
     return RunProgram(run);
   }
 };
-
-TEST(CompanionJourney, PrintsTheFolderThatItIsIn) {
-  const Household household;
-  const ProgramOutcome outcome = household.Run({"folder"});
-  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
-  EXPECT_EQ(outcome.Output, household.ProgramFolder().string() + "\n");
-}
 
 TEST(CompanionJourney, InstalledKeepsTheRangesOfEachUserApart) {
   const InstalledHousehold household;
@@ -357,22 +334,15 @@ TEST(CompanionJourney, AnAnswerThatFindsTheDiskFullIsAFailure) {
   }
 }
 
-TEST(CompanionJourney, AnAnswerWithoutStandardOutputIsAFailure) {
+TEST(CompanionJourney, AnAnswerNeedsStandardOutputAndNoStandardInput) {
   const Household household;
   ProgramRun run = household.Prepare(kCall);
+  run.InputClosed = true;
+  EXPECT_EQ(RunProgram(run).Output, household.Run(kCall).Output);
   run.Output = StreamEnd::kClosed;
   const ProgramOutcome outcome = RunProgram(run);
   EXPECT_EQ(outcome.Status, 1);
   EXPECT_THAT(outcome.Errors, HasSubstr("standard output"));
-}
-
-TEST(CompanionJourney, NeedsNoStandardInput) {
-  const Household household;
-  ProgramRun run = household.Prepare(kCall);
-  run.InputClosed = true;
-  const ProgramOutcome outcome = RunProgram(run);
-  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
-  EXPECT_EQ(outcome.Output, household.Run(kCall).Output);
 }
 
 // Whatever it opens meanwhile must not take the place of the stream.
@@ -450,17 +420,6 @@ TEST(CompanionJourney, ShowsNoGridOnATerminalThatPromisesNothingOrGetsNone) {
     run.Environment.insert(environment.begin(), environment.end());
     EXPECT_EQ(RunProgram(run).Terminal, report);
   }
-}
-
-TEST(CompanionJourney, ShowsNeitherGridNorProgressWithoutATerminal) {
-  const Household household;
-  ProgramRun run = household.Prepare(kCall);
-  run.Environment["COLORTERM"] = "truecolor";
-  const ProgramOutcome outcome = RunProgram(run);
-  EXPECT_EQ(outcome.Status, 0);
-  EXPECT_EQ(outcome.Errors, "");
-  EXPECT_THAT(outcome.Output, StartsWith("Situation\n"));
-  EXPECT_THAT(outcome.Output, Not(HasSubstr("\x1b")));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // A new player's first minutes, with two questions that the guide begins with: is A7o a shove for 12 big blinds, and up
-// to where; and what should he call with? One player leaves the keyboard alone but for what is typed, the other the
-// mouse.
+// to where; and what should he call with?
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -36,15 +35,6 @@ class FirstMinutes : public WindowJourney {
   }
   void PressTimes(const std::string& key, std::size_t times) const {
     Session().Press(std::vector<std::string>(times, key));
-  }
-  void ChooseWithMouse(std::string_view list, const std::string& range) const {
-    constexpr int kRow = 18;
-    const QRect box = OnScreen(list);
-    Session().ClickAt(box.center());
-    Session().WaitUntil("the list is open", [&] { return Session().WindowCount() == 2; });
-    const int down = kRow * static_cast<int>(EntryOf(range)) + kRow / 2;
-    Session().ClickAt({box.left() + 60, box.bottom() + down});
-    Session().WaitUntil("the list is closed", [&] { return Session().WindowCount() == 1; });
   }
   void WaitForGrid() const {
     const GridColorTable expected = GridColors(AnalysisOf(kRaiseRun, kShove, Session().Program()));
@@ -92,33 +82,6 @@ TEST_F(FirstMinutes, AnswerBothQuestionsByKeys) {
   static_cast<void>(Session().StillPicture(study.Place));
   PressTimes("Tab", 6);
   Session().Press({"space"});
-  SaveHisRange();
-  ExpectHisRangeSaved();
-}
-
-TEST_F(FirstMinutes, AnswerBothQuestionsWithTheMouse) {
-  Click("lblNav(1)");
-  Fill(2, kShove.Pot);
-  Fill(3, kShove.Call);
-  Fill(4, kShove.Shove);
-  ChooseWithMouse("cmboRanges(1)", kShove.Range);
-  ChooseWithMouse("cmboRanges(2)", kShove.CallingRange);
-  Click("cmdPreflopEV(1)");
-  Session().PutMouseAside();
-  WaitForGrid();
-
-  const QPoint hand = OnScreen(ObjectName("lblCards", HandIndex("A7o"))).center();
-  Session().RightClickAt(hand);
-  Session().WaitUntil("the menu shows", [&] { return Session().WindowCount() == 2; });
-  Session().ClickAt(hand + QPoint(50, 78));
-  const Window study = Session().WaitForWindow(kStudyTitle);
-  const auto inStudy = [&](int x, int y) { return study.Place.topLeft() + QPoint(x, y); };
-  Session().ClickAt(inStudy(38, 47));
-  EXPECT_THAT(Session().CopiedBy([&] { Session().ClickAt(inStudy(836, 645)); }), HasSubstr("A7o\tup to\t47.14"));
-
-  Session().ClickAt(inStudy(251, 47));
-  static_cast<void>(Session().StillPicture(study.Place));
-  Session().ClickAt(inStudy(787, 612));
   SaveHisRange();
   ExpectHisRangeSaved();
 }

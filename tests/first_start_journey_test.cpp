@@ -26,7 +26,7 @@ int StoredPixels(const ProgramFolder& folder, std::string_view key) {
   return std::stoi(ReadIniValue("Main", key, folder)) / kTwipsInAPixel;
 }
 
-TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFoldersAndShowsTheAboutScreen) {
+TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFolders) {
   StartProgram();
   const fs::path folder = Session().Program().Path;
   EXPECT_TRUE(fs::is_directory(folder / "Ranges"));
@@ -38,15 +38,6 @@ TEST_F(StartJourney, FirstStartInAnEmptyFolderMakesItsFoldersAndShowsTheAboutScr
   const QPoint corner = Session().CornerOf(Main());
   EXPECT_EQ(corner.x(), (Session().Screen().Width - 1020) / 2);
   EXPECT_NEAR(corner.y(), (Session().Screen().Height - 603) / 2.0, 1);
-
-  // The About screen comes from any other one with a click on the logo, and is what was there first.
-  Session().PutMouseAside();
-  const QImage about = Session().StillPicture(OnScreen("frameContent(5)"));
-  Click("lblNav(0)");
-  Session().WaitUntil("another screen is there", [&] { return Look("frameContent(5)") != about; });
-  Click("picLogo");
-  Session().PutMouseAside();
-  Session().WaitUntil("the About screen is back", [&] { return Look("frameContent(5)") == about; });
 
   EXPECT_EQ(CloseProgram(), 0);
   for (const char* const key : {"0=", "1=", "2=", "3=", "4="})
@@ -177,20 +168,6 @@ TEST(StartWithoutADisplay, IsToldInOneLine) {
     EXPECT_EQ(outcome.Errors, one.Message + "\n");
     EXPECT_EQ(outcome.Output, "");
   }
-}
-
-TEST_F(StartJourney, NameTooShortForARangeFileEndsTheProgram) {
-  Session().AddExampleRanges();
-  std::ofstream(Session().Program().Path / "Ranges" / "a") << "AA (1)";
-  Session().Start();
-  const Window box = Session().WaitForWindow("Quillon");
-  const std::string text = MessageText(box);
-  EXPECT_THAT(text, testing::StartsWith("Run-time error '5': Invalid procedure call or argument"));
-  Session().Press({"Return"});
-  EXPECT_EQ(Session().WaitForEnd(), 1);
-  const std::string errors = Session().Running().Errors();
-  EXPECT_THAT(errors, HasSubstr("the file \"a\" among the ranges has a name of fewer than four characters"));
-  EXPECT_EQ(text, errors + "\nQuillon ends now.");
 }
 
 TEST_F(StartJourney, FolderWhoseNameIsNotUtf8IsTheProgramsAllTheSame) {

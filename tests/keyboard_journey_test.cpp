@@ -21,10 +21,6 @@
 namespace quillon {
 namespace {
 
-const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
-
 class KeyboardJourney : public WindowJourney, public testing::WithParamInterface<Desk> {
  protected:
   KeyboardJourney() : WindowJourney(GetParam()) {

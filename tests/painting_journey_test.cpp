@@ -1,5 +1,4 @@
-// A player who paints ranges fast and takes results along: by the menus of the grids with the mouse and the keyboard,
-// by keys, and by dropping a text.
+// A player who paints ranges with the mouse, by the menus of the grids and by dropping a text, and takes results along.
 
 #include <QImage>
 #include <array>
@@ -21,20 +20,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-
-class PaintingJourney : public WindowJourney, public testing::WithParamInterface<Desk> {
+class PaintingJourney : public WindowJourney {
  protected:
-  PaintingJourney() : WindowJourney(GetParam()) { StartProgramWithRanges(); }
+  explicit PaintingJourney(Desk desk = {}) : WindowJourney(desk) { StartProgramWithRanges(); }
 
   void Press(const std::vector<std::string>& keys) const { Session().Press(keys); }
-  void Paste(std::string_view text) const {
-    Session().PutOnClipboard(text);
-    Press({"ctrl+v"});
-  }
-  [[nodiscard]] std::string Copied() const {
-    return Session().CopiedBy([this] { Press({"ctrl+c"}); });
-  }
 
   /// Waits until a grid shows these hands in full and those at half weight.
   void WaitForHands(const Window& window, const FormPlan& plan, const std::string& full,
@@ -64,60 +54,14 @@ class PaintingJourney : public WindowJourney, public testing::WithParamInterface
     Session().ClickAt(menu.Place.topLeft() + QPoint(qRound(30 * scale), qRound(down * scale)));
     Session().WaitUntilGone(menu);
   }
-
-  [[nodiscard]] std::string CompanionText(const std::vector<std::string>& more) const {
-    ProgramRun run;
-    run.Program = QUILLON_CLI_PROGRAM;
-    run.Arguments = {"raise",          "--pot",    "150",     "--call",       "50",
-                     "--shove",        "400",      "--range", "Button Shove", "--calling-range",
-                     "Big Blind Call", "--folder", Folder()};
-    run.Arguments.insert(run.Arguments.end(), more.begin(), more.end());
-    return RunProgram(run).Output;
-  }
-  [[nodiscard]] std::string Folder() const { return Session().Program().Path.string(); }
 };
 
-TEST_P(PaintingJourney, ByKeysInTheRangeManager) {
-  Press({"ctrl+r"});
-  const Window manager = Session().WaitForWindow(kManagerTitle);
-  Press({"ctrl+n"});
-  const Window name = Session().WaitForWindow("Rename Range");
-  Session().Type("Fast");
-  Answer(name, {"Return"});
-  static_cast<void>(Session().WaitForWindow(kManagerTitle));
+class LargePaintingJourney : public PaintingJourney {
+ protected:
+  LargePaintingJourney() : PaintingJourney(Desk{.Width = 2800, .Height = 2000, .Scale = 2}) {}
+};
 
-  Paste("QQ+, AKs:0.5");
-  WaitForHands(manager, ManagerPlan(), "AA KK QQ", "AKs");
-  EXPECT_EQ(Copied(), "QQ+,AKs:0.5");
-  Press({"ctrl+z"});
-  WaitForHands(manager, ManagerPlan(), "");
-  Press({"ctrl+shift+z"});
-  WaitForHands(manager, ManagerPlan(), "AA KK QQ", "AKs");
-
-  Paste("QQ+, KXs");
-  const Window message = Session().WaitForWindow("This Is Not a Range");
-  EXPECT_EQ(MessageText(message), "QQ+, KXs\n     ^ \"X\" is not a rank");
-  Answer(message, {"Return"});
-  static_cast<void>(Session().WaitForWindow(kManagerTitle));
-  WaitForHands(manager, ManagerPlan(), "AA KK QQ", "AKs");
-
-  // The menu by Shift+F10 on the first hand, down to "Top x%...", and by the menu key, up to "Undo".
-  Press({"Tab", "shift+F10", "Down", "Down", "Down", "Down", "Down", "Return"});
-  const Window share = Session().WaitForWindow("Top x%");
-  Session().Type("1");
-  Answer(share, {"Return"});
-  static_cast<void>(Session().WaitForWindow(kManagerTitle));
-  WaitForHands(manager, ManagerPlan(), "AA KK");
-  Press({"Menu", "Up", "Return"});
-  WaitForHands(manager, ManagerPlan(), "AA KK QQ", "AKs");
-
-  Press({"ctrl+s"});
-  Answer(Session().WaitForWindow("Quillon"), {"Return"});
-  static_cast<void>(Session().WaitForWindow(kManagerTitle));
-  EXPECT_EQ(ReadAllBytes(RangeFilePath(Session().Program(), "Fast")), TextWith("AA KK QQ", "AKs") + "\r\n");
-}
-
-TEST_P(PaintingJourney, ByTheMouseInBothDialogs) {
+TEST_F(LargePaintingJourney, ByTheMouseInBothDialogs) {
   const auto pixels = [this](int length) { return qRound(length * Session().Screen().Scale); };
   Click("lblNav(2)");
   Click("lblNewRange(3)");
@@ -154,7 +98,7 @@ TEST_P(PaintingJourney, ByTheMouseInBothDialogs) {
   WaitForHands(newRange, NewRangePlan(), "AA", "AKs");
 }
 
-TEST_P(PaintingJourney, ResultsAreTakenAlong) {
+TEST_F(PaintingJourney, ResultsAreTakenAlong) {
   Session().AddCommand("xdg-open");
   Analyze(kRaiseRun, kRaise);
   const QImage shown = Look("GridContainer");
@@ -164,8 +108,15 @@ TEST_P(PaintingJourney, ResultsAreTakenAlong) {
   const QImage copied = QImage::fromData(QByteArray::fromStdString(picture)).convertToFormat(shown.format());
   EXPECT_EQ(copied, shown) << "the grid without the panel of the hand under the mouse";
 
+  const auto companion = [this](const std::vector<std::string>& format) {
+    std::vector<std::string> raise = {"raise",        "--pot",           "150",           "--call",
+                                      "50",           "--shove",         "400",           "--range",
+                                      "Button Shove", "--calling-range", "Big Blind Call"};
+    raise.insert(raise.end(), format.begin(), format.end());
+    return Companion(raise);
+  };
   EXPECT_EQ(Session().CopiedBy([&] { ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 1, 0); }),
-            Replaced(CompanionText({"--format", "csv"}), ",", "\t"));
+            Replaced(companion({"--format", "csv"}), ",", "\t"));
 
   ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 2, 0);
   const Window dialog = Session().WaitForWindow("Save as Web Page");
@@ -175,28 +126,14 @@ TEST_P(PaintingJourney, ResultsAreTakenAlong) {
   EXPECT_EQ(MessageText(question), "Web page saved successfully.\n\nDo you want to open the web page now?");
   Answer(question, {"alt+y"});
   const fs::path page = Session().Program().Path / "Saved Grids" / "shove.html";
-  EXPECT_EQ(ReadAllBytes(page), CompanionText({"--format", "html"}));
+  EXPECT_EQ(ReadAllBytes(page), companion({"--format", "html"}));
   EXPECT_TRUE(Session().CommandArguments("xdg-open").ends_with("Saved%20Grids/shove.html\n"));
 
   ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 4, 1);
   const std::vector<std::string> forum = {"--format", "2+2", "--hand", "KTs"};
   Click("rtfSummary");
-  EXPECT_EQ(Session().CopyAllText(), CompanionText(forum));
-
-  // The same by the keyboard alone, of the hand that it has reached.
-  Session().PutMouseAside();
-  Press({"ctrl+4", "ctrl+Home", "Right", "shift+F10", "Up", "Return"});
-  Session().WaitUntil("the report shows", [&] { return Look("GridContainer") != shown; });
-  Click("rtfSummary");
-  EXPECT_EQ(Session().CopyAllText(), CompanionText({"--format", "2+2", "--hand", "AKs"}));
-
-  Press({"ctrl+4", "ctrl+Home", "Menu", "Up", "Up", "Return"});
-  static_cast<void>(Session().WaitForWindow("Study"));
+  EXPECT_EQ(Session().CopyAllText(), companion(forum));
 }
-
-INSTANTIATE_TEST_SUITE_P(Window, PaintingJourney,
-                         testing::Values(Desk{}, Desk{.Width = 2800, .Height = 2000, .Scale = 2}),
-                         [](const auto& entry) { return entry.param.Scale == 1 ? "At100" : "At200"; });
 
 }  // namespace
 }  // namespace quillon

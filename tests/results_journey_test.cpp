@@ -1,5 +1,4 @@
-// What a player does with ranges and results: a range painted by hand, a result that becomes a range, a
-// report on the clipboard, and the grid as a picture.
+// What a player does with ranges and results: a range painted by hand, and the grid as a picture.
 
 #include <QImage>
 #include <QUrl>
@@ -9,10 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/results_table.h"
 #include "ranges/dialogs/manager_layout.h"
-#include "ranges/dialogs/new_range_layout.h"
-#include "results/results_grid.h"
 #include "support/files.h"
 #include "testing/range_texts.h"
 #include "tests/window_journey.h"
@@ -22,24 +18,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const std::vector<std::string> kRaiseCommand = {"raise",        "--pot",           "150",           "--call",
-                                                "50",           "--shove",         "400",           "--range",
-                                                "Button Shove", "--calling-range", "Big Blind Call"};
-
 class ResultsJourney : public WindowJourney {
  protected:
   using WindowJourney::WindowJourney;
-
-  /// What the companion prints for the same situation.
-  [[nodiscard]] std::string CompanionText(const std::vector<std::string>& more) const {
-    ProgramRun run;
-    run.Program = QUILLON_CLI_PROGRAM;
-    run.Arguments = kRaiseCommand;
-    run.Arguments.insert(run.Arguments.end(), {"--folder", Session().Program().Path.string()});
-    run.Arguments.insert(run.Arguments.end(), more.begin(), more.end());
-    return RunProgram(run).Output;
-  }
 
   void ClickWithShift(const Window& window, const FormPlan& plan, std::string_view control) const {
     Session().HoldKey("shift");
@@ -49,8 +30,6 @@ class ResultsJourney : public WindowJourney {
 
   [[nodiscard]] static std::string Cell(std::string_view hand) { return ObjectName("lblCards", HandIndex(hand)); }
 };
-
-// ---- ranges
 
 TEST_F(ResultsJourney, PaintedRangeIsOnDiskAndCanBeAnalysed) {
   StartProgramWithRanges();
@@ -83,57 +62,11 @@ TEST_F(ResultsJourney, PaintedRangeIsOnDiskAndCanBeAnalysed) {
   Analyze(kEquityRun, {{}, {}, {}, "My 3-bets", {}});
 }
 
-TEST_F(ResultsJourney, ProfitableHandsBecomeARange) {
-  StartProgramWithRanges();
-  Analyze(kRaiseRun, kRaise);
-  Click("imgSaveAsRange");
-  const Window dialog = Session().WaitForWindow(kNewRangeTitle);
-  Session().Type("Worth a shove");
-  Session().Press({"Return"});
-  const Window saved = Session().WaitForWindow("Quillon");
-  EXPECT_EQ(MessageText(saved), "The range \"Worth a shove\" was saved successfully!");
-  Answer(saved, {"Return"});
-  Session().WaitUntilGone(dialog);
-
-  const Analysis state = AnalysisOf(kRaiseRun, kRaise, Session().Program());
-  std::string profitable;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const std::string_view label = HandLabel(index);
-    if (GetHandInfo(state.HandInfo, label, kExpectedValueColumn) > 0) profitable.append(label).append(" ");
-  }
-  EXPECT_EQ(ReadAllBytes(RangeFilePath(Session().Program(), "Worth a shove")), TextWith(profitable) + "\r\n");
-}
-
-// ---- reports
-
-TEST_F(ResultsJourney, CopiedReportIsTheOneThatTheCompanionPrints) {
-  StartProgramWithRanges();
-  Analyze(kRaiseRun, kRaise);
-  Click("lblNav(4)");
-  Click("rtfSummary");
-  EXPECT_EQ(Session().CopyAllText(), CompanionText({"--format", "plain"}));
-
-  TakeFromList("cmboOutputType", {"End"});
-  Click("rtfSummary");
-  EXPECT_EQ(Session().CopyAllText(), CompanionText({"--format", "2+2"}));
-
-  // The working of a hand goes in at the caret.
-  Session().Press({"ctrl+End"});
-  TakeFromList("cmbo169", {"Home", "Down", "Down"});
-  Click("rtfSummary");
-  EXPECT_EQ(Session().CopyAllText(), CompanionText({"--format", "2+2", "--hand", "AKs"}));
-}
-
-// ---- the grid as a picture
-
-struct ScaleCase {
-  const char* name;
-  Desk desk;
-};
-
-class GridImageJourney : public ResultsJourney, public testing::WithParamInterface<ScaleCase> {
+// At twice the scale, where the screen's pixels are finer than the window's.
+class GridImageJourney : public ResultsJourney {
  protected:
-  GridImageJourney() : ResultsJourney(GetParam().desk) {}
+  GridImageJourney() : GridImageJourney(Desk{.Width = 2300, .Height = 1500, .Scale = 2}) {}
+  explicit GridImageJourney(Desk desk) : ResultsJourney(desk) {}
 
   void ExpectPictureOfTheGrid(const fs::path& file) const {
     const QImage image = QImage(QString::fromStdString(file.string()), "BMP").convertToFormat(QImage::Format_RGB32);
@@ -143,7 +76,12 @@ class GridImageJourney : public ResultsJourney, public testing::WithParamInterfa
   }
 };
 
-TEST_P(GridImageJourney, IsOnDiskWithTheScreensOwnPixels) {
+class ScaledImageJourney : public GridImageJourney, public testing::WithParamInterface<Desk> {
+ protected:
+  ScaledImageJourney() : GridImageJourney(GetParam()) {}
+};
+
+TEST_P(ScaledImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   Session().AddCommand("xdg-open");
   StartProgramWithRanges();
   Analyze(kRaiseRun, kRaise);
@@ -170,7 +108,11 @@ TEST_P(GridImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   ExpectPictureOfTheGrid(folder / "again.bmp");
 }
 
-TEST_P(GridImageJourney, TheMarkOfTheFocusIsNotInThePictureAndComesBack) {
+INSTANTIATE_TEST_SUITE_P(Window, ScaledImageJourney,
+                         testing::Values(Desk{}, Desk{.Width = 2300, .Height = 1500, .Scale = 2}),
+                         [](const auto& entry) { return entry.param.Scale == 1 ? "At100" : "At200"; });
+
+TEST_F(GridImageJourney, TheMarkOfTheFocusIsNotInThePictureAndComesBack) {
   StartProgramWithRanges();
   FillIn(kRaiseRun, kRaise);
   Session().Press({"ctrl+Return"});
@@ -191,7 +133,7 @@ TEST_P(GridImageJourney, TheMarkOfTheFocusIsNotInThePictureAndComesBack) {
   EXPECT_NE(image.pixelColor(line - OnScreen("GridContainer").topLeft()), QColor(kMark));
 }
 
-TEST_P(GridImageJourney, AnotherProgramsWindowOverTheGridIsInThePicture) {
+TEST_F(GridImageJourney, AnotherProgramsWindowOverTheGridIsInThePicture) {
   StartProgramWithRanges();
   Analyze(kRaiseRun, kRaise);
 
@@ -205,11 +147,6 @@ TEST_P(GridImageJourney, AnotherProgramsWindowOverTheGridIsInThePicture) {
   const QImage image(QString::fromStdString(file.string()), "BMP");
   EXPECT_EQ(image.pixelColor(note.topLeft() - OnScreen("GridContainer").topLeft() + QPoint(2, 2)), QColor(Qt::yellow));
 }
-
-INSTANTIATE_TEST_SUITE_P(Window, GridImageJourney,
-                         testing::Values(ScaleCase{"FullScale", Desk{}},
-                                         ScaleCase{"DoubleScale", Desk{.Width = 2300, .Height = 1500, .Scale = 2}}),
-                         [](const auto& entry) { return std::string(entry.param.name); });
 
 }  // namespace
 }  // namespace quillon

@@ -20,10 +20,6 @@
 namespace quillon {
 namespace {
 
-const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
-
 TEST_F(ScreenReaderJourney, AllThreeAnalysesAreEnteredAndHeard) {
   static_cast<void>(The("frame", kMainTitle));
 

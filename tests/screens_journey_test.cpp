@@ -25,9 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
 // The small blind with 12 big blinds, against any hand.
 const EnteredSituation kSmallBlindShove = {"1.5", "0.5", "11", "Everything", "Big Blind Call"};
 

@@ -1,5 +1,4 @@
-// A player who keeps situations: saved on one day and opened on another, by keys and with the mouse, and answered by
-// the companion as they are.
+// A player who keeps situations: saved on one day, answered by the companion as they are, and opened on another day.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,8 +11,7 @@
 namespace quillon {
 namespace {
 
-const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
-const EnteredSituation kCall = {"110", "90", "", "Tight Open", ""};
+const EnteredSituation kTightCall = {"110", "90", "", "Tight Open", ""};
 
 class SituationJourney : public WindowJourney {
  protected:
@@ -35,12 +33,16 @@ class SituationJourney : public WindowJourney {
 
 TEST_F(SituationJourney, IsSavedOnOneDayAndOpenedByKeysOnAnother) {
   StartProgramWithRanges();
-  FillIn(kRaiseRun, kRaise);
+  FillIn(kRaiseRun, {"=100+50", "50", "400", "Button Shove", "Big Blind Call"});
   Save("Shove over the button");
-  FillIn(kCallRun, kCall);
+  FillIn(kCallRun, kTightCall);
   Save("Call a short stack");
   Fill(0, "7");
   EXPECT_EQ(CloseProgram(), 0);
+
+  const std::string file = SituationFilePath(Session().Program(), "Shove over the button").string();
+  EXPECT_EQ(Companion({"batch", file, "--fields", "pot,best,worst"}),
+            "{\"id\":null,\"pot\":150.0,\"best\":\"AA\",\"worst\":\"72o\"}\n");
 
   StartProgram();
   Session().Press({"ctrl+o"});
@@ -62,44 +64,6 @@ TEST_F(SituationJourney, IsSavedOnOneDayAndOpenedByKeysOnAnother) {
   EXPECT_THAT(SituationNames(Session().Program()), testing::ElementsAre("Call a short stack"));
   Session().Press({"Escape"});
   static_cast<void>(Session().WaitForWindow(kMainTitle));
-  EXPECT_EQ(CloseProgram(), 0);
-}
-
-TEST_F(SituationJourney, IsSavedAndOpenedWithTheMouse) {
-  StartProgramWithRanges();
-  FillIn(kCallRun, kCall);
-  Save("B");
-  Save("A");
-  Fill(0, "7");
-
-  // Its second entry is a little below the place of the click.
-  const QPoint place = OnScreen("cmdPreflopEV(0)").topRight() + QPoint(-100, -200);
-  Session().RightClickAt(place);
-  Session().WaitUntil("the menu shows", [&] { return Session().WindowCount() == 2; });
-  Session().ClickAt(place + QPoint(60, 35));
-  const Window list = Session().WaitForWindow("Open Situation");
-  const QPoint first = list.Place.topLeft() + QPoint(60, 45);
-  Session().ClickAt(first);
-  Session().ClickAt(first);
-  Session().WaitUntilGone(list);
-  static_cast<void>(Session().WaitForWindow(kMainTitle));
-  EXPECT_EQ(BoxText(0), kCall.Pot);
-  Click("cmdPreflopEV(0)");
-  ExpectGridOf(kCallRun, kCall);
-  EXPECT_EQ(CloseProgram(), 0);
-}
-
-TEST_F(SituationJourney, IsAnsweredByTheCompanionAsItIs) {
-  StartProgramWithRanges();
-  FillIn(kRaiseRun, {"=100+50", "50", "400", "Button Shove", "Big Blind Call"});
-  Save("Sum");
-  const ProgramFolder& folder = Session().Program();
-  ProgramRun run;
-  run.Program = QUILLON_CLI_PROGRAM;
-  run.Arguments = {"batch",    SituationFilePath(folder, "Sum").string(),
-                   "--fields", "pot,best,worst",
-                   "--folder", folder.Path.string()};
-  EXPECT_EQ(RunProgram(run).Output, "{\"id\":null,\"pot\":150.0,\"best\":\"AA\",\"worst\":\"72o\"}\n");
   EXPECT_EQ(CloseProgram(), 0);
 }
 

@@ -5,19 +5,13 @@
 #include <gmock/gmock.h>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "hand/equity_table.h"
-#include "ranges/range_files.h"
-#include "ranges/range_text.h"
-#include "study/balance_texts.h"
 #include "study/window/study_form.h"
 #include "support/files.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "testing/split_text.h"
-#include "tests/program_run.h"
 #include "tests/screen_reader_journey.h"
 
 namespace quillon {
@@ -28,11 +22,10 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-const EnteredSituation kRaise = {"150", "50", "1200", "Button Shove", "Big Blind Call"};
+const EnteredSituation kDeepRaise = {"150", "50", "1200", "Button Shove", "Big Blind Call"};
 constexpr std::string_view kRaiseWords =
     "Preflop Raise: pot 150, 50 to call, he must call 1200; he plays \"Button Shove\" and calls with \"Big Blind "
     "Call\"";
-const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
 constexpr std::string_view kCallWords = "Preflop Call: pot 110, 90 to call; he plays \"Button Shove\"";
 
 class StudyJourney : public ScreenReaderJourney {
@@ -43,11 +36,11 @@ class StudyJourney : public ScreenReaderJourney {
   /// From the link of the scenario's screen to the end of the run, whatever window is in front.
   void RunRaise() {
     Open("lblNav(1)");
-    Fill("How much is the current pot?", kRaise.Pot);
-    Fill("How much do you have to call?", kRaise.Call);
-    Fill("How much will your opponent have to call if you go ALL IN?", kRaise.Shove);
-    Choose("What is his current range?", kRaise.Range);
-    Choose("What range will he call with?", kRaise.CallingRange);
+    Fill("How much is the current pot?", kDeepRaise.Pot);
+    Fill("How much do you have to call?", kDeepRaise.Call);
+    Fill("How much will your opponent have to call if you go ALL IN?", kDeepRaise.Shove);
+    Choose("What is his current range?", kDeepRaise.Range);
+    Choose("What range will he call with?", kDeepRaise.CallingRange);
     WaitForResults();
   }
   void RunCall() {
@@ -63,16 +56,6 @@ class StudyJourney : public ScreenReaderJourney {
     const Window study = Session().WaitForWindow(kStudyTitle);
     Session().MoveWindow(study, {50, 1700});
     return study;
-  }
-
-  [[nodiscard]] std::string Companion(std::vector<std::string> arguments) const {
-    arguments.insert(arguments.end(), {"--folder", Session().Program().Path.string()});
-    ProgramRun run;
-    run.Program = QUILLON_CLI_PROGRAM;
-    run.Arguments = std::move(arguments);
-    const ProgramOutcome outcome = RunProgram(run);
-    EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
-    return outcome.Output;
   }
 
   [[nodiscard]] std::string CellWords(std::string_view hand) { return Reader().Description(The("link", hand)); }
@@ -153,33 +136,6 @@ TEST_F(StudyJourney, ANewAnalysisIsOfferedAndFollowedByMouse) {
                                      (words.ends_with(", loses at 90") ? "loses" : "does not lose")));
 }
 
-TEST_F(StudyJourney, HisBalancedRangeIsSavedAndChosen) {
-  RunRaise();
-  static_cast<void>(OpenStudy());
-  Session().ClickAt(MiddleOf("page tab", "Balanced ranges"));
-  WaitForAnnouncement("Shove: ");
-  LoadEquityTable();
-  const ClassWeights his = RangeWeightsOf(LoadRangeText(Session().Program(), kRaise.Range));
-  const Equilibrium found =
-      FindEquilibrium(HandNumbers(), {.Pot = 150, .Call = 50, .Shove = 1200, .HisHands = his}).value();
-  static_cast<void>(The("label", BalanceWords(found)));
-  EXPECT_THAT(Companion({"balance", "--pot", "150", "--call", "50", "--shove", "1200", "--range", "Button Shove",
-                         "--save-call", "Theirs"}),
-              HasSubstr("Worth " + NumberText(RoundTo(found.Value, 6)) + " on average"));
-
-  Press("push button", "Save his range...");
-  const Window name = Session().WaitForWindow("Pick a Name");
-  Session().Press({"ctrl+a"});
-  Session().Type("Ours");
-  Answer(name, {"Return"});
-  Answer(Session().WaitForWindow("Quillon"), {"Return"});
-  Session().WaitUntil("the range is chosen", [&] {
-    const auto list = Reader().FindAnywhere("combo box", "What range will he call with?");
-    return list && Reader().Description(*list) == "Ours";
-  });
-  EXPECT_EQ(LoadRangeText(Session().Program(), "Ours"), LoadRangeText(Session().Program(), "Theirs"));
-}
-
 // By keys alone: the hands, the points, and the table, which is the companion's byte for byte.
 TEST_F(StudyJourney, HowFarIsReadOffByKeysAndSaved) {
   RunRaise();
@@ -216,38 +172,6 @@ TEST_F(StudyJourney, HowFarIsReadOffByKeysAndSaved) {
   Session().WaitUntilGone(box);
   WaitForAnnouncement("Saved as how far.csv.");
   EXPECT_EQ(ReadAllBytes(Session().Program().Path / "Saved Grids" / "how far.csv"), table);
-}
-
-TEST_F(StudyJourney, WidthIsReadOffByMouse) {
-  RunCall();
-  static_cast<void>(OpenStudy());
-  Session().ClickAt(MiddleOf("page tab", "Width"));
-  Session().ClickAt(MiddleOf("text", "Hands, such as A7o 88"));
-  static_cast<void>(Reader().TakeAnnouncements());
-  Session().Press({"ctrl+a"});
-  Session().Type("A7o");
-  Session().Press({"Return"});
-  std::string figure = NextAnnouncement();
-  if (figure == "Working out the widths...") figure = NextAnnouncement();  // which only a slow machine says
-  EXPECT_THAT(figure, AllOf(StartsWith("Expected value, in chips. now "), EndsWith("%. A7o")));
-
-  const std::string table = Companion(
-      {"sweep", "call", "--pot", "110", "--call", "90", "--width", "1:100:1", "--hand", "A7o", "--format", "csv"});
-  const Part chart = The("chart", figure);
-  const QRect place = Reader().PlaceOf(chart);
-  for (const int x : {place.width() / 3, place.width() / 2}) {
-    Session().MoveTo(place.topLeft() + QPoint(x, place.height() / 2));
-    std::string words;
-    Session().WaitUntil("another point is told", [&] {
-      const std::string before = std::exchange(words, Reader().Description(chart));
-      return words.starts_with("A7o at ") && words == before;
-    });
-    const std::string width = words.substr(7, words.find('%') - 7);
-    EXPECT_EQ(words.substr(0, words.find(" chip")), "A7o at " + width + "%: " + Told(table, width, 2));
-  }
-
-  Session().ClickAt(MiddleOf("push button", "Copy Picture"));
-  WaitForAnnouncement("The picture is copied.");
 }
 
 }  // namespace

@@ -1,13 +1,10 @@
 // The web services of the About screen, with the program's own web client and a host that is really there. The window
 // runs in the test's process.
 
-#include <QAccessible>
-#include <QAccessibleActionInterface>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
-#include <QTimer>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
@@ -44,8 +41,6 @@ constexpr std::string_view kDownload = "Download latest version of Quillon";
 
 const InputQuestion kAddressQuestion = {"What is your email address?", "Quillon", ""};
 const Message kSent = {.title = "Quillon", .text = "Your message has been sent."};
-const Message kNotSent = {
-    .title = "Error", .text = "There was a problem sending your message.", .icon = MessageIcon::kStop};
 
 // The program's own client, which finds the product's host on this machine.
 class LoopbackClient : public WebClient {
@@ -78,20 +73,6 @@ class WebStage : public MainStage {
     Client.Port = Host.Port();
   }
 
-  // Does `act` once, as soon as `ready` holds while the program waits for something. A test fails where that never
-  // happens.
-  void Once(std::function<bool()> ready, std::function<void()> act) {
-    ++ActsToCome;
-    auto* timer = new QTimer(&Form);
-    QObject::connect(timer, &QTimer::timeout, &Form,
-                     [this, timer, isReady = std::move(ready), action = std::move(act)] {
-                       if (!isReady()) return;
-                       timer->stop();
-                       --ActsToCome;
-                       action();
-                     });
-    timer->start(1);
-  }
   static bool HourglassShows() { return QGuiApplication::overrideCursor() != nullptr; }
 
   void ExpectAnOpenEar() {
@@ -146,24 +127,6 @@ class WebJourney : public testing::Test, public WebStage {
       EXPECT_EQ(Caption("lblLink", 3), link);
     }
   }
-
-  // One after the other, so that neither is mistaken for the state before.
-  void ExpectTheCheckToWork() {
-    Client.Port = Host.Port();
-    Host.Put(kVersionFile, {.Body = "1.0"});
-    Click("chkUpgrade");
-    ExpectVersion("N/A", "");
-    Click("chkUpgrade");
-    ExpectVersion("1", kDownload);
-  }
-  void ExpectTheNoteToGoOut() {
-    Client.Port = Host.Port();
-    Host.Put(kFeedbackScript, {.Body = "Your message was sent"});
-    ExpectInputBox(kAddressQuestion, "x@y");
-    ExpectMessageBox(kSent);
-    Send();
-    EXPECT_EQ(Note().toPlainText(), QString());
-  }
 };
 
 // What a host may send, and what is read from it, has tests without a window.
@@ -206,29 +169,6 @@ TEST_F(WebJourney, AStartWithAHostThatDoesNotAnswerTakesTheLimitTwice) {
   EXPECT_FALSE(Form.State().HandInfo.empty()) << "the start went on after it";
 }
 
-// What else a bad host can do to a request has tests without a window.
-TEST_F(WebJourney, AReplyThatBreaksOffFailsACheckAndANoteUntilTheNextAttempt) {
-  const LoopbackHost bad("HTTP/1.1 200 OK\r\nContent-Length: 16\r\n\r\n0.9 sent");
-  Client.Port = bad.Port();
-  Start();
-  Click("chkUpgrade");
-  ExpectVersion("Error Connecting", "");
-  ExpectAnOpenEar();
-  ExpectTheCheckToWork();
-
-  Client.Port = bad.Port();
-  Paste(QStringLiteral("abc"));
-  ExpectInputBox(kAddressQuestion, "x@y");
-  ExpectMessageBox(kNotSent);
-  Send();
-  VerifyExpectedBoxes();
-  EXPECT_EQ(bad.Requests().size(), 2U);
-  EXPECT_EQ(Note().toPlainText(), QStringLiteral("abc"));
-  EXPECT_FALSE(HourglassShows());
-  ExpectAnOpenEar();
-  ExpectTheNoteToGoOut();
-}
-
 TEST_F(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {
   std::atomic<bool> answers = false;
   const LoopbackHost slow([&](LoopbackConnection& connection) {
@@ -254,28 +194,6 @@ TEST_F(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {
   EXPECT_EQ(Screen(), "About");
   EXPECT_FALSE(Get<QCheckBox>("chkUpgrade").isChecked());
   ExpectAnOpenEar();
-}
-
-TEST_F(WebJourney, AScreenReadersToggleOfTheBoxDuringTheCheckIsNotHeard) {
-  std::atomic<bool> answers = false;
-  const LoopbackHost slow([&](LoopbackConnection& connection) {
-    while (!answers && connection.Pause(milliseconds(1))) {
-    }
-    connection.Send("HTTP/1.1 200 OK\r\n\r\n1.0");
-  });
-  Client.Port = slow.Port();
-  Start();
-  Once([&] { return !slow.Requests().empty(); },
-       [&] {
-         QAccessible::queryAccessibleInterface(&Get("chkUpgrade"))
-             ->actionInterface()
-             ->doAction(QAccessibleActionInterface::toggleAction());
-         answers = true;
-       });
-  Click("chkUpgrade");
-  EXPECT_TRUE(Get<QCheckBox>("chkUpgrade").isChecked());
-  ExpectVersion("1", kDownload);
-  EXPECT_EQ(slow.Requests().size(), 1U);
 }
 
 TEST_F(WebJourney, ANoteReachesTheHostByteForByte) {
@@ -309,11 +227,10 @@ TEST_F(WebJourneyInRealTime, ANoteGoesOutAfterFiveSecondsInWhichTheWindowIsLive)
   Host.Put(kFeedbackScript, {.Body = "sent"});
   Start();
   Paste(QStringLiteral("abc"));
-  Once([] { return HourglassShows(); },
-       [this] {
-         ExpectAnOpenEar();
-         Paste(QStringLiteral("d"));
-       });
+  DuringWait([this] {
+    ExpectAnOpenEar();
+    Paste(QStringLiteral("d"));
+  });
   milliseconds asked{0};
   const Stopwatch watch;
   Web.WhileAsked = [&] { asked = watch.Spent(); };
@@ -329,7 +246,7 @@ TEST_F(WebJourneyInRealTime, ANoteGoesOutAfterFiveSecondsInWhichTheWindowIsLive)
 // The program in a process of its own, which ends as the real one does, and tells how far it has come.
 class ClosedStage : public WebStage {
  public:
-  explicit ClosedStage(StageClock clock = StageClock::kHurried) : WebStage(clock) {
+  ClosedStage() {
     AtEnd = [this] {
       std::fprintf(stderr, "closed %s, asked %zu times, note \"%s\", version %s\n%s",
                    HourglassShows() ? "under the hourglass" : "without the hourglass", silent_.Requests().size(),
@@ -374,40 +291,31 @@ constexpr const char* kClosedChecking = "closed without the hourglass, asked 1 t
 
 TEST_F(ClosingDeathTest, EndsTheProgramDuringTheWaitBeforeANoteGoesOut) {
   const auto run = [] {
-    ClosedStage stage(StageClock::kSystem);
+    ClosedStage stage;
     stage.CloseOnce([] { return ClosedStage::HourglassShows(); });
     stage.SendNote();
   };
   EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedUnsent));
 }
 
-TEST_F(ClosingDeathTest, EndsTheProgramDuringTheRequestThatBringsANote) {
-  const auto run = [] {
+TEST_F(ClosingDeathTest, EndsTheProgramDuringARequest) {
+  const auto run = [](void (*ask)(ClosedStage & stage)) {
     ClosedStage stage;
     stage.CloseOnce([&] { return stage.Asks(); });
-    stage.SendNote();
+    ask(stage);
   };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedSending));
-}
-
-TEST_F(ClosingDeathTest, EndsTheProgramDuringAnUpgradeCheck) {
-  const auto run = [] {
-    ClosedStage stage;
-    stage.CloseOnce([&] { return stage.Asks(); });
-    stage.Start();
-    stage.Click("chkUpgrade");
-  };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
-}
-
-TEST_F(ClosingDeathTest, EndsTheProgramDuringTheUpgradeCheckOfItsStart) {
-  const auto run = [] {
-    ClosedStage stage;
-    stage.WriteSettings("[Upgrade]\r\nAuto=1\r\n");
-    stage.CloseOnce([&] { return stage.Asks(); });
-    stage.Start();
-  };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
+  EXPECT_EXIT(run([](ClosedStage& stage) { stage.SendNote(); }), testing::ExitedWithCode(EXIT_SUCCESS),
+              Closed(kClosedSending));
+  EXPECT_EXIT(run([](ClosedStage& stage) {
+                stage.Start();
+                stage.Click("chkUpgrade");
+              }),
+              testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
+  EXPECT_EXIT(run([](ClosedStage& stage) {
+                stage.WriteSettings("[Upgrade]\r\nAuto=1\r\n");
+                stage.Start();
+              }),
+              testing::ExitedWithCode(EXIT_SUCCESS), Closed(kClosedChecking));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "analysis/input_screens.h"
@@ -65,6 +66,16 @@ void WindowJourney::TearDown() {
   if (Session().Picture().save(QString::fromStdString(file.string()))) {
     ADD_FAILURE() << "The screen at the end is in " << file;
   }
+}
+
+std::string WindowJourney::Companion(std::vector<std::string> arguments) const {
+  arguments.insert(arguments.end(), {"--folder", Session().Program().Path.string()});
+  ProgramRun run;
+  run.Program = QUILLON_CLI_PROGRAM;
+  run.Arguments = std::move(arguments);
+  const ProgramOutcome outcome = RunProgram(run);
+  EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+  return outcome.Output;
 }
 
 void WindowJourney::StartProgram() {

@@ -34,6 +34,11 @@ inline constexpr std::int16_t kCallRun = 0;
 inline constexpr std::int16_t kRaiseRun = 1;
 inline constexpr std::int16_t kEquityRun = 2;
 
+/// What journeys enter, with the example ranges.
+inline const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
+inline const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
+inline const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
+
 /// The same by the engine alone.
 [[nodiscard]] Analysis AnalysisOf(std::int16_t button, const EnteredSituation& situation, const ProgramFolder& folder);
 
@@ -57,6 +62,9 @@ class WindowJourney : public testing::Test {
   int CloseProgram();
 
   [[nodiscard]] const Window& Main() const { return main_; }
+
+  /// What the companion prints on the ranges of the program's folder.
+  [[nodiscard]] std::string Companion(std::vector<std::string> arguments) const;
 
   // ---- controls of a window, by their names
 
