@@ -17,20 +17,25 @@ target_compile_options(quillon_flags INTERFACE -ffp-contract=off)
 
 # What is shipped is hardened, and the same wherever it is built. Tests are not optimised, which FORTIFY needs.
 set(hardened $<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLON_IS_TEST>>>>)
+# Windows moves all code, and a large frame there touches its pages one by one as it is.
+set(hardened_posix $<AND:${hardened},$<NOT:$<BOOL:${WIN32}>>>)
 target_compile_options(quillon_flags INTERFACE
   $<${hardened}:-U_FORTIFY_SOURCE>
   $<${hardened}:-D_FORTIFY_SOURCE=3>
-  $<${hardened}:-fPIE>
+  $<${hardened_posix}:-fPIE>
   $<${hardened}:-fstack-protector-strong>
-  $<${hardened}:-fstack-clash-protection>
+  $<${hardened_posix}:-fstack-clash-protection>
   $<${hardened}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64)$")
-  target_compile_options(quillon_flags INTERFACE $<${hardened}:-fcf-protection=full>)
+  target_compile_options(quillon_flags INTERFACE $<${hardened_posix}:-fcf-protection=full>)
 endif()
 if(WIN32)
   # Windows 10 and later, with names in UTF-16, and without the macros that hide std::min and std::max.
   target_compile_definitions(quillon_flags INTERFACE
     _WIN32_WINNT=0x0A00 WINVER=0x0A00 NOMINMAX UNICODE _UNICODE)
+  # What the stack protector calls is in a library; and without the time of the build.
+  target_link_options(quillon_flags INTERFACE
+    $<${hardened}:-fstack-protector-strong> LINKER:--no-insert-timestamp)
 else()
   target_link_options(quillon_flags INTERFACE
     $<${hardened}:-pie> $<${hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>)

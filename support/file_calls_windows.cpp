@@ -166,7 +166,7 @@ class WindowsFileCalls final : public FileCalls {
   }
   int Unlink(const std::string& path) override {
     const std::wstring name = WideText(path);
-    return Patiently([&] { return DeleteFileW(name.c_str()) != 0; });
+    return Patiently([&] { return ::DeleteFileW(name.c_str()) != 0; });
   }
   int MakeFolder(const std::string& path) override {
     return CreateDirectoryW(WideText(path).c_str(), nullptr) != 0 ? 0 : LastError();

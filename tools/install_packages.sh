@@ -4,7 +4,7 @@
 #   tools/install_packages.sh run      what ./run needs: to build the programs and to run them
 #   tools/install_packages.sh check    what ./check needs: that, and what tests and benchmarks are made of
 #   tools/install_packages.sh lint     what .ci/run needs on top of ./check
-#   tools/install_packages.sh windows  what the preset windows needs on top of ./check
+#   tools/install_packages.sh windows  what the presets for Windows and tools/windows/build.sh need on top of ./check
 #   tools/install_packages.sh newer    what the nightly check of a newer compiler needs on top of ./check
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
@@ -36,6 +36,8 @@ lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 # Programs for Windows, and what runs them.
 windows=(g++-mingw-w64-x86-64-posix wine wine64)
+# The zip: Qt from its sources, the icon, the archive.
+windows+=(dpkg-dev librsvg2-bin icoutils zip)
 newer=(clang-16)
 coverage=("${fuzz[@]}" llvm-14)
 pages=(chromium)
