@@ -1,6 +1,7 @@
-# The licence, in SPDX's words, under which the portable archive carries the libraries of each Debian package; of several
+# The licence, in SPDX's words, under which a portable archive carries the libraries of each Debian package; of several
 # to choose from, the one chosen. A package that is not here stops the packaging: read its licence first, which must go
 # with MIT. None is compiled in; each is a file that can be replaced.
+set(licence_of_gcc-mingw-w64-x86-64-posix-runtime "GPL-3.0-or-later WITH GCC-exception-3.1")
 set(licence_of_libb2-1 CC0-1.0)
 set(licence_of_libcap2 BSD-3-Clause)
 set(licence_of_libdbus-1-3 AFL-2.1)
@@ -20,7 +21,8 @@ set(licence_of_libmd4c0 MIT)
 set(licence_of_libopengl0 MIT)
 set(licence_of_libpcre2-16-0 BSD-3-Clause)
 set(licence_of_libpcre2-8-0 BSD-3-Clause)
-foreach(qt libqt6core6 libqt6dbus6 libqt6gui6 libqt6svg6 libqt6waylandclient6 libqt6widgets6 qt6-wayland)
+set(licence_of_mingw-w64-x86-64-dev "ZPL-2.1 AND MIT AND BSD-3-Clause")
+foreach(qt qt6-base libqt6core6 libqt6dbus6 libqt6gui6 libqt6svg6 libqt6waylandclient6 libqt6widgets6 qt6-wayland)
   set(licence_of_${qt} LGPL-3.0-only)
 endforeach()
 set(licence_of_libsm6 MIT)

@@ -1,6 +1,8 @@
-# quillon_write_spdx(FILE VERSION PACKAGES...): a bill of materials in SPDX 2.3 (JSON) of a portable folder: the program,
-# what is compiled into it, and the Debian packages whose libraries it carries, with the licence of each from
-# bundled_licences.cmake. Reads `QUILLON_WEB_HOST` and `httplib_version`. Of SOURCE_DATE_EPOCH is the time in it, so that two makings are the same.
+# quillon_write_spdx(FILE NAME PACKAGES...): a bill of materials in SPDX 2.3 (JSON) of the portable folder NAME: the
+# program, what is compiled into it, what quillon_append_spdx has added before, and the Debian packages whose libraries it
+# carries, as "PACKAGE", or as "PACKAGE=VERSION" where it is not installed. The licence of each is from
+# bundled_licences.cmake. Reads `QUILLON_WEB_HOST` and `PROJECT_VERSION`. Of SOURCE_DATE_EPOCH is the time in it, so that two makings
+# are the same.
 
 # Appends a package to the caller's `packages_json` and `relations_json`.
 function(quillon_append_spdx NAME VERSION LICENCE RELATION URL)
@@ -33,10 +35,11 @@ function(quillon_append_spdx NAME VERSION LICENCE RELATION URL)
   set(relations_json "${relations_json}" PARENT_SCOPE)
 endfunction()
 
-function(quillon_write_spdx FILE VERSION)
-  set(packages_json "")
-  set(relations_json "")
-  quillon_append_spdx(quillon ${VERSION} MIT "SPDXRef-DOCUMENT DESCRIBES" "")
+function(quillon_write_spdx FILE NAME)
+  set(httplib ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../third_party/httplib/httplib.h)
+  file(STRINGS "${httplib}" httplib_version REGEX "define CPPHTTPLIB_VERSION \"")
+  string(REGEX REPLACE ".*\"(.*)\".*" "\\1" httplib_version "${httplib_version}")
+  quillon_append_spdx(quillon ${PROJECT_VERSION} MIT "SPDXRef-DOCUMENT DESCRIBES" "")
   quillon_append_spdx(cpp-httplib ${httplib_version} MIT "SPDXRef-quillon CONTAINS" "")
   foreach(compiled_in fonts-liberation2=OFL-1.1 fonts-dejavu-core=Bitstream-Vera fonts-dejavu-extra=Bitstream-Vera
       libcli11-dev=BSD-3-Clause nlohmann-json3-dev=MIT)
@@ -47,10 +50,15 @@ function(quillon_write_spdx FILE VERSION)
     quillon_append_spdx(${package} ${version} ${licence} "SPDXRef-quillon CONTAINS" "pkg:deb/debian/${package}@${version}")
   endforeach()
   foreach(package IN LISTS ARGN)
+    if(package MATCHES "^(.*)=(.*)$")
+      set(package ${CMAKE_MATCH_1})
+      set(version ${CMAKE_MATCH_2})
+    else()
+      quillon_debian_version(${package} version)
+    endif()
     if(NOT DEFINED licence_of_${package})
       message(FATAL_ERROR "bundled_licences.cmake has no licence of ${package}")
     endif()
-    quillon_debian_version(${package} version)
     quillon_append_spdx(${package} ${version} "${licence_of_${package}}" "SPDXRef-quillon DEPENDS_ON"
       "pkg:deb/debian/${package}@${version}")
   endforeach()
@@ -61,8 +69,8 @@ function(quillon_write_spdx FILE VERSION)
   \"spdxVersion\": \"SPDX-2.3\",
   \"dataLicense\": \"CC0-1.0\",
   \"SPDXID\": \"SPDXRef-DOCUMENT\",
-  \"name\": \"Quillon-${VERSION}-linux-x86_64\",
-  \"documentNamespace\": \"https://${QUILLON_WEB_HOST}/quillon/spdx/${VERSION}\",
+  \"name\": \"${NAME}\",
+  \"documentNamespace\": \"https://${QUILLON_WEB_HOST}/quillon/spdx/${NAME}\",
   \"creationInfo\": {\"created\": \"${now}\", \"creators\": [\"Organization: The Quillon developers\"]},
   \"hasExtractedLicensingInfos\": [
     {\"licenseId\": \"LicenseRef-public-domain\", \"extractedText\": \"In the public domain.\"}

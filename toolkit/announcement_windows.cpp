@@ -1,5 +1,4 @@
-#include <initguid.h>
-#include <uiautomation.h>
+#include <uiautomationcore.h>
 
 #include "toolkit/announcement.h"
 
