@@ -36,6 +36,10 @@ if(WIN32)
   # What the stack protector calls is in a library; and without the time of the build.
   target_link_options(quillon_flags INTERFACE
     $<${hardened}:-fstack-protector-strong> LINKER:--no-insert-timestamp)
+  # Programs without a window run alone; the window shares Qt's libraries and those of the compiler with them.
+  if(NOT QUILLON_GUI)
+    target_link_options(quillon_flags INTERFACE -static)
+  endif()
 else()
   target_link_options(quillon_flags INTERFACE
     $<${hardened}:-pie> $<${hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>)

@@ -1,9 +1,11 @@
-# quillon_library(NAME HEADERS ... SOURCES ... LINKS ... TESTS ... QT_TESTS ... TEST_LINKS ... TEST_DEFINITIONS ...)
+# quillon_library(NAME HEADERS ... SOURCES ... LINKS ... TESTS ... QT_TESTS ... POSIX_TESTS ... WINDOWS_TESTS ...
+#   TEST_LINKS ... TEST_DEFINITIONS ...)
 #
 # One folder's library `quillon_NAME`, and one test program `NAME_test` of the tests beside its sources. A
-# folder whose tests build windows lists all of them as QT_TESTS.
+# folder whose tests build windows lists all of them as QT_TESTS. Rules of one system only have tests of their own.
 function(quillon_library NAME)
-  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINKS;TESTS;QT_TESTS;TEST_LINKS;TEST_DEFINITIONS" ${ARGN})
+  cmake_parse_arguments(ARG "" ""
+    "HEADERS;SOURCES;LINKS;TESTS;QT_TESTS;POSIX_TESTS;WINDOWS_TESTS;TEST_LINKS;TEST_DEFINITIONS" ${ARGN})
 
   # For tools/coverage.sh, which must not count what only tests are made of.
   set(product ${ARG_HEADERS} ${ARG_SOURCES})
@@ -29,7 +31,8 @@ function(quillon_library NAME)
 
   set(test_arguments LINKS quillon_${NAME} ${ARG_TEST_LINKS} DEFINITIONS ${ARG_TEST_DEFINITIONS})
   if(ARG_TESTS)
-    quillon_test(${NAME}_test SOURCES ${ARG_TESTS} ${test_arguments})
+    string(TOUPPER ${QUILLON_SYSTEM} system)
+    quillon_test(${NAME}_test SOURCES ${ARG_TESTS} ${ARG_${system}_TESTS} ${test_arguments})
   endif()
   if(ARG_QT_TESTS)
     quillon_test(${NAME}_test QT SOURCES ${ARG_QT_TESTS} ${test_arguments})
@@ -48,16 +51,19 @@ function(quillon_test NAME)
 
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE
-    quillon_flags ${ARG_LINKS} GTest::gmock $<IF:$<BOOL:${ARG_QT}>,quillon_qt_test_main,GTest::gtest_main>)
+    quillon_flags ${ARG_LINKS} quillon_test_system GTest::gmock $<IF:$<BOOL:${ARG_QT}>,quillon_qt_test_main,GTest::gtest_main>)
   target_compile_definitions(${NAME} PRIVATE ${ARG_DEFINITIONS})
   # Tests are compiled more often than they are waited for. What they test keeps its own level.
   target_compile_options(${NAME} PRIVATE -O0)
   set_target_properties(${NAME} PROPERTIES QUILLON_IS_TEST ON)
+  if(TARGET quillon_test_headers)
+    target_precompile_headers(${NAME} REUSE_FROM quillon_test_headers)
+  endif()
   if(ARG_PROGRAMS)
     add_dependencies(${NAME} ${ARG_PROGRAMS})
   endif()
-  if(QUILLON_SANITIZE)
-    # A program takes long to start under a sanitizer.
+  if(QUILLON_SANITIZE OR CMAKE_CROSSCOMPILING)
+    # A program takes long to start under a sanitizer, and in an emulator.
     add_test(NAME ${NAME} COMMAND ${NAME} --gtest_brief=1)
   else()
     gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES)

@@ -13,4 +13,13 @@ quillon_borrow_headers(CLI11::CLI11 CLI)
 
 if(QUILLON_TESTS)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+
+  # Read once for all tests: they are compiled for every change here as well as at home, and half of that is headers.
+  file(WRITE ${CMAKE_BINARY_DIR}/test_headers.cpp "")
+  add_library(quillon_test_headers OBJECT ${CMAKE_BINARY_DIR}/test_headers.cpp)
+  target_link_libraries(quillon_test_headers PRIVATE quillon_flags GTest::gmock)
+  target_compile_options(quillon_test_headers PRIVATE -O0)
+  set_target_properties(quillon_test_headers PROPERTIES QUILLON_IS_TEST ON)
+  target_precompile_headers(quillon_test_headers PRIVATE
+    <filesystem> <fstream> <gmock/gmock.h> <gtest/gtest.h> <optional> <sstream> <string> <vector>)
 endif()

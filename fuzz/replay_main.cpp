@@ -41,7 +41,7 @@ std::size_t ReplayFolders(std::span<char*> folders) {
   std::size_t count = 0;
   for (const char* const folder : folders) {
     for (const std::filesystem::path& file : FilesOf(folder)) {
-      std::puts(file.c_str());
+      std::puts(file.string().c_str());
       Replay(file);
       ++count;
     }

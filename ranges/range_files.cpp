@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "support/file_names.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
 
@@ -73,6 +74,9 @@ void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::str
   if (const std::error_code error = ErrorOfFile(oldFile)) FailOnFile(error.default_error_condition().value(), oldFile);
 
   SaveRangeText(folder, newName, text);
+  // Not every system gives a file that is replaced the new name's letter case. It is the same name to it either way.
+  if (oldName != newName && IsSameName(oldName, newName))
+    static_cast<void>(folder.Calls->Rename(oldFile.string(), RangeFilePath(folder, newName).string()));
   if (!HoldsContentOf(oldFile, RangeFilePath(folder, newName))) DeleteRange(folder, oldName);
 }
 

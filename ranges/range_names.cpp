@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "support/file_names.h"
 #include "support/files.h"
 #include "support/joined_text.h"
 
@@ -35,19 +36,27 @@ std::optional<Message> NameComplaint(std::string_view thing, std::string_view na
                                             " name: \r\n\r\n", kForbiddenCharacters}));
 }
 
-std::optional<Message> LengthComplaint(std::string_view thing, const ProgramFolder& folder,
+std::optional<Message> SystemComplaint(std::string_view thing, const ProgramFolder& folder, std::string_view name,
                                        const std::filesystem::path& file) {
-  if (!IsPathTooLong(file, *folder.Calls)) return std::nullopt;
-  return Refusal(kErrorTitle, Joined({"Your ", thing, " name is too long. Please choose a shorter one."}));
+  if (IsPathTooLong(file, *folder.Calls))
+    return Refusal(kErrorTitle, Joined({"Your ", thing, " name is too long. Please choose a shorter one."}));
+  const std::string_view fault = NameFault(name);
+  if (fault.empty()) return std::nullopt;
+  return Refusal(kErrorTitle, Joined({"Your ", thing, " name ", fault, ". Please choose another one."}));
 }
 
 bool ValidateRangeName(const ProgramFolder& folder, std::string_view name, MessageBoxes& messages, bool mayReplace) {
   constexpr std::string_view kRange = "range";
   std::optional<Message> complaint = NameComplaint(kRange, name);
   if (!complaint && !mayReplace) complaint = ExistenceComplaint(folder, name);
-  if (!complaint) complaint = LengthComplaint(kRange, folder, RangeFilePath(folder, name));
+  if (!complaint) complaint = SystemComplaint(kRange, folder, name, RangeFilePath(folder, name));
   if (complaint) messages.Show(*complaint);
   return !complaint;
+}
+
+bool ValidateNewName(const ProgramFolder& folder, std::string_view oldName, std::string_view newName,
+                     MessageBoxes& messages) {
+  return ValidateRangeName(folder, newName, messages, newName != oldName && IsSameName(newName, oldName));
 }
 
 }  // namespace quillon

@@ -18,7 +18,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr std::array kProxyVariables = {"http_proxy", "HTTP_PROXY", "all_proxy", "ALL_PROXY"};
 constexpr milliseconds kShort{300};
 constexpr milliseconds kSlack{10'000};  // for a machine that has other things to do
 constexpr milliseconds kGenerous{20'000};  // never used up, save by a test that fails
@@ -183,19 +182,6 @@ TEST(HttpGet, SendsNoCookieBack) {
     EXPECT_EQ(request.find("ookie"), std::string::npos) << request;
 }
 
-// A host whose name leads nowhere can be asked through a proxy only; this machine is never asked through one.
-TEST(HttpGet, AsksNoProxy) {
-  const LoopbackHost proxy(Ok("proxy"));
-  for (const char* name : kProxyVariables)
-    setenv(name, proxy.Address().c_str(), 1);
-  const std::string body = Get("http://nobody.invalid/", kShort);
-  for (const char* name : kProxyVariables)
-    unsetenv(name);
-
-  EXPECT_EQ(body, "");
-  EXPECT_TRUE(proxy.Requests().empty());
-}
-
 TEST_F(HttpGetTime, EndsWithABodyThatIsTooLong) {
   std::size_t sent = 0;
   {
@@ -303,13 +289,6 @@ TEST_F(HttpGetTime, EndsAtOnceWhereNobodyListens) {
 TEST_F(HttpGetTime, IsUpWithAHostThatDoesNotAnswer) {
   const LoopbackHost host([](LoopbackConnection& connection) { connection.WaitUntilTheOtherEndIsGone(); });
   EXPECT_EQ(Get(host.Address(), kShort), "");
-  ExpectTheLimit();
-}
-
-TEST_F(HttpGetTime, IsUpWithAHostThatCannotBeReached) {
-  const DeafHost host;
-  ASSERT_NE(host.Port(), 0);
-  EXPECT_EQ(Get("http://127.0.0.1:" + std::to_string(host.Port()) + "/", kShort), "");
   ExpectTheLimit();
 }
 

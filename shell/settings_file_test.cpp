@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstddef>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -11,7 +10,6 @@
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
 #include <utility>
 #include <vector>
 
@@ -158,16 +156,6 @@ TEST(SettingsFile, IsNotTouchedByTheValueItHas) {
   EXPECT_TRUE(calls.ScratchFiles().empty());
   WriteIniValue("Main", "Left", "8", {program.Folder().Path, &calls});
   EXPECT_EQ(calls.ScratchFiles().size(), 1U);
-}
-
-TEST(SettingsFile, ALinkToItStaysALink) {
-  const TemporaryProgram program;
-  const std::filesystem::path real = program.Folder().Path / "real.ini";
-  std::ofstream(real) << "[Main]\nLeft=5\n";
-  std::filesystem::create_symlink("real.ini", SettingsFilePath(program.Folder()));
-  WriteIniValue("Main", "Left", "7", program.Folder());
-  EXPECT_TRUE(std::filesystem::is_symlink(SettingsFilePath(program.Folder())));
-  EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "7");
 }
 
 }  // namespace

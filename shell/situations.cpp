@@ -92,7 +92,7 @@ std::optional<std::string> AskAndSaveSituation(const ScreenSituation& situation,
   const std::filesystem::path file = SituationFilePath(folder, name);
   if (!complaint) {
     MakeFolderIfMissing(SituationFolderPath(folder), *folder.Calls);
-    complaint = LengthComplaint(kThing, folder, file);
+    complaint = SystemComplaint(kThing, folder, name, file);
   }
   if (complaint) {
     messages.Show(*complaint);

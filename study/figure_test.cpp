@@ -61,13 +61,17 @@ TEST(RoundTicks, AreRoundAndWithin) {
            {7, 7, 5, {7}},
            {0.1, 0.5, 4, {0.1, 0.2, 0.3, 0.4, 0.5}},
            {1234, 5678, 5, {2000, 3000, 4000, 5000}},
-           {-kMost, kMost, 4, {-1e308, 0, 1e308}},
            {1e15, 1e15 + 1, 8, {}},
        }) {
     const auto ticks = RoundTicks(c.low, c.high, c.wanted);
     EXPECT_EQ(ticks, c.ticks.empty() ? ticks : c.ticks) << c.low;
     EXPECT_LE(ticks.size(), static_cast<std::size_t>(c.wanted) + 1) << c.low;
   }
+}
+
+// The powers of ten of two systems' libraries differ in their last digit up there.
+TEST(RoundTicks, ReachAsFarAsNumbersDo) {
+  EXPECT_THAT(RoundTicks(-kMost, kMost, 4), testing::Pointwise(testing::DoubleEq(), {-1e308, 0.0, 1e308}));
 }
 
 TEST(Figure, TellsAPointInWords) {

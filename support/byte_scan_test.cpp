@@ -5,10 +5,9 @@
 #include <limits>
 #include <random>
 #include <string>
-#include <sys/mman.h>
-#include <unistd.h>
 #include <vector>
 
+#include "testing/guarded_page.h"
 #include "testing/oracle/searches.h"
 
 namespace quillon {
@@ -38,30 +37,6 @@ class RandomTexts {
 // a text is looked for.
 const std::vector<std::size_t> kBlockEdges = {0,   1,   63,  64,  65,  111, 112, 113, 127, 128, 129, 191,
                                               192, 223, 224, 225, 256, 335, 336, 337, 384, 447, 448, 449};
-
-// Memory between two pages that cannot be read.
-class GuardedPage {
- public:
-  GuardedPage() {
-    EXPECT_NE(all_, MAP_FAILED);
-    EXPECT_EQ(::mprotect(Start(), size_, PROT_READ | PROT_WRITE), 0);
-    std::fill_n(Start(), size_, 'x');
-  }
-  GuardedPage(const GuardedPage&) = delete;
-  GuardedPage(GuardedPage&&) = delete;
-  GuardedPage& operator=(const GuardedPage&) = delete;
-  GuardedPage& operator=(GuardedPage&&) = delete;
-  ~GuardedPage() { ::munmap(all_, 3 * size_); }
-
-  [[nodiscard]] std::string_view FirstBytes(std::size_t count) const { return {Start(), count}; }
-  [[nodiscard]] std::string_view LastBytes(std::size_t count) const { return {Start() + size_ - count, count}; }
-
- private:
-  [[nodiscard]] char* Start() const { return static_cast<char*>(all_) + size_; }
-
-  std::size_t size_ = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-  void* all_ = ::mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-};
 
 // The searches that the program chose when it started, and those for a processor without AVX2.
 struct SearchPair {

@@ -75,6 +75,14 @@ std::filesystem::path PathOf(std::string_view text) {
   return text;
 }
 
+FolderListing ListFolder(const std::filesystem::path& folder) {
+  FolderListing listing;
+  std::filesystem::directory_iterator entry(folder, listing.Error);
+  for (const std::filesystem::directory_iterator end; !listing.Error && entry != end; entry.increment(listing.Error))
+    listing.Entries.push_back(*entry);
+  return listing;
+}
+
 bool IsQuotaError(int systemError) {
   return systemError == EDQUOT;
 }

@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <initializer_list>
 #include <io.h>
 #include <map>
 #include <mutex>
 #include <utility>
 #include <windows.h>
 
+#include "support/file_names.h"
 #include "support/files.h"
 #include "support/text_windows.h"
 
@@ -20,7 +22,8 @@ constexpr FileMode kReadable = 0444;
 constexpr FileMode kWritable = 0222;
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Virus scanners and indexers open a file that has just been written, and for that moment it cannot be replaced.
+// Virus scanners and indexers open a file that has just been written, and for that moment it may be neither opened nor
+// replaced.
 constexpr int kAttempts = 20;
 constexpr DWORD kPauseMilliseconds = 10;
 
@@ -76,6 +79,32 @@ int LastError() {
   return -ErrorNumber(GetLastError());
 }
 
+constexpr std::size_t kLongestName = 255;  // UTF-16 units, on every file system of this one
+constexpr std::wstring_view kVerbatim = LR"(\\?\)";
+constexpr std::wstring_view kShare = LR"(\\)";
+
+bool HasLongName(std::wstring_view path) {
+  std::size_t start = 0;
+  for (std::size_t end = 0; end != std::wstring_view::npos; start = end + 1) {
+    end = path.find_first_of(L"/\\", start);
+    if (std::min(end, path.size()) - start > kLongestName) return true;
+  }
+  return false;
+}
+
+// A path as the system takes it whatever its length, with each name in it taken as it is: otherwise 259 characters are
+// all, and "CON.txt" in any folder is the console. A device that is named alone, such as "NUL", stays one.
+std::wstring SystemPath(const std::string& text) {
+  std::filesystem::path path = PathOf(text);
+  path.make_preferred();
+  if (path.empty() || path.native().starts_with(kVerbatim)) return path.native();
+  if (!path.has_parent_path() && !NameFault(text).empty()) return path.native();
+  if (path.native().starts_with(kShare)) return std::wstring(kVerbatim) + L"UNC" + path.native().substr(1);
+  std::error_code unknown;
+  path = (std::filesystem::current_path(unknown) / path).lexically_normal();
+  return path.is_absolute() ? std::wstring(kVerbatim) + path.native() : path.native();
+}
+
 bool IsFolder(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -108,14 +137,14 @@ HANDLE HandleOf(int file) {
   return reinterpret_cast<HANDLE>(_get_osfhandle(file));  // NOLINT: that is what the number is
 }
 
-// Repeats what is refused while another program looks at the file.
+// Repeats a call while it fails with one of these errors, those of a file that another program has open.
 template <typename Call>
-int Patiently(Call call) {
+int Patiently(std::initializer_list<int> passing, Call call) {
   int error = 0;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     if (call()) return 0;
     error = LastError();
-    if (error != -EBUSY && error != -EACCES) break;
+    if (std::ranges::find(passing, -error) == passing.end()) break;
     Sleep(kPauseMilliseconds);
   }
   return error;
@@ -124,16 +153,25 @@ int Patiently(Call call) {
 class WindowsFileCalls final : public FileCalls {
  public:
   int Open(const std::string& path, OpenFor purpose, FileMode /*mode*/) override {
-    const std::wstring name = WideText(path);
-    const bool folder = IsFolder(name);
-    if (folder != (purpose == OpenFor::kListing) && GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES) {
+    const std::wstring name = SystemPath(path);
+    if (HasLongName(name)) return -ENAMETOOLONG;
+    const DWORD attributes = GetFileAttributesW(name.c_str());
+    const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
+    const bool folder = isThere && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    if (isThere && folder != (purpose == OpenFor::kListing)) {
       if (purpose == OpenFor::kCreating) return -EEXIST;
       return folder ? -EISDIR : -ENOTDIR;
     }
+    // A disk of another system may let its superuser write such a file.
+    const bool writes = purpose == OpenFor::kWriting || purpose == OpenFor::kRewriting;
+    if (isThere && writes && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return -EACCES;
     const Opening opening = OpeningFor(purpose);
-    const HANDLE handle =
-        CreateFileW(name.c_str(), opening.Access, kShared, nullptr, opening.Disposition, opening.Flags, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) return LastError();
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const int opened = Patiently({EBUSY}, [&] {
+      handle = CreateFileW(name.c_str(), opening.Access, kShared, nullptr, opening.Disposition, opening.Flags, nullptr);
+      return handle != INVALID_HANDLE_VALUE;
+    });
+    if (opened < 0) return opened;
     const int file = _open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_BINARY | _O_NOINHERIT);
     if (file < 0) CloseHandle(handle);
     return file < 0 ? -errno : file;
@@ -158,18 +196,22 @@ class WindowsFileCalls final : public FileCalls {
     return _close(file) == 0 ? 0 : -errno;
   }
   int Rename(const std::string& from, const std::string& to) override {
-    const std::wstring oldName = WideText(from);
-    const std::wstring newName = WideText(to);
-    return Patiently([&] {
+    const std::wstring oldName = SystemPath(from);
+    const std::wstring newName = SystemPath(to);
+    // ReplaceFileW would keep more of the old file, but between its steps there is none of that name.
+    return Patiently({EBUSY, EACCES}, [&] {
       return MoveFileExW(oldName.c_str(), newName.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     });
   }
   int Unlink(const std::string& path) override {
-    const std::wstring name = WideText(path);
-    return Patiently([&] { return ::DeleteFileW(name.c_str()) != 0; });
+    const std::wstring name = SystemPath(path);
+    if (IsFolder(name)) return -EISDIR;
+    return Patiently({EBUSY, EACCES}, [&] { return ::DeleteFileW(name.c_str()) != 0; });
   }
   int MakeFolder(const std::string& path) override {
-    return CreateDirectoryW(WideText(path).c_str(), nullptr) != 0 ? 0 : LastError();
+    const std::wstring name = SystemPath(path);
+    if (HasLongName(name)) return -ENAMETOOLONG;
+    return CreateDirectoryW(name.c_str(), nullptr) != 0 ? 0 : LastError();
   }
   // Of the permissions this system has only whether a file may be written, and one that may not is never replaced.
   int Mode(int file) override {
@@ -217,6 +259,30 @@ FileCalls& SystemFileCalls() {
 
 std::filesystem::path PathOf(std::string_view text) {
   return WideText(text);
+}
+
+// The iterators of the library list the current folder where a path is longer than 259 characters.
+FolderListing ListFolder(const std::filesystem::path& folder) {
+  const std::wstring name = SystemPath(folder.string());
+  if (HasLongName(name)) return {{}, std::make_error_code(std::errc::filename_too_long)};
+  if (!IsFolder(name)) {
+    const bool isFile = GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return {{}, std::make_error_code(isFile ? std::errc::not_a_directory : std::errc::no_such_file_or_directory)};
+  }
+  FolderListing listing;
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW((name + LR"(\*)").c_str(), &found);
+  if (search != INVALID_HANDLE_VALUE) {
+    do {
+      const std::filesystem::path entry = std::begin(found.cFileName);
+      std::error_code unknown;
+      if (entry != "." && entry != "..") listing.Entries.emplace_back().assign(folder / entry, unknown);
+    } while (FindNextFileW(search, &found) != 0);
+  }
+  const DWORD error = GetLastError();
+  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+  if (error != ERROR_NO_MORE_FILES) listing.Error = std::error_code(ErrorNumber(error), std::generic_category());
+  return listing;
 }
 
 bool IsQuotaError(int /*systemError*/) {

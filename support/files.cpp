@@ -232,14 +232,9 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
 }
 
 void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls) {
-  std::error_code error;
-  std::vector<std::string> stale;  // gathered first: a folder that changes while it is listed may skip names
-  std::filesystem::directory_iterator entry(folder, error);
-  for (const std::filesystem::directory_iterator end; !error && entry != end; entry.increment(error)) {
-    if (IsStaleScratch(*entry)) stale.push_back(entry->path().string());
+  for (const std::filesystem::directory_entry& entry : ListFolder(folder).Entries) {
+    if (IsStaleScratch(entry)) Uninterrupted([&] { return calls.Unlink(entry.path().string()); });
   }
-  for (const std::string& path : stale)
-    Uninterrupted([&] { return calls.Unlink(path); });
 }
 
 void DeleteFile(const std::filesystem::path& path, FileCalls& calls) {

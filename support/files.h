@@ -12,12 +12,22 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 namespace quillon {
 
 /// The path that a text names: UTF-8 where the system keeps characters, any bytes where it keeps bytes. The text of a
 /// path is its `string()` on every system.
 [[nodiscard]] std::filesystem::path PathOf(std::string_view text);
+
+/// What is in a folder, in no order and without the folder itself and the one above it, and the error that ended the
+/// listing, if one did.
+struct FolderListing {
+  std::vector<std::filesystem::directory_entry> Entries;
+  std::error_code Error;
+};
+[[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder);
 
 /// What a file or folder is opened for. No child process takes it over.
 enum class OpenFor {

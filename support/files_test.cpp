@@ -4,90 +4,23 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
-#include <fcntl.h>
-#include <fstream>
-#include <functional>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <optional>
-#include <sstream>
 #include <string>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 #include "support/run_time_error.h"
 #include "testing/closed_input.h"
 #include "testing/file_calls.h"
 #include "testing/ordinary_user.h"
-#include "testing/temporary_folder.h"
+#include "testing/saved_files.h"
 
 namespace quillon {
 namespace {
 
 namespace fs = std::filesystem;
-
-const std::string kOld = "AA (1), KK (0), \r\n";
-const std::string kNew = "AA (0.5), KK (1), QQ (1), \r\n";
-
-// Looks at files past the routines under test.
-std::string Content(const fs::path& path) {
-  std::ostringstream content;
-  content << std::ifstream(path, std::ios::binary).rdbuf();
-  return content.str();
-}
-
-void Put(const fs::path& path, std::string_view bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
-
-std::vector<std::string> Listing(const fs::path& folder) {
-  std::vector<std::string> names;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
-    names.push_back(entry.path().filename().string());
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-WatchedCalls::Fault FailOnce(int atNumber, int error) {
-  return [=](const MadeCall&, int number) { return number == atNumber ? std::optional(-error) : std::nullopt; };
-}
-
-// Replaces the file. Returns the failure, if it failed.
-std::optional<RunTimeError> FailureOfReplacing(const fs::path& path, const fs::path& scratchFolder, FileCalls& calls) {
-  try {
-    ReplaceFile(path, kNew, scratchFolder, calls);
-  } catch (const RunTimeError& error) {
-    return error;
-  }
-  return std::nullopt;
-}
-
-// A folder of the user's with a folder for scratch files beside it, both gone after the test.
-class Files : public testing::Test {
- protected:
-  void SetUp() override {
-    fs::create_directory(Folder());
-    fs::create_directory(ScratchFolder());
-  }
-
-  [[nodiscard]] fs::path Folder() const { return root_.Path() / "Ranges"; }
-  [[nodiscard]] fs::path ScratchFolder() const { return root_.Path() / "program"; }
-  [[nodiscard]] fs::path File() const { return Folder() / "Button.txt"; }
-
-  void ExpectNoScratchFiles() const {
-    EXPECT_THAT(Listing(Folder()), testing::Each(testing::Not(testing::HasSubstr("quillon"))));
-    EXPECT_THAT(Listing(ScratchFolder()), testing::IsEmpty());
-  }
-
-  [[nodiscard]] std::optional<RunTimeError> Replace(FileCalls& calls) const {
-    return FailureOfReplacing(File(), ScratchFolder(), calls);
-  }
-
- private:
-  TemporaryFolder root_;
-};
 
 using ReadingBytes = Files;
 using ReadingText = Files;
@@ -116,8 +49,6 @@ TEST_F(ReadingBytes, WhatCannotBeReadIsEmpty) {
   EXPECT_EQ(ReadAllBytes(Folder() / std::string(5000, 'x')), "") << "a name too long";
   Put(File(), "");
   EXPECT_EQ(ReadAllBytes(File()), "") << "an empty file";
-  fs::create_symlink(Folder() / "missing.txt", Folder() / "dangling.txt");
-  EXPECT_EQ(ReadAllBytes(Folder() / "dangling.txt"), "") << "a link to nothing";
 }
 
 TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
@@ -133,11 +64,6 @@ TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
   }
   fs::resize_file(File(), (std::uintmax_t{64} << 20U) + 1);
   EXPECT_EQ(TryReadAllBytes(File()), std::nullopt) << "a file beyond the limit";
-}
-
-TEST_F(ReadingBytes, NamedPipeDoesNotHoldTheProgram) {
-  ASSERT_EQ(::mkfifo(File().c_str(), 0600), 0);
-  EXPECT_EQ(ReadAllBytes(File()), "");
 }
 
 TEST_F(ReadingBytes, FileBeyondTheLimitCountsAsUnreadable) {
@@ -318,41 +244,7 @@ TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
   }
 }
 
-TEST_F(ReplacingAFile, LinkIsFollowed) {
-  const fs::path elsewhere = Folder().parent_path() / "elsewhere";
-  fs::create_directory(elsewhere);
-  Put(elsewhere / "kept.txt", kOld);
-  fs::create_symlink("../elsewhere/kept.txt", Folder() / "near.txt");
-  fs::create_symlink(Folder() / "near.txt", File());
-  ReplaceFile(File(), kNew, ScratchFolder());
-  EXPECT_TRUE(fs::is_symlink(File()));
-  EXPECT_TRUE(fs::is_symlink(Folder() / "near.txt"));
-  EXPECT_FALSE(fs::is_symlink(elsewhere / "kept.txt"));
-  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
-  EXPECT_THAT(Listing(elsewhere), testing::ElementsAre("kept.txt"));
-}
-
-TEST_F(ReplacingAFile, LinkToNothingMakesTheFileItNames) {
-  fs::create_symlink("later.txt", File());
-  ReplaceFile(File(), kNew, ScratchFolder());
-  EXPECT_TRUE(fs::is_symlink(File()));
-  EXPECT_EQ(Content(Folder() / "later.txt"), kNew);
-  ExpectNoScratchFiles();
-}
-
-TEST_F(ReplacingAFile, LinkedFileIsTriedBesideItself) {
-  const fs::path elsewhere = Folder().parent_path() / "elsewhere";
-  fs::create_directory(elsewhere);
-  fs::create_symlink(elsewhere / "kept.txt", File());
-  WatchedCalls calls;
-  EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
-  EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), elsewhere);
-  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
-}
-
 TEST_F(ReplacingAFile, WhatIsNoFileOrHasNoPlaceFailsAndStays) {
-  fs::create_symlink("circle", Folder() / "circle");
-  ASSERT_EQ(::mkfifo((Folder() / "pipe").c_str(), 0600), 0);
   struct Case {
     const char* rule;
     fs::path path;
@@ -360,8 +252,6 @@ TEST_F(ReplacingAFile, WhatIsNoFileOrHasNoPlaceFailsAndStays) {
   };
   for (const Case& c : std::vector<Case>{
            {"a folder", Folder(), RunTimeFault::kPathFileAccess},
-           {"a link to itself", Folder() / "circle", RunTimeFault::kDeviceError},
-           {"a named pipe", Folder() / "pipe", RunTimeFault::kDeviceError},
            {"a file in a missing folder", Folder() / "missing" / "Button.txt", RunTimeFault::kPathNotFound},
            {"a name too long", Folder() / std::string(5000, 'x'), RunTimeFault::kBadFileName}}) {
     const auto error = FailureOfReplacing(c.path, ScratchFolder(), SystemFileCalls());
@@ -370,8 +260,6 @@ TEST_F(ReplacingAFile, WhatIsNoFileOrHasNoPlaceFailsAndStays) {
     EXPECT_THAT(error->what(), testing::HasSubstr(c.path.filename().string())) << c.rule;
     ExpectNoScratchFiles();
   }
-  EXPECT_TRUE(fs::is_symlink(Folder() / "circle"));
-  EXPECT_TRUE(fs::is_fifo(Folder() / "pipe"));
 }
 
 // The folder would allow the rename; the file's own permissions do not.
@@ -393,7 +281,7 @@ TEST_F(ReplacingAFile, FileProtectedByTheSystemIsNotReplaced) {
 
 // Each call in turn fails once, until a run makes too few calls for it. Writes are short.
 TEST_F(ReplacingAFile, FailureOfAnyCallLeavesTheOldOrTheNewContentWhole) {
-  for (const int failure : {ENOSPC, EACCES, EIO, EINTR, EDQUOT, EROFS}) {
+  for (const int failure : {ENOSPC, EACCES, EIO, EINTR, EROFS}) {
     for (const std::optional<std::string>& old : {std::optional(kOld), std::optional<std::string>()}) {
       bool reached = true;
       for (int number = 1; reached; ++number) {
@@ -445,43 +333,6 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
   }
 }
 
-class WritingInPlace : public Files {
- protected:
-  static constexpr auto kReadOnly = static_cast<fs::perms>(0555);
-
-  void SetUp() override {
-    Files::SetUp();
-    Put(File(), kOld);
-    fs::permissions(File(), fs::perms::all);
-    fs::permissions(Folder().parent_path(), fs::perms::all);
-    fs::permissions(ScratchFolder(), fs::perms::all);
-  }
-  void TearDown() override {
-    fs::permissions(Folder(), fs::perms::all);
-    Files::TearDown();
-  }
-};
-
-TEST_F(WritingInPlace, FileMayBeWrittenInAFolderThatMayNot) {
-  fs::permissions(Folder(), kReadOnly);
-  for (const auto& content : {std::string(5000, 'x'), kNew}) {  // the second is shorter
-    const OrdinaryUser user;
-    ReplaceFile(File(), content, ScratchFolder());
-    EXPECT_EQ(Content(File()), content);
-  }
-  ExpectNoScratchFiles();
-}
-
-TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
-  fs::permissions(Folder(), kReadOnly);
-  for (const auto& [scratchFolder, content] :
-       {std::pair(Folder(), std::string(kNew)), std::pair(Folder().parent_path() / "missing", std::string("newer"))}) {
-    const OrdinaryUser user;
-    ReplaceFile(File(), content, scratchFolder);
-    EXPECT_EQ(Content(File()), content);
-  }
-}
-
 TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
   WatchedCalls calls([this](const MadeCall& entry, int) -> std::optional<int> {
     if (entry.Purpose != OpenFor::kCreating) return std::nullopt;
@@ -491,15 +342,6 @@ TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
   EXPECT_EQ(Content(File()), kOld);
-}
-
-TEST_F(WritingInPlace, NewFileIsStillRefused) {
-  fs::permissions(Folder(), kReadOnly);
-  const OrdinaryUser user;
-  const auto error = FailureOfReplacing(Folder() / "new.txt", ScratchFolder(), SystemFileCalls());
-  ASSERT_TRUE(error);
-  EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
-  ExpectNoScratchFiles();
 }
 
 TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
@@ -550,65 +392,6 @@ TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
       fs::remove(ScratchFolder() / name);
   }
   EXPECT_GE(copies, 3) << "writing, reaching the disk and closing can each fail";
-}
-
-TEST_F(ReplacingAFile, NoFileStaysOpen) {
-  const auto openFiles = [] { return Listing("/proc/self/fd").size(); };
-  Put(File(), kOld);
-  const std::size_t before = openFiles();
-  for (int number = 1; number <= 12; ++number) {
-    WatchedCalls calls(FailOnce(number, EIO));
-    static_cast<void>(Replace(calls));
-    static_cast<void>(ReadAllBytes(File(), calls));
-  }
-  EXPECT_EQ(openFiles(), before);
-}
-
-mode_t ModeOf(const fs::path& path) {
-  struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
-}
-
-// The process's umask while a test runs.
-class Umask {
- public:
-  explicit Umask(mode_t mask) : before_(::umask(mask)) {}
-  Umask(const Umask&) = delete;
-  Umask(Umask&&) = delete;
-  Umask& operator=(const Umask&) = delete;
-  Umask& operator=(Umask&&) = delete;
-  ~Umask() { ::umask(before_); }
-
- private:
-  mode_t before_;
-};
-
-TEST_F(ReplacingAFile, NewFileHasThePermissionsOfTheOldOne) {
-  const Umask umask(022);
-  for (const mode_t mode : {0600U, 0644U, 0664U, 0666U, 0777U, 0200U, 0604U}) {
-    Put(File(), kOld);
-    ASSERT_EQ(::chmod(File().c_str(), mode), 0);
-    ReplaceFile(File(), kNew, ScratchFolder());
-    EXPECT_EQ(ModeOf(File()), mode);
-    fs::remove(File());
-  }
-}
-
-TEST_F(ReplacingAFile, FileThatWasNotThereHasTheUsersUsualPermissions) {
-  const Umask umask(027);
-  ReplaceFile(File(), kNew, ScratchFolder());
-  EXPECT_EQ(ModeOf(File()), 0640U);
-}
-
-// A file that only its owner may read must not be readable by others while it is saved either.
-TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
-  const Umask umask(0);
-  Put(File(), kOld);
-  ASSERT_EQ(::chmod(File().c_str(), 0600), 0);
-  WatchedCalls calls(FailAll(Call::kSetMode, EPERM));
-  EXPECT_FALSE(Replace(calls)) << "a disk without permissions is written all the same";
-  EXPECT_EQ(Content(File()), kNew);
-  EXPECT_EQ(ModeOf(File()), 0600U);
 }
 
 TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
@@ -671,15 +454,10 @@ TEST_F(RemovingStaleScratchFiles, OnlyOldFilesWithSuchANameGo) {
     Put(Folder() / c.name, kOld);
     fs::last_write_time(Folder() / c.name, now - std::chrono::minutes(c.minutes));
   }
-  fs::create_directory(Folder() / ".quillon-5-0.tmp");
-  fs::last_write_time(Folder() / ".quillon-5-0.tmp", now - std::chrono::hours(2));
-  fs::create_symlink(".quillon-1-0", Folder() / ".quillon-6-0.tmp");
 
   RemoveStaleScratchFiles(Folder());
   for (const Case& c : kCases)
     EXPECT_EQ(fs::exists(Folder() / c.name), !c.goes) << c.name << ", " << c.minutes << " minutes";
-  EXPECT_TRUE(fs::is_directory(Folder() / ".quillon-5-0.tmp")) << "a folder";
-  EXPECT_TRUE(fs::is_symlink(Folder() / ".quillon-6-0.tmp")) << "a link";
 }
 
 TEST_F(RemovingStaleScratchFiles, NeverFails) {
@@ -713,15 +491,6 @@ TEST_F(DeletingAFile, ThatFileGoesAndNoOther) {
   EXPECT_THAT(Listing(Folder()), testing::ElementsAre("Button.txt.bak"));
 }
 
-TEST_F(DeletingAFile, OfALinkOnlyTheLinkGoes) {
-  Put(Folder() / "far.txt", kOld);
-  fs::create_symlink("far.txt", Folder() / "near.txt");
-  fs::create_symlink("nowhere", Folder() / "lost.txt");
-  DeleteFile(Folder() / "near.txt");
-  DeleteFile(Folder() / "lost.txt");
-  EXPECT_THAT(Listing(Folder()), testing::ElementsAre("far.txt"));
-}
-
 TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
   struct Case {
     fs::path path;
@@ -730,7 +499,7 @@ TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
   };
   for (const Case& c :
        std::vector<Case>{{"Button.txt", RunTimeFault::kFileNotFound, "Button.txt: No such file or directory"},
-                         {"K\xE4se.txt", RunTimeFault::kFileNotFound, "Käse.txt: No such file or directory"},
+                         {PathOf("Käse.txt"), RunTimeFault::kFileNotFound, "Käse.txt: No such file or directory"},
                          {"missing/Button.txt", RunTimeFault::kPathNotFound, "Button.txt"},
                          {"", RunTimeFault::kPathFileAccess, "Ranges"}}) {
     const auto error = FailureOfDeleting(Folder() / c.path);

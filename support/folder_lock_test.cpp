@@ -4,12 +4,8 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 #include "testing/closed_input.h"
 #include "testing/file_calls.h"
@@ -59,12 +55,6 @@ TEST_F(LockingAFolder, NeedsNoStandardInput) {
   EXPECT_TRUE(lock.Held());
 }
 
-TEST_F(LockingAFolder, GivesBackTheNumberOfAMissingStandardInput) {
-  const ClosedInput closed;
-  { const FolderLock lock(Folder()); }
-  EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1);
-}
-
 TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {
   {
     const FolderLock first(Folder());
@@ -72,19 +62,6 @@ TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {
   }
   const FolderLock second(Folder());
   EXPECT_TRUE(second.Held());
-}
-
-TEST_F(LockingAFolder, IsOverWhenItsProcessDies) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    const FolderLock lock(Folder());
-    ::_exit(lock.Held() ? 0 : 1);
-  }
-  int status = -1;
-  ASSERT_EQ(::waitpid(child, &status, 0), child);
-  EXPECT_EQ(status, 0);
-  const FolderLock lock(Folder());
-  EXPECT_TRUE(lock.Held());
 }
 
 TEST_F(LockingAFolder, WaitForOneWhoHangsHasAnEnd) {

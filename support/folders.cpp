@@ -60,17 +60,16 @@ void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
 }
 
 std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
+  const FolderListing listing = ListFolder(folder);
+  if (listing.Error) FailToList(folder, listing.Error);
   std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator file(folder, error);
-  for (const std::filesystem::directory_iterator end; !error && file != end; file.increment(error)) {
+  for (const std::filesystem::directory_entry& file : listing.Entries) {
     // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing file.
     std::error_code unknown;
-    if (file->is_directory(unknown)) continue;
-    std::string name = TextOfFileName(file->path().filename().string());
+    if (file.is_directory(unknown)) continue;
+    std::string name = TextOfFileName(file.path().filename().string());
     if (!IsScratchName(name)) names.push_back(std::move(name));
   }
-  if (error) FailToList(folder, error);
   return names;
 }
 

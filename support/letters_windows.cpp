@@ -20,6 +20,8 @@ std::wstring Units(char32_t character) {
 char32_t Mapped(char32_t character, DWORD mapping) {
   const std::wstring from = Units(character);
   std::array<wchar_t, 2> to{};
+  // By Unicode's tables, not by those that the names of files are compared with.
+  mapping |= LCMAP_LINGUISTIC_CASING;
   const int size = LCMapStringEx(LOCALE_NAME_INVARIANT, mapping, from.data(), static_cast<int>(from.size()), to.data(),
                                  static_cast<int>(to.size()), nullptr, nullptr, 0);
   if (size != static_cast<int>(from.size())) return character;

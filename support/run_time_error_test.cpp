@@ -58,14 +58,21 @@ TEST(RunTimeFaultOf, EverySystemErrorIsAFault) {
     RunTimeFault fault;
   };
   const std::vector<Case> cases = {
-      {ENOENT, RunTimeFault::kFileNotFound},    {ENOSPC, RunTimeFault::kDiskFull},
-      {EDQUOT, RunTimeFault::kDiskFull},        {EACCES, RunTimeFault::kPermissionDenied},
-      {EPERM, RunTimeFault::kPermissionDenied}, {ENAMETOOLONG, RunTimeFault::kBadFileName},
-      {EINVAL, RunTimeFault::kBadFileName},     {EILSEQ, RunTimeFault::kBadFileName},
-      {ENOTDIR, RunTimeFault::kPathNotFound},   {EISDIR, RunTimeFault::kPathFileAccess},
-      {EROFS, RunTimeFault::kPathFileAccess},   {EBUSY, RunTimeFault::kPathFileAccess},
-      {EIO, RunTimeFault::kDeviceError},        {ELOOP, RunTimeFault::kDeviceError},
-      {EEXIST, RunTimeFault::kPathFileAccess},  {0, RunTimeFault::kDeviceError},
+      {ENOENT, RunTimeFault::kFileNotFound},
+      {ENOSPC, RunTimeFault::kDiskFull},
+      {EACCES, RunTimeFault::kPermissionDenied},
+      {EPERM, RunTimeFault::kPermissionDenied},
+      {ENAMETOOLONG, RunTimeFault::kBadFileName},
+      {EINVAL, RunTimeFault::kBadFileName},
+      {EILSEQ, RunTimeFault::kBadFileName},
+      {ENOTDIR, RunTimeFault::kPathNotFound},
+      {EISDIR, RunTimeFault::kPathFileAccess},
+      {EROFS, RunTimeFault::kPathFileAccess},
+      {EBUSY, RunTimeFault::kPathFileAccess},
+      {EIO, RunTimeFault::kDeviceError},
+      {ELOOP, RunTimeFault::kDeviceError},
+      {EEXIST, RunTimeFault::kPathFileAccess},
+      {0, RunTimeFault::kDeviceError},
       {-1, RunTimeFault::kDeviceError},
   };
   for (const Case& c : cases)

@@ -35,8 +35,11 @@ inline constexpr int kInputStream = 0;
 inline constexpr int kOutputStream = 1;
 inline constexpr int kErrorStream = 2;
 
-/// Whether an open file of that number is a terminal.
+/// Whether an open file of that number is a terminal, one that takes control sequences where the system has others too.
 [[nodiscard]] bool IsTerminal(int file);
+
+/// Whether every terminal has 24-bit colours. Where the system does not say so, a terminal's environment may.
+[[nodiscard]] bool TerminalsHaveColors();
 
 /// Makes the standard streams fit for use. What goes through them goes unchanged, and a terminal takes UTF-8 and
 /// colours. One that is closed gets a file that can neither be read nor written, so that using it fails as before:

@@ -36,6 +36,10 @@ bool IsTerminal(int file) {
   return isatty(file) != 0;
 }
 
+bool TerminalsHaveColors() {
+  return false;
+}
+
 std::vector<std::string> ProcessArguments(int count, char** arguments) {
   return {arguments + 1, arguments + count};
 }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <utility>
@@ -51,7 +52,12 @@ std::string ProcessVariable(const char* name) {
 // The C library takes "NUL" for a terminal too.
 bool IsTerminal(int file) {
   DWORD mode = 0;
-  return GetConsoleMode(HandleOf(file), &mode) != 0;
+  return GetConsoleMode(HandleOf(file), &mode) != 0 && (mode & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+// A console knows them if it knows control sequences at all.
+bool TerminalsHaveColors() {
+  return true;
 }
 
 std::vector<std::string> ProcessArguments(int /*count*/, char** /*arguments*/) {
@@ -76,7 +82,10 @@ void PrepareStandardStreams() {
     if (stream != kInputStream && GetConsoleMode(console, &mode) != 0)
       SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
   }
-  SetConsoleOutputCP(CP_UTF8);
+  // The console outlives the program, and another one's output should not change for it.
+  static const UINT before = GetConsoleOutputCP();
+  if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != 0)
+    static_cast<void>(std::atexit([] { SetConsoleOutputCP(before); }));
 }
 
 }  // namespace quillon

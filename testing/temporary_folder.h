@@ -2,12 +2,13 @@
 
 // A folder under the system's folder for temporary files, gone with all that is in it when the object goes.
 
-#include <cerrno>
-#include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <string_view>
 #include <system_error>
+
+#include "support/files.h"
 
 namespace quillon {
 
@@ -15,9 +16,13 @@ class TemporaryFolder {
  public:
   /// A new folder whose name starts with `name`.
   explicit TemporaryFolder(std::string_view name = "quillon-test") {
-    std::string pattern = (std::filesystem::temp_directory_path() / name).string() + "-XXXXXX";
-    if (::mkdtemp(pattern.data()) == nullptr) throw std::system_error(errno, std::generic_category(), pattern);
-    path_ = pattern;
+    const std::filesystem::path start = std::filesystem::temp_directory_path() / PathOf(name);
+    std::random_device random;
+    do {
+      path_ = start;
+      path_ += "-" + std::to_string(random());
+    } while (!std::filesystem::create_directory(path_));
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder(TemporaryFolder&&) = delete;

@@ -19,7 +19,7 @@ class TemporaryProgram {
 
   [[nodiscard]] const ProgramFolder& Folder() const { return folder_; }
   [[nodiscard]] std::filesystem::path RangeFile(std::string_view fileName) const {
-    return RangeFolderPath(folder_) / fileName;
+    return RangeFolderPath(folder_) / PathOf(fileName);
   }
 
   /// Puts a file into the range folder, byte for byte.

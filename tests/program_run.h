@@ -1,15 +1,16 @@
 #pragma once
 
 // For journeys: starts a real program in a process of its own, waits for its end, and keeps what it said. Each of its
-// standard streams can be kept, led to a terminal, to a disk that is full, or not be there at all.
+// standard streams can be kept, led to a terminal, to a disk that is full, or not be there at all. On Windows streams
+// are kept or not there, and no program is held up.
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 namespace quillon {
@@ -51,7 +52,8 @@ class RunningProgram {
   RunningProgram& operator=(RunningProgram&&) = delete;
   ~RunningProgram();
 
-  [[nodiscard]] pid_t Id() const { return process_; }
+  /// Its number, for signals.
+  [[nodiscard]] int Id() const;
 
   /// What it has said so far.
   [[nodiscard]] std::string Output() const;
@@ -69,7 +71,7 @@ class RunningProgram {
   struct Streams;
 
   std::unique_ptr<Streams> streams_;
-  pid_t process_ = 0;
+  std::intptr_t process_ = 0;
   std::optional<int> status_;
 };
 

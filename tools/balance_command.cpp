@@ -7,6 +7,7 @@
 
 #include "ranges/range_notation.h"
 #include "study/balance_texts.h"
+#include "support/file_names.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/commands.h"
@@ -96,7 +97,7 @@ bool MaySaveBoth(const Request& request, CommandInputs& inputs, const Surroundin
   const auto maySave = [&](const std::optional<std::string>& name) {
     return !name || MaySave(inputs, *name, request.replace, surroundings);
   };
-  if (!request.saveShove || request.saveShove != request.saveCall)
+  if (!request.saveShove || !request.saveCall || !IsSameName(*request.saveShove, *request.saveCall))
     return maySave(request.saveShove) && maySave(request.saveCall);
   inputs.Refuse("--save-shove and --save-call need different names");
   return false;

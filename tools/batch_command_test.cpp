@@ -3,7 +3,6 @@
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <future>
@@ -15,7 +14,6 @@
 #include <streambuf>
 #include <string>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 #include "study/batch.h"
@@ -23,7 +21,6 @@
 #include "testing/split_text.h"
 #include "tools/bounded_queue.h"
 #include "tools/commands.h"
-#include "tools/interrupt.h"
 
 namespace quillon {
 namespace {
@@ -160,53 +157,6 @@ TEST_F(BatchCommand, FailsOverWhatCannotBeRead) {
   EXPECT_THAT(outcome.Errors, StartsWith("Run-time error '"));
 }
 
-// SIGINT as a program finds it: SIG_DFL in the foreground, SIG_IGN where a shell starts it in the background.
-class StartedWith {
- public:
-  explicit StartedWith(void (*interrupt)(int)) : before_(std::signal(SIGINT, interrupt)) {}
-  StartedWith(const StartedWith&) = delete;
-  StartedWith(StartedWith&&) = delete;
-  StartedWith& operator=(const StartedWith&) = delete;
-  StartedWith& operator=(StartedWith&&) = delete;
-  ~StartedWith() { std::signal(SIGINT, before_); }
-
- private:
-  void (*before_)(int);
-};
-
-// Lines without end, with Ctrl+C in the middle of one.
-class EndlessLines final : public std::streambuf {
- public:
-  explicit EndlessLines(int interruptedAt) : interruptedAt_(interruptedAt) {}
-
-  [[nodiscard]] int Begun() const { return begun_; }
-
- protected:
-  int_type underflow() override {
-    if (begun_ == interruptedAt_) static_cast<void>(std::raise(SIGINT));
-    line_ = EquityLine(begun_++);
-    setg(line_.data(), line_.data(), line_.data() + line_.size());
-    return traits_type::to_int_type(line_.front());
-  }
-
- private:
-  int interruptedAt_;
-  std::atomic<int> begun_ = 0;
-  std::string line_;
-};
-
-TEST_F(BatchCommand, EndsBetweenTwoLinesOnAnInterrupt) {
-  const StartedWith foreground(SIG_DFL);
-  EndlessLines lines(100);
-  std::ostringstream output;
-  EXPECT_EQ(Run({"batch", "--jobs", "2", "--fields", "best"}, lines, output), kInterrupted);
-  EXPECT_EQ(lines.Begun(), 101);
-  const auto answers = Lines(output.str());
-  ASSERT_EQ(answers.size(), 100U) << "what was read before is answered, the line that was cut off is not";
-  EXPECT_EQ(answers.back(), R"({"id":99,"best":"22"})");
-  EXPECT_THAT(output.str(), EndsWith("\n"));
-}
-
 // However fast the input comes, no more of it is taken than the answers that have been written make room for.
 class BlockedOutput final : public std::stringbuf {
  public:
@@ -251,32 +201,11 @@ TEST_F(BatchCommand, ReadsNoFartherAheadThanItsWindow) {
   EXPECT_EQ(lines.begun, 400);
 }
 
-// The reader of lines waits for room then, and must not go on when there is some.
-TEST_F(BatchCommand, ReadsNothingMoreOnceInterruptedWhileItsOutputIsBlocked) {
-  const StartedWith foreground(SIG_DFL);
-  EndlessLines lines(-1);
-  std::promise<void> release;
-  BlockedOutput blocked(release.get_future().share());
-  std::ostream output(&blocked);
-  auto run = std::async(std::launch::async, [&] {
-    return Run({"batch", "--jobs", "2", "--fields", "best"}, lines, output);
-  });
-  EXPECT_EQ(run.wait_for(std::chrono::milliseconds(500)), std::future_status::timeout);
-  const int begun = lines.Begun();
-  ASSERT_GT(begun, 0);
-  static_cast<void>(std::raise(SIGINT));
-  release.set_value();
-  EXPECT_EQ(run.get(), kInterrupted);
-  EXPECT_EQ(lines.Begun(), begun);
-  EXPECT_EQ(Lines(blocked.str()).size(), static_cast<std::size_t>(begun)) << "what was read is answered";
-  EXPECT_THAT(blocked.str(), EndsWith("\n"));
-}
-
 TEST_F(BatchCommand, EndsWhereItsOutputFails) {
   class FullDisk final : public std::streambuf {};
   FullDisk full;
   std::ostream output(&full);
-  EndlessLines lines(-1);
+  std::stringbuf lines(EquityLines(3000));
   EXPECT_EQ(Run({"batch"}, lines, output), kDone);
   EXPECT_FALSE(output) << "for the program to tell";
 }
@@ -298,35 +227,6 @@ TEST(BoundedQueue, HandsEverythingOverInOrder) {
   std::iota(expected.begin(), expected.end(), 0);
   EXPECT_EQ(taken, expected);
   EXPECT_TRUE(queue.IsEmpty());
-}
-
-TEST(InterruptWatch, LeavesAnIgnoredSignalIgnored) {
-  const StartedWith background(SIG_IGN);
-  const InterruptWatch watch;
-  static_cast<void>(std::raise(SIGINT));
-  EXPECT_FALSE(InterruptWatch::Came());
-}
-
-TEST(DescriptorInput, ReadsToTheEndOrToTheInterrupt) {
-  std::array<int, 2> ends{};
-  ASSERT_EQ(pipe(ends.data()), 0);
-  ASSERT_EQ(write(ends[1], "one\ntwo", 7), 7);
-  DescriptorInput buffer(ends[0], "pipe");
-  std::istream input(&buffer);
-  std::string line;
-  EXPECT_TRUE(std::getline(input, line));
-  EXPECT_EQ(line, "one");
-  const StartedWith foreground(SIG_DFL);
-  const InterruptWatch watch;
-  std::jthread user([] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    kill(getpid(), SIGINT);
-  });
-  std::getline(input, line);  // would wait for ever: the pipe is open and empty
-  EXPECT_EQ(line, "two");
-  EXPECT_TRUE(InterruptWatch::Came());
-  close(ends[1]);
-  close(ends[0]);
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ TEST_P(EachCommand, TakesTheFolderThatIsNamed) {
   const CompanionProgram program;
   const CompanionOutcome own = program.Run(*GetParam().arguments);
   const CompanionOutcome named =
-      RunCompanionIn(other.Folder().Path, With(*GetParam().arguments, {"--folder", program.Folder().Path}));
+      RunCompanionIn(other.Folder().Path, With(*GetParam().arguments, {"--folder", program.Folder().Path.string()}));
   EXPECT_EQ(own.Status, kDone);
   EXPECT_EQ(named.Status, kDone);
   EXPECT_EQ(named.Output, own.Output);

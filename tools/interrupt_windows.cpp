@@ -13,10 +13,15 @@ std::atomic<bool> watching = false;
 std::atomic<bool> came = false;
 std::atomic<HANDLE> readFrom = nullptr;
 
-// Runs on a thread of its own. A read that waits ends by itself where it is of a console, and here where it is not.
+// Runs on a thread of its own. A read that waits ends by itself where it is of a console, and here where it is not: it
+// may be just about to wait, so it is ended again and again until it has returned.
 BOOL WINAPI NoteInterrupt(DWORD event) {
+  constexpr DWORD kPauseMilliseconds = 10;
   if (event != CTRL_C_EVENT || !watching || came.exchange(true)) return FALSE;
-  if (const HANDLE waiting = readFrom) CancelIoEx(waiting, nullptr);
+  for (HANDLE waiting = readFrom; waiting != nullptr; waiting = readFrom) {
+    CancelIoEx(waiting, nullptr);
+    Sleep(kPauseMilliseconds);
+  }
   return TRUE;
 }
 

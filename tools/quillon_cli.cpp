@@ -24,7 +24,7 @@ int Run(const std::vector<std::string>& arguments) {
       std::cerr,
       [] { return quillon::ProgramFolderPath(quillon::ExecutableFolder(), quillon::ProcessVariable); },
       quillon::TerminalOf(quillon::IsTerminal(quillon::kOutputStream), quillon::IsTerminal(quillon::kErrorStream),
-                          quillon::ProcessVariable),
+                          quillon::TerminalsHaveColors(), quillon::ProcessVariable),
       std::chrono::steady_clock::now,
       &input};
   const int status = quillon::RunCompanion(arguments, surroundings);

@@ -4,10 +4,12 @@
 
 namespace quillon {
 
-Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, const EnvironmentVariable& variable) {
+Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, bool terminalsHaveColors,
+                    const EnvironmentVariable& variable) {
   const bool dumb = variable("TERM") == "dumb";
   const std::string promise = variable("COLORTERM");
-  const bool colors = (promise == "truecolor" || promise == "24bit") && variable("NO_COLOR").empty();
+  const bool promised = terminalsHaveColors || promise == "truecolor" || promise == "24bit";
+  const bool colors = promised && variable("NO_COLOR").empty();
   return {.ShowProgress = errorsIsTerminal && !dumb, .ShowColors = outputIsTerminal && !dumb && colors};
 }
 

@@ -15,6 +15,7 @@ struct Case {
   std::map<std::string, std::string> variables;
   bool progress;
   bool colors;
+  bool allHaveColors = false;
 };
 
 TEST(Terminal, GetsWhatSuitsIt) {
@@ -30,13 +31,16 @@ TEST(Terminal, GetsWhatSuitsIt) {
       {"standard output to a file", false, true, {{"COLORTERM", "truecolor"}}, true, false},
       {"standard error to a file", true, false, {{"COLORTERM", "truecolor"}}, false, true},
       {"no terminal at all", false, false, {{"COLORTERM", "truecolor"}}, false, false},
+      {"one of many that all have colour", true, true, {}, true, true, true},
+      {"no colour wanted of such", true, true, {{"NO_COLOR", "1"}}, true, false, true},
+      {"a file beside such", false, false, {}, false, false, true},
   };
   for (const Case& c : cases) {
     const auto variable = [&c](const char* name) {
       const auto found = c.variables.find(name);
       return found == c.variables.end() ? std::string() : found->second;
     };
-    const Terminal terminal = TerminalOf(c.output, c.errors, variable);
+    const Terminal terminal = TerminalOf(c.output, c.errors, c.allHaveColors, variable);
     EXPECT_EQ(terminal.ShowProgress, c.progress) << c.rule;
     EXPECT_EQ(terminal.ShowColors, c.colors) << c.rule;
   }

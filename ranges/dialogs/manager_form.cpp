@@ -116,7 +116,7 @@ void ManagerForm::ClickRename() {
   const std::string name = list_.CurrentText();
   const std::string answer = AskName(kAskRename, name);
   // Here a cancelled box is not silent: its empty answer is refused like any other.
-  if (!MayTakeName(answer)) return;
+  if (!ValidateNewName(around_.Folder, name, answer, around_.Messages)) return;
 
   RenameRange(around_.Folder, name, answer, RangeTextFromGrid(grid_.Colors()));
   RefreshAndSelect(answer);

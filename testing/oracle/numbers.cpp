@@ -1,11 +1,8 @@
 #include "testing/oracle/numbers.h"
 
 #include <algorithm>
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
 #include <iterator>
-#include <limits>
 #include <locale>
 #include <set>
 #include <sstream>
@@ -26,11 +23,14 @@ std::string Printed(double value, Form form, std::size_t digits) {
   return stream.str();
 }
 
-// Of a text that is nothing but a number. The C library's parser, whatever locale a window has set.
+// Of a text that is nothing but a number; the largest there is of one beyond it. The library's parser, whatever locale
+// a window has set.
 double ValueOf(const std::string& number) {
-  static const locale_t plainLocale = ::newlocale(LC_ALL_MASK, "C", nullptr);
-  constexpr double kLargest = std::numeric_limits<double>::max();
-  return std::clamp(::strtod_l(number.c_str(), nullptr, plainLocale), -kLargest, kLargest);
+  std::istringstream stream(number);
+  stream.imbue(std::locale::classic());
+  double value = 0;
+  stream >> value;
+  return value;
 }
 
 std::string WithoutTrailingZeros(std::string number) {

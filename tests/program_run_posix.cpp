@@ -1,5 +1,3 @@
-#include "tests/program_run.h"
-
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -16,6 +14,8 @@
 #include <termios.h>
 #include <unistd.h>
 #include <utility>
+
+#include "tests/program_run.h"
 
 namespace quillon {
 namespace {
@@ -250,8 +250,12 @@ RunningProgram::RunningProgram(const ProgramRun& run) : streams_(std::make_uniqu
 
 RunningProgram::~RunningProgram() {
   if (status_) return;
-  kill(process_, SIGKILL);
-  waitpid(process_, nullptr, 0);
+  kill(Id(), SIGKILL);
+  waitpid(Id(), nullptr, 0);
+}
+
+int RunningProgram::Id() const {
+  return static_cast<int>(process_);
 }
 
 std::string RunningProgram::Output() const {
@@ -265,7 +269,7 @@ std::string RunningProgram::Errors() const {
 std::optional<int> RunningProgram::Status() {
   if (status_) return status_;
   int status = 0;
-  const pid_t ended = waitpid(process_, &status, WNOHANG);
+  const pid_t ended = waitpid(Id(), &status, WNOHANG);
   Demand(ended >= 0, "waitpid");
   if (ended == process_) status_ = ExitStatus(status);
   return status_;
@@ -273,15 +277,15 @@ std::optional<int> RunningProgram::Status() {
 
 void RunningProgram::HoldUp() {
   if (Status()) return;
-  Demand(kill(process_, SIGSTOP) == 0, "kill");
+  Demand(kill(Id(), SIGSTOP) == 0, "kill");
   int status = 0;
-  Demand(waitpid(process_, &status, WUNTRACED) == process_, "waitpid");
+  Demand(waitpid(Id(), &status, WUNTRACED) == process_, "waitpid");
   if (!WIFSTOPPED(status)) status_ = ExitStatus(status);
 }
 
 void RunningProgram::LetGoOn() {
   if (status_) return;
-  Demand(kill(process_, SIGCONT) == 0, "kill");
+  Demand(kill(Id(), SIGCONT) == 0, "kill");
 }
 
 }  // namespace quillon

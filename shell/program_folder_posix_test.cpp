@@ -1,5 +1,3 @@
-#include "shell/program_folder.h"
-
 #include <array>
 #include <cerrno>
 #include <filesystem>
@@ -12,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "shell/program_folder.h"
 #include "support/files.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"

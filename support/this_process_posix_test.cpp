@@ -1,8 +1,8 @@
-#include "support/this_process.h"
-
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <thread>
+
+#include "support/this_process.h"
 
 namespace quillon {
 namespace {

@@ -1,0 +1,114 @@
+#include <algorithm>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <windows.h>
+
+// Of calls of that name for each kind of text, of which these are none.
+#undef DeleteFile
+#undef ReplaceFile
+
+#include "support/files.h"
+#include "support/folders.h"
+#include "support/run_time_error.h"
+#include "testing/saved_files.h"
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileOpenElsewhere : public Files {
+ protected:
+  void SetUp() override {
+    Files::SetUp();
+    Put(File(), kOld);
+  }
+  // As another program opens it, which lets others do what `shared` says.
+  void OpenWith(DWORD shared) {
+    handle_ = CreateFileW(File().c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(handle_, INVALID_HANDLE_VALUE);
+  }
+  void TearDown() override {
+    CloseHandle(handle_);
+    Files::TearDown();
+  }
+
+ private:
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+TEST_F(FileOpenElsewhere, IsReplacedWhateverOfThatTheOtherAllows) {
+  OpenWith(FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+  EXPECT_FALSE(Replace(SystemFileCalls()));
+  EXPECT_EQ(Content(File()), kNew);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(FileOpenElsewhere, IsWrittenInPlaceWhereItMayNotBeReplaced) {
+  OpenWith(FILE_SHARE_READ | FILE_SHARE_WRITE);
+  EXPECT_FALSE(Replace(SystemFileCalls()));
+  EXPECT_EQ(Content(File()), kNew);
+  ExpectNoScratchFiles();
+}
+
+TEST_F(FileOpenElsewhere, StaysWhereTheOtherAllowsNoWriting) {
+  OpenWith(FILE_SHARE_READ);
+  const auto error = Replace(SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPathFileAccess);
+  EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
+  EXPECT_EQ(Content(File()), kOld);
+  ExpectNoScratchFiles();
+}
+
+using FilesOfWindows = Files;
+
+TEST_F(FilesOfWindows, ThatAreReadOnlyStay) {
+  Put(File(), kOld);
+  ASSERT_NE(SetFileAttributesW(File().c_str(), FILE_ATTRIBUTE_READONLY), 0);
+  const auto error = Replace(SystemFileCalls());
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
+  EXPECT_EQ(Content(File()), kOld);
+  ExpectNoScratchFiles();
+  ASSERT_NE(SetFileAttributesW(File().c_str(), FILE_ATTRIBUTE_NORMAL), 0);
+}
+
+// With the names of devices among them, which a path in the usual form would lead to.
+TEST_F(FilesOfWindows, HaveTheirNamesHoweverLongTheirPathIs) {
+  fs::path folder = Folder();
+  for (int level = 0; level < 5; ++level) {
+    folder /= PathOf(std::string(100, static_cast<char>('a' + level)) + " ä 漢");
+    ASSERT_LT(SystemFileCalls().MakeFolder(folder.string()), 1) << level;
+    EXPECT_TRUE(FolderExists(folder)) << level;
+  }
+  for (const char* name : {"Größe.txt", "CON.txt", "nul.json"}) {
+    ReplaceFile(folder / PathOf(name), kOld, ScratchFolder());
+    EXPECT_EQ(ReadAllBytes(folder / PathOf(name)), kOld) << name;
+    ReplaceFile(folder / PathOf(name), kNew, ScratchFolder());
+    EXPECT_EQ(ReadAllBytes(folder / PathOf(name)), kNew) << name;
+  }
+  EXPECT_THAT(FileNamesIn(folder), testing::UnorderedElementsAre("Größe.txt", "CON.txt", "nul.json"));
+  for (const char* name : {"Größe.txt", "CON.txt", "nul.json"})
+    DeleteFile(folder / PathOf(name));
+  EXPECT_THAT(FileNamesIn(folder), testing::IsEmpty());
+}
+
+TEST_F(FilesOfWindows, AreReachedByEveryFormOfAPath) {
+  Put(File(), kOld);
+  const std::string path = File().string();
+  const fs::path before = fs::current_path();
+  fs::current_path(Folder());
+  std::string slashes = path;
+  std::replace(slashes.begin(), slashes.end(), '\\', '/');
+  const std::string inner = (Folder() / "a" / ".." / "." / "Button.txt").string();
+  for (const std::string& form : {path, slashes, inner, R"(\\?\)" + path, path.substr(2), std::string("Button.txt"),
+                                  std::string("../Ranges/button.TXT")})
+    EXPECT_EQ(ReadAllBytes(PathOf(form)), kOld) << form;
+  fs::current_path(before);
+}
+
+}  // namespace
+}  // namespace quillon

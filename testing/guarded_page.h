@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace quillon {
+
+/// Memory of x's between two pages that cannot be read.
+class GuardedPage {
+ public:
+  GuardedPage();
+  GuardedPage(const GuardedPage&) = delete;
+  GuardedPage(GuardedPage&&) = delete;
+  GuardedPage& operator=(const GuardedPage&) = delete;
+  GuardedPage& operator=(GuardedPage&&) = delete;
+  ~GuardedPage();
+
+  [[nodiscard]] std::string_view FirstBytes(std::size_t count) const { return {start_, count}; }
+  [[nodiscard]] std::string_view LastBytes(std::size_t count) const { return {start_ + size_ - count, count}; }
+
+ private:
+  std::size_t size_;
+  char* start_;
+};
+
+}  // namespace quillon

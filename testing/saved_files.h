@@ -1,0 +1,102 @@
+#pragma once
+
+// Files as a test finds them on the disk, past the routines that it tests.
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/files.h"
+#include "support/run_time_error.h"
+#include "testing/file_calls.h"
+#include "testing/temporary_folder.h"
+
+namespace quillon {
+
+inline const std::string kOld = "AA (1), KK (0), \r\n";
+inline const std::string kNew = "AA (0.5), KK (1), QQ (1), \r\n";
+
+inline std::string Content(const std::filesystem::path& path) {
+  std::ostringstream content;
+  content << std::ifstream(path, std::ios::binary).rdbuf();
+  return content.str();
+}
+
+inline void Put(const std::filesystem::path& path, std::string_view bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+inline std::vector<std::string> Listing(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+inline WatchedCalls::Fault FailOnce(int atNumber, int error) {
+  return [=](const MadeCall&, int number) { return number == atNumber ? std::optional(-error) : std::nullopt; };
+}
+
+// Replaces the file. Returns the failure, if it failed.
+inline std::optional<RunTimeError> FailureOfReplacing(const std::filesystem::path& path,
+                                                      const std::filesystem::path& scratchFolder, FileCalls& calls) {
+  try {
+    ReplaceFile(path, kNew, scratchFolder, calls);
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return std::nullopt;
+}
+
+// A folder of the user's with a folder for scratch files beside it, both gone after the test.
+class Files : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::filesystem::create_directory(Folder());
+    std::filesystem::create_directory(ScratchFolder());
+  }
+
+  [[nodiscard]] std::filesystem::path Folder() const { return root_.Path() / "Ranges"; }
+  [[nodiscard]] std::filesystem::path ScratchFolder() const { return root_.Path() / "program"; }
+  [[nodiscard]] std::filesystem::path File() const { return Folder() / "Button.txt"; }
+
+  void ExpectNoScratchFiles() const {
+    EXPECT_THAT(Listing(Folder()), testing::Each(testing::Not(testing::HasSubstr("quillon"))));
+    EXPECT_THAT(Listing(ScratchFolder()), testing::IsEmpty());
+  }
+
+  [[nodiscard]] std::optional<RunTimeError> Replace(FileCalls& calls) const {
+    return FailureOfReplacing(File(), ScratchFolder(), calls);
+  }
+
+ private:
+  TemporaryFolder root_;
+};
+
+// One whose file may be written, whatever the folders allow.
+class WritingInPlace : public Files {
+ protected:
+  static constexpr auto kReadOnly = static_cast<std::filesystem::perms>(0555);
+
+  void SetUp() override {
+    Files::SetUp();
+    Put(File(), kOld);
+    std::filesystem::permissions(File(), std::filesystem::perms::all);
+    std::filesystem::permissions(Folder().parent_path(), std::filesystem::perms::all);
+    std::filesystem::permissions(ScratchFolder(), std::filesystem::perms::all);
+  }
+  void TearDown() override {
+    std::filesystem::permissions(Folder(), std::filesystem::perms::all);
+    Files::TearDown();
+  }
+};
+
+}  // namespace quillon
