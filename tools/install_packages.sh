@@ -35,7 +35,7 @@ check+=(desktop-file-utils appstream)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
 # Programs for Windows, and what runs them.
-windows=(g++-mingw-w64-x86-64-posix wine wine64)
+windows=(g++-mingw-w64-x86-64-posix googletest python3 wine wine64)
 # The zip: Qt from its sources, the icon, the archive.
 windows+=(dpkg-dev librsvg2-bin icoutils zip)
 newer=(clang-16)
