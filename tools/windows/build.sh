@@ -11,7 +11,7 @@ SOURCE_DATE_EPOCH=$(tools/release_time.sh)
 export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC # a zip's times are local
 
 qt=$(tools/windows/qt.sh)
-cmake --preset windows-package -DQUILLON_WINDOWS_QT="$qt"
+cmake --fresh --preset windows-package -DQUILLON_WINDOWS_QT="$qt"
 cmake --build --preset windows-package --target quillon quillon-cli
 
 version=$(sed -n 's/^project(Quillon VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
