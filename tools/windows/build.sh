@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes what players on Windows unpack: dist/Quillon-VERSION-windows-x86_64.zip. Two makings of the same sources are the
-# same, byte for byte. The first one makes Qt as well (tools/windows/qt.sh).
+# same, byte for byte, as long as Qt is: the first one makes it (tools/windows/qt.sh), with its time in the table of MIME
+# types.
 #
 #   tools/windows/build.sh
 set -euo pipefail
