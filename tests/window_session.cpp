@@ -24,6 +24,8 @@ using std::chrono::steady_clock;
 constexpr auto kLimit = std::chrono::seconds(60);
 constexpr auto kBetweenQuestions = milliseconds(10);
 constexpr auto kStill = milliseconds(150);
+// What others have copied reaches it after a while, and would replace what its program has copied meanwhile.
+constexpr auto kWineLooksAtTheClipboard = milliseconds(1000);
 
 // The file in which Xvfb keeps screen 0, in the format of xwd: a header of numbers, highest byte first, the table of
 // colours, and the pixels, line by line.
@@ -70,6 +72,27 @@ void PassOn(std::vector<std::string>& environment, const char* name) {
   if (value != nullptr) environment.push_back(std::string(name) + "=" + value);
 }
 
+// The folder with the program for Windows, if that is the one to be used.
+std::optional<fs::path> WindowsFolder() {
+  const char* const folder =
+      std::getenv("QUILLON_WINDOWS_FOLDER");  // NOLINT(concurrency-mt-unsafe): there is one thread
+  return folder == nullptr ? std::nullopt : std::optional<fs::path>(folder);
+}
+
+// Puts the program into the folder, with all that it needs and nothing else.
+void PutProgram(const fs::path& folder) {
+  if (!WindowsFolder()) {
+    fs::copy_file(QUILLON_PROGRAM, folder / "quillon");
+    return;
+  }
+  for (const fs::directory_entry& entry : fs::directory_iterator(*WindowsFolder())) {
+    const std::string end = entry.path().extension().string();
+    if (end == ".exe" || end == ".dll") fs::copy_file(entry.path(), folder / entry.path().filename());
+  }
+  fs::copy(*WindowsFolder() / "platforms", folder / "platforms");
+  fs::copy_file(*WindowsFolder() / "qt.conf", folder / "qt.conf");
+}
+
 std::vector<std::string> Lines(const std::string& text) {
   std::vector<std::string> lines;
   std::istringstream stream(text);
@@ -89,8 +112,12 @@ QPoint UpperLeft(const std::string& listing, const std::string& measured) {
   return {NumberBehind(listing, measured + " upper-left X:"), NumberBehind(listing, measured + " upper-left Y:")};
 }
 
+// Wine tells a program of a mouse that comes in from outside, but not of where it is until it moves on.
 std::vector<std::string> To(QPoint point) {
-  return {"mousemove", std::to_string(point.x()), std::to_string(point.y())};
+  const std::string y = std::to_string(point.y());
+  std::vector<std::string> actions = {"mousemove", std::to_string(point.x()), y};
+  if (WindowsFolder()) actions.insert(actions.begin(), {"mousemove", std::to_string(point.x() - 1), y});
+  return actions;
 }
 
 }  // namespace
@@ -99,13 +126,15 @@ WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "M
   fs::create_directory(programFolder_);
   fs::create_directory(home_ / "bin");
   std::ofstream(home_ / "fonts.conf") << kFonts;
-  fs::copy_file(QUILLON_PROGRAM, programFolder_ / "quillon");
+  PutProgram(programFolder_);
   StartScreen();
   StartWindowManager();
   if (desk_.IsHeard) StartBuses();
 }
 
 WindowSession::~WindowSession() {
+  // Its helpers live on for a while, and would be of no use on the next screen.
+  if (WindowsFolder()) static_cast<void>(Ask("wineserver", {"--kill"}));
   if (!accessibilityBus_) return;
   // Killed, the launcher would leave its bus running.
   kill(accessibilityBus_->Id(), SIGTERM);
@@ -121,7 +150,15 @@ void WindowSession::AddExampleRanges() const {
 }
 
 void WindowSession::Start(const std::vector<std::string>& arguments) {
-  programs_.push_back(std::make_unique<RunningProgram>(Prepare((programFolder_ / "quillon").string(), arguments)));
+  StartIn(programFolder_, arguments);
+}
+
+void WindowSession::StartIn(const fs::path& folder, const std::vector<std::string>& arguments) {
+  const bool byWine = WindowsFolder().has_value();
+  ProgramRun run =
+      byWine ? Prepare("wine", {(folder / "quillon.exe").string()}) : Prepare((folder / "quillon").string(), {});
+  run.Arguments.insert(run.Arguments.end(), arguments.begin(), arguments.end());
+  programs_.push_back(std::make_unique<RunningProgram>(run));
 }
 
 std::unique_ptr<RunningProgram> WindowSession::StartBeside(const std::string& program,
@@ -132,8 +169,8 @@ std::unique_ptr<RunningProgram> WindowSession::StartBeside(const std::string& pr
 fs::path WindowSession::StartFromAnother(const std::string& folderName) {
   fs::path folder = programFolder_ / folderName;
   fs::create_directory(folder);
-  fs::copy_file(QUILLON_PROGRAM, folder / "quillon");
-  programs_.push_back(std::make_unique<RunningProgram>(Prepare((folder / "quillon").string(), {})));
+  PutProgram(folder);
+  StartIn(folder, {});
   return folder;
 }
 
@@ -166,19 +203,15 @@ ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<
   ProgramRun run;
   run.Program = "/usr/bin/env";
   run.CurrentFolder = home_;
-  run.Arguments = {"-i",
-                   "--default-signal",
-                   "HOME=" + home,
-                   "TMPDIR=" + home,
-                   "XDG_RUNTIME_DIR=" + home,
-                   "PATH=" + (home_ / "bin").string() + ":/usr/bin:/bin",
-                   "LANG=C.UTF-8",
-                   "DISPLAY=" + display_,
-                   "FONTCONFIG_FILE=" + (home_ / "fonts.conf").string(),
-                   "QT_QPA_PLATFORM=xcb",
-                   "QT_SCALE_FACTOR=" + std::to_string(desk_.Scale)};
+  run.Arguments = {"-i", "--default-signal", "HOME=" + home, "TMPDIR=" + home, "XDG_RUNTIME_DIR=" + home,
+                   "PATH=" + (home_ / "bin").string() + ":/usr/bin:/bin", "LANG=C.UTF-8", "DISPLAY=" + display_,
+                   "FONTCONFIG_FILE=" + (home_ / "fonts.conf").string(), "QT_QPA_PLATFORM=xcb",
+                   "QT_SCALE_FACTOR=" + std::to_string(desk_.Scale),
+                   // Wine keeps variables of such names from its programs, but for those that are prefixed for it.
+                   "WINEQT_SCALE_FACTOR=" + std::to_string(desk_.Scale)};
   if (!busAddress_.empty()) run.Arguments.push_back("DBUS_SESSION_BUS_ADDRESS=" + busAddress_);
-  for (const char* const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH"})
+  for (const char* const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH", "WINEPREFIX",
+                                 "WINEDEBUG", "WINEDLLOVERRIDES"})
     PassOn(run.Arguments, name);
   run.Arguments.insert(run.Arguments.end(), {"setpriv", "--pdeathsig", "KILL", "--", program});
   run.Arguments.insert(run.Arguments.end(), arguments.begin(), arguments.end());
@@ -313,12 +346,15 @@ void WindowSession::PutOnClipboard(std::string_view text) const {
 std::string WindowSession::CopiedBy(const std::function<void()>& copy, const std::string& kind) const {
   constexpr std::string_view kMark = "nothing has been copied yet";
   PutOnClipboard(kMark);
+  if (WindowsFolder()) std::this_thread::sleep_for(kWineLooksAtTheClipboard);
   copy();
   std::string copied;
   WaitUntil("something has been copied", [&] {
-    copied = Ask("xclip", {"-selection", "clipboard", "-out", "-target", kind});
+    // Asked at the moment in which it changes hands, Wine does not answer at all.
+    copied = Ask("timeout", {"5", "xclip", "-selection", "clipboard", "-out", "-target", kind});
     return copied != kMark && !copied.empty();
   });
+  if (WindowsFolder()) std::erase(copied, '\r');  // Wine leaves some of those that Windows ends its lines with
   return copied;
 }
 

@@ -7,6 +7,9 @@
 // Lengths are the screen's own pixels, unless told otherwise. Nothing waits for a fixed time: every wait is for
 // something, and where it does not come within half a minute, or the program ends, std::runtime_error tells what was
 // waited for. All that has been started is gone with the session, even if the test is killed.
+//
+// The program is the one that has just been built, or with QUILLON_WINDOWS_FOLDER in the environment the one for
+// Windows in that folder, which Wine runs ("tools/windows/check_window.sh").
 
 #include <QFile>
 #include <QImage>
@@ -136,6 +139,7 @@ class WindowSession {
 
  private:
   [[nodiscard]] ProgramRun Prepare(const std::string& program, const std::vector<std::string>& arguments) const;
+  void StartIn(const std::filesystem::path& folder, const std::vector<std::string>& arguments);
   [[nodiscard]] std::string Ask(const std::string& program, const std::vector<std::string>& arguments) const;
   void Use(const std::vector<std::string>& actions) const;
   void Click(QPoint point, const std::string& button) const;

@@ -1,7 +1,7 @@
 # The folder for Windows, which runs from anywhere: the component "windows", which tools/windows/build.sh packs.
 install(TARGETS ${programs} RUNTIME DESTINATION . COMPONENT windows)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/Ranges DESTINATION . COMPONENT windows)
-install(FILES ${PROJECT_SOURCE_DIR}/NOTICE DESTINATION . COMPONENT windows)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/qt.conf ${PROJECT_SOURCE_DIR}/NOTICE DESTINATION . COMPONENT windows)
 while(licences)
   list(POP_FRONT licences name file)
   install(FILES ${file} DESTINATION . RENAME ${name} COMPONENT windows)

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# The journeys through the window, with the program for Windows: tools/windows/build.sh makes it, Wine runs it on screens
+# that nobody sees, and mouse, keyboard and eyes are those of the journeys on this system.
+#
+#   tools/windows/check_window.sh [GTEST_FILTER]
+#
+# Screens at 100% and 200% are compared with the pictures of this system, and those that differ are kept in
+# build/dev/failed_screens.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
+
+without=(
+  # POSIX: signals, the clipboard of X, window classes, where a Debian package keeps a user's data, names that are not
+  # UTF-8, a terminal to write to.
+  EndJourney.\* \*WindowIsKnownToDesktops\* \*Installed\* StartWithoutADisplay.\* \*FolderWhoseNameIsNotUtf8\*
+  \*ArgumentsAreRefused\*
+  # Wine: a window is a few pixels beside the place where it was put, as its frame is another program's.
+  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\*
+)
+
+tools/windows/build.sh
+rm -rf build/windows-unpacked
+unzip -q dist/Quillon-*-windows-x86_64.zip -d build/windows-unpacked
+QUILLON_WINDOWS_FOLDER=$(echo "$PWD"/build/windows-unpacked/*)
+export QUILLON_WINDOWS_FOLDER
+
+cmake --preset dev -DQUILLON_BENCH=OFF
+cmake --build --preset dev --target window_journeys_test
+export WINEPREFIX=${WINEPREFIX:-$PWD/build/wine} WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+wineboot --init
+wineserver --wait
+build/dev/bin/window_journeys_test --gtest_brief=1 --gtest_filter="${1:-*}-$(IFS=: && echo "${without[*]}")"
