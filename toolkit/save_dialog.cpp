@@ -91,7 +91,7 @@ class FolderForQt {
     const bool within = file.starts_with(path_ + '/');
     return within ? name_ + ToQt(std::string_view(file).substr(path_.size())) : ToQt(file);
   }
-  [[nodiscard]] std::string PathOf(const QString& file) const {
+  [[nodiscard]] std::string BytesOf(const QString& file) const {
     const bool within = file.startsWith(name_ + QLatin1Char('/'));
     return within ? path_ + FromQt(file.mid(name_.size())) : FromQt(file);
   }
@@ -104,11 +104,11 @@ class FolderForQt {
 
 }  // namespace
 
-std::string AskFileName(QWidget& parent, const SaveQuestion& question) {
+std::filesystem::path AskFileName(QWidget& parent, const SaveQuestion& question) {
   const FolderForQt folder(question.Folder);
   FileNameDialog box(&parent, ToQt(question.Title), folder.Name(), NameFilter(question.Filter));
   if (!question.Offered.empty()) box.selectFile(folder.NameOf(question.Offered));
-  return box.exec() == QDialog::Accepted ? folder.PathOf(box.FileName()) : std::string();
+  return box.exec() == QDialog::Accepted ? PathOf(folder.BytesOf(box.FileName())) : std::filesystem::path();
 }
 
 }  // namespace quillon

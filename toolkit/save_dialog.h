@@ -4,6 +4,7 @@
 // no extension is added, quotes are part of it, and a file that is there is no reason to ask.
 
 #include <QWidget>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,6 @@ struct SaveQuestion {
 /// Asks, over the window of `parent`, and returns the path chosen, empty if the dialog is cancelled. A "~/" at the
 /// start is the user's home, the name of a folder opens it, and a name that no file can have leaves the dialog open.
 /// Paths that are not UTF-8 are kept byte for byte.
-[[nodiscard]] std::string AskFileName(QWidget& parent, const SaveQuestion& question);
+[[nodiscard]] std::filesystem::path AskFileName(QWidget& parent, const SaveQuestion& question);
 
 }  // namespace quillon

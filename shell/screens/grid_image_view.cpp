@@ -38,9 +38,9 @@ void WaitForTheScreen() {
 }
 
 // In the image program of the desktop.
-void OpenImage(const std::string& fileName) {
+void OpenImage(const std::filesystem::path& fileName) {
   if (QDesktopServices::openUrl(AddressOfFile(fileName))) return;
-  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + TextOfFileName(fileName));
+  throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + TextOfFileName(fileName.string()));
 }
 
 }  // namespace
@@ -50,13 +50,13 @@ GridImageView::GridImageView(QWidget& form, const MainControls& controls, Messag
 
 void GridImageView::Save() {
   MakeFolderIfMissing(SavedGridsFolderPath(folder_), *folder_.Calls);
-  const std::string fileName = AskFileName(form_, {.Title = kSaveImageTitle,
-                                                   .Filter = kSaveImageFilter,
-                                                   .Folder = SavedGridsFolderPath(folder_).string(),
-                                                   .Offered = lastName_});
+  const std::filesystem::path fileName = AskFileName(form_, {.Title = kSaveImageTitle,
+                                                             .Filter = kSaveImageFilter,
+                                                             .Folder = SavedGridsFolderPath(folder_).string(),
+                                                             .Offered = lastName_});
   if (fileName.empty()) return;
 
-  lastName_ = fileName;
+  lastName_ = fileName.string();
   ReplaceFile(fileName, CaptureGrid(), folder_.Path, *folder_.Calls);
   if (messages_.Show(OpenImageQuestion()) == MessageAnswer::kYes) OpenImage(fileName);
 }

@@ -49,13 +49,14 @@ void ResultsMenu::CopyTable() const {
 
 void ResultsMenu::SavePage() {
   MakeFolderIfMissing(SavedGridsFolderPath(around_.Folder), *around_.Folder.Calls);
-  const std::string fileName = AskFileName(around_.Form, {.Title = kSavePageTitle,
-                                                          .Filter = kSavePageFilter,
-                                                          .Folder = SavedGridsFolderPath(around_.Folder).string(),
-                                                          .Offered = lastPage_});
+  const std::filesystem::path fileName =
+      AskFileName(around_.Form, {.Title = kSavePageTitle,
+                                 .Filter = kSavePageFilter,
+                                 .Folder = SavedGridsFolderPath(around_.Folder).string(),
+                                 .Offered = lastPage_});
   if (fileName.empty()) return;
 
-  lastPage_ = fileName;
+  lastPage_ = fileName.string();
   ReplaceFile(fileName, AnalysisPage(around_.State), around_.Folder.Path, *around_.Folder.Calls);
   if (around_.Messages.Show(OpenPageQuestion()) != MessageAnswer::kYes) return;
   OpenInBrowser(AddressOfFile(fileName), [this, fileName] { around_.Messages.Show(PageNotOpenedMessage(fileName)); });

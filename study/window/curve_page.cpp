@@ -220,11 +220,11 @@ void CurvePage::Save(const char* title, const char* kind, const std::string& byt
   const std::string filter = kind == std::string_view("svg") ? "Picture | *.svg" : "Table | *.csv";
   const std::string name =
       FreeName(folder, CurveHandsText(curves_.Hands) + " " + curves_.What, std::string(".") + kind);
-  const std::string file = AskFileName(
+  const std::filesystem::path file = AskFileName(
       *this, {.Title = title, .Filter = filter, .Folder = folder.string(), .Offered = (folder / name).string()});
   if (file.empty()) return;
   ReplaceFile(file, bytes, folder_.Path, *folder_.Calls);
-  Tell("Saved as " + TextOfFileName(std::filesystem::path(file).filename().string()) + ".");
+  Tell("Saved as " + TextOfFileName(file.filename().string()) + ".");
   Announce(*this, words_.text());
 }
 
