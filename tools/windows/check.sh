@@ -8,3 +8,5 @@ echo "== Everything without a toolkit"
 QUILLON_KILLS=${QUILLON_KILLS:-200} ./check_core.sh
 echo "== The companion"
 ./check_companion.sh
+echo "== The window"
+./check_window.sh

@@ -14,8 +14,10 @@ without=(
   # UTF-8, a terminal to write to.
   EndJourney.\* \*WindowIsKnownToDesktops\* \*Installed\* StartWithoutADisplay.\* \*FolderWhoseNameIsNotUtf8\*
   \*ArgumentsAreRefused\*
-  # Wine: a window is a few pixels beside the place where it was put, as its frame is another program's.
-  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\*
+  # Wine: a window is a few pixels beside the place where it was put, as its frame is another program's, and xdg-open is
+  # not what opens a page.
+  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\* LargePaintingJourney.\*
+  \*LeadsThroughTheWholeProgram\* \*ResultsAreTakenAlong\*
 )
 
 tools/windows/build.sh
