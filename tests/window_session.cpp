@@ -116,7 +116,7 @@ QPoint UpperLeft(const std::string& listing, const std::string& measured) {
 std::vector<std::string> To(QPoint point) {
   const std::string y = std::to_string(point.y());
   std::vector<std::string> actions = {"mousemove", std::to_string(point.x()), y};
-  if (WindowsFolder()) actions.insert(actions.begin(), {"mousemove", std::to_string(point.x() - 1), y});
+  if (WindowsFolder()) actions.insert(actions.begin(), {"mousemove", std::to_string(point.x() - 1), y, "sleep", "0.2"});
   return actions;
 }
 
