@@ -7,24 +7,13 @@
 #include <vector>
 
 #include "ranges/range_files.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
 
 using ::testing::HasSubstr;
-
-// The text of the failure of `call`, empty if it does not fail.
-template <typename Call>
-std::string FailureOf(Call call) {
-  try {
-    call();
-  } catch (const RunTimeError& error) {
-    return error.what();
-  }
-  return {};
-}
 
 TEST(LoadRangeText, LetterCaseIsHeededAndPipesAndLinksToNowhereAreEmpty) {
   const TemporaryProgram program;
@@ -90,7 +79,7 @@ TEST(RangeFilePath, NameThatIsNotUtf8IsFoundByItsText) {
 
   std::filesystem::create_symlink("nowhere", program.RangeFile("K\xE4se.txt"));
   DeleteRange(folder, "Käse");
-  EXPECT_THAT(FailureOf([&] { DeleteRange(folder, "Käse"); }), HasSubstr("Ranges/Käse.txt"));
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange(folder, "Käse"); }), HasSubstr("Ranges/Käse.txt"));
 }
 
 TEST(RangeFilePath, NameInUtf8ComesFirst) {

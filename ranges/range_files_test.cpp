@@ -197,31 +197,20 @@ TEST(DeleteRange, ItsFileGoesAndNoOther) {
   EXPECT_TRUE(std::filesystem::exists(program.RangeFile("x.txt.txt")));
 }
 
-// The text of the failure of `call`, empty if it does not fail.
-template <typename Call>
-std::string FailureOf(Call call) {
-  try {
-    call();
-  } catch (const RunTimeError& error) {
-    return error.what();
-  }
-  return {};
-}
-
 TEST(DeleteRange, FailureIsFatalAndNamed) {
   using namespace std::string_view_literals;
   const TemporaryProgram program;
-  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), "x"); }),
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange(program.Folder(), "x"); }),
               AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/x.txt")));
-  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), ""); }),
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange(program.Folder(), ""); }),
               AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/.txt")));
-  EXPECT_THAT(FailureOf([&] { DeleteRange({program.Folder().Path / "gone"}, "x"); }),
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange({program.Folder().Path / "gone"}, "x"); }),
               AllOf(HasSubstr("'76': Path not found"), HasSubstr("Ranges/x.txt")));
 
   program.Write("x.txt", "AA (1), ");
-  EXPECT_THAT(FailureOf([&] { DeleteRange(program.Folder(), "x.txt\0"sv); }), HasSubstr("'52'"));
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange(program.Folder(), "x.txt\0"sv); }), HasSubstr("'52'"));
   FailingCalls calls(0);
-  EXPECT_THAT(FailureOf([&] { DeleteRange({program.Folder().Path, &calls}, "x"); }), HasSubstr("Ranges/x.txt"));
+  EXPECT_THAT(FaultTextOf([&] { DeleteRange({program.Folder().Path, &calls}, "x"); }), HasSubstr("Ranges/x.txt"));
   EXPECT_EQ(program.Read("x.txt"), "AA (1), ");
 }
 
@@ -241,7 +230,7 @@ TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoes) {
 TEST(RenameRange, OldFileThatIsMissingIsFatalBeforeAnythingIsWritten) {
   const TemporaryProgram program;
   for (const char* name : {"old", "", "new"}) {
-    EXPECT_THAT(FailureOf([&] { RenameRange(program.Folder(), name, "new", "KK (1), "); }),
+    EXPECT_THAT(FaultTextOf([&] { RenameRange(program.Folder(), name, "new", "KK (1), "); }),
                 AllOf(HasSubstr("'53': File not found"), HasSubstr("Ranges/" + std::string(name) + ".txt")));
     EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder()))) << name;
   }
@@ -250,7 +239,7 @@ TEST(RenameRange, OldFileThatIsMissingIsFatalBeforeAnythingIsWritten) {
 TEST(RenameRange, MissingFolderIsFatalAndNamed) {
   const TemporaryProgram program;
   std::filesystem::remove(RangeFolderPath(program.Folder()));
-  EXPECT_THAT(FailureOf([&] { RenameRange(program.Folder(), "old", "new", "KK (1), "); }),
+  EXPECT_THAT(FaultTextOf([&] { RenameRange(program.Folder(), "old", "new", "KK (1), "); }),
               AllOf(HasSubstr("'76': Path not found"), HasSubstr("Ranges/old.txt")));
 }
 

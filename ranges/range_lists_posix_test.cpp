@@ -4,6 +4,7 @@
 
 #include "ranges/range_lists.h"
 #include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/ordinary_user.h"
 #include "testing/temporary_program.h"
 
@@ -44,13 +45,9 @@ TEST(RangeFolderEntries, NameThatIsNotUtf8IsShownAsWindows1252) {
 }
 
 void ExpectListingFault(const ProgramFolder& folder, RunTimeFault fault) {
-  try {
-    static_cast<void>(RangeFolderEntries(folder));
-    FAIL() << "nothing was thrown";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Fault(), fault) << error.what();
-    EXPECT_THAT(error.what(), HasSubstr(RangeFolderPath(folder).string()));
-  }
+  const auto list = [&] { return RangeFolderEntries(folder); };
+  EXPECT_EQ(FaultOf(list), fault);
+  EXPECT_THAT(FaultTextOf(list), HasSubstr(RangeFolderPath(folder).string()));
 }
 
 TEST(RangeFolderEntries, FolderThatIsALinkToItselfIsFatalAndNamed) {

@@ -65,13 +65,9 @@ TEST(RangeFolderEntries, EmptyFolderHasNone) {
 }
 
 void ExpectListingFault(const ProgramFolder& folder, RunTimeFault fault) {
-  try {
-    static_cast<void>(RangeFolderEntries(folder));
-    FAIL() << "nothing was thrown";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Fault(), fault) << error.what();
-    EXPECT_THAT(error.what(), HasSubstr(RangeFolderPath(folder).string()));
-  }
+  const auto list = [&] { return RangeFolderEntries(folder); };
+  EXPECT_EQ(FaultOf(list), fault);
+  EXPECT_THAT(FaultTextOf(list), HasSubstr(RangeFolderPath(folder).string()));
 }
 
 TEST(RangeFolderEntries, FolderThatCannotBeReadIsFatalAndNamed) {

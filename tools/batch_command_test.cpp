@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "study/batch.h"
+#include "testing/blocked_output.h"
 #include "testing/companion_program.h"
 #include "testing/split_text.h"
 #include "tools/bounded_queue.h"
@@ -158,20 +159,6 @@ TEST_F(BatchCommand, FailsOverWhatCannotBeRead) {
 }
 
 // However fast the input comes, no more of it is taken than the answers that have been written make room for.
-class BlockedOutput final : public std::stringbuf {
- public:
-  explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}
-
- protected:
-  int_type overflow(int_type c) override {
-    released_.wait();
-    return std::stringbuf::overflow(c);
-  }
-
- private:
-  std::shared_future<void> released_;
-};
-
 TEST_F(BatchCommand, ReadsNoFartherAheadThanItsWindow) {
   class CountedLines final : public std::streambuf {
    public:

@@ -13,6 +13,7 @@
 #include <thread>
 #include <unistd.h>
 
+#include "testing/blocked_output.h"
 #include "testing/companion_program.h"
 #include "testing/split_text.h"
 #include "tools/commands.h"
@@ -88,20 +89,6 @@ TEST_F(InterruptedBatch, EndsBetweenTwoLinesOnAnInterrupt) {
   EXPECT_EQ(answers.back(), R"({"id":99,"best":"22"})");
   EXPECT_THAT(output.str(), EndsWith("\n"));
 }
-
-class BlockedOutput final : public std::stringbuf {
- public:
-  explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}
-
- protected:
-  int_type overflow(int_type c) override {
-    released_.wait();
-    return std::stringbuf::overflow(c);
-  }
-
- private:
-  std::shared_future<void> released_;
-};
 
 // The reader of lines waits for room then, and must not go on when there is some.
 TEST_F(InterruptedBatch, ReadsNothingMoreOnceInterruptedWhileItsOutputIsBlocked) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <future>
+#include <sstream>
+#include <utility>
+
+namespace quillon {
+
+/// Output that takes nothing until it is released, as that of a reader who is busy.
+class BlockedOutput final : public std::stringbuf {
+ public:
+  explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}
+
+ protected:
+  int_type overflow(int_type c) override {
+    released_.wait();
+    return std::stringbuf::overflow(c);
+  }
+
+ private:
+  std::shared_future<void> released_;
+};
+
+}  // namespace quillon
