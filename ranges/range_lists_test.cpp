@@ -115,6 +115,7 @@ TEST(RangeNameOfFile, FewerThanFourCharactersAreFatal) {
     } catch (const RunTimeError& error) {
       EXPECT_EQ(error.Fault(), RunTimeFault::kInvalidProcedureCall);
       EXPECT_THAT(error.what(), HasSubstr(name));
+      EXPECT_THAT(error.what(), HasSubstr("has a name of fewer than four characters"));
     }
   }
 }

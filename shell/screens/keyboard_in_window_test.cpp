@@ -199,7 +199,7 @@ TEST_F(KeyboardInWindow, ABoxTellsWhereTheUserGuideCannotBeOpened) {
                     .text = "The user guide could not be opened. It is the file:\r\n\r\n" + file,
                     .icon = MessageIcon::kExclamation});
   Press(Qt::Key_F1);
-  EXPECT_NE(opener.Opened(), "");
+  EXPECT_EQ(opener.Opened(), QUrl::fromLocalFile(ToQt(file)).toEncoded().toStdString() + "\n");
   VerifyExpectedBoxes();
 }
 

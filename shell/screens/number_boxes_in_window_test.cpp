@@ -125,5 +125,13 @@ TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
   EXPECT_EQ(odds(), "9 : 1, 10%");
 }
 
+// P + C + 2H = 0 has odds of -1, by which nothing can be divided.
+TEST_F(NumberBoxesInWindow, OddsOfMinusOneEndTheProgram) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  Open(kRaiseNav);
+  Type(2, "100");
+  EXPECT_EXIT(Type(4, "-50"), testing::ExitedWithCode(EXIT_FAILURE), "Run-time error '11': Division by zero");
+}
+
 }  // namespace
 }  // namespace quillon
