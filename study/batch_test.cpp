@@ -71,39 +71,34 @@ struct SameCase {
   const char* plain;  // a line that must have the same answer
 };
 
-class SameAnswer : public BatchTest, public testing::WithParamInterface<SameCase> {};
-
-TEST_P(SameAnswer, WhicheverWayItIsWritten) {
+TEST_F(BatchTest, AnswersALineAlikeWhicheverWayItIsWritten) {
+  constexpr const char* kRaise = R"({"mode":"raise","pot":1.5,"call":0,"shove":9,"hands":"any","calling_hands":"QQ+"})";
   const Batch batch = Make();
-  const BatchAnswer expected = batch.Answer(GetParam().plain, 1);
-  ASSERT_FALSE(expected.Refused) << expected.Line;
-  EXPECT_EQ(batch.Answer(GetParam().line, 2).Line, expected.Line);
+  for (const SameCase& c : {
+           SameCase{"AmountsAsTexts",
+                    R"({"mode":"raise","pot":"$1.50","call":"","shove":"=10-1","hands":"any","calling_hands":"QQ+"})",
+                    kRaise},
+           SameCase{"AmountsWithExponents",
+                    R"({"mode":"raise","pot":15e-1,"call":0.0,"shove":0.9E1,"hands":"any","calling_hands":"QQ+"})",
+                    kRaise},
+           SameCase{"OtherOrder",
+                    R"({"calling_hands":"QQ+","hands":"any","shove":9,"call":0,"pot":1.5,"mode":"raise"})", kRaise},
+           SameCase{"EscapedText",
+                    R"({"mode":"raise","pot":1.5,"call":0,"shove":9,"hands":"\u0061ny","calling_hands":"QQ\u002b"})",
+                    kRaise},
+           SameCase{"NullIsNotThere",
+                    R"({"id":null,"mode":"equity","range":"Tight","hands":null,"pot":null,"shove":null})",
+                    R"({"mode":"equity","range":"Tight"})"},
+           SameCase{"AfterAByteOrderMark", "\xEF\xBB\xBF{\"mode\":\"equity\",\"range\":\"Tight\"}",
+                    R"({"mode":"equity","range":"Tight"})"},
+           SameCase{"SpacesAndReturn", " { \"mode\" : \"equity\" , \"range\" : \"Tight\" } \r",
+                    R"({"mode":"equity","range":"Tight"})"},
+       }) {
+    const BatchAnswer expected = batch.Answer(c.plain, 1);
+    ASSERT_FALSE(expected.Refused) << expected.Line;
+    EXPECT_EQ(batch.Answer(c.line, 2).Line, expected.Line) << c.rule;
+  }
 }
-
-constexpr const char* kRaise = R"({"mode":"raise","pot":1.5,"call":0,"shove":9,"hands":"any","calling_hands":"QQ+"})";
-
-INSTANTIATE_TEST_SUITE_P(
-    Batch, SameAnswer,
-    testing::Values(
-        SameCase{"AmountsAsTexts",
-                 R"({"mode":"raise","pot":"$1.50","call":"","shove":"=10-1","hands":"any","calling_hands":"QQ+"})",
-                 kRaise},
-        SameCase{"AmountsWithExponents",
-                 R"({"mode":"raise","pot":15e-1,"call":0.0,"shove":0.9E1,"hands":"any","calling_hands":"QQ+"})",
-                 kRaise},
-        SameCase{"OtherOrder", R"({"calling_hands":"QQ+","hands":"any","shove":9,"call":0,"pot":1.5,"mode":"raise"})",
-                 kRaise},
-        SameCase{"EscapedText",
-                 R"({"mode":"raise","pot":1.5,"call":0,"shove":9,"hands":"\u0061ny","calling_hands":"QQ\u002b"})",
-                 kRaise},
-        SameCase{"NullIsNotThere",
-                 R"({"id":null,"mode":"equity","range":"Tight","hands":null,"pot":null,"shove":null})",
-                 R"({"mode":"equity","range":"Tight"})"},
-        SameCase{"AfterAByteOrderMark", "\xEF\xBB\xBF{\"mode\":\"equity\",\"range\":\"Tight\"}",
-                 R"({"mode":"equity","range":"Tight"})"},
-        SameCase{"SpacesAndReturn", " { \"mode\" : \"equity\" , \"range\" : \"Tight\" } \r",
-                 R"({"mode":"equity","range":"Tight"})"}),
-    [](const auto& entry) { return std::string(entry.param.rule); });
 
 // What a single run of the same situation finds, by way of texts.
 std::string SingleRun(const Situation& situation) {
@@ -201,19 +196,6 @@ struct RefusedCase {
   const char* error;  // how it begins
 };
 
-class RefusedLine : public BatchTest, public testing::WithParamInterface<RefusedCase> {};
-
-TEST_P(RefusedLine, HasItsIdItsNumberAndTheReason) {
-  const BatchAnswer answer = Make().Answer(GetParam().line, 12);
-  EXPECT_TRUE(answer.Refused);
-  const Json object = Json::parse(answer.Line);
-  EXPECT_EQ(object.size(), 3U);
-  EXPECT_EQ(object["id"].dump(), GetParam().id);
-  EXPECT_EQ(object["line"], 12);
-  EXPECT_THAT(object["error"].get<std::string>(), StartsWith(GetParam().error));
-  EXPECT_LT(answer.Line.size(), 1000U);
-}
-
 std::vector<RefusedCase> RefusedLines() {
   using namespace std::string_literals;  // NOLINT(google-build-using-namespace): literals
   const auto with = [](const std::string& more) {
@@ -285,8 +267,20 @@ std::vector<RefusedCase> RefusedLines() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Batch, RefusedLine, testing::ValuesIn(RefusedLines()),
-                         [](const auto& entry) { return std::string(entry.param.rule); });
+TEST_F(BatchTest, RefusesALineWithItsIdItsNumberAndTheReason) {
+  const Batch batch = Make();
+  for (const RefusedCase& c : RefusedLines()) {
+    SCOPED_TRACE(c.rule);
+    const BatchAnswer answer = batch.Answer(c.line, 12);
+    EXPECT_TRUE(answer.Refused);
+    const Json object = Json::parse(answer.Line);
+    EXPECT_EQ(object.size(), 3U);
+    EXPECT_EQ(object["id"].dump(), c.id);
+    EXPECT_EQ(object["line"], 12);
+    EXPECT_THAT(object["error"].get<std::string>(), StartsWith(c.error));
+    EXPECT_LT(answer.Line.size(), 1000U);
+  }
+}
 
 }  // namespace
 }  // namespace quillon

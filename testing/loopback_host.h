@@ -1,14 +1,13 @@
 #pragma once
 
-// Web hosts on this machine, each on a port that was free: one that serves connections as a test says, which may be
-// against the rules of HTTP, one that serves pages, and one that never answers.
+// A web host on this machine, on a port that was free. It serves connections as a test says, which may be against the
+// rules of HTTP.
 
 #include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -110,54 +109,6 @@ class LoopbackHost {
   mutable std::mutex mutex_;
   std::vector<std::string> requests_;
   std::thread thread_{[this] { Run(); }};
-};
-
-struct WebPage {
-  int Status = 200;
-  std::string Body = {};
-  std::string Location = {};  // of a redirect; empty: there is no such header
-};
-
-/// Serves pages as a well-meaning host does.
-class LoopbackWebHost {
- public:
-  [[nodiscard]] std::uint16_t Port() const { return host_.Port(); }
-
-  /// From now on this is the page at `path`, whatever the query. A path without a page gets status 404 and no text.
-  void Put(std::string_view path, WebPage page) {
-    const std::lock_guard lock(mutex_);
-    pages_.insert_or_assign(std::string(path), std::move(page));
-  }
-
-  /// What was asked for so far, path and query, byte for byte.
-  [[nodiscard]] std::vector<std::string> Targets() const {
-    std::vector<std::string> targets;
-    for (const std::string& request : host_.Requests())
-      targets.push_back(TargetOf(request));
-    return targets;
-  }
-
- private:
-  // What is between the first two spaces.
-  static std::string TargetOf(const std::string& request) {
-    const std::size_t start = request.find(' ') + 1;
-    return request.substr(start, request.find(' ', start) - start);
-  }
-
-  [[nodiscard]] std::string ReplyTo(const std::string& request) const {
-    const std::string target = TargetOf(request);
-    const std::lock_guard lock(mutex_);
-    const auto found = pages_.find(target.substr(0, target.find('?')));
-    const WebPage page = found == pages_.end() ? WebPage{.Status = 404} : found->second;
-    const std::string location = page.Location.empty() ? "" : "Location: " + page.Location + "\r\n";
-    return "HTTP/1.1 " + std::to_string(page.Status) +
-           " OK\r\nContent-Type: text/html\r\nContent-Length: " + std::to_string(page.Body.size()) + "\r\n" + location +
-           "Connection: close\r\n\r\n" + page.Body;
-  }
-
-  mutable std::mutex mutex_;
-  std::map<std::string, WebPage> pages_;
-  LoopbackHost host_{[this](LoopbackConnection& connection) { connection.Send(ReplyTo(connection.Request())); }};
 };
 
 }  // namespace quillon

@@ -43,12 +43,6 @@ inline constexpr std::int16_t kRaiseScreen = 4;
 inline constexpr std::int16_t kAboutScreenIndex = 5;
 inline constexpr std::int16_t kEquityScreen = 6;
 
-/// What the window of a stage takes for the time.
-enum class StageClock : std::uint8_t {
-  kHurried,  // goes on by 700 milliseconds whenever it is looked at
-  kSystem,
-};
-
 /// The ranges are "Everything", with each hand in full, "Nothing", with none, "Pairs", with AA and KK in full and QQ at
 /// half, and "Tight", with AA, KK, AKs and AKo. The window is not started yet, so that a test can change the folder
 /// before.
@@ -57,7 +51,7 @@ class MainStage {
   using ControlName = MainControls::Key<>;
   using LabelKey = MainControls::Key<Label>;
 
-  explicit MainStage(StageClock clock = StageClock::kHurried, NumberMarks marks = {})
+  explicit MainStage(NumberMarks marks = {})
       : Form({.Folder = Program.Folder(),
               .UserGuide = UserGuidePath(Program.Folder().Path),
               .Messages = Boxes,
@@ -66,7 +60,7 @@ class MainStage {
               .Shift = Shift,
               .EndProcess = [this] { End(); },
               .Marks = std::move(marks),
-              .Clock = ClockOf(clock)}) {
+              .Clock = [this] { return Now += 700; }}) {
     Program.Write("Everything.txt", EveryHandAt(1));
     Program.Write("Nothing.txt", TextWith(""));
     Program.Write("Pairs.txt", TextWith("AA KK", "QQ"));
@@ -236,7 +230,7 @@ class MainStage {
   int Ends = 0;
   int ActsToCome = 0;
   std::function<void()> AtEnd;  // what else the end does, besides being counted
-  std::int32_t Now = 0;  // the hurried clock
+  std::int32_t Now = 0;  // the clock: 700 milliseconds have passed whenever the window looks at it
   MessageDialogs Boxes;
   RecordedWeb Web;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
@@ -244,10 +238,6 @@ class MainStage {
   RangeDialogs& Dialogs = Form.Dialogs();
 
  private:
-  std::function<std::int32_t()> ClockOf(StageClock clock) {
-    if (clock == StageClock::kSystem) return {};
-    return [this] { return Now += 700; };
-  }
   void End() {
     ++Ends;
     if (AtEnd) AtEnd();

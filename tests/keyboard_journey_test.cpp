@@ -21,9 +21,9 @@
 namespace quillon {
 namespace {
 
-class KeyboardJourney : public WindowJourney, public testing::WithParamInterface<Desk> {
+class KeyboardJourney : public WindowJourney {
  protected:
-  KeyboardJourney() : WindowJourney(GetParam()) {
+  KeyboardJourney() {
     Session().AddCommand("xdg-open");
     StartProgramWithRanges();
     Session().PutMouseAside();
@@ -58,7 +58,7 @@ class KeyboardJourney : public WindowJourney, public testing::WithParamInterface
   }
 };
 
-TEST_P(KeyboardJourney, LeadsThroughTheWholeProgram) {
+TEST_F(KeyboardJourney, LeadsThroughTheWholeProgram) {
   Press({"ctrl+1"});
   Session().Type("=100+10");
   Press({"Tab"});
@@ -106,7 +106,7 @@ TEST_P(KeyboardJourney, LeadsThroughTheWholeProgram) {
   EXPECT_EQ(Session().WaitForEnd(), 0);
 }
 
-TEST_P(KeyboardJourney, PaintsRangesInBothDialogs) {
+TEST_F(KeyboardJourney, PaintsRangesInBothDialogs) {
   Press({"ctrl+r"});
   const Window manager = Session().WaitForWindow(kManagerTitle);
   Press({"ctrl+n"});
@@ -139,10 +139,6 @@ TEST_P(KeyboardJourney, PaintsRangesInBothDialogs) {
   WaitForGridOf(kEquityRun, {{}, {}, {}, "Suited", {}});
   EXPECT_EQ(CloseProgram(), 0);
 }
-
-INSTANTIATE_TEST_SUITE_P(Window, KeyboardJourney,
-                         testing::Values(Desk{}, Desk{.Width = 2300, .Height = 1500, .Scale = 2}),
-                         [](const auto& entry) { return entry.param.Scale == 1 ? "At100" : "At200"; });
 
 }  // namespace
 }  // namespace quillon

@@ -65,8 +65,7 @@ TEST_F(ResultsJourney, PaintedRangeIsOnDiskAndCanBeAnalysed) {
 // At twice the scale, where the screen's pixels are finer than the window's.
 class GridImageJourney : public ResultsJourney {
  protected:
-  GridImageJourney() : GridImageJourney(Desk{.Width = 2300, .Height = 1500, .Scale = 2}) {}
-  explicit GridImageJourney(Desk desk) : ResultsJourney(desk) {}
+  GridImageJourney() : ResultsJourney(Desk{.Width = 2300, .Height = 1500, .Scale = 2}) {}
 
   void ExpectPictureOfTheGrid(const fs::path& file) const {
     const QImage image = QImage(QString::fromStdString(file.string()), "BMP").convertToFormat(QImage::Format_RGB32);
@@ -76,12 +75,7 @@ class GridImageJourney : public ResultsJourney {
   }
 };
 
-class ScaledImageJourney : public GridImageJourney, public testing::WithParamInterface<Desk> {
- protected:
-  ScaledImageJourney() : GridImageJourney(GetParam()) {}
-};
-
-TEST_P(ScaledImageJourney, IsOnDiskWithTheScreensOwnPixels) {
+TEST_F(GridImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   Session().AddCommand("xdg-open");
   StartProgramWithRanges();
   Analyze(kRaiseRun, kRaise);
@@ -107,10 +101,6 @@ TEST_P(ScaledImageJourney, IsOnDiskWithTheScreensOwnPixels) {
   EXPECT_EQ(Session().CommandArguments("xdg-open"), address.toEncoded().toStdString() + "\n");
   ExpectPictureOfTheGrid(folder / "again.bmp");
 }
-
-INSTANTIATE_TEST_SUITE_P(Window, ScaledImageJourney,
-                         testing::Values(Desk{}, Desk{.Width = 2300, .Height = 1500, .Scale = 2}),
-                         [](const auto& entry) { return entry.param.Scale == 1 ? "At100" : "At200"; });
 
 TEST_F(GridImageJourney, TheMarkOfTheFocusIsNotInThePictureAndComesBack) {
   StartProgramWithRanges();

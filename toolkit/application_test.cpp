@@ -118,24 +118,6 @@ TEST_F(ApplicationEnd, IsToldByTheWindowWhoseUserWasAnswered) {
   EXPECT_EXIT(FailAfterABox(), ExitedWithCode(1), HasSubstr("[frmManager|Quillon|3|Run-time error '53'"));
 }
 
-struct ActCase {
-  const char* Name;
-  void (*Act)(Control& control);
-  bool ByKey;
-};
-
-class AnsweredAct : public testing::TestWithParam<ActCase> {};
-
-TEST_P(AnsweredAct, IsAKeyOrNot) {
-  Control control(nullptr);
-  control.SetUse(ControlUse::kLink);
-  std::vector<bool> byKey;
-  QObject::connect(&control, &Control::Clicked, &control, [&byKey] { byKey.push_back(AnswersKey()); });
-  GetParam().Act(control);
-  EXPECT_EQ(byKey, std::vector{GetParam().ByKey});
-  EXPECT_FALSE(AnswersKey()) << "it has been answered";
-}
-
 void PressReturn(Control& control) {
   QTest::keyClick(&control, Qt::Key_Return);
 }
@@ -144,16 +126,19 @@ void ClickWithTheMouse(Control& control) {
   QTest::mouseClick(&control, Qt::LeftButton);
 }
 
-INSTANTIATE_TEST_SUITE_P(Application, AnsweredAct,
-                         testing::Values(ActCase{"Key", PressReturn, true}, ActCase{"Mouse", ClickWithTheMouse, false},
-                                         ActCase{"Nobody", [](Control& control) { control.Click(); }, false},
-                                         ActCase{"MouseAfterAKey",
-                                                 [](Control& control) {
-                                                   QTest::keyClick(&control, Qt::Key_Down);
-                                                   ClickWithTheMouse(control);
-                                                 },
-                                                 false}),
-                         [](const auto& entry) { return std::string(entry.param.Name); });
+TEST(Application, KnowsWhetherItAnswersAKey) {
+  Control control(nullptr);
+  control.SetUse(ControlUse::kLink);
+  std::vector<bool> byKey;
+  QObject::connect(&control, &Control::Clicked, &control, [&byKey] { byKey.push_back(AnswersKey()); });
+  PressReturn(control);
+  EXPECT_FALSE(AnswersKey()) << "it has been answered";
+  ClickWithTheMouse(control);
+  control.Click();
+  QTest::keyClick(&control, Qt::Key_Down);
+  ClickWithTheMouse(control);
+  EXPECT_EQ(byKey, (std::vector{true, false, false, false}));
+}
 
 TEST(Application, GoesOnAnsweringTheFirstActAfterOthersInBetween) {
   Control outer(nullptr);

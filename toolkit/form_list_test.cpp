@@ -4,8 +4,10 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <functional>
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -135,41 +137,31 @@ TEST_F(FormListBoxTest, APressAfterTheKeyboardMovedTheSelectionIsAClick) {
   EXPECT_EQ(Clicks, 3);
 }
 
-// What leaves the selection alone, and the click event too.
-struct IdleCase {
-  const char* Name;
-  void (*Act)(FormListBoxTest& test);
-};
-
-class FormListBoxIdle : public FormListBoxTest, public testing::WithParamInterface<IdleCase> {};
-
-TEST_P(FormListBoxIdle, KeepsTheCurrentEntrySelectedWithoutAClick) {
+TEST_F(FormListBoxTest, KeepsTheCurrentEntrySelectedWithoutAClickWhateverElseIsDone) {
+  struct Row {
+    const char* Rule;
+    std::function<void()> Act;
+  };
+  const std::vector<Row> rows = {
+      {"a click below the entries", [this] { PressAt(kBelowTheEntries); }},
+      {"a right click on it", [this] { Press(1, Qt::RightButton); }},
+      {"a right click on another", [this] { Press(2, Qt::RightButton); }},
+      {"a middle click on another", [this] { Press(0, Qt::MiddleButton); }},
+      {"a right click below the entries", [this] { PressAt(kBelowTheEntries, Qt::RightButton); }},
+      {"a Ctrl click on it", [this] { Press(1, Qt::LeftButton, Qt::ControlModifier); }},
+      {"a Ctrl click on another", [this] { Press(0, Qt::LeftButton, Qt::ControlModifier); }},
+      {"a Ctrl drag over another", [this] { Drag(MiddleOf(1), MiddleOf(2), Qt::ControlModifier); }},
+      {"a drag below the entries", [this] { Drag(kBelowTheEntries, kBelowTheEntries + QPoint(20, 0)); }},
+      {"Ctrl and the space bar", [this] { QTest::keyClick(&Widget, Qt::Key_Space, Qt::ControlModifier); }},
+  };
   Press(1);
-  GetParam().Act(*this);
-  EXPECT_EQ(List.CurrentText(), "two");
-  EXPECT_EQ(Widget.selectedItems(), QList{Widget.currentItem()});
-  EXPECT_EQ(Clicks, 1);
+  for (const Row& row : rows) {
+    row.Act();
+    EXPECT_EQ(List.CurrentText(), "two") << row.Rule;
+    EXPECT_EQ(Widget.selectedItems(), QList{Widget.currentItem()}) << row.Rule;
+    EXPECT_EQ(Clicks, 1) << row.Rule;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    FormListBox, FormListBoxIdle,
-    testing::Values(
-        IdleCase{"AtAClickBelowTheEntries", [](FormListBoxTest& test) { test.PressAt(kBelowTheEntries); }},
-        IdleCase{"AtARightClickOnIt", [](FormListBoxTest& test) { test.Press(1, Qt::RightButton); }},
-        IdleCase{"AtARightClickOnAnother", [](FormListBoxTest& test) { test.Press(2, Qt::RightButton); }},
-        IdleCase{"AtAMiddleClickOnAnother", [](FormListBoxTest& test) { test.Press(0, Qt::MiddleButton); }},
-        IdleCase{"AtARightClickBelowTheEntries",
-                 [](FormListBoxTest& test) { test.PressAt(kBelowTheEntries, Qt::RightButton); }},
-        IdleCase{"AtACtrlClickOnIt", [](FormListBoxTest& test) { test.Press(1, Qt::LeftButton, Qt::ControlModifier); }},
-        IdleCase{"AtACtrlClickOnAnother",
-                 [](FormListBoxTest& test) { test.Press(0, Qt::LeftButton, Qt::ControlModifier); }},
-        IdleCase{"AtACtrlDragOverAnother",
-                 [](FormListBoxTest& test) { test.Drag(test.MiddleOf(1), test.MiddleOf(2), Qt::ControlModifier); }},
-        IdleCase{"AtADragBelowTheEntries",
-                 [](FormListBoxTest& test) { test.Drag(kBelowTheEntries, kBelowTheEntries + QPoint(20, 0)); }},
-        IdleCase{"AtCtrlSpace",
-                 [](FormListBoxTest& test) { QTest::keyClick(&test.Widget, Qt::Key_Space, Qt::ControlModifier); }}),
-    [](const auto& entry) { return std::string(entry.param.Name); });
 
 TEST_F(FormListBoxTest, ADragOverTheEntriesSelectsTheLastOneAndKeepsItBelow) {
   Press(0);

@@ -30,7 +30,11 @@ void PasteByMenu(QLineEdit& box, const QString& text) {
   box.paste();
 }
 
-class SingleLineByAnyWay : public testing::TestWithParam<Way> {};
+void Compose(QLineEdit& box, const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QGuiApplication::sendEvent(&box, &event);
+}
 
 struct TextCase {
   const char* Rule;
@@ -39,7 +43,9 @@ struct TextCase {
   int Caret;
 };
 
-TEST_P(SingleLineByAnyWay, TakesWhatStandsBeforeTheFirstLineEnd) {
+TEST(SingleLine, TakesWhatStandsBeforeTheFirstLineEndWhateverWayItComes) {
+  constexpr std::array kWays = {Way{"by key", PasteByKey}, Way{"by menu", PasteByMenu},
+                                Way{"by input method", Compose}};
   constexpr std::array kCases = {
       TextCase{"a plain text", "ab", "12ab34", 4},
       TextCase{"CR LF at its end", "ab\r\n", "12ab34", 4},
@@ -53,26 +59,18 @@ TEST_P(SingleLineByAnyWay, TakesWhatStandsBeforeTheFirstLineEnd) {
       TextCase{"tabs are spaces, each", "a\tb\t\t", "12a b  34", 7},
       TextCase{"a tab after the line end is gone", "ab\n\tc", "12ab34", 4},
   };
-  for (const TextCase& c : kCases) {
-    QLineEdit box;
-    KeepToOneLine(box);
-    box.setText(QStringLiteral("12xx34"));
-    box.setSelection(2, 2);
-    GetParam().Bring(box, QString::fromUtf8(c.Brought));
-    EXPECT_EQ(FromQt(box.text()), c.Box) << c.Rule;
-    EXPECT_EQ(box.cursorPosition(), c.Caret) << c.Rule;
+  for (const Way& way : kWays) {
+    for (const TextCase& c : kCases) {
+      QLineEdit box;
+      KeepToOneLine(box);
+      box.setText(QStringLiteral("12xx34"));
+      box.setSelection(2, 2);
+      way.Bring(box, QString::fromUtf8(c.Brought));
+      EXPECT_EQ(FromQt(box.text()), c.Box) << c.Rule << " " << way.Name;
+      EXPECT_EQ(box.cursorPosition(), c.Caret) << c.Rule << " " << way.Name;
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(SingleLine, SingleLineByAnyWay,
-                         testing::Values(Way{"Key", PasteByKey}, Way{"Menu", PasteByMenu},
-                                         Way{"InputMethod",
-                                             [](QLineEdit& box, const QString& text) {
-                                               QInputMethodEvent event;
-                                               event.setCommitString(text);
-                                               QGuiApplication::sendEvent(&box, &event);
-                                             }}),
-                         [](const auto& entry) { return std::string(entry.param.Name); });
 
 TEST(SingleLine, HoldsForADropAndForATextThatIsSet) {
   QLineEdit box;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <iomanip>
@@ -98,12 +99,19 @@ struct RunCase {
   bool hasFold;
 };
 
-class EachScenario : public testing::TestWithParam<RunCase> {};
+// Each test goes through all three.
+class EachScenario : public testing::Test {
+ protected:
+  static constexpr std::array kRuns = {RunCase{"Call", CallRun, true, false}, RunCase{"Raise", RaiseRun, true, true},
+                                       RunCase{"Equity", EquityRun, false, false}};
 
-INSTANTIATE_TEST_SUITE_P(AnalysisOutput, EachScenario,
-                         testing::Values(RunCase{"Call", CallRun, true, false}, RunCase{"Raise", RaiseRun, true, true},
-                                         RunCase{"Equity", EquityRun, false, false}),
-                         [](const auto& entry) { return std::string(entry.param.name); });
+  static void InEach(const std::function<void(const RunCase& run, const Analysis& state)>& check) {
+    for (const RunCase& run : kRuns) {
+      SCOPED_TRACE(run.name);
+      check(run, run.run());
+    }
+  }
+};
 
 std::string BoxText(ReportForm form, const Analysis& state, const std::vector<std::string>& hands) {
   RecordingReportScreen screen;
@@ -124,53 +132,58 @@ TEST(OutputFormat, IsFoundByItsNameAndPlainForAnyOther) {
 
 // ---- the two reports and the table
 
-TEST_P(EachScenario, PrintsTheReportsOfTheWindow) {
-  const Analysis state = GetParam().run();
-  const std::string plain = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), plain);
-  EXPECT_TRUE(plain.ends_with('\n'));
-  const std::string forum = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), forum);
-  EXPECT_TRUE(forum.starts_with("[URL="));
+TEST_F(EachScenario, PrintsTheReportsOfTheWindow) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    const std::string plain = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
+    EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), plain);
+    EXPECT_TRUE(plain.ends_with('\n'));
+    const std::string forum = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
+    EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), forum);
+    EXPECT_TRUE(forum.starts_with("[URL="));
+  });
 }
 
-TEST_P(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
-  Analysis state = GetParam().run();
-  const std::vector<std::string> hands = {"72o", "AA", "72o"};
-  const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, hands));
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, hands), expected);
-  EXPECT_THAT(Split(expected, "for 72o"), SizeIs(3));
-  EXPECT_LT(expected.find("for 72o"), expected.find("for AA"));
+TEST_F(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    const std::vector<std::string> hands = {"72o", "AA", "72o"};
+    const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, hands));
+    EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, hands), expected);
+    EXPECT_THAT(Split(expected, "for 72o"), SizeIs(3));
+    EXPECT_LT(expected.find("for 72o"), expected.find("for AA"));
+  });
 }
 
-TEST_P(EachScenario, PrintsTheTableByteForByte) {
-  Analysis state = GetParam().run();
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kTable, state, {}), state.HandInfo);
-  EXPECT_THAT(Cells(state.HandInfo), SizeIs(169));
+TEST_F(EachScenario, PrintsTheTableByteForByte) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    EXPECT_EQ(AnalysisOutput(OutputFormat::kTable, state, {}), state.HandInfo);
+    EXPECT_THAT(Cells(state.HandInfo), SizeIs(169));
+  });
 }
 
-TEST_P(EachScenario, AddsNoWorkingToOtherFormats) {
-  Analysis state = GetParam().run();
-  const std::vector<std::string> hands = {"AA"};
-  for (const OutputFormat format :
-       {OutputFormat::kPlain, OutputFormat::kTable, OutputFormat::kJson, OutputFormat::kCsv})
-    EXPECT_EQ(AnalysisOutput(format, state, hands), AnalysisOutput(format, state, {}));
+TEST_F(EachScenario, AddsNoWorkingToOtherFormats) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    const std::vector<std::string> hands = {"AA"};
+    for (const OutputFormat format :
+         {OutputFormat::kPlain, OutputFormat::kTable, OutputFormat::kJson, OutputFormat::kCsv})
+      EXPECT_EQ(AnalysisOutput(format, state, hands), AnalysisOutput(format, state, {}));
+  });
 }
 
 // ---- csv
 
-TEST_P(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
-  Analysis state = GetParam().run();
-  const std::array<Rgb, 169> colors = GridColors(state);
-  std::string expected = "hand,combos,ev,equity,fold,colour\n";
-  const auto rows = Cells(state.HandInfo);
-  ASSERT_THAT(rows, SizeIs(169));
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const std::vector<std::string>& cells = rows[i];
-    expected += cells[0] + "," + CombosOf(cells[0]) + "," + (GetParam().hasValue ? cells[1] : "") + "," + cells[2] +
-                "," + (GetParam().hasFold ? cells[3] : "") + "," + HexColor(colors[i]) + "\n";
-  }
-  EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
+TEST_F(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
+  InEach([](const RunCase& run, const Analysis& state) {
+    const std::array<Rgb, 169> colors = GridColors(state);
+    std::string expected = "hand,combos,ev,equity,fold,colour\n";
+    const auto rows = Cells(state.HandInfo);
+    ASSERT_THAT(rows, SizeIs(169));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const std::vector<std::string>& cells = rows[i];
+      expected += cells[0] + "," + CombosOf(cells[0]) + "," + (run.hasValue ? cells[1] : "") + "," + cells[2] + "," +
+                  (run.hasFold ? cells[3] : "") + "," + HexColor(colors[i]) + "\n";
+    }
+    EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
+  });
 }
 
 // ---- json
@@ -190,43 +203,46 @@ std::vector<std::string> NullKeys(const Json& object) {
   return keys;
 }
 
-TEST_P(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
-  Analysis state = GetParam().run();
-  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
-  EXPECT_TRUE(text.ends_with("}\n"));
-  const Json object = Json::parse(text);
-  EXPECT_THAT(Keys(object), ElementsAre("mode", "pot", "call", "shove", "range", "calling_range", "range_summary",
-                                        "calling_range_summary", "dropped_hands", "title", "situation", "explanation",
-                                        "best", "worst", "hands"));
-  ASSERT_THAT(object["hands"], SizeIs(169));
-  for (const Json& hand : object["hands"])
-    EXPECT_THAT(Keys(hand), ElementsAre("hand", "combos", "ev", "equity", "fold", "colour"));
+TEST_F(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+    EXPECT_TRUE(text.ends_with("}\n"));
+    const Json object = Json::parse(text);
+    EXPECT_THAT(Keys(object), ElementsAre("mode", "pot", "call", "shove", "range", "calling_range", "range_summary",
+                                          "calling_range_summary", "dropped_hands", "title", "situation", "explanation",
+                                          "best", "worst", "hands"));
+    ASSERT_THAT(object["hands"], SizeIs(169));
+    for (const Json& hand : object["hands"])
+      EXPECT_THAT(Keys(hand), ElementsAre("hand", "combos", "ev", "equity", "fold", "colour"));
+  });
 }
 
-TEST_P(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
-  Analysis state = GetParam().run();
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
-  const std::array<Rgb, 169> colors = GridColors(state);
-  const auto rows = Cells(state.HandInfo);
-  ASSERT_THAT(rows, SizeIs(169));
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const Json& hand = object["hands"][i];
-    const std::vector<std::string>& cells = rows[i];
-    EXPECT_EQ(hand["hand"], cells[0]);
-    EXPECT_EQ(std::to_string(hand["combos"].get<int>()), CombosOf(cells[0]));
-    EXPECT_EQ(hand["ev"], GetParam().hasValue ? Json(std::strtod(cells[1].c_str(), nullptr)) : Json()) << cells[0];
-    EXPECT_EQ(hand["equity"], std::strtod(cells[2].c_str(), nullptr)) << cells[0];
-    EXPECT_EQ(hand["fold"], GetParam().hasFold ? Json(std::strtod(cells[3].c_str(), nullptr)) : Json()) << cells[0];
-    EXPECT_EQ(hand["colour"], HexColor(colors[i])) << cells[0];
-  }
+TEST_F(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
+  InEach([](const RunCase& run, const Analysis& state) {
+    const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+    const std::array<Rgb, 169> colors = GridColors(state);
+    const auto rows = Cells(state.HandInfo);
+    ASSERT_THAT(rows, SizeIs(169));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const Json& hand = object["hands"][i];
+      const std::vector<std::string>& cells = rows[i];
+      EXPECT_EQ(hand["hand"], cells[0]);
+      EXPECT_EQ(std::to_string(hand["combos"].get<int>()), CombosOf(cells[0]));
+      EXPECT_EQ(hand["ev"], run.hasValue ? Json(std::strtod(cells[1].c_str(), nullptr)) : Json()) << cells[0];
+      EXPECT_EQ(hand["equity"], std::strtod(cells[2].c_str(), nullptr)) << cells[0];
+      EXPECT_EQ(hand["fold"], run.hasFold ? Json(std::strtod(cells[3].c_str(), nullptr)) : Json()) << cells[0];
+      EXPECT_EQ(hand["colour"], HexColor(colors[i])) << cells[0];
+    }
+  });
 }
 
-TEST_P(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
-  Analysis state = GetParam().run();
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
-  const GridTexts texts = MakeGridTexts(state);
-  EXPECT_EQ(object["situation"], WithUnixLineEnds(texts.HandInfo));
-  EXPECT_EQ(object["explanation"], WithUnixLineEnds(texts.Results));
+TEST_F(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
+  InEach([](const RunCase& /*run*/, const Analysis& state) {
+    const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+    const GridTexts texts = MakeGridTexts(state);
+    EXPECT_EQ(object["situation"], WithUnixLineEnds(texts.HandInfo));
+    EXPECT_EQ(object["explanation"], WithUnixLineEnds(texts.Results));
+  });
 }
 
 TEST(JsonOutput, HoldsNumbersOfAnySize) {

@@ -17,11 +17,6 @@ namespace {
 
 constexpr ClassRange kAllRows;
 
-std::int64_t Pairs(std::string_view one, std::string_view other) {
-  static const PointTable pairs = CountPairs();
-  return pairs[static_cast<std::size_t>(HandIndex(one))][static_cast<std::size_t>(HandIndex(other))];
-}
-
 // A few boards of every kind, spread over all board classes.
 std::vector<BoardClass> SampleBoards() {
   constexpr std::size_t kStep = 1511;
@@ -79,35 +74,6 @@ PointTable PlainPoints(const std::vector<BoardClass>& boards) {
     }
   }
   return points;
-}
-
-struct PairsCase {
-  const char* rule;
-  const char* one;
-  const char* other;
-  int pairs;
-};
-
-constexpr auto kPairsCases = std::to_array<PairsCase>({
-    {"DifferentPairsNeverMeet", "AA", "KK", 6 * 6},
-    {"APairLeavesOneOfItsOwn", "AA", "AA", 6},
-    {"APairTakesHalfTheSuitedHands", "AA", "AKs", 6 * 2},
-    {"APairTakesHalfTheOffsuitHands", "AA", "AKo", 6 * 6},
-    {"SuitedHandsOfOneClassNeedAnotherSuit", "AKs", "AKs", 4 * 3},
-    {"SuitedHandsThatShareARankNeedAnotherSuit", "AKs", "KQs", 4 * 3},
-    {"SuitedHandsOfFourRanksNeverMeet", "AKs", "QJs", 4 * 4},
-    {"OffsuitHandsAvoidBothCards", "AKo", "AKo", 12 * 7},
-    {"SuitedAgainstOffsuitOfTheSameRanks", "AKs", "AKo", 4 * 6},
-    {"OffsuitHandsThatShareARank", "AKo", "KQo", 12 * 9},
-    {"OffsuitHandsOfFourRanksNeverMeet", "AKo", "QJo", 12 * 12},
-});
-
-TEST(EachCountOfPairs, IsTheSameFromBothSides) {
-  for (const PairsCase& c : kPairsCases) {
-    SCOPED_TRACE(c.rule);
-    EXPECT_EQ(Pairs(c.one, c.other), c.pairs);
-    EXPECT_EQ(Pairs(c.other, c.one), c.pairs);
-  }
 }
 
 TEST(EquityEnumeration, EveryHandMeetsTheHandsOfTheFiftyOtherCards) {

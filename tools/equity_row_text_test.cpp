@@ -90,11 +90,6 @@ std::vector<std::string> TableRows() {
   return rows;
 }
 
-TEST(EquityRowText, LinesEndEachRow) {
-  const std::vector<std::string> rows = {"0.5 0.1 ", "0.9 0.5 "};
-  EXPECT_EQ(LinesOf(rows), "0.5 0.1 \n0.9 0.5 \n");
-}
-
 TEST(EquityRowText, SourcePartsEachRowBehindItsEightySixthEntry) {
   const std::vector<std::string> rows = TableRows();
   const std::string source = SourceTextOf(rows);
@@ -106,13 +101,6 @@ TEST(EquityRowText, SourcePartsEachRowBehindItsEightySixthEntry) {
     ASSERT_NE(at, std::string::npos);
   }
   EXPECT_EQ(std::count(source.begin(), source.end(), '"'), 4 * 169 + 2);
-}
-
-TEST(EquityRowText, RowsInTheirOrderAreJoined) {
-  const std::vector<std::string> rows = TableRows();
-  const JoinedRows joined = JoinRows(std::vector<RowFile>{{"whole.txt", LinesOf(rows)}});
-  EXPECT_EQ(joined.problem, "");
-  EXPECT_EQ(joined.rows, rows);
 }
 
 TEST(EquityRowText, RowsInAnyOrderAreJoined) {

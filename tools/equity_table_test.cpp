@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/wait.h>
+#include <utility>
 
 #include "hand/equity_rows.h"
 #include "support/files.h"
@@ -79,21 +80,17 @@ TEST_F(EquityTableProgram, WritesOneRowToAFileInsteadOfPrinting) {
   EXPECT_EQ(FileCount(), 1);
 }
 
-TEST_F(EquityTableProgram, JoinsPartsToTheSourceFile) {
+TEST_F(EquityTableProgram, JoinsPartsToRowsAndToTheSourceFile) {
   Write("upper.txt", Rows(0, 84));
   Write("lower.txt", Rows(85, 168));
-  const Outcome outcome =
-      RunProgram("--join \"" + Path("lower.txt") + "\" \"" + Path("upper.txt") + "\" --format source");
-  EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_TRUE(outcome.output == ReadAllBytes(QUILLON_SOURCE_DIR "/hand/equity_rows.cpp"));
-}
-
-TEST_F(EquityTableProgram, JoinsPartsToRows) {
-  Write("upper.txt", Rows(0, 84));
-  Write("lower.txt", Rows(85, 168));
-  const Outcome outcome = RunProgram("--join \"" + Path("lower.txt") + "\" \"" + Path("upper.txt") + "\"");
-  EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_TRUE(outcome.output == Rows(0, 168));
+  const std::string join = "--join \"" + Path("lower.txt") + "\" \"" + Path("upper.txt") + "\"";
+  for (const auto& [format, expected] :
+       {std::pair(std::string(), Rows(0, 168)),
+        {" --format source", ReadAllBytes(QUILLON_SOURCE_DIR "/hand/equity_rows.cpp")}}) {
+    const Outcome outcome = RunProgram(join + format);
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_TRUE(outcome.output == expected) << format;
+  }
 }
 
 TEST_F(EquityTableProgram, SaysWhichRowIsMissingFromAJoin) {

@@ -69,8 +69,9 @@ batch() {
 }
 
 web() {
-  build dev web_journey_test
+  build dev web_journey_test screens_test
   build/dev/bin/web_journey_test --gtest_brief=1
+  build/dev/bin/screens_test --gtest_brief=1 --gtest_filter='*Feedback*:*Upgrade*'
 }
 
 soak() {

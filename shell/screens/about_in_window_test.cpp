@@ -1,6 +1,9 @@
 #include <QCheckBox>
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
+#include <chrono>
+#include <thread>
 
 #include "results/web_addresses.h"
 #include "testing/fake_opener.h"
@@ -140,6 +143,32 @@ TEST_F(FeedbackInWindow, GoesOutAfterFiveSecondsUnderTheHourglass) {
   EXPECT_EQ(Web.Asked, std::vector<std::string>{Request("%78%40%79", "%48%69%21")});
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
   EXPECT_EQ(Note().toPlainText(), QString());
+}
+
+TEST(SystemMilliseconds, AreThoseThatPass) {
+  const std::int32_t start = SystemMilliseconds();
+  std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  EXPECT_GE(SystemMilliseconds() - start, 20);
+  EXPECT_LT(SystemMilliseconds() - start, 10'000);
+}
+
+// Pasted characters keep their codes, and lines of any kind end with CR LF.
+TEST_F(FeedbackInWindow, ANoteGoesOutCharacterByCharacter) {
+  for (const auto& [note, encoded] :
+       std::vector<std::pair<const char*, std::string>>{{"a\r\n¡b\n", "%61%0D%0A%A1%62%0D%0A"},
+                                                        {"a\tb\f\x01z\u00A0b\u2028b", "%61%9%62%C%1%7A%A0%62%0D%0A%62"},
+                                                        {"“5 €” Ω漢\U0001F0A1b", "%93%35%20%80%94%20%3F%3F%3F%62"}}) {
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(note));
+    Click("txtFeedback");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    Web.Replies = {"sent"};
+    ExpectInputBox(kAddressQuestion, "ü@x&y");
+    ExpectMessageBox(kSent);
+    Send();
+    VerifyExpectedBoxes();
+    ComeToFront();
+    EXPECT_EQ(Web.Asked.back(), Request("%FC%40%78%26%79", encoded));
+  }
 }
 
 TEST_F(FeedbackInWindow, AFailureKeepsTheText) {

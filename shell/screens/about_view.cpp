@@ -21,12 +21,6 @@ namespace {
 
 constexpr std::int16_t kUpgradeLink = 3;
 
-std::int32_t SystemMilliseconds() {
-  using std::chrono::milliseconds;
-  const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  return static_cast<std::int32_t>(std::chrono::duration_cast<milliseconds>(now).count());
-}
-
 // The hourglass as mouse pointer over the whole program, or the default pointer again, whoever has asked for it.
 void ShowHourglass(bool shown) {
   if (shown) {
@@ -63,10 +57,14 @@ CheckBoxState StateOf(const QCheckBox& box) {
 
 }  // namespace
 
-AboutView::AboutView(const MainControls& controls, Surroundings surroundings)
-    : controls_(controls), around_(std::move(surroundings)) {
-  if (!around_.Clock) around_.Clock = SystemMilliseconds;
+std::int32_t SystemMilliseconds() {
+  using std::chrono::milliseconds;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::int32_t>(std::chrono::duration_cast<milliseconds>(now).count());
 }
+
+AboutView::AboutView(const MainControls& controls, Surroundings surroundings)
+    : controls_(controls), around_(std::move(surroundings)) {}
 
 void AboutView::CheckForUpgrade() {
   Label& link = controls_.LabelAt("lblLink", kUpgradeLink);

@@ -16,6 +16,9 @@
 
 namespace quillon {
 
+/// Milliseconds since some moment, by the system's clock.
+[[nodiscard]] std::int32_t SystemMilliseconds();
+
 class AboutView {
  public:
   /// What the screen finds round it. All of it outlives the screen.
@@ -24,7 +27,7 @@ class AboutView {
     MessageBoxes& Messages;
     InputBoxes& Inputs;
     WebClient& Web;
-    std::function<std::int32_t()> Clock;  // the milliseconds that a wait is measured by; none: the system's
+    std::function<std::int32_t()> Clock;  // the milliseconds that a wait is measured by
   };
 
   AboutView(const MainControls& controls, Surroundings surroundings);

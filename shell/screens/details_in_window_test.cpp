@@ -67,11 +67,6 @@ class DetailsInWindow : public MainFormTest {
   }
 };
 
-struct ReportCase {
-  const char* Name;
-  Analysis (*State)();
-};
-
 Analysis ShoveWithDroppedHands() {
   Analysis state = sample::RaiseState();
   state.DroppedHands = "QQ, AKs";
@@ -86,31 +81,25 @@ Analysis CallWithOddDigits() {
   return state;
 }
 
-class ReportInWindow : public DetailsInWindow, public testing::WithParamInterface<ReportCase> {};
-
-TEST_P(ReportInWindow, IsTheCompanionsCharacterForCharacter) {
-  ShowDetailsOf(GetParam().State());
-  Analysis state = GetParam().State();
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
-  PickForum();
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, {}));
-  PickPlain();
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
-  PickForum();
-  PickHand("72o");
-  PickHand("AKs");
+TEST_F(DetailsInWindow, TheReportIsTheCompanionsCharacterForCharacter) {
   const std::array<std::string, 2> hands = {"72o", "AKs"};
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
-  QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
-  EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands)) << "none adds nothing, nor takes away";
+  for (const Analysis& state : {sample::CallState(), sample::RaiseState(), sample::EquityState(),
+                                ShoveWithDroppedHands(), CallWithOddDigits()}) {
+    SCOPED_TRACE(state.RangeName);
+    ShowDetailsOf(state);
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+    PickForum();
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, {}));
+    PickPlain();
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+    PickForum();
+    PickHand("72o");
+    PickHand("AKs");
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
+    QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands)) << "none adds nothing, nor takes away";
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportInWindow,
-                         testing::Values(ReportCase{"Call", sample::CallState}, ReportCase{"Raise", sample::RaiseState},
-                                         ReportCase{"Equity", sample::EquityState},
-                                         ReportCase{"DroppedHands", ShoveWithDroppedHands},
-                                         ReportCase{"OddDigits", CallWithOddDigits}),
-                         CaseName<ReportCase>);
 
 TEST_F(DetailsInWindow, HeadingsAreArialAndTheBodyIsFixedWidth) {
   ShowDetailsOf(sample::CallState());
@@ -150,36 +139,27 @@ Analysis LargestRaise() {
   return state;
 }
 
-Analysis SmallestCall() {
-  return sample::CallState();
-}
+TEST_F(DetailsInWindow, ColumnsStandOneAboveTheOther) {
+  for (const Analysis& state :
+       {sample::CallState(), LargestCall(), sample::RaiseState(), LargestRaise(), sample::EquityState()}) {
+    SCOPED_TRACE(state.HandInfo.substr(0, state.HandInfo.find('\r')));
+    ShowDetailsOf(state);
+    const QTextBlock header = Report().document()->find(QStringLiteral("Hand\t")).block();
+    ASSERT_TRUE(header.isValid());
+    const std::vector<int> columns = EdgesBehindTabs(header);
+    EXPECT_GE(columns.size(), 2U);
+    int rows = 0;
+    for (QTextBlock row = header.next(); !row.text().isEmpty(); row = row.next(), ++rows)
+      EXPECT_EQ(EdgesBehindTabs(row), columns) << row.text().toStdString();
+    EXPECT_EQ(rows, 169);
 
-using ReportColumns = ReportInWindow;
-
-TEST_P(ReportColumns, StandOneAboveTheOther) {
-  ShowDetailsOf(GetParam().State());
-  const QTextBlock header = Report().document()->find(QStringLiteral("Hand\t")).block();
-  ASSERT_TRUE(header.isValid());
-  const std::vector<int> columns = EdgesBehindTabs(header);
-  EXPECT_GE(columns.size(), 2U);
-  int rows = 0;
-  for (QTextBlock row = header.next(); !row.text().isEmpty(); row = row.next(), ++rows)
-    EXPECT_EQ(EdgesBehindTabs(row), columns) << row.text().toStdString();
-  EXPECT_EQ(rows, 169);
-
-  std::set<std::vector<int>> names;  // above the table, the texts after the names form one column
-  for (QTextBlock line = Report().document()->begin(); line != header; line = line.next()) {
-    if (!EdgesBehindTabs(line).empty()) names.insert(EdgesBehindTabs(line));
+    std::set<std::vector<int>> names;  // above the table, the texts after the names form one column
+    for (QTextBlock line = Report().document()->begin(); line != header; line = line.next()) {
+      if (!EdgesBehindTabs(line).empty()) names.insert(EdgesBehindTabs(line));
+    }
+    EXPECT_EQ(names.size(), 1U);
   }
-  EXPECT_EQ(names.size(), 1U);
 }
-
-INSTANTIATE_TEST_SUITE_P(DetailsInWindow, ReportColumns,
-                         testing::Values(ReportCase{"UsualCall", SmallestCall}, ReportCase{"LargestCall", LargestCall},
-                                         ReportCase{"UsualRaise", sample::RaiseState},
-                                         ReportCase{"LargestRaise", LargestRaise},
-                                         ReportCase{"Equity", sample::EquityState}),
-                         CaseName<ReportCase>);
 
 TEST_F(DetailsInWindow, HandsCanBePickedForTheForumAlone) {
   ShowDetailsOf(sample::CallState());

@@ -1,3 +1,6 @@
+#include <functional>
+#include <vector>
+
 #include "results/hover_panel.h"
 #include "testing/main_stage.h"
 #include "testing/sample_analysis.h"
@@ -129,44 +132,35 @@ TEST_F(HoverInWindow, EquityHidesTheOtherLinesAlsoForTheSameHand) {
   EXPECT_TRUE(Shows("lblHov_EV"));
 }
 
-struct LeaveCase {
-  const char* Name;
-  void (*Leave)(MainStage& stage);
-};
+TEST_F(HoverInWindow, APanelOfTheKeyboardsGoesWithItAndOneOfTheMousesStays) {
+  struct Row {
+    const char* Rule;
+    std::function<void()> Leave;
+  };
+  const std::vector<Row> rows = {{"Tab", [this] { Press(Qt::Key_Tab); }},
+                                 {"Escape", [this] { Press(Qt::Key_Escape); }},
+                                 {"another screen", [this] { Press(Qt::Key_1, Qt::ControlModifier); }},
+                                 {"another window", [this] {
+                                    Dialogs.ShowManager();
+                                    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialogs.LoadedManager()));
+                                  }}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.Rule);
+    ShowGridOf(sample::CallState());
+    OpenByKey();
+    row.Leave();
+    EXPECT_TRUE(Get("frameHover").isHidden());
+    ComeToFront();
+    EXPECT_TRUE(Get("frameHover").isHidden()) << "nor does it come back by itself";
 
-class GuestPanel : public HoverInWindow, public testing::WithParamInterface<LeaveCase> {
- protected:
-  void Leave() { GetParam().Leave(*this); }
-};
-
-TEST_P(GuestPanel, GoesWithTheKeyboardAndDoesNotComeBackByItself) {
-  ShowGridOf(sample::CallState());
-  OpenByKey();
-  Leave();
-  EXPECT_TRUE(Get("frameHover").isHidden());
-  ComeToFront();
-  EXPECT_TRUE(Get("frameHover").isHidden());
+    Open(kGridNav);
+    OpenByKey();
+    Hover("AKs");
+    row.Leave();
+    EXPECT_FALSE(Get("frameHover").isHidden());
+    ComeToFront();
+  }
 }
-
-TEST_P(GuestPanel, OfTheMouseStays) {
-  ShowGridOf(sample::CallState());
-  OpenByKey();
-  Hover("AKs");
-  Leave();
-  EXPECT_FALSE(Get("frameHover").isHidden());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    HoverInWindow, GuestPanel,
-    testing::Values(LeaveCase{"Tab", [](MainStage& stage) { stage.Press(Qt::Key_Tab); }},
-                    LeaveCase{"Escape", [](MainStage& stage) { stage.Press(Qt::Key_Escape); }},
-                    LeaveCase{"AnotherScreen", [](MainStage& stage) { stage.Press(Qt::Key_1, Qt::ControlModifier); }},
-                    LeaveCase{"AnotherWindow",
-                              [](MainStage& stage) {
-                                stage.Dialogs.ShowManager();
-                                ASSERT_TRUE(QTest::qWaitForWindowActive(stage.Dialogs.LoadedManager()));
-                              }}),
-    CaseName<LeaveCase>);
 
 TEST_F(HoverInWindow, TheMouseOnTheBareScreenClosesAPanelOfTheKeyboards) {
   ShowGridOf(sample::CallState());

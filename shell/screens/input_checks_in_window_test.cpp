@@ -36,7 +36,7 @@ TEST_F(ChecksInWindow, AComplaintIsShownInsteadOfARun) {
 // A user of German amounts.
 class GermanChecksInWindow : public testing::Test, public MainStage {
  protected:
-  GermanChecksInWindow() : MainStage(StageClock::kHurried, {"€", ",", "."}) {}
+  GermanChecksInWindow() : MainStage({"€", ",", "."}) {}
   void SetUp() override { Start(); }
 };
 

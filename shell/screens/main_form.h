@@ -44,7 +44,7 @@ class MainForm : public QWidget {
     ShiftWatch& Shift;
     std::function<void()> EndProcess;  // ends the program at once
     NumberMarks Marks = {};  // of the user's locale
-    std::function<std::int32_t()> Clock = {};  // in milliseconds; by default the system's
+    std::function<std::int32_t()> Clock = SystemMilliseconds;
   };
 
   explicit MainForm(Surroundings surroundings);

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QImage>
+#include <functional>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <map>
@@ -22,14 +23,18 @@
 namespace quillon {
 namespace {
 
-class ScalesInWindow : public testing::Test, public MainStage, public testing::WithParamInterface<int> {
+class ScalesInWindow : public MainFormTest {
  protected:
-  void SetUp() override {
-    StoreZoom(GetParam(), Program.Folder());
-    Start();
-    ASSERT_EQ(PixelScale(), GetParam() / 100.0);
-  }
   void TearDown() override { ShowAtScale(1); }
+
+  /// Checks at each step of the zoom.
+  static void AtEachScale(const std::function<void()>& check) {
+    for (const int percent : kZoomSteps) {
+      SCOPED_TRACE(percent);
+      ShowAtScale(percent / 100.0);
+      check();
+    }
+  }
 };
 
 // Boxes, lists and buttons, besides the labels.
@@ -51,11 +56,14 @@ void ExpectRoomForAll(Form& form, std::span<const ControlTable> tables) {
   ExpectNoLabelRunsIntoItsNeighbours(form.Controls(), tables);
 }
 
-TEST_P(ScalesInWindow, EveryTextFitsItsPlace) {
-  ExpectRoomForAll(Form, main_layout::kTables);
+TEST_F(ScalesInWindow, EveryTextFitsItsPlace) {
   Dialogs.ShowManager();
-  ExpectRoomForAll(*Dialogs.LoadedManager(), manager_layout::kTables);
-  ExpectRoomForAll(Dialogs.ShowNewRange(), new_range_layout::kTables);
+  Dialogs.ShowNewRange();
+  AtEachScale([this] {
+    ExpectRoomForAll(Form, main_layout::kTables);
+    ExpectRoomForAll(*Dialogs.LoadedManager(), manager_layout::kTables);
+    ExpectRoomForAll(*Dialogs.LoadedNewRange(), new_range_layout::kTables);
+  });
 }
 
 // How many lines each label of several has, by the labels' names.
@@ -69,16 +77,17 @@ std::map<std::string, int> LinesOf(const QWidget& form) {
   return lines;
 }
 
-TEST_P(ScalesInWindow, TextsHaveNoMoreLinesThanInTheDesign) {
+TEST_F(ScalesInWindow, TextsHaveNoMoreLinesThanInTheDesign) {
   Dialogs.ShowManager();
   Dialogs.ShowNewRange();
   for (const QWidget* form :
        std::initializer_list<QWidget*>{&Form, Dialogs.LoadedManager(), Dialogs.LoadedNewRange()}) {
-    ShowAtScale(GetParam() / 100.0);
-    const std::map<std::string, int> here = LinesOf(*form);
     ShowAtScale(1);
-    for (const auto& [label, lines] : LinesOf(*form))
-      EXPECT_LE(here.at(label), lines) << label;
+    const std::map<std::string, int> design = LinesOf(*form);
+    AtEachScale([&] {
+      for (const auto& [label, lines] : LinesOf(*form))
+        EXPECT_LE(lines, design.at(label)) << label;
+    });
   }
 }
 
@@ -97,7 +106,7 @@ double ContrastOfCaption(const QImage& cell) {
   return ContrastRatio(darkest, lightest);
 }
 
-TEST_P(ScalesInWindow, CaptionsOfTheGridStandOutFromTheirCells) {
+TEST_F(ScalesInWindow, CaptionsOfTheGridStandOutFromTheirCells) {
   const auto expectLegible = [this] {
     constexpr double kLegible = 3;
     int edged = 0;
@@ -116,26 +125,25 @@ TEST_P(ScalesInWindow, CaptionsOfTheGridStandOutFromTheirCells) {
     return edged;
   };
   RunRaise("150", "50", "400", "Tight", "Pairs");
-  EXPECT_GT(expectLegible(), 0) << "there are losses on dark red";
+  AtEachScale([&] { EXPECT_GT(expectLegible(), 0) << "there are losses on dark red"; });
   RunEquity("Tight");
-  expectLegible();
+  AtEachScale(expectLegible);
 }
 
 // The head of the box is a picture, 30 twips wider than the box, and ends with it.
-TEST_P(ScalesInWindow, TheHeadOfTheQuickInfoIsAsWideAsItsBox) {
-  Click("picLogo");
-  const QRect head = Get("aImage", 0).geometry();
-  const QRect box = Get("aRectangle", 3).geometry();
-  const QImage picture = Get("frameAboutContent").grab(head).toImage();
-  const int row = picture.height() * 47 / 60;  // the blue rule
-  int last = 0;
-  for (int x = 0; x < picture.width(); ++x) {
-    if (picture.pixelColor(x, row).lightness() < 200) last = x;
-  }
-  EXPECT_NEAR(head.left() + last, box.right(), 1);
+TEST_F(ScalesInWindow, TheHeadOfTheQuickInfoIsAsWideAsItsBox) {
+  AtEachScale([this] {
+    const QRect head = Get("aImage", 0).geometry();
+    const QRect box = Get("aRectangle", 3).geometry();
+    const QImage picture = Get("frameAboutContent").grab(head).toImage();
+    const int row = picture.height() * 47 / 60;  // the blue rule
+    int last = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixelColor(x, row).lightness() < 200) last = x;
+    }
+    EXPECT_NEAR(head.left() + last, box.right(), 1);
+  });
 }
-
-INSTANTIATE_TEST_SUITE_P(InWindow, ScalesInWindow, testing::Values(75, 90, 100, 110, 125, 150, 175, 200, 250, 300));
 
 }  // namespace
 }  // namespace quillon

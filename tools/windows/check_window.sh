@@ -16,8 +16,8 @@ without=(
   \*ArgumentsAreRefused\*
   # Wine: a window is a few pixels beside the place where it was put, as its frame is another program's, and xdg-open is
   # not what opens a page.
-  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\* LargePaintingJourney.\*
-  \*LeadsThroughTheWholeProgram\* \*ResultsAreTakenAlong\*
+  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\* PaintingJourney.\*
+  \*LeadsThroughTheWholeProgram\*
 )
 
 tools/windows/build.sh
