@@ -33,9 +33,10 @@ if(WIN32)
   # Windows 10 and later, with names in UTF-16, and without the macros that hide std::min and std::max.
   target_compile_definitions(quillon_flags INTERFACE
     _WIN32_WINNT=0x0A00 WINVER=0x0A00 NOMINMAX UNICODE _UNICODE)
-  # What the stack protector calls is in a library; and without the time of the build.
+  # What the stack protector calls is in a library; without the time of the build; and with stacks as large as on Linux,
+  # for what is matched recursively (cmake/httplib.cmake).
   target_link_options(quillon_flags INTERFACE
-    $<${hardened}:-fstack-protector-strong> LINKER:--no-insert-timestamp)
+    $<${hardened}:-fstack-protector-strong> LINKER:--no-insert-timestamp,--stack,8388608)
   # Programs without a window run alone; the window shares Qt's libraries and those of the compiler with them.
   if(NOT QUILLON_GUI)
     target_link_options(quillon_flags INTERFACE -static)

@@ -41,7 +41,7 @@ Files FilesOf(const ProgramFolder& folder) {
     if (!entry.is_regular_file()) continue;
     std::ostringstream bytes;
     bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-    files[entry.path().lexically_relative(folder.Path).string()] = bytes.str();
+    files[entry.path().lexically_relative(folder.Path).generic_string()] = bytes.str();
   }
   return files;
 }

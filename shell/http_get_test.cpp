@@ -43,6 +43,11 @@ std::string TargetOf(const std::string& request) {
   return request.substr(start, request.find(' ', start) - start);
 }
 
+void BreakLater(const LoopbackConnection& connection) {
+  std::this_thread::sleep_for(milliseconds(50));  // until the bytes are there, which a break takes back
+  connection.Break();
+}
+
 class HttpGetTime : public testing::Test {
  protected:
   [[nodiscard]] milliseconds Spent() const { return std::chrono::duration_cast<milliseconds>(Clock::now() - start_); }
@@ -259,7 +264,6 @@ TEST_F(HttpGetTime, EndsWithAConnectionThatIsCutShort) {
       Row{"closed in the body", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n0.9", false},
       Row{"broken before the head", "", true},
       Row{"broken in the body", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n0.9", true},
-      Row{"broken in a body without a length", "HTTP/1.1 200 OK\r\n\r\n0.9", true},
       Row{"closed in a chunk", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n9\r\n0.9", false},
       Row{"closed before the last chunk", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\n0.9\r\n", false},
       Row{"no reply of HTTP", "0.9 sent\r\n\r\n0.9 sent", false},
@@ -267,12 +271,20 @@ TEST_F(HttpGetTime, EndsWithAConnectionThatIsCutShort) {
   for (const Row& row : kRows) {
     const LoopbackHost host([&](LoopbackConnection& connection) {
       connection.Send(row.Bytes);
-      if (!row.Breaks) return;
-      std::this_thread::sleep_for(milliseconds(50));  // until the bytes are there, which a break takes back
-      connection.Break();
+      if (row.Breaks) BreakLater(connection);
     });
     EXPECT_EQ(Get(host.Address()), "") << row.Name;
   }
+  ExpectNoWait();
+}
+
+TEST_F(HttpGetTime, EndsWithABodyWithoutALengthThatBreaksOff) {
+  if (!TellsBreaks()) GTEST_SKIP() << "Wine: after a wait for bytes a broken connection reads as a closed one";
+  const LoopbackHost host([](LoopbackConnection& connection) {
+    connection.Send("HTTP/1.1 200 OK\r\n\r\n0.9");
+    BreakLater(connection);
+  });
+  EXPECT_EQ(Get(host.Address()), "");
   ExpectNoWait();
 }
 

@@ -96,7 +96,6 @@ bool HasLongName(std::wstring_view path) {
 // all, and "CON.txt" in any folder is the console. A device that is named alone, such as "NUL", stays one.
 std::wstring SystemPath(const std::string& text) {
   std::filesystem::path path = PathOf(text);
-  path.make_preferred();
   if (path.empty() || path.native().starts_with(kVerbatim)) return path.native();
   if (!path.has_parent_path() && !NameFault(text).empty()) return path.native();
   if (path.native().starts_with(kShare)) return std::wstring(kVerbatim) + L"UNC" + path.native().substr(1);
@@ -118,19 +117,18 @@ struct Opening {
 
 Opening OpeningFor(OpenFor purpose) {
   switch (purpose) {
-    case OpenFor::kReading:
-    case OpenFor::kStreaming:
-      return {GENERIC_READ, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL};
     case OpenFor::kWriting:
       return {GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL};
     case OpenFor::kRewriting:
       return {GENERIC_WRITE, TRUNCATE_EXISTING, FILE_ATTRIBUTE_NORMAL};
     case OpenFor::kCreating:
       return {GENERIC_WRITE, CREATE_NEW, FILE_ATTRIBUTE_NORMAL};
+    case OpenFor::kReading:
+    case OpenFor::kStreaming:
     case OpenFor::kListing:
       break;
   }
-  return {GENERIC_READ, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS};  // which folders are opened with
+  return {GENERIC_READ, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS};  // which folders are opened with too
 }
 
 HANDLE HandleOf(int file) {
@@ -158,12 +156,11 @@ class WindowsFileCalls final : public FileCalls {
     const DWORD attributes = GetFileAttributesW(name.c_str());
     const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
     const bool folder = isThere && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    if (isThere && folder != (purpose == OpenFor::kListing)) {
-      if (purpose == OpenFor::kCreating) return -EEXIST;
-      return folder ? -EISDIR : -ENOTDIR;
-    }
-    // A disk of another system may let its superuser write such a file.
     const bool writes = purpose == OpenFor::kWriting || purpose == OpenFor::kRewriting;
+    if (isThere && purpose == OpenFor::kCreating) return -EEXIST;
+    if (isThere && !folder && purpose == OpenFor::kListing) return -ENOTDIR;
+    if (folder && writes) return -EISDIR;
+    // A disk of another system may let its superuser write such a file.
     if (isThere && writes && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return -EACCES;
     const Opening opening = OpeningFor(purpose);
     HANDLE handle = INVALID_HANDLE_VALUE;
@@ -180,6 +177,7 @@ class WindowsFileCalls final : public FileCalls {
     DWORD count = 0;
     if (ReadFile(HandleOf(file), buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr) != 0) return count;
     const DWORD error = GetLastError();
+    if (error == ERROR_INVALID_FUNCTION) return -EISDIR;  // nothing else that can be opened cannot be read
     return error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF ? 0 : -ErrorNumber(error);
   }
   std::ptrdiff_t Write(int file, std::string_view bytes) override {
@@ -199,9 +197,11 @@ class WindowsFileCalls final : public FileCalls {
     const std::wstring oldName = SystemPath(from);
     const std::wstring newName = SystemPath(to);
     // ReplaceFileW would keep more of the old file, but between its steps there is none of that name.
-    return Patiently({EBUSY, EACCES}, [&] {
-      return MoveFileExW(oldName.c_str(), newName.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    const DWORD replacing = IsFolder(oldName) ? 0 : MOVEFILE_REPLACE_EXISTING;
+    const int renamed = Patiently({EBUSY, EACCES}, [&] {
+      return MoveFileExW(oldName.c_str(), newName.c_str(), replacing | MOVEFILE_WRITE_THROUGH) != 0;
     });
+    return renamed == -EEXIST && !IsFolder(newName) ? -ENOTDIR : renamed;
   }
   int Unlink(const std::string& path) override {
     const std::wstring name = SystemPath(path);
@@ -257,8 +257,9 @@ FileCalls& SystemFileCalls() {
   return calls;
 }
 
+// With the one separator that this system shows.
 std::filesystem::path PathOf(std::string_view text) {
-  return WideText(text);
+  return std::filesystem::path(WideText(text)).make_preferred();
 }
 
 // The iterators of the library list the current folder where a path is longer than 259 characters.

@@ -110,5 +110,10 @@ TEST_F(FilesOfWindows, AreReachedByEveryFormOfAPath) {
   fs::current_path(before);
 }
 
+TEST(PathsOfWindows, ShowOneKindOfSeparator) {
+  EXPECT_EQ(PathOf("C:/Quillon\\Ranges/x.txt").string(), R"(C:\Quillon\Ranges\x.txt)");
+  EXPECT_EQ(FileOfName(PathOf("//server/share/Ranges"), "x.txt").string(), R"(\\server\share\Ranges\x.txt)");
+}
+
 }  // namespace
 }  // namespace quillon

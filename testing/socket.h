@@ -51,4 +51,8 @@ class Socket {
   std::intptr_t number_;
 };
 
+/// Whether a read tells a connection that broke from one that was closed. Under Wine it does not where something has
+/// waited for bytes before: its select() takes the error away, and the read returns 0.
+[[nodiscard]] bool TellsBreaks();
+
 }  // namespace quillon

@@ -78,4 +78,8 @@ void Socket::Break() const {
   setsockopt(Number(number_), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
 }
 
+bool TellsBreaks() {
+  return true;
+}
+
 }  // namespace quillon

@@ -94,4 +94,8 @@ void Socket::Break() const {
   setsockopt(Number(number_), SOL_SOCKET, SO_LINGER, bytes.data(), static_cast<int>(bytes.size()));
 }
 
+bool TellsBreaks() {
+  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
+}
+
 }  // namespace quillon

@@ -4,7 +4,8 @@
 #
 #   QUILLON_KILLS=200 tools/windows/check_core.sh    kills more processes while they save than usual
 #
-# What Wine 8 alone does: it leaves a file its letters where only their case is to change.
+# What Wine 8 alone does: it leaves a file its letters where only their case is to change, and a connection that breaks
+# reads as one that was closed once something has waited for it with select().
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
 
