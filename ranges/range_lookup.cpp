@@ -37,7 +37,7 @@ std::vector<std::string> RangeNames(const ProgramFolder& folder) {
 // A name is that of a file in the range folder: one with a separator would lead elsewhere.
 bool HasFile(const std::string& name, const ProgramFolder& folder) {
   std::error_code none;
-  if (name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) return false;
+  if (name.find('\0') != std::string::npos || PathOf(RangeFileName(name)).has_parent_path()) return false;
   return std::filesystem::exists(std::filesystem::symlink_status(RangeFilePath(folder, name), none));
 }
 

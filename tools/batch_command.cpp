@@ -183,7 +183,7 @@ int AnswerLines(const Request& request, const Surroundings& surroundings) {
   if (request.file == kStandardInput) return surroundings.Input == nullptr ? kDone : run(*surroundings.Input->rdbuf());
   const OpenFile file(request.file, inputs);
   if (file.Descriptor() < 0) return inputs.Status();
-  DescriptorInput input(file.Descriptor(), request.file);
+  DescriptorInput input(file.Descriptor(), PathOf(request.file));
   return run(input);
 }
 

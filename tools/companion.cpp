@@ -129,6 +129,7 @@ int Run(const std::vector<OfferedCommand>& commands, const Surroundings& surroun
 
 int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings) {
   CLI::App app("Call the all-in, or shove yourself? The answer for all 169 starting hands.", "quillon-cli");
+  app.allow_windows_style_options(false);  // "/file" is a path everywhere
   app.require_subcommand(0, 1);
   app.formatter(std::make_shared<ManualFormatter>());
   app.set_version_flag("--version", std::string("quillon-cli ").append(kVersionText));
