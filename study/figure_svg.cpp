@@ -1,6 +1,8 @@
 #include "study/figure_svg.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <initializer_list>
 #include <string_view>
 #include <utility>
@@ -27,15 +29,8 @@ std::string Dashes(const FigurePen& pen) {
 }
 
 std::string_view AnchorText(FigureAnchor anchor) {
-  switch (anchor) {
-    case FigureAnchor::kMiddle:
-      return "middle";
-    case FigureAnchor::kEnd:
-      return "end";
-    case FigureAnchor::kStart:
-      break;
-  }
-  return {};
+  constexpr std::array<std::string_view, 3> kTexts = {"", "middle", "end"};  // the start goes without saying
+  return kTexts.at(static_cast<std::size_t>(anchor));
 }
 
 // Writes each part as it comes.

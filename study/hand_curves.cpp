@@ -42,16 +42,8 @@ Limit LimitOf(const StudySituation& situation, const RangeNumbers& ranges, std::
 }
 
 std::string NoteOf(const Limit& limit) {
-  switch (limit.Kind) {
-    case LimitKind::kUpTo:
-      return "up to " + ShortAmount(limit);
-    case LimitKind::kFrom:
-      return "from " + ShortAmount(limit);
-    case LimitKind::kAlways:
-    case LimitKind::kNever:
-      break;
-  }
-  return LimitText(limit);
+  const std::string kind(LimitKindName(limit.Kind));
+  return HasAmount(limit) ? kind + " " + ShortAmount(limit) : kind;
 }
 
 // 1, 2 and 5 times powers of ten, as the nearest number to each.

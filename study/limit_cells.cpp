@@ -115,11 +115,12 @@ int CombosGoodAt(const Limits& limits, double amount) {
   return combos;
 }
 
-std::string LimitTable(const Limits& limits) {
-  std::string text = "hand\tlimit\tamount\n";
+std::string LimitTable(const Limits& limits, char separator) {
+  const std::string between(1, separator);
+  std::string text = "hand" + between + "limit" + between + "amount\n";
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const Limit& limit = limits[static_cast<std::size_t>(index)];
-    text.append(HandLabel(index)).append("\t").append(LimitKindName(limit.Kind)).append("\t");
+    text.append(HandLabel(index)).append(between).append(LimitKindName(limit.Kind)).append(between);
     text.append(HasAmount(limit) ? NumberText(limit.Amount) : "").append("\n");
   }
   return text;

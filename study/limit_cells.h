@@ -71,8 +71,8 @@ class AmountShades {
 /// How many concrete hands, 0 to 1326, do not lose at the amount.
 [[nodiscard]] int CombosGoodAt(const Limits& limits, double amount);
 
-/// The limits as lines of three columns separated by tabs, under a heading, for a spreadsheet: hand, kind of limit
-/// (LimitKindName), and the amount with every digit, empty where there is none.
-[[nodiscard]] std::string LimitTable(const Limits& limits);
+/// The limits as lines of three columns under a heading: hand, kind of limit (LimitKindName), and the amount with every
+/// digit, empty where there is none. Tabs separate what goes into a spreadsheet, commas what is a file.
+[[nodiscard]] std::string LimitTable(const Limits& limits, char separator);
 
 }  // namespace quillon

@@ -71,9 +71,10 @@ TEST(CombosGoodAt, CountsConcreteHands) {
 TEST(LimitTable, HasEveryDigit) {
   Limits limits = SomeLimits();
   limits[1].Amount = 116724.440523361;
-  const std::string table = LimitTable(limits);
-  EXPECT_THAT(table, StartsWith("hand\tlimit\tamount\nAA\talways\t\nAKs\tup to\t116724.440523361\nAQs\tfrom\t30\n"));
-  EXPECT_THAT(table, HasSubstr("\n22\tnever\t\n"));
+  const std::string table = LimitTable(limits, ',');
+  EXPECT_THAT(table, StartsWith("hand,limit,amount\nAA,always,\nAKs,up to,116724.440523361\nAQs,from,30\n"));
+  EXPECT_THAT(table, HasSubstr("\n22,never,\n"));
+  EXPECT_THAT(LimitTable(limits, '\t'), HasSubstr("\nAQs\tfrom\t30\n"));
 }
 
 }  // namespace

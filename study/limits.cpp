@@ -71,17 +71,8 @@ Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call) {
 }
 
 std::string_view LimitKindName(LimitKind kind) {
-  switch (kind) {
-    case LimitKind::kUpTo:
-      return "up to";
-    case LimitKind::kFrom:
-      return "from";
-    case LimitKind::kAlways:
-      return "always";
-    case LimitKind::kNever:
-      break;
-  }
-  return "never";
+  constexpr std::array<std::string_view, 4> kNames = {"up to", "always", "never", "from"};
+  return kNames.at(static_cast<std::size_t>(kind));
 }
 
 bool LosesAt(const Limit& limit, double amount) {
@@ -99,17 +90,8 @@ bool LosesAt(const Limit& limit, double amount) {
 }
 
 std::string LimitText(const Limit& limit) {
-  switch (limit.Kind) {
-    case LimitKind::kUpTo:
-      return NumberText(limit.Amount);
-    case LimitKind::kFrom:
-      return "from " + NumberText(limit.Amount);
-    case LimitKind::kAlways:
-      return "always";
-    case LimitKind::kNever:
-      break;
-  }
-  return "never";
+  if (!HasAmount(limit)) return std::string(LimitKindName(limit.Kind));
+  return (limit.Kind == LimitKind::kFrom ? "from " : "") + NumberText(limit.Amount);
 }
 
 std::string ShortAmount(const Limit& limit) {

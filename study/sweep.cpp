@@ -54,15 +54,8 @@ std::vector<std::string_view> Parts(std::string_view text) {
 }
 
 double& AmountOf(Amounts& amounts, SweptAmount which) {
-  switch (which) {
-    case SweptAmount::kPot:
-      return amounts.Pot;
-    case SweptAmount::kCall:
-      return amounts.Call;
-    case SweptAmount::kShove:
-      break;
-  }
-  return amounts.Shove;
+  constexpr std::array kFields = {&Amounts::Pot, &Amounts::Call, &Amounts::Shove};
+  return amounts.*kFields.at(static_cast<std::size_t>(which));
 }
 
 using AllFigures = std::array<ClassFigures, kHandClassCount>;

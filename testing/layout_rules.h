@@ -3,13 +3,16 @@
 // Rules that every layout keeps, whatever its rows say. Pictures of each screen are compared in
 // "tests/screens_journey_test.cpp".
 
+#include <QImageReader>
 #include <QWidget>
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "toolkit/artwork_painting.h"
 #include "toolkit/form_builder.h"
 #include "toolkit/label.h"
 #include "toolkit/picture.h"
@@ -60,15 +63,34 @@ inline void ExpectNoLabelRunsIntoItsNeighbours(const FormControls& controls, std
   }
 }
 
-/// Each picture can be drawn.
+/// Each picture can be drawn, and was drawn in the size of its place; where the build has made an image of it, that
+/// many times as large.
 inline void ExpectPicturesAreThere(const FormControls& controls, std::span<const ControlTable> tables) {
   for (const ControlTable& table : tables) {
     for (const ControlRow& row : table.Rows) {
       if (row.Picture.empty()) continue;
+      const std::string name = ObjectName(row.Name, row.Index);
       const auto& picture = dynamic_cast<const Picture&>(controls.At(row));
-      EXPECT_FALSE(ArtworkPixmap(picture.Artwork(), picture.size(), 1).isNull()) << ObjectName(row.Name, row.Index);
+      EXPECT_FALSE(ArtworkPixmap(picture.Artwork(), picture.size(), 1).isNull()) << name;
+      if (table.Container == "frameControls") continue;  // which only keeps them
+      const QString file = ArtworkFile(picture.Artwork());
+      const QSize drawn = QImageReader(file).size();
+      const QSize place = PixelPlace(row.Place).size();
+      EXPECT_EQ(drawn, place * (file.endsWith(QStringLiteral(".svg")) ? 1 : drawn.width() / place.width())) << name;
     }
   }
+}
+
+/// The tool tips of these controls, and those that have none.
+inline void ExpectToolTips(const FormControls& controls, const std::map<std::string, const char*>& tips) {
+  for (const auto& [name, tip] : tips)
+    EXPECT_EQ(FromQt(controls.At(name).toolTip()), tip) << name;
+}
+
+/// The hand shows over these controls.
+inline void ExpectHands(const FormControls& controls, const std::vector<std::string>& names) {
+  for (const std::string& name : names)
+    EXPECT_EQ(controls.At(name).cursor().shape(), Qt::PointingHandCursor) << name;
 }
 
 }  // namespace quillon

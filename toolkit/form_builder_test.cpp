@@ -1,18 +1,14 @@
 #include "toolkit/form_builder.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QWheelEvent>
 #include <array>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
 #include "toolkit/colors.h"
-#include "toolkit/rich_text_box.h"
 #include "toolkit/text_box.h"
 
 namespace quillon {
@@ -26,46 +22,6 @@ constexpr std::array kOneTable = {ControlTable{.Container = "", .Font = kFont, .
 
 template <const auto& kRows>
 using OneTable = LayoutControls<kOneTable<kRows>>;
-
-TEST(FormBuilder, MakesOfEachKindTheControlThatItNames) {
-  static constexpr std::array kRows = {
-      ControlRow{.Name = "label", .Kind = ControlKind::kLabel, .Place = kPlace},
-      ControlRow{.Name = "picture", .Kind = ControlKind::kPicture, .Place = kPlace},
-      ControlRow{.Name = "shape", .Kind = ControlKind::kShape, .Place = kPlace},
-      ControlRow{.Name = "rounded", .Kind = ControlKind::kRoundedShape, .Place = kPlace},
-      ControlRow{.Name = "line", .Kind = ControlKind::kLine, .Place = kPlace},
-      ControlRow{.Name = "text", .Kind = ControlKind::kTextBox, .Place = kPlace},
-      ControlRow{.Name = "memo", .Kind = ControlKind::kMemo, .Place = kPlace},
-      ControlRow{.Name = "readOnly", .Kind = ControlKind::kReadOnlyMemo, .Place = kPlace},
-      ControlRow{.Name = "chooser", .Kind = ControlKind::kChooser, .Place = kPlace},
-      ControlRow{.Name = "list", .Kind = ControlKind::kListBox, .Place = kPlace},
-      ControlRow{.Name = "check", .Kind = ControlKind::kCheckBox, .Place = kPlace},
-      ControlRow{.Name = "button", .Kind = ControlKind::kButton, .Place = kPlace},
-      ControlRow{.Name = "frame", .Kind = ControlKind::kFrame, .Place = kPlace},
-      ControlRow{.Name = "rich", .Kind = ControlKind::kRichTextBox, .Place = kPlace},
-  };
-  QWidget form;
-  const OneTable<kRows> controls(form);
-
-  EXPECT_NO_THROW({
-    std::ignore = controls.LabelAt("label");
-    std::ignore = controls.PictureAt("picture");
-    std::ignore = controls.ShapeAt("shape");
-    std::ignore = controls.ShapeAt("rounded");
-    std::ignore = controls.ShapeAt("line");
-    std::ignore = controls.Get<TextBox>("text");
-    EXPECT_FALSE(controls.Get<QPlainTextEdit>("memo").isReadOnly());
-    EXPECT_TRUE(controls.Get<QPlainTextEdit>("readOnly").isReadOnly());
-    std::ignore = controls.Get<QComboBox>("chooser");
-    std::ignore = controls.Get<QListWidget>("list");
-    std::ignore = controls.Get<QCheckBox>("check");
-    std::ignore = controls.Get<QPushButton>("button");
-    std::ignore = controls.FrameAt("frame");
-    std::ignore = controls.Get<RichTextBox>("rich");
-  });
-  for (const ControlRow& row : kRows)
-    EXPECT_EQ(controls.Find(std::string(row.Name))->geometry(), QRect(10, 20, 100, 40)) << row.Name;
-}
 
 TEST(FormBuilder, PutsTheFirstOfTwoRowsInFront) {
   static constexpr std::array kRows = {
@@ -99,14 +55,6 @@ TEST(FormBuilder, FindsControlsByNameAndIndex) {
   EXPECT_EQ(controls.Find("txtNumber(2)"), nullptr);
 }
 
-TEST(FormBuilder, FailsAtAnIndexThatIsNotThere) {
-  static constexpr std::array kRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
-  QWidget form;
-  const OneTable<kRows> controls(form);
-
-  EXPECT_THROW(std::ignore = controls.LabelAt("lblPot", 0), std::logic_error);
-}
-
 TEST(FormBuilder, PutsEachTableIntoItsContainer) {
   static constexpr std::array kFormRows = {ControlRow{.Name = "frameContent",
                                                       .Index = 0,
@@ -130,11 +78,13 @@ TEST(FormBuilder, PutsEachTableIntoItsContainer) {
   EXPECT_EQ(label.font().pixelSize(), 16);
 }
 
-TEST(FormBuilder, FailsAtATableWithoutItsContainer) {
-  const std::array tables = {ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = {}}};
+TEST(FormBuilder, FailsAtWhatIsNotThere) {
+  static constexpr std::array kRows = {ControlRow{.Name = "lblPot", .Place = kPlace}};
+  constexpr std::array kNoContainer = {ControlTable{.Container = "frameContent(0)", .Font = kFont, .Rows = {}}};
   QWidget form;
-
-  EXPECT_THROW(FormControls(form, tables), std::logic_error);
+  const OneTable<kRows> controls(form);
+  EXPECT_THROW(std::ignore = controls.LabelAt("lblPot", 0), std::logic_error);
+  EXPECT_THROW(FormControls(form, kNoContainer), std::logic_error);
 }
 
 TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
@@ -199,29 +149,6 @@ TEST(FormBuilder, LeavesTheWheelToTheWindowAndToWhatHasTheFocus) {
   }
   EXPECT_EQ(list.currentIndex(), 0);
   EXPECT_EQ(text.font(), font) << "its size is the window's zoom";
-}
-
-TEST(FormBuilder, GivesALineOfNoHeightAPixelToBeSeenBy) {
-  static constexpr std::array kRows = {
-      ControlRow{.Name = "across", .Kind = ControlKind::kLine, .Place = {150, 300, 1500, 0}},
-      ControlRow{.Name = "down", .Kind = ControlKind::kLine, .Place = {150, 300, 0, 1500}},
-  };
-  QWidget form;
-  const OneTable<kRows> controls(form);
-
-  EXPECT_EQ(controls.ShapeAt("across").geometry(), QRect(10, 20, 100, 1));
-  EXPECT_EQ(controls.ShapeAt("down").geometry(), QRect(10, 20, 1, 100));
-}
-
-TEST(FormBuilder, FindsAControlThatWasAdded) {
-  static constexpr std::array kRows = {ControlRow{.Name = "lblCards", .Index = 0, .Place = kPlace}};
-  QWidget form;
-  OneTable<kRows> controls(form);
-  Label label(&form);
-  label.setObjectName(QStringLiteral("lblCards(168)"));
-  controls.Add(&label);
-
-  EXPECT_EQ(&controls.LabelAt("lblCards", 168), &label);
 }
 
 }  // namespace

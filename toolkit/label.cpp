@@ -4,6 +4,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 #include "toolkit/accessible_control.h"
 #include "toolkit/twip_geometry.h"
@@ -12,15 +14,8 @@ namespace quillon {
 namespace {
 
 int SideOf(TextAlignment alignment) {
-  switch (alignment) {
-    case TextAlignment::kLeft:
-      return Qt::AlignLeft;
-    case TextAlignment::kCentered:
-      return Qt::AlignHCenter;
-    case TextAlignment::kRight:
-      return Qt::AlignRight;
-  }
-  return Qt::AlignLeft;
+  constexpr std::array kSides = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+  return kSides.at(static_cast<std::size_t>(alignment));
 }
 
 }  // namespace

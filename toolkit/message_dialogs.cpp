@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QScreen>
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 #include "toolkit/application.h"
 #include "toolkit/fonts.h"
@@ -15,29 +17,15 @@ namespace quillon {
 namespace {
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
-  switch (icon) {
-    case MessageIcon::kInformation:
-      return QMessageBox::Information;
-    case MessageIcon::kExclamation:
-      return QMessageBox::Warning;
-    case MessageIcon::kQuestion:
-      return QMessageBox::Question;
-    case MessageIcon::kStop:
-      return QMessageBox::Critical;
-  }
-  return QMessageBox::NoIcon;
+  constexpr std::array kIcons = {QMessageBox::Information, QMessageBox::Warning, QMessageBox::Question,
+                                 QMessageBox::Critical};
+  return kIcons.at(static_cast<std::size_t>(icon));
 }
 
 QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::kOk:
-      return QMessageBox::Ok;
-    case MessageButtons::kYesNo:
-      return QMessageBox::Yes | QMessageBox::No;
-    case MessageButtons::kYesNoCancel:
-      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-  }
-  return QMessageBox::Ok;
+  constexpr std::array<QMessageBox::StandardButtons, 3> kButtons = {
+      QMessageBox::Ok, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
+  return kButtons.at(static_cast<std::size_t>(buttons));
 }
 
 MessageAnswer AnswerOf(int button) {

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "study/limits.h"
+#include "study/limit_cells.h"
 #include "study/study_pages.h"
 #include "support/number_text.h"
 #include "tools/class_grid.h"
@@ -37,13 +37,7 @@ std::string GridOutput(const Answer& answer) {
 }
 
 std::string CsvOutput(const Answer& answer) {
-  std::string text = "hand,limit,amount\n";
-  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const Limit& limit = answer.limits[static_cast<std::size_t>(index)];
-    text.append(HandLabel(index)).append(",").append(LimitKindName(limit.Kind)).append(",");
-    text.append(HasAmount(limit) ? NumberText(limit.Amount) : "").append("\n");
-  }
-  return text;
+  return LimitTable(answer.limits, ',');
 }
 
 std::string JsonOutput(const Answer& answer) {

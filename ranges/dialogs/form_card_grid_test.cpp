@@ -127,41 +127,6 @@ TEST_F(FormCardGridTest, ArrowKeysGoFromCellToCellAndEnterOrSpacePressesIt) {
   EXPECT_EQ(GridText(), TextWith("AA KK AKo"));
 }
 
-TEST_F(FormCardGridTest, ArrowKeysStopAtTheEdges) {
-  Form().Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
-  Press(Qt::Key_Up);
-  Press(Qt::Key_Left);
-  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("lblCards(0)"));
-  for (int step = 0; step < 20; ++step) {
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Right);
-  }
-  EXPECT_EQ(Form().focusWidget()->objectName(), QStringLiteral("lblCards(168)"));
-}
-
-struct KeyCase {
-  std::string_view From;
-  Qt::Key Key;
-  Qt::KeyboardModifiers Held;
-  std::string_view To;
-};
-
-TEST_F(FormCardGridTest, HomeAndEndGoToTheEndsOfTheRowAndWithControlOfTheGrid) {
-  constexpr auto kCases = std::to_array<KeyCase>({
-      {"KJs", Qt::Key_Home, Qt::NoModifier, "AKo"},
-      {"KJs", Qt::Key_End, Qt::NoModifier, "K2s"},
-      {"AKo", Qt::Key_Home, Qt::NoModifier, "AKo"},
-      {"KJs", Qt::Key_Home, Qt::ControlModifier, "AA"},
-      {"KJs", Qt::Key_End, Qt::ControlModifier, "22"},
-      {"22", Qt::Key_End, Qt::ControlModifier, "22"},
-  });
-  for (const KeyCase& row : kCases) {
-    Form().Controls().LabelAt("lblCards", HandIndex(row.From)).setFocus(Qt::TabFocusReason);
-    QTest::keyClick(Form().focusWidget(), row.Key, row.Held);
-    EXPECT_EQ(Form().focusWidget(), &Form().Controls().LabelAt("lblCards", HandIndex(row.To))) << row.From << row.To;
-  }
-}
-
 TEST_F(FormCardGridTest, TabComesBackToTheCellItLeft) {
   Form().Controls().LabelAt("lblCards", 0).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_Right);

@@ -92,6 +92,19 @@ TEST(RangeDialogLayouts, KeepTheRulesOfEveryLayout) {
   ExpectPicturesAreThere(newRange.Controls(), new_range_layout::kTables);
 }
 
+TEST(RangeDialogLayouts, TheActionsAreLinksWhoseCaptionsHaveATipButThatWhichDeletes) {
+  DialogStage stage;
+  const ManagerControls& controls = stage.OpenManager().Controls();
+  ExpectHands(controls, {"imgNew", "imgSave", "imgRename", "imgSaveAs", "imgDelete"});
+  const char* const tip = "Delete current range";
+  ExpectToolTips(controls, {{"lblAction(0)", tip},
+                            {"lblAction(2)", tip},
+                            {"lblRename", tip},
+                            {"lblSaveAs", tip},
+                            {"lblDelete", ""},
+                            {"imgDelete", ""}});
+}
+
 void ExpectAWindowOfItsOwn(const QWidget& form, const char* title, QSize size) {
   EXPECT_TRUE(form.isWindow());
   EXPECT_FALSE(form.isModal());

@@ -56,16 +56,11 @@ TEST_F(NewRangeFormTest, ACellIsSummedUp) {
   EXPECT_EQ(Share(), "0.2% selected");
 }
 
-TEST_F(NewRangeFormTest, UncheckedTheNameIsTheScratchNameAndCannotBeTyped) {
+TEST_F(NewRangeFormTest, UncheckedTheNameIsTheScratchNameAndCheckedAgainItIsReadyToBeTypedOver) {
   Type("Mine");
   ToggleSave();
   EXPECT_EQ(Name().text(), QStringLiteral("Temp Range1"));
   EXPECT_FALSE(Name().isEnabled());
-}
-
-TEST_F(NewRangeFormTest, CheckedAgainTheScratchNameStandsReadyToBeTypedOver) {
-  Type("Mine");
-  ToggleSave();
   ToggleSave();
   EXPECT_EQ(Name().text(), QStringLiteral("Temp Range1"));
   EXPECT_TRUE(Name().isEnabled());
@@ -91,27 +86,26 @@ TEST_F(NewRangeFormTest, EachCellOfAProposalTakesTheShiftTest) {
   EXPECT_EQ(GridText(), TextWith("AA KK QQ JJ")) << "the first hand takes the press";
 }
 
-TEST_F(NewRangeFormTest, AnEmptyProposalSumsUpWhatIsThere) {
+TEST_F(NewRangeFormTest, AnEmptyProposalSumsUpWhatIsThereAndLeavesTheFocusWhereTheNameIsDisabled) {
+  ToggleSave();
   Form().Propose({});
   EXPECT_EQ(GridText(), TextWith(""));
   EXPECT_EQ(Share(), "0% selected");
   EXPECT_EQ(Summary(), "[None]");
-}
-
-TEST_F(NewRangeFormTest, AProposalForADisabledNameLeavesTheFocus) {
-  ToggleSave();
-  Form().Propose({});
   EXPECT_NE(Form().focusWidget(), &Name());
 }
 
 TEST_F(NewRangeFormTest, OkSavesChoosesTheRangeAndCloses) {
   Cell("AA");
   Type("Mine");
+  Form().move(75, 32);
   ExpectMessageBox(Saved("Mine"));
   Click("cmdOK");
   EXPECT_TRUE(IsClosed());
   EXPECT_EQ(FileText("Mine"), TextWith("AA"));
   EXPECT_EQ(Chosen(0), "Mine");
+  EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
+  EXPECT_TRUE(Stage.Main.HasDefaultPointer());
 }
 
 TEST_F(NewRangeFormTest, EnterInTheNameIsAClickOnOk) {
@@ -126,19 +120,16 @@ TEST_F(NewRangeFormTest, EnterInTheNameIsAClickOnOk) {
   }
 }
 
-TEST_F(NewRangeFormTest, EnterWithARefusedNameLeavesTheDialogOpen) {
+TEST_F(NewRangeFormTest, ARefusedNameLeavesTheDialogOpen) {
   Cell("AA");
   ExpectMessageBox(NoName());
   QTest::keyClick(&Name(), Qt::Key_Return);
-  EXPECT_TRUE(Form().isVisible());
-  EXPECT_EQ(GridText(), TextWith("AA"));
-}
-
-TEST_F(NewRangeFormTest, ATakenNameLeavesTheDialogOpen) {
+  VerifyExpectedBoxes();
   Type("Tight");
   ExpectMessageBox(Exists("Tight"));
   Click("cmdOK");
   EXPECT_TRUE(Form().isVisible());
+  EXPECT_EQ(GridText(), TextWith("AA"));
   EXPECT_EQ(FileText("Tight"), TextWith("AA KK QQ"));
 }
 
@@ -212,15 +203,6 @@ TEST_F(NewRangeFormTest, TheCloseBoxClosesAndReopeningIsFresh) {
   EXPECT_EQ(GridText(), TextWith(""));
   EXPECT_EQ(Name().text(), QStringLiteral(""));
   EXPECT_EQ(Form().pos(), QPoint(75, 32));
-}
-
-TEST_F(NewRangeFormTest, OkKeepsThePlaceToo) {
-  Form().move(75, 32);
-  Type("Mine");
-  ExpectMessageBox(Saved("Mine"));
-  Click("cmdOK");
-  EXPECT_EQ(ReadIniValue("New", "Left", Stage.Program.Folder()), "1125");
-  EXPECT_TRUE(Stage.Main.HasDefaultPointer());
 }
 
 TEST(NewRangeFormDeathTest, AFileThatCannotBeWrittenStopsTheProgram) {

@@ -40,24 +40,17 @@ TEST(RangeDialogs, TheManagerIsShownAsItStands) {
   EXPECT_EQ(form.Controls().LabelAt("lblRangeName").Text(), QStringLiteral("Tight"));
 }
 
-TEST(RangeDialogs, EditingOpensTheManagerOnTheChosenRange) {
+TEST(RangeDialogs, EditingOpensTheManagerOnTheChosenRangeAlsoWhereItWasClosed) {
   DialogStage stage;
   stage.Dialogs.RefreshLists();
   stage.List(2).SelectEntry("Tight");
   EXPECT_TRUE(stage.Main.OffersEdit(2));
-  stage.ClickEdit(2);
-  EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
-  EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Tight");
-}
-
-TEST(RangeDialogs, EditingLoadsAManagerThatWasClosed) {
-  DialogStage stage;
-  stage.Dialogs.RefreshLists();
-  stage.List(2).SelectEntry("Tight");
-  stage.OpenManager().close();
-  stage.ClickEdit(2);
-  EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Tight");
-  EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
+  for (int opening = 0; opening < 2; ++opening) {
+    stage.ClickEdit(2);
+    EXPECT_TRUE(stage.Dialogs.LoadedManager()->isVisible());
+    EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Tight");
+    stage.Dialogs.LoadedManager()->close();
+  }
 }
 
 TEST(RangeDialogs, AManagerThatWasClosedGoesAndTheNextTouchLoadsAFreshOneHidden) {

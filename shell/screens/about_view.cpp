@@ -6,7 +6,10 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -31,28 +34,14 @@ void ShowHourglass(bool shown) {
     QGuiApplication::restoreOverrideCursor();
 }
 
+constexpr std::array kCheckStates = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};  // by CheckBoxState
+
 Qt::CheckState CheckStateOf(CheckBoxState state) {
-  switch (state) {
-    case CheckBoxState::kUnchecked:
-      return Qt::Unchecked;
-    case CheckBoxState::kGrayed:
-      return Qt::PartiallyChecked;
-    case CheckBoxState::kChecked:
-      break;
-  }
-  return Qt::Checked;
+  return kCheckStates.at(static_cast<std::size_t>(state));
 }
 
 CheckBoxState StateOf(const QCheckBox& box) {
-  switch (box.checkState()) {
-    case Qt::Unchecked:
-      return CheckBoxState::kUnchecked;
-    case Qt::PartiallyChecked:
-      return CheckBoxState::kGrayed;
-    case Qt::Checked:
-      break;
-  }
-  return CheckBoxState::kChecked;
+  return static_cast<CheckBoxState>(std::ranges::find(kCheckStates, box.checkState()) - kCheckStates.begin());
 }
 
 }  // namespace

@@ -120,6 +120,29 @@ TEST_F(AnalysisInWindow, OtherScreensStayUsableAndTheLinkLeadsBack) {
   EXPECT_EQ(Screen(), "ALL IN Grid");
 }
 
+TEST_F(AnalysisInWindow, ARunInsideARunStopsTheOuterOne) {
+  EnterRaise("150", "50", "62.5", "Pairs", "Tight");
+  DuringRun("20%", [this] { RunEquity("Tight"); });
+  Click("cmdPreflopEV", 1);
+  EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Tight", ""}));
+  EXPECT_FALSE(Form.State().Running);
+  EXPECT_EQ(Screen(), "Equity Only") << "the inner run's, from which the outer one goes back";
+}
+
+TEST_F(AnalysisInWindow, WhatIsTypedDuringARunIsFeltByTheClassesToCome) {
+  EnterCall("150", "50", "Pairs");
+  DuringRun("50%", [this] {
+    Open(kCallNav);
+    Type(0, "300");
+  });
+  Click("cmdPreflopEV", 0);
+  const auto ofAces = [](const std::string& table) { return table.substr(0, table.find("\r\n")); };
+  const auto ofDeuces = [](const std::string& table) { return table.substr(table.find("\r\n22\t")); };
+  EXPECT_EQ(ofAces(Form.State().HandInfo), ofAces(EngineTable(0, {"150", "50", "", "Pairs", ""})));
+  EXPECT_EQ(ofDeuces(Form.State().HandInfo), ofDeuces(EngineTable(0, {"300", "50", "", "Pairs", ""})));
+  EXPECT_EQ(Form.State().PotSize, 150);
+}
+
 TEST_F(AnalysisInWindow, ThePressedLookEndsWithTheClick) {
   EnterEquity("Tight");
   const QImage before = Get("cmdPreflopEV", 2).grab().toImage();

@@ -123,8 +123,8 @@ TEST_F(GridImageInWindow, ACancelAfterASaveSavesNothing) {
 // Typed and saved by the keyboard or the button, as a user does; each name is that of one file.
 TEST_F(GridImageInWindow, ANameIsTakenAsTyped) {
   bool byKey = false;
-  for (const std::string typed : {"my \"best\" grid.bmp", "best\"", "\"\"", "~grid", " grid ", "a;b.bmp",
-                                  "%1 & 100%.bmp", "Gr\u00fc\u00df.bmp", "one\tline.bmp\r\nsecond"}) {
+  for (const std::string typed :
+       {"my \"best\" grid.bmp", "\"\"", "~grid", " grid ", "%1 & 100%;.bmp", "one\tline.bmp\r\nsecond"}) {
     const std::string name = typed.starts_with("one") ? "one line.bmp" : typed;
     byKey = !byKey;
     ExpectDialog([&](QDialog& dialog) {

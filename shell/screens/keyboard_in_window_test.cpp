@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QUrl>
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -235,43 +236,39 @@ TEST_F(KeyboardInWindow, ControlAndADigitOpenAScreenWhoseLinkShowsAtItsFirstBox)
   EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
 }
 
-TEST_F(KeyboardInWindow, ARunStartedByKeyEndsWithTheFocusOnTheGrid) {
-  EnterEquity("Tight");
-  Focus("cmdPreflopEV", 2);
-  Press(Qt::Key_Space);
-  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 0));
-  EXPECT_FALSE(Shows("frameHover")) << "the result is to be seen";
-  Press(Qt::Key_Right);
-  EXPECT_TRUE(Shows("frameHover"));
-
-  RunEquity("Tight");
-  EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
-}
-
-TEST_F(KeyboardInWindow, WhatStartedARunDecidesOnTheFocusWhateverIsPressedMeanwhile) {
-  EnterEquity("Tight");
-  DuringRun("50%", [this] { Press(Qt::Key_F5); });
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Form.focusWidget(), &Form);
-
-  EnterEquity("Tight");
-  DuringRun("50%", [this] { Click("Label", 10); });
-  Press(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 0));
-  EXPECT_TRUE(Form.findChild<FocusMark*>()->isVisible());
-}
-
-TEST_F(KeyboardInWindow, WhatStopsARunDecidesOnTheFocusWhateverStartedIt) {
-  EnterEquity("Tight");
-  DuringRun("50%", [this] { Press(Qt::Key_Escape); });
-  Click("cmdPreflopEV", 2);
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_EQ(Form.focusWidget(), &Get("cmboRanges", 3));
-
-  DuringRun("50%", [this] { Click("lblStopCalc"); });
-  Press(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Screen(), "Equity Only");
-  EXPECT_EQ(Form.focusWidget(), &Form);
+// Whoever starts it decides, or whoever stops it, whatever is pressed meanwhile. The mouse gives nobody the focus.
+TEST_F(KeyboardInWindow, ARunThatIsStartedOrStoppedByAKeyEndsWithTheFocusOnWhatItLeadsTo) {
+  const auto byKey = [this] { Press(Qt::Key_Return, Qt::ControlModifier); };
+  const auto byMouse = [this] { Click("cmdPreflopEV", 2); };
+  struct Row {
+    const char* Rule;
+    std::function<void()> Start;
+    std::function<void()> Meanwhile;
+    const char* Screen;
+    const QWidget& Focus;
+  };
+  const QWidget& grid = Get("lblCards", 0);
+  const QWidget& list = Get("cmboRanges", 3);
+  const std::vector<Row> rows = {
+      {"by key", byKey, {}, "ALL IN Grid", grid},
+      {"by key on the button", [this] { Press(Qt::Key_Space); }, {}, "ALL IN Grid", grid},
+      {"by mouse", byMouse, {}, "ALL IN Grid", Form},
+      {"by mouse, a key meanwhile", byMouse, [this] { Press(Qt::Key_F5); }, "ALL IN Grid", Form},
+      {"by key, the mouse meanwhile", byKey, [this] { Click("Label", 10); }, "ALL IN Grid", grid},
+      {"stopped by key", byMouse, [this] { Press(Qt::Key_Escape); }, "Equity Only", list},
+      {"stopped by mouse", byKey, [this] { Click("lblStopCalc"); }, "Equity Only", Form},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.Rule);
+    EnterEquity("Tight");
+    Focus("cmdPreflopEV", 2);
+    if (row.Meanwhile) DuringRun("50%", row.Meanwhile);
+    row.Start();
+    EXPECT_EQ(Screen(), row.Screen);
+    EXPECT_EQ(Form.focusWidget(), &row.Focus);
+    EXPECT_EQ(Form.findChild<FocusMark*>()->isVisible(), &row.Focus != &Form);
+    EXPECT_FALSE(Shows("frameHover")) << "the result is to be seen";
+  }
 }
 
 TEST_F(KeyboardInWindow, TheHoverPanelLiesInFrontOfTheMark) {
@@ -332,12 +329,6 @@ TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
       EXPECT_EQ(mark.geometry(), whole.adjusted(-out, -out, out, out).intersected(Form.rect())) << name;
     }
   }
-}
-
-TEST_F(KeyboardInWindow, TheMouseTakesNoFocusToTheGrid) {
-  RunEquity("Tight");
-  Click("lblCards", 5);
-  EXPECT_NE(Form.focusWidget(), &Get("lblCards", 5));
 }
 
 struct RoleCase {

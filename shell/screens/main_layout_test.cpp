@@ -59,6 +59,11 @@ TEST_F(MainLayoutTest, HidesWhatComesLater) {
   EXPECT_EQ(Stage().Caption("lblProgressMsg"), "Quillon...");
 }
 
+TEST_F(MainLayoutTest, BothWaysToSaveAGridAreLinksWithATip) {
+  ExpectHands(Controls(), {"imgSave", "imgSaveAsRange", "picLogo", "lblLink(0)"});
+  ExpectToolTips(Controls(), {{"imgSave", "Save this grid!"}, {"imgSaveAsRange", "Save this grid!"}});
+}
+
 TEST_F(MainLayoutTest, TheProductsAddressesAreInTheTexts) {
   const std::string host(WebHost());
   EXPECT_EQ(Stage().Caption("Label", 9), " " + host);

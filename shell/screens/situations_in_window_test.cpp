@@ -176,10 +176,12 @@ TEST_F(SituationsInWindow, ALineOfABatchIsTakenAsFarAsTheScreenGoes) {
 // What is said of it has tests without a window.
 TEST_F(SituationsInWindow, AFileThatCannotBeReadOpensNothing) {
   Put("Bad", "AA (1), ");
+  EnterCall("150", "50", "Tight");
   for (int boxes = 0; boxes < 2; ++boxes)
     ExpectDialog([](QDialog& dialog) { dialog.accept(); });
   PressOpen();
-  EXPECT_EQ(Screen(), "About");
+  EXPECT_EQ(Screen(), "Preflop Call");
+  EXPECT_EQ(BoxText(0) + " " + BoxText(1) + " " + Chosen(0), "150 50 Tight");
 }
 
 TEST_F(SituationsInWindow, OddsThatCannotBeWorkedOutEndNothing) {

@@ -65,9 +65,8 @@ TEST_F(ClassGrid, IsWalkedByKeys) {
     Qt::KeyboardModifiers held;
     std::string_view reached;
   };
-  for (const Step& step : {Step{Qt::Key_Right, {}, "AKs"}, Step{Qt::Key_Down, {}, "KK"}, Step{Qt::Key_Left, {}, "AKo"},
-                           Step{Qt::Key_Up, {}, "AA"}, Step{Qt::Key_Up, {}, "AA"}, Step{Qt::Key_End, {}, "A2s"},
-                           Step{Qt::Key_Home, {}, "AA"}, Step{Qt::Key_End, Qt::ControlModifier, "22"}}) {
+  for (const Step& step :
+       {Step{Qt::Key_Right, {}, "AKs"}, Step{Qt::Key_Down, {}, "KK"}, Step{Qt::Key_End, Qt::ControlModifier, "22"}}) {
     QTest::keyClick(View.windowHandle(), step.key, step.held);
     EXPECT_EQ(FromQt(View.focusWidget()->accessibleName()), step.reached);
     EXPECT_EQ(HandLabel(static_cast<std::int16_t>(Reached.back())), step.reached);

@@ -95,7 +95,7 @@ void LimitsPage::Tell(std::int16_t index) {
 }
 
 void LimitsPage::CopyTable() {
-  QGuiApplication::clipboard()->setText(ToQt(LimitTable(limits_)));
+  QGuiApplication::clipboard()->setText(ToQt(LimitTable(limits_, '\t')));
   Announce(*this, QStringLiteral("The table is copied."));
 }
 

@@ -92,7 +92,7 @@ TEST_F(StudyWindow, TellsTheLimitsOfTheHandThatIsReached) {
   EXPECT_THAT(Texts(), HasSubstr("Now 62.5: " + std::to_string(CombosGoodAt(limits, 62.5)) + " of 1326 hands"));
 
   Press(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(FromQt(QGuiApplication::clipboard()->text()), LimitTable(limits));
+  EXPECT_EQ(FromQt(QGuiApplication::clipboard()->text()), LimitTable(limits, '\t'));
 
   Form.Follow(sample::CallState());
   EXPECT_THAT(Texts(), HasSubstr("Call up to"));
