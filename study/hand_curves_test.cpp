@@ -7,23 +7,12 @@
 #include <variant>
 #include <vector>
 
-#include "ranges/range_notation.h"
-#include "study/hand_order.h"
 #include "study/sweep_picture.h"
 #include "support/number_text.h"
 #include "testing/study_hands.h"
 
 namespace quillon {
 namespace {
-
-const HandOrder& Order() {
-  static const HandOrder order = HandsBestFirst(Hands());
-  return order;
-}
-
-ClassWeights Range(const std::string& notation) {
-  return std::get<ClassWeights>(ReadRangeNotation(notation, Order()));
-}
 
 // The small blind with 10 big blinds.
 StudySituation Shove(double amount = 9, const std::string& calling = "top 30%") {
@@ -33,19 +22,19 @@ StudySituation Shove(double amount = 9, const std::string& calling = "top 30%") 
                     .ShoveAmount = amount,
                     .RangeName = "Any",
                     .CallingRangeName = "Calls"},
-          .Range = Range("any"),
-          .CallingRange = Range(calling),
+          .Range = RangeOf("any"),
+          .CallingRange = RangeOf(calling),
           .Hands = &Hands()};
 }
 
 StudySituation Call(double pot, double call) {
   return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = pot, .CallAmount = call, .RangeName = "Button"},
-          .Range = Range("top 20%"),
+          .Range = RangeOf("top 20%"),
           .Hands = &Hands()};
 }
 
 std::vector<std::int16_t> HandsOf(const std::string& notation) {
-  return std::get<std::vector<std::int16_t>>(ReadCurveHands(notation, Order()));
+  return std::get<std::vector<std::int16_t>>(ReadCurveHands(notation, BestFirst()));
 }
 
 Steps StepsOf(const std::string& text) {
@@ -68,7 +57,7 @@ TEST(CurveHands, AreReadAsANotation) {
            {"any", "169 hands are too many to tell their lines apart: name up to 13"},
            {"AXs", "\"X\" is not a rank"},
        }) {
-    const auto read = ReadCurveHands(c.text, Order());
+    const auto read = ReadCurveHands(c.text, BestFirst());
     if (const auto* const reason = std::get_if<std::string>(&read)) {
       EXPECT_EQ(*reason, c.hands) << c.text;
     } else if (std::string(c.hands) == "13 hands") {
@@ -99,7 +88,7 @@ TEST(CurveHands, BeginWithTheHandThatHardlyPays) {
   }
   // Against aces alone everything loses, and aces least.
   StudySituation hopeless = Call(100, 99);
-  hopeless.Range = Range("AA");
+  hopeless.Range = RangeOf("AA");
   EXPECT_EQ(HandLabel(MarginalHand(hopeless)), "AA");
 }
 
@@ -160,7 +149,7 @@ TEST(WidthSteps, AreThoseOfARange) {
            {"a shove need not be called", Shove(), {"0.1", "5", "1"}, nullptr},
            {"all", Call(150, 50), {"1", "100", "1"}, nullptr},
        }) {
-    const auto read = ReadWidthSteps(c.situation, c.steps, Order());
+    const auto read = ReadWidthSteps(c.situation, c.steps, BestFirst());
     const auto* const reason = std::get_if<std::string>(&read);
     EXPECT_EQ(reason == nullptr ? "" : *reason, c.reason == nullptr ? "" : c.reason) << c.rule;
   }
@@ -183,7 +172,7 @@ TEST(HandCurves, AreTheCompanionsFigures) {
 
   HandCurves widths{.What = "width", .Hands = HandsOf("K9o 22"), .Rows = {}};
   for (const char* width : {"10", "30", "50", "70"})
-    widths.Rows.push_back(WidthRow(Shove(), widths.Hands, Order(), width));
+    widths.Rows.push_back(WidthRow(Shove(), widths.Hands, BestFirst(), width));
   EXPECT_EQ(PointWords(WidthFigures(Shove(), widths)[1], {0, 3}), "K9o at 70%: 1.3971 chips, 0.9314 pots");
   EXPECT_EQ(PointWords(WidthFigures(Shove(), widths)[0], {0, 1}), "Profitable at 30%: 85.52%");
 
@@ -195,7 +184,7 @@ TEST(HandCurves, AreTheCompanionsFigures) {
 TEST(HandCurves, OverTheWidthMeetThoseOfNow) {
   for (const auto& [situation, width] : {std::pair{Shove(), "30"}, {Call(150, 50), "20"}}) {
     const std::vector<std::int16_t> hands = HandsOf("22 A5s T8s");
-    const SweepRow there = WidthRow(situation, hands, Order(), width);
+    const SweepRow there = WidthRow(situation, hands, BestFirst(), width);
     const SweepRow now = SweepRowAt({situation.Asked.Mode, situation.AllAmounts(), hands}, situation.Numbers(), width);
     EXPECT_EQ(there.ExpectedValues, now.ExpectedValues);
     EXPECT_EQ(there.ProfitableCombos, now.ProfitableCombos);
@@ -228,7 +217,7 @@ TEST(WidthFigures, MarkTheWidthOfTheRangeInQuestion) {
                    "Preflop Raise: pot 1.5, 0.5 to call, he must call 9. He plays \"Any\". now 0.68%. Profitable"},
         {Call(150, 50), 19.91, "Preflop Call: pot 150, 50 to call. now 19.91%. Profitable"}}) {
     const std::vector<std::int16_t> hands = HandsOf("22");
-    const HandCurves curves{.What = "width", .Hands = hands, .Rows = {WidthRow(situation, hands, Order(), "10")}};
+    const HandCurves curves{.What = "width", .Hands = hands, .Rows = {WidthRow(situation, hands, BestFirst(), "10")}};
     const auto figures = WidthFigures(situation, curves);
     const Figure& figure = figures[0];
     EXPECT_EQ(FigureWords(figures[1]), "Expected value, in chips. now " + NumberText(figure.Marks.at(0).At) + "%. 22");

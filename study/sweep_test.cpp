@@ -116,8 +116,8 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
   };
   const Amounts fixed = {100, 30, 250};
   for (const Case& c : {
-           Case{"call", AnalysisMode::kPreflopCall, SweptAmount::kCall, "0.1:0.7:0.1", &Situation::CallAmount},
-           Case{"pot of a call", AnalysisMode::kPreflopCall, SweptAmount::kPot, "31:200:33.33", &Situation::PotSize},
+           Case{"call", AnalysisMode::kPreflopCall, SweptAmount::kCall, "0.1:0.7:0.3", &Situation::CallAmount},
+           Case{"pot of a call", AnalysisMode::kPreflopCall, SweptAmount::kPot, "31:200:66.66", &Situation::PotSize},
            Case{"shove", AnalysisMode::kPreflopRaise, SweptAmount::kShove, "1:3000:999.9", &Situation::ShoveAmount},
            Case{"call of a raise", AnalysisMode::kPreflopRaise, SweptAmount::kCall, "0:60:20", &Situation::CallAmount},
        }) {

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <string>
+#include <variant>
+
 #include "analysis/range_sources.h"
 #include "hand/equity_table.h"
+#include "ranges/range_notation.h"
+#include "study/hand_order.h"
 
 namespace quillon {
 
@@ -12,6 +17,15 @@ namespace quillon {
     return HandNumbers();
   }();
   return hands;
+}
+
+/// The classes, best first, and the range of a notation that can be read.
+[[nodiscard]] inline const HandOrder& BestFirst() {
+  static const HandOrder order = HandsBestFirst(Hands());
+  return order;
+}
+[[nodiscard]] inline ClassWeights RangeOf(const std::string& notation) {
+  return std::get<ClassWeights>(ReadRangeNotation(notation, BestFirst()));
 }
 
 }  // namespace quillon

@@ -2,6 +2,8 @@
 
 // The study window on a program folder of its own, with boxes that are recorded and answered ahead.
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -10,8 +12,8 @@
 #include <string>
 #include <string_view>
 
-#include "study/hand_order.h"
 #include "study/window/study_form.h"
+#include "study/window/study_work.h"
 #include "testing/bring_to_front.h"
 #include "testing/recorded_input.h"
 #include "testing/recorded_messages.h"
@@ -21,6 +23,14 @@
 #include "toolkit/text.h"
 
 namespace quillon {
+
+/// Does all that is left of a page's work.
+inline void FinishWork(const StudyWork& work) {
+  const QDeadlineTimer limit(60000);
+  while (work.HasWork() && !limit.hasExpired())
+    QCoreApplication::processEvents();
+  EXPECT_FALSE(work.HasWork());
+}
 
 class StudyStage : public testing::Test {
  protected:
@@ -52,9 +62,7 @@ class StudyStage : public testing::Test {
   RecordedInput Inputs;
   ShiftWatch Shift{[] { return false; }};
   DialogSurroundings Around{
-      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = [] {
-        return HandsBestFirst(Hands());
-      }};
+      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = BestFirst};
   StudyForm Form{Around};
 };
 

@@ -178,24 +178,18 @@ TEST_F(InputBlockTest, OpensNoListForAScreenReaderDuringTheBlock) {
 TEST_F(InputBlockTest, LosesAClickThatEndsDuringTheBlock) {
   Label label(nullptr);
   label.SetUse(ControlUse::kLink);
-  Cover(label);
+  QPushButton button;
   const QSignalSpy releases(&label, &Control::Released);
   const QSignalSpy clicks(&label, &Control::Clicked);
-  Hold();
-  SeenWhileBlocked([&] { LetGo(); });
+  const QSignalSpy buttonClicks(&button, &QPushButton::clicked);
+  for (QWidget* control : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&button)}) {
+    Cover(*control);
+    Hold();
+    SeenWhileBlocked([&] { LetGo(); });
+  }
   EXPECT_EQ(releases.count(), 1);
-  EXPECT_EQ(clicks.count(), 0);
-}
-
-TEST_F(InputBlockTest, LosesAClickOfAButtonThatEndsDuringTheBlock) {
-  QPushButton button;
-  Cover(button);
-  const QSignalSpy clicks(&button, &QPushButton::clicked);
-  Hold();
-  EXPECT_TRUE(button.isDown());
-  SeenWhileBlocked([&] { LetGo(); });
   EXPECT_FALSE(button.isDown());
-  EXPECT_EQ(clicks.count(), 0);
+  EXPECT_EQ(clicks.count() + buttonClicks.count(), 0);
 }
 
 TEST_F(InputBlockTest, ClosesAListThatIsOpenAtItsStart) {

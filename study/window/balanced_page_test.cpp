@@ -22,10 +22,7 @@ class BalancedRanges : public StudyStage {
     WaitForTheEnd();
   }
 
-  void WaitForTheEnd() const {
-    constexpr int kLongest = 60000;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !Page().findChild<StudyWork*>()->HasWork(); }, kLongest));
-  }
+  void WaitForTheEnd() const { FinishWork(*Page().findChild<StudyWork*>()); }
 
   [[nodiscard]] BalancedPage& Page() const { return *Form.findChild<BalancedPage*>(); }
   [[nodiscard]] TextBox& Box(int index) const { return *Page().findChildren<TextBox*>().at(index); }

@@ -13,9 +13,7 @@
 #include <variant>
 #include <vector>
 
-#include "ranges/range_notation.h"
 #include "study/figure_svg.h"
-#include "study/hand_order.h"
 #include "study/window/how_far_page.h"
 #include "study/window/width_page.h"
 #include "testing/bring_to_front.h"
@@ -30,15 +28,6 @@
 namespace quillon {
 namespace {
 
-const HandOrder& Order() {
-  static const HandOrder order = HandsBestFirst(Hands());
-  return order;
-}
-
-ClassWeights Range(const std::string& notation) {
-  return std::get<ClassWeights>(ReadRangeNotation(notation, Order()));
-}
-
 StudySituation Shove() {
   return {.Asked = {.Mode = AnalysisMode::kPreflopRaise,
                     .PotSize = 1.5,
@@ -46,14 +35,14 @@ StudySituation Shove() {
                     .ShoveAmount = 9,
                     .RangeName = "Any",
                     .CallingRangeName = "Calls"},
-          .Range = Range("any"),
-          .CallingRange = Range("top 30%"),
+          .Range = RangeOf("any"),
+          .CallingRange = RangeOf("top 30%"),
           .Hands = &Hands()};
 }
 
 StudySituation Call() {
   return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = 110, .CallAmount = 90, .RangeName = "Button"},
-          .Range = Range("top 30%"),
+          .Range = RangeOf("top 30%"),
           .Hands = &Hands()};
 }
 
@@ -113,7 +102,7 @@ class PageTest : public testing::Test {
 
 // A slow machine goes on after the first moment.
 void WaitFor(const WidthPage& page) {
-  EXPECT_TRUE(QTest::qWaitFor([&page] { return !page.Work().HasWork(); }, 60000));
+  FinishWork(page.Work());
 }
 
 using HowFarPageTest = PageTest<HowFarPage>;
