@@ -48,10 +48,11 @@ int FontPixels(float points) {
   return static_cast<int>(std::lround(points * 96 / 72));
 }
 
-// Rounded down: a text that grew more than its place would run into what is beside it.
+// Rounded down: a text that grew more than its place would run into what is beside it. Hinted in height alone, so that
+// letters are alike on every system.
 void SizeFont(QFont& font, float points) {
   font.setPixelSize(std::max(1, static_cast<int>(std::floor(FontPixels(points) * PixelScale()))));
-  font.setHintingPreference(PixelScale() == 1 ? QFont::PreferDefaultHinting : QFont::PreferNoHinting);
+  font.setHintingPreference(PixelScale() == 1 ? QFont::PreferVerticalHinting : QFont::PreferNoHinting);
 }
 
 QFont FormFont(const FontSpec& font, const FontSpec& inherited) {
