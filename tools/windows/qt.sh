@@ -14,20 +14,19 @@ version=$(dpkg-query --show --showformat='${source:Version}' qt6-base-dev)
 compiler=$(dpkg-query --show g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)
 
 # Without what Quillon does not use. DirectWrite sets its texts where they are scaled, and comes with Direct2D; the newer
-# Direct2D is only for a second way to draw windows. Debian's sources lack the header for pen tablets. Precompiled headers would keep
-# a compiler's cache from knowing a source again.
+# Direct2D is only for a second way to draw windows. Debian's sources lack the header for pen tablets. Precompiled
+# headers would keep a compiler's cache from knowing a source again.
 options=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/quillon-qt -DBUILD_SHARED_LIBS=ON
   -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DBUILD_WITH_PCH=OFF -DINPUT_opengl=no)
 for feature in concurrent dbus network opengl printsupport sql testlib xml direct2d1_1 tabletevent \
-  gif ico jpeg pdf textmarkdownreader textmarkdownwriter textodfwriter pkg_config; do
+  mimetype_database gif ico jpeg pdf textmarkdownreader textmarkdownwriter textodfwriter pkg_config; do
   options+=("-DFEATURE_$feature=OFF")
 done
-for linked in EXE SHARED MODULE; do
-  options+=("-DCMAKE_${linked}_LINKER_FLAGS=-Wl,--no-insert-timestamp")
-done
+# The time that linker and strip write into each file, so that two makings give the same bytes.
+export SOURCE_DATE_EPOCH=0
 
 cache=${QUILLON_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon}
-hash=$(printf '%s\n' "$compiler" "${options[@]}" | sha256sum | cut -c 1-12)
+hash=$(printf '%s\n' "$compiler" "${options[@]}" "$SOURCE_DATE_EPOCH" | sha256sum | cut -c 1-12)
 qt=$cache/qt-$version-$hash
 mkdir -p "$cache"
 exec {lock}>"$cache/lock"
