@@ -90,6 +90,7 @@ void PutProgram(const fs::path& folder) {
     if (end == ".exe" || end == ".dll") fs::copy_file(entry.path(), folder / entry.path().filename());
   }
   fs::copy(*WindowsFolder() / "platforms", folder / "platforms");
+  fs::copy(*WindowsFolder() / "Guide", folder / "Guide");
   fs::copy_file(*WindowsFolder() / "qt.conf", folder / "qt.conf");
 }
 
@@ -122,7 +123,7 @@ std::vector<std::string> To(QPoint point) {
 
 }  // namespace
 
-WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "My Quillon ½") {
+WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "My Quillon ½ Ä 東京") {
   fs::create_directory(programFolder_);
   fs::create_directory(home_ / "bin");
   std::ofstream(home_ / "fonts.conf") << kFonts;
@@ -231,7 +232,10 @@ Window WindowSession::WaitForWindow(std::string_view title) const {
   std::optional<Window> window;
   WaitUntil("a window called \"" + std::string(title) + "\" with the keyboard", [&] {
     window = FindWindow(title);
-    return window && Ask("xdotool", {"getactivewindow"}) == window->Id + "\n";
+    const std::string active = Ask("xdotool", {"getactivewindow"});
+    // Where two of Wine's windows close one right after the other, the window manager gives the keyboard to the second.
+    if (window && WindowsFolder() && TitleOf(active).empty()) Use({"windowactivate", window->Id});
+    return window && active == window->Id + "\n";
   });
   // The window manager may have moved it before it gave it the keyboard.
   window->Place = PlaceOf(window->Id);
@@ -266,8 +270,16 @@ void WindowSession::WaitUntilGone(const Window& window) const {
 }
 
 void WindowSession::MoveWindow(const Window& window, QPoint corner) const {
-  Use({"windowmove", window.Id, std::to_string(corner.x()), std::to_string(corner.y())});
+  // Wine's windows are moved by the corner of their inner area.
+  const QPoint moved = WindowsFolder() ? corner + window.Place.topLeft() - CornerOf(window) : corner;
+  Use({"windowmove", window.Id, std::to_string(moved.x()), std::to_string(moved.y())});
   WaitUntil("the window has been moved", [&] { return CornerOf(window) == corner; });
+}
+
+// To the few pixels by which the frame that Wine believes in differs from the window manager's.
+bool WindowSession::IsAt(QPoint place, QPoint wanted) {
+  constexpr int kFrames = 5;
+  return (place - wanted).manhattanLength() <= (WindowsFolder() ? kFrames : 0);
 }
 
 // Those of the process itself: the programs of several starts have windows of the same titles.
@@ -348,13 +360,19 @@ std::string WindowSession::CopiedBy(const std::function<void()>& copy, const std
   PutOnClipboard(kMark);
   if (WindowsFolder()) std::this_thread::sleep_for(kWineLooksAtTheClipboard);
   copy();
+  const auto ask = [this](const std::string& target) {
+    // Asked at the moment in which it changes hands, Wine does not answer at all.
+    return Ask("timeout", {"5", "xclip", "-selection", "clipboard", "-out", "-target", target});
+  };
   std::string copied;
   WaitUntil("something has been copied", [&] {
-    // Asked at the moment in which it changes hands, Wine does not answer at all.
-    copied = Ask("timeout", {"5", "xclip", "-selection", "clipboard", "-out", "-target", kind});
+    // Wine has a picture only for those who have asked what there is.
+    if (WindowsFolder()) static_cast<void>(ask("TARGETS"));
+    copied = ask(kind);
     return copied != kMark && !copied.empty();
   });
-  if (WindowsFolder()) std::erase(copied, '\r');  // Wine leaves some of those that Windows ends its lines with
+  // Wine leaves some of those that Windows ends its lines with.
+  if (WindowsFolder() && kind == kText) std::erase(copied, '\r');
   return copied;
 }
 

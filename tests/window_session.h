@@ -103,6 +103,8 @@ class WindowSession {
   QRect LayNote(QPoint corner, const Window& keeper);
   /// Moves the outer corner of the window.
   void MoveWindow(const Window& window, QPoint corner) const;
+  /// Whether a window at `place` is where it was wanted.
+  [[nodiscard]] static bool IsAt(QPoint place, QPoint wanted);
 
   // ---- mouse, keyboard and clipboard
 
@@ -124,7 +126,8 @@ class WindowSession {
   [[nodiscard]] std::string CopyAllText() const;
   void PutOnClipboard(std::string_view text) const;
   /// What `copy` puts on the clipboard, as that kind of data.
-  [[nodiscard]] std::string CopiedBy(const std::function<void()>& copy, const std::string& kind = "UTF8_STRING") const;
+  [[nodiscard]] std::string CopiedBy(const std::function<void()>& copy, const std::string& kind = kText) const;
+  static constexpr const char* kText = "UTF8_STRING";
 
   // ---- the screen
 

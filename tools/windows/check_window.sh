@@ -14,10 +14,8 @@ without=(
   # UTF-8, a terminal to write to.
   EndJourney.\* \*WindowIsKnownToDesktops\* \*Installed\* StartWithoutADisplay.\* \*FolderWhoseNameIsNotUtf8\*
   \*ArgumentsAreRefused\*
-  # Wine: a window is a few pixels beside the place where it was put, as its frame is another program's, and xdg-open is
-  # not what opens a page.
-  \*FirstStartInAnEmptyFolder\* \*NextStartFindsTheBoxesAndThePlace\* PaintingJourney.\*
-  \*LeadsThroughTheWholeProgram\*
+  # Wine: a window gets the keyboard again only when it is raised above the other program's.
+  \*AnotherProgramsWindowOverTheGrid\*
 )
 
 tools/windows/build.sh
@@ -30,5 +28,9 @@ cmake --preset dev -DQUILLON_BENCH=OFF
 cmake --build --preset dev --target window_journeys_test
 export WINEPREFIX=${WINEPREFIX:-$PWD/build/wine} WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 wineboot --init
+# Pages and pictures open in the desktop's browser: the part of Wine that would see to it asks for a download.
+for ending in .html .bmp; do
+  wine reg add "HKLM\\Software\\Classes\\$ending" /ve /d htmlfile /f
+done
 wineserver --wait
 build/dev/bin/window_journeys_test --gtest_brief=1 --gtest_filter="${1:-*}-$(IFS=: && echo "${without[*]}")"
