@@ -21,17 +21,9 @@ void RequireFileName(std::string_view name) {
   throw RunTimeError(RunTimeFault::kBadFileName, "a NUL character in the name of a range");
 }
 
-// A link to nowhere is a file too: it is listed, and it can be deleted.
-std::error_code ErrorOfFile(const std::filesystem::path& file) {
-  std::error_code error;
-  static_cast<void>(std::filesystem::symlink_status(file, error));
-  return error;
-}
-
 // Whether deleting `oldFile` would take what was saved as `newFile` with it. Names that differ in case may be one file
 // to the file system, and the new name may be a link to the old file. An old name that is a link itself only goes.
 bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem::path& newFile) {
-  if (oldFile == newFile) return true;
   std::error_code unknown;
   return !std::filesystem::is_symlink(oldFile, unknown) && std::filesystem::equivalent(oldFile, newFile, unknown);
 }
@@ -71,12 +63,15 @@ void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::str
                  std::string_view text) {
   RequireFileName(oldName);
   const std::filesystem::path oldFile = RangeFilePath(folder, oldName);
-  if (const std::error_code error = ErrorOfFile(oldFile)) FailOnFile(error.default_error_condition().value(), oldFile);
+  if (const std::error_code error = ErrorOfPath(oldFile)) FailOnFile(error.default_error_condition().value(), oldFile);
 
   SaveRangeText(folder, newName, text);
   // Not every system gives a file that is replaced the new name's letter case. It is the same name to it either way.
-  if (oldName != newName && IsSameName(oldName, newName))
-    static_cast<void>(folder.Calls->Rename(oldFile.string(), RangeFilePath(folder, newName).string()));
+  if (IsSameName(oldName, newName)) {
+    if (oldName != newName)
+      static_cast<void>(folder.Calls->Rename(oldFile.string(), RangeFilePath(folder, newName).string()));
+    return;
+  }
   if (!HoldsContentOf(oldFile, RangeFilePath(folder, newName))) DeleteRange(folder, oldName);
 }
 

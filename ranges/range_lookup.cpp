@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "ranges/nearest_names.h"
 #include "ranges/range_lists.h"
 #include "ranges/range_text.h"
+#include "support/folders.h"
 #include "support/joined_text.h"
 
 namespace quillon {
@@ -36,9 +36,8 @@ std::vector<std::string> RangeNames(const ProgramFolder& folder) {
 
 // A name is that of a file in the range folder: one with a separator would lead elsewhere.
 bool HasFile(const std::string& name, const ProgramFolder& folder) {
-  std::error_code none;
   if (name.find('\0') != std::string::npos || PathOf(RangeFileName(name)).has_parent_path()) return false;
-  return std::filesystem::exists(std::filesystem::symlink_status(RangeFilePath(folder, name), none));
+  return IsThere(RangeFilePath(folder, name));
 }
 
 }  // namespace

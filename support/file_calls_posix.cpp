@@ -83,6 +83,16 @@ FolderListing ListFolder(const std::filesystem::path& folder) {
   return listing;
 }
 
+std::error_code ErrorOfPath(const std::filesystem::path& path) {
+  std::error_code error;
+  static_cast<void>(std::filesystem::symlink_status(path, error));
+  return error;
+}
+
+std::string ReasonOf(int systemError) {
+  return std::generic_category().message(systemError);
+}
+
 bool IsQuotaError(int systemError) {
   return systemError == EDQUOT;
 }

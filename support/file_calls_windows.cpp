@@ -27,6 +27,8 @@ constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
 constexpr int kAttempts = 20;
 constexpr DWORD kPauseMilliseconds = 10;
 
+constexpr DWORD kDiskQuotaExceeded = 1295;  // ERROR_DISK_QUOTA_EXCEEDED, which not every compiler's headers have
+
 int ErrorNumber(DWORD error) {
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
@@ -50,6 +52,7 @@ int ErrorNumber(DWORD error) {
     case ERROR_ALREADY_EXISTS:
       return EEXIST;
     case ERROR_DISK_FULL:
+    case kDiskQuotaExceeded:
     case ERROR_HANDLE_DISK_FULL:
       return ENOSPC;
     case ERROR_FILENAME_EXCED_RANGE:
@@ -81,6 +84,7 @@ int LastError() {
 
 constexpr std::size_t kLongestName = 255;  // UTF-16 units, on every file system of this one
 constexpr std::wstring_view kVerbatim = LR"(\\?\)";
+constexpr std::wstring_view kDevice = LR"(\\.\)";
 constexpr std::wstring_view kShare = LR"(\\)";
 
 bool HasLongName(std::wstring_view path) {
@@ -96,11 +100,16 @@ bool HasLongName(std::wstring_view path) {
 // all, and "CON.txt" in any folder is the console. A device that is named alone, such as "NUL", stays one.
 std::wstring SystemPath(const std::string& text) {
   std::filesystem::path path = PathOf(text);
-  if (path.empty() || path.native().starts_with(kVerbatim)) return path.native();
+  if (path.empty() || path.native().starts_with(kVerbatim) || path.native().starts_with(kDevice)) return path.native();
   if (!path.has_parent_path() && !NameFault(text).empty()) return path.native();
-  if (path.native().starts_with(kShare)) return std::wstring(kVerbatim) + L"UNC" + path.native().substr(1);
   std::error_code unknown;
-  path = (std::filesystem::current_path(unknown) / path).lexically_normal();
+  if (!path.native().starts_with(kShare)) path = std::filesystem::current_path(unknown) / path;
+  // The library takes the start of a share for that of a path without a drive.
+  if (path.native().starts_with(kShare)) {
+    const std::filesystem::path share = path.native().substr(kShare.size());
+    return std::wstring(kVerbatim) + LR"(UNC\)" + share.lexically_normal().native();
+  }
+  path = path.lexically_normal();
   return path.is_absolute() ? std::wstring(kVerbatim) + path.native() : path.native();
 }
 
@@ -284,6 +293,19 @@ FolderListing ListFolder(const std::filesystem::path& folder) {
   if (search != INVALID_HANDLE_VALUE) FindClose(search);
   if (error != ERROR_NO_MORE_FILES) listing.Error = std::error_code(ErrorNumber(error), std::generic_category());
   return listing;
+}
+
+// Those of the library know no path of more than 259 characters.
+std::error_code ErrorOfPath(const std::filesystem::path& path) {
+  const std::wstring name = SystemPath(path.string());
+  if (HasLongName(name)) return std::make_error_code(std::errc::filename_too_long);
+  if (GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES) return {};
+  return {ErrorNumber(GetLastError()), std::generic_category()};
+}
+
+std::string ReasonOf(int systemError) {
+  if (systemError == EBUSY) return "Another program has it open";  // to the library it is a "Resource device"
+  return std::generic_category().message(systemError);
 }
 
 bool IsQuotaError(int /*systemError*/) {

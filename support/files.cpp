@@ -161,7 +161,7 @@ void FailOnFile(int systemError, const std::filesystem::path& path, std::string_
   std::error_code unknown;
   const bool folderMissing =
       systemError == ENOENT && !std::filesystem::is_directory(EndOfLinks(path).parent_path(), unknown);
-  std::string detail = TextOfFileName(path.string()) + ": " + std::generic_category().message(systemError);
+  std::string detail = TextOfFileName(path.string()) + ": " + ReasonOf(systemError);
   throw RunTimeError(folderMissing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError),
                      detail.append(addition));
 }

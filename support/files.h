@@ -29,6 +29,13 @@ struct FolderListing {
 };
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder);
 
+/// Why nothing can be found under a path, or no error where something is there: a file, a folder, or a link whether or
+/// not it leads anywhere.
+[[nodiscard]] std::error_code ErrorOfPath(const std::filesystem::path& path);
+
+/// What the system says of an error number, as in "No such file or directory".
+[[nodiscard]] std::string ReasonOf(int systemError);
+
 /// What a file or folder is opened for. No child process takes it over.
 enum class OpenFor {
   kReading,  // never waits: of a pipe without a writer there is nothing to read

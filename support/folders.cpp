@@ -31,9 +31,7 @@ std::filesystem::path PathOfBytes(const std::filesystem::path& folder, std::stri
 }  // namespace
 
 bool IsThere(const std::filesystem::path& file) {
-  std::error_code error;
-  static_cast<void>(std::filesystem::symlink_status(file, error));
-  return !error;
+  return !ErrorOfPath(file);
 }
 
 bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
@@ -51,8 +49,7 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
   const int made = Uninterrupted([&] { return calls.MakeFolder(path.string()); });
   if (made >= 0) return;
-  throw RunTimeError(FaultOfMaking(-made),
-                     TextOfFileName(path.string()) + ": " + std::generic_category().message(-made));
+  throw RunTimeError(FaultOfMaking(-made), TextOfFileName(path.string()) + ": " + ReasonOf(-made));
 }
 
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "support/file_names.h"
 #include "support/files.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
@@ -17,7 +18,7 @@
 namespace quillon {
 namespace {
 
-constexpr qsizetype kLongestName = 255;  // of a file, in bytes: every system takes as many
+constexpr std::size_t kLongestName = 255;  // of a file, in bytes: every system takes as many
 
 // The dialog's "what it says | the files it lists" in Qt's form, the list in brackets.
 QString NameFilter(std::string_view filter) {
@@ -59,7 +60,8 @@ class FileNameDialog : public QFileDialog {
       return;
     }
     const QString name = file.fileName();
-    if (name.isEmpty() || name.toUtf8().size() > kLongestName) return;  // no file can be called so
+    const std::string bytes = FromQt(name);
+    if (bytes.empty() || bytes.size() > kLongestName || !NameFault(bytes).empty()) return;  // no file can be called so
     fileName_ = file.absoluteFilePath();
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): QFileDialog's would look for marks in the name
   }

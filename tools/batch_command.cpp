@@ -155,7 +155,7 @@ class OpenFile {
  public:
   OpenFile(const std::string& path, CommandInputs& inputs)
       : descriptor_(SystemFileCalls().Open(path, OpenFor::kStreaming, 0)) {
-    if (descriptor_ < 0) inputs.Refuse(path + ": " + std::error_code(-descriptor_, std::generic_category()).message());
+    if (descriptor_ < 0) inputs.Refuse(path + ": " + ReasonOf(-descriptor_));
   }
   OpenFile(const OpenFile&) = delete;
   OpenFile(OpenFile&&) = delete;

@@ -4,10 +4,10 @@
 #include <cerrno>
 #include <filesystem>
 #include <optional>
-#include <system_error>
 
 #include "ranges/range_names.h"
 #include "support/files.h"
+#include "support/folders.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
@@ -24,8 +24,7 @@ bool MaySave(CommandInputs& inputs, const std::string& name, bool replace, const
 
 void SaveBoth(const ProgramFolder& folder, const NamedText& first, const NamedText& second) {
   const std::filesystem::path file = RangeFilePath(folder, first.Name);
-  std::error_code unknown;
-  const bool isNew = !std::filesystem::exists(file, unknown);
+  const bool isNew = !IsThere(file);
   const std::optional<std::string> before = TryReadAllBytes(file, *folder.Calls);
   if (!before) FailOnFile(EACCES, file);
   SaveRangeText(folder, first.Name, first.Text);
