@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstddef>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
@@ -82,6 +84,10 @@ void PrepareStandardStreams() {
     if (stream != kInputStream && GetConsoleMode(console, &mode) != 0)
       SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
   }
+  // Without room for more the library writes byte by byte to a console, which then sees no character of several.
+  constexpr std::size_t kRoom = 1U << 16U;
+  for (std::FILE* const stream : {stdout, stderr})
+    static_cast<void>(std::setvbuf(stream, nullptr, _IOFBF, kRoom));
   // The console outlives the program, and another one's output should not change for it.
   static const UINT before = GetConsoleOutputCP();
   if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != 0)

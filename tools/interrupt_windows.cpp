@@ -1,9 +1,14 @@
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <cstddef>
 #include <io.h>
+#include <span>
+#include <string>
 #include <windows.h>
 
 #include "support/files.h"
+#include "support/text_windows.h"
 #include "tools/interrupt.h"
 
 namespace quillon {
@@ -13,16 +18,35 @@ std::atomic<bool> watching = false;
 std::atomic<bool> came = false;
 std::atomic<HANDLE> readFrom = nullptr;
 
+constexpr DWORD kPauseMilliseconds = 10;
+
 // Runs on a thread of its own. A read that waits ends by itself where it is of a console, and here where it is not: it
 // may be just about to wait, so it is ended again and again until it has returned.
 BOOL WINAPI NoteInterrupt(DWORD event) {
-  constexpr DWORD kPauseMilliseconds = 10;
   if (event != CTRL_C_EVENT || !watching || came.exchange(true)) return FALSE;
   for (HANDLE waiting = readFrom; waiting != nullptr; waiting = readFrom) {
     CancelIoEx(waiting, nullptr);
     Sleep(kPauseMilliseconds);
   }
   return TRUE;
+}
+
+// What is typed, as UTF-8: as bytes a console gives it in a code page that lacks most characters. It ends with Ctrl+Z
+// at the start of a line.
+std::ptrdiff_t ReadTyped(HANDLE console, std::span<char> buffer) {
+  constexpr wchar_t kCtrlZ = 0x1A;
+  std::wstring typed(buffer.size() / 3, L'\0');  // a unit becomes at most three bytes
+  DWORD count = 0;
+  SetLastError(ERROR_SUCCESS);
+  if (ReadConsoleW(console, typed.data(), static_cast<DWORD>(typed.size()), &count, nullptr) == 0) return -EIO;
+  // Ctrl+C, which another thread is being told of.
+  if (count == 0 && GetLastError() == ERROR_OPERATION_ABORTED) {
+    while (watching && !came)
+      Sleep(kPauseMilliseconds);
+  }
+  if (count == 0 || typed.front() == kCtrlZ) return 0;
+  const std::string bytes = NarrowText({typed.data(), count});
+  return std::ranges::copy(bytes, buffer.begin()).out - buffer.begin();
 }
 
 }  // namespace
@@ -45,7 +69,11 @@ bool InterruptWatch::Came() {
 DescriptorInput::int_type DescriptorInput::underflow() {
   // NOLINTNEXTLINE: that is what the number is
   readFrom = reinterpret_cast<HANDLE>(_get_osfhandle(descriptor_));
-  const std::ptrdiff_t count = came ? 0 : SystemFileCalls().Read(descriptor_, buffer_);
+  DWORD mode = 0;
+  const bool isTyped = GetConsoleMode(readFrom, &mode) != 0;
+  const std::ptrdiff_t count = came      ? 0
+                               : isTyped ? ReadTyped(readFrom, buffer_)
+                                         : SystemFileCalls().Read(descriptor_, buffer_);
   readFrom = nullptr;
   if (came || count == 0) return traits_type::eof();
   if (count < 0) FailOnFile(static_cast<int>(-count), name_);

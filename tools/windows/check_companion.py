@@ -6,13 +6,17 @@ files are compared in the end.
 """
 
 import concurrent.futures
+import fcntl
 import os
 import pathlib
 import random
 import re
+import select
 import shutil
 import subprocess
 import sys
+import termios
+import time
 
 NAMES = ["Käse und 漢字", "Button Shove", "Big Blind Call", "Everything", "Tight Open", "Größe", "v1.5"]
 UNKNOWN = ["Tight Opne", "漢", "nobody", "../Ranges/Everything"]
@@ -137,6 +141,38 @@ class Companion:
                               cwd=self.root / "Elsewhere", check=False)
         return done.returncode, self.plain(done.stdout), self.plain(done.stderr)
 
+    def at_a_terminal(self, arguments, output=None, typed=b"", pressed=b""):
+        """The exit status and what the terminal shows. With `output` answers go to that file. `typed` is typed until there
+        are some, as Wine's console loses what comes before it is ready, and then `pressed`."""
+        ours, theirs = os.openpty()
+        process = subprocess.Popen([*self.start, *arguments], stdin=theirs, stdout=output or theirs, stderr=theirs,
+                                   cwd=self.root / "Elsewhere", start_new_session=True,
+                                   preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
+        os.close(theirs)
+        shown = b""
+        next_time = time.monotonic()
+        while process.poll() is None:
+            if pressed and os.fstat(output.fileno()).st_size > 0:
+                os.write(ours, pressed)
+                typed = pressed = b""
+            if typed and time.monotonic() >= next_time:
+                os.write(ours, typed)
+                next_time += 3
+            if select.select([ours], [], [], 0.05)[0]:
+                try:
+                    shown += os.read(ours, 65536)
+                except OSError:  # nothing has the other end open any more
+                    break
+        os.close(ours)
+        return process.wait(), shown
+
+    def interrupted_batch(self, *file, typed=b""):
+        """The exit status and the answers of a batch that Ctrl+C ends once there are some."""
+        with open(self.root / "answers", "w+b") as answers:
+            status, _ = self.at_a_terminal(["batch", "--jobs", "2", *file], answers, typed, b"\x03")
+            answers.seek(0)
+            return status, answers.read()
+
     def plain(self, text):
         """The same text with this system's form of paths below the root."""
         root = rb"(?:Z:)?" + rb"[/\\]".join(re.escape(name) for name in str(self.root).encode().split(b"/"))
@@ -189,6 +225,26 @@ def main():
     statuses.append(mine[0])
     if mine != other:
         failures.append(f"a folder that is not there:\n  here:    {mine}\n  Windows: {other}")
+
+    # Ctrl+C in the middle of a batch, and while it waits for the next line to be typed.
+    lines = b"".join(b'{"id":%d,"mode":"equity","hands":"any"}\n' % line for line in range(200000))
+    for companion in (ours, theirs):
+        (companion.root / "lines").write_bytes(lines)
+    (status, some), (other, more) = (companion.interrupted_batch(f"{companion.root}/lines") for companion in (ours, theirs))
+    some, more = sorted((some, more), key=len)
+    if (status, other) != (130, 130) or not some.endswith(b"\n") or not more.startswith(some) or not more.endswith(b"\n"):
+        failures.append(f"Ctrl+C: {status} {some[-200:]} {other} {more[-200:]}")
+    if more.count(b"\n") == lines.count(b"\n"):
+        failures.append("Ctrl+C came too late")
+    typed = '{"id":"Käse 漢","mode":"equity","hands":"AA"}\r'.encode()
+    mine, other = (companion.interrupted_batch(typed=typed) for companion in (ours, theirs))
+    if (mine[0], other[0]) != (130, 130) or {*mine[1].splitlines()} != {*other[1].splitlines()} or b"\xc3\xa4" not in mine[1]:
+        failures.append(f"a line that is typed:\n  here:    {told(mine)}\n  Windows: {told(other)}")
+
+    # A console sees whole characters. It writes spaces as moves of the cursor.
+    _, shown = theirs.at_a_terminal(["ranges"])
+    if "Käseund漢字".encode() not in re.sub(rb"\x1b\[[?0-9;]*[A-Za-z]| ", b"", shown):
+        failures.append(f"the ranges on a console: {shown[:1500]}")
 
     # Names that only Windows refuses.
     before = theirs.files()

@@ -5,6 +5,8 @@
 #   tools/windows/check_companion.sh LINUX WINDOWS.exe    compares these
 #   QUILLON_QUESTIONS=50 tools/windows/check_companion.sh   fewer questions than 500
 #
+# What Wine 8 alone does: its console takes the sequences that colour the grid for characters. So no colours are looked at.
+#
 # The folders have spaces, umlauts and Chinese characters in their names. Some may not be written, which no system
 # refuses to its superuser: as root it all runs as the user nobody.
 set -euo pipefail
