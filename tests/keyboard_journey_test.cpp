@@ -1,4 +1,4 @@
-// A player who never touches the mouse: all three analyses, the report and the user guide.
+// A player who never touches the mouse: all three analyses, both dialogs, the report and the user guide.
 
 #include <QImage>
 #include <QUrl>
@@ -9,9 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "ranges/dialogs/manager_layout.h"
+#include "ranges/dialogs/new_range_layout.h"
 #include "ranges/range_lists.h"
 #include "results/results_grid.h"
 #include "shell/user_guide.h"
+#include "support/files.h"
+#include "testing/range_texts.h"
 #include "tests/window_journey.h"
 
 namespace quillon {
@@ -43,8 +47,10 @@ class KeyboardJourney : public WindowJourney {
   }
 
   /// Whether the dark line of the focus mark goes round the whole cell.
-  [[nodiscard]] bool IsMarked(std::string_view hand) const {
-    const QRect line = OnScreen(ObjectName("shapeCardBack", HandIndex(hand))).adjusted(-1, -1, 1, 1);
+  [[nodiscard]] bool IsMarked(const Window& window, const FormPlan& plan, std::string_view hand) const {
+    const int out = qRound(Session().Screen().Scale);
+    const QRect line =
+        OnScreen(window, plan, ObjectName("shapeCardBack", HandIndex(hand))).adjusted(-out, -out, out, out);
     const QPoint upper(line.center().x(), line.top());
     return std::ranges::all_of(
         std::array{line.topLeft(), line.topRight(), line.bottomLeft(), line.bottomRight(), upper},
@@ -61,12 +67,12 @@ TEST_F(KeyboardJourney, LeadsThroughTheWholeProgram) {
   ChooseByKeys(kCall.Range);
   Press({"Tab", "Return"});
   WaitForGridOf(kCallRun, kCall);
-  Session().WaitUntil("the grid has the keyboard", [&] { return IsMarked("AA"); });
+  Session().WaitUntil("the grid has the keyboard", [&] { return IsMarked(Main(), MainPlan(), "AA"); });
 
   const GridColorTable colors = CellColors();
   Press({"Right", "Down"});
   Session().WaitUntil("the panel of KK shows", [&] { return CellColors() != colors; });
-  Session().WaitUntil("KK is marked", [&] { return IsMarked("KK"); });
+  Session().WaitUntil("KK is marked", [&] { return IsMarked(Main(), MainPlan(), "KK"); });
   Press({"Escape"});
   Session().WaitUntil("the panel has gone", [&] { return CellColors() == colors; });
 
@@ -98,6 +104,40 @@ TEST_F(KeyboardJourney, LeadsThroughTheWholeProgram) {
 
   Press({"ctrl+q"});
   EXPECT_EQ(Session().WaitForEnd(), 0);
+}
+
+TEST_F(KeyboardJourney, PaintsRangesInBothDialogs) {
+  Press({"ctrl+r"});
+  const Window manager = Session().WaitForWindow(kManagerTitle);
+  Press({"ctrl+n"});
+  const Window name = Session().WaitForWindow("Rename Range");
+  Session().Type("By hand");
+  Answer(name, {"Return"});
+  static_cast<void>(Session().WaitForWindow(kManagerTitle));
+  Press({"Tab", "End"});
+  Session().WaitUntil("A2s is marked", [&] { return IsMarked(manager, ManagerPlan(), "A2s"); });
+  Press({"space", "ctrl+Home", "space", "ctrl+s"});
+  Answer(Session().WaitForWindow("Quillon"), {"Return"});
+  static_cast<void>(Session().WaitForWindow(kManagerTitle));
+  EXPECT_EQ(ReadAllBytes(RangeFilePath(Session().Program(), "By hand")), TextWith("AA A2s") + "\r\n");
+  Press({"Escape"});
+  Session().WaitUntilGone(manager);
+  static_cast<void>(Session().WaitForWindow(kMainTitle));
+
+  // On to Analyze, and to the link after it.
+  Press({"ctrl+3", "Tab", "Tab", "Return"});
+  const Window dialog = Session().WaitForWindow(kNewRangeTitle);
+  Press({"Right", "space", "Tab", "Tab", "Tab"});
+  Session().Type("Suited");
+  Press({"Return"});
+  Answer(Session().WaitForWindow("Quillon"), {"Return"});
+  Session().WaitUntilGone(dialog);
+  EXPECT_EQ(ReadAllBytes(RangeFilePath(Session().Program(), "Suited")), TextWith("AKs") + "\r\n");
+
+  static_cast<void>(Session().WaitForWindow(kMainTitle));
+  Press({"ctrl+Return"});
+  WaitForGridOf(kEquityRun, {{}, {}, {}, "Suited", {}});
+  EXPECT_EQ(CloseProgram(), 0);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
-// A player who paints ranges with the mouse, by the menus of the grids and by dropping a text.
+// A player who paints ranges with the mouse, by the menus of the grids and by dropping a text, and takes results along.
 
+#include <QImage>
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -8,16 +10,19 @@
 #include "ranges/card_grid.h"
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
+#include "support/files.h"
 #include "testing/range_texts.h"
+#include "testing/split_text.h"
 #include "tests/window_journey.h"
 
 namespace quillon {
 namespace {
 
-// At twice the scale, with room for all three windows.
+namespace fs = std::filesystem;
+
 class PaintingJourney : public WindowJourney {
  protected:
-  PaintingJourney() : WindowJourney(Desk{.Width = 2800, .Height = 2000, .Scale = 2}) { StartProgramWithRanges(); }
+  explicit PaintingJourney(Desk desk = {}) : WindowJourney(desk) { StartProgramWithRanges(); }
 
   void Press(const std::vector<std::string>& keys) const { Session().Press(keys); }
 
@@ -51,7 +56,12 @@ class PaintingJourney : public WindowJourney {
   }
 };
 
-TEST_F(PaintingJourney, ByTheMouseInBothDialogs) {
+class LargePaintingJourney : public PaintingJourney {
+ protected:
+  LargePaintingJourney() : PaintingJourney(Desk{.Width = 2800, .Height = 2000, .Scale = 2}) {}
+};
+
+TEST_F(LargePaintingJourney, ByTheMouseInBothDialogs) {
   const auto pixels = [this](int length) { return qRound(length * Session().Screen().Scale); };
   Click("lblNav(2)");
   Click("lblNewRange(3)");
@@ -86,6 +96,43 @@ TEST_F(PaintingJourney, ByTheMouseInBothDialogs) {
   Press({"ctrl+a"});
   Session().Drag(summary.topLeft() + QPoint(pixels(20), pixels(14)), Cell(newRange, NewRangePlan(), "72o").center());
   WaitForHands(newRange, NewRangePlan(), "AA", "AKs");
+}
+
+TEST_F(PaintingJourney, ResultsAreTakenAlong) {
+  Session().AddCommand("xdg-open");
+  Analyze(kRaiseRun, kRaise);
+  const QImage shown = Look("GridContainer");
+
+  const std::string picture =
+      Session().CopiedBy([&] { ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 0, 0); }, "image/png");
+  const QImage copied = QImage::fromData(QByteArray::fromStdString(picture)).convertToFormat(shown.format());
+  EXPECT_EQ(copied, shown) << "the grid without the panel of the hand under the mouse";
+
+  const auto companion = [this](const std::vector<std::string>& format) {
+    std::vector<std::string> raise = {"raise",        "--pot",           "150",           "--call",
+                                      "50",           "--shove",         "400",           "--range",
+                                      "Button Shove", "--calling-range", "Big Blind Call"};
+    raise.insert(raise.end(), format.begin(), format.end());
+    return Companion(raise);
+  };
+  EXPECT_EQ(Session().CopiedBy([&] { ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 1, 0); }),
+            Replaced(companion({"--format", "csv"}), ",", "\t"));
+
+  ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 2, 0);
+  const Window dialog = Session().WaitForWindow("Save as Web Page");
+  Session().Type("shove.html");
+  Answer(dialog, {"Return"});
+  const Window question = Session().WaitForWindow("Open Now?");
+  EXPECT_EQ(MessageText(question), "Web page saved successfully.\n\nDo you want to open the web page now?");
+  Answer(question, {"alt+y"});
+  const fs::path page = Session().Program().Path / "Saved Grids" / "shove.html";
+  EXPECT_EQ(ReadAllBytes(page), companion({"--format", "html"}));
+  EXPECT_TRUE(Session().CommandArguments("xdg-open").ends_with("Saved%20Grids/shove.html\n"));
+
+  ClickEntry(MenuOn(Main(), MainPlan(), "KTs"), 4, 1);
+  const std::vector<std::string> forum = {"--format", "2+2", "--hand", "KTs"};
+  Click("rtfSummary");
+  EXPECT_EQ(Session().CopyAllText(), companion(forum));
 }
 
 }  // namespace

@@ -184,6 +184,21 @@ bool ScreenReader::HasFocus(const Part& part) const {
   return Is(part.Path, kFocused);
 }
 
+QRect ScreenReader::PlaceOf(const Part& part) const {
+  constexpr unsigned kOnScreen = 0;
+  const QVariant answer =
+      Ask(part.Path, QStringLiteral("org.a11y.atspi.Component"), QStringLiteral("GetExtents"), {kOnScreen}).value(0);
+  const auto extents = answer.value<QDBusArgument>();  // "(iiii)"
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  extents.beginStructure();
+  extents >> left >> top >> width >> height;
+  extents.endStructure();
+  return {left, top, width, height};
+}
+
 ScreenReader::Part ScreenReader::Focused() const {
   QCoreApplication::processEvents();
   return {focused_, RoleOf(focused_), Property(focused_, QStringLiteral("Name")).toString().toStdString()};

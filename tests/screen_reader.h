@@ -7,6 +7,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
+#include <QRect>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,6 +45,9 @@ class ScreenReader : public QObject {
   [[nodiscard]] bool IsChecked(const Part& part) const;
   [[nodiscard]] bool IsHalfChecked(const Part& part) const;
   [[nodiscard]] bool HasFocus(const Part& part) const;
+
+  /// Where it is on the screen.
+  [[nodiscard]] QRect PlaceOf(const Part& part) const;
 
   /// The part that told last that it has the focus. An open menu is no part of any window, and only heard this way.
   [[nodiscard]] Part Focused() const;

@@ -6,10 +6,13 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <gmock/gmock.h>
+#include <memory>
+#include <stdexcept>
 
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
 #include "ranges/range_lists.h"
+#include "shell/situations.h"
 #include "support/files.h"
 #include "testing/range_dialog_messages.h"
 #include "testing/range_texts.h"
@@ -129,6 +132,34 @@ TEST_F(ScreenReaderJourney, FastPaintingIsHeard) {
   Session().Press({"Return"});
   static_cast<void>(Session().WaitForWindow(kManagerTitle));
   EXPECT_TRUE(Reader().IsChecked(kings));
+}
+
+// On screens without a text of several lines, which has parts of Qt's own.
+TEST_F(ScreenReaderJourney, SituationsAreSavedAndOpened) {
+  Press("link", "Preflop Call");
+  Fill("How much is the current pot?", kCall.Pot);
+  Fill("How much do you have to call?", kCall.Call);
+  Choose("What is his current range?", kCall.Range);
+  Session().Press({"ctrl+s"});
+  static_cast<void>(The("dialog", "Save Situation"));
+  Fill("What do you want to call this situation?", "Short stack");
+  Press("push button", "OK");
+  const Window told = Session().WaitForWindow("Quillon");
+  EXPECT_EQ(NextAnnouncement(), SituationSavedMessage("Short stack").text);
+  Answer(told, {"Return"});
+
+  Fill("How much is the current pot?", "7");
+  static_cast<void>(Session().WaitForWindow(kMainTitle));
+  Session().Press({"ctrl+o"});
+  static_cast<void>(The("dialog", "Open Situation"));
+  const Part list = The("list", "Which situation do you want to open?");
+  Session().WaitUntil("the list has the focus",
+                      [&] { return Reader().HasFocus(list) || Reader().HasFocus(The("list item", "Short stack")); });
+  for (const char* button : {"Open", "Cancel", "Delete"})
+    static_cast<void>(The("push button", button));
+  Press("push button", "Open");
+  EXPECT_EQ(NextAnnouncement(), SituationOpenedText("Short stack"));
+  EXPECT_EQ(Reader().Text(The("text", "How much is the current pot?")), kCall.Pot);
 }
 
 TEST_F(ScreenReaderJourney, DecorationIsNotHeard) {

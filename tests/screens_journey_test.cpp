@@ -1,17 +1,20 @@
-// Every screen and both dialogs as they look, at two scales, against pictures that somebody has checked. Those at
-// 100% are those of the documents. After a change that should change them: tools/screenshots.sh
+// Every screen and both dialogs as they look, at five scales, against pictures that somebody has checked. Those at 100%
+// are those of the documents, and at 200% there are others; at 75%, 150% and 300% the screen is brought to 100% and
+// must look like the former. After a change that should change them: tools/screenshots.sh
 
 #include <QColor>
 #include <QDeadlineTimer>
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 #include "ranges/dialogs/manager_layout.h"
 #include "ranges/dialogs/new_range_layout.h"
@@ -33,6 +36,32 @@ constexpr int kNoticeable = 64;
 constexpr int kTile = 32;
 constexpr double kTileShare = 0.05;
 constexpr int kPatience = 10000;  // milliseconds
+// A picture brought to another size is compared as if seen from four times as far away. What is left is text: the lines
+// of longer ones do not all end where they do at 100%.
+constexpr int kDistance = 4;
+
+struct DistantPicture {
+  std::string_view Name;
+  double TileShare;  // a little more than at any scale here
+};
+
+constexpr auto kDistantPictures = std::to_array<DistantPicture>({
+    {"about", 0.1},
+    {"preflop_call", 0.12},
+    {"equity_only", 0.05},
+    {"preflop_raise", 0.12},
+    {"progress", 0.05},
+    {"grid", 0.22},
+    {"hover", 0.22},
+    {"details_plain", 0.24},
+    {"details_forum", 0.3},
+    {"range_manager", 0.06},
+    {"new_range", 0.07},
+});
+
+double DistantTileShare(std::string_view name) {
+  return std::ranges::find(kDistantPictures, name, &DistantPicture::Name)->TileShare;
+}
 
 bool IsNoticeable(QRgb one, QRgb other) {
   const int red = std::abs(qRed(one) - qRed(other));
@@ -72,21 +101,31 @@ class ScreensJourney : public WindowJourney, public testing::WithParamInterface<
  protected:
   ScreensJourney() : WindowJourney(GetParam()) {}
 
+  [[nodiscard]] static bool IsWriting() {
+    return std::getenv("QUILLON_WRITE_SCREENS") != nullptr;  // NOLINT(concurrency-mt-unsafe): there is one thread
+  }
+  [[nodiscard]] bool HasPictures() const { return Session().Screen().Scale == 1 || Session().Screen().Scale == 2; }
+
   void ExpectLook(const Window& window, std::string_view name, const QRect& butFor = {}) const {
     QImage seen = WithoutAlpha(Session().StillPicture(window.Place));
     const fs::path file = FileOf(name);
-    if (std::getenv("QUILLON_WRITE_SCREENS") != nullptr) {  // NOLINT(concurrency-mt-unsafe): there is one thread
+    if (IsWriting()) {
       fs::create_directories(file.parent_path());
       EXPECT_TRUE(seen.save(QString::fromStdString(file.string()))) << file;
       return;
     }
-    const QImage known = WithBlank(WithoutAlpha(QImage(QString::fromStdString(file.string()))), butFor);
+    const QImage known(QString::fromStdString(file.string()));
+    if (!HasPictures()) {
+      const double scale = Session().Screen().Scale;
+      const QRect blank(butFor.topLeft() / scale, butFor.size() / scale);
+      return ExpectAlikeFromAfar(WithBlank(seen, butFor), WithBlank(WithoutAlpha(known), blank), name);
+    }
     ASSERT_EQ(seen.size(), known.size()) << file;
-    auto [share, tile] = WorstTile(WithBlank(seen, butFor), known);
+    auto [share, tile] = WorstTile(WithBlank(seen, butFor), WithBlank(WithoutAlpha(known), butFor));
     // Where there is much to do besides, the program may keep still before it has done all.
     for (const QDeadlineTimer limit(kPatience); share > kTileShare && !limit.hasExpired();) {
       seen = WithoutAlpha(Session().StillPicture(window.Place));
-      std::tie(share, tile) = WorstTile(WithBlank(seen, butFor), known);
+      std::tie(share, tile) = WorstTile(WithBlank(seen, butFor), WithBlank(WithoutAlpha(known), butFor));
     }
     EXPECT_LE(share, kTileShare) << file << " looks different round " << tile.center().x() << ", " << tile.center().y()
                                  << ": " << SaveForComparison(seen, name);
@@ -96,9 +135,22 @@ class ScreensJourney : public WindowJourney, public testing::WithParamInterface<
  private:
   static QImage WithoutAlpha(const QImage& image) { return image.convertToFormat(QImage::Format_RGB32); }
 
+  void ExpectAlikeFromAfar(const QImage& seen, const QImage& known, std::string_view name) const {
+    const double scale = Session().Screen().Scale;
+    EXPECT_NEAR(seen.width(), known.width() * scale, 1);
+    EXPECT_NEAR(seen.height(), known.height() * scale, 1);
+    const QSize size = known.size() / kDistance;
+    const QImage one = seen.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage other = known.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto [share, tile] = WorstTile(one, other);
+    EXPECT_LE(share, DistantTileShare(name))
+        << name << " at " << scale << " looks different round " << tile.center().x() * kDistance << ", "
+        << tile.center().y() * kDistance << ": " << SaveForComparison(seen, name);
+  }
+
   [[nodiscard]] fs::path FileOf(std::string_view name) const {
     const std::string file(name);
-    if (Session().Screen().Scale == 1) return fs::path(QUILLON_SOURCE_FOLDER) / "docs" / "screens" / (file + ".png");
+    if (Session().Screen().Scale != 2) return fs::path(QUILLON_SOURCE_FOLDER) / "docs" / "screens" / (file + ".png");
     return fs::path(QUILLON_SOURCE_FOLDER) / "tests" / "screens" / (file + "_200.png");
   }
 
@@ -111,6 +163,7 @@ class ScreensJourney : public WindowJourney, public testing::WithParamInterface<
 };
 
 TEST_P(ScreensJourney, LookAsTheyShould) {
+  if (!HasPictures() && IsWriting()) GTEST_SKIP() << "there are no pictures at this scale";
   StartProgramWithRanges();
   Session().PutMouseAside();
   ExpectLook("about");
@@ -158,7 +211,9 @@ TEST_P(ScreensJourney, LookAsTheyShould) {
   ExpectLook(dialog, "new_range");
 }
 
+// The study window is laid out by the size of its texts, so it does not look the same from afar.
 TEST_P(ScreensJourney, TheStudyOfAShoveLooksAsItShould) {
+  if (!HasPictures()) GTEST_SKIP() << "there are no pictures at this scale";
   StartProgramWithRanges();
   Analyze(kRaiseRun, kSmallBlindShove);
   const GridColorTable colors = CellColors();
@@ -181,7 +236,9 @@ TEST_P(ScreensJourney, TheStudyOfAShoveLooksAsItShould) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Window, ScreensJourney,
-                         testing::Values(Desk{}, Desk{.Width = 2300, .Height = 1500, .Scale = 2}),
+                         testing::Values(Desk{.Scale = 0.75}, Desk{}, Desk{.Width = 1900, .Height = 1200, .Scale = 1.5},
+                                         Desk{.Width = 2300, .Height = 1500, .Scale = 2},
+                                         Desk{.Width = 3400, .Height = 2200, .Scale = 3}),
                          [](const auto& entry) { return "At" + std::to_string(qRound(entry.param.Scale * 100)); });
 
 }  // namespace

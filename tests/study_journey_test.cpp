@@ -1,4 +1,4 @@
-// A player who asks on in the study window, by keys, and hears what it says. Its figures are those
+// A player who asks on in the study window, by keys and by the mouse, and hears what it says. Its figures are those
 // that the companion prints.
 
 #include <algorithm>
@@ -26,15 +26,36 @@ const EnteredSituation kDeepRaise = {"150", "50", "1200", "Button Shove", "Big B
 constexpr std::string_view kRaiseWords =
     "Preflop Raise: pot 150, 50 to call, he must call 1200; he plays \"Button Shove\" and calls with \"Big Blind "
     "Call\"";
+constexpr std::string_view kCallWords = "Preflop Call: pot 110, 90 to call; he plays \"Button Shove\"";
 
 class StudyJourney : public ScreenReaderJourney {
  protected:
-  void OpenStudyOfARaise() {
-    FillIn(kRaiseRun, kDeepRaise);
-    Press("push button", "Analyze");
-    static_cast<void>(The("link", "ALL IN Grid"));
+  // There is room for both windows, one below the other.
+  StudyJourney() : ScreenReaderJourney(Desk{.Width = 1400, .Height = 2700, .IsHeard = true}) {}
+
+  /// From the link of the scenario's screen to the end of the run, whatever window is in front.
+  void RunRaise() {
+    Open("lblNav(1)");
+    Fill("How much is the current pot?", kDeepRaise.Pot);
+    Fill("How much do you have to call?", kDeepRaise.Call);
+    Fill("How much will your opponent have to call if you go ALL IN?", kDeepRaise.Shove);
+    Choose("What is his current range?", kDeepRaise.Range);
+    Choose("What range will he call with?", kDeepRaise.CallingRange);
+    WaitForResults();
+  }
+  void RunCall() {
+    Open("lblNav(0)");
+    Fill("How much is the current pot?", kCall.Pot);
+    Fill("How much do you have to call?", kCall.Call);
+    Choose("What is his current range?", kCall.Range);
+    WaitForResults();
+  }
+
+  Window OpenStudy() {
     Session().Press({"ctrl+t"});
-    static_cast<void>(Session().WaitForWindow(kStudyTitle));
+    const Window study = Session().WaitForWindow(kStudyTitle);
+    Session().MoveWindow(study, {50, 1700});
+    return study;
   }
 
   [[nodiscard]] std::string CellWords(std::string_view hand) { return Reader().Description(The("link", hand)); }
@@ -53,16 +74,31 @@ class StudyJourney : public ScreenReaderJourney {
     return "no such line";
   }
 
+  [[nodiscard]] QPoint MiddleOf(std::string_view role, std::string_view name) {
+    return Reader().PlaceOf(The(role, name)).center();
+  }
+
   void WaitForAnnouncement(const std::string& start) {
     Session().WaitUntil("it is announced: " + start, [&] {
       const std::vector<std::string> said = Reader().TakeAnnouncements();
       return std::ranges::any_of(said, [&start](const std::string& text) { return text.starts_with(start); });
     });
   }
+
+ private:
+  void Open(std::string_view link) {
+    Click(link);
+    static_cast<void>(Session().WaitForWindow(kMainTitle));
+  }
+  void WaitForResults() {
+    Press("push button", "Analyze");
+    static_cast<void>(The("link", "ALL IN Grid"));
+  }
 };
 
 TEST_F(StudyJourney, LimitsAreReadByKeysAndAreTheCompanions) {
-  OpenStudyOfARaise();
+  RunRaise();
+  static_cast<void>(OpenStudy());
   static_cast<void>(The("label", kRaiseWords));
   static_cast<void>(The("panel", "Limits"));
   WaitForFocusOn("AA");
@@ -79,9 +115,31 @@ TEST_F(StudyJourney, LimitsAreReadByKeysAndAreTheCompanions) {
   EXPECT_EQ(CloseProgram(), 0);
 }
 
+TEST_F(StudyJourney, ANewAnalysisIsOfferedAndFollowedByMouse) {
+  static_cast<void>(OpenStudy());
+  static_cast<void>(The("label", "No situation yet"));
+  RunRaise();
+  static_cast<void>(The("label", kRaiseWords));
+
+  static_cast<void>(Reader().TakeAnnouncements());
+  RunCall();
+  WaitForAnnouncement("Follow the new analysis: " + std::string(kCallWords));
+  static_cast<void>(The("label", kRaiseWords));
+  Session().ClickAt(MiddleOf("push button", "Follow the new analysis"));
+  static_cast<void>(The("label", kCallWords));
+  EXPECT_FALSE(Reader().Find("push button", "Follow the new analysis"));
+
+  const std::string words = CellWords("K9o");
+  const std::size_t comma = words.find(", ");
+  Session().MoveTo(MiddleOf("link", "K9o"));
+  static_cast<void>(The("label", "Does not lose: " + words.substr(0, comma) + "\nNow, at 90: " +
+                                     (words.ends_with(", loses at 90") ? "loses" : "does not lose")));
+}
+
 // By keys alone: the hands, the points, and the table, which is the companion's byte for byte.
 TEST_F(StudyJourney, HowFarIsReadOffByKeysAndSaved) {
-  OpenStudyOfARaise();
+  RunRaise();
+  static_cast<void>(OpenStudy());
   Session().Press({"ctrl+2"});
   const Part hands = The("text", "Hands, such as A7o 88");
   Reader().GiveFocus(hands);
