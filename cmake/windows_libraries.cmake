@@ -13,6 +13,9 @@ quillon_borrow_headers(CLI11::CLI11 CLI)
 
 if(QUILLON_TESTS)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+  foreach(library gtest gtest_main gmock)
+    target_compile_options(${library} PRIVATE -O0)
+  endforeach()
 
   # Read once for all tests: they are compiled for every change here as well as at home, and half of that is headers.
   file(WRITE ${CMAKE_BINARY_DIR}/test_headers.cpp "")
