@@ -11,10 +11,6 @@
 namespace quillon {
 namespace {
 
-Message Told(std::string text) {
-  return {std::string(kApplicationTitle), std::move(text), MessageIcon::kInformation, MessageButtons::kOk};
-}
-
 Message Asked(std::string_view title, std::string text) {
   return {std::string(title), std::move(text), MessageIcon::kQuestion, MessageButtons::kYesNoCancel};
 }
@@ -22,12 +18,11 @@ Message Asked(std::string_view title, std::string text) {
 }  // namespace
 
 Message RangeSavedMessage(std::string_view name) {
-  return Told("The range " + Quoted(name) + " was saved successfully!");
+  return {.text = "The range " + Quoted(name) + " was saved successfully!"};
 }
 
 Message RangeRenamedMessage(std::string_view oldName, std::string_view newName) {
-  return Told("The range was successfull renamed: \r\n\r\nOld: \t" + std::string(oldName) + "\r\nNew: \t" +
-              std::string(newName));
+  return {.text = Joined({"The range was successfull renamed: \r\n\r\nOld: \t", oldName, "\r\nNew: \t", newName})};
 }
 
 Message DeleteRangeQuestion(std::string_view name) {
@@ -44,11 +39,7 @@ Message NotARangeMessage(std::string_view notation, const NotationError& error) 
   constexpr std::size_t kAroundPlace = 25;  // together what one line of a box has room for
   std::string text = MarkedPlace(notation, error, kAroundPlace);
   text.insert(text.find('\n'), "\r");
-  return {.title = "This Is Not a Range",
-          .text = std::move(text),
-          .icon = MessageIcon::kExclamation,
-          .buttons = MessageButtons::kOk,
-          .columns = true};
+  return {.title = "This Is Not a Range", .text = std::move(text), .icon = MessageIcon::kExclamation, .columns = true};
 }
 
 Message NotAShareMessage() {

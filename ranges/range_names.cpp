@@ -18,7 +18,7 @@ constexpr std::string_view kRefusedCharacters = kForbiddenCharacters.substr(0, 8
 static_assert(kForbiddenCharacters.size() == 9 && kRefusedCharacters.ends_with('>'));
 
 Message Refusal(std::string_view title, std::string text) {
-  return {std::string(title), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
+  return {std::string(title), std::move(text), MessageIcon::kStop};
 }
 
 std::optional<Message> ExistenceComplaint(const ProgramFolder& folder, std::string_view name) {

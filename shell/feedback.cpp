@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <limits>
-#include <utility>
 
 #include "results/web_addresses.h"
 #include "support/run_time_error.h"
@@ -44,17 +43,14 @@ std::string WithCrLf(std::string_view text) {
   return result;
 }
 
-Message Complaint(std::string text) {
-  return {std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk};
-}
-
 }  // namespace
 
 std::optional<Message> FeedbackComplaint(std::string_view note) {
   const std::size_t length = Windows1252FromUtf8(WithCrLf(note)).size();
-  if (length > kLongestFeedback) return Complaint("Too much feedback. Please consider sending an email.");
-  if (length < kShortestFeedback) return Complaint("Please fill out the feedback before sending.");
-  return std::nullopt;
+  if (length >= kShortestFeedback && length <= kLongestFeedback) return std::nullopt;
+  return Message{.text = length > kLongestFeedback ? "Too much feedback. Please consider sending an email."
+                                                   : "Please fill out the feedback before sending.",
+                 .icon = MessageIcon::kExclamation};
 }
 
 std::string FeedbackWriter(std::string_view answer) {
@@ -83,9 +79,8 @@ bool TellsSent(std::string_view reply) {
 }
 
 Message FeedbackOutcome(bool sent) {
-  if (!sent) return {"Error", "There was a problem sending your message.", MessageIcon::kStop, MessageButtons::kOk};
-  return {std::string(kApplicationTitle), "Your message has been sent.", MessageIcon::kInformation,
-          MessageButtons::kOk};
+  if (!sent) return {"Error", "There was a problem sending your message.", MessageIcon::kStop};
+  return {.text = "Your message has been sent."};
 }
 
 }  // namespace quillon

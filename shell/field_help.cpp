@@ -69,7 +69,7 @@ std::string FieldHelpText(std::string_view key) {
 }
 
 void ShowFieldHelp(std::string_view key, MessageBoxes& messages) {
-  messages.Show({std::string(key), FieldHelpText(key), MessageIcon::kInformation, MessageButtons::kOk});
+  messages.Show({std::string(key), FieldHelpText(key), MessageIcon::kInformation});
 }
 
 }  // namespace quillon

@@ -14,8 +14,7 @@ Message OpenPageQuestion() {
 }
 
 Message PageNotOpenedMessage(const std::filesystem::path& page) {
-  return {.title = std::string(kApplicationTitle),
-          .text = "The web page could not be opened. It is the file:\r\n\r\n" + TextOfFileName(page.string()),
+  return {.text = "The web page could not be opened. It is the file:\r\n\r\n" + TextOfFileName(page.string()),
           .icon = MessageIcon::kExclamation};
 }
 

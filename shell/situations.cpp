@@ -23,12 +23,8 @@ constexpr std::string_view kErrorTitle = "Error";
 constexpr std::string_view kNamePrompt = "What do you want to call this situation?";
 constexpr std::string_view kNameTitle = "Save Situation";
 
-Message Told(std::string text) {
-  return {std::string(kApplicationTitle), std::move(text), MessageIcon::kInformation, MessageButtons::kOk};
-}
-
 Message Refusal(std::string text) {
-  return {std::string(kErrorTitle), std::move(text), MessageIcon::kStop, MessageButtons::kOk};
+  return {std::string(kErrorTitle), std::move(text), MessageIcon::kStop};
 }
 
 Message ReplaceQuestion(std::string_view name) {
@@ -53,7 +49,7 @@ std::optional<Message> RemarksOn(std::string_view name, const std::vector<std::s
   std::string text = Joined({"The situation \"", name, "\" is open. Some of the file cannot be used:\r\n"});
   for (const std::string& remark : notTaken)
     text += Joined({"\r\n- ", remark});
-  return Message{std::string(kApplicationTitle), std::move(text), MessageIcon::kExclamation, MessageButtons::kOk};
+  return Message{.text = std::move(text), .icon = MessageIcon::kExclamation};
 }
 
 }  // namespace
@@ -129,7 +125,7 @@ bool AskAndDeleteSituation(std::string_view name, const ProgramFolder& folder, M
 }
 
 Message SituationSavedMessage(std::string_view name) {
-  return Told(Joined({"The situation \"", name, "\" was saved successfully!"}));
+  return {.text = Joined({"The situation \"", name, "\" was saved successfully!"})};
 }
 
 std::string SituationOpenedText(std::string_view name) {
@@ -137,17 +133,19 @@ std::string SituationOpenedText(std::string_view name) {
 }
 
 Message NoInputScreenMessage() {
-  return Told(
-      "Ctrl+S saves the situation on the screen where you enter it: Preflop Call, Preflop Raise or Equity Only.");
+  return {
+      .text =
+          "Ctrl+S saves the situation on the screen where you enter it: Preflop Call, Preflop Raise or Equity Only."};
 }
 
 Message NoSituationsMessage() {
-  return Told("There are no saved situations yet. Ctrl+S on an input screen saves one.");
+  return {.text = "There are no saved situations yet. Ctrl+S on an input screen saves one."};
 }
 
 Message RunningMessage() {
-  return Told(
-      "An analysis is going on. Wait until it has ended, or stop it with \"< Back\", and open the situation then.");
+  return {.text =
+              "An analysis is going on. Wait until it has ended, or stop it with \"< Back\", and open the situation "
+              "then."};
 }
 
 }  // namespace quillon

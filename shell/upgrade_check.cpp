@@ -44,18 +44,15 @@ UpgradeLook UpgradeLookOf(std::string_view reply) {
 
 LinkTarget TargetOfLink(std::string_view caption) {
   if (caption == kLatestCaption) {
-    return {.Told = Message{std::string(kApplicationTitle), "You're good to go!", MessageIcon::kInformation,
-                            MessageButtons::kOk},
-            .Address = {}};
+    return {.Told = Message{.text = "You're good to go!"}, .Address = {}};
   }
   const bool leadsToDownload = caption == kFirstLinkCaption || caption == kDownloadCaption;
   return {.Told = {}, .Address = leadsToDownload ? DownloadAddress() : std::string()};
 }
 
 Message NoBrowserMessage(std::string_view address) {
-  return {std::string(kApplicationTitle),
-          "No browser was found on this machine. The address is:\r\n\r\n" + std::string(address),
-          MessageIcon::kExclamation, MessageButtons::kOk};
+  return {.text = "No browser was found on this machine. The address is:\r\n\r\n" + std::string(address),
+          .icon = MessageIcon::kExclamation};
 }
 
 }  // namespace quillon

@@ -11,9 +11,8 @@ std::filesystem::path UserGuidePath(const std::filesystem::path& sharedFolder) {
 }
 
 Message NoUserGuideMessage(const std::filesystem::path& guide) {
-  return {std::string(kApplicationTitle),
-          "The user guide could not be opened. It is the file:\r\n\r\n" + TextOfFileName(guide.string()),
-          MessageIcon::kExclamation, MessageButtons::kOk};
+  return {.text = "The user guide could not be opened. It is the file:\r\n\r\n" + TextOfFileName(guide.string()),
+          .icon = MessageIcon::kExclamation};
 }
 
 }  // namespace quillon

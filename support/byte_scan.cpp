@@ -180,6 +180,14 @@ QUILLON_PART_OF_SCAN std::size_t Find(std::string_view text, std::string_view wa
   return place < kBlock ? lastBlock + place : std::string_view::npos;
 }
 
+std::size_t BaselineNthByte(std::string_view text, char byte, std::size_t n) {
+  return NthByte<Baseline>(text, byte, n);
+}
+
+std::size_t BaselineFind(std::string_view text, std::string_view wanted) {
+  return Find<Baseline>(text, wanted);
+}
+
 #ifdef QUILLON_CHOOSES_PROCESSOR
 [[gnu::target("avx2")]] std::size_t Avx2NthByte(std::string_view text, char byte, std::size_t n) {
   return NthByte<Avx2>(text, byte, n);
@@ -189,34 +197,25 @@ QUILLON_PART_OF_SCAN std::size_t Find(std::string_view text, std::string_view wa
   return Find<Avx2>(text, wanted);
 }
 
-using NthByteSearch = std::size_t (*)(std::string_view, char, std::size_t);
-using TextSearch = std::size_t (*)(std::string_view, std::string_view);
-
-bool HasAvx2() {
+// The better of two functions for this processor, asked before anything else of the program has run.
+template <typename Search>
+Search* Chosen(Search& withAvx2, Search& baseline) {
   __builtin_cpu_init();
-  return __builtin_cpu_supports("avx2") != 0;
+  return __builtin_cpu_supports("avx2") != 0 ? withAvx2 : baseline;
 }
 #endif
 
 }  // namespace
 
-std::size_t FindNthByteInBaseline(std::string_view text, char byte, std::size_t n) {
-  return NthByte<Baseline>(text, byte, n);
-}
-
-std::size_t FindTextInBaseline(std::string_view text, std::string_view wanted) {
-  return Find<Baseline>(text, wanted);
-}
-
 #ifdef QUILLON_CHOOSES_PROCESSOR
-// The loader calls these, by their plain names, before anything else of the program has run.
+// The loader calls these, by their plain names.
 extern "C" {
-static NthByteSearch QuillonNthByteSearch() {
-  return HasAvx2() ? Avx2NthByte : FindNthByteInBaseline;
+static auto QuillonNthByteSearch() {
+  return Chosen(Avx2NthByte, BaselineNthByte);
 }
 
-static TextSearch QuillonTextSearch() {
-  return HasAvx2() ? Avx2Find : FindTextInBaseline;
+static auto QuillonTextSearch() {
+  return Chosen(Avx2Find, BaselineFind);
 }
 }
 
@@ -225,11 +224,11 @@ static TextSearch QuillonTextSearch() {
 [[gnu::ifunc("QuillonTextSearch")]] std::size_t FindText(std::string_view text, std::string_view wanted);
 #else
 std::size_t FindNthByte(std::string_view text, char byte, std::size_t n) {
-  return FindNthByteInBaseline(text, byte, n);
+  return BaselineNthByte(text, byte, n);
 }
 
 std::size_t FindText(std::string_view text, std::string_view wanted) {
-  return FindTextInBaseline(text, wanted);
+  return BaselineFind(text, wanted);
 }
 #endif
 

@@ -18,8 +18,4 @@ namespace quillon {
 /// answer as std::string_view::find. The empty text is found at 0.
 [[nodiscard]] std::size_t FindText(std::string_view text, std::string_view wanted);
 
-/// The same searches as a processor without AVX2 has them, for tests to run on every machine.
-[[nodiscard]] std::size_t FindNthByteInBaseline(std::string_view text, char byte, std::size_t n);
-[[nodiscard]] std::size_t FindTextInBaseline(std::string_view text, std::string_view wanted);
-
 }  // namespace quillon

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "support/run_time_error.h"
-#include "testing/closed_input.h"
+#include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/ordinary_user.h"
 #include "testing/saved_files.h"
@@ -23,9 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using ReadingBytes = Files;
-using ReadingText = Files;
 using ReplacingAFile = Files;
-using WritingText = Files;
 
 TEST_F(ReadingBytes, GivesEveryByteAsItIs) {
   std::string bytes;
@@ -35,68 +33,37 @@ TEST_F(ReadingBytes, GivesEveryByteAsItIs) {
   EXPECT_EQ(ReadAllBytes(File()), bytes);
 }
 
-TEST_F(ReadingBytes, NeedsNoStandardInput) {
-  Put(File(), kOld);
-  const ClosedInput closed;
-  EXPECT_EQ(ReadAllBytes(File()), kOld);
-}
-
-TEST_F(ReadingBytes, WhatCannotBeReadIsEmpty) {
-  EXPECT_EQ(ReadAllBytes(Folder() / "missing.txt"), "") << "a missing file";
-  EXPECT_EQ(ReadAllBytes(Folder() / "missing" / "missing.txt"), "") << "a file in a missing folder";
-  EXPECT_EQ(ReadAllBytes(Folder()), "") << "a folder";
-  EXPECT_EQ(ReadAllBytes({}), "") << "no path";
-  EXPECT_EQ(ReadAllBytes(Folder() / std::string(5000, 'x')), "") << "a name too long";
-  Put(File(), "");
-  EXPECT_EQ(ReadAllBytes(File()), "") << "an empty file";
-}
-
 TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
-  EXPECT_EQ(TryReadAllBytes(Folder() / "missing.txt"), "") << "a missing file";
+  constexpr std::uintmax_t kLimit = std::uintmax_t{64} << 20U;
+  struct Case {
+    const char* rule;
+    fs::path path;
+    std::optional<std::string> bytes;
+  };
   Put(File(), "");
-  EXPECT_EQ(TryReadAllBytes(File()), "") << "an empty file";
+  Put(Folder() / "long.txt", kOld);
+  fs::resize_file(Folder() / "long.txt", kLimit + 1);
+  for (const Case& c : std::vector<Case>{{"a missing file", Folder() / "missing.txt", ""},
+                                         {"an empty file", File(), ""},
+                                         {"a folder", Folder(), std::nullopt},
+                                         {"a name too long", Folder() / std::string(5000, 'x'), std::nullopt},
+                                         {"a file beyond the limit", Folder() / "long.txt", std::nullopt}}) {
+    EXPECT_EQ(TryReadAllBytes(c.path), c.bytes) << c.rule;
+    EXPECT_EQ(ReadAllBytes(c.path), "") << c.rule;
+  }
+  fs::resize_file(Folder() / "long.txt", kLimit);
+  EXPECT_EQ(ReadAllBytes(Folder() / "long.txt").size(), kLimit);
   Put(File(), kOld);
-  EXPECT_EQ(TryReadAllBytes(File()), kOld) << "a file";
-  EXPECT_EQ(TryReadAllBytes(Folder()), std::nullopt) << "a folder";
   for (const Call call : {Call::kOpen, Call::kRead}) {
     WatchedCalls calls(FailAll(call, EACCES));
     EXPECT_EQ(TryReadAllBytes(File(), calls), std::nullopt) << "call " << static_cast<int>(call);
   }
-  fs::resize_file(File(), (std::uintmax_t{64} << 20U) + 1);
-  EXPECT_EQ(TryReadAllBytes(File()), std::nullopt) << "a file beyond the limit";
-}
-
-TEST_F(ReadingBytes, FileBeyondTheLimitCountsAsUnreadable) {
-  constexpr std::uintmax_t kLimit = std::uintmax_t{64} << 20U;
-  Put(File(), "AA (1), ");
-  fs::resize_file(File(), kLimit);
-  EXPECT_EQ(ReadAllBytes(File()).size(), kLimit);
-  fs::resize_file(File(), kLimit + 1);
-  EXPECT_EQ(ReadAllBytes(File()), "");
 }
 
 TEST_F(ReadingBytes, ShortReadsAreJoined) {
   Put(File(), kOld);
   WatchedCalls calls({}, 1);
   EXPECT_EQ(ReadAllBytes(File(), calls), kOld);
-}
-
-TEST_F(ReadingBytes, FailureOfAnyCallIsAnEmptyTextOrTheWholeOne) {
-  Put(File(), kOld);
-  const std::size_t callCount = [this] {
-    WatchedCalls calls;
-    static_cast<void>(ReadAllBytes(File(), calls));
-    return calls.Made().size();
-  }();
-  ASSERT_GE(callCount, 4U) << "open, read, read at the end, close";
-  for (const int error : {EIO, EACCES, EISDIR}) {
-    for (std::size_t number = 1; number <= callCount; ++number) {
-      WatchedCalls calls(FailOnce(static_cast<int>(number), error));
-      const std::string bytes = ReadAllBytes(File(), calls);
-      const bool all = calls.Made().at(number - 1).Call == Call::kClose;
-      EXPECT_EQ(bytes, all ? kOld : "") << "call " << number << ", error " << error;
-    }
-  }
 }
 
 TEST_F(ReadingBytes, InterruptedCallIsMadeAgain) {
@@ -107,95 +74,39 @@ TEST_F(ReadingBytes, InterruptedCallIsMadeAgain) {
   }
 }
 
-TEST_F(ReadingText, BytesOfTheCodePageBecomeText) {
-  Put(File(), "\xFF\x80 \x81");
-  EXPECT_EQ(ReadAllText(File()), "\u00FF\u20AC \xC2\x81");
-}
-
-TEST_F(ReadingText, MissingFileReadsAsAnEmptyOne) {
-  EXPECT_EQ(ReadAllText(File()), "");
-}
-
-TEST_F(WritingText, AddsOneLineEnd) {
-  WriteAllText("AA (1), ", File(), ScratchFolder());
-  EXPECT_EQ(Content(File()), "AA (1), \r\n");
-  WriteAllText("", File(), ScratchFolder());
-  EXPECT_EQ(Content(File()), "\r\n");
-  WriteAllText("a\r\n", File(), ScratchFolder());
-  EXPECT_EQ(Content(File()), "a\r\n\r\n");
-}
-
-TEST_F(WritingText, WritesTheCodePage) {
-  WriteAllText("\u00FF\u20AC\u2660", File(), ScratchFolder());
-  EXPECT_EQ(Content(File()), "\xFF\x80?\r\n");
-}
-
-TEST_F(WritingText, FailsAsReplaceFileDoes) {
-  Put(File(), kOld);
-  WatchedCalls calls(FailAll(Call::kWrite, ENOSPC));
-  EXPECT_THROW(WriteAllText("AA (1), ", File(), ScratchFolder(), calls), RunTimeError);
-  EXPECT_EQ(Content(File()), kOld);
-}
-
-TEST_F(ReplacingAFile, MakesTheFileOfTheBytesAsTheyAre) {
-  const std::string bytes("\0\r\n\xFF\x1A", 5);
-  ReplaceFile(File(), bytes, ScratchFolder());
-  EXPECT_EQ(Content(File()), bytes);
-  ExpectNoScratchFiles();
+TEST_F(Files, OfTextAreInTheCodePageAndWrittenWithALineEnd) {
+  WriteAllText("\u00FF\u20AC\u2660 \r\n", File(), ScratchFolder());
+  EXPECT_EQ(Content(File()), "\xFF\x80? \r\n\r\n");
+  EXPECT_EQ(ReadAllText(File()), "\u00FF\u20AC? \r\n\r\n");
 }
 
 TEST_F(ReplacingAFile, NewContentTakesThePlaceOfTheOld) {
-  Put(File(), std::string(100000, 'x'));
-  ReplaceFile(File(), kNew, ScratchFolder());
-  EXPECT_EQ(Content(File()), kNew);
-  ReplaceFile(File(), "", ScratchFolder());
-  EXPECT_EQ(Content(File()), "");
+  for (const std::string& bytes : {std::string(100000, 'x'), std::string("\0\r\n\xFF\x1A", 5), std::string()}) {
+    ReplaceFile(File(), bytes, ScratchFolder());
+    EXPECT_EQ(Content(File()), bytes);
+  }
   EXPECT_EQ(Listing(Folder()), std::vector<std::string>{"Button.txt"});
   ExpectNoScratchFiles();
 }
 
-TEST_F(ReplacingAFile, ShortWritesAreJoined) {
-  WatchedCalls calls({}, 1);
-  ReplaceFile(File(), kNew, ScratchFolder(), calls);
-  EXPECT_EQ(Content(File()), kNew);
+// The calls from the first opening for that purpose on.
+std::vector<Call> CallsFrom(const WatchedCalls& calls, OpenFor purpose) {
+  std::vector<Call> order;
+  for (const MadeCall& entry : calls.Made()) {
+    if (!order.empty() || entry.Purpose == purpose) order.push_back(entry.Call);
+  }
+  return order;
 }
 
-// Names of the calls from the scratch file's birth to its taking the target's name.
 TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
   Put(File(), kOld);
   WatchedCalls calls;
   ReplaceFile(File(), kNew, ScratchFolder(), calls);
 
-  std::vector<Call> order;
-  bool scratch = false;
-  for (const auto& entry : calls.Made()) {
-    scratch = scratch || entry.Purpose == OpenFor::kCreating;
-    if (scratch) order.push_back(entry.Call);
-    if (entry.Call == Call::kRename) break;
-  }
-  EXPECT_THAT(
-      order, testing::ElementsAre(Call::kOpen, Call::kSetMode, Call::kWrite, Call::kSync, Call::kClose, Call::kRename));
-
   // The new name itself must last too: the folder is synced after the rename.
-  order.clear();
-  bool renamed = false;
-  for (const auto& entry : calls.Made()) {
-    if (renamed) order.push_back(entry.Call);
-    renamed = renamed || entry.Call == Call::kRename;
-  }
-  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kSync, Call::kClose));
-}
-
-TEST_F(ReplacingAFile, NeedsNoStandardInput) {
-  Put(File(), kOld);
-  WatchedCalls calls;
-  {
-    const ClosedInput closed;
-    ReplaceFile(File(), kNew, ScratchFolder(), calls);
-  }
-  EXPECT_EQ(Content(File()), kNew);
-  EXPECT_EQ(calls.Count(Call::kSync), 2) << "the file and its folder";
-  EXPECT_EQ(calls.Count(Call::kClose), calls.Count(Call::kOpen));
+  EXPECT_THAT(CallsFrom(calls, OpenFor::kCreating),
+              testing::ElementsAre(Call::kOpen, Call::kSetMode, Call::kWrite, Call::kSync, Call::kClose, Call::kRename,
+                                   Call::kOpen, Call::kSync, Call::kClose));
 }
 
 TEST_F(ReplacingAFile, ScratchFileIsANewOneInItsFolder) {
@@ -315,7 +226,6 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
   };
   const std::vector<Case> cases = {
       {"no file can be opened", Call::kOpen, EACCES, RunTimeFault::kPermissionDenied},
-      {"the disk is full", Call::kWrite, ENOSPC, RunTimeFault::kDiskFull},
       {"the disk takes nothing", Call::kWrite, 0, RunTimeFault::kDeviceError},
       {"the disk does not sync", Call::kSync, EIO, RunTimeFault::kDeviceError},
       {"the disk is full when the file is closed", Call::kClose, ENOSPC, RunTimeFault::kDiskFull},
@@ -333,17 +243,6 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
   }
 }
 
-TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
-  WatchedCalls calls([this](const MadeCall& entry, int) -> std::optional<int> {
-    if (entry.Purpose != OpenFor::kCreating) return std::nullopt;
-    return fs::path(entry.Path).parent_path() == ScratchFolder() ? -ENOSPC : -EACCES;
-  });
-  const auto error = Replace(calls);
-  ASSERT_TRUE(error);
-  EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
-  EXPECT_EQ(Content(File()), kOld);
-}
-
 TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
   for (const int refusal : {EACCES, EPERM, EROFS, EBUSY}) {
     Put(File(), kOld);
@@ -357,13 +256,8 @@ TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
 TEST_F(WritingInPlace, CopyIsKeptUntilTheFileIsOnTheDisk) {
   WatchedCalls calls(FailAll(Call::kRename, EACCES));
   EXPECT_FALSE(Replace(calls));
-  std::vector<Call> order;  // from the opening of the file itself on
-  bool opened = false;
-  for (const auto& entry : calls.Made()) {
-    opened = opened || entry.Purpose == OpenFor::kRewriting;
-    if (opened) order.push_back(entry.Call);
-  }
-  EXPECT_THAT(order, testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
+  EXPECT_THAT(CallsFrom(calls, OpenFor::kRewriting),
+              testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
   EXPECT_THAT(calls.ScratchFiles().back(), testing::EndsWith(".copy")) << "a name that no start clears away";
 }
 
@@ -475,46 +369,20 @@ TEST_F(RemovingStaleScratchFiles, NeverFails) {
 
 using DeletingAFile = Files;
 
-std::optional<RunTimeError> FailureOfDeleting(const fs::path& path, FileCalls& calls = SystemFileCalls()) {
-  try {
-    DeleteFile(path, calls);
-  } catch (const RunTimeError& error) {
-    return error;
-  }
-  return std::nullopt;
-}
-
-TEST_F(DeletingAFile, ThatFileGoesAndNoOther) {
-  Put(Folder() / "Button.txt", kOld);
-  Put(Folder() / "Button.txt.bak", kOld);
-  DeleteFile(Folder() / "Button.txt");
-  EXPECT_THAT(Listing(Folder()), testing::ElementsAre("Button.txt.bak"));
-}
-
 TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
-  struct Case {
-    fs::path path;
-    RunTimeFault fault;
-    const char* reason;
+  const auto failureOf = [&](const fs::path& path, FileCalls& calls = SystemFileCalls()) {
+    return FaultTextOf([&] { DeleteFile(Folder() / path, calls); });
   };
-  for (const Case& c :
-       std::vector<Case>{{"Button.txt", RunTimeFault::kFileNotFound, "Button.txt: No such file or directory"},
-                         {PathOf("Käse.txt"), RunTimeFault::kFileNotFound, "Käse.txt: No such file or directory"},
-                         {"missing/Button.txt", RunTimeFault::kPathNotFound, "Button.txt"},
-                         {"", RunTimeFault::kPathFileAccess, "Ranges"}}) {
-    const auto error = FailureOfDeleting(Folder() / c.path);
-    ASSERT_TRUE(error) << c.reason;
-    EXPECT_EQ(error->Fault(), c.fault) << c.reason;
-    EXPECT_THAT(error->what(), testing::HasSubstr(c.reason));
-  }
+  EXPECT_THAT(failureOf("Button.txt"), testing::HasSubstr("'53': File not found"));
+  EXPECT_THAT(failureOf(PathOf("Käse.txt")), testing::HasSubstr("Käse.txt: No such file or directory"));
+  EXPECT_THAT(failureOf("missing/Button.txt"), testing::HasSubstr("'76': Path not found"));
+  EXPECT_THAT(failureOf(""), testing::HasSubstr("'75': Path/File access error"));
   Put(File(), kOld);
   WatchedCalls calls(FailAll(Call::kUnlink, EACCES));
-  const auto forbidden = FailureOfDeleting(File(), calls);
-  ASSERT_TRUE(forbidden);
-  EXPECT_EQ(forbidden->Fault(), RunTimeFault::kPermissionDenied);
+  EXPECT_THAT(failureOf("Button.txt", calls), testing::HasSubstr("'70': Permission denied"));
   EXPECT_EQ(Content(File()), kOld);
   WatchedCalls interrupted(FailOnce(1, EINTR));
-  EXPECT_FALSE(FailureOfDeleting(File(), interrupted)) << "an interruption is no failure";
+  EXPECT_EQ(failureOf("Button.txt", interrupted), "") << "an interruption is no failure";
   EXPECT_FALSE(fs::exists(File()));
 }
 

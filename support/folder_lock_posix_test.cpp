@@ -13,7 +13,7 @@ namespace {
 TEST(LockOfAFolder, GivesBackTheNumberOfAMissingStandardInput) {
   const TemporaryFolder folder;
   const ClosedInput closed;
-  { const FolderLock lock(folder.Path()); }
+  EXPECT_TRUE(FolderLock(folder.Path()).Held());
   EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1);
 }
 
@@ -27,8 +27,7 @@ TEST(LockOfAFolder, IsOverWhenItsProcessDies) {
   int status = -1;
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   EXPECT_EQ(status, 0);
-  const FolderLock lock(folder.Path());
-  EXPECT_TRUE(lock.Held());
+  EXPECT_TRUE(FolderLock(folder.Path()).Held());
 }
 
 }  // namespace

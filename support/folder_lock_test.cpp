@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "testing/closed_input.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_folder.h"
 
@@ -16,13 +15,7 @@ namespace {
 
 using std::chrono::steady_clock;
 
-class LockingAFolder : public testing::Test {
- protected:
-  [[nodiscard]] const std::filesystem::path& Folder() const { return folder_.Path(); }
-
- private:
-  TemporaryFolder folder_;
-};
+class LockingAFolder : public testing::Test, public TemporaryFolder {};
 
 TEST_F(LockingAFolder, OneHasItAtATime) {
   constexpr int kTurns = 200;
@@ -30,7 +23,7 @@ TEST_F(LockingAFolder, OneHasItAtATime) {
   std::atomic<bool> met = false;
   const auto takeTurns = [&] {
     for (int turn = 0; turn < kTurns; ++turn) {
-      const FolderLock lock(Folder());
+      const FolderLock lock(Path());
       if (!lock.Held()) continue;
       const int before = ++inside;
       std::this_thread::yield();
@@ -44,30 +37,17 @@ TEST_F(LockingAFolder, OneHasItAtATime) {
   EXPECT_FALSE(met);
 }
 
-TEST_F(LockingAFolder, LeavesNothingInTheFolder) {
-  { const FolderLock lock(Folder()); }
-  EXPECT_TRUE(std::filesystem::is_empty(Folder()));
-}
-
-TEST_F(LockingAFolder, NeedsNoStandardInput) {
-  const ClosedInput closed;
-  const FolderLock lock(Folder());
-  EXPECT_TRUE(lock.Held());
-}
-
 TEST_F(LockingAFolder, IsOverWhenItsHolderIs) {
-  {
-    const FolderLock first(Folder());
-    EXPECT_TRUE(first.Held());
-  }
-  const FolderLock second(Folder());
-  EXPECT_TRUE(second.Held());
+  for (int turn = 0; turn < 2; ++turn)
+    EXPECT_TRUE(FolderLock(Path()).Held());
+  EXPECT_TRUE(std::filesystem::is_empty(Path()));
+  EXPECT_FALSE(FolderLock(Path() / "missing").Held());
 }
 
 TEST_F(LockingAFolder, WaitForOneWhoHangsHasAnEnd) {
-  const FolderLock hanging(Folder());
+  const FolderLock hanging(Path());
   const auto start = steady_clock::now();
-  const FolderLock lock(Folder());
+  const FolderLock lock(Path());
   EXPECT_FALSE(lock.Held());
   EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(10));
 }
@@ -86,14 +66,9 @@ TEST_F(LockingAFolder, IsTriedAgainWhereThatHelps) {
   };
   for (const Case& c : kCases) {
     WatchedCalls calls(FailAll(Call::kTryLock, c.error, 3));
-    const FolderLock lock(Folder(), calls);
+    const FolderLock lock(Path(), calls);
     EXPECT_EQ(lock.Held(), c.held) << c.rule;
   }
-}
-
-TEST_F(LockingAFolder, FolderThatIsNotThereHasNone) {
-  const FolderLock lock(Folder() / "missing");
-  EXPECT_FALSE(lock.Held());
 }
 
 }  // namespace

@@ -12,15 +12,10 @@
 namespace quillon {
 namespace {
 
-// To a caller who makes a folder, "File not found" would speak of the wrong thing: what is missing is on the way to it.
-RunTimeFault FaultOfMaking(int systemError) {
-  return systemError == ENOENT ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError);
-}
-
-[[noreturn]] void FailToList(const std::filesystem::path& folder, const std::error_code& error) {
-  const bool missing = error == std::errc::no_such_file_or_directory;
-  throw RunTimeError(missing ? RunTimeFault::kPathNotFound : RunTimeFaultOf(error.default_error_condition().value()),
-                     TextOfFileName(folder.string()) + ": " + error.message());
+// To a caller who wants a folder, "File not found" would speak of the wrong thing: what is missing is on the way to it.
+[[noreturn]] void FailOnFolder(int systemError, const std::filesystem::path& folder) {
+  throw RunTimeError(systemError == ENOENT ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError),
+                     TextOfFileName(folder.string()) + ": " + ReasonOf(systemError));
 }
 
 // Joined as text: the path operator would let a name that starts with a separator replace the folder.
@@ -48,8 +43,7 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
   const int made = Uninterrupted([&] { return calls.MakeFolder(path.string()); });
-  if (made >= 0) return;
-  throw RunTimeError(FaultOfMaking(-made), TextOfFileName(path.string()) + ": " + ReasonOf(-made));
+  if (made < 0) FailOnFolder(-made, path);
 }
 
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
@@ -58,7 +52,7 @@ void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
 
 std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
   const FolderListing listing = ListFolder(folder);
-  if (listing.Error) FailToList(folder, listing.Error);
+  if (listing.Error) FailOnFolder(listing.Error.default_error_condition().value(), folder);
   std::vector<std::string> names;
   for (const std::filesystem::directory_entry& file : listing.Entries) {
     // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing file.

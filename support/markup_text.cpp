@@ -1,9 +1,20 @@
 #include "support/markup_text.h"
 
+#include <algorithm>
+#include <array>
+
 #include "support/utf8.h"
 
 namespace quillon {
 namespace {
+
+struct Reference {
+  char32_t Character;
+  std::string_view Markup;
+};
+
+constexpr auto kReferences =
+    std::to_array<Reference>({{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&#39;"}});
 
 bool MayStand(char32_t character) {
   if (character < 0x20) return character == '\t' || character == '\n' || character == '\r';
@@ -20,25 +31,11 @@ std::string MarkupText(std::string_view text) {
   markup.reserve(text.size());
   while (!text.empty()) {
     const Utf8Character first = FirstCharacter(text);
-    switch (first.Character) {
-      case '&':
-        markup += "&amp;";
-        break;
-      case '<':
-        markup += "&lt;";
-        break;
-      case '>':
-        markup += "&gt;";
-        break;
-      case '"':
-        markup += "&quot;";
-        break;
-      case '\'':
-        markup += "&#39;";
-        break;
-      default:
-        markup += MayStand(first.Character) ? text.substr(0, first.Length) : kReplacement;
-    }
+    const auto* const reference = std::ranges::find(kReferences, first.Character, &Reference::Character);
+    if (reference != kReferences.end())
+      markup += reference->Markup;
+    else
+      markup += MayStand(first.Character) ? text.substr(0, first.Length) : kReplacement;
     text.remove_prefix(first.Length);
   }
   return markup;

@@ -17,11 +17,9 @@ TEST(MarkupText, ShowsATextAsItIs) {
     std::string markup;
   };
   for (const Case& c : std::vector<Case>{
-           {"nothing", "", ""},
            {"plain", "88+,A2s+ Überfall €", "88+,A2s+ Überfall €"},
            {"a tag", "<script>alert(1)</script>", "&lt;script&gt;alert(1)&lt;/script&gt;"},
            {"the end of an attribute", R"("' onload="x)", "&quot;&#39; onload=&quot;x"},
-           {"a reference", "&lt;", "&amp;lt;"},
            {"tab and line ends", "a\tb\r\n", "a\tb\r\n"},
            {"a zero byte", "a\0b"sv, "a" + std::string(kMark) + "b"},
            {"control characters", "\x1b\x7f\xC2\x85", std::string(kMark) + std::string(kMark) + std::string(kMark)},

@@ -16,7 +16,7 @@ enum class MessageButtons { kOk, kYesNo, kYesNoCancel };
 enum class MessageAnswer { kOk, kYes, kNo, kCancel };
 
 struct Message {
-  std::string title;
+  std::string title{kApplicationTitle};
   std::string text;  // line ends are CR LF
   MessageIcon icon = MessageIcon::kInformation;
   MessageButtons buttons = MessageButtons::kOk;

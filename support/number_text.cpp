@@ -19,15 +19,13 @@ namespace {
 constexpr int kDoubleDigits = 15;
 constexpr int kFloatDigits = 7;
 
-// A double holds every integer below 2^53 and every power of ten up to 10^22 exactly, so one multiplication or division
-// of the two gives the correctly rounded number (W. D. Clinger, "How to read floating point numbers accurately", 1990).
-constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                                 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr std::size_t kMostFastDigits = 15;  // below 10^15, so below 2^53
-
 constexpr std::size_t kDigitGroup = sizeof(std::uint64_t);
-constexpr std::array<std::int64_t, kDigitGroup + 1> kWholePowersOfTen = {1,      10,      100,      1000,     10000,
-                                                                         100000, 1000000, 10000000, 100000000};
+constexpr auto kPowersOfTen = [] {
+  std::array<std::int64_t, kDoubleDigits + 1> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i)
+    powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -92,24 +90,21 @@ bool IsTooSmall(std::string_view compact) {
   return exponent < -place;
 }
 
-// A number of the grammar, without its spaces, read with the library's correctly rounding parser.
+// The number at the start of a text without spaces, by the library's correctly rounding parser. An exponent counts only
+// with at least one digit: "1e" and "1e+" are the number 1.
 double ParseCompact(std::string_view compact) {
-  const bool negative = compact.front() == '-';
-  if (compact.front() == '-' || compact.front() == '+') compact.remove_prefix(1);
+  const bool negative = compact.starts_with('-');
+  if (negative || compact.starts_with('+')) compact.remove_prefix(1);
+  if (compact.empty() || !(IsDigit(compact[0]) || compact[0] == '.')) return 0;  // a second sign
   double value = 0;
-  const auto result = std::from_chars(compact.data(), compact.data() + compact.size(), value);
-  if (result.ec == std::errc::result_out_of_range) {
-    value = IsTooSmall(compact) ? 0.0 : std::numeric_limits<double>::max();
+  const auto [end, fault] = std::from_chars(compact.data(), compact.data() + compact.size(), value);
+  if (fault == std::errc::invalid_argument) return 0;
+  if (fault == std::errc::result_out_of_range) {
+    const std::string_view number = compact.substr(0, static_cast<std::size_t>(end - compact.data()));
+    value = IsTooSmall(number) ? 0.0 : std::numeric_limits<double>::max();
   }
   return negative ? -value : value;
 }
-
-// Digits with at most one point, as far as they go from the start of a text.
-struct PlainStart {
-  double value;
-  bool exact;  // there are digits, and so few that the value is correctly rounded
-  std::size_t length;
-};
 
 // The digits at the start of eight characters.
 struct DigitRun {
@@ -135,79 +130,6 @@ DigitRun ReadDigits(const char* eight) {
   return {static_cast<std::int64_t>(word), count};
 }
 
-// Almost every text read is a short plain decimal. What this does not settle is left to the scanner.
-PlainStart ReadPlainStart(std::string_view text) {
-  std::uint64_t mantissa = 0;
-  std::size_t length = 0;
-  std::size_t point = std::string_view::npos;
-  for (; length < text.size(); ++length) {
-    const char c = text[length];
-    if (IsDigit(c)) {
-      mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
-    } else if (c == '.' && point == std::string_view::npos) {
-      point = length;
-    } else {
-      break;
-    }
-  }
-  const bool hasPoint = point != std::string_view::npos;
-  const std::size_t digits = hasPoint ? length - 1 : length;
-  const std::size_t decimals = hasPoint ? length - 1 - point : 0;
-  if (digits == 0 || digits > kMostFastDigits) return {0, false, length};
-  return {static_cast<double>(mantissa) / kPowersOfTen[decimals], true, length};
-}
-
-// Walks a text, skips its spaces and gathers what belongs to its leading number.
-class NumberScanner {
- public:
-  explicit NumberScanner(std::string_view text) : text_(text) {}
-
-  double Read() {
-    TakeSign();
-    std::size_t digits = TakeDigits();
-    if (Peek() == '.') {
-      Take();
-      digits += TakeDigits();
-    }
-    if (digits == 0) return 0;
-    TakeExponent();
-    return ParseCompact(compact_);
-  }
-
- private:
-  char Peek() {
-    while (position_ < text_.size() && text_[position_] == ' ')
-      ++position_;
-    return position_ < text_.size() ? text_[position_] : '\0';
-  }
-
-  void Take() { compact_ += text_[position_++]; }
-
-  void TakeSign() {
-    if (Peek() == '+' || Peek() == '-') Take();
-  }
-
-  std::size_t TakeDigits() {
-    std::size_t count = 0;
-    for (; IsDigit(Peek()); ++count)
-      Take();
-    return count;
-  }
-
-  // An exponent counts only with at least one digit: "1e" and "1e+" are the number 1.
-  void TakeExponent() {
-    if (Peek() != 'e' && Peek() != 'E') return;
-    const std::size_t mantissaLength = compact_.size();
-    Take();
-    TakeSign();
-    if (TakeDigits() == 0) compact_.resize(mantissaLength);
-  }
-
-  std::string_view text_;
-  std::size_t position_ = 0;
-  std::string compact_;
-};
-
 // The number times 10^decimals, rounded half away from zero to a whole number: its digits alone.
 std::string WholeDigits(const ScientificForm& form, int decimals) {
   const int digitCount = static_cast<int>(form.digits.size());
@@ -217,7 +139,7 @@ std::string WholeDigits(const ScientificForm& form, int decimals) {
 
   std::int64_t mantissa = 0;
   std::from_chars(form.digits.data(), form.digits.data() + form.digits.size(), mantissa);
-  const auto unit = static_cast<std::int64_t>(kPowersOfTen[static_cast<std::size_t>(dropped)]);
+  const std::int64_t unit = kPowersOfTen[static_cast<std::size_t>(dropped)];
   return std::to_string((mantissa + unit / 2) / unit);
 }
 
@@ -316,10 +238,10 @@ std::string FloatNumberText(float value) {
 }
 
 double LeadingNumber(std::string_view text) {
-  const PlainStart start = ReadPlainStart(text);
-  const char next = start.length < text.size() ? text[start.length] : '\0';
-  const bool mayGoOn = next == ' ' || next == 'e' || next == 'E';
-  return start.exact && !mayGoOn ? start.value : NumberScanner(text).Read();
+  if (text.find(' ') == std::string_view::npos) return ParseCompact(text);
+  std::string compact(text.substr(0, text.find_first_not_of("0123456789.eE+- ")));
+  std::erase(compact, ' ');
+  return ParseCompact(compact);
 }
 
 double LeadingNumberBefore(std::string_view text, char end) {
@@ -328,13 +250,12 @@ double LeadingNumberBefore(std::string_view text, char end) {
   if (text.size() >= 2 + kDigitGroup && IsDigit(text[0]) && text[1] == '.' && end != '.') {
     const DigitRun run = ReadDigits(text.data() + 2);
     if (run.count < kDigitGroup && text[2 + run.count] == end) {
-      const std::int64_t mantissa = (text[0] - '0') * kWholePowersOfTen[run.count] + run.value;
-      return static_cast<double>(mantissa) / kPowersOfTen[run.count];
+      // Both are exact, so the division gives the correctly rounded number (W. D. Clinger, "How to read floating point
+      // numbers accurately", 1990).
+      const std::int64_t mantissa = (text[0] - '0') * kPowersOfTen[run.count] + run.value;
+      return static_cast<double>(mantissa) / static_cast<double>(kPowersOfTen[run.count]);
     }
   }
-  const PlainStart start = ReadPlainStart(text);
-  const bool endsHere = start.length < text.size() && text[start.length] == end;
-  if (start.exact && endsHere && end != '.') return start.value;  // an end at its own point would come earlier
   return LeadingNumber(text.substr(0, text.find(end)));
 }
 

@@ -1,30 +1,22 @@
 #include "support/number_text.h"
 
-#include <charconv>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
-#include <iomanip>
 #include <limits>
 #include <random>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
+#include "testing/oracle/numbers.h"
 
 namespace quillon {
 namespace {
 
 constexpr double kLargest = std::numeric_limits<double>::max();
 constexpr double kSmallest = std::numeric_limits<double>::denorm_min();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
-
-double LibraryNumber(const std::string& text) {
-  double value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
-}
 
 struct NumberCase {
   const char* rule;
@@ -83,62 +75,6 @@ TEST(FloatNumberText, IsTheGeneralFormOfSevenDigits) {
   };
   for (const FloatCase& c : cases)
     EXPECT_EQ(FloatNumberText(c.value), c.text) << c.rule;
-}
-
-TEST(FloatNumberText, WhatIsNotFiniteOverflows) {
-  EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::infinity())), RunTimeError);
-  EXPECT_THROW(static_cast<void>(FloatNumberText(std::numeric_limits<float>::quiet_NaN())), RunTimeError);
-}
-
-TEST(NumberText, WhatIsNotFiniteOverflows) {
-  for (const double value : {kInfinity, -kInfinity, kNotANumber}) {
-    try {
-      static_cast<void>(NumberText(value));
-      ADD_FAILURE() << value << " has a text";
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
-    }
-  }
-}
-
-// A number of up to 15 significant digits, written as the rules of the general form have it.
-std::string GeneralForm(const std::string& digits, int exponent, bool negative) {
-  const int count = static_cast<int>(digits.size());
-  const std::string sign = negative ? "-" : "";
-  if (exponent >= 15 || count - 1 - exponent > 15) {
-    const std::string power = (std::abs(exponent) < 10 ? "0" : "") + std::to_string(std::abs(exponent));
-    return sign + digits[0] + (count > 1 ? "." + digits.substr(1) : "") + (exponent < 0 ? "E-" : "E+") + power;
-  }
-  if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent) - 1, '0') + digits;
-  const auto whole = static_cast<std::size_t>(exponent) + 1;
-  if (digits.size() <= whole) return sign + digits + std::string(whole - digits.size(), '0');
-  return sign + digits.substr(0, whole) + "." + digits.substr(whole);
-}
-
-TEST(NumberText, EveryDecimalOf15DigitsComesBackAsItWas) {
-  std::mt19937_64 source(169);
-  const auto pick = [&source](int low, int high) { return std::uniform_int_distribution<int>(low, high)(source); };
-  for (int i = 0; i < 200000; ++i) {
-    const int count = pick(1, 15);
-    std::string digits(1, static_cast<char>('0' + pick(1, 9)));
-    for (int k = 1; k < count; ++k)
-      digits += static_cast<char>('0' + (k == count - 1 ? pick(1, 9) : pick(0, 9)));
-    const int exponent = i % 2 == 0 ? pick(-18, 18) : pick(-290, 290);
-    const std::string text = GeneralForm(digits, exponent, pick(0, 1) == 1);
-    ASSERT_EQ(NumberText(LeadingNumber(text)), text);
-  }
-}
-
-TEST(NumberText, IsTheNumberThatTheLibraryPrintsAt15Digits) {
-  std::mt19937_64 source(1326);
-  std::uniform_real_distribution<double> mantissa(-1, 1);
-  std::uniform_int_distribution<int> exponent(-1000, 1000);
-  for (int i = 0; i < 100000; ++i) {
-    const double value = std::ldexp(mantissa(source), i % 2 == 0 ? exponent(source) : exponent(source) / 50);
-    std::ostringstream printed;
-    printed << std::setprecision(15) << value;
-    ASSERT_EQ(LeadingNumber(NumberText(value)), LibraryNumber(printed.str())) << printed.str();
-  }
 }
 
 struct ParseCase {
@@ -229,62 +165,6 @@ TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
   };
   for (const ParseCase& c : cases)
     EXPECT_EQ(LeadingNumber(c.text), c.value) << c.rule;
-}
-
-TEST(LeadingNumber, EqualsTheLibraryParserToTheLastBit) {
-  std::mt19937_64 source(2023);
-  const auto pick = [&source](int low, int high) { return std::uniform_int_distribution<int>(low, high)(source); };
-  const auto digits = [&pick](int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i)
-      text += static_cast<char>('0' + pick(0, 9));
-    return text;
-  };
-  for (int i = 0; i < 300000; ++i) {
-    std::string text = pick(0, 3) == 0 ? "-" : "";
-    text += digits(pick(1, 10));
-    if (pick(0, 1) == 1) text += "." + digits(pick(0, 12));
-    if (i % 3 == 0) text += (pick(0, 1) == 1 ? "e" : "E") + std::to_string(pick(-250, 250));
-    ASSERT_EQ(LeadingNumber(text), LibraryNumber(text)) << text;
-    ASSERT_EQ(LeadingNumber(text + "x1"), LibraryNumber(text)) << text;
-    ASSERT_EQ(LeadingNumber(text + " "), LibraryNumber(text)) << text;
-  }
-}
-
-TEST(LeadingNumberBefore, ReadsNothingBehindTheEnd) {
-  struct Case {
-    const char* rule;
-    std::string text;
-    char end;
-    double value;
-  };
-  const std::vector<Case> cases = {
-      {"a blank ends the number that it would be skipped in", "0.5 0.7 ", ' ', 0.5},
-      {"many digits", "0.1234567890123456 1", ' ', 0.1234567890123456},
-      {"the end at once", " 5", ' ', 0},
-      {"blanks before the end", " 0 . 5 )", ')', 0.5},
-      {"the first of two ends", "1)2)", ')', 1},
-      {"an empty text", "", ')', 0},
-      {"an end within an exponent", "1e5", '5', 1},
-      {"a zero byte", std::string("1\0005", 3), '\0', 1},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(LeadingNumberBefore(c.text, c.end), c.value) << c.rule;
-}
-
-TEST(LeadingNumberBefore, EqualsTheLeadingNumberOfTheTextCutThere) {
-  constexpr std::string_view kLetters = "0123456789012345....  eE+-)x,";
-  std::mt19937 source(14196);
-  const auto pick = [&source](std::size_t count) {
-    return std::uniform_int_distribution<std::size_t>(0, count - 1)(source);
-  };
-  for (int i = 0; i < 300000; ++i) {
-    std::string text;
-    for (std::size_t k = pick(30); k > 0; --k)
-      text += kLetters[pick(kLetters.size())];
-    const char end = pick(2) == 0 ? ')' : kLetters[pick(kLetters.size())];
-    ASSERT_EQ(LeadingNumberBefore(text, end), LeadingNumber(text.substr(0, text.find(end)))) << text << " / " << end;
-  }
 }
 
 // The table's own form, one digit before the point, with every byte as the end and as a character that does not occur.
@@ -481,44 +361,43 @@ TEST(PatternText, HasAllItsDecimalsAndADigitBeforeThePoint) {
   EXPECT_EQ(PatternText(-kLargest, 3).size(), 1U + 309U + 4U);
 }
 
-// Parts of 1024 are exact in binary, so plain integers tell what rounding must give.
-TEST(PatternText, EqualsIntegerArithmeticOnExactFractions) {
-  constexpr long long kParts = 1024;
-  for (long long numerator = 1; numerator <= 5000; ++numerator) {
-    long long scale = 1;
-    for (int digits = 0; digits <= 6; ++digits, scale *= 10) {
-      const std::string rounded = std::to_string((2 * numerator * scale + kParts) / (2 * kParts));
-      const auto decimals = static_cast<std::size_t>(digits);
-      const std::string padded =
-          rounded.size() > decimals ? rounded : std::string(decimals + 1 - rounded.size(), '0') + rounded;
-      const std::size_t whole = padded.size() - decimals;
-      const std::string text = padded.substr(0, whole) + (digits > 0 ? "." + padded.substr(whole) : "");
-      ASSERT_EQ(PatternText(static_cast<double>(numerator) / kParts, digits), text) << numerator << " / " << kParts;
-      ASSERT_EQ(PatternText(-static_cast<double>(numerator) / kParts, digits), "-" + text)
-          << numerator << " / " << kParts;
+TEST(Numbers, ThatAreNotFiniteHaveNoText) {
+  for (const float value : {HUGE_VALF, -HUGE_VALF, std::nanf("")}) {
+    const auto number = static_cast<double>(value);
+    EXPECT_EQ(FaultOf([&] { return NumberText(number); }), RunTimeFault::kOverflow) << value;
+    EXPECT_EQ(FaultOf([&] { return FloatNumberText(value); }), RunTimeFault::kOverflow) << value;
+    EXPECT_EQ(FaultOf([&] { return PatternText(number, 2); }), RunTimeFault::kOverflow) << value;
+  }
+}
+
+// Any bits, fractions, and ties of every number of decimals.
+TEST(Numbers, HaveTheTextsOfTheOracle) {
+  std::mt19937_64 source(169);
+  for (int i = 0; i < 30000; ++i) {
+    const std::uint64_t bits = source();
+    const auto whole = static_cast<double>(bits % 10000001);
+    for (const double value : {std::bit_cast<double>(bits), whole / 1000003, whole / 1024, whole / 200000 - 25}) {
+      if (!std::isfinite(value)) continue;
+      ASSERT_EQ(NumberText(value), plain::NumberText(value));
+      ASSERT_EQ(NumberText(LeadingNumber(NumberText(value))), NumberText(value));
+      ASSERT_EQ(PatternText(value, i % 16), plain::PatternText(value, static_cast<std::size_t>(i % 16))) << value;
     }
   }
 }
 
-// A tie at every equity of the table's six decimals that has one, in whole numbers.
-TEST(PatternText, EqualsIntegerArithmeticOnDecimalFractions) {
-  constexpr long long kMillion = 1000000;
-  for (long long millionths = 0; millionths < kMillion; millionths += 5) {
-    const std::string thousandths = std::to_string((millionths + 500) / 1000);
-    const std::string padded = std::string(4 - std::min<std::size_t>(thousandths.size(), 4), '0') + thousandths;
-    ASSERT_EQ(PatternText(static_cast<double>(millionths) / kMillion, 3), padded.substr(0, 1) + "." + padded.substr(1))
-        << millionths;
-  }
-}
-
-TEST(PatternText, WhatIsNotFiniteOverflows) {
-  for (const double value : {kInfinity, -kInfinity, kNotANumber}) {
-    try {
-      static_cast<void>(PatternText(value, 2));
-      ADD_FAILURE() << value << " has a text";
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
-    }
+TEST(Numbers, AreReadAsByTheOracle) {
+  constexpr std::string_view kLetters = "0123456789012345....  eE+-)x,$";
+  std::mt19937 source(14196);
+  const auto pick = [&source](std::size_t count) { return source() % count; };
+  for (int i = 0; i < 100000; ++i) {
+    std::string text = i % 2 == 0 ? "" : std::to_string(pick(1000)) + "." + std::to_string(pick(1000000000));
+    for (std::size_t k = pick(20); k > 0; --k)
+      text += kLetters[pick(kLetters.size())];
+    const char end = pick(2) == 0 ? ')' : kLetters[pick(kLetters.size())];
+    const std::string cut = text.substr(0, text.find(end));
+    ASSERT_EQ(LeadingNumber(text), plain::LeadingNumber(text)) << text;
+    ASSERT_EQ(LeadingNumberBefore(text, end), plain::LeadingNumber(cut)) << text << " / " << end;
+    ASSERT_EQ(IsNumericText(text), plain::IsNumeric(text)) << text;
   }
 }
 

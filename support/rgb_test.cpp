@@ -17,7 +17,6 @@ TEST(ContrastRatio, IsThatOfTheGuidelines) {
   };
   for (const Case& c : std::vector<Case>{{kBlack, kWhite, 21},
                                          {kWhite, kBlack, 21},
-                                         {kWhite, kWhite, 1},
                                          {{119, 119, 119}, kWhite, 4.478},
                                          {{10, 10, 10}, kBlack, 1.0607}})
     EXPECT_NEAR(ContrastRatio(c.one, c.other), c.ratio, 0.0005);

@@ -14,11 +14,13 @@ struct FaultCase {
   const char* text;
 };
 
-const std::vector<FaultCase> kFaults = {
+constexpr FaultCase kFaults[] = {
     {RunTimeFault::kInvalidProcedureCall, 5, "Invalid procedure call or argument"},
     {RunTimeFault::kOverflow, 6, "Overflow"},
+    {RunTimeFault::kOutOfMemory, 7, "Out of memory"},
     {RunTimeFault::kSubscriptOutOfRange, 9, "Subscript out of range"},
     {RunTimeFault::kDivisionByZero, 11, "Division by zero"},
+    {RunTimeFault::kInternalError, 51, "Internal error"},
     {RunTimeFault::kBadFileName, 52, "Bad file name or number"},
     {RunTimeFault::kFileNotFound, 53, "File not found"},
     {RunTimeFault::kDeviceError, 57, "Device I/O error"},
@@ -27,6 +29,7 @@ const std::vector<FaultCase> kFaults = {
     {RunTimeFault::kPathFileAccess, 75, "Path/File access error"},
     {RunTimeFault::kPathNotFound, 76, "Path not found"},
     {RunTimeFault::kInvalidPropertyValue, 380, "Invalid property value"},
+    {static_cast<RunTimeFault>(1), 1, "Application-defined or object-defined error"},
 };
 
 TEST(RunTimeError, TellsNumberAndText) {
@@ -37,19 +40,8 @@ TEST(RunTimeError, TellsNumberAndText) {
     EXPECT_EQ(RunTimeFaultText(c.fault), c.text);
     EXPECT_EQ(error.what(), "Run-time error '" + std::to_string(c.number) + "': " + c.text);
   }
-}
-
-TEST(RunTimeError, DetailStandsInBrackets) {
-  const RunTimeError error(RunTimeFault::kFileNotFound, "Ranges/Button.txt");
-  EXPECT_STREQ(error.what(), "Run-time error '53': File not found (Ranges/Button.txt)");
-}
-
-TEST(RunTimeError, IsCaughtAsAnyRunTimeErrorOfTheLanguage) {
-  EXPECT_THROW(throw RunTimeError(RunTimeFault::kOverflow), std::runtime_error);
-}
-
-TEST(RunTimeFaultText, UnknownNumberHasATextToo) {
-  EXPECT_EQ(RunTimeFaultText(static_cast<RunTimeFault>(1)), "Application-defined or object-defined error");
+  EXPECT_STREQ(RunTimeError(RunTimeFault::kFileNotFound, "Ranges/Button.txt").what(),
+               "Run-time error '53': File not found (Ranges/Button.txt)");
 }
 
 TEST(RunTimeFaultOf, EverySystemErrorIsAFault) {
@@ -58,22 +50,13 @@ TEST(RunTimeFaultOf, EverySystemErrorIsAFault) {
     RunTimeFault fault;
   };
   const std::vector<Case> cases = {
-      {ENOENT, RunTimeFault::kFileNotFound},
-      {ENOSPC, RunTimeFault::kDiskFull},
-      {EACCES, RunTimeFault::kPermissionDenied},
-      {EPERM, RunTimeFault::kPermissionDenied},
-      {ENAMETOOLONG, RunTimeFault::kBadFileName},
-      {EINVAL, RunTimeFault::kBadFileName},
-      {EILSEQ, RunTimeFault::kBadFileName},
-      {ENOTDIR, RunTimeFault::kPathNotFound},
-      {EISDIR, RunTimeFault::kPathFileAccess},
-      {EROFS, RunTimeFault::kPathFileAccess},
-      {EBUSY, RunTimeFault::kPathFileAccess},
-      {EIO, RunTimeFault::kDeviceError},
-      {ELOOP, RunTimeFault::kDeviceError},
-      {EEXIST, RunTimeFault::kPathFileAccess},
-      {0, RunTimeFault::kDeviceError},
-      {-1, RunTimeFault::kDeviceError},
+      {ENOENT, RunTimeFault::kFileNotFound},      {ENOSPC, RunTimeFault::kDiskFull},
+      {EACCES, RunTimeFault::kPermissionDenied},  {EPERM, RunTimeFault::kPermissionDenied},
+      {ENAMETOOLONG, RunTimeFault::kBadFileName}, {EINVAL, RunTimeFault::kBadFileName},
+      {EILSEQ, RunTimeFault::kBadFileName},       {ENOTDIR, RunTimeFault::kPathNotFound},
+      {EISDIR, RunTimeFault::kPathFileAccess},    {EROFS, RunTimeFault::kPathFileAccess},
+      {EBUSY, RunTimeFault::kPathFileAccess},     {EIO, RunTimeFault::kDeviceError},
+      {EEXIST, RunTimeFault::kPathFileAccess},    {-1, RunTimeFault::kDeviceError},
   };
   for (const Case& c : cases)
     EXPECT_EQ(RunTimeFaultOf(c.systemError), c.fault) << "error number " << c.systemError;

@@ -7,26 +7,29 @@
 
 namespace quillon {
 
-/// The fault that `call` fails with, nothing if it does not fail.
+/// What `call` fails with, nothing if it does not fail.
 template <typename Call>
-std::optional<RunTimeFault> FaultOf(Call call) {
+std::optional<RunTimeError> FailureOf(Call call) {
   try {
     static_cast<void>(call());
   } catch (const RunTimeError& error) {
-    return error.Fault();
+    return error;
   }
   return std::nullopt;
 }
 
-/// The text of the failure of `call`, empty if it does not fail.
+/// The fault of this failure.
+template <typename Call>
+std::optional<RunTimeFault> FaultOf(Call call) {
+  const auto failure = FailureOf(call);
+  return failure ? std::optional(failure->Fault()) : std::nullopt;
+}
+
+/// Its text, empty if there is none.
 template <typename Call>
 std::string FaultTextOf(Call call) {
-  try {
-    static_cast<void>(call());
-  } catch (const RunTimeError& error) {
-    return error.what();
-  }
-  return {};
+  const auto failure = FailureOf(call);
+  return failure ? failure->what() : "";
 }
 
 }  // namespace quillon

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "support/files.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_folder.h"
 
@@ -48,12 +48,7 @@ inline WatchedCalls::Fault FailOnce(int atNumber, int error) {
 // Replaces the file. Returns the failure, if it failed.
 inline std::optional<RunTimeError> FailureOfReplacing(const std::filesystem::path& path,
                                                       const std::filesystem::path& scratchFolder, FileCalls& calls) {
-  try {
-    ReplaceFile(path, kNew, scratchFolder, calls);
-  } catch (const RunTimeError& error) {
-    return error;
-  }
-  return std::nullopt;
+  return FailureOf([&] { ReplaceFile(path, kNew, scratchFolder, calls); });
 }
 
 // A folder of the user's with a folder for scratch files beside it, both gone after the test.
