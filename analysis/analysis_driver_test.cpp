@@ -9,7 +9,7 @@
 
 #include "analysis/results_table.h"
 #include "hand/equity_table.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/recording_window.h"
 #include "testing/split_text.h"
 #include "testing/temporary_program.h"
@@ -59,15 +59,6 @@ class AnalysisDriver : public testing::Test {
     };
   }
 
-  [[nodiscard]] int FaultNumberOfRun(std::int16_t button) {
-    try {
-      Run(button);
-    } catch (const RunTimeError& error) {
-      return error.Number();
-    }
-    return 0;
-  }
-
   TemporaryProgram ranges_;
   RecordingWindow window_{{"100", "50", "200", "Pairs", "Aces"}};
   AnalysisState state_;
@@ -82,20 +73,17 @@ TEST_F(AnalysisDriver, ARunStartsInOrder) {
        {Row{kCallButton, kShoveLine}, Row{kRaiseButton, kShoveLine},
         Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nPairs"}}) {
     window_.Log.clear();
+    state_ = {};
+    std::string stored;  // at each call, whether the situation is stored and whether the state says that a run goes on
+    window_.OnCall = [&](const std::string& /*line*/) {
+      stored += state_.RangeName.empty() ? '-' : state_.Running ? 'R' : 'S';
+    };
     Run(row.button);
     const std::vector<std::string> start(window_.Log.begin(), window_.Log.begin() + 7);
     EXPECT_THAT(start, ElementsAre("SetResultsShown false", "SetNoResultsCaption Please wait...", row.message,
                                    "ShowFrame Progress", "SetNoResultsUnderline true", "HideGridBack", "RaiseCell 0"));
+    EXPECT_EQ(stored.substr(0, start.size()), "---SRRR");
   }
-}
-
-TEST_F(AnalysisDriver, RunningIsSetBetweenTheProgressScreenAndTheUnderline) {
-  std::vector<bool> running;
-  window_.OnCall = [&](const std::string& line) {
-    if (line == "ShowFrame Progress" || line == "SetNoResultsUnderline true") running.push_back(state_.Running);
-  };
-  Run(kCallButton);
-  EXPECT_THAT(running, ElementsAre(false, true));
 }
 
 TEST_F(AnalysisDriver, EachClassIsRaisedCountedAndFollowedByOneYield) {
@@ -126,73 +114,36 @@ TEST_F(AnalysisDriver, AFinishedRunEndsInOrder) {
   EXPECT_FALSE(state_.Running);
 }
 
-TEST_F(AnalysisDriver, PreflopCallStoresItsSituation) {
-  window_.Entered = {"$100", "1,000", "", "Pairs", "Full"};
-  window_.Entered.Call = "12.5";
-  Run(kCallButton);
-  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopCall);
-  EXPECT_EQ(state_.PotSize, 100);
-  EXPECT_EQ(state_.CallAmount, 12.5);
-  EXPECT_EQ(state_.RangeName, "Pairs");
-  EXPECT_EQ(state_.RangeText, kPairs);
-  EXPECT_EQ(state_.ShoveAmount, 0);
-  EXPECT_EQ(state_.CallingRangeName, "");
-  EXPECT_EQ(state_.CallingRangeText, "");
-  EXPECT_EQ(state_.DroppedHands, "");
-}
-
-TEST_F(AnalysisDriver, PreflopRaiseStoresItsSituation) {
+// What the scenario does not ask for keeps what an earlier run left.
+TEST_F(AnalysisDriver, ARunStoresItsSituation) {
   window_.Entered = {"15", "", "100", "Pairs", "Full"};
+  std::string dropped;
+  state_.DroppedHands = "of an earlier run";
+  AtYield(168, [&] { dropped = state_.DroppedHands; });
   Run(kRaiseButton);
-  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(state_.PotSize, 15);
-  EXPECT_EQ(state_.CallAmount, 0);
-  EXPECT_EQ(state_.ShoveAmount, 100);
-  EXPECT_EQ(state_.RangeName, "Pairs");
-  EXPECT_EQ(state_.RangeText, kPairs);
-  EXPECT_EQ(state_.CallingRangeName, "Full");
-  EXPECT_EQ(state_.CallingRangeText, kEveryHand);
+  Situation stored = SituationOf(AnalysisMode::kPreflopRaise, window_.Entered, ranges_.Folder());
+  EXPECT_EQ(static_cast<const Situation&>(state_), stored);
+  EXPECT_EQ(dropped, "of an earlier run") << "they are listed with the last class";
   EXPECT_TRUE(state_.DroppedHands.starts_with("AKs, AKo, AQs,")) << state_.DroppedHands;
   EXPECT_TRUE(state_.DroppedHands.ends_with("32s, 22 (½'d)")) << state_.DroppedHands;
-}
+  dropped = state_.DroppedHands;
 
-TEST_F(AnalysisDriver, DroppedHandsAreListedWithTheLastClassOnly) {
-  state_.DroppedHands = "of an earlier run";
-  std::string before;
-  window_.Entered = {"15", "5", "100", "Aces", "Full"};
-  AtYield(168, [&] { before = state_.DroppedHands; });
-  Run(kRaiseButton);
-  EXPECT_EQ(before, "of an earlier run");
-  EXPECT_NE(state_.DroppedHands, "of an earlier run");
-}
+  window_.Entered = {"150", "50", "7", "Aces", "Aces"};
+  Run(kCallButton);
+  stored.Mode = AnalysisMode::kPreflopCall;
+  stored.PotSize = 150;
+  stored.CallAmount = 50;
+  stored.RangeName = "Aces";
+  stored.RangeText = kAces;
+  EXPECT_EQ(static_cast<const Situation&>(state_), stored);
+  EXPECT_EQ(state_.DroppedHands, dropped);
 
-TEST_F(AnalysisDriver, EquityOnlyLeavesAmountsAndCallingRangeAlone) {
-  window_.Entered = {"15", "5", "100", "Pairs", "Full"};
-  Run(kRaiseButton);
-  const AnalysisState earlier = state_;
   window_.Entered = {"1", "2", "3", "Full", "Aces"};
   Run(kEquityButton);
-  EXPECT_EQ(state_.Mode, AnalysisMode::kEquityOnly);
-  EXPECT_EQ(state_.RangeName, "Full");
-  EXPECT_EQ(state_.RangeText, kEveryHand);
-  EXPECT_EQ(state_.PotSize, 15);
-  EXPECT_EQ(state_.CallAmount, 5);
-  EXPECT_EQ(state_.ShoveAmount, 100);
-  EXPECT_EQ(state_.CallingRangeName, "Full");
-  EXPECT_EQ(state_.CallingRangeText, earlier.CallingRangeText);
-  EXPECT_EQ(state_.DroppedHands, earlier.DroppedHands);
-}
-
-TEST_F(AnalysisDriver, PreflopCallLeavesWhatBelongsToAShoveAlone) {
-  window_.Entered = {"15", "5", "100", "Aces", "Pairs"};
-  Run(kRaiseButton);
-  window_.Entered = {"150", "50", "7", "Pairs", "Full"};
-  Run(kCallButton);
-  EXPECT_EQ(state_.PotSize, 150);
-  EXPECT_EQ(state_.CallAmount, 50);
-  EXPECT_EQ(state_.ShoveAmount, 100);
-  EXPECT_EQ(state_.CallingRangeName, "Pairs");
-  EXPECT_EQ(state_.DroppedHands, "KK, QQ");
+  stored.Mode = AnalysisMode::kEquityOnly;
+  stored.RangeName = "Full";
+  stored.RangeText = kEveryHand;
+  EXPECT_EQ(static_cast<const Situation&>(state_), stored);
 }
 
 TEST_F(AnalysisDriver, AFailedCheckLeavesTheWaitCaptionBehind) {
@@ -220,16 +171,6 @@ TEST_F(AnalysisDriver, AFailedCheckLeavesTheWaitCaptionBehind) {
   }
 }
 
-TEST_F(AnalysisDriver, AfterAFailedCheckTheLabelOpensAProgressScreenWithoutARun) {
-  window_.Entered.Range = "";
-  Run(kCallButton);
-  window_.Log.clear();
-  ClickNoResults(kWaitCaption, window_);
-  StopAnalysis(state_);
-  EXPECT_THAT(window_.Log, ElementsAre("ShowFrame Progress"));
-  EXPECT_FALSE(state_.Running);
-}
-
 TEST_F(AnalysisDriver, OnlyTheWaitCaptionIsALink) {
   ClickNoResults(kNoResultsCaption, window_);
   ClickNoResults("please wait...", window_);
@@ -238,18 +179,6 @@ TEST_F(AnalysisDriver, OnlyTheWaitCaptionIsALink) {
   EXPECT_THAT(window_.Log, ElementsAre());
   ClickNoResults("Please wait...", window_);
   EXPECT_THAT(window_.Log, ElementsAre("ShowFrame Progress"));
-}
-
-TEST_F(AnalysisDriver, AStopInsideTheFirstClassEndsTheRunWithIt) {
-  window_.OnCall = [this](const std::string& line) {
-    if (line == "RaiseCell 0") StopAnalysis(state_);
-  };
-  Run(kCallButton);
-  EXPECT_THAT(
-      window_.LogFromLast("RaiseCell 0"),
-      ElementsAre("RaiseCell 0", "SetProgressPercent 1%", "SetProgressBarWidth 46.242603302002",
-                  "SetNoResultsUnderline false", "SetNoResultsCaption There are no results to display at this time.",
-                  "ShowFrame Preflop Call"));
 }
 
 TEST_F(AnalysisDriver, AStopInAYieldLetsTheNextClassFinish) {
@@ -273,42 +202,11 @@ TEST_F(AnalysisDriver, AStopInTheLastYieldThrowsAllClassesAway) {
   EXPECT_EQ(window_.Count("SetResultsShown true"), 0);
   EXPECT_EQ(window_.Log.back(), "ShowFrame Equity Only");
   EXPECT_EQ(state_.HandInfo, "an earlier table");
-}
+  EXPECT_EQ(state_.RangeName, "Pairs");
 
-TEST_F(AnalysisDriver, AStoppedRunKeepsTheOldTableBesideTheNewSituation) {
-  Run(kCallButton);
-  const std::string table = state_.HandInfo;
-  window_.Log.clear();
-  window_.Entered = {"300", "70", "", "Aces", ""};
-  AtYield(5, [this] { StopAnalysis(state_); });
-  Run(kCallButton);
-  EXPECT_EQ(state_.HandInfo, table);
-  EXPECT_EQ(state_.PotSize, 300);
-  EXPECT_EQ(state_.CallAmount, 70);
-  EXPECT_EQ(state_.RangeName, "Aces");
-  EXPECT_EQ(window_.Count("SetResultsShown"), 1) << "hidden at the start, and never shown again";
-  EXPECT_EQ(window_.Count("PresentResults"), 0);
-}
-
-TEST_F(AnalysisDriver, AfterAStopTheNextRunGoesThrough) {
-  AtYield(1, [this] { StopAnalysis(state_); });
-  Run(kCallButton);
   window_.OnCall = nullptr;
-  Run(kCallButton);
-  EXPECT_EQ(window_.Log.back(), "ClickNav 3");
-  EXPECT_EQ(state_.HandInfo, TableOf(kCallButton, window_.Entered));
-}
-
-TEST_F(AnalysisDriver, ASecondRunStartsWithWhatTheFirstLeftOfTheProgress) {
-  Run(kCallButton);
-  window_.Log.clear();
-  Run(kCallButton);
-  const auto firstProgress = std::find_if(window_.Log.begin(), window_.Log.end(), [](const std::string& line) {
-    return line.starts_with("SetProgressPercent") || line.starts_with("SetProgressBarWidth");
-  });
-  ASSERT_NE(firstProgress, window_.Log.end());
-  EXPECT_EQ(*firstProgress, "SetProgressPercent 1%") << "nothing takes the 100% back before the first class is done";
-  EXPECT_EQ(*(firstProgress - 1), "RaiseCell 0");
+  Run(kEquityButton);
+  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the next run goes through";
 }
 
 TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
@@ -390,20 +288,6 @@ TEST_F(AnalysisDriver, ARunThatIsStoppedAfterARefusedClickReturnsToTheRefusedScr
   EXPECT_EQ(window_.Log.back(), "ShowFrame Equity Only");
 }
 
-TEST_F(AnalysisDriver, TheSituationIsStoredBehindTheMessageAndBeforeTheProgressScreen) {
-  double potAtMessage = -1;
-  double potAtScreen = -1;
-  state_.PotSize = 7;
-  const std::string pot = window_.Entered.Pot;
-  window_.OnCall = [&](std::string_view call) {
-    if (call.starts_with("SetProgressMessage")) potAtMessage = state_.PotSize;
-    if (call == "ShowFrame Progress") potAtScreen = state_.PotSize;
-  };
-  Run(kCallButton);
-  EXPECT_EQ(potAtMessage, 7);
-  EXPECT_EQ(potAtScreen, BoxValue(pot));
-}
-
 TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
   const EnteredSituation before{"100", "50", "200", "Pairs", "Pairs"};
   const EnteredSituation after{"120", "40", "300", "Pairs", "Pairs"};
@@ -448,17 +332,6 @@ class VanishingRange : public RecordingWindow {
   mutable int asked_ = 0;
 };
 
-TEST_F(AnalysisDriver, ARangeFileThatVanishesAfterTheCheckIsFatal) {
-  VanishingRange window({"100", "50", "", "Aces", ""}, ranges_);
-  try {
-    RunAnalysis(state_, kCallButton, window, ranges_.Folder());
-    ADD_FAILURE() << "nothing failed";
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Fault(), RunTimeFault::kSubscriptOutOfRange);
-  }
-  EXPECT_EQ(window.Log.back(), "RaiseCell 0");
-}
-
 TEST_F(AnalysisDriver, ARangeFileThatReturnsBeforeTheFirstClassIsReadThenAndKept) {
   struct Row {
     std::int16_t button;
@@ -492,15 +365,9 @@ TEST_F(AnalysisDriver, AShoveWithoutARangeFileFailsOnTheFirstClass) {
                          Row{"neither file", "Missing", "Missing"}}) {
     window_.Log.clear();
     window_.Entered = {"15", "5", "100", row.range, row.callingRange};
-    EXPECT_EQ(FaultNumberOfRun(kRaiseButton), 9) << row.name;
+    EXPECT_EQ(FaultOf([&] { Run(kRaiseButton); }), RunTimeFault::kSubscriptOutOfRange) << row.name;
     EXPECT_EQ(window_.Log.back(), "RaiseCell 0") << row.name;
   }
-}
-
-TEST_F(AnalysisDriver, AnyOtherButtonShoves) {
-  Run(7);
-  EXPECT_EQ(state_.Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(state_.HandInfo, TableOf(kRaiseButton, window_.Entered));
 }
 
 }  // namespace

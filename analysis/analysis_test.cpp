@@ -1,6 +1,5 @@
 #include "analysis/analysis.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -8,8 +7,7 @@
 
 #include "hand/equity_table.h"
 #include "ranges/range_text.h"
-#include "support/number_text.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/range_texts.h"
 #include "testing/split_text.h"
 
@@ -44,28 +42,7 @@ Situation AnEquity(const std::string& range) {
 class AnalyzeTest : public testing::Test {
  public:
   void SetUp() override { LoadEquityTable(); }
-
-  static int FaultNumberOf(const Situation& situation) {
-    try {
-      (void)Analyze(situation);
-    } catch (const RunTimeError& error) {
-      return error.Number();
-    }
-    return 0;
-  }
 };
-
-TEST_F(AnalyzeTest, RowsAreInClassOrder) {
-  for (const Situation& situation : {ACall(kPairs), ARaise(kEveryHand, kPairs), AnEquity(kPairs)}) {
-    const auto rows = Lines(Analyze(situation)->HandInfo, "\r\n");
-    ASSERT_EQ(rows.size(), 169U);
-    for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-      const std::string& row = rows[static_cast<std::size_t>(index)];
-      EXPECT_EQ(row.substr(0, row.find('\t')), HandLabel(index));
-      EXPECT_EQ(std::count(row.begin(), row.end(), '\t'), 4) << row;
-    }
-  }
-}
 
 TEST_F(AnalyzeTest, TheSituationComesBackAsItWas) {
   Situation situation = ARaise(kPairs, kAces);
@@ -83,24 +60,6 @@ TEST_F(AnalyzeTest, RowsAgainstARangeOfAces) {
   EXPECT_EQ(equity[14], "KK\t0\t0.180539\t1\t");
 }
 
-TEST_F(AnalyzeTest, AShoveAgainstAcesOutOfAllHands) {
-  const std::string table = Analyze(ARaise(kEveryHand, kAces))->HandInfo;
-  // KK blocks no ace: 6 of the 1225 other hands call, and the equity against them is that against aces.
-  const double callShare = 6.0 / 1225;
-  const HandResult kings = GetHandResult(table, "KK");
-  EXPECT_EQ(kings.FoldShare, LeadingNumber(NumberText(1 - callShare)));
-  EXPECT_NEAR(kings.Equity, 0.180539, 1e-14);
-  EXPECT_NEAR(kings.ExpectedValue, (0.180539 * 550 - 250) * callShare + (1 - callShare) * 100, 1e-12);
-  EXPECT_EQ(GetHandResult(table, "AA").FoldShare, LeadingNumber(NumberText(1 - 1.0 / 1225)));
-}
-
-TEST_F(AnalyzeTest, ACallingRangeBeyondTheCurrentOneAlwaysCalls) {
-  const auto analysis = Analyze(ARaise(kAces, kPairs));
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    EXPECT_EQ(GetHandResult(analysis->HandInfo, HandLabel(index)).FoldShare, 0) << HandLabel(index);
-  EXPECT_EQ(analysis->DroppedHands, "KK, QQ");
-}
-
 TEST_F(AnalyzeTest, AnOpponentWhoNeverCallsLeavesThePot) {
   for (const Situation& situation :
        {ARaise(kEveryHand, kNoHand), ARaise(kNoHand, kEveryHand), ARaise(kNoHand, kNoHand)}) {
@@ -109,27 +68,22 @@ TEST_F(AnalyzeTest, AnOpponentWhoNeverCallsLeavesThePot) {
   }
 }
 
-TEST_F(AnalyzeTest, OnlyAScenarioWithACallingRangeDropsHands) {
-  Situation call = ACall(kAces);
-  call.CallingRangeText = kPairs;
-  EXPECT_EQ(Analyze(call)->DroppedHands, "");
-}
-
 TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
   struct Row {
     const char* name;
     Situation situation;
-    int number;
+    RunTimeFault fault;
   };
   Situation beyond = ARaise(kEveryHand, kEveryHand);
   beyond.PotSize = beyond.CallAmount = beyond.ShoveAmount = 1e308;
   for (const Row& row :
-       {Row{"a call without a range text", ACall(""), 9}, Row{"equities without a range text", AnEquity(""), 9},
-        Row{"a shove without a range text", ARaise("", kEveryHand), 9},
-        Row{"a shove without a calling range text", ARaise(kEveryHand, ""), 9},
-        Row{"a text that is no range", ACall("no weights here"), 5}, Row{"a range without weight", ACall(kNoHand), 6},
-        Row{"a value beyond all numbers", beyond, 6}}) {
-    EXPECT_EQ(FaultNumberOf(row.situation), row.number) << row.name;
+       {Row{"a call without a range text", ACall(""), RunTimeFault::kSubscriptOutOfRange},
+        Row{"a shove without a range text", ARaise("", kEveryHand), RunTimeFault::kSubscriptOutOfRange},
+        Row{"a shove without a calling range text", ARaise(kEveryHand, ""), RunTimeFault::kSubscriptOutOfRange},
+        Row{"a text that is no range", ACall("no weights here"), RunTimeFault::kInvalidProcedureCall},
+        Row{"a range without weight", ACall(kNoHand), RunTimeFault::kOverflow},
+        Row{"a value beyond all numbers", beyond, RunTimeFault::kOverflow}}) {
+    EXPECT_EQ(FaultOf([&] { return Analyze(row.situation); }), row.fault) << row.name;
   }
 }
 
@@ -205,16 +159,6 @@ TEST_F(AnalyzeTest, NumbersReadBeforeGiveTheSameAnalysis) {
                                calling.empty() ? ClassWeights{} : RangeWeightsOf(calling));
     EXPECT_EQ(Analyze(situation, numbers), Analyze(situation));
   }
-}
-
-TEST_F(AnalyzeTest, ATableHasTheRowsOfItsFigures) {
-  const Situation situation = ARaise(kEveryHand, kPairs);
-  const Scenario& scenario = ScenarioOf(situation.Mode);
-  const RangeTexts ranges({"", situation.RangeText}, {"", situation.CallingRangeText});
-  std::string table;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    table += ResultRow(ResultOf(scenario, index, ranges.FiguresOf(scenario, index), {100, 50, 200}));
-  EXPECT_EQ(Analyze(situation)->HandInfo, table);
 }
 
 }  // namespace

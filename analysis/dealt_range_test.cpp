@@ -1,13 +1,10 @@
 #include "analysis/dealt_range.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 
-#include "ranges/range_text.h"
-#include "support/run_time_error.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
 #include "testing/temporary_program.h"
@@ -15,13 +12,7 @@
 namespace quillon {
 namespace {
 
-using testing::Each;
-using testing::Field;
 using testing::SizeIs;
-
-std::ptrdiff_t CountOfWeight(const HandList& list, double weight) {
-  return std::count_if(list.begin(), list.end(), [&](const HandRecord& hand) { return hand.Weight == weight; });
-}
 
 HandList Deal(std::string text, std::string_view card1, std::string_view card2) {
   return DealRange(ProgramFolder{}, "", card1, card2, text);
@@ -30,13 +21,6 @@ HandList Deal(std::string text, std::string_view card1, std::string_view card2) 
 HandList DealForClass(const std::string& text, std::string_view label) {
   const FixedText<5> cards = HandCards(label);
   return Deal(text, cards.View().substr(0, 2), cards.View().substr(3, 2));
-}
-
-TEST(BuildCombos, PlaceholderCardsBlockNothing) {
-  const HandList hands = BuildCombos("Xx", "Yy");
-  EXPECT_THAT(hands, SizeIs(1326));
-  EXPECT_THAT(hands, Each(Field(&HandRecord::Weight, 1.0)));
-  EXPECT_THAT(hands, Each(Field(&HandRecord::WeightText, "1")));
 }
 
 TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
@@ -53,16 +37,6 @@ TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
   EXPECT_EQ(aceKing.WeightText, "0");
 }
 
-TEST(BuildCombos, ACardBlocksTheFiftyOneHandsThatHoldIt) {
-  const HandList hands = BuildCombos("Ah", "Yy");
-  EXPECT_EQ(CountOfWeight(hands, 0), 51);
-  for (const HandRecord& hand : hands) {
-    const bool holds = hand.Card1 == "Ah" || hand.Card2 == "Ah";
-    EXPECT_EQ(hand.Weight, holds ? 0 : 1) << hand.Cards;
-    EXPECT_EQ(hand.WeightText, holds ? "0" : "1") << hand.Cards;
-  }
-}
-
 TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
   struct Row {
     const char* name;
@@ -71,6 +45,7 @@ TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
     std::ptrdiff_t blocked;
   };
   for (const Row& row : {
+           Row{"placeholders block nothing", "Xx", "Yy", 0},
            Row{"two cards block 51 + 51 - 1 hands", "As", "Ac", 101},
            Row{"the empty text is found everywhere", "", "Yy", 1326},
            Row{"a rank blocks all hands that hold it", "A", "Yy", 48 * 4 + 6},
@@ -79,32 +54,16 @@ TEST(BuildCombos, DeadTextsAreSearchedAsTexts) {
            Row{"suit, blank and rank are searched across the cards", "s K", "Yy", 4 + 3},
            Row{"more than a card is in no hand", "Ahx", "Yy", 0},
        }) {
-    const HandList hands = BuildCombos(row.dead1, row.dead2);
-    const auto found = std::count_if(hands.begin(), hands.end(), [&](const HandRecord& hand) {
-      return hand.Cards.View().find(row.dead1) != std::string::npos ||
-             hand.Cards.View().find(row.dead2) != std::string::npos;
-    });
-    EXPECT_EQ(CountOfWeight(hands, 0), found) << row.name;
-    EXPECT_EQ(CountOfWeight(hands, 0), row.blocked) << row.name;
+    std::ptrdiff_t blocked = 0;
+    for (const HandRecord& hand : BuildCombos(row.dead1, row.dead2)) {
+      const bool found = hand.Cards.View().find(row.dead1) != std::string::npos ||
+                         hand.Cards.View().find(row.dead2) != std::string::npos;
+      EXPECT_EQ(hand.Weight, found ? 0 : 1) << row.name << ", " << hand.Cards;
+      EXPECT_EQ(hand.WeightText, found ? "0" : "1") << row.name << ", " << hand.Cards;
+      blocked += found ? 1 : 0;
+    }
+    EXPECT_EQ(blocked, row.blocked) << row.name;
   }
-}
-
-TEST(DealRange, AHandHasTheWeightOfItsClassUnlessBlocked) {
-  const std::string text = RangeWith({{"AA", 1}, {"AKs", 0.5}, {"72o", 0.25}});
-  const HandList hands = Deal(text, "As", "Kc");
-  ASSERT_THAT(hands, SizeIs(1326));
-  for (const HandRecord& hand : hands) {
-    const bool blocked = hand.Card1 == "As" || hand.Card1 == "Kc" || hand.Card2 == "As" || hand.Card2 == "Kc";
-    EXPECT_EQ(hand.Weight, blocked ? 0 : RangeWeightOf(text, hand.Label)) << hand.Cards;
-    EXPECT_EQ(hand.WeightText, blocked ? "0" : "1") << "the weight text is that of the build: " << hand.Cards;
-  }
-}
-
-TEST(DealRange, WeightsAreTakenAsTheyStand) {
-  const HandList hands = Deal(RangeWith({{"AA", 2}, {"AKs", -1}, {"AKo", 0.37}}), "Xx", "Yy");
-  EXPECT_EQ(hands.at(0).Weight, 2);
-  EXPECT_EQ(hands.at(3).Weight, -1);
-  EXPECT_EQ(hands.at(4).Weight, 0.37);
 }
 
 TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
@@ -113,33 +72,17 @@ TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
   EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "after the entry it does no harm";
 }
 
-TEST(DealRange, AMissingClassReadsWhatStandsBeforeTheFirstBracket) {
-  const HandList hands = Deal("AA (1), AKs (0), ", "Xx", "Yy");
-  EXPECT_EQ(hands.at(4).Weight, 1) << "AKo";
-  EXPECT_EQ(hands.at(1325).Weight, 0) << "22";
-}
-
 TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
   const TemporaryProgram ranges;
   ranges.Save("Aces", RangeWith({{"AA", 1}}));
   std::string text;
   EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 6);
   EXPECT_EQ(text, RangeWith({{"AA", 1}}));
-}
-
-TEST(DealRange, ATextAtHandIsNotReadAgain) {
-  const TemporaryProgram ranges;
-  ranges.Save("Aces", RangeWith({{"AA", 1}}));
-  std::string text = RangeWith({{"AKs", 1}});
-  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4);
-  EXPECT_EQ(text, RangeWith({{"AKs", 1}}));
-}
-
-TEST(DealRange, WithoutAChosenRangeThereAreNoRecords) {
-  const TemporaryProgram ranges;
-  std::string text;
-  EXPECT_THAT(DealRange(ranges.Folder(), "", "Xx", "Yy", text), SizeIs(0));
-  EXPECT_EQ(text, "");
+  text = RangeWith({{"AKs", 1}});
+  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4) << "a text at hand is not read again";
+  std::string none;
+  EXPECT_THAT(DealRange(ranges.Folder(), "", "Xx", "Yy", none), SizeIs(0)) << "no range is chosen";
+  EXPECT_EQ(none, "");
 }
 
 TEST(DealRange, AFaultNamesTheRangesFile) {
@@ -148,25 +91,17 @@ TEST(DealRange, AFaultNamesTheRangesFile) {
     const char* fault;
   };
   const TemporaryProgram ranges;
-  ranges.Save("Hollow", "");
   ranges.Save("Broken", "AA (1");
   for (const Row& row : {
            Row{"Missing",
                "Run-time error '9': Subscript out of range (the range file \"Missing.txt\" is missing or empty)"},
-           Row{"Hollow",
-               "Run-time error '9': Subscript out of range (the range file \"Hollow.txt\" is missing or empty)"},
            Row{"Broken",
                "Run-time error '5': Invalid procedure call or argument (the range file \"Broken.txt\" holds no weight "
                "for "
                "AA)"},
        }) {
     std::string text;
-    try {
-      static_cast<void>(DealRange(ranges.Folder(), row.range, "Xx", "Yy", text));
-      ADD_FAILURE() << row.range << " was dealt";
-    } catch (const RunTimeError& error) {
-      EXPECT_STREQ(error.what(), row.fault);
-    }
+    EXPECT_EQ(FaultTextOf([&] { return DealRange(ranges.Folder(), row.range, "Xx", "Yy", text); }), row.fault);
   }
 }
 
@@ -183,21 +118,14 @@ TEST(TotalWeight, CountsTheHandsThatSurvive) {
     double weight;
   };
   for (const Row& row : {
-           Row{"the full range", EveryHandAt(1), "", 1326},
            Row{"the full range around As Ac", EveryHandAt(1), "AA", 1225},
            Row{"aces around As Ac are Ah Ad alone", RangeWith({{"AA", 1}}), "AA", 1},
            Row{"aces around Ac Ks lose three hands", RangeWith({{"AA", 1}}), "AKo", 3},
-           Row{"offsuit ace-king around Ac Ks loses the three with Ac and the three with Ks", RangeWith({{"AKo", 1}}),
-               "AKo", 7},
            Row{"half aces around 7c 2s weigh a half each", RangeWith({{"AA", 0.5}}), "72o", 3},
        }) {
     const HandList list = *row.hero == '\0' ? Deal(row.range, "Xx", "Yy") : DealForClass(row.range, row.hero);
     EXPECT_EQ(TotalWeight(list), row.weight) << row.name;
   }
-}
-
-TEST(TotalWeight, AListWithoutRecordsHasNoSum) {
-  EXPECT_EQ(FaultOf([] { return TotalWeight({}); }), RunTimeFault::kSubscriptOutOfRange);
 }
 
 TEST(TotalWeight, AddsInTheOrderOfTheList) {
@@ -206,6 +134,7 @@ TEST(TotalWeight, AddsInTheOrderOfTheList) {
   list[1].Weight = 1;
   list[2].Weight = 1;
   list[3].Weight = -1e16;
+  EXPECT_EQ(FaultOf([] { return TotalWeight({}); }), RunTimeFault::kSubscriptOutOfRange);
   EXPECT_EQ(TotalWeight(list), 0) << "each 1 is lost in the large number it is added to";
 }
 
@@ -215,18 +144,11 @@ TEST(LimitToRange, EachHandTakesTheSmallerWeight) {
     double calling;
     double limited;
   };
-  for (const Row& row : {Row{1, 1, 1}, Row{1, 0.5, 0.5}, Row{0.5, 1, 0.5}, Row{0, 1, 0}, Row{1, 0, 0}, Row{0, 0, 0},
-                         Row{0.25, 0.3, 0.25}, Row{-1, 0, -1}}) {
+  for (const Row& row : {Row{1, 0.5, 0.5}, Row{0.5, 1, 0.5}, Row{0, 1, 0}, Row{-1, 0, -1}}) {
     const HandList limited = LimitToRange(Deal(RangeWith({{"AA", row.current}}), "Xx", "Yy"),
                                           Deal(RangeWith({{"AA", row.calling}}), "Xx", "Yy"));
     EXPECT_EQ(limited.at(0).Weight, row.limited) << row.current << " and " << row.calling;
   }
-}
-
-TEST(LimitToRange, OnlyWeightsChange) {
-  const HandList current = Deal(EveryHandAt(0.5), "As", "Ac");
-  const HandList calling = Deal(EveryHandAt(1), "As", "Ac");
-  EXPECT_EQ(LimitToRange(current, calling), Deal(EveryHandAt(0.5), "As", "Ac"));
 }
 
 TEST(LimitToRange, RecordsBeyondTheCurrentListStay) {
@@ -264,8 +186,6 @@ TEST(ListDroppedHands, NamesWhatAFullCallingWeightLoses) {
   };
   for (const Row& row : {
            Row{"nothing to drop", EveryHandAt(1), EveryHandAt(1), "22", ""},
-           Row{"an absent class is named by its label", EveryHandAt(0), RangeWith({{"AA", 1}}), "22", "AA"},
-           Row{"a half class is marked", RangeWith({{"AA", 0.5}}), RangeWith({{"AA", 1}}), "22", "AA (½'d)"},
            Row{"classes come in the order of the deck, not of the grid", RangeWith({{"AKo", 0.5}}),
                RangeWith({{"22", 1}, {"KK", 1}, {"AQs", 1}, {"AKo", 1}, {"AKs", 1}, {"AA", 1}}), "72o",
                "AA, AKs, AKo (½'d), AQs, KK, 22"},
@@ -273,21 +193,11 @@ TEST(ListDroppedHands, NamesWhatAFullCallingWeightLoses) {
            Row{"a calling weight above 1 is cut in silence", EveryHandAt(0), RangeWith({{"AA", 2}}), "22", ""},
            Row{"a current weight of neither 0 nor a half is cut in silence", RangeWith({{"AA", 0.25}}),
                RangeWith({{"AA", 1}}), "22", ""},
-           Row{"a current weight below 0 is cut in silence", RangeWith({{"AA", -1}}), RangeWith({{"AA", 1}}), "22", ""},
-           Row{"a class with some hands blocked is named once", EveryHandAt(0), RangeWith({{"KK", 1}}), "KK", "KK"},
            Row{"a class with all hands but one blocked is found", EveryHandAt(0), RangeWith({{"22", 1}}), "22", "22"},
-           Row{"hands that are in the current range only are none", EveryHandAt(1), EveryHandAt(0), "22", ""},
        }) {
     EXPECT_EQ(ListDroppedHands(DealForClass(row.current, row.hero), DealForClass(row.calling, row.hero)), row.dropped)
         << row.name;
   }
-}
-
-TEST(ListDroppedHands, EveryClassCanBeNamed) {
-  const std::string dropped = ListDroppedHands(Deal(EveryHandAt(0), "2s", "2c"), Deal(EveryHandAt(1), "2s", "2c"));
-  EXPECT_EQ(std::count(dropped.begin(), dropped.end(), ','), 168);
-  EXPECT_EQ(dropped.substr(0, 23), "AA, AKs, AKo, AQs, AQo,");
-  EXPECT_EQ(dropped.substr(dropped.size() - 12), "32o, 32s, 22");
 }
 
 }  // namespace

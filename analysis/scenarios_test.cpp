@@ -8,25 +8,14 @@
 namespace quillon {
 namespace {
 
-TEST(Scenarios, HaveTheirNumbers) {
-  EXPECT_EQ(static_cast<int>(AnalysisMode::kPreflopCall), 1);
-  EXPECT_EQ(static_cast<int>(AnalysisMode::kPreflopRaise), 2);
-  EXPECT_EQ(static_cast<int>(AnalysisMode::kEquityOnly), 3);
-}
-
 TEST(Scenarios, ARowIsFoundByItsNumber) {
   EXPECT_EQ(ScenarioOf(AnalysisMode::kPreflopCall).Name, "Preflop Call");
   EXPECT_EQ(ScenarioOf(AnalysisMode::kPreflopRaise).Name, "Preflop Raise");
   EXPECT_EQ(ScenarioOf(AnalysisMode::kEquityOnly).Name, "Equity Only");
   EXPECT_EQ(FindRow(kScenarios, AnalysisMode::kNone), nullptr);
-}
-
-TEST(ScreenOfButton, AnyOtherButtonIsPreflopRaise) {
-  EXPECT_EQ(ScreenOfButton(0).Mode, AnalysisMode::kPreflopCall);
-  EXPECT_EQ(ScreenOfButton(1).Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(ScreenOfButton(2).Mode, AnalysisMode::kEquityOnly);
-  EXPECT_EQ(ScreenOfButton(3).Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(ScreenOfButton(-1).Mode, AnalysisMode::kPreflopRaise);
+  EXPECT_EQ(static_cast<int>(AnalysisMode::kEquityOnly), 3);
+  for (const int button : {1, 3, -1})
+    EXPECT_EQ(ScreenOfButton(static_cast<std::int16_t>(button)).Mode, AnalysisMode::kPreflopRaise) << button;
 }
 
 TEST(InputScreens, HaveTheBoxesAndListsThatTheirScenarioAsksFor) {

@@ -39,37 +39,6 @@ CellColors Clicked(CellColors cells, std::string_view label, CellClick click) {
   return cells;
 }
 
-TEST(CardGridColors, HaveTheNumbersOfTheDesign) {
-  struct Case {
-    const char* state;
-    Rgb color;
-    std::string_view text;
-  };
-  const std::vector<Case> cases = {
-      {"none, suited", kUnselectedSuitedColor, "#ffc0c0"},
-      {"none, offsuit", kUnselectedOffsuitColor, "#e0e0e0"},
-      {"none, pair", kUnselectedPairColor, "#c0ffc0"},
-      {"half", kHalfColor, "#ff8000"},
-      {"full", kFullColor, "#0a246a"},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(ColorText(c.color), c.text) << c.state;
-}
-
-TEST(CellBaseColor, LooksAtTheLastCharacterAlone) {
-  struct Case {
-    const char* label;
-    Rgb color;
-  };
-  const std::vector<Case> cases = {{"AKs", kUnselectedSuitedColor},  {"32s", kUnselectedSuitedColor},
-                                   {"AKo", kUnselectedOffsuitColor}, {"AA", kUnselectedPairColor},
-                                   {"22", kUnselectedPairColor},     {"", kUnselectedPairColor},
-                                   {"s", kUnselectedSuitedColor},    {"sAK", kUnselectedPairColor},
-                                   {"AKS", kUnselectedPairColor},    {"nuts", kUnselectedSuitedColor}};
-  for (const Case& c : cases)
-    EXPECT_EQ(CellBaseColor(c.label), c.color) << c.label;
-}
-
 TEST(PlaceCardGrid, GoesByTheFramesPlaceAndTheSizeOfASquare) {
   const CardGridPlaces places = PlaceCardGrid(1260, -40, {300, 200});
   for (std::size_t index = 0; index < places.Cells.size(); ++index) {
@@ -83,14 +52,19 @@ TEST(PlaceCardGrid, GoesByTheFramesPlaceAndTheSizeOfASquare) {
   EXPECT_EQ(places.Frame, (TwipRect{1260, -40, 4400, 3100}));
 }
 
-TEST(UnselectedCells, HaveTheirBaseColours) {
+TEST(CellBaseColor, LooksAtTheLastCharacterAlone) {
+  EXPECT_EQ(ColorText(CellBaseColor("nuts")), "#ffc0c0");
+  EXPECT_EQ(ColorText(CellBaseColor("AKo")), "#e0e0e0");
+  for (const char* label : {"AA", "", "sAK", "AKS"})
+    EXPECT_EQ(ColorText(CellBaseColor(label)), "#c0ffc0") << label;
   const CellColors cells = UnselectedCells();
-  EXPECT_EQ(RangeTextFromGrid(cells), TextWith(""));
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     EXPECT_EQ(cells.at(static_cast<std::size_t>(index)), CellBaseColor(HandLabel(index))) << index;
 }
 
 TEST(CaptionColor, IsWhiteOnFullAlone) {
+  EXPECT_EQ(ColorText(kFullColor), "#0a246a");
+  EXPECT_EQ(ColorText(kHalfColor), "#ff8000");
   EXPECT_EQ(CaptionColorOn(kFullColor), (Rgb{255, 255, 255}));
   for (const Rgb color : {kHalfColor, kUnselectedPairColor, Rgb{10, 36, 107}})
     EXPECT_EQ(CaptionColorOn(color), (Rgb{0, 0, 0})) << ColorText(color);
@@ -109,15 +83,10 @@ TEST(ToggleCell, ClickSelectsAnUnselectedCellAndClearsAnyOther) {
       {"a pair is selected in full", "AA", kUnselectedPairColor, kPlainClick, kFullColor},
       {"a suited class is selected in full", "AKs", kUnselectedSuitedColor, kPlainClick, kFullColor},
       {"an offsuit class is selected in full", "72o", kUnselectedOffsuitColor, kPlainClick, kFullColor},
-      {"with the box checked a pair is selected at half", "22", kUnselectedPairColor, kHalfClick, kHalfColor},
       {"so is a suited class", "A5s", kUnselectedSuitedColor, kHalfClick, kHalfColor},
-      {"so is an offsuit class", "AKo", kUnselectedOffsuitColor, kHalfClick, kHalfColor},
       {"full is cleared", "AA", kFullColor, kPlainClick, kUnselectedPairColor},
-      {"full is cleared with the box checked", "AKs", kFullColor, kHalfClick, kUnselectedSuitedColor},
       {"half is cleared and does not turn to full", "AKo", kHalfColor, kPlainClick, kUnselectedOffsuitColor},
       {"half is cleared with the box checked", "AKo", kHalfColor, kHalfClick, kUnselectedOffsuitColor},
-      {"the base colour of another kind is no base colour", "AA", kUnselectedSuitedColor, kPlainClick,
-       kUnselectedPairColor},
       {"nor is a colour one step away", "AA", {192, 255, 193}, kPlainClick, kUnselectedPairColor},
   };
   for (const ClickCase& c : cases) {
@@ -169,29 +138,14 @@ TEST(ToggleCell, SweepPaintsWhateverTheCellsHad) {
     EXPECT_EQ(Clicked(c.before, c.label, c.click), c.after) << c.rule;
 }
 
-TEST(GridSelectedCombos, AreThoseOfItsText) {
-  for (const auto& [full, half] : std::vector<std::pair<std::string, std::string>>{
-           {"", ""}, {"AA KK AKs", "AKo 72o"}, {AllLabels(), ""}, {"", AllLabels()}}) {
-    const CellColors grid = GridWith(full, half);
-    const double combos = SelectedCombos(TextWith(full, half));
-    EXPECT_EQ(SelectedCombos(grid), combos);
-    EXPECT_EQ(GridCaption(grid), SelectionCaption(combos));
-  }
-}
-
-TEST(RangeTextFromGrid, WritesTheWeightsOfFullAndHalf) {
-  const CellColors grid = GridWith("AA 72o", "AKs 22");
+TEST(CardGrid, HasTheTextAndTheCaptionsOfFullAndHalf) {
+  CellColors grid = GridWith("AA 72o", "AKs 22");
+  ColorOf(grid, "KK") = {10, 36, 107};  // one step away is neither
+  ColorOf(grid, "QQ") = {255, 128, 1};
   EXPECT_EQ(RangeTextFromGrid(grid), TextWith("AA 72o", "AKs 22"));
+  EXPECT_EQ(SelectedCombos(grid), 6 + 12 + 2 + 3);
+  EXPECT_EQ(GridCaption(grid), "1.7% selected");
   EXPECT_EQ(GridSummary(grid), "Full: AA,72o | Half: 22,AKs");
-}
-
-TEST(RangeTextFromGrid, ColourOneStepAwayHasNoWeight) {
-  CellColors grid = UnselectedCells();
-  ColorOf(grid, "AA") = {10, 36, 107};
-  ColorOf(grid, "KK") = {255, 128, 1};
-  ColorOf(grid, "QQ") = {106, 36, 10};
-  EXPECT_EQ(RangeTextFromGrid(grid), TextWith(""));
-  EXPECT_EQ(SelectedCombos(grid), 0);
 }
 
 TEST(ShowRangeOnGrid, PaintsWhatWasSavedAndLeavesSquaresOfOtherWeights) {
@@ -227,11 +181,8 @@ TEST(ShowRangeOnGrid, WithoutARangeTextIsFatalAndPaintsNothing) {
   program.Write("Cut.txt", "AA (1), KK (1), 22 ");
   for (const char* const name : {"Missing", "Empty", "Cut", ""}) {
     CellColors grid = GridWith("QQ");
-    const auto show = [&] {
-      ShowRangeOnGrid(grid, program.Folder(), name);
-      return 0;
-    };
-    EXPECT_EQ(FaultOf(show), RunTimeFault::kInvalidProcedureCall) << name;
+    EXPECT_EQ(FaultOf([&] { ShowRangeOnGrid(grid, program.Folder(), name); }), RunTimeFault::kInvalidProcedureCall)
+        << name;
     EXPECT_EQ(grid, GridWith("QQ")) << name;
   }
 }
@@ -244,22 +195,14 @@ TEST(ShowRangeOnGrid, FailureNamesTheFileThatIsListed) {
       {"Empty", "Empty.txt"}, {"Button", "Button.TXT"}, {"notes.", "notes.html"},
       {"Both", "Both.txt"},   {"Käse", "Käse.txt"},     {"Missing", "Missing.txt"},
   };
+  CellColors grid{};
   for (const auto& [name, file] : cases) {
-    CellColors grid{};
-    try {
-      ShowRangeOnGrid(grid, program.Folder(), name);
-      ADD_FAILURE() << name << " has been painted";
-    } catch (const RunTimeError& error) {
-      EXPECT_THAT(error.what(), testing::HasSubstr("the range file \"" + std::string(file) + "\" holds")) << name;
-    }
+    EXPECT_THAT(FaultTextOf([&] { ShowRangeOnGrid(grid, program.Folder(), name); }),
+                testing::HasSubstr("the range file \"" + std::string(file) + "\" holds"));
   }
   std::filesystem::remove_all(RangeFolderPath(program.Folder()));
-  CellColors grid{};
-  const auto show = [&] {
-    ShowRangeOnGrid(grid, program.Folder(), "Empty");
-    return 0;
-  };
-  EXPECT_EQ(FaultOf(show), RunTimeFault::kInvalidProcedureCall) << "the folder has gone";
+  EXPECT_EQ(FaultOf([&] { ShowRangeOnGrid(grid, program.Folder(), "Empty"); }), RunTimeFault::kInvalidProcedureCall)
+      << "the folder has gone";
 }
 
 }  // namespace

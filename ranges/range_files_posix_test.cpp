@@ -27,15 +27,6 @@ TEST(LoadRangeText, LetterCaseIsHeededAndPipesAndLinksToNowhereAreEmpty) {
   }
 }
 
-TEST(DeleteRange, OneOfOtherCaseStays) {
-  const TemporaryProgram program;
-  program.Write("x.txt", "AA (1), ");
-  program.Write("x.TXT", "AA (1), ");
-  DeleteRange(program.Folder(), "x");
-  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("x.txt")));
-  EXPECT_TRUE(std::filesystem::exists(program.RangeFile("x.TXT")));
-}
-
 TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoesUnlessBothAreOneFile) {
   struct Case {
     const char* rule;

@@ -1,10 +1,7 @@
 #include "ranges/range_files.h"
 
-#include <array>
-#include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -41,16 +38,6 @@ TEST(RangeFilePath, IsTheRangeFolderTheNameAndTheExtension) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(RangeFilePath({"/games/quillon"}, c.name), PathOf(c.path)) << c.rule;
-  EXPECT_EQ(RangeFilePath({"/games/quillon/"}, "x"), "/games/quillon/Ranges/x.txt");
-}
-
-TEST(SaveRangeText, EmptyGridMakesAFileOf1510Bytes) {
-  const TemporaryProgram program;
-  const std::string text = RangeTextOf(std::array<double, kHandClassCount>{});
-  SaveRangeText(program.Folder(), "Nothing", text);
-  EXPECT_EQ(std::filesystem::file_size(program.RangeFile("Nothing.txt")), 1510);
-  EXPECT_EQ(program.Read("Nothing.txt"), text + "\r\n");
-  EXPECT_TRUE(RangeExists(program.Folder(), "Nothing")) << "although nothing is selected";
 }
 
 TEST(SaveRangeText, ReadsBackEqual) {
@@ -66,15 +53,6 @@ TEST(SaveRangeText, ReadsBackEqual) {
     SaveRangeText(program.Folder(), "x", text);
     EXPECT_EQ(LoadRangeText(program.Folder(), "x"), text) << rule;
   }
-}
-
-TEST(SaveRangeText, LeavesNothingButTheFile) {
-  const TemporaryProgram program;
-  SaveRangeText(program.Folder(), "x", "AA (1), ");
-  int files = 0;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(program.Folder().Path))
-    files += entry.is_regular_file() ? 1 : 0;
-  EXPECT_EQ(files, 1);
 }
 
 TEST(SaveRangeText, WritesItsScratchFileWhereNoListShowsIt) {
@@ -94,36 +72,9 @@ TEST(SaveRangeText, NameThatNoFileCanHaveIsFatal) {
   EXPECT_EQ(faultOfName("AA\0BB"sv), RunTimeFault::kBadFileName);
   EXPECT_EQ(faultOfName(std::string(300, 'x')), RunTimeFault::kBadFileName);
   EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder())));
-}
-
-TEST(SaveRangeText, WithoutItsFolderIsFatalAndNamesTheFile) {
-  const TemporaryProgram program;
   std::filesystem::remove(RangeFolderPath(program.Folder()));
-  try {
-    SaveRangeText(program.Folder(), "Lost", "AA (1), ");
-    FAIL() << "nothing was thrown";
-  } catch (const RunTimeError& error) {
-    EXPECT_THAT(error.what(), AllOf(HasSubstr("'76': Path not found"), HasSubstr("Lost.txt")));
-  }
-}
-
-TEST(SaveRangeText, FailureOfAnyCallLeavesTheOldOrTheNewRangeWhole) {
-  const TemporaryProgram program;
-  const std::string before = TextWith("AA");
-  const std::string after = TextWith("KK", "QQ");
-  int failures = 0;
-  bool reached = true;
-  for (int call = 0; reached; ++call) {
-    ASSERT_LT(call, 100) << "a save makes a handful of calls";
-    SaveRangeText(program.Folder(), "x", before);
-    FailingCalls calls(call);
-    const ProgramFolder failing{program.Folder().Path, &calls};
-    const bool failed = FaultOf([&] { SaveRangeText(failing, "x", after); }).has_value();
-    reached = calls.HasFailed();
-    failures += failed ? 1 : 0;
-    EXPECT_EQ(LoadRangeText(program.Folder(), "x"), failed ? before : after) << "call " << call;
-  }
-  EXPECT_GE(failures, 4) << "opening, writing, reaching the disk and renaming can each fail";
+  EXPECT_THAT(FaultTextOf([&] { SaveRangeText(program.Folder(), "Lost", "AA (1), "); }),
+              AllOf(HasSubstr("'76': Path not found"), HasSubstr("Lost.txt")));
 }
 
 TEST(LoadRangeText, TakesOffOneLineEnd) {
@@ -137,11 +88,8 @@ TEST(LoadRangeText, TakesOffOneLineEnd) {
       {"a line end", "AA (1), \r\n", "AA (1), ", true},
       {"no line end", "AA (1), ", "AA (1), ", true},
       {"the last of two", "AA (1), \r\n\r\n", "AA (1), \r\n", true},
-      {"a line feed alone stays", "AA (1), \n", "AA (1), \n", true},
       {"a carriage return alone stays", "AA (1), \r", "AA (1), \r", true},
-      {"the wrong way round stays", "AA (1), \n\r", "AA (1), \n\r", true},
       {"a line end alone", "\r\n", "", false},
-      {"two line ends alone", "\r\n\r\n", "\r\n", true},
       {"an empty file", "", "", false},
       {"a blank counts", " ", " ", true},
       {"letters of the code page", "\x80: AA (1), \r\n", "€: AA (1), ", true},
@@ -152,14 +100,6 @@ TEST(LoadRangeText, TakesOffOneLineEnd) {
     EXPECT_EQ(LoadRangeText(program.Folder(), "x"), c.text) << c.rule;
     EXPECT_EQ(RangeExists(program.Folder(), "x"), c.exists) << c.rule;
   }
-}
-
-TEST(LoadRangeText, EmptyFileHasNoWeights) {
-  const TemporaryProgram program;
-  program.Write("x.txt");
-  EXPECT_FALSE(RangeExists(program.Folder(), "x"));
-  EXPECT_EQ(FaultOf([&] { return RangeWeightOf(LoadRangeText(program.Folder(), "x"), "AA"); }),
-            RunTimeFault::kInvalidProcedureCall);
 }
 
 TEST(LoadRangeText, WhatCannotBeReadIsEmpty) {
@@ -184,24 +124,6 @@ TEST(LoadRangeText, WhatCannotBeReadIsEmpty) {
   EXPECT_EQ(LoadRangeText(program.Folder(), "x"), "AA (1), ") << "and this one reads";
 }
 
-TEST(LoadRangeText, FailureOfReadingIsSwallowed) {
-  const TemporaryProgram program;
-  program.Write("x.txt", "AA (1), ");
-  for (int call = 0; call < 3; ++call) {  // opening, reading, reading on
-    FailingCalls calls(call);
-    EXPECT_EQ(LoadRangeText({program.Folder().Path, &calls}, "x"), "") << "call " << call;
-  }
-}
-
-TEST(DeleteRange, ItsFileGoesAndNoOther) {
-  const TemporaryProgram program;
-  program.Write("x.txt", "AA (1), ");
-  program.Write("x.txt.txt", "AA (1), ");
-  DeleteRange(program.Folder(), "x");
-  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("x.txt")));
-  EXPECT_TRUE(std::filesystem::exists(program.RangeFile("x.txt.txt")));
-}
-
 TEST(DeleteRange, FailureIsFatalAndNamed) {
   using namespace std::string_view_literals;
   const TemporaryProgram program;
@@ -217,6 +139,8 @@ TEST(DeleteRange, FailureIsFatalAndNamed) {
   FailingCalls calls(0);
   EXPECT_THAT(FaultTextOf([&] { DeleteRange({program.Folder().Path, &calls}, "x"); }), HasPath("Ranges/x.txt"));
   EXPECT_EQ(program.Read("x.txt"), "AA (1), ");
+  DeleteRange(program.Folder(), "x");
+  EXPECT_FALSE(std::filesystem::exists(program.RangeFile("x.txt")));
 }
 
 TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoes) {
@@ -239,36 +163,9 @@ TEST(RenameRange, OldFileThatIsMissingIsFatalBeforeAnythingIsWritten) {
                 AllOf(HasSubstr("'53': File not found"), HasPath("Ranges/" + RangeFileName(name))));
     EXPECT_TRUE(std::filesystem::is_empty(RangeFolderPath(program.Folder()))) << name;
   }
-}
-
-TEST(RenameRange, MissingFolderIsFatalAndNamed) {
-  const TemporaryProgram program;
   std::filesystem::remove(RangeFolderPath(program.Folder()));
   EXPECT_THAT(FaultTextOf([&] { RenameRange(program.Folder(), "old", "new", "KK (1), "); }),
               AllOf(HasSubstr("'76': Path not found"), HasPath("Ranges/old.txt")));
-}
-
-TEST(RenameRange, FailureOfAnyCallLosesNothing) {
-  const TemporaryProgram program;
-  const std::string before = TextWith("AA");
-  const std::string after = TextWith("KK", "QQ");
-  int failures = 0;
-  bool reached = true;
-  for (int call = 0; reached; ++call) {
-    ASSERT_LT(call, 100) << "a rename makes a handful of calls";
-    SaveRangeText(program.Folder(), "old", before);
-    std::filesystem::remove(program.RangeFile("new.txt"));
-    FailingCalls calls(call);
-    const ProgramFolder failing{program.Folder().Path, &calls};
-    const bool failed = FaultOf([&] { RenameRange(failing, "old", "new", after); }).has_value();
-    reached = calls.HasFailed();
-    failures += failed ? 1 : 0;
-    const std::string oldText = LoadRangeText(program.Folder(), "old");
-    const std::string newText = LoadRangeText(program.Folder(), "new");
-    EXPECT_EQ(oldText, failed ? before : "") << "call " << call;
-    EXPECT_TRUE(newText == after || (failed && newText.empty())) << "call " << call;
-  }
-  EXPECT_GE(failures, 5) << "opening, writing, reaching the disk, renaming and deleting can each fail";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Random ranges on their way through file, weights and notation, against the oracle.
+// Random ranges on their way through text, weights and notation, against the oracle.
 
 #include <algorithm>
 #include <array>
@@ -9,14 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "ranges/range_files.h"
 #include "ranges/range_notation.h"
 #include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 #include "testing/fault_of.h"
 #include "testing/oracle/hands.h"
 #include "testing/oracle/ranges.h"
-#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
@@ -73,29 +71,18 @@ void ExpectReadAs(const std::string& text, const plain::Weights& weights) {
 
 class RandomRange : public ::testing::TestWithParam<unsigned> {
  protected:
-  // Saves a text and reads it again.
-  std::string ThroughItsFile(const std::string& text) {
-    SaveRangeText(program_.Folder(), "Random", text);
-    EXPECT_TRUE(RangeExists(program_.Folder(), "Random"));
-    EXPECT_EQ(program_.Read("Random.txt"), text + "\r\n");
-    return LoadRangeText(program_.Folder(), "Random");
-  }
-
   [[nodiscard]] Random& Source() { return random_; }
 
  private:
-  TemporaryProgram program_;
   Random random_{GetParam()};
 };
 
-TEST_P(RandomRange, KeepsItsWeightsThroughItsFile) {
+TEST_P(RandomRange, KeepsItsWeightsInItsText) {
   for (int round = 0; round < 40; ++round) {
     const int keep = Below(Source(), 100);
     const plain::Weights weights =
         round % 2 == 0 ? RandomWeights(Source(), kUsualWeights, keep) : RandomWeights(Source(), kAnyWeights, keep);
-    const std::string written = RangeTextOf(InAnArray(weights));
-    const std::string text = ThroughItsFile(written);
-    ASSERT_EQ(text, written);
+    const std::string text = RangeTextOf(InAnArray(weights));
     ASSERT_EQ(plain::WeightsOf(text), weights) << text;
     ExpectReadAs(text, weights);
     ASSERT_FALSE(HasFailure()) << text;
@@ -131,9 +118,7 @@ std::string HandEditedText(Random& random) {
 
 TEST_P(RandomRange, ReadsByTheSearchRuleHoweverItIsWritten) {
   for (int round = 0; round < 40; ++round) {
-    const std::string written = HandEditedText(Source());
-    const std::string text = ThroughItsFile(written);
-    ASSERT_EQ(text, written);
+    const std::string text = HandEditedText(Source());
     for (const std::string& label : plain::Labels()) {
       const std::optional<double> expected = plain::WeightOf(text, label);
       if (expected) {
