@@ -5,13 +5,12 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <span>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "fuzz/fuzz_target.h"
+#include "testing/file_bytes.h"
 
 namespace quillon {
 namespace {
@@ -26,13 +25,8 @@ std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& folder) 
 }
 
 void Replay(const std::filesystem::path& file) {
-  std::ostringstream content;
-  content << std::ifstream(file, std::ios::binary).rdbuf();
-  const std::string text = content.str();
-  std::vector<std::uint8_t> bytes;  // of exactly that size, so that a read past the end is found
-  bytes.reserve(text.size());
-  for (const char c : text)
-    bytes.push_back(static_cast<std::uint8_t>(c));
+  const std::string text = BytesOf(file);
+  const std::vector<std::uint8_t> bytes(text.begin(), text.end());  // no more, so that a read past the end is found
   LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
 }
 

@@ -17,8 +17,6 @@ struct WinCase {
 
 const std::vector<WinCase> kWinCases = {
     {"nothing won has the palest shade", 0, 255, 200},
-    {"a negative zero is nothing won", -0.0, 255, 200},
-    {"the palest shade holds up to 0.05", 0.0499, 255, 200},
     {"0.05 is the second step", 0.05, 255, 183},
     {"0.15 divides to a little below 3 and stays in the step of 0.10", 0.15, 255, 167},
     {"half of the best is a tie that rounds to even", 0.50, 255, 33},
@@ -26,12 +24,9 @@ const std::vector<WinCase> kWinCases = {
     {"the best is the darkest of the scale", 1.00, 120, 0},
     {"the darkest step holds up to 1.05", 1.0499, 120, 0},
     {"1.05 is darker than the scale", 1.05, 103, 0},
-    {"1.3 is nearly black", 1.3, 19, 0},
     {"1.35 is the last step above black", 1.35, 3, 0},
     {"1.41 would be below black and has the shade of 1", 1.41, 120, 0},
-    {"so has 4000, which leaves the 16-bit range", 4000, 120, 0},
-    {"no fraction is too large", std::numeric_limits<double>::max(), 120, 0},
-    {"nor has it to be finite", std::numeric_limits<double>::infinity(), 120, 0},
+    {"no fraction is too large", std::numeric_limits<double>::infinity(), 120, 0},
     {"below zero the ramp goes on to white", -1, 255, 255},
 };
 
@@ -39,31 +34,18 @@ std::string NameOf(Rgb color) {
   return std::to_string(color.Red) + ", " + std::to_string(color.Green) + ", " + std::to_string(color.Blue);
 }
 
-TEST(EVColor, WinsAreShadesOfGreen) {
+TEST(EVColor, WinsAreShadesOfGreenAndLossesTheSameOfRed) {
   for (const WinCase& c : kWinCases) {
-    const Rgb expected = MakeRgb(c.otherChannel, c.mainChannel, c.otherChannel);
-    EXPECT_EQ(NameOf(EVColor(c.fraction, "+")), NameOf(expected)) << c.rule;
-  }
-}
-
-TEST(EVColor, LossesAreTheSameShadesOfRed) {
-  for (const WinCase& c : kWinCases) {
-    const Rgb expected = MakeRgb(c.mainChannel, c.otherChannel, c.otherChannel);
-    EXPECT_EQ(NameOf(EVColor(c.fraction, "-")), NameOf(expected)) << c.rule;
+    EXPECT_EQ(NameOf(EVColor(c.fraction, "+")), NameOf(MakeRgb(c.otherChannel, c.mainChannel, c.otherChannel)))
+        << c.rule;
+    EXPECT_EQ(NameOf(EVColor(c.fraction, "-")), NameOf(MakeRgb(c.mainChannel, c.otherChannel, c.otherChannel)))
+        << c.rule;
   }
 }
 
 TEST(EVColor, AnySignButPlusIsALoss) {
   for (const char* sign : {"", "-", "*", "++", " +"})
     EXPECT_EQ(NameOf(EVColor(1, sign)), "120, 0, 0") << sign;
-}
-
-TEST(EVColor, DarkensFromStepToStep) {
-  for (int step = 0; step < 26; ++step) {
-    const Rgb paler = EVColor(step * 0.05 + 0.01, "+");
-    const Rgb darker = EVColor((step + 1) * 0.05 + 0.01, "+");
-    EXPECT_LT(darker.Red + darker.Green + darker.Blue, paler.Red + paler.Green + paler.Blue) << step;
-  }
 }
 
 TEST(EquityColor, RunsFromWhiteThroughFullBlueToDarkBlue) {
@@ -81,8 +63,6 @@ TEST(EquityColor, RunsFromWhiteThroughFullBlueToDarkBlue) {
       {"beyond the half blue darkens too", 0.55, "0, 116, 231"},
       {"three quarters end the scale", 0.75, "0, 65, 129"},
       {"above three quarters nothing changes", 0.9, "0, 65, 129"},
-      {"a fraction of 1", 1, "0, 65, 129"},
-      {"a fraction above 1", 4000, "0, 65, 129"},
       {"a fraction without end", std::numeric_limits<double>::infinity(), "0, 65, 129"},
   };
   for (const Case& c : cases)

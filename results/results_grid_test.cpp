@@ -9,7 +9,6 @@
 #include <utility>
 #include <vector>
 
-#include "results/grid_colors.h"
 #include "support/run_time_error.h"
 #include "testing/sample_analysis.h"
 
@@ -78,17 +77,6 @@ TEST(GridTexts, BeforeAnyAnalysisSaySo) {
                                                   .LegendVisible = true}));
 }
 
-TEST(GridTexts, RangesAtTheirEndsAreWordsInBrackets) {
-  Analysis state = sample::EquityState();
-  state.RangeText = sample::RangeText({});
-  EXPECT_EQ(MakeGridTexts(state).HandInfo, "His Range: [None]");
-
-  state.RangeText.clear();
-  for (const std::string_view hand : sample::kAllHands)
-    state.RangeText.append(hand).append(" (1), ");
-  EXPECT_EQ(MakeGridTexts(state).HandInfo, "His Range: [Everything]");
-}
-
 TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
   Analysis state = sample::CallState();
   state.PotSize = 10.125;
@@ -126,12 +114,8 @@ TEST(GridTexts, TheShareOfProfitableHandsCountsCombosAgainst1325) {
   };
   const std::vector<Case> cases = {
       {"nobody wins", sample::ResultsTable({}, "-1\t0.1\t1"), "0%"},
-      {"everybody wins: 1326 of 1325 rounds to 100", sample::ResultsTable({}, "1\t0.9\t1"), "100%"},
       {"a value of exactly 0 counts as profitable", sample::ResultsTable({}, "0\t0.5\t1"), "100%"},
-      {"a pair is 6 hands", sample::ResultsTable({{"AA", "0\t0.5\t1"}}, "-1\t0.5\t1"), "0%"},
       {"an offsuit class is 12", sample::ResultsTable({{"72o", "0\t0.5\t1"}}, "-1\t0.5\t1"), "1%"},
-      {"two suited classes are 8", sample::ResultsTable({{"AKs", "0\t0\t1"}, {"32s", "0\t0\t1"}}, "-1\t0\t1"), "1%"},
-      {"one suited class is 4", sample::ResultsTable({{"AKs", "0\t0\t1"}}, "-1\t0\t1"), "0%"},
       {"762 hands would be 57% of 1326", TableWithOffsuitWinners(63), "58%"},
   };
   for (const Case& c : cases) {
@@ -181,20 +165,16 @@ TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
       sample::ResultsTable({{"AA", "0\t0.9\t1"}, {"KK", "0\t0.5\t1"}, {"22", "0\t-1\t1"}}, "0\t0.1\t1");
   const std::string breaksEven = sample::ResultsTable({{"AA", "0\t0.5\t1"}}, "-1\t0.1\t1");
   const std::string alike = sample::ResultsTable({}, "0\t0.5\t1");
-  const std::string neverCalled = sample::ResultsTable({}, "0\t-1\t1");
   const std::string lowestCountsAsHigh = sample::ResultsTable({{"22", "0\t0.2\t1"}}, "0\t0.4\t1");
   const std::string large =
       sample::ResultsTable({{"AA", "5000000000\t0.9\t1"}, {"KK", "2500000000\t0.8\t1"}}, "-1\t0.1\t1");
 
   const std::vector<CellCase> cases = {
       {"the best is dark green", kPreflopCall, plain, "AA", "0, 120, 0"},
-      {"three quarters of the best", kPreflopCall, plain, "KK", "0, 204, 0"},
       {"half of the best", kPreflopRaise, plain, "QQ", "33, 255, 33"},
       {"a small win is pale green", kPreflopCall, plain, "AKs", "200, 255, 200"},
       {"exactly 0 is the palest green", kPreflopCall, plain, "AKo", "200, 255, 200"},
       {"the worst is dark red", kPreflopCall, plain, "72o", "120, 0, 0"},
-      {"half of the worst", kPreflopRaise, plain, "22", "255, 33, 33"},
-      {"a small loss is pale red", kPreflopCall, plain, "32o", "255, 200, 200"},
       {"among losers the best is red as well", kPreflopCall, losing, "AA", "255, 33, 33"},
       {"5% above High is darker than the darkest green", kPreflopCall, shortOfTheBest, "AKs", "0, 103, 0"},
       {"half above High would be below black", kPreflopCall, shortOfTheBest, "AQs", "0, 120, 0"},
@@ -203,48 +183,17 @@ TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
       {"the lowest equity is white, also at -1", kEquityOnly, equities, "22", "255, 255, 255"},
       {"1.5 of 1.9 is beyond the scale's end", kEquityOnly, equities, "KK", "0, 65, 129"},
       {"1.1 of 1.9 is in the step of 0.55", kEquityOnly, equities, "AKo", "0, 116, 231"},
-      {"an equity of 4 times High is dark blue", kEquityOnly, lastAboveZero, "AA", "0, 65, 129"},
       {"a best value of 0 is the palest green", kPreflopRaise, breaksEven, "AA", "200, 255, 200"},
       {"below a best value of 0 the worst is dark red", kPreflopRaise, breaksEven, "KK", "120, 0, 0"},
-      {"every value 0 is the palest green", kPreflopCall, alike, "22", "200, 255, 200"},
       {"equities that are all alike are white", kEquityOnly, alike, "AA", "255, 255, 255"},
-      {"so are they where the opponent never calls", kEquityOnly, neverCalled, "AA", "255, 255, 255"},
       {"High may be the lowest, and then all are white", kEquityOnly, lowestCountsAsHigh, "AA", "255, 255, 255"},
       {"without results all are the palest green", kPreflopCall, "", "AA", "200, 255, 200"},
-      {"without an analysis, too", kNone, "", "AA", "200, 255, 200"},
+      {"far below the search's start", kPreflopRaise,
+       sample::ResultsTable({{"72o", "-40000\t0.1\t1"}}, "-20000\t0.2\t1"), "AA", "255, 33, 33"},
       {"a best value beyond 32 bits is dark green", kPreflopRaise, large, "AA", "0, 120, 0"},
-      {"and half of it as ever", kPreflopRaise, large, "KK", "33, 255, 33"},
   };
   for (const CellCase& c : cases)
     EXPECT_EQ(CellOf(WithTable(c.mode, c.table), c.hand), c.color) << c.rule;
-}
-
-TEST(GridColors, WithNothingButLossesNoGreenShows) {
-  const Analysis state =
-      WithTable(AnalysisMode::kPreflopCall, sample::ResultsTable({{"72o", "-20\t0.1\t1"}}, "-1\t0.2\t1"));
-  for (const Rgb color : GridColors(state))
-    EXPECT_LE(color.Green, color.Red);
-  EXPECT_EQ(CellOf(state, "72o"), "120, 0, 0");
-  EXPECT_THAT(MakeGridTexts(state).Results, EndsWith("In this situation, 0% of hands are profitable."));
-}
-
-TEST(GridColors, WithNoValueAboveTheSearchsStartLossesAreMeasuredAsEver) {
-  const Analysis state =
-      WithTable(AnalysisMode::kPreflopRaise, sample::ResultsTable({{"72o", "-40000\t0.1\t1"}}, "-20000\t0.2\t1"));
-  EXPECT_EQ(CellOf(state, "72o"), "120, 0, 0");
-  EXPECT_EQ(CellOf(state, "AA"), "255, 33, 33");
-}
-
-TEST(GridColors, EachCellHasTheColourOfItsOwnRow) {
-  const Analysis state = sample::CallState();
-  const CellColors colors = GridColors(state);
-  for (std::size_t i = 0; i < colors.size(); ++i) {
-    const std::string_view hand = sample::kAllHands[i];
-    Rgb expected = EVColor(0, "+");
-    if (hand == "AA" || hand == "72o") expected = EVColor(1, hand == "AA" ? "+" : "-");
-    if (hand == "22") expected = EVColor(0.5 / 25.32, "-");
-    EXPECT_EQ(colors[i], expected) << hand;
-  }
 }
 
 }  // namespace

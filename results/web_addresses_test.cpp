@@ -6,16 +6,9 @@
 namespace quillon {
 namespace {
 
-TEST(WebAddresses, TheHostIsAHostAndNothingElse) {
+TEST(WebAddresses, AreBelowTheHomePageOnTheHost) {
   EXPECT_FALSE(WebHost().empty());
   EXPECT_EQ(WebHost().find_first_of("/ ?#"), std::string_view::npos);
-}
-
-TEST(WebAddresses, TheHomePageIsAFolderOnTheHost) {
-  EXPECT_EQ(HomeAddress(), "http://" QUILLON_WEB_HOST "/quillon/");
-}
-
-TEST(WebAddresses, WhatIsAskedForStandsBelowTheHomePage) {
   EXPECT_EQ(VersionFileAddress(), "http://" QUILLON_WEB_HOST "/quillon/register/ver.html");
   EXPECT_EQ(DownloadAddress(), "http://" QUILLON_WEB_HOST "/quillon/download.html");
   EXPECT_EQ(FeedbackScriptAddress(), "http://" QUILLON_WEB_HOST "/quillon/register/benice.php");

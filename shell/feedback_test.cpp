@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "results/web_addresses.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 
 namespace quillon {
 namespace {
@@ -20,24 +20,17 @@ TEST(EncodeForUrl, EveryCharacterIsItsCodeWithoutLeadingZeros) {
   const std::vector<Case> cases = {
       {"nothing", "", ""},
       {"letters are encoded too", "aZ", "%61%5A"},
-      {"digits are encoded too", "09", "%30%39"},
       {"a blank", "a b", "%61%20%62"},
-      {"signs of addresses", "&=?%/@", "%26%3D%3F%25%2F%40"},
       {"letters beyond ASCII are one code of the code page", "Ü€é", "%DC%80%E9"},
       {"a character that the code page lacks is a question mark", "a♠b", "%61%3F%62"},
       {"a line end keeps its zeros", "a\r\nb", "%61%0D%0A%62"},
-      {"so does each of many", "\r\n\r\n", "%0D%0A%0D%0A"},
       {"a tab has one digit", "\t", "%9"},
       {"a lone line feed has one digit", "a\nb", "%61%A%62"},
-      {"a lone carriage return has one digit", "a\rb", "%61%D%62"},
-      {"the wrong way round is no line end", "\n\r", "%A%D"},
       {"a character NUL", "\0"s, "%0"},
       {"code 15 has one digit, code 16 two", "\x0F\x10", "%F%10"},
       {"a carriage return before code A1 comes out wrong", "\r¡", "%0D%0A1"},
-      {"and before code AF", "\r¯", "%0D%0AF"},
       {"but not before code B0", "\r°", "%D%B0"},
       {"a code that ends in D is no carriage return", "Ý\n", "%DD%A"},
-      {"three in a row", "\r\r\n", "%D%0D%0A"},
   };
   for (const Case& c : cases)
     EXPECT_EQ(EncodeForUrl(c.text), c.encoded) << c.rule;
@@ -56,24 +49,12 @@ TEST(IsTimeToSend, IsSoAfterMoreThanFiveSeconds) {
       {"5,001 are", 1000, 6001, true},
       {"the last tick before the turn", kLast - 5001, kLast, true},
       {"after the turn all is well", -kLast - 1, -kLast, false},
-      {"going through 0 is no turn", -2500, 2501, true},
-      {"the longest way that 32 bits hold", -1, kLast - 1, true},
       {"a clock that goes back has not come far", 1000, 0, false},
   };
   for (const Case& c : cases)
     EXPECT_EQ(IsTimeToSend(c.start, c.now), c.over) << c.rule;
-}
-
-TEST(IsTimeToSend, CounterThatTurnsIsFatal) {
-  constexpr std::int32_t kLast = 2147483647;
-  for (const std::int32_t start : {kLast, kLast - 5000}) {
-    try {
-      static_cast<void>(IsTimeToSend(start, -kLast - 1));
-      FAIL() << start;
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Fault(), RunTimeFault::kOverflow);
-    }
-  }
+  for (const std::int32_t start : {kLast, kLast - 5000})
+    EXPECT_EQ(FaultOf([&] { return IsTimeToSend(start, -kLast - 1); }), RunTimeFault::kOverflow) << start;
 }
 
 TEST(FeedbackComplaint, LengthIsFromThreeToAThousandCharacters) {
@@ -93,12 +74,8 @@ TEST(FeedbackComplaint, LengthIsFromThreeToAThousandCharacters) {
       {"three do", "abc", {}},
       {"a thousand do", thousand(0), {}},
       {"a thousand and one do not", thousand(0) + "x", tooLong},
-      {"blanks count", "   ", {}},
-      {"a letter of two bytes is one character", "éé", tooShort},
       {"a thousand letters of three bytes pass", thousand(1) + "€", {}},
-      {"a character of four bytes is one character", "🂡🂡", tooShort},
       {"a line end is two characters", "a\n", {}},
-      {"however the box gives it", "a\r\n", {}},
       {"and so makes a text too long", thousand(1) + "\n", tooLong},
       {"a line end alone is too short", "\r\n", tooShort},
   };
@@ -111,12 +88,6 @@ TEST(FeedbackWriter, IsAnAnswerWithAnAtAsItIs) {
     EXPECT_EQ(FeedbackWriter(answer), answer);
   for (const char* answer : {"somebody", ""})
     EXPECT_EQ(FeedbackWriter(answer), kAnonymousAddress);
-}
-
-TEST(FeedbackWriter, AnonymousAddressReachesNobody) {
-  EXPECT_EQ(kAnonymousAddress.size(), 13U);
-  EXPECT_NE(kAnonymousAddress.find('@'), std::string_view::npos);
-  EXPECT_TRUE(kAnonymousAddress.ends_with(".test"));
 }
 
 TEST(FeedbackRequest, HasBothTextsInItsQueryAndLineEndsAsCrLf) {

@@ -38,7 +38,6 @@ TEST(HoveredLink, FollowsFromTheLookBefore) {
   };
   const std::vector<Case> cases = {
       {"a link is underlined in pale green", {kWhite, false}, false, {kPaleGreen, true}},
-      {"one to results, too", {kPaleYellow, false}, false, {kPaleGreen, true}},
       {"once only", {kPaleGreen, true}, false, {kPaleGreen, true}},
       {"one that is underlined keeps its colour", {kBlack, true}, false, {kBlack, true}},
       {"the selected link turns black", {kGray, true}, true, {kBlack, true}},

@@ -1,7 +1,6 @@
 #include "shell/situations.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -35,7 +34,7 @@ class Situations : public testing::Test {
   [[nodiscard]] const ProgramFolder& Folder() const { return program_.Folder(); }
   void Put(std::string_view fileName, std::string_view bytes) const {
     fs::create_directory(SituationFolderPath(Folder()));
-    std::ofstream(SituationFolderPath(Folder()) / PathOf(fileName), std::ios::binary) << bytes;
+    quillon::Put(SituationFolderPath(Folder()) / PathOf(fileName), bytes);
   }
   [[nodiscard]] std::string Bytes(std::string_view name) const {
     return ReadAllBytes(SituationFilePath(Folder(), name));
@@ -64,18 +63,15 @@ Message AskToReplace(const std::string& name) {
 // ---- saving
 
 TEST_F(Situations, AreSavedUnderTheNameAskedFor) {
+  EXPECT_EQ(Save(""), std::nullopt) << "cancelled";
+  EXPECT_FALSE(fs::exists(SituationFolderPath(Folder())));
+  inputs_.Asked.clear();
   EXPECT_EQ(Save("Button 12"), "Button 12");
   EXPECT_THAT(inputs_.Asked,
               ElementsAre(InputQuestion{"What do you want to call this situation?", "Save Situation", "Last"}));
   EXPECT_THAT(messages_.Shown, IsEmpty());
   EXPECT_EQ(Bytes("Button 12"), kShoveLine);
   EXPECT_EQ(SituationFilePath(Folder(), "Button 12"), Folder().Path / "Situations" / "Button 12.json");
-}
-
-TEST_F(Situations, AreNotSavedWhereTheBoxIsCancelled) {
-  EXPECT_EQ(Save(""), std::nullopt);
-  EXPECT_THAT(messages_.Shown, IsEmpty());
-  EXPECT_FALSE(fs::exists(SituationFolderPath(Folder())));
 }
 
 struct NameCase {
@@ -89,10 +85,7 @@ TEST_F(Situations, HaveNamesThatAFileCanHave) {
       Stop("Quillon", "The following characters are not allowed in the situation name: \r\n\r\n/\\:*?\"<>|");
   const Message tooLong = Stop("Error", "Your situation name is too long. Please choose a shorter one.");
   const std::vector<NameCase> cases = {
-      {"letters beyond ASCII pass", "Größe", std::nullopt},
       {"a way out of the folder", "../settings", forbidden},
-      {"a backslash", "a\\b", forbidden},
-      {"a question mark at the end", "shove?", forbidden},
       {"as long as a file's name can be with its extension", std::string(250, 'x'), std::nullopt},
       {"a byte too long", std::string(251, 'x'), tooLong},
       {"the first complaint is the one", std::string(251, ':'), forbidden},
@@ -109,20 +102,13 @@ TEST_F(Situations, HaveNamesThatAFileCanHave) {
 }
 
 TEST_F(Situations, AreReplacedOnYesAlone) {
-  Put("Old.json", "old");
+  Put("Old.json", "");
   messages_.Answers = {MessageAnswer::kNo, MessageAnswer::kYes};
   EXPECT_EQ(Save("Old"), std::nullopt);
-  EXPECT_EQ(Bytes("Old"), "old");
+  EXPECT_EQ(Bytes("Old"), "");
   EXPECT_EQ(Save("Old"), "Old");
   EXPECT_EQ(Bytes("Old"), kShoveLine);
   EXPECT_THAT(messages_.Shown, ElementsAre(AskToReplace("Old"), AskToReplace("Old")));
-}
-
-TEST_F(Situations, ThatAnEmptyFileHoldsAreAskedAboutToo) {
-  Put("Empty.json", "");
-  messages_.Answers = {MessageAnswer::kNo};
-  EXPECT_EQ(Save("Empty"), std::nullopt);
-  EXPECT_THAT(messages_.Shown, ElementsAre(AskToReplace("Empty")));
 }
 
 TEST_F(Situations, ThatCouldNotBeReadAreNotSaved) {
@@ -136,6 +122,9 @@ TEST_F(Situations, ThatCouldNotBeReadAreNotSaved) {
 
 TEST_F(Situations, AreListedWithoutRegardToCase) {
   EXPECT_THAT(SituationNames(Folder()), IsEmpty()) << "there is no folder yet";
+  quillon::Put(SituationFolderPath(Folder()), "a file in its place");
+  EXPECT_EQ(FaultOf([&] { return SituationNames(Folder()); }), RunTimeFault::kPathNotFound);
+  fs::remove(SituationFolderPath(Folder()));
   for (const char* file : {"b.json", "A.json", "Ä.json", "a 2.json", "C.json", "Käse.json"})
     Put(file, "");
   for (const char* other : {"notes.txt", "D.JSON", "json", ".json", ".quillon-1-0.tmp", "E.json~"})
@@ -144,31 +133,19 @@ TEST_F(Situations, AreListedWithoutRegardToCase) {
   EXPECT_THAT(SituationNames(Folder()), ElementsAre("A", "a 2", "b", "C", "Käse", "Ä"));
 }
 
-TEST_F(Situations, InAFolderThatCannotBeReadAreAFault) {
-  std::ofstream(SituationFolderPath(Folder())) << "a file in its place";
-  EXPECT_EQ(FaultOf([&] { return SituationNames(Folder()); }), RunTimeFault::kPathNotFound);
-}
-
 // ---- opening
 
 TEST_F(Situations, ComeBackAsTheyWereSaved) {
   ASSERT_EQ(Save("Käse"), "Käse");
   const auto opened = Open("Käse");
   ASSERT_TRUE(opened);
-  EXPECT_EQ(opened->Situation.Mode, AnalysisMode::kPreflopRaise);
-  EXPECT_EQ(opened->Situation.Entered.Pot, "1.5");
-  EXPECT_EQ(opened->Situation.Entered.Call, "0.5") << "a sum is worked out, as when its box is left";
-  EXPECT_EQ(opened->Situation.Entered.Shove, "9");
-  EXPECT_EQ(opened->Situation.Entered.Range, "Any");
-  EXPECT_EQ(opened->Situation.Entered.CallingRange, "Tight");
+  ScreenSituation expected = kShove;
+  expected.Entered.Call = "0.5";  // a sum is worked out, as when its box is left
+  EXPECT_EQ(TextOfSituation(opened->Situation).Line, TextOfSituation(expected).Line);
   EXPECT_EQ(opened->Remarks, std::nullopt);
-  EXPECT_THAT(messages_.Shown, IsEmpty());
-}
-
-TEST_F(Situations, WithABlankListHaveNoRemark) {
   Put("New.json", R"({"mode":"call","pot":"","call":"","range":""})");
-  ASSERT_TRUE(Open("New"));
-  EXPECT_EQ(Open("New")->Remarks, std::nullopt);
+  EXPECT_EQ(Open("New")->Remarks, std::nullopt) << "the blank entry";
+  EXPECT_THAT(messages_.Shown, IsEmpty());
 }
 
 TEST_F(Situations, TellWhatTheScreenDoesNotTake) {
@@ -187,13 +164,6 @@ TEST_F(Situations, TellWhatTheScreenDoesNotTake) {
   EXPECT_EQ(opened->Remarks, (Message{"Quillon", text, MessageIcon::kExclamation, MessageButtons::kOk}));
 }
 
-TEST_F(Situations, TakeNoNameThatLeadsOutOfTheRanges) {
-  Put("Sly.json", R"({"mode":"equity","range":"../Ranges/Any"})");
-  const auto opened = Open("Sly");
-  ASSERT_TRUE(opened && opened->Remarks);
-  EXPECT_EQ(opened->Situation.Entered.Range, "");
-}
-
 struct UnreadCase {
   const char* name;
   std::optional<std::string> bytes;
@@ -204,10 +174,8 @@ TEST_F(Situations, ThatCannotBeReadAreTold) {
   const std::vector<UnreadCase> cases = {
       {"missing", std::nullopt, "its file is missing, empty or unreadable"},
       {"empty", "", "its file is missing, empty or unreadable"},
-      {"blank", "\r\n", "the line is empty"},
       {"no JSON", "pot 3", "this is not JSON from byte 1 on: p"},
       {"no mode", R"({"pot":3})", "\"mode\" is missing"},
-      {"unknown mode", R"({"mode":"fold"})", "\"mode\" is call, raise or equity, not \"fold\""},
   };
   for (const UnreadCase& c : cases) {
     const std::string file = std::string(c.name) + ".json";

@@ -2,24 +2,22 @@
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 #include "hand/hand_classes.h"
-#include "ranges/range_lists.h"
 #include "shell/situations.h"
-#include "shell/version.h"
 #include "support/folders.h"
-#include "support/run_time_error.h"
+#include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -43,71 +41,46 @@ TEST(PrepareFolders, MakesBothTheRangesFirst) {
   EXPECT_FALSE(std::filesystem::exists(SettingsFilePath(program.Folder()))) << "only a write makes it";
 }
 
-TEST(PrepareFolders, KeepsWhatIsInThem) {
-  const TemporaryProgram program;
-  program.Write("Button.txt", "AA (1), \r\n");
-  PrepareFolders(program.Folder());
-  EXPECT_EQ(program.Read("Button.txt"), "AA (1), \r\n");
-}
-
 TEST(PrepareFolders, AFolderThatCannotBeMadeIsFatal) {
   for (const char* blocked : {"Ranges", "Saved Grids"}) {
     const EmptyProgram program;
-    std::ofstream(program.Folder().Path / blocked) << "a file";
-    try {
-      PrepareFolders(program.Folder());
-      FAIL() << blocked;
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Fault(), RunTimeFault::kPathFileAccess) << blocked;
-      EXPECT_THAT(error.what(), HasSubstr(blocked));
-    }
+    Put(program.Folder().Path / blocked, "a file");
+    EXPECT_THAT(FaultTextOf([&] { PrepareFolders(program.Folder()); }),
+                AllOf(HasSubstr("'75': Path/File access error"), HasSubstr(blocked)));
   }
 }
 
 TEST(PrepareFolders, ClearsAwayWhatAKilledProgramLeftOfASave) {
   const TemporaryProgram program;
-  const std::filesystem::path left = program.Folder().Path / ".quillon-1-0.tmp";
-  std::ofstream(left) << "half";
-  program.Write(".quillon-1-1.tmp", "half");
   program.Write("Tight.txt", "AA (1), ");
-  const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
-  std::filesystem::last_write_time(left, longAgo);
-  std::filesystem::last_write_time(program.RangeFile(".quillon-1-1.tmp"), longAgo);
-
-  const std::filesystem::path amongSituations = SituationFolderPath(program.Folder()) / ".quillon-1-2.tmp";
   std::filesystem::create_directory(SituationFolderPath(program.Folder()));
-  std::ofstream(amongSituations) << "half";
-  std::filesystem::last_write_time(amongSituations, longAgo);
-
+  const std::vector<std::filesystem::path> folders = {program.Folder().Path, RangeFolderPath(program.Folder()),
+                                                      SituationFolderPath(program.Folder())};
+  for (const std::filesystem::path& folder : folders) {
+    Put(folder / ".quillon-1-0.tmp", "half");
+    std::filesystem::last_write_time(folder / ".quillon-1-0.tmp",
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(2));
+  }
   PrepareFolders(program.Folder());
-  EXPECT_FALSE(std::filesystem::exists(left));
-  EXPECT_FALSE(std::filesystem::exists(amongSituations));
-  EXPECT_FALSE(std::filesystem::exists(program.RangeFile(".quillon-1-1.tmp")));
-  EXPECT_TRUE(std::filesystem::exists(program.RangeFile("Tight.txt")));
+  for (const std::filesystem::path& folder : folders)
+    EXPECT_FALSE(std::filesystem::exists(folder / ".quillon-1-0.tmp")) << folder;
+  EXPECT_EQ(program.Read("Tight.txt"), "AA (1), ");
 }
 
 TEST(MainWindow, IsAsWideAsPanelAndFirstScreenAreDesigned) {
   EXPECT_EQ(MainWindowSize({0, 1440, 3300, 9000}, 12000), (TwipSize{15300, 9045}));
   EXPECT_EQ(MainWindowSize({10, 1440, 3300, 9000}, 10000), (TwipSize{13310, 9045}));
-}
-
-TEST(MainWindow, HasTheVersionInItsTitle) {
-  EXPECT_EQ(kVersionText, "0.9");
   EXPECT_EQ(MainWindowTitle(), "Quillon 0.9");
 }
 
 TEST(BoxTexts, AreStoredAndFoundAsTheyStood) {
   const TemporaryProgram program;
   const std::vector<std::string> texts = {"abc", "", "=735+220-178", "5 €", " 5 "};
+  EXPECT_THAT(StoredBoxTexts(2, program.Folder()), ElementsAre("", ""));
   WriteIniValue("Values", "1", "old", program.Folder());
   WriteIniValues(BoxTextSettings(texts), program.Folder());
   WriteIniValue("Values", "5", "no such box", program.Folder());
   EXPECT_EQ(StoredBoxTexts(5, program.Folder()), texts) << "an empty box empties its value";
-}
-
-TEST(BoxTexts, AreEmptyWhereNothingIsStored) {
-  const TemporaryProgram program;
-  EXPECT_THAT(StoredBoxTexts(2, program.Folder()), ElementsAre("", ""));
 }
 
 TEST(HandListEntries, AreNoneAndAllClasses) {

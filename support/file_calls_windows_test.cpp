@@ -42,14 +42,14 @@ class FileOpenElsewhere : public Files {
 TEST_F(FileOpenElsewhere, IsReplacedWhateverOfThatTheOtherAllows) {
   OpenWith(FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
   EXPECT_FALSE(Replace(SystemFileCalls()));
-  EXPECT_EQ(Content(File()), kNew);
+  EXPECT_EQ(BytesOf(File()), kNew);
   ExpectNoScratchFiles();
 }
 
 TEST_F(FileOpenElsewhere, IsWrittenInPlaceWhereItMayNotBeReplaced) {
   OpenWith(FILE_SHARE_READ | FILE_SHARE_WRITE);
   EXPECT_FALSE(Replace(SystemFileCalls()));
-  EXPECT_EQ(Content(File()), kNew);
+  EXPECT_EQ(BytesOf(File()), kNew);
   ExpectNoScratchFiles();
 }
 
@@ -59,7 +59,7 @@ TEST_F(FileOpenElsewhere, StaysWhereTheOtherAllowsNoWriting) {
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kPathFileAccess);
   EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt: Another program has it open"));
-  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(BytesOf(File()), kOld);
   ExpectNoScratchFiles();
 }
 
@@ -71,7 +71,7 @@ TEST_F(FilesOfWindows, ThatAreReadOnlyStay) {
   const auto error = Replace(SystemFileCalls());
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
-  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(BytesOf(File()), kOld);
   ExpectNoScratchFiles();
   ASSERT_NE(SetFileAttributesW(File().c_str(), FILE_ATTRIBUTE_NORMAL), 0);
 }
@@ -122,7 +122,7 @@ TEST_F(FilesOfWindows, AreReachedOnAShare) {
   for (const fs::path& form : {folder / "Button.txt", folder / ".." / "Ranges" / "." / "Button.txt"})
     EXPECT_EQ(ReadAllBytes(form), kOld) << form;
   ReplaceFile(folder / "Button.txt", kNew, folder);
-  EXPECT_EQ(Content(File()), kNew);
+  EXPECT_EQ(BytesOf(File()), kNew);
   EXPECT_THAT(FileNamesIn(folder), testing::ElementsAre("Button.txt"));
   const fs::path before = fs::current_path();
   fs::current_path(folder);

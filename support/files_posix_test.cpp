@@ -42,7 +42,7 @@ TEST_F(ReplacingAFile, LinkIsFollowed) {
   EXPECT_TRUE(fs::is_symlink(File()));
   EXPECT_TRUE(fs::is_symlink(Folder() / "near.txt"));
   EXPECT_FALSE(fs::is_symlink(elsewhere / "kept.txt"));
-  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
+  EXPECT_EQ(BytesOf(elsewhere / "kept.txt"), kNew);
   EXPECT_THAT(Listing(elsewhere), testing::ElementsAre("kept.txt"));
 }
 
@@ -53,7 +53,7 @@ TEST_F(ReplacingAFile, LinkedFileIsTriedBesideItself) {
   WatchedCalls calls;
   EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
   EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), elsewhere);
-  EXPECT_EQ(Content(elsewhere / "kept.txt"), kNew);
+  EXPECT_EQ(BytesOf(elsewhere / "kept.txt"), kNew);
 }
 
 TEST_F(ReplacingAFile, CircleOfLinksAndPipeFailAndStay) {
@@ -76,7 +76,7 @@ TEST_F(WritingInPlace, FileMayBeWrittenInAFolderThatMayNot) {
   for (const auto& content : {std::string(5000, 'x'), kNew}) {  // the second is shorter
     const OrdinaryUser user;
     ReplaceFile(File(), content, ScratchFolder());
-    EXPECT_EQ(Content(File()), content);
+    EXPECT_EQ(BytesOf(File()), content);
   }
   ExpectNoScratchFiles();
 }
@@ -87,7 +87,7 @@ TEST_F(WritingInPlace, NoFolderNeedsToTakeAScratchFile) {
        {std::pair(Folder(), std::string(kNew)), std::pair(Folder().parent_path() / "missing", std::string("newer"))}) {
     const OrdinaryUser user;
     ReplaceFile(File(), content, scratchFolder);
-    EXPECT_EQ(Content(File()), content);
+    EXPECT_EQ(BytesOf(File()), content);
   }
 }
 
@@ -146,7 +146,7 @@ TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
   ASSERT_EQ(::chmod(File().c_str(), 0600), 0);
   WatchedCalls calls(FailAll(Call::kSetMode, EPERM));
   EXPECT_FALSE(Replace(calls)) << "a disk without permissions is written all the same";
-  EXPECT_EQ(Content(File()), kNew);
+  EXPECT_EQ(BytesOf(File()), kNew);
   EXPECT_EQ(ModeOf(File()), 0600U);
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "support/run_time_error.h"
+#include "testing/closed_input.h"
 #include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/ordinary_user.h"
@@ -60,6 +61,24 @@ TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
   }
 }
 
+// The first file that it opens then has the number 0.
+TEST_F(Files, NeedNoStandardInput) {
+  for (const WatchedCalls::Fault& fault : {WatchedCalls::Fault(), FailAll(Call::kRename, EACCES)}) {
+    Put(File(), kOld);
+    WatchedCalls calls(fault);
+    {
+      const ClosedInput closed;
+      EXPECT_EQ(ReadAllBytes(File(), calls), kOld);
+      ReplaceFile(File(), kNew, ScratchFolder(), calls);
+    }
+    EXPECT_EQ(BytesOf(File()), kNew);
+    EXPECT_EQ(calls.Count(Call::kSync), fault ? 4 : 2)
+        << "the file and its folder, in place the copy and its folder too";
+    EXPECT_EQ(calls.Count(Call::kClose), calls.Count(Call::kOpen));
+    ExpectNoScratchFiles();
+  }
+}
+
 TEST_F(ReadingBytes, ShortReadsAreJoined) {
   Put(File(), kOld);
   WatchedCalls calls({}, 1);
@@ -76,14 +95,14 @@ TEST_F(ReadingBytes, InterruptedCallIsMadeAgain) {
 
 TEST_F(Files, OfTextAreInTheCodePageAndWrittenWithALineEnd) {
   WriteAllText("\u00FF\u20AC\u2660 \r\n", File(), ScratchFolder());
-  EXPECT_EQ(Content(File()), "\xFF\x80? \r\n\r\n");
+  EXPECT_EQ(BytesOf(File()), "\xFF\x80? \r\n\r\n");
   EXPECT_EQ(ReadAllText(File()), "\u00FF\u20AC? \r\n\r\n");
 }
 
 TEST_F(ReplacingAFile, NewContentTakesThePlaceOfTheOld) {
   for (const std::string& bytes : {std::string(100000, 'x'), std::string("\0\r\n\xFF\x1A", 5), std::string()}) {
     ReplaceFile(File(), bytes, ScratchFolder());
-    EXPECT_EQ(Content(File()), bytes);
+    EXPECT_EQ(BytesOf(File()), bytes);
   }
   EXPECT_EQ(Listing(Folder()), std::vector<std::string>{"Button.txt"});
   ExpectNoScratchFiles();
@@ -147,7 +166,7 @@ TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
   for (const Case& c : cases) {
     WatchedCalls calls(c.fault);
     EXPECT_FALSE(FailureOfReplacing(File(), c.scratch, calls)) << c.rule;
-    EXPECT_EQ(Content(File()), kNew) << c.rule;
+    EXPECT_EQ(BytesOf(File()), kNew) << c.rule;
     ExpectNoScratchFiles();
     ASSERT_FALSE(calls.ScratchFiles().empty()) << c.rule;
     EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), Folder()) << c.rule;
@@ -186,7 +205,7 @@ TEST_F(ReplacingAFile, FileProtectedByTheSystemIsNotReplaced) {
   ASSERT_TRUE(error);
   EXPECT_EQ(error->Fault(), RunTimeFault::kPermissionDenied);
   EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt"));
-  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(BytesOf(File()), kOld);
   ExpectNoScratchFiles();
 }
 
@@ -204,12 +223,12 @@ TEST_F(ReplacingAFile, FailureOfAnyCallLeavesTheOldOrTheNewContentWhole) {
         reached = calls.Made().size() >= static_cast<std::size_t>(number);
         ExpectNoScratchFiles();
         if (!error) {
-          EXPECT_EQ(Content(File()), kNew);
+          EXPECT_EQ(BytesOf(File()), kNew);
           continue;
         }
         EXPECT_NE(failure, EINTR) << "an interruption is no failure";
         EXPECT_EQ(fs::exists(File()), old.has_value());
-        EXPECT_EQ(Content(File()), old.value_or(""));
+        EXPECT_EQ(BytesOf(File()), old.value_or(""));
         EXPECT_EQ(error->Fault(), RunTimeFaultOf(failure));
         EXPECT_THAT(error->what(), testing::HasSubstr(File().string()));
       }
@@ -238,7 +257,7 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
     ASSERT_TRUE(error) << c.rule;
     EXPECT_EQ(error->Fault(), c.fault) << c.rule;
     EXPECT_THAT(error->what(), testing::HasSubstr("Button.txt")) << c.rule;
-    EXPECT_EQ(Content(File()), kOld) << c.rule;
+    EXPECT_EQ(BytesOf(File()), kOld) << c.rule;
     ExpectNoScratchFiles();
   }
 }
@@ -248,7 +267,7 @@ TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
     Put(File(), kOld);
     WatchedCalls calls(FailAll(Call::kRename, refusal));
     EXPECT_FALSE(Replace(calls)) << refusal;
-    EXPECT_EQ(Content(File()), kNew) << refusal;
+    EXPECT_EQ(BytesOf(File()), kNew) << refusal;
     ExpectNoScratchFiles();
   }
 }
@@ -274,10 +293,10 @@ TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
     reached = calls.Made().size() >= static_cast<std::size_t>(number);
     SCOPED_TRACE("call " + std::to_string(number));
     if (!error) {
-      EXPECT_EQ(Content(File()), kNew);
-    } else if (Content(File()) != kOld) {
+      EXPECT_EQ(BytesOf(File()), kNew);
+    } else if (BytesOf(File()) != kOld) {
       const std::string copy = calls.ScratchFiles().back();
-      EXPECT_EQ(Content(copy), kNew);
+      EXPECT_EQ(BytesOf(copy), kNew);
       EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
       EXPECT_THAT(error->what(), testing::HasSubstr("the new content is in " + copy));
       ++copies;
@@ -302,10 +321,10 @@ TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
 
   WatchedCalls later;
   ReplaceFile(File(), kOld, ScratchFolder(), later);
-  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(BytesOf(File()), kOld);
   EXPECT_EQ(fs::path(later.ScratchFiles().back()).parent_path(), ScratchFolder());
   for (const std::string& name : left)
-    EXPECT_EQ(Content(ScratchFolder() / name), "left");
+    EXPECT_EQ(BytesOf(ScratchFolder() / name), "left");
 }
 
 TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {
@@ -380,7 +399,7 @@ TEST_F(DeletingAFile, FailureNamesTheFileAndTheReason) {
   Put(File(), kOld);
   WatchedCalls calls(FailAll(Call::kUnlink, EACCES));
   EXPECT_THAT(failureOf("Button.txt", calls), testing::HasSubstr("'70': Permission denied"));
-  EXPECT_EQ(Content(File()), kOld);
+  EXPECT_EQ(BytesOf(File()), kOld);
   WatchedCalls interrupted(FailOnce(1, EINTR));
   EXPECT_EQ(failureOf("Button.txt", interrupted), "") << "an interruption is no failure";
   EXPECT_FALSE(fs::exists(File()));

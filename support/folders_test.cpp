@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/run_time_error.h"
+#include "testing/closed_input.h"
 #include "testing/fault_of.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_folder.h"
@@ -46,6 +47,8 @@ TEST_F(Folders, ExistWhereTheyCanBeListed) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(FolderExists(c.path), c.exists) << c.rule;
+  const ClosedInput closed;
+  EXPECT_TRUE(FolderExists(Path())) << "a process without a standard input";
 }
 
 TEST_F(Folders, AnyErrorCountsAsNotExisting) {

@@ -3,10 +3,10 @@
 // What a folder holds, so that a test can say that nothing in it has changed.
 
 #include <filesystem>
-#include <fstream>
 #include <map>
-#include <sstream>
 #include <string>
+
+#include "testing/file_bytes.h"
 
 namespace quillon {
 
@@ -14,10 +14,9 @@ namespace quillon {
 [[nodiscard]] inline std::map<std::string, std::string> FolderState(const std::filesystem::path& folder) {
   std::map<std::string, std::string> state;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    std::ostringstream text;
-    text << entry.last_write_time().time_since_epoch().count() << ' ';
-    if (entry.is_regular_file()) text << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-    state[entry.path().string()] = text.str();
+    std::string& text = state[entry.path().string()];
+    text = std::to_string(entry.last_write_time().time_since_epoch().count()) + ' ';
+    if (entry.is_regular_file()) text += BytesOf(entry.path());
   }
   return state;
 }

@@ -215,15 +215,8 @@ class MainStage {
   }
   [[nodiscard]] std::filesystem::path SavedGrids() const { return Program.Folder().Path / "Saved Grids"; }
 
-  [[nodiscard]] static std::string BytesOf(const std::filesystem::path& file) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    return bytes.str();
-  }
   [[nodiscard]] std::string Settings() const { return BytesOf(Program.Folder().Path / "settings.ini"); }
-  void WriteSettings(std::string_view text) const {
-    std::ofstream(Program.Folder().Path / "settings.ini", std::ios::binary) << text;
-  }
+  void WriteSettings(std::string_view text) const { Put(Program.Folder().Path / "settings.ini", text); }
 
   TemporaryProgram Program;
   bool ShiftHeld = false;

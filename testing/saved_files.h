@@ -1,20 +1,18 @@
 #pragma once
 
-// Files as a test finds them on the disk, past the routines that it tests.
+// A file of the user's, and what becomes of it.
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <optional>
-#include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "support/files.h"
 #include "testing/fault_of.h"
+#include "testing/file_bytes.h"
 #include "testing/file_calls.h"
 #include "testing/temporary_folder.h"
 
@@ -22,16 +20,6 @@ namespace quillon {
 
 inline const std::string kOld = "AA (1), KK (0), \r\n";
 inline const std::string kNew = "AA (0.5), KK (1), QQ (1), \r\n";
-
-inline std::string Content(const std::filesystem::path& path) {
-  std::ostringstream content;
-  content << std::ifstream(path, std::ios::binary).rdbuf();
-  return content.str();
-}
-
-inline void Put(const std::filesystem::path& path, std::string_view bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
 
 inline std::vector<std::string> Listing(const std::filesystem::path& folder) {
   std::vector<std::string> names;

@@ -3,12 +3,11 @@
 // A program's folder with an empty range folder in it, gone with all it holds when the object goes.
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <string_view>
 
 #include "ranges/range_files.h"
+#include "testing/file_bytes.h"
 #include "testing/temporary_folder.h"
 
 namespace quillon {
@@ -23,16 +22,10 @@ class TemporaryProgram {
   }
 
   /// Puts a file into the range folder, byte for byte.
-  void Write(std::string_view fileName, std::string_view bytes = {}) const {
-    std::ofstream(RangeFile(fileName), std::ios::binary) << bytes;
-  }
+  void Write(std::string_view fileName, std::string_view bytes = {}) const { Put(RangeFile(fileName), bytes); }
 
   /// The bytes of a file in the range folder.
-  [[nodiscard]] std::string Read(std::string_view fileName) const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(RangeFile(fileName), std::ios::binary).rdbuf();
-    return bytes.str();
-  }
+  [[nodiscard]] std::string Read(std::string_view fileName) const { return BytesOf(RangeFile(fileName)); }
 
   /// A range as the program saves it, and its end.
   void Save(std::string_view name, std::string_view text) const { SaveRangeText(folder_, name, text); }
