@@ -23,11 +23,8 @@ Analysis FinishedRaise() {
   state.CallingRangeText = state.RangeText;
   state.HandInfo.clear();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
-    const std::string_view hand = HandLabel(index);
     const double share = index / 168.0;
-    state.HandInfo = SetHandInfo(state.HandInfo, hand, kExpectedValueColumn, 400 * (0.5 - share), kLastColumn);
-    state.HandInfo = SetHandInfo(state.HandInfo, hand, kEquityColumn, 1 - share, kLastColumn);
-    state.HandInfo = SetHandInfo(state.HandInfo, hand, kFoldShareColumn, share, kLastColumn);
+    state.HandInfo += ResultRow({HandLabel(index), 0, 400 * (0.5 - share), 1 - share, share});
   }
   return state;
 }

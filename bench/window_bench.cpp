@@ -1,7 +1,7 @@
 // What a player waits for in the window: from a click on Analyze to the painted grid, from a move of the mouse to the
 // painted hover panel, from a click on Details to the written report, from asking for a page of the study window to the
-// page, and the making of the whole window. The window is
-// a real one on whatever platform Qt is told; bench/window.sh runs this on a virtual screen.
+// page, and the making of the whole window. The window is a real one on whatever platform Qt is told; bench/window.sh
+// runs this on a virtual screen.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -182,25 +182,10 @@ void AskForPage(benchmark::State& timing, StudyTopic topic, StudyTopic other) {
   }
 }
 
-void ShowStudyToPaintedLimits(benchmark::State& timing) {
-  AskForPage(timing, StudyTopic::kLimits, StudyTopic::kBalanced);
-}
-BENCHMARK(ShowStudyToPaintedLimits)->Unit(benchmark::kMillisecond);
-
-void ShowStudyToPaintedCurves(benchmark::State& timing) {
-  AskForPage(timing, StudyTopic::kHowFar, StudyTopic::kLimits);
-}
-BENCHMARK(ShowStudyToPaintedCurves)->Unit(benchmark::kMillisecond);
-
-void ShowStudyToPaintedWidths(benchmark::State& timing) {
-  AskForPage(timing, StudyTopic::kWidth, StudyTopic::kLimits);
-}
-BENCHMARK(ShowStudyToPaintedWidths)->Unit(benchmark::kMillisecond);
-
-void ShowStudyToBalancedRanges(benchmark::State& timing) {
-  AskForPage(timing, StudyTopic::kBalanced, StudyTopic::kLimits);
-}
-BENCHMARK(ShowStudyToBalancedRanges)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AskForPage, Limits, StudyTopic::kLimits, StudyTopic::kBalanced)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AskForPage, Curves, StudyTopic::kHowFar, StudyTopic::kLimits)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AskForPage, Widths, StudyTopic::kWidth, StudyTopic::kLimits)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AskForPage, Balanced, StudyTopic::kBalanced, StudyTopic::kLimits)->Unit(benchmark::kMillisecond);
 
 void MakeTheWindow(benchmark::State& timing) {
   while (timing.KeepRunning()) {

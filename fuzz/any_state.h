@@ -2,31 +2,23 @@
 
 // An analysis that never ran, made of the bytes of a fuzz input: any scenario, any amounts, names, ranges and results.
 
-#include <array>
 #include <cstdint>
 #include <string>
 
 #include "analysis/analysis.h"
 #include "analysis/results_table.h"
+#include "fuzz/any_weights.h"
 #include "fuzz/fuzz_target.h"
 #include "hand/hand_classes.h"
-#include "ranges/range_text.h"
 #include "support/run_time_error.h"
 
 namespace quillon {
 
 /// A range text: one of whole weights, or any bytes at all.
 inline std::string AnyRangeText(FuzzInput& input) {
-  constexpr std::array<double, 4> kWeights = {0, 0.5, 1, 0.25};
   constexpr std::size_t kBytes = 43;  // two bits a class
   if (input.TakeBelow(4) == 3) return std::string(input.TakeText(input.TakeBelow(200)));
-  const std::string_view bits = input.TakeText(input.TakeBelow(kBytes + 1));
-  ClassWeights weights{};
-  for (std::size_t i = 0; i < weights.size(); ++i) {
-    const unsigned byte = i / 4 < bits.size() ? static_cast<unsigned char>(bits[i / 4]) : 0;
-    weights[i] = kWeights[(byte >> (2 * (i % 4))) & 3U];
-  }
-  return RangeTextOf(weights);
+  return RangeTextOf(AnyWeights(input.TakeText(input.TakeBelow(kBytes + 1))));
 }
 
 /// An amount: a whole number, hundredths, or any double.

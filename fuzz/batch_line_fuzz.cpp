@@ -52,11 +52,8 @@ void CheckAnswer(std::string_view line, bool refused, const std::string& id) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const ChecksOfRun checks(input, 2);
   const std::string_view line = input.Rest();
   const auto reading = TheBatch().Read(line);
@@ -69,5 +66,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckRefusal(refusal);
     if (checks.Has(1)) CheckAnswer(line, true, refusal.Id);
   }
-  return 0;
 }
+
+}  // namespace quillon

@@ -4,10 +4,10 @@
 #include "support/byte_scan.h"
 #include "testing/oracle/searches.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
+namespace quillon {
+
+void CheckInput(FuzzInput input) {
   constexpr std::size_t kLongestWanted = 16;
-  FuzzInput input(data, size);
   const std::size_t n = input.TakeBelow(256);
   const std::string_view wanted = input.TakeText(input.TakeBelow(kLongestWanted + 1));
   const std::string_view text = input.Rest();
@@ -20,5 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t start = text.empty() ? 0 : n % text.size();
   const std::string_view piece = text.substr(start, wanted.size());
   Require(FindText(text, piece) == text.find(piece), "FindText finds a piece of the text itself");
-  return 0;
 }
+
+}  // namespace quillon

@@ -42,16 +42,15 @@ void CheckBox(const std::string& text, const std::string& value) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  const std::string text(FuzzInput(data, size).Rest());
+void CheckInput(FuzzInput input) {
+  const std::string text(input.Rest());
   const std::string value = OrFailure([&] { return EvalExpression(text); });
   Require(value == PlainValue(text), "a value equals the plain one");
   Require(value == kExpressionErrorText || value == Overflow() || IsNumericText(value),
           "a value is a number or the error");
   CheckBox(text, value);
   CheckBox("=" + text, OrFailure([&] { return EvalExpression("=" + text); }));
-  return 0;
 }
+
+}  // namespace quillon

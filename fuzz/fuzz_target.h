@@ -1,8 +1,8 @@
 #pragma once
 
 // What a fuzz target is made of. A target is one function that takes any bytes and ends the process if a rule does not
-// hold for them. libFuzzer calls it with bytes that it makes up; "fuzz/replay_main.cpp" calls it with the files of the
-// target's corpus, so that what has been found once is tried again with every compiler.
+// hold for them. libFuzzer gives it bytes that it makes up ("fuzz/fuzzer_entry.cpp"), and "fuzz/replay_main.cpp" the
+// files of the target's corpus, so that what has been found once is tried again with every compiler.
 
 #include <algorithm>
 #include <cstddef>
@@ -12,9 +12,6 @@
 #include <cstring>
 #include <numeric>
 #include <string_view>
-
-/// The target: the one function of this name in each program. Returns 0.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace quillon {
 
@@ -64,6 +61,9 @@ class FuzzInput {
  private:
   std::string_view rest_;
 };
+
+/// The target: the one function of this name in each program.
+void CheckInput(FuzzInput input);
 
 /// Whether this program runs its target over committed inputs rather than over made-up ones.
 #ifdef QUILLON_REPLAYS

@@ -55,11 +55,8 @@ void CheckFile(std::string_view bytes, const std::string& section, const std::st
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const std::string section = input.TakeBelow(2) == 0 ? "Main" : "Values";
   constexpr std::array<const char*, 4> kKeys = {"Left", "Top", "Auto", "0"};
   const std::string key = kKeys[input.TakeBelow(kKeys.size())];
@@ -69,5 +66,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(IniValue(text, section, key) == plain::IniValue(text, section, key), "a value equals the plain one");
   CheckWriting(text, section, key, value);
   CheckFile(text, section, key, value);
-  return 0;
 }
+
+}  // namespace quillon

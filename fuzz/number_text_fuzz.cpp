@@ -68,14 +68,12 @@ void CheckNumber(double value, std::size_t digits) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   CheckText(input.Rest());
   CheckMarks(input.Rest());
   const std::size_t digits = input.TakeBelow(16);
   CheckNumber(input.TakeDouble(), digits);
-  return 0;
 }
+
+}  // namespace quillon

@@ -6,6 +6,7 @@
 #include <string>
 #include <variant>
 
+#include "fuzz/any_weights.h"
 #include "fuzz/fuzz_target.h"
 #include "ranges/grid_edits.h"
 #include "ranges/range_messages.h"
@@ -23,15 +24,13 @@ std::variant<CellColors, NotationError> Pasted(std::string_view text) {
   return CellsOfNotation(text, IndexOrder());
 }
 
-// Four cells a byte; of four states two are none.
 CellColors AnyCells(FuzzInput& input) {
   constexpr std::size_t kBytes = 43;
-  const std::string_view states = input.TakeText(input.TakeBelow(kBytes + 1));
+  const ClassWeights weights = AnyWeights(input.TakeText(input.TakeBelow(kBytes + 1)));
   CellColors cells = UnselectedCells();
-  for (std::size_t i = 0; i < 4 * states.size() && i < cells.size(); ++i) {
-    const unsigned state = (static_cast<unsigned char>(states[i / 4]) >> (2 * (i % 4))) & 3U;
-    if (state == 1) cells.at(i) = kFullColor;
-    if (state == 2) cells.at(i) = kHalfColor;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (weights.at(i) == 1) cells.at(i) = kFullColor;
+    if (weights.at(i) == 0.5) cells.at(i) = kHalfColor;
   }
   return cells;
 }
@@ -63,11 +62,8 @@ void CheckShare(std::string_view share, bool half, const CellColors& shown) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const bool half = input.TakeBelow(2) == 1;
   const CellColors shown = AnyCells(input);
   CheckToggles(shown, InvertedCells(shown, half));
@@ -76,10 +72,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto pasted = Pasted(input.Rest());
   if (const auto* const error = std::get_if<NotationError>(&pasted)) {
     CheckError(input.Rest(), *error);
-    return 0;
+    return;
   }
   const auto& cells = std::get<CellColors>(pasted);
   CheckToggles(shown, cells);
   Require(Pasted(RangeNotation(RangeTextFromGrid(cells))) == pasted, "what is copied pastes the same");
-  return 0;
 }
+
+}  // namespace quillon

@@ -72,14 +72,12 @@ void CheckFileName(const std::string& fileName) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const bool isTaken = input.TakeBelow(2) == 1;
   const std::string name(input.Rest());
   CheckName(name, isTaken);
   CheckFileName(name);
-  return 0;
 }
+
+}  // namespace quillon

@@ -68,11 +68,8 @@ void CheckNotation(std::string_view notation, bool writing) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const ChecksOfRun checks(input, 16);
   if (checks.Has(1)) {
     const ClassWeights weights = AnyWeights(input);
@@ -80,5 +77,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckTexts(weights);
   }
   if (checks.All() || !checks.Has(1)) CheckNotation(input.Rest(), checks.Has(2));
-  return 0;
 }
+
+}  // namespace quillon

@@ -1,10 +1,12 @@
-// Weights from any text, against the oracle.
+// Weights, sums and summaries of any text and of any range, against the oracle.
 
 #include <cmath>
 #include <optional>
 #include <string>
 
+#include "fuzz/any_weights.h"
 #include "fuzz/fuzz_target.h"
+#include "ranges/range_summary.h"
 #include "ranges/range_text.h"
 #include "support/run_time_error.h"
 #include "support/windows_1252.h"
@@ -29,31 +31,32 @@ void CheckLabel(const std::string& text, const std::string& label) {
   Require(!weight || std::isfinite(*weight), "a weight is finite");
 }
 
-void CheckSum(const std::string& text) {
+// Of texts of which some weights cannot be read there is neither.
+void CheckSumAndSummary(const std::string& text) {
   const std::optional<plain::Weights> weights = plain::WeightsOf(text);
   try {
     const double combos = SelectedCombos(Utf8FromWindows1252(text));
     Require(weights && combos == plain::SelectedCombos(*weights), "the selected hands are the plain ones");
     Require(SelectionCaption(combos).ends_with("% selected"), "every sum has a caption");
+    Require(RangeSummary(Utf8FromWindows1252(text)) == plain::Summary(*weights), "a summary equals the plain one");
   } catch (const RunTimeError&) {
     Require(!weights, "a sum fails only where a weight does");
   }
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
+void CheckInput(FuzzInput input) {
   constexpr std::size_t kLongestLabel = 5;
-  FuzzInput input(data, size);
-  const bool all = input.TakeBelow(16) == 1;
+  const std::size_t kind = input.TakeBelow(16);
+  if (kind == 2) return CheckSumAndSummary(RangeTextOf(AnyWeights(input.Rest())));
   const std::string label(HandLabel(static_cast<std::int16_t>(input.TakeBelow(kHandClassCount))));
   const std::string anyLabel(input.TakeText(input.TakeBelow(kLongestLabel + 1)));
   const std::string text(input.Rest());
 
   CheckLabel(text, label);
   CheckLabel(text, anyLabel);
-  if (all) CheckSum(text);
-  return 0;
+  if (kind == 1) CheckSumAndSummary(text);
 }
+
+}  // namespace quillon

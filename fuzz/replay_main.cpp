@@ -27,7 +27,7 @@ std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& folder) 
 void Replay(const std::filesystem::path& file) {
   const std::string text = BytesOf(file);
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());  // no more, so that a read past the end is found
-  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+  CheckInput({bytes.data(), bytes.size()});
 }
 
 // Returns the number of files.

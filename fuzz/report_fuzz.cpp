@@ -121,11 +121,8 @@ void CheckHandLine(const Analysis& state, std::string_view hand) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const ChecksOfRun checks(input, 3);
   const std::size_t hand = input.TakeBelow(kHandClassCount + 1);
   const Analysis state = AnyState(input);
@@ -134,5 +131,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (checks.Has(1)) CheckReport(state, ReportForm::kForum, checks.All());
   if (checks.Has(2))
     CheckHandLine(state, hand == kHandClassCount ? "None" : HandLabel(static_cast<std::int16_t>(hand)));
-  return 0;
 }
+
+}  // namespace quillon

@@ -57,16 +57,14 @@ void CheckHover(const Analysis& state, std::int16_t index) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const ChecksOfRun checks(input, 3);
   const auto index = static_cast<std::int16_t>(input.TakeBelow(kHandClassCount));
   const Analysis state = AnyState(input);
   if (checks.Has(0)) CheckColors(state);
   if (checks.Has(1)) CheckTexts(state, checks.All());
   if (checks.Has(2)) CheckHover(state, index);
-  return 0;
 }
+
+}  // namespace quillon

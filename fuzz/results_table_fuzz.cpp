@@ -24,13 +24,10 @@ std::optional<std::string> Changed(std::string_view table, std::string_view labe
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
+void CheckInput(FuzzInput input) {
   constexpr std::size_t kMostColumns = 8;
   constexpr std::size_t kLongestLabel = 5;
-  FuzzInput input(data, size);
   const std::size_t lastColumn = input.TakeBelow(kMostColumns);
   const std::size_t column = input.TakeBelow(lastColumn + 1);
   const double value = input.TakeDouble();
@@ -48,5 +45,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   Require(BestHand(table, number) == plainTable.Best(column), "the best hand is the plain one");
   Require(WorstHand(table, number) == plainTable.Worst(column), "the worst hand is the plain one");
-  return 0;
 }
+
+}  // namespace quillon

@@ -44,11 +44,8 @@ void CheckSetting(const std::string& setting, const ProgramFolder& folder) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   MemoryFiles files;
   const ProgramFolder folder{"/quillon-fuzz", &files};
   const bool on = input.TakeBelow(4) != 0;
@@ -59,5 +56,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::string reply(input.Rest());
   CheckLook(UpgradeLookOf(reply), reply);
-  return 0;
 }
+
+}  // namespace quillon

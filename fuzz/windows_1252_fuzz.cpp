@@ -16,11 +16,8 @@ void CheckFileName(std::string_view name) {
 }
 
 }  // namespace
-}  // namespace quillon
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillon;  // NOLINT(google-build-using-namespace): the name of this function is not ours to choose
-  FuzzInput input(data, size);
+void CheckInput(FuzzInput input) {
   const std::string_view bytes = input.Rest();
 
   const std::string text = Utf8FromWindows1252(bytes);
@@ -30,5 +27,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(Windows1252FromUtf8(bytes).size() <= bytes.size(), "a character takes one byte");
   Require(Windows1252FromUtf8(bytes) == plain::CodePage(bytes), "any text is encoded as the plain way does");
   CheckFileName(bytes);
-  return 0;
 }
+
+}  // namespace quillon

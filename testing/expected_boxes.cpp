@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <array>
+#include <cstddef>
 #include <deque>
 #include <gtest/gtest.h>
 #include <optional>
@@ -24,48 +26,14 @@ struct ExpectedBox {
 
 // Tells what is on the screen from the box alone, so that a box which is dressed wrongly cannot pass.
 std::string IconText(QMessageBox::Icon icon) {
-  switch (icon) {
-    case QMessageBox::NoIcon:
-      return "no icon";
-    case QMessageBox::Information:
-      return "information";
-    case QMessageBox::Warning:
-      return "exclamation";
-    case QMessageBox::Question:
-      return "question";
-    case QMessageBox::Critical:
-      return "stop";
-  }
-  return "unknown icon";
+  constexpr std::array kTexts = {"no icon", "information", "exclamation", "stop", "question"};  // in Qt's order
+  return kTexts.at(icon);
 }
 
-std::string IconText(MessageIcon icon) {
-  switch (icon) {
-    case MessageIcon::kInformation:
-      return "information";
-    case MessageIcon::kExclamation:
-      return "exclamation";
-    case MessageIcon::kQuestion:
-      return "question";
-    case MessageIcon::kStop:
-      return "stop";
-  }
-  return "unknown icon";
-}
-
-QMessageBox::StandardButton ButtonOf(MessageAnswer answer) {
-  switch (answer) {
-    case MessageAnswer::kOk:
-      return QMessageBox::Ok;
-    case MessageAnswer::kYes:
-      return QMessageBox::Yes;
-    case MessageAnswer::kNo:
-      return QMessageBox::No;
-    case MessageAnswer::kCancel:
-      return QMessageBox::Cancel;
-  }
-  return QMessageBox::NoButton;
-}
+// In the order of MessageIcon, MessageButtons and MessageAnswer.
+constexpr std::array kIconTexts = {"information", "exclamation", "question", "stop"};
+constexpr std::array kButtonsTexts = {" OK", " Yes No", " Yes No Cancel"};
+constexpr std::array kButtons = {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
 
 std::string ButtonsText(QMessageBox::StandardButtons buttons) {
   std::string text;
@@ -81,21 +49,9 @@ std::string ButtonsText(QMessageBox::StandardButtons buttons) {
   return text;
 }
 
-std::string ButtonsText(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::kOk:
-      return " OK";
-    case MessageButtons::kYesNo:
-      return " Yes No";
-    case MessageButtons::kYesNoCancel:
-      return " Yes No Cancel";
-  }
-  return " unknown buttons";
-}
-
 std::string Describe(const Message& message) {
-  return "message box \"" + message.title + "\" (" + IconText(message.icon) + "," + ButtonsText(message.buttons) +
-         "): " + message.text;
+  return "message box \"" + message.title + "\" (" + kIconTexts.at(static_cast<std::size_t>(message.icon)) + "," +
+         kButtonsTexts.at(static_cast<std::size_t>(message.buttons)) + "): " + message.text;
 }
 
 std::string Describe(const InputQuestion& question) {
@@ -194,7 +150,7 @@ void ExpectBox(const std::string& description, std::function<void(QDialog&)> ans
 
 void ExpectMessageBox(const Message& message, MessageAnswer answer) {
   ExpectBox(Describe(message), [answer](QDialog& dialog) {
-    QAbstractButton* button = dynamic_cast<QMessageBox&>(dialog).button(ButtonOf(answer));
+    QAbstractButton* button = dynamic_cast<QMessageBox&>(dialog).button(kButtons.at(static_cast<std::size_t>(answer)));
     if (button != nullptr) button->click();
   });
 }
