@@ -172,10 +172,8 @@ TEST_F(AnalysisDriver, AFailedCheckLeavesTheWaitCaptionBehind) {
 }
 
 TEST_F(AnalysisDriver, OnlyTheWaitCaptionIsALink) {
-  ClickNoResults(kNoResultsCaption, window_);
-  ClickNoResults("please wait...", window_);
-  ClickNoResults("Please wait", window_);
-  ClickNoResults("", window_);
+  for (const std::string_view caption : {kNoResultsCaption, std::string_view("please wait..."), std::string_view()})
+    ClickNoResults(caption, window_);
   EXPECT_THAT(window_.Log, ElementsAre());
   ClickNoResults("Please wait...", window_);
   EXPECT_THAT(window_.Log, ElementsAre("ShowFrame Progress"));
@@ -237,20 +235,6 @@ TEST_F(AnalysisDriver, AnOuterRunLeavesTheDroppedHandsOfAnInnerOne) {
   EXPECT_EQ(state_.DroppedHands, "KK, QQ");
 }
 
-TEST_F(AnalysisDriver, AnInnerRunThatIsStoppedStopsTheOuterOneToo) {
-  AtYield(2, [this] {
-    window_.OnCall = [this](const std::string& line) {
-      if (line == "Yield") StopAnalysis(state_);
-    };
-    Run(kCallButton);
-    window_.OnCall = nullptr;
-  });
-  Run(kRaiseButton);
-  EXPECT_EQ(window_.Count("RaiseCell"), 2 + 2 + 1);
-  EXPECT_EQ(window_.Count("ShowFrame Preflop Call"), 2);
-  EXPECT_EQ(state_.HandInfo, "");
-}
-
 TEST_F(AnalysisDriver, AClickThatItsCheckRefusesLeavesTheRunItsOwnScenario) {
   const EnteredSituation situation = window_.Entered;
   const EnteredSituation nothing;
@@ -305,14 +289,6 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
     EXPECT_EQ(state_.CallAmount, 50);
   }
   EXPECT_EQ(state_.ShoveAmount, 200);
-}
-
-TEST_F(AnalysisDriver, ARangeFileChangedDuringARunIsNotReadAgain) {
-  window_.Entered.Range = "Pairs";
-  const std::string table = TableOf(kEquityButton, window_.Entered);
-  AtYield(1, [this] { ranges_.Save("Pairs", kEveryHand); });
-  Run(kEquityButton);
-  EXPECT_EQ(state_.HandInfo, table);
 }
 
 // A window in which a range's file goes while the run starts, after the check has read it.

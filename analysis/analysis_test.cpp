@@ -60,14 +60,6 @@ TEST_F(AnalyzeTest, RowsAgainstARangeOfAces) {
   EXPECT_EQ(equity[14], "KK\t0\t0.180539\t1\t");
 }
 
-TEST_F(AnalyzeTest, AnOpponentWhoNeverCallsLeavesThePot) {
-  for (const Situation& situation :
-       {ARaise(kEveryHand, kNoHand), ARaise(kNoHand, kEveryHand), ARaise(kNoHand, kNoHand)}) {
-    for (const std::string& row : Lines(Analyze(situation)->HandInfo, "\r\n"))
-      EXPECT_THAT(row, EndsWith("\t100\t-1\t1\t"));
-  }
-}
-
 TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
   struct Row {
     const char* name;

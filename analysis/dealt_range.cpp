@@ -12,33 +12,21 @@ namespace {
 
 constexpr std::string_view kSeparator = ", ";
 
-template <class... Characters>
-constexpr FixedText<sizeof...(Characters)> TextOf(Characters... characters) {
-  FixedText<sizeof...(Characters)> text;
-  (text.Append(characters), ...);
-  return text;
-}
-
-constexpr FixedText<3> LabelOf(char rank1, char suit1, char rank2, char suit2) {
-  FixedText<3> label;
-  label.Append(rank1);
-  label.Append(rank2);
-  if (rank1 != rank2) label.Append(suit1 == suit2 ? 's' : 'o');
-  return label;
-}
-
 constexpr HandRecord RecordOf(std::string_view card1, std::string_view card2) {
-  HandRecord hand;
-  hand.Card1Rank = card1[0];
-  hand.Card2Rank = card2[0];
-  hand.Card1Suit = card1[1];
-  hand.Card2Suit = card2[1];
-  hand.Card1 = card1;
-  hand.Card2 = card2;
-  hand.Cards = TextOf(card1[0], card1[1], ' ', card2[0], card2[1]);
-  hand.Label = LabelOf(card1[0], card1[1], card2[0], card2[1]);
-  hand.Weight = 1;
-  hand.WeightText = "1";
+  HandRecord hand{.Card1Rank = card1[0],
+                  .Card2Rank = card2[0],
+                  .Card1Suit = card1[1],
+                  .Card2Suit = card2[1],
+                  .Card1 = card1,
+                  .Card2 = card2,
+                  .Cards = card1,
+                  .Label = card1.substr(0, 1),
+                  .Weight = 1,
+                  .WeightText = "1"};
+  for (const char c : {' ', card2[0], card2[1]})
+    hand.Cards.Append(c);
+  hand.Label.Append(card2[0]);
+  if (card1[0] != card2[0]) hand.Label.Append(card1[1] == card2[1] ? 's' : 'o');
   return hand;
 }
 

@@ -43,9 +43,7 @@ std::string EvalTextBox(std::string text, MessageBoxes& messages) {
   std::string value = EvalExpression(text);
   if (IsNumericText(value)) return value;
 
-  messages.Show({.title = "Problem",
-                 .text = "There was a problem processing your expression: \r\n\r\n" + value,
-                 .icon = MessageIcon::kInformation});
+  messages.Show({.title = "Problem", .text = "There was a problem processing your expression: \r\n\r\n" + value});
   return text;
 }
 

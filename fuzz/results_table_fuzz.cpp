@@ -8,6 +8,7 @@
 #include "fuzz/fuzz_target.h"
 #include "support/run_time_error.h"
 #include "testing/oracle/results_tables.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
@@ -33,7 +34,7 @@ void CheckInput(FuzzInput input) {
   const double value = input.TakeDouble();
   const std::string anyLabel(input.TakeText(input.TakeBelow(kLongestLabel + 1)));
   const std::string_view table = input.Rest();
-  const std::string ownLabel = plain::Split(table.substr(table.size() / 2), "\t")[0];
+  const std::string ownLabel = Split(table.substr(table.size() / 2), "\t")[0];
 
   const auto number = static_cast<std::int16_t>(column);
   const auto last = static_cast<std::int16_t>(lastColumn);

@@ -81,12 +81,10 @@ struct ClickCase {
 TEST(ToggleCell, ClickSelectsAnUnselectedCellAndClearsAnyOther) {
   const std::vector<ClickCase> cases = {
       {"a pair is selected in full", "AA", kUnselectedPairColor, kPlainClick, kFullColor},
-      {"a suited class is selected in full", "AKs", kUnselectedSuitedColor, kPlainClick, kFullColor},
       {"an offsuit class is selected in full", "72o", kUnselectedOffsuitColor, kPlainClick, kFullColor},
       {"so is a suited class", "A5s", kUnselectedSuitedColor, kHalfClick, kHalfColor},
       {"full is cleared", "AA", kFullColor, kPlainClick, kUnselectedPairColor},
       {"half is cleared and does not turn to full", "AKo", kHalfColor, kPlainClick, kUnselectedOffsuitColor},
-      {"half is cleared with the box checked", "AKo", kHalfColor, kHalfClick, kUnselectedOffsuitColor},
       {"nor is a colour one step away", "AA", {192, 255, 193}, kPlainClick, kUnselectedPairColor},
   };
   for (const ClickCase& c : cases) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 #include <utility>
 
 #include "support/folders.h"
@@ -34,18 +35,13 @@ std::u32string SortingKey(std::string_view fileName) {
 }  // namespace
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
-  using Sortable = std::pair<std::u32string, std::string>;  // the key, the name
-  std::vector<Sortable> entries;
-  for (std::string& name : FileNamesIn(RangeFolderPath(folder))) {
-    std::u32string key = SortingKey(name);
-    entries.emplace_back(std::move(key), std::move(name));
-  }
-
-  std::sort(entries.begin(), entries.end());
+  std::set<std::pair<std::u32string, std::string>> entries;  // the key, the name
+  for (const std::string& name : FileNamesIn(RangeFolderPath(folder)))
+    entries.emplace(SortingKey(name), name);
   std::vector<std::string> names;
   names.reserve(entries.size());
-  for (Sortable& entry : entries)
-    names.push_back(std::move(entry.second));
+  for (const auto& [key, name] : entries)
+    names.push_back(name);
   return names;
 }
 

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <initializer_list>
 #include <optional>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -47,19 +49,10 @@ std::string Named(std::string_view text) {
 
 // How many characters at the front of a text are a number: digits, a fraction, an exponent.
 std::size_t NumberLength(std::string_view text) {
-  const auto skipDigits = [text](std::size_t place) {
-    while (place < text.size() && IsDigit(text[place]))
-      ++place;
-    return place;
-  };
-  std::size_t end = skipDigits(0);
-  if (text.substr(end).starts_with('.')) end = skipDigits(end + 1);
-  if (!std::any_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end), IsDigit)) return 0;
-  if (end == text.size() || AsciiLower(text[end]) != 'e') return end;
-  std::size_t digits = end + 1;
-  if (digits < text.size() && (text[digits] == '+' || text[digits] == '-')) ++digits;
-  const std::size_t exponentEnd = skipDigits(digits);
-  return exponentEnd > digits ? exponentEnd : end;
+  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) return 0;  // the library takes a sign, and "inf"
+  double number = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return fault == std::errc::invalid_argument ? 0 : static_cast<std::size_t>(end - text.data());
 }
 
 enum class Suits { kPair, kBoth, kSuited, kOffsuit };

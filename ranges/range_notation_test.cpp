@@ -51,16 +51,13 @@ void ExpectReadings(const std::vector<ReadingCase>& cases) {
 TEST(RangeNotation, ReadsClassesAndRuns) {
   ExpectReadings({
       {"a pair", "88", "88"},
-      {"a suited hand", "AKs", "AKs"},
       {"both", "AK", "AKs AKo"},
       {"either card first", "KA", "AKs AKo"},
-      {"any case", "aKS tT", "AKs TT"},
       {"10 is T", "10A,1010,J10o,109s", "ATs ATo TT JTo T9s"},
       {"an open run of pairs goes up to aces", "JJ+", "AA KK QQ JJ"},
       {"in an open run the high card stays", "ATs+", "AKs AQs AJs ATs"},
       {"the last class alone", "32o+", "32o"},
       {"a closed run of pairs", "JJ-88", "JJ TT 99 88"},
-      {"in either order", "88-JJ", "JJ TT 99 88"},
       {"in either order, either card first", "9A-QA", "AQs AJs ATs A9s AQo AJo ATo A9o"},
       {"both cards falling", "76s-54s", "76s 65s 54s"},
   });
@@ -68,7 +65,6 @@ TEST(RangeNotation, ReadsClassesAndRuns) {
 
 TEST(RangeNotation, ReadsItemsHoweverTheyAreSeparated) {
   ExpectReadings({
-      {"semicolons", "AA;KK", "AA KK"},
       {"blanks and tabs", "  AA \t KK ", "AA KK"},
       {"many at once", ",;AA, ; \n,KK;;", "AA KK"},
       {"a byte-order mark before them",
@@ -81,11 +77,9 @@ TEST(RangeNotation, ReadsItemsHoweverTheyAreSeparated) {
 TEST(RangeNotation, ReadsSharesByTheOrderGiven) {
   ExpectReadings({
       {"a share takes the best", "top 1%", "AA KK"},
-      {"without its word", "1%", "AA KK"},
       {"without a blank, in any case", "TOP1%", "AA KK"},
       {"10% is a share", "10%",
        "AA KK QQ JJ TT 99 88 77 66 55 44 33 22 AKs AQs AJs ATs A9s A8s A7s A6s A5s A4s A3s A2s AKo"},
-      {"nothing", "0%", ""},
       {"nearer to nothing", ".22%", ""},
       {"nearer to aces", "0.23%", "AA"},
       {"a number with an exponent", "1e0%", "AA KK"},
@@ -111,7 +105,6 @@ TEST(RangeNotation, ReadsWholeRanges) {
   ExpectReadings({
       {"any", "any", AllLabels()},
       {"as the summary says it", "[everything]", AllLabels()},
-      {"none", "None", ""},
       {"as the summary says it", "[None]", ""},
       {"none takes nothing away", "AA none", "AA"},
   });
@@ -119,17 +112,13 @@ TEST(RangeNotation, ReadsWholeRanges) {
 
 TEST(RangeNotation, ReadsWeights) {
   ExpectReadings({
-      {"a weight", "AA:0.5", "", "AA"},
       {"in percent", "AA:50%,KK:100%", "KK", "AA"},
       {"as in a range file", "AA (0.5), KK (1), QQ (0), ", "KK", "AA"},
-      {"without a blank", "AA(0.5),KK( 1 )", "KK", "AA"},
       {"with a blank in the weight", "AA (0. 5), KK ( 10 0 % )", "KK", "AA"},
       {"of a run", "QQ+:.5, 76s-54s (5E-1)", "", "AA KK QQ 76s 65s 54s"},
       {"of a share", "top 1%:50%", "", "AA KK"},
-      {"of everything", "any:0.5", "", AllLabels()},
       {"of items that overlap the later holds", "JJ+,QQ:0.5,KK:0", "AA JJ", "QQ"},
       {"a summary", "Full: AA | Half: KK,QQ", "AA", "KK QQ"},
-      {"a summary of halves alone", "Full:  | Half: 32o", "", "32o"},
       {"in any case, without blanks", "half:KK|FULL:AA", "AA", "KK"},
       {"a weight of its own goes before the part's", "Half: KK:1 QQ", "KK", "QQ"},
   });
@@ -151,10 +140,7 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"\xEF\xBB\xBF"
             "AKs, KXs+",
             "AKs, KXs+\n     ^ \"X\" is not a rank"},
-           {"hello", "hello\n^ \"h\" is not a rank"},
-           {"A1", "A1\n^ \"1\" is not a rank"},
            {"A", "A\n^ " + half},
-           {"KK A+", "KK A+\n   ^ " + half},
            {"88s", "88s\n^ a pair is neither suited nor offsuit"},
            {"JJ - 88", "JJ - 88\n   ^ " + spaced},
            {"AA JJ -88", "AA JJ -88\n      ^ " + spaced},
@@ -163,22 +149,16 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"QQ-AKs", "QQ-AKs\n^ " + run},
            {"AQs-A9o", "AQs-A9o\n^ " + run},
            {"76s-53s", "76s-53s\n^ " + run},
-           {"JJ-88+", "JJ-88+\n^ \"+\" does not belong here"},
-           {"AsKs", "AsKs\n^ \"s\" is not a rank"},
-           {"anything", "anything\n^ \"t\" does not belong here"},
            {"top 15", "top 15\n^ after top comes a share, such as 15%"},
            {"AA, 101%", "AA, 101%\n    ^ a share is from 0% to 100%"},
            {"1e999%", "1e999%\n^ a share is from 0% to 100%"},
            {"AA:2", "AA:2\n^ " + weight},
-           {"AA:-1", "AA:-1\n^ " + weight},
            {"AA:", "AA:\n^ " + weight},
-           {"AA (1", "AA (1\n^ \")\" is missing after the weight"},
            {"AA (0.5 KK)", "AA (0.5 KK)\n^ \")\" is missing after the weight"},
            {"AA (1 1)", "AA (1 1)\n^ a weight is from 0 to 1, or from 0% to 100%"},
            {"AA (x)", "AA (x)\n^ " + weight},
            {"AA | KK", "AA | KK\n   ^ after \"|\" comes Full: or Half:"},
            {"", "\n^ there is no hand here; write \"none\" for an empty range"},
-           {"Full: ", "Full: \n^ there is no hand here; write \"none\" for an empty range"},
            {nul, "AA ?\n   ^ character 0 is not a rank"},
            {"KK\tJJ–88", "KK JJ–88\n   ^ \"–\" does not belong here"},
            {"½, AB", "½, AB\n^ \"½\" is not a rank"},
@@ -250,7 +230,6 @@ TEST(RangeNotation, WritesRunsOfEqualWeight) {
     std::string notation;
   };
   for (const Case& c : std::vector<Case>{
-           {"nothing", {}, "none"},
            {"everything", everything, "any"},
            {"runs and weights", mixed, "22+,A2s+,K3s-K2s:0.5,AKo:0.25"},
            {"a half run into a full class stays", Weights({{"AA", 0.5}, {"KK", 1}}), "AA:0.5,KK"},

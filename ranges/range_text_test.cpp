@@ -24,9 +24,7 @@ TEST(RangeWeightOf, ReadsTheNumberBehindTheFirstOccurrence) {
       {"the first of two entries wins", "AA (0.5), KK (1), AA (1), ", "AA", 0.5},
       {"no number reads as nothing", "AA (x), ", "AA", 0},
       {"any two characters may come before the number", "AA=:1)", "AA", 1},
-      {"one of them may be no ASCII", "AA½(1)", "AA", 1},
       {"without the blank the number loses its first digit", "AA(0.5), ", "AA", 0.5},
-      {"without the blank a number of one digit is lost", "AA(1), ", "AA", 0},
       {"a label inside a remark counts as the first occurrence", "AKs? (0) AKs (1), ", "AKs", 0},
       {"a label inside a weight counts as the first occurrence", "AA (22.003), 22 (1), ", "22", 3},
   };
@@ -54,11 +52,9 @@ TEST(RangeWeightOf, WithoutABracketInReachIsFatal) {
   const std::vector<Case> cases = {
       {"the empty text", "", "AA"},
       {"a missing class in a text without any bracket", "AA 1, KK 1", "72o"},
-      {"brackets only before the label", "KK (1), AA (1", "AA"},
       {"a label inside a weight and its bracket too near", "AA (0.22), 22 (1), ", "22"},
       {"a bracket one character after the label", "AA ) 1)", "AA"},
       {"a bracket in what is looked for", "A) (1), ", "A)"},
-      {"a missing class and a bracket at the start", ")AA (1), ", "72o"},
       {"a missing class and a bracket one too early in characters", "éé )", "72o"},
   };
   for (const Case& c : cases) {
@@ -102,10 +98,8 @@ TEST(SearchableRangeText, BreaksLabelsThatAWeightWouldHide) {
            Case{"usual weights are as they are", 0.5, 1, "AA (0.5), AKs (0.5), ", "22 (1), "},
            Case{"a doubled digit is a pair yet to come", 0.99, 1, "AA (0.9 9), AKs (0.9 9), ", "22 (1), "},
            Case{"each of several", 0.2222, 1, "AA (0.2 2 2 2), ", "22 (1), "},
-           Case{"in an exponent, too", 1e-22, 1, "AA (1E-2 2), ", "22 (1), "},
            Case{"noughts and ones are none", 0.1001, 1, "AA (0.1001), ", "22 (1), "},
            Case{"the pair's own entry has come", 1, 0.22, "AA (1), ", "22 (0.22), "},
-           Case{"as has that of one before", 1, 0.99, "AA (1), ", "22 (0.99), "},
        }) {
     ClassWeights weights{};
     weights.fill(c.others);
@@ -139,7 +133,6 @@ struct ComboCase {
 TEST(SelectedCombos, CountsConcreteHandsAsTheGridShowsThem) {
   const std::vector<ComboCase> cases = {
       {"nothing", TextWith(""), 0, "0% selected"},
-      {"one offsuit class", TextWith("AKo"), 12, "0.9% selected"},
       {"a mixture", TextWith("AA KK AKs", "AKo 72o"), 28, "2.1% selected"},
       {"all at full", EveryHandAt(1), 1326, "100% selected"},
       {"all at half", EveryHandAt(0.5), 663, "50% selected"},

@@ -54,11 +54,7 @@ std::vector<std::string> NoteLines(std::string_view note) {
   return lines;
 }
 
-int NoteHeight(const PictureGrid& grid) {
-  return static_cast<int>(NoteLines(grid.Note).size()) * kNoteLineHeight;
-}
-
-std::string GridMarkup(const PictureGrid& grid, int left, int top) {
+std::string GridMarkup(const PictureGrid& grid, const std::vector<std::string>& note, int left, int top) {
   std::string markup;
   for (std::size_t i = 0; i < grid.Cells.size(); ++i) {
     const int column = static_cast<int>(i) % kRankCount;
@@ -67,7 +63,7 @@ std::string GridMarkup(const PictureGrid& grid, int left, int top) {
                          top + row * (kCellHeight + kGap));
   }
   int below = top + kGridHeight;
-  for (const std::string& line : NoteLines(grid.Note))
+  for (const std::string& line : note)
     markup += TextAt(left, below += kNoteLineHeight, R"( class="s" text-anchor="start")", line);
   return markup;
 }
@@ -79,10 +75,11 @@ std::string GridPicture(std::string_view title, std::span<const PictureGrid> gri
   const int top = kMargin + (captions ? kCaptionHeight : 0);
   const int count = static_cast<int>(grids.size());
   const std::string width = Number(2 * kMargin + count * kGridWidth + (count - 1) * kGridGap);
-  int noteHeight = 0;
+  std::vector<std::vector<std::string>> notes;
+  std::size_t noteLines = 0;
   for (const PictureGrid& grid : grids)
-    noteHeight = std::max(noteHeight, NoteHeight(grid));
-  const std::string height = Number(top + kGridHeight + noteHeight + kMargin);
+    noteLines = std::max(noteLines, notes.emplace_back(NoteLines(grid.Note)).size());
+  const std::string height = Number(top + kGridHeight + static_cast<int>(noteLines) * kNoteLineHeight + kMargin);
   std::string markup = Joined(
       {R"(<svg xmlns="http://www.w3.org/2000/svg" width=")", width, "\" height=\"", height, "\" viewBox=\"0 0 ", width,
        " ", height, R"(" role="img" font-family="Arial, Helvetica, sans-serif" font-size="15" font-weight="bold" )",
@@ -90,10 +87,10 @@ std::string GridPicture(std::string_view title, std::span<const PictureGrid> gri
        "<style>.s{font-size:11px;font-weight:normal}.c{stroke:#000;stroke-opacity:.1}</style>\n", "<rect width=\"",
        width, "\" height=\"", height, "\" fill=\"#fff\"/>\n"});
   int left = kMargin;
-  for (const PictureGrid& grid : grids) {
+  for (std::size_t i = 0; i < grids.size(); ++i) {
     if (captions)
-      markup += TextAt(left + kGridWidth / 2, kMargin + 14, R"( fill="#336699" font-size="17")", grid.Caption);
-    markup += GridMarkup(grid, left, top);
+      markup += TextAt(left + kGridWidth / 2, kMargin + 14, R"( fill="#336699" font-size="17")", grids[i].Caption);
+    markup += GridMarkup(grids[i], notes[i], left, top);
     left += kGridWidth + kGridGap;
   }
   return markup + "</svg>\n";

@@ -5,7 +5,6 @@
 // Grids" of the program's folder unless he chooses another.
 
 #include <cstdint>
-#include <ostream>
 #include <string_view>
 
 #include "support/message_boxes.h"
@@ -21,9 +20,6 @@ struct CaptureRect {
   std::int32_t Bottom = 0;
 
   bool operator==(const CaptureRect&) const = default;
-  friend std::ostream& operator<<(std::ostream& stream, const CaptureRect& rect) {
-    return stream << rect.Left << "," << rect.Top << " to " << rect.Right << "," << rect.Bottom;
-  }
 };
 
 /// A rectangle by its corner and size, in pixels.
@@ -34,9 +30,6 @@ struct PixelRect {
   std::int32_t Height = 0;
 
   bool operator==(const PixelRect&) const = default;
-  friend std::ostream& operator<<(std::ostream& stream, const PixelRect& rect) {
-    return stream << rect.Left << "," << rect.Top << " " << rect.Width << " by " << rect.Height;
-  }
 };
 
 /// The edges of a control, each rounded to a whole twip, ties to even.

@@ -46,16 +46,6 @@ TEST_F(ReplacingAFile, LinkIsFollowed) {
   EXPECT_THAT(Listing(elsewhere), testing::ElementsAre("kept.txt"));
 }
 
-TEST_F(ReplacingAFile, LinkedFileIsTriedBesideItself) {
-  const fs::path elsewhere = Folder().parent_path() / "elsewhere";
-  fs::create_directory(elsewhere);
-  fs::create_symlink(elsewhere / "kept.txt", File());
-  WatchedCalls calls;
-  EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
-  EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path(), elsewhere);
-  EXPECT_EQ(BytesOf(elsewhere / "kept.txt"), kNew);
-}
-
 TEST_F(ReplacingAFile, CircleOfLinksAndPipeFailAndStay) {
   fs::create_symlink("circle", Folder() / "circle");
   ASSERT_EQ(::mkfifo((Folder() / "pipe").c_str(), 0600), 0);

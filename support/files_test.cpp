@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/run_time_error.h"
@@ -175,19 +176,14 @@ TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
 }
 
 TEST_F(ReplacingAFile, WhatIsNoFileOrHasNoPlaceFailsAndStays) {
-  struct Case {
-    const char* rule;
-    fs::path path;
-    RunTimeFault fault;
-  };
-  for (const Case& c : std::vector<Case>{
-           {"a folder", Folder(), RunTimeFault::kPathFileAccess},
-           {"a file in a missing folder", Folder() / "missing" / "Button.txt", RunTimeFault::kPathNotFound},
-           {"a name too long", Folder() / std::string(5000, 'x'), RunTimeFault::kBadFileName}}) {
-    const auto error = FailureOfReplacing(c.path, ScratchFolder(), SystemFileCalls());
-    ASSERT_TRUE(error) << c.rule;
-    EXPECT_EQ(error->Fault(), c.fault) << c.rule;
-    EXPECT_THAT(error->what(), testing::HasSubstr(c.path.filename().string())) << c.rule;
+  for (const auto& [path, fault] : std::vector<std::pair<fs::path, RunTimeFault>>{
+           {Folder(), RunTimeFault::kPathFileAccess},
+           {Folder() / "missing" / "Button.txt", RunTimeFault::kPathNotFound},
+           {Folder() / std::string(5000, 'x'), RunTimeFault::kBadFileName}}) {
+    const auto error = FailureOfReplacing(path, ScratchFolder(), SystemFileCalls());
+    ASSERT_TRUE(error) << path;
+    EXPECT_EQ(error->Fault(), fault) << path;
+    EXPECT_THAT(error->what(), testing::HasSubstr(path.filename().string()));
     ExpectNoScratchFiles();
   }
 }
@@ -310,21 +306,17 @@ TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
 TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
   WatchedCalls calls;
   ReplaceFile(File(), kNew, ScratchFolder(), calls);
-  const std::string used = fs::path(calls.ScratchFiles().at(0)).filename().string();
+  const std::string used = calls.ScratchFiles().at(0);
   const std::size_t numberStart = used.rfind('-') + 1;
   const unsigned long next = std::stoul(used.substr(numberStart)) + 1;
-  std::vector<std::string> left;
-  for (unsigned long number = next; number < next + 3; ++number) {
-    left.push_back(used.substr(0, numberStart) + std::to_string(number) + ".tmp");
-    Put(ScratchFolder() / left.back(), "left");
-  }
+  const std::string left = used.substr(0, numberStart) + std::to_string(next) + ".tmp";
+  Put(left, "left");
 
   WatchedCalls later;
   ReplaceFile(File(), kOld, ScratchFolder(), later);
   EXPECT_EQ(BytesOf(File()), kOld);
   EXPECT_EQ(fs::path(later.ScratchFiles().back()).parent_path(), ScratchFolder());
-  for (const std::string& name : left)
-    EXPECT_EQ(BytesOf(ScratchFolder() / name), "left");
+  EXPECT_EQ(BytesOf(left), "left");
 }
 
 TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {

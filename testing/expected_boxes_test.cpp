@@ -37,16 +37,6 @@ TEST(ExpectedBoxes, AnswerWithTheButtonAskedForInTheirOrder) {
   EXPECT_EQ(Show(kQuestion), MessageAnswer::kYes);
 }
 
-TEST(ExpectedBoxes, AnswerABoxThatOpensWhileAnotherOneIsAnswered) {
-  QMessageBox outer;
-  FillMessageBox(outer, kNote);
-  QObject::connect(&outer, &QMessageBox::buttonClicked, &outer, [] { Show(kQuestion); });
-  ExpectMessageBox(kNote);
-  ExpectMessageBox(kQuestion, MessageAnswer::kCancel);
-
-  outer.exec();
-}
-
 TEST(ExpectedBoxes, FailTheTestAtABoxThatNobodyExpected) {
   EXPECT_NONFATAL_FAILURE(Show(kQuestion),
                           "Nobody expected this box: message box \"Delete?\" (question, Yes No Cancel)");
@@ -80,11 +70,6 @@ TEST(ExpectedBoxes, FailTheTestWhereTheBoxDiffersInAnything) {
     ExpectMessageBox(kQuestion);
     EXPECT_NONFATAL_FAILURE(Show(*shown), "Not the box that was expected.");
   }
-}
-
-TEST(ExpectedBoxes, FailTheTestAtAMessageBoxInTheInputBoxsPlace) {
-  ExpectInputBox({"Name?", "New", ""}, "Button");
-  EXPECT_NONFATAL_FAILURE(Show(kNote), "input box \"New\": Name? []");
 }
 
 TEST(ExpectedBoxes, FailTheTestWhereTheButtonIsNotThere) {

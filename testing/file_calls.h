@@ -22,7 +22,7 @@ enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFo
 /// A call as it was made. `Path` is empty for calls on an open file.
 struct MadeCall {
   quillon::Call Call;
-  std::string Path;
+  std::string Path = {};
   std::optional<OpenFor> Purpose = {};  // of kOpen
 };
 
@@ -37,50 +37,39 @@ class WatchedCalls : public FileCalls {
       : fault_(std::move(fault)), largestPiece_(largestPiece) {}
 
   int Open(const std::string& path, OpenFor purpose, FileMode mode) override {
-    const auto error = Record({Call::kOpen, path, purpose});
-    return error ? *error : system_.Open(path, purpose, mode);
+    return Do({Call::kOpen, path, purpose}, [&] { return system_.Open(path, purpose, mode); });
   }
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {
-    const auto error = Record({Call::kRead, {}});
-    return error ? *error : system_.Read(file, buffer.first(std::min(buffer.size(), largestPiece_)));
+    return Do({Call::kRead}, [&] { return system_.Read(file, buffer.first(std::min(buffer.size(), largestPiece_))); });
   }
   std::ptrdiff_t Write(int file, std::string_view bytes) override {
-    const auto error = Record({Call::kWrite, {}});
-    return error ? *error : system_.Write(file, bytes.substr(0, largestPiece_));
+    return Do({Call::kWrite}, [&] { return system_.Write(file, bytes.substr(0, largestPiece_)); });
   }
   int Sync(int file) override {
-    const auto error = Record({Call::kSync, {}});
-    return error ? *error : system_.Sync(file);
+    return Do({Call::kSync}, [&] { return system_.Sync(file); });
   }
   /// As with the system's own, the file is closed even if this fails.
   int Close(int file) override {
-    const auto error = Record({Call::kClose, {}});
     const int closed = system_.Close(file);
-    return error ? *error : closed;
+    return Do({Call::kClose}, [&] { return closed; });
   }
   int Rename(const std::string& from, const std::string& to) override {
-    const auto error = Record({Call::kRename, from});
-    return error ? *error : system_.Rename(from, to);
+    return Do({Call::kRename, from}, [&] { return system_.Rename(from, to); });
   }
   int Unlink(const std::string& path) override {
-    const auto error = Record({Call::kUnlink, path});
-    return error ? *error : system_.Unlink(path);
+    return Do({Call::kUnlink, path}, [&] { return system_.Unlink(path); });
   }
   int MakeFolder(const std::string& path) override {
-    const auto error = Record({Call::kMakeFolder, path});
-    return error ? *error : system_.MakeFolder(path);
+    return Do({Call::kMakeFolder, path}, [&] { return system_.MakeFolder(path); });
   }
   int Mode(int file) override {
-    const auto error = Record({Call::kMode, {}});
-    return error ? *error : system_.Mode(file);
+    return Do({Call::kMode}, [&] { return system_.Mode(file); });
   }
   int SetMode(int file, FileMode mode) override {
-    const auto error = Record({Call::kSetMode, {}});
-    return error ? *error : system_.SetMode(file, mode);
+    return Do({Call::kSetMode}, [&] { return system_.SetMode(file, mode); });
   }
   int TryLock(int file) override {
-    const auto error = Record({Call::kTryLock, {}});
-    return error ? *error : system_.TryLock(file);
+    return Do({Call::kTryLock}, [&] { return system_.TryLock(file); });
   }
 
   [[nodiscard]] const std::vector<MadeCall>& Made() const { return made_; }
@@ -96,9 +85,12 @@ class WatchedCalls : public FileCalls {
   }
 
  private:
-  std::optional<int> Record(MadeCall call) {
+  // What the system says, or the fault in its place.
+  template <typename Pass>
+  auto Do(MadeCall call, Pass pass) -> decltype(pass()) {
     made_.push_back(std::move(call));
-    return fault_ ? fault_(made_.back(), static_cast<int>(made_.size())) : std::nullopt;
+    const auto error = fault_ ? fault_(made_.back(), static_cast<int>(made_.size())) : std::nullopt;
+    return error ? *error : pass();
   }
 
   Fault fault_;

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QTimer>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -18,16 +19,17 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "hand/hand_classes.h"
 #include "shell/screens/main_form.h"
 #include "shell/user_guide.h"
+#include "shell/web_client.h"
 #include "testing/bring_to_front.h"
 #include "testing/dialog_stage.h"
 #include "testing/expected_boxes.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
-#include "testing/recorded_web.h"
 #include "testing/temporary_program.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/text.h"
@@ -42,6 +44,27 @@ inline constexpr std::int16_t kProgressScreenIndex = 3;
 inline constexpr std::int16_t kRaiseScreen = 4;
 inline constexpr std::int16_t kAboutScreenIndex = 5;
 inline constexpr std::int16_t kEquityScreen = 6;
+
+/// A web client that returns a given answer, or asks another client, and records each address.
+class RecordedWeb : public WebClient {
+ public:
+  explicit RecordedWeb(std::deque<std::string> replies = {}) : Replies(std::move(replies)) {}
+
+  std::string Get(std::string_view address) override {
+    Asked.emplace_back(address);
+    if (WhileAsked) WhileAsked();
+    if (Behind != nullptr) return Behind->Get(address);
+    if (Replies.empty()) return {};
+    std::string reply = Replies.front();
+    Replies.pop_front();
+    return reply;
+  }
+
+  std::vector<std::string> Asked;
+  std::deque<std::string> Replies;  // to the requests to come, the first first; they fail once these are used up
+  WebClient* Behind = nullptr;  // answers in place of the replies, where there is one
+  std::function<void()> WhileAsked;  // looks at things while a request is on its way
+};
 
 /// The ranges are "Everything", with each hand in full, "Nothing", with none, "Pairs", with AA and KK in full and QQ at
 /// half, and "Tight", with AA, KK, AKs and AKo. The window is not started yet, so that a test can change the folder

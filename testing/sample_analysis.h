@@ -2,33 +2,15 @@
 
 // A made-up analysis for tests: range texts and results tables of a few hands, written without the routines under test.
 
-#include <array>
-#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
 
 #include "analysis/analysis.h"
+#include "hand/hand_classes.h"
 
 namespace quillon::sample {
-
-// clang-format off
-inline constexpr std::array<std::string_view, 169> kAllHands = {
-    "AA", "AKs", "AQs", "AJs", "ATs", "A9s", "A8s", "A7s", "A6s", "A5s", "A4s", "A3s", "A2s",
-    "AKo", "KK", "KQs", "KJs", "KTs", "K9s", "K8s", "K7s", "K6s", "K5s", "K4s", "K3s", "K2s",
-    "AQo", "KQo", "QQ", "QJs", "QTs", "Q9s", "Q8s", "Q7s", "Q6s", "Q5s", "Q4s", "Q3s", "Q2s",
-    "AJo", "KJo", "QJo", "JJ", "JTs", "J9s", "J8s", "J7s", "J6s", "J5s", "J4s", "J3s", "J2s",
-    "ATo", "KTo", "QTo", "JTo", "TT", "T9s", "T8s", "T7s", "T6s", "T5s", "T4s", "T3s", "T2s",
-    "A9o", "K9o", "Q9o", "J9o", "T9o", "99", "98s", "97s", "96s", "95s", "94s", "93s", "92s",
-    "A8o", "K8o", "Q8o", "J8o", "T8o", "98o", "88", "87s", "86s", "85s", "84s", "83s", "82s",
-    "A7o", "K7o", "Q7o", "J7o", "T7o", "97o", "87o", "77", "76s", "75s", "74s", "73s", "72s",
-    "A6o", "K6o", "Q6o", "J6o", "T6o", "96o", "86o", "76o", "66", "65s", "64s", "63s", "62s",
-    "A5o", "K5o", "Q5o", "J5o", "T5o", "95o", "85o", "75o", "65o", "55", "54s", "53s", "52s",
-    "A4o", "K4o", "Q4o", "J4o", "T4o", "94o", "84o", "74o", "64o", "54o", "44", "43s", "42s",
-    "A3o", "K3o", "Q3o", "J3o", "T3o", "93o", "83o", "73o", "63o", "53o", "43o", "33", "32s",
-    "A2o", "K2o", "Q2o", "J2o", "T2o", "92o", "82o", "72o", "62o", "52o", "42o", "32o", "22",
-};
-// clang-format on
 
 using TextsByHand = std::map<std::string_view, std::string_view>;
 
@@ -41,16 +23,16 @@ inline std::string TextFor(const TextsByHand& texts, std::string_view hand, std:
 /// A range text with the given weights, 0 for every other hand.
 inline std::string RangeText(const TextsByHand& weights) {
   std::string text;
-  for (const std::string_view hand : kAllHands)
-    text += std::string(hand) + " (" + TextFor(weights, hand, "0") + "), ";
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    text += std::string(HandLabel(index)) + " (" + TextFor(weights, HandLabel(index), "0") + "), ";
   return text;
 }
 
 /// A results table with the given cells, each "value, tab, equity, tab, fold share", `otherwise` for every other hand.
 inline std::string ResultsTable(const TextsByHand& cells, std::string_view otherwise = "0\t0\t1") {
   std::string table;
-  for (const std::string_view hand : kAllHands)
-    table += std::string(hand) + "\t" + TextFor(cells, hand, otherwise) + "\t\r\n";
+  for (std::int16_t index = 0; index < kHandClassCount; ++index)
+    table += std::string(HandLabel(index)) + "\t" + TextFor(cells, HandLabel(index), otherwise) + "\t\r\n";
   return table;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "testing/oracle/numbers.h"
+#include "testing/split_text.h"
 
 namespace quillon::plain {
 namespace {
@@ -20,16 +21,6 @@ std::string Joined(const std::vector<std::string>& cells) {
 }
 
 }  // namespace
-
-std::vector<std::string> Split(std::string_view text, std::string_view mark) {
-  std::vector<std::string> pieces;
-  for (std::size_t end = text.find(mark); end != std::string_view::npos; end = text.find(mark)) {
-    pieces.emplace_back(text.substr(0, end));
-    text.remove_prefix(end + mark.size());
-  }
-  pieces.emplace_back(text);
-  return pieces;
-}
 
 ResultsTable::ResultsTable(std::string_view text) {
   for (const std::string& row : Split(text, "\r\n"))

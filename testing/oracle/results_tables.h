@@ -10,9 +10,6 @@
 
 namespace quillon::plain {
 
-/// The pieces of a text between its marks; one more than there are marks.
-[[nodiscard]] std::vector<std::string> Split(std::string_view text, std::string_view mark);
-
 /// A results table taken apart.
 class ResultsTable {
  public:
