@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "hand/equity_table.h"
-#include "ranges/range_text.h"
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
 #include "testing/split_text.h"
@@ -111,45 +110,6 @@ TEST_F(AnalyzeTest, AListenerStopsAfterAnyClass) {
     EXPECT_FALSE(analysis) << last;
     EXPECT_EQ(done, last);
     EXPECT_EQ(dropped, last == 168 ? "KK, QQ" : "") << "they come with the last class";
-  }
-}
-
-TEST_F(AnalyzeTest, AmountsAreThoseOfTheMoment) {
-  const Amounts later = {120, 40, 300};
-  for (const Situation& before : {ACall(kPairs), ARaise(kEveryHand, kPairs)}) {
-    Situation after = before;
-    after.PotSize = later.Pot;
-    after.CallAmount = later.Call;
-    after.ShoveAmount = later.Shove;
-    Amounts now = {before.PotSize, before.CallAmount, before.ShoveAmount};
-    const auto mixed = Analyze(before, {.AmountsNow = [&] { return now; },
-                                        .GoesOn =
-                                            [&](std::int16_t index, const Analysis& /*soFar*/) {
-                                              if (index == 49) now = later;
-                                              return true;
-                                            }});
-    const auto rows = Lines(mixed->HandInfo, "\r\n");
-    const auto rowsBefore = Lines(Analyze(before)->HandInfo, "\r\n");
-    const auto rowsAfter = Lines(Analyze(after)->HandInfo, "\r\n");
-    for (std::size_t index = 0; index < rows.size(); ++index)
-      EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
-    EXPECT_EQ(mixed->PotSize, 100);
-  }
-}
-
-// Weights that a grid cannot show, below 0 and above 1 among them, and callers that hold what the range lacks.
-TEST_F(AnalyzeTest, NumbersReadBeforeGiveTheSameAnalysis) {
-  const HandNumbers hands;
-  const std::string odd = RangeWith({{"AA", 2}, {"KK", -0.5}, {"AKo", 0.1}, {"72o", 0.7}, {"T9s", 0.3}}, 0.45);
-  const std::string other = RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 0.6}, {"AKo", -1}, {"T9s", 0.2}}, 0.1);
-  const std::string dropping = RangeWith({{"AA", 1}, {"A2s", 1}, {"KQo", 1}, {"22", 1}}, 0.5);
-  for (const Situation& situation :
-       {ACall(odd), AnEquity(other), ARaise(odd, other), ARaise(other, odd), ARaise(kNoHand, dropping),
-        ARaise(EveryHandAt(0.5), dropping), ARaise(kEveryHand, kNoHand)}) {
-    const std::string& calling = situation.CallingRangeText;
-    const RangeNumbers numbers(hands, RangeWeightsOf(situation.RangeText),
-                               calling.empty() ? ClassWeights{} : RangeWeightsOf(calling));
-    EXPECT_EQ(Analyze(situation, numbers), Analyze(situation));
   }
 }
 

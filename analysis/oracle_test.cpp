@@ -24,8 +24,9 @@ namespace quillon {
 namespace {
 
 constexpr std::array kWeights = {0.0, 0.5, 1.0};
-// "0.3333" and "0.999999" spell the pairs 33 and 99, which are then found there.
-constexpr std::array kOddWeights = {0.0, 0.5, 1.0, 0.25, 0.3333, 0.1, 0.999999, 2.0};
+// "0.3333" and "0.999999" spell the pairs 33 and 99, which are then found there. No grid shows what is below 0 or above
+// 1.
+constexpr std::array kOddWeights = {0.0, 0.5, 1.0, 0.25, 0.3333, 0.1, 0.999999, 2.0, -0.5};
 
 // Ranges that are always the same for the same seed.
 class RangeMaker {
@@ -115,7 +116,7 @@ TEST_F(Oracle, DealsAroundAnyText) {
   RangeMaker maker(2);
   const std::string text = maker.Saved();
   for (const std::string_view dead :
-       {"Xx", "Ah", "2c", "A", "s", " ", "", "As Kh", "s K", "h ", " 9", "Kh As", "As Kh "}) {
+       {"Xx", "Ah", "2c", "A", "s", " ", "", "As Kh", "s K", "h ", " 9", "Kh As", "As Kh ", "Ahx"}) {
     ExpectSameDeal(text, dead, "Yy");
     ExpectSameDeal(text, "Yy", dead);
     ExpectSameDeal(text, dead, "Tc");
