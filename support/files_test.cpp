@@ -129,17 +129,6 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
                                    Call::kOpen, Call::kSync, Call::kClose));
 }
 
-TEST_F(ReplacingAFile, ScratchFileIsANewOneInItsFolder) {
-  WatchedCalls calls;
-  ReplaceFile(File(), kNew, ScratchFolder(), calls);
-  ReplaceFile(File(), kNew, ScratchFolder(), calls);
-  const std::vector<std::string> scratch = calls.ScratchFiles();
-  ASSERT_EQ(scratch.size(), 2U);
-  EXPECT_NE(scratch[0], scratch[1]);
-  for (const std::string& path : scratch)
-    EXPECT_EQ(fs::path(path).parent_path(), ScratchFolder());
-}
-
 TEST_F(ReplacingAFile, ScratchFolderThatCannotBeUsedGivesWayToTheTargetsOwn) {
   Put(File(), kOld);
   struct Case {
@@ -242,8 +231,6 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
   const std::vector<Case> cases = {
       {"no file can be opened", Call::kOpen, EACCES, RunTimeFault::kPermissionDenied},
       {"the disk takes nothing", Call::kWrite, 0, RunTimeFault::kDeviceError},
-      {"the disk does not sync", Call::kSync, EIO, RunTimeFault::kDeviceError},
-      {"the disk is full when the file is closed", Call::kClose, ENOSPC, RunTimeFault::kDiskFull},
       {"every folder is on another disk", Call::kRename, EXDEV, RunTimeFault::kDeviceError},
   };
   for (const Case& c : cases) {

@@ -13,9 +13,9 @@ namespace quillon {
 namespace {
 
 // To a caller who wants a folder, "File not found" would speak of the wrong thing: what is missing is on the way to it.
-[[noreturn]] void FailOnFolder(int systemError, const std::filesystem::path& folder) {
+[[noreturn]] void FailOnFolder(int systemError, std::string_view reason, const std::filesystem::path& folder) {
   throw RunTimeError(systemError == ENOENT ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError),
-                     TextOfFileName(folder.string()) + ": " + ReasonOf(systemError));
+                     TextOfFileName(folder.string()).append(": ").append(reason));
 }
 
 // Joined as text: the path operator would let a name that starts with a separator replace the folder.
@@ -43,7 +43,7 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
 
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls) {
   const int made = Uninterrupted([&] { return calls.MakeFolder(path.string()); });
-  if (made < 0) FailOnFolder(-made, path);
+  if (made < 0) FailOnFolder(-made, ReasonOf(-made), path);
 }
 
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
@@ -52,7 +52,8 @@ void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls) {
 
 std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
   const FolderListing listing = ListFolder(folder);
-  if (listing.Error) FailOnFolder(listing.Error.default_error_condition().value(), folder);
+  if (const std::error_code& error = listing.Error)
+    FailOnFolder(error.default_error_condition().value(), error.message(), folder);
   std::vector<std::string> names;
   for (const std::filesystem::directory_entry& file : listing.Entries) {
     // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing file.
