@@ -26,10 +26,11 @@ TEST(RangeFolderEntries, ListsEveryFileWhateverItsExtension) {
 
 TEST(RangeFolderEntries, SortsByWhatIsListed) {
   const TemporaryProgram program;
-  for (const char* name : {"Big Blind Call 2.txt", "Big Blind Call.txt", "Big Blind Call-3.txt", "big blind call.bak"})
+  for (const char* name :
+       {"Big Blind Call 2.txt", "Big Blind Call.txt", "Big Blind Call-3.txt", "big blind call.bak", "x"})
     program.Write(name);
-  EXPECT_THAT(RangeFolderEntries(program.Folder()),
-              ElementsAre("Big Blind Call.txt", "big blind call.bak", "Big Blind Call 2.txt", "Big Blind Call-3.txt"));
+  EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre("Big Blind Call.txt", "big blind call.bak",
+                                                                "Big Blind Call 2.txt", "Big Blind Call-3.txt", "x"));
 }
 
 TEST(RangeFolderEntries, ScratchFilesDoNotShow) {
