@@ -221,20 +221,16 @@ TEST(Equilibrium, NobodyPlaysWhatHeCannotHold) {
   }
 }
 
-// He calls so seldom that a millionth of his range is worth more than a millionth of the pot.
-TEST(Equilibrium, IsFoundWhereASmallShareDecides) {
+// He calls so seldom that a millionth of his range is worth more than a millionth of the pot. What is not as near to
+// balance as promised is no answer.
+TEST(Equilibrium, IsFoundWhereASmallShareDecidesUnlessItIsTooSmall) {
+  BalanceQuestion question = {.Pot = 1.5, .Call = 0.5, .OwnHands = Only("AA"), .HisHands = Only("KK")};
+  question.OwnHands.at(Index("72o")) = 1;
   for (const double shove : {49.0, 99.0, 1000.0}) {
-    BalanceQuestion question = {
-        .Pot = 1.5, .Call = 0.5, .Shove = shove, .OwnHands = Only("AA"), .HisHands = Only("KK")};
-    question.OwnHands.at(Index("72o")) = 1;
+    question.Shove = shove;
     EXPECT_LE(Find(question).Exploitability, 1e-6 * question.Pot) << shove;
   }
-}
-
-// What is not as near to balance as promised is no answer.
-TEST(Equilibrium, ThatIsNotFoundIsNotTold) {
-  BalanceQuestion question = {.Pot = 1.5, .Call = 0.5, .Shove = 1300, .OwnHands = Only("AA"), .HisHands = Only("KK")};
-  question.OwnHands.at(Index("72o")) = 1;
+  question.Shove = 1300;
   EXPECT_FALSE(FindEquilibrium(Hands(), question));
 }
 
@@ -253,20 +249,14 @@ TEST(Equilibrium, IsThatOfHandsHeldAsOftenHoweverSeldom) {
   }
 }
 
-TEST(Equilibrium, OfTheSmallestAndLargestAmountsIsThatOfTheirRatios) {
-  for (const double unit : {1e-300, 1e300}) {
-    const Equilibrium found = Find({.Pot = unit, .Call = 0, .Shove = 4 * unit});
-    const Equilibrium usual = Find({.Pot = 1, .Call = 0, .Shove = 4});
-    EXPECT_NEAR(found.Value / unit, usual.Value, 1e-9) << unit;
-  }
-}
-
 TEST(Equilibrium, TheUnitOfTheAmountsDoesNotMatter) {
-  const Equilibrium chips = Find(HeadsUp(12));
-  const Equilibrium cents = Find({.Pot = 150, .Call = 50, .Shove = 1100});
-  for (std::size_t hand = 0; hand < kHandClassCount; ++hand)
-    EXPECT_NEAR(chips.Shove[hand], cents.Shove[hand], 1e-3) << Label(hand);
-  EXPECT_NEAR(chips.Value * 100, cents.Value, 1e-4);
+  const Equilibrium usual = Find(HeadsUp(12));
+  for (const double unit : {100.0, 1e-300, 1e300}) {
+    const Equilibrium found = Find({.Pot = 1.5 * unit, .Call = 0.5 * unit, .Shove = 11 * unit});
+    EXPECT_NEAR(found.Value / unit, usual.Value, 1e-6) << unit;
+    for (std::size_t hand = 0; hand < kHandClassCount; ++hand)
+      EXPECT_NEAR(found.Shove[hand], usual.Shove[hand], 1e-3) << Label(hand) << " in " << unit;
+  }
 }
 
 TEST(BalanceSearch, FindsTheSameStepByStep) {

@@ -190,8 +190,8 @@ std::string HandCurves::Csv() const {
 
 HandCurves AmountCurves(const StudySituation& situation, std::vector<std::int16_t> hands, const Steps& steps) {
   const bool shove = IsShove(situation);
-  std::vector<SweepRow> rows = SweepAmount(QuestionOf(situation, hands), situation.Numbers(),
-                                           shove ? SweptAmount::kShove : SweptAmount::kCall, steps);
+  std::vector<SweepRow> rows =
+      SweepAmount(QuestionOf(situation, hands), situation.Numbers(), shove ? &Amounts::Shove : &Amounts::Call, steps);
   return {shove ? "shove" : "call", std::move(hands), std::move(rows)};
 }
 

@@ -43,21 +43,6 @@ std::optional<std::int64_t> Scaled(const Decimal& decimal, int decimals) {
   return digits;
 }
 
-std::vector<std::string_view> Parts(std::string_view text) {
-  std::vector<std::string_view> parts;
-  for (std::size_t start = 0; start <= text.size();) {
-    const std::size_t end = std::min(text.find(':', start), text.size());
-    parts.push_back(text.substr(start, end - start));
-    start = end + 1;
-  }
-  return parts;
-}
-
-double& AmountOf(Amounts& amounts, SweptAmount which) {
-  constexpr std::array kFields = {&Amounts::Pot, &Amounts::Call, &Amounts::Shove};
-  return amounts.*kFields.at(static_cast<std::size_t>(which));
-}
-
 using AllFigures = std::array<ClassFigures, kHandClassCount>;
 
 AllFigures FiguresOf(const Scenario& scenario, const RangeNumbers& ranges) {
@@ -91,9 +76,11 @@ SweepRow RowOf(const SweepQuestion& question, const Amounts& amounts, const AllF
 }  // namespace
 
 std::variant<Steps, std::string> Steps::Read(std::string_view text) {
-  const std::vector<std::string_view> parts = Parts(text);
-  if (parts.size() != kParts) return "steps are written FROM:TO:STEP, such as 5:20:0.5";
-  return Between(parts[0], parts[1], parts[2]);
+  const std::size_t one = text.find(':');
+  const std::size_t two = text.find(':', one + 1);
+  const bool three = two != std::string_view::npos && text.find(':', two + 1) == std::string_view::npos;
+  if (!three) return "steps are written FROM:TO:STEP, such as 5:20:0.5";
+  return Between(text.substr(0, one), text.substr(one + 1, two - one - 1), text.substr(two + 1));
 }
 
 std::variant<Steps, std::string> Steps::Between(std::string_view from, std::string_view to, std::string_view step) {
@@ -150,14 +137,14 @@ SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, s
   return RowOf(question, question.Fixed, FiguresOf(ScenarioOf(question.Mode), ranges), std::move(at));
 }
 
-std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges, SweptAmount amount,
+std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges, double Amounts::*amount,
                                   const Steps& steps) {
   const AllFigures figures = FiguresOf(ScenarioOf(question.Mode), ranges);
   std::vector<SweepRow> rows;
   Amounts amounts = question.Fixed;
   for (std::int64_t step = 0; step < steps.Count(); ++step) {
     std::string at = steps.Text(step);
-    AmountOf(amounts, amount) = LeadingNumber(at);
+    amounts.*amount = LeadingNumber(at);
     rows.push_back(RowOf(question, amounts, figures, std::move(at)));
   }
   return rows;

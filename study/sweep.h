@@ -71,9 +71,6 @@ struct SweepRow {
 [[nodiscard]] std::string SweepCsv(std::string_view what, std::span<const std::string> hands,
                                    std::span<const SweepRow> rows);
 
-/// Which amount goes up.
-enum class SweptAmount { kPot, kCall, kShove };
-
 /// What is asked at every step.
 struct SweepQuestion {
   AnalysisMode Mode = AnalysisMode::kPreflopCall;  // or kPreflopRaise
@@ -81,10 +78,10 @@ struct SweepQuestion {
   std::vector<std::int16_t> Hands;  // class indexes
 };
 
-/// A row for each step, with the amount going through the steps in place of the fixed one. Fails as FiguresOf does for
+/// A row for each step, with this amount going through the steps in place of the fixed one. Fails as FiguresOf does for
 /// the ranges.
 [[nodiscard]] std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges,
-                                                SweptAmount amount, const Steps& steps);
+                                                double Amounts::*amount, const Steps& steps);
 
 /// The row of one step, from what the ranges say at it and the amounts as they are there. Fails as FiguresOf does.
 [[nodiscard]] SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, std::string at);

@@ -110,16 +110,16 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
   struct Case {
     const char* what;
     AnalysisMode mode;
-    SweptAmount amount;
+    double Amounts::*amount;
     const char* steps;
     double Situation::*field;
   };
   const Amounts fixed = {100, 30, 250};
   for (const Case& c : {
-           Case{"call", AnalysisMode::kPreflopCall, SweptAmount::kCall, "0.1:0.7:0.3", &Situation::CallAmount},
-           Case{"pot of a call", AnalysisMode::kPreflopCall, SweptAmount::kPot, "31:200:66.66", &Situation::PotSize},
-           Case{"shove", AnalysisMode::kPreflopRaise, SweptAmount::kShove, "1:3000:999.9", &Situation::ShoveAmount},
-           Case{"call of a raise", AnalysisMode::kPreflopRaise, SweptAmount::kCall, "0:60:20", &Situation::CallAmount},
+           Case{"call", AnalysisMode::kPreflopCall, &Amounts::Call, "0.1:0.7:0.3", &Situation::CallAmount},
+           Case{"pot of a call", AnalysisMode::kPreflopCall, &Amounts::Pot, "31:200:66.66", &Situation::PotSize},
+           Case{"shove", AnalysisMode::kPreflopRaise, &Amounts::Shove, "1:3000:999.9", &Situation::ShoveAmount},
+           Case{"call of a raise", AnalysisMode::kPreflopRaise, &Amounts::Call, "0:60:20", &Situation::CallAmount},
        }) {
     const ClassWeights range = Top("40");
     const ClassWeights calling = Top("12.5");

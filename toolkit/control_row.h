@@ -55,6 +55,27 @@ struct FontSpec {
   bool Underlined = false;
 };
 
+constexpr FontSpec Arial(double points) {
+  return {.Family = "Arial", .Points = static_cast<float>(points)};
+}
+constexpr FontSpec MsSansSerif(double points) {
+  return {.Family = "MS Sans Serif", .Points = static_cast<float>(points)};
+}
+constexpr FontSpec Tahoma(double points) {
+  return {.Family = "Tahoma", .Points = static_cast<float>(points)};
+}
+constexpr FontSpec Verdana(double points) {
+  return {.Family = "Verdana", .Points = static_cast<float>(points)};
+}
+constexpr FontSpec Bold(FontSpec font) {
+  font.Bold = true;
+  return font;
+}
+constexpr FontSpec Underlined(FontSpec font) {
+  font.Underlined = true;
+  return font;
+}
+
 /// The index of a control that alone has its name.
 inline constexpr std::int16_t kNoIndex = -1;
 

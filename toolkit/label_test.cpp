@@ -19,7 +19,7 @@ class LabelTest : public testing::Test {
  public:
   LabelTest() {
     form.resize(400, 200);
-    label.setFont(FormFont({.Family = "Arial", .Points = 8.25F}, {}));
+    label.setFont(FormFont(Arial(8.25), {}));
   }
 
   QWidget form;
@@ -75,7 +75,7 @@ TEST_F(LabelTest, OfOneLineIsNeverTooLowForItsFont) {
 TEST_F(LabelTest, OfOneLineGrowsWithItsFont) {
   label.SetPlace(kOneLine);
   label.SetText(kShort);
-  label.setFont(FormFont({.Family = "Arial", .Points = 20.25F, .Bold = true}, {}));
+  label.setFont(FormFont(Bold(Arial(20.25)), {}));
 
   EXPECT_GE(label.width(), label.TextSize().width());
   EXPECT_GE(label.height(), 27);
@@ -148,7 +148,7 @@ TEST_F(LabelTest, IsDrawnInItsTextColour) {
   label.SetPlace(kSeveralLines, true);
   label.SetBackColor(Qt::white);
   label.SetTextColor(Qt::blue);
-  label.setFont(FormFont({.Family = "Arial", .Points = 36, .Bold = true}, {}));
+  label.setFont(FormFont(Bold(Arial(36)), {}));
   label.SetText(QStringLiteral("I"));
   const QImage image = label.grab().toImage();
 

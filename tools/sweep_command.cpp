@@ -28,6 +28,7 @@ struct Request {
 };
 
 constexpr std::string_view kWidthOption = "--width";
+constexpr std::array kAmountFields = {&Amounts::Pot, &Amounts::Call, &Amounts::Shove};
 
 using Rows = std::vector<SweepRow>;
 
@@ -156,9 +157,8 @@ int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place,
                    CommandInputs& inputs, const Surroundings& surroundings) {
   const auto steps = ReadSteps(kAmountOptions[place], request.situation.Amounts[place], inputs);
   if (!steps) return inputs.Status();
-  const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
   for (const std::int64_t end : {std::int64_t{0}, steps->Count() - 1}) {
-    *fields[place] = LeadingNumber(steps->Text(end));
+    question.Fixed.*kAmountFields.at(place) = LeadingNumber(steps->Text(end));
     if (!AreAccepted(mode, question.Fixed, inputs)) return inputs.Status();
   }
   const bool raise = mode == AnalysisMode::kPreflopRaise;
@@ -166,8 +166,8 @@ int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place,
   const auto calling = raise ? inputs.Range(request.situation.CallingRange) : GivenRange{};
   if (!range || !calling) return inputs.Status();
   const RangeNumbers ranges(inputs.Hands(), range->Weights, calling->Weights);
-  return Print(mode, kAmountOptions[place] + 2, request,
-               SweepAmount(question, ranges, static_cast<SweptAmount>(place), *steps), surroundings);
+  return Print(mode, kAmountOptions[place] + 2, request, SweepAmount(question, ranges, kAmountFields.at(place), *steps),
+               surroundings);
 }
 
 int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion& question, CommandInputs& inputs,
@@ -182,23 +182,20 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
     return inputs.Status();
   }
   const auto weightsAt = [&](std::string_view share) { return std::get<ClassWeights>(top(share)); };
-  if (mode == AnalysisMode::kPreflopCall) {
-    if (request.situation.Range.Given())
-      throw CLI::ValidationError("--width is his range; leave --range and --hands out");
-    if (weightsAt(steps->Text(0)) == ClassWeights{}) {
-      inputs.Refuse(std::string(kWidthOption) + ": the narrowest range has no hands");
-      return inputs.Status();
-    }
-    const auto rangesAt = [&](std::string_view share) { return RangeNumbers(inputs.Hands(), weightsAt(share)); };
-    return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+  const bool raise = mode == AnalysisMode::kPreflopRaise;
+  if ((raise ? request.situation.CallingRange : request.situation.Range).Given()) {
+    throw CLI::ValidationError(raise ? "--width is his calling range; leave --calling-range and --calling-hands out"
+                                     : "--width is his range; leave --range and --hands out");
   }
-  if (request.situation.CallingRange.Given()) {
-    throw CLI::ValidationError("--width is his calling range; leave --calling-range and --calling-hands out");
+  if (!raise && weightsAt(steps->Text(0)) == ClassWeights{}) {
+    inputs.Refuse(std::string(kWidthOption) + ": the narrowest range has no hands");
+    return inputs.Status();
   }
-  const auto range = inputs.Range(request.situation.Range);
+  const auto range = raise ? inputs.Range(request.situation.Range) : GivenRange{};
   if (!range) return inputs.Status();
   const auto rangesAt = [&](std::string_view share) {
-    return RangeNumbers(inputs.Hands(), range->Weights, weightsAt(share));
+    const ClassWeights width = weightsAt(share);
+    return raise ? RangeNumbers(inputs.Hands(), range->Weights, width) : RangeNumbers(inputs.Hands(), width);
   };
   return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
 }
@@ -217,12 +214,11 @@ int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) 
   const std::optional<std::size_t> swept = SweptPlace(request, count);
   CommandInputs inputs(surroundings, request.folder);
   SweepQuestion question{mode, {}, {}};
-  const std::array<double*, 3> fields = {&question.Fixed.Pot, &question.Fixed.Call, &question.Fixed.Shove};
   for (std::size_t i = 0; i < count; ++i) {
     if (i == swept) continue;
     const auto amount = inputs.Amount(kAmountOptions[i], request.situation.Amounts[i], LeastAmount::kZero);
     if (!amount) return inputs.Status();
-    *fields[i] = *amount;
+    question.Fixed.*kAmountFields.at(i) = *amount;
   }
   for (const std::string& hand : request.hands)
     question.Hands.push_back(HandIndex(hand));

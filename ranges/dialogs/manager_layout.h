@@ -22,12 +22,6 @@ namespace manager_layout {
 using enum ControlKind;
 using enum ControlUse;
 
-constexpr FontSpec kArial8p25{.Family = "Arial", .Points = 8.25F};
-constexpr FontSpec kArial9p75{.Family = "Arial", .Points = 9.75F};
-constexpr FontSpec kArial9p75Bold{.Family = "Arial", .Points = 9.75F, .Bold = true};
-constexpr FontSpec kArial14p25Bold{.Family = "Arial", .Points = 14.25F, .Bold = true};
-constexpr FontSpec kTahoma8p25{.Family = "Tahoma", .Points = 8.25F};
-
 constexpr std::int32_t kHeading = 0x336699;
 constexpr std::string_view kActionTip = "Delete current range";  // of four actions, and not of that which deletes
 
@@ -37,21 +31,21 @@ constexpr std::string_view kActionTip = "Delete current range";  // of four acti
 inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Image1", .Kind = kPicture, .Place = {105, 180, 960, 960}, .Picture = "manager_image"},
     {.Name = "Label", .Index = 0, .Text = "Select a Range:", .Place = {1140, 360, 2235, 315}, .Fore = kHeading,
-     .Font = kArial14p25Bold},
+     .Font = Bold(Arial(14.25))},
     {.Name = "lstRanges", .Kind = kListBox, .Place = {1200, 720, 3495, 7020}, .Spoken = "Select a Range:"},
-    {.Name = "lblRangeName", .Text = "Title", .Place = {4800, 300, 5835, 375}, .Font = kArial14p25Bold, .Cut = true},
+    {.Name = "lblRangeName", .Text = "Title", .Place = {4800, 300, 5835, 375}, .Font = Bold(Arial(14.25)), .Cut = true},
     {.Name = "shapeCardBack", .Index = 0, .Kind = kShape, .Place = {4960, 820, 405, 405}, .Fore = 0x404040,
      .Hidden = true},
-    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {4970, 920, 385, 305}, .Font = kTahoma8p25, .Hidden = true,
+    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {4970, 920, 385, 305}, .Font = Tahoma(8.25), .Hidden = true,
      .Use = kLink, .Alignment = TextAlignment::kCentered},
     {.Name = "shapeBlue", .Kind = kShape, .Place = {4860, 720, 5760, 5760}, .Back = 0xE0E0E0, .Fore = 0x33789C,
      .Hidden = true},
-    {.Name = "lblRangeInfo", .Text = "0% selected", .Place = {9240, 6480, 1395, 195}, .Font = kArial8p25,
+    {.Name = "lblRangeInfo", .Text = "0% selected", .Place = {9240, 6480, 1395, 195}, .Font = Arial(8.25),
      .Alignment = TextAlignment::kRight},
     {.Name = "txtRangeAbbr", .Kind = kReadOnlyMemo, .Text = "None\r\n", .Place = {4920, 7020, 5775, 885},
      .Spoken = "Abbreviated Format:"},
     {.Name = "Label", .Index = 1, .Text = "Abbreviated Format:", .Place = {4920, 6780, 3660, 300},
-     .Font = kArial9p75Bold},
+     .Font = Bold(Arial(9.75))},
     {.Name = "Label", .Index = 2, .Text = "Tip: Hold Shift while clicking to select similar groups of hands.",
      .Place = {4860, 8280, 5580, 360}},
     {.Name = "imgNew", .Kind = kPicture, .Place = {10920, 660, 720, 720}, .Use = kLink, .Picture = "range_new",
@@ -76,13 +70,13 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "chkHalf", .Kind = kCheckBox, .Place = {10860, 5640, 255, 255},
      .Spoken = "Make next selection \"Maybe\" (half as likely)"},
     {.Name = "Label", .Index = 3, .Text = "Make next selection \"Maybe\" (half as likely)",
-     .Place = {11220, 5640, 1815, 555}, .Font = kArial8p25},
+     .Place = {11220, 5640, 1815, 555}, .Font = Arial(8.25)},
     {.Name = "cmdOK", .Kind = kButton, .Text = "OK", .Place = {11400, 8160, 1815, 495}},
 });
 
 // clang-format on
 
-inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = kArial9p75, .Rows = kRows}});
+inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = Arial(9.75), .Rows = kRows}});
 
 /// The way of the Tab key, from one name to the next; "lblCards" is every cell of the grid.
 inline constexpr auto kTabOrder =

@@ -23,14 +23,6 @@ namespace new_range_layout {
 using enum ControlKind;
 using enum ControlUse;
 
-constexpr FontSpec kArial8p25{.Family = "Arial", .Points = 8.25F};
-constexpr FontSpec kArial9p75{.Family = "Arial", .Points = 9.75F};
-constexpr FontSpec kArial9p75Bold{.Family = "Arial", .Points = 9.75F, .Bold = true};
-constexpr FontSpec kArial11p25{.Family = "Arial", .Points = 11.25F};
-constexpr FontSpec kArial12Bold{.Family = "Arial", .Points = 12, .Bold = true};
-constexpr FontSpec kArial14p25Bold{.Family = "Arial", .Points = 14.25F, .Bold = true};
-constexpr FontSpec kTahoma8p25{.Family = "Tahoma", .Points = 8.25F};
-
 constexpr std::int32_t kHeading = 0x336699;
 constexpr std::int32_t kKeyLine = 0x404040;
 
@@ -40,23 +32,23 @@ constexpr std::int32_t kKeyLine = 0x404040;
 inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Image1", .Kind = kPicture, .Place = {165, 240, 960, 960}, .Picture = "new_range_image"},
     {.Name = "Label", .Index = 0, .Text = "Create a Range:", .Place = {1260, 420, 2220, 330}, .Fore = kHeading,
-     .Font = kArial14p25Bold},
+     .Font = Bold(Arial(14.25))},
     {.Name = "shapeCardBack", .Index = 0, .Kind = kShape, .Place = {1360, 940, 405, 405}, .Fore = 0x404040,
      .Hidden = true},
-    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {1370, 1040, 385, 305}, .Font = kTahoma8p25, .Hidden = true,
+    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {1370, 1040, 385, 305}, .Font = Tahoma(8.25), .Hidden = true,
      .Use = kPlainLink, .Alignment = TextAlignment::kCentered},
     {.Name = "shapeBlue", .Kind = kShape, .Place = {1260, 840, 5760, 5760}, .Back = 0xE0E0E0, .Fore = 0x33789C,
      .Hidden = true},
-    {.Name = "lblPercSelected", .Text = "0% Selected", .Place = {5640, 6600, 1395, 195}, .Font = kArial8p25,
+    {.Name = "lblPercSelected", .Text = "0% Selected", .Place = {5640, 6600, 1395, 195}, .Font = Arial(8.25),
      .Alignment = TextAlignment::kRight},
     {.Name = "Label", .Index = 1, .Text = "Abbreviated Format:", .Place = {1320, 6900, 3660, 240},
-     .Font = kArial9p75Bold},
+     .Font = Bold(Arial(9.75))},
     {.Name = "txtRangeAbbr", .Kind = kReadOnlyMemo, .Text = "None\r\n", .Place = {1320, 7140, 5775, 885},
      .Spoken = "Abbreviated Format:"},
     {.Name = "Label", .Index = 2, .Text = "Tip: Hold Shift while clicking to select similar groups of hands.",
      .Place = {1320, 8100, 5580, 360}},
     {.Name = "Label", .Index = 3, .Text = "Instructions", .Place = {7560, 840, 1410, 285}, .Fore = kHeading,
-     .Font = kArial12Bold},
+     .Font = Bold(Arial(12))},
     {.Name = "Label", .Index = 4,
      .Text = "A range is a group of hands you believe your opponent can have in some situation.",
      .Place = {7620, 1200, 4380, 480}},
@@ -71,7 +63,7 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 7, .Text = "Make next selection \"Maybe\" (half as likely)",
      .Place = {7980, 3300, 2115, 615}},
     {.Name = "Label", .Index = 8, .Text = "Key", .Place = {7560, 4140, 450, 285}, .Fore = kHeading,
-     .Font = kArial12Bold},
+     .Font = Bold(Arial(12))},
     {.Name = "shapeKey", .Index = 0, .Kind = kShape, .Place = {7620, 4620, 285, 285},
      .Back = RgbNumber(kUnselectedSuitedColor), .Fore = kKeyLine},
     {.Name = "Label", .Index = 9, .Text = "Suited Hands", .Place = {8040, 4650, 2055, 240}},
@@ -88,8 +80,8 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
      .Fore = kKeyLine},
     {.Name = "Label", .Index = 13, .Text = "Half as Likely", .Place = {8040, 6090, 2055, 240}},
     {.Name = "Label", .Index = 14, .Text = "Range Name:", .Place = {7560, 6600, 1560, 285}, .Fore = kHeading,
-     .Font = kArial12Bold},
-    {.Name = "txtRangeName", .Kind = kTextBox, .Place = {7620, 6945, 4380, 375}, .Font = kArial11p25,
+     .Font = Bold(Arial(12))},
+    {.Name = "txtRangeName", .Kind = kTextBox, .Place = {7620, 6945, 4380, 375}, .Font = Arial(11.25),
      .Spoken = "Range Name:"},
     {.Name = "chkSaveRange", .Kind = kCheckBox, .Text = "Save this range for future use",
      .Place = {7740, 7380, 3735, 375}},
@@ -99,7 +91,7 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
 
 // clang-format on
 
-inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = kArial9p75, .Rows = kRows}});
+inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = Arial(9.75), .Rows = kRows}});
 
 /// The way of the Tab key, from one name to the next; "lblCards" is every cell of the grid.
 inline constexpr auto kTabOrder = std::to_array<ControlKey<kTables>>(

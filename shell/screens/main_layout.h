@@ -5,7 +5,9 @@
 // where its maker reads mail come with the build.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
@@ -25,38 +27,6 @@ using enum ControlKind;
 using enum ControlUse;
 constexpr TextAlignment kMiddle = TextAlignment::kCentered;
 
-constexpr FontSpec kArial11p25{.Family = "Arial", .Points = 11.25F};
-constexpr FontSpec kArial11p25Bold{.Family = "Arial", .Points = 11.25F, .Bold = true};
-constexpr FontSpec kArial11p25Underlined{.Family = "Arial", .Points = 11.25F, .Underlined = true};
-constexpr FontSpec kArial12{.Family = "Arial", .Points = 12};
-constexpr FontSpec kArial12Bold{.Family = "Arial", .Points = 12, .Bold = true};
-constexpr FontSpec kArial14p25{.Family = "Arial", .Points = 14.25F};
-constexpr FontSpec kArial15p75{.Family = "Arial", .Points = 15.75F};
-constexpr FontSpec kArial15p75Bold{.Family = "Arial", .Points = 15.75F, .Bold = true};
-constexpr FontSpec kArial18Bold{.Family = "Arial", .Points = 18, .Bold = true};
-constexpr FontSpec kArial20p25Bold{.Family = "Arial", .Points = 20.25F, .Bold = true};
-constexpr FontSpec kArial26p25{.Family = "Arial", .Points = 26.25F};
-constexpr FontSpec kArial8p25{.Family = "Arial", .Points = 8.25F};
-constexpr FontSpec kArial9{.Family = "Arial", .Points = 9};
-constexpr FontSpec kArial9Bold{.Family = "Arial", .Points = 9, .Bold = true};
-constexpr FontSpec kArial9p75{.Family = "Arial", .Points = 9.75F};
-constexpr FontSpec kArial9p75Bold{.Family = "Arial", .Points = 9.75F, .Bold = true};
-constexpr FontSpec kArial9p75BoldUnderlined{.Family = "Arial", .Points = 9.75F, .Bold = true, .Underlined = true};
-constexpr FontSpec kMSSansSerif8p25{.Family = "MS Sans Serif", .Points = 8.25F};
-constexpr FontSpec kMSSansSerif9p75{.Family = "MS Sans Serif", .Points = 9.75F};
-constexpr FontSpec kTahoma11p25{.Family = "Tahoma", .Points = 11.25F};
-constexpr FontSpec kTahoma14p25{.Family = "Tahoma", .Points = 14.25F};
-constexpr FontSpec kTahoma15p75{.Family = "Tahoma", .Points = 15.75F};
-constexpr FontSpec kTahoma18{.Family = "Tahoma", .Points = 18};
-constexpr FontSpec kTahoma8p25{.Family = "Tahoma", .Points = 8.25F};
-constexpr FontSpec kTahoma9{.Family = "Tahoma", .Points = 9};
-constexpr FontSpec kTahoma9Bold{.Family = "Tahoma", .Points = 9, .Bold = true};
-constexpr FontSpec kTahoma9p75BoldUnderlined{.Family = "Tahoma", .Points = 9.75F, .Bold = true, .Underlined = true};
-constexpr FontSpec kTahoma9p75Underlined{.Family = "Tahoma", .Points = 9.75F, .Underlined = true};
-constexpr FontSpec kVerdana11p25{.Family = "Verdana", .Points = 11.25F};
-constexpr FontSpec kVerdana9p75{.Family = "Verdana", .Points = 9.75F};
-constexpr FontSpec kVerdana8p25{.Family = "Verdana", .Points = 8.25F};
-
 // Beside the side panel.
 constexpr TwipRect kScreenPlace = {3300, 0, 12000, kScreenHeight};
 
@@ -64,6 +34,17 @@ constexpr std::int32_t kHeading = RgbNumber(kPaleYellow);
 
 // One row stays one row.
 // clang-format off
+
+constexpr ControlRow WhatsThis(std::int16_t index, TwipRect place, std::string_view spoken) {
+  return {.Name = "lblWhatsThis", .Index = index, .Text = "What's this?", .Place = place, .Fore = 0x336699,
+          .Font = Arial(8.25), .Use = kLink, .ToolTip = kFieldHelpKeys.at(static_cast<std::size_t>(index)),
+          .Spoken = spoken};
+}
+
+constexpr ControlRow StepNumber(std::int16_t index, std::string_view text, float left, float top) {
+  return {.Name = "Label", .Index = index, .Text = text, .Place = {left, top, 360, 270}, .Back = 0x336699,
+          .Fore = 0xFFFFFF, .Font = Bold(Arial(11.25)), .Alignment = kMiddle};
+}
 
 // The screens. Each takes its place and its size anew when it is shown.
 inline constexpr auto kScreens = std::to_array<ControlRow>({
@@ -80,28 +61,28 @@ inline constexpr auto kScreens = std::to_array<ControlRow>({
 // The side panel, always visible.
 inline constexpr auto kSidePanel = std::to_array<ControlRow>({
     {.Name = "picLogo", .Kind = kPicture, .Place = {240, 120, 2895, 1380}, .Back = kWindowColor, .Fore = 0xFFFFFF,
-     .Font = kArial12, .Use = kLink, .Picture = "logo", .Spoken = "About Quillon"},
+     .Font = Arial(12), .Use = kLink, .Picture = "logo", .Spoken = "About Quillon"},
     {.Name = "imgBackground", .Kind = kPicture, .Place = {480, 11280, 2730, 435}, .Picture = "panel_footer"},
     {.Name = "lblRangeManager", .Text = "Range Manager", .Place = {855, 6550, 1545, 240}, .Fore = 0x000000,
-     .Font = kArial9p75BoldUnderlined, .Use = kLink},
+     .Font = Underlined(Bold(Arial(9.75))), .Use = kLink},
     {.Name = "Label", .Index = 48, .Text = "Tools:", .Place = {180, 6060, 1845, 285}, .Fore = kHeading,
-     .Font = kArial9Bold},
+     .Font = Bold(Arial(9))},
     {.Name = "lblNav", .Index = 2, .Text = "Equity Only", .Place = {480, 3240, 1320, 285}, .Fore = 0xFFFFFF,
-     .Font = kArial12Bold, .Use = kLink},
+     .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "Label", .Index = 46, .Text = "What do you want to do?", .Place = {180, 1800, 2415, 210},
-     .Fore = kHeading, .Font = kTahoma9Bold},
+     .Fore = kHeading, .Font = Bold(Tahoma(9))},
     {.Name = "lblNav", .Index = 4, .Text = "Details", .Place = {420, 4680, 780, 285}, .Fore = 0xFFFFFF,
-     .Font = kArial12Bold, .Use = kLink},
+     .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "lblNav", .Index = 3, .Text = "ALL IN Grid", .Place = {420, 4200, 1305, 285}, .Fore = 0xFFFFFF,
-     .Font = kArial12Bold, .Use = kLink},
+     .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "lblNoResults", .Text = "There are no results to display at this time.", .Place = {420, 4140, 2535, 555},
-     .Fore = kHeading, .Font = kTahoma9},
+     .Fore = kHeading, .Font = Tahoma(9)},
     {.Name = "Label", .Index = 16, .Text = "Results:", .Place = {180, 3720, 1845, 285}, .Fore = kHeading,
-     .Font = kTahoma9Bold},
+     .Font = Bold(Tahoma(9))},
     {.Name = "lblNav", .Index = 0, .Text = "Preflop Call", .Place = {480, 2160, 1320, 285}, .Fore = 0xFFFFFF,
-     .Font = kArial12Bold, .Use = kLink},
+     .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "lblNav", .Index = 1, .Text = "Preflop Raise", .Place = {480, 2700, 1530, 285}, .Fore = 0xFFFFFF,
-     .Font = kArial12Bold, .Use = kLink},
+     .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "shapeRangeManager", .Kind = kRoundedShape, .Place = {300, 6480, 2895, 435}, .Back = 0xC0C0C0,
      .Fore = 0x404040},
     {.Name = "aRectangle", .Index = 2, .Kind = kShape, .Place = {-180, -60, 3555, 1575}, .Back = 0xFFFFFF,
@@ -114,115 +95,95 @@ inline constexpr auto kSidePanel = std::to_array<ControlRow>({
 // Preflop Call
 inline constexpr auto kPreflopCall = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 0, .Kind = kPicture, .Place = {7680, 7020, 3015, 795}, .Back = 0xFFFFFF,
-     .Font = kArial12, .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
-    {.Name = "cmboRanges", .Index = 0, .Kind = kChooser, .Place = {1320, 4380, 4395, 375}, .Font = kArial11p25,
+     .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
+    {.Name = "cmboRanges", .Index = 0, .Kind = kChooser, .Place = {1320, 4380, 4395, 375}, .Font = Arial(11.25),
      .Spoken = "What is his current range?"},
-    {.Name = "txtNumber", .Index = 1, .Kind = kTextBox, .Place = {1440, 3240, 2475, 315}, .Font = kArial11p25,
+    {.Name = "txtNumber", .Index = 1, .Kind = kTextBox, .Place = {1440, 3240, 2475, 315}, .Font = Arial(11.25),
      .Alignment = kMiddle, .Spoken = "How much do you have to call?"},
-    {.Name = "txtNumber", .Index = 0, .Kind = kTextBox, .Place = {1440, 1980, 2535, 315}, .Font = kArial11p25,
+    {.Name = "txtNumber", .Index = 0, .Kind = kTextBox, .Place = {1440, 1980, 2535, 315}, .Font = Arial(11.25),
      .Alignment = kMiddle, .Spoken = "How much is the current pot?"},
-    {.Name = "lblWhatsThis", .Index = 7, .Text = "What's this?", .Place = {4680, 4140, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[7],
-     .Spoken = "What's this? Call ALL IN - Current Range"},
-    {.Name = "lblWhatsThis", .Index = 6, .Text = "What's this?", .Place = {5160, 2940, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[6],
-     .Spoken = "What's this? Call ALL IN - Amount To Call"},
-    {.Name = "lblWhatsThis", .Index = 5, .Text = "What's this?", .Place = {4860, 1680, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[5],
-     .Spoken = "What's this? Call ALL IN - Pot Size"},
+    WhatsThis(7, {4680, 4140, 975, 255}, "What's this? Call ALL IN - Current Range"),
+    WhatsThis(6, {5160, 2940, 975, 255}, "What's this? Call ALL IN - Amount To Call"),
+    WhatsThis(5, {4860, 1680, 975, 255}, "What's this? Call ALL IN - Pot Size"),
     {.Name = "aLine", .Index = 2, .Kind = kLine, .Place = {480, 900, 10920, 0}, .Fore = 0x336699},
-    {.Name = "lblOr", .Index = 0, .Text = "or", .Place = {3060, 5160, 195, 255}, .Font = kArial11p25},
+    {.Name = "lblOr", .Index = 0, .Text = "or", .Place = {3060, 5160, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 0, .Text = "Edit this Range...", .Place = {3360, 5160, 1665, 255},
-     .Fore = 0x004040, .Font = kArial11p25Underlined, .Use = kLink},
+     .Fore = 0x004040, .Font = Underlined(Arial(11.25)), .Use = kLink},
     {.Name = "lblNewRange", .Index = 0, .Text = "Create a New Range...", .Place = {3360, 4800, 2220, 255},
-     .Fore = 0xC04000, .Font = kArial11p25Underlined, .Use = kLink},
-    {.Name = "Label", .Index = 21, .Text = "3.", .Place = {540, 4020, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 20, .Text = "2.", .Place = {540, 2820, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 19, .Text = "1. ", .Place = {540, 1560, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
+     .Fore = 0xC04000, .Font = Underlined(Arial(11.25)), .Use = kLink},
+    StepNumber(21, "3.", 540, 4020),
+    StepNumber(20, "2.", 540, 2820),
+    StepNumber(19, "1. ", 540, 1560),
     {.Name = "Label", .Index = 18, .Text = "You're facing a decision for all your chips. It's your move...",
      .Place = {5760, 540, 5025, 240}},
     {.Name = "Label", .Index = 17, .Text = "Preflop Calling ALL IN", .Place = {540, 360, 4395, 480}, .Fore = 0x336699,
-     .Font = kArial20p25Bold},
-    {.Name = "Label", .Index = 4, .Text = "or", .Place = {3060, 4800, 195, 255}, .Font = kArial11p25},
+     .Font = Bold(Arial(20.25))},
+    {.Name = "Label", .Index = 4, .Text = "or", .Place = {3060, 4800, 195, 255}, .Font = Arial(11.25)},
     {.Name = "ShapeBorder", .Index = 1, .Kind = kRoundedShape, .Place = {1380, 3180, 2595, 435}, .Back = 0xFFFFFF,
      .Fore = 0x336699},
     {.Name = "ShapeBorder", .Index = 0, .Kind = kRoundedShape, .Place = {1380, 1920, 2655, 435}, .Back = 0xFFFFFF,
      .Fore = 0x336699},
     {.Name = "Label", .Index = 2, .Text = "How much do you have to call?", .Place = {1140, 2820, 3900, 330},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
     {.Name = "Label", .Index = 1, .Text = "How much is the current pot?", .Place = {1080, 1560, 3660, 330},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
     {.Name = "Label", .Index = 0, .Text = "What is his current range?", .Place = {1200, 4020, 3285, 330},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
 });
 
 // Preflop Raise
 inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 1, .Kind = kPicture, .Place = {8220, 7320, 3015, 795}, .Back = 0xFFFFFF,
-     .Font = kArial12, .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
-    {.Name = "cmboRanges", .Index = 2, .Kind = kChooser, .Place = {6960, 5340, 4395, 390}, .Font = kVerdana11p25,
+     .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
+    {.Name = "cmboRanges", .Index = 2, .Kind = kChooser, .Place = {6960, 5340, 4395, 390}, .Font = Verdana(11.25),
      .Spoken = "What range will he call with?"},
-    {.Name = "cmboRanges", .Index = 1, .Kind = kChooser, .Place = {1320, 5340, 4395, 390}, .Font = kVerdana11p25,
+    {.Name = "cmboRanges", .Index = 1, .Kind = kChooser, .Place = {1320, 5340, 4395, 390}, .Font = Verdana(11.25),
      .Spoken = "What is his current range?"},
-    {.Name = "txtNumber", .Index = 4, .Kind = kTextBox, .Place = {1380, 4260, 2895, 315}, .Font = kArial11p25,
+    {.Name = "txtNumber", .Index = 4, .Kind = kTextBox, .Place = {1380, 4260, 2895, 315}, .Font = Arial(11.25),
      .Alignment = kMiddle, .Spoken = "How much will your opponent have to call if you go ALL IN?"},
-    {.Name = "txtNumber", .Index = 3, .Kind = kTextBox, .Place = {1380, 3000, 2895, 315}, .Font = kArial11p25,
+    {.Name = "txtNumber", .Index = 3, .Kind = kTextBox, .Place = {1380, 3000, 2895, 315}, .Font = Arial(11.25),
      .Alignment = kMiddle, .Spoken = "How much do you have to call?"},
-    {.Name = "txtNumber", .Index = 2, .Kind = kTextBox, .Place = {1380, 1800, 2895, 315}, .Font = kArial11p25,
+    {.Name = "txtNumber", .Index = 2, .Kind = kTextBox, .Place = {1380, 1800, 2895, 315}, .Font = Arial(11.25),
      .Alignment = kMiddle, .Spoken = "How much is the current pot?"},
-    {.Name = "lblHisBEP", .Text = "0%", .Place = {2940, 8040, 285, 240}, .Fore = 0x404040, .Font = kArial9p75},
+    {.Name = "lblHisBEP", .Text = "0%", .Place = {2940, 8040, 285, 240}, .Fore = 0x404040, .Font = Arial(9.75)},
     {.Name = "Label", .Index = 47, .Text = "His BEP:", .Place = {840, 8040, 810, 240}, .Fore = 0x404040,
-     .Font = kArial9p75},
-    {.Name = "lblHisOdds", .Text = "X:1", .Place = {2940, 7740, 270, 240}, .Fore = 0x404040, .Font = kArial9p75},
+     .Font = Arial(9.75)},
+    {.Name = "lblHisOdds", .Text = "X:1", .Place = {2940, 7740, 270, 240}, .Fore = 0x404040, .Font = Arial(9.75)},
     {.Name = "Label", .Index = 59, .Text = "His Calling Odds:", .Place = {840, 7740, 1515, 240}, .Fore = 0x404040,
-     .Font = kArial9p75},
+     .Font = Arial(9.75)},
     {.Name = "Label", .Index = 36, .Text = "Opponent's Perspective:", .Place = {660, 7380, 2100, 240},
-     .Fore = 0x404040, .Font = kArial9p75},
+     .Fore = 0x404040, .Font = Arial(9.75)},
     {.Name = "aRectangle", .Index = 4, .Kind = kShape, .Place = {540, 7260, 4935, 1215}, .Back = 0xFAFAFA,
      .Fore = 0xE0E0E0},
-    {.Name = "lblWhatsThis", .Index = 4, .Text = "What's this?", .Place = {10440, 5040, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[4], .Spoken = "What's this? Calling Range"},
-    {.Name = "lblWhatsThis", .Index = 3, .Text = "What's this?", .Place = {4560, 5040, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[3], .Spoken = "What's this? Current Range"},
-    {.Name = "lblWhatsThis", .Index = 2, .Text = "What's this?", .Place = {8820, 3840, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[2],
-     .Spoken = "What's this? Hypothetical Call Amount"},
-    {.Name = "lblWhatsThis", .Index = 1, .Text = "What's this?", .Place = {5220, 2580, 1515, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[1], .Spoken = "What's this? Amount To Call"},
-    {.Name = "lblWhatsThis", .Index = 0, .Text = "What's this?", .Place = {4980, 1380, 975, 255}, .Fore = 0x336699,
-     .Font = kArial8p25, .Use = kLink, .ToolTip = kFieldHelpKeys[0], .Spoken = "What's this? Pot Size"},
+    WhatsThis(4, {10440, 5040, 1515, 255}, "What's this? Calling Range"),
+    WhatsThis(3, {4560, 5040, 1515, 255}, "What's this? Current Range"),
+    WhatsThis(2, {8820, 3840, 1515, 255}, "What's this? Hypothetical Call Amount"),
+    WhatsThis(1, {5220, 2580, 1515, 255}, "What's this? Amount To Call"),
+    WhatsThis(0, {4980, 1380, 975, 255}, "What's this? Pot Size"),
     {.Name = "aLine", .Index = 3, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
     {.Name = "Label", .Index = 23, .Text = "Preflop Raise ALL IN", .Place = {540, 360, 4095, 480}, .Fore = 0x336699,
-     .Font = kArial20p25Bold},
-    {.Name = "lblOr", .Index = 2, .Text = "or", .Place = {8760, 6180, 195, 255}, .Font = kArial11p25},
+     .Font = Bold(Arial(20.25))},
+    {.Name = "lblOr", .Index = 2, .Text = "or", .Place = {8760, 6180, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 2, .Text = "Edit this Range...", .Place = {9060, 6180, 1665, 255},
-     .Fore = 0x004040, .Font = kArial11p25Underlined, .Use = kLink,
+     .Fore = 0x004040, .Font = Underlined(Arial(11.25)), .Use = kLink,
      .Spoken = "Edit this Range... Calling Range"},
-    {.Name = "lblOr", .Index = 1, .Text = "or", .Place = {3060, 6180, 195, 255}, .Font = kArial11p25},
+    {.Name = "lblOr", .Index = 1, .Text = "or", .Place = {3060, 6180, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 1, .Text = "Edit this Range...", .Place = {3360, 6180, 1665, 255},
-     .Fore = 0x004040, .Font = kArial11p25Underlined, .Use = kLink,
+     .Fore = 0x004040, .Font = Underlined(Arial(11.25)), .Use = kLink,
      .Spoken = "Edit this Range... Current Range"},
-    {.Name = "Label", .Index = 30, .Text = "or", .Place = {8760, 5820, 195, 255}, .Font = kArial11p25},
+    {.Name = "Label", .Index = 30, .Text = "or", .Place = {8760, 5820, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblNewRange", .Index = 2, .Text = "Create a New Range...", .Place = {9060, 5820, 2220, 255},
-     .Fore = 0xC04000, .Font = kArial11p25Underlined, .Use = kLink,
+     .Fore = 0xC04000, .Font = Underlined(Arial(11.25)), .Use = kLink,
      .Spoken = "Create a New Range... Calling Range"},
-    {.Name = "Label", .Index = 29, .Text = "or", .Place = {3060, 5820, 195, 255}, .Font = kArial11p25},
+    {.Name = "Label", .Index = 29, .Text = "or", .Place = {3060, 5820, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblNewRange", .Index = 1, .Text = "Create a New Range...", .Place = {3360, 5820, 2220, 255},
-     .Fore = 0xC04000, .Font = kArial11p25Underlined, .Use = kLink,
+     .Fore = 0xC04000, .Font = Underlined(Arial(11.25)), .Use = kLink,
      .Spoken = "Create a New Range... Current Range"},
-    {.Name = "Label", .Index = 28, .Text = "5.", .Place = {6240, 4980, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 27, .Text = "4.", .Place = {540, 4980, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 26, .Text = "3.", .Place = {540, 3780, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 25, .Text = "2.", .Place = {540, 2460, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
-    {.Name = "Label", .Index = 24, .Text = "1. ", .Place = {540, 1260, 360, 270}, .Back = 0x336699, .Fore = 0xFFFFFF,
-     .Font = kArial11p25Bold, .Alignment = kMiddle},
+    StepNumber(28, "5.", 6240, 4980),
+    StepNumber(27, "4.", 540, 4980),
+    StepNumber(26, "3.", 540, 3780),
+    StepNumber(25, "2.", 540, 2460),
+    StepNumber(24, "1. ", 540, 1260),
     {.Name = "Label", .Index = 22, .Text = "Fold? Go ALL IN? Let's find out...", .Place = {8340, 540, 2760, 240}},
     {.Name = "ShapeBorder", .Index = 4, .Kind = kRoundedShape, .Place = {1320, 4200, 3015, 435}, .Back = 0xFFFFFF,
      .Fore = 0x336699},
@@ -231,96 +192,96 @@ inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     {.Name = "ShapeBorder", .Index = 2, .Kind = kRoundedShape, .Place = {1320, 1740, 3015, 435}, .Back = 0xFFFFFF,
      .Fore = 0x336699},
     {.Name = "Label", .Index = 8, .Text = "What range will he call with?", .Place = {6780, 4920, 4335, 375},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
     {.Name = "Label", .Index = 7, .Text = "What is his current range?", .Place = {1200, 4920, 3285, 330},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
     {.Name = "Label", .Index = 6, .Text = "How much will your opponent have to call if you go ALL IN?",
-     .Place = {1200, 3720, 7695, 315}, .Font = kArial14p25},
+     .Place = {1200, 3720, 7695, 315}, .Font = Arial(14.25)},
     {.Name = "Label", .Index = 5, .Text = "How much do you have to call?", .Place = {1200, 2460, 3900, 330},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
     {.Name = "Label", .Index = 3, .Text = "How much is the current pot?", .Place = {1200, 1260, 3750, 360},
-     .Font = kArial14p25},
+     .Font = Arial(14.25)},
 });
 
 // Equity Only
 inline constexpr auto kEquityOnly = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 2, .Kind = kPicture, .Place = {7920, 3240, 3015, 795}, .Back = 0xFFFFFF,
-     .Font = kArial12, .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
-    {.Name = "cmboRanges", .Index = 3, .Kind = kChooser, .Place = {660, 2340, 4395, 390}, .Font = kVerdana11p25,
+     .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
+    {.Name = "cmboRanges", .Index = 3, .Kind = kChooser, .Place = {660, 2340, 4395, 390}, .Font = Verdana(11.25),
      .Spoken = "Select a Range:"},
     {.Name = "lblNewRange", .Index = 3, .Text = "Create a New Range...", .Place = {2820, 2820, 2220, 255},
-     .Fore = 0xC04000, .Font = kArial11p25Underlined, .Use = kLink},
-    {.Name = "Label", .Index = 63, .Text = "or", .Place = {2520, 2820, 195, 255}, .Font = kArial11p25},
+     .Fore = 0xC04000, .Font = Underlined(Arial(11.25)), .Use = kLink},
+    {.Name = "Label", .Index = 63, .Text = "or", .Place = {2520, 2820, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 3, .Text = "Edit this Range...", .Place = {2820, 3180, 1665, 255},
-     .Fore = 0x004040, .Font = kArial11p25Underlined, .Use = kLink},
-    {.Name = "lblOr", .Index = 3, .Text = "or", .Place = {2520, 3180, 195, 255}, .Font = kArial11p25},
-    {.Name = "Label", .Index = 62, .Text = "Select a Range:", .Place = {540, 1920, 2025, 330}, .Font = kArial14p25},
+     .Fore = 0x004040, .Font = Underlined(Arial(11.25)), .Use = kLink},
+    {.Name = "lblOr", .Index = 3, .Text = "or", .Place = {2520, 3180, 195, 255}, .Font = Arial(11.25)},
+    {.Name = "Label", .Index = 62, .Text = "Select a Range:", .Place = {540, 1920, 2025, 330}, .Font = Arial(14.25)},
     {.Name = "Label", .Index = 61, .Text = "Show me the equity!", .Place = {9000, 540, 2145, 255},
-     .Font = kArial11p25},
+     .Font = Arial(11.25)},
     {.Name = "Label", .Index = 60, .Text = "Equity Only", .Place = {540, 360, 2295, 480}, .Fore = 0x336699,
-     .Font = kArial20p25Bold},
+     .Font = Bold(Arial(20.25))},
     {.Name = "aLine", .Index = 5, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
 });
 
 // ALL IN Grid, with its two frames
 inline constexpr auto kAllInGrid = std::to_array<ControlRow>({
-    {.Name = "frameLegend", .Kind = kFrame, .Place = {6420, 5220, 4995, 2235}, .Back = 0xFFFFFF, .Font = kArial12},
+    {.Name = "frameLegend", .Kind = kFrame, .Place = {6420, 5220, 4995, 2235}, .Back = 0xFFFFFF, .Font = Arial(12)},
     {.Name = "frameHover", .Kind = kFrame, .Place = {7620, 1740, 3855, 4035}, .Back = 0xE0E0E0,
-     .Fore = kWindowTextColor, .Font = kArial12, .Hidden = true},
+     .Fore = kWindowTextColor, .Font = Arial(12), .Hidden = true},
     {.Name = "txtHandInfo", .Kind = kReadOnlyMemo, .Text = "-\r\n", .Place = {540, 6660, 5535, 1035},
-     .Fore = 0x404040, .Font = kArial9, .Spoken = "Situation"},
+     .Fore = 0x404040, .Font = Arial(9), .Spoken = "Situation"},
     {.Name = "imgGridBack", .Kind = kPicture, .Place = {525, 945, 5565, 5565}, .Picture = "grid_back"},
     {.Name = "imgSaveAsRange", .Kind = kPicture, .Place = {5820, 8040, 540, 540}, .Use = kLink,
      .Picture = "save_as_range", .ToolTip = "Save this grid!", .Spoken = "Make a range of the profitable hands"},
     {.Name = "aShape", .Index = 1, .Kind = kLine, .Place = {6540, 840, 4260, 0}, .Fore = 0xC0C0C0},
     {.Name = "lblLink", .Index = 0, .Text = "Check out our online tutorials", .Place = {8460, 7740, 2505, 240},
-     .Fore = 0x33789C, .Font = kTahoma9p75Underlined, .Use = kLink},
+     .Fore = 0x33789C, .Font = Underlined(Tahoma(9.75)), .Use = kLink},
     {.Name = "Label", .Index = 14, .Text = "Want to learn more?", .Place = {6600, 7740, 1770, 240}, .Fore = 0x000000},
     {.Name = "Label", .Index = 11, .Text = "Results", .Place = {6540, 420, 4455, 315}, .Fore = 0x000000,
-     .Font = kTahoma15p75},
+     .Font = Tahoma(15.75)},
     {.Name = "imgSave", .Kind = kPicture, .Place = {240, 8100, 480, 480}, .Use = kLink, .Picture = "save_image",
      .ToolTip = "Save this grid!", .Spoken = "Save the grid as a picture"},
     {.Name = "lblGridTitle", .Text = "ALL IN Grid", .Place = {360, 420, 5595, 375}, .Fore = 0x008000,
-     .Font = kArial15p75},
+     .Font = Arial(15.75)},
     {.Name = "GridContainer", .Kind = kShape, .Place = {240, 180, 6135, 7815}, .Fore = 0x808080},
     {.Name = "shapeCardBack", .Index = 0, .Kind = kShape, .Place = {900, 1020, 405, 405}, .Back = 0xFFFF80,
      .Fore = 0x404040, .Hidden = true},
-    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {480, 1080, 435, 315}, .Font = kTahoma8p25,
+    {.Name = "lblCards", .Index = 0, .Text = "AA", .Place = {480, 1080, 435, 315}, .Font = Tahoma(8.25),
      .Hidden = true},
     {.Name = "Label", .Index = 9, .Text = " " QUILLON_WEB_HOST, .Place = {4200, 7680, 2055, 255}, .Fore = 0x808080,
-     .Font = kArial8p25},
+     .Font = Arial(8.25)},
     {.Name = "shapeBlue", .Kind = kShape, .Place = {420, 840, 5760, 5700}, .Back = 0xE0E0E0, .Fore = 0x33789C,
      .Hidden = true},
     {.Name = "lblResults", .Text = "No analysis has been performed.", .Place = {6600, 1020, 3840, 4410},
-     .Font = kTahoma11p25},
+     .Font = Tahoma(11.25)},
 });
 
 inline constexpr auto kLegend = std::to_array<ControlRow>({
     {.Name = "Picture1", .Kind = kPicture, .Place = {420, 840, 315, 315}, .Back = kWindowColor,
-     .Fore = kWindowTextColor, .Font = kArial12, .Picture = "legend_green", .Spoken = "Green"},
+     .Fore = kWindowTextColor, .Font = Arial(12), .Picture = "legend_green", .Spoken = "Green"},
     {.Name = "Picture2", .Kind = kPicture, .Place = {420, 1320, 315, 315}, .Back = kWindowColor,
-     .Fore = kWindowTextColor, .Font = kArial12, .Picture = "legend_red", .Spoken = "Red"},
+     .Fore = kWindowTextColor, .Font = Arial(12), .Picture = "legend_red", .Spoken = "Red"},
     {.Name = "Label", .Index = 12, .Text = "Legend", .Place = {300, 320, 930, 345}, .Back = 0xFFFFFF,
-     .Fore = 0x000000, .Font = kTahoma14p25},
-    {.Name = "Label", .Index = 13, .Text = kBadLegend, .Place = {900, 1380, 390, 270}, .Font = kTahoma11p25},
-    {.Name = "Label", .Index = 15, .Text = kGoodLegend, .Place = {900, 855, 1005, 270}, .Font = kTahoma11p25},
+     .Fore = 0x000000, .Font = Tahoma(14.25)},
+    {.Name = "Label", .Index = 13, .Text = kBadLegend, .Place = {900, 1380, 390, 270}, .Font = Tahoma(11.25)},
+    {.Name = "Label", .Index = 15, .Text = kGoodLegend, .Place = {900, 855, 1005, 270}, .Font = Tahoma(11.25)},
     {.Name = "Shape1", .Kind = kShape, .Place = {180, 480, 4095, 1575}, .Fore = 0xC0C0C0,
      .Style = LineStyle::kDotted},
 });
 
 inline constexpr auto kHoverPanel = std::to_array<ControlRow>({
     {.Name = "lblHov_Advice", .Text = "You should go ALLIN", .Place = {60, 3000, 3735, 315}, .Fore = 0xFFFFFF,
-     .Font = kArial9p75Bold, .Alignment = kMiddle},
+     .Font = Bold(Arial(9.75)), .Alignment = kMiddle},
     {.Name = "aRectangle", .Index = 1, .Kind = kShape, .Place = {0, 2940, 3795, 375}, .Back = 0x404040},
-    {.Name = "lblHov_FoldPerc", .Text = "50%", .Place = {2400, 2040, 390, 240}, .Font = kArial9p75},
-    {.Name = "lblHovDesc_FoldPerc", .Text = kFoldShareTitle, .Place = {120, 2040, 1575, 240}, .Font = kArial9p75},
-    {.Name = "lblHov_ROI", .Text = "20%", .Place = {2400, 1560, 390, 240}, .Font = kArial9p75},
-    {.Name = "lblHov_EV", .Text = "+200", .Place = {2400, 1260, 435, 240}, .Font = kArial9p75},
-    {.Name = "lblHov_Eq", .Text = "0.50", .Place = {2400, 960, 375, 240}, .Font = kArial9p75Bold},
-    {.Name = "lblHovDesc_ROI", .Text = kReturnTitle, .Place = {180, 1560, 390, 240}, .Font = kArial9p75},
-    {.Name = "lblHovDesc_EV", .Text = kValueTitle, .Place = {180, 1260, 330, 240}, .Font = kArial9p75},
-    {.Name = "lblHovDesc_Eq", .Text = "Equity (Win %):", .Place = {180, 960, 1380, 240}, .Font = kArial9p75},
-    {.Name = "lblHov_Cards", .Text = "AA", .Place = {180, 240, 690, 600}, .Font = kArial26p25},
+    {.Name = "lblHov_FoldPerc", .Text = "50%", .Place = {2400, 2040, 390, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHovDesc_FoldPerc", .Text = kFoldShareTitle, .Place = {120, 2040, 1575, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHov_ROI", .Text = "20%", .Place = {2400, 1560, 390, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHov_EV", .Text = "+200", .Place = {2400, 1260, 435, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHov_Eq", .Text = "0.50", .Place = {2400, 960, 375, 240}, .Font = Bold(Arial(9.75))},
+    {.Name = "lblHovDesc_ROI", .Text = kReturnTitle, .Place = {180, 1560, 390, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHovDesc_EV", .Text = kValueTitle, .Place = {180, 1260, 330, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHovDesc_Eq", .Text = "Equity (Win %):", .Place = {180, 960, 1380, 240}, .Font = Arial(9.75)},
+    {.Name = "lblHov_Cards", .Text = "AA", .Place = {180, 240, 690, 600}, .Font = Arial(26.25)},
     {.Name = "rectHov", .Kind = kShape, .Place = {10, 10, 3780, 3315}, .Fore = 0x404040, .LineWidth = 2},
     {.Name = "imgHover", .Kind = kPicture, .Place = {0, 0, 4200, 3750}, .Picture = "hover_green"},
 });
@@ -330,18 +291,18 @@ inline constexpr auto kDetails = std::to_array<ControlRow>({
     {.Name = "cmbo169", .Kind = kChooser, .Place = {2460, 7800, 1275, 360}, .Hidden = true,
      .Spoken = "Add Specific Hand:"},
     {.Name = "cmboOutputType", .Kind = kChooser, .Place = {9000, 7800, 2655, 360}, .Spoken = "Type of output:"},
-    {.Name = "rtfSummary", .Kind = kRichTextBox, .Place = {540, 1140, 11055, 6495}, .Font = kVerdana9p75, .Spoken = "Analysis details"},
+    {.Name = "rtfSummary", .Kind = kRichTextBox, .Place = {540, 1140, 11055, 6495}, .Font = Verdana(9.75), .Spoken = "Analysis details"},
     {.Name = "lblSpecificHand", .Text = "Add Specific Hand:", .Place = {240, 7860, 1860, 255}, .Hidden = true},
     {.Name = "Label", .Index = 65, .Text = "Type of output:", .Place = {7380, 7860, 1440, 255}},
     {.Name = "Label", .Index = 32, .Text = "Analysis Details", .Place = {540, 540, 2385, 360}, .Fore = 0x336699,
-     .Font = kArial15p75Bold},
+     .Font = Bold(Arial(15.75))},
     {.Name = "aShape", .Index = 5, .Kind = kLine, .Place = {540, 1020, 11040, 0}, .Fore = 0x336699},
     {.Name = "Label", .Index = 31, .Text = "For the mathematically inclined...", .Place = {8505, 660, 2850, 240}},
 });
 
 // Progress
 inline constexpr auto kProgress = std::to_array<ControlRow>({
-    {.Name = "picProgBar", .Kind = kShape, .Place = {1980, 3180, 7815, 495}, .Back = 0x1B56BA, .Font = kArial12,
+    {.Name = "picProgBar", .Kind = kShape, .Place = {1980, 3180, 7815, 495}, .Back = 0x1B56BA, .Font = Arial(12),
      .Style = LineStyle::kNone},
     {.Name = "Shape3", .Kind = kShape, .Place = {120, 300, 855, 375}, .Fore = 0x800000},
     {.Name = "lblStopCalc", .Text = "< Back", .Place = {195, 360, 720, 240}, .Fore = 0x800000, .Use = kLink},
@@ -360,9 +321,9 @@ inline constexpr auto kProgress = std::to_array<ControlRow>({
          "Did you know that you can perform addition and subtraction in the text boxes? For example next "
          "time try typing:",
      .Place = {360, 6060, 4035, 735}, .Fore = 0x808080},
-    {.Name = "lblProgressMsg", .Text = "Quillon...", .Place = {1920, 1440, 7860, 1575}, .Font = kArial18Bold,
+    {.Name = "lblProgressMsg", .Text = "Quillon...", .Place = {1920, 1440, 7860, 1575}, .Font = Bold(Arial(18)),
      .Alignment = kMiddle},
-    {.Name = "lblProgressPerc", .Text = "%...", .Place = {1980, 3960, 7920, 255}, .Font = kArial9p75,
+    {.Name = "lblProgressPerc", .Text = "%...", .Place = {1980, 3960, 7920, 255}, .Font = Arial(9.75),
      .Alignment = kMiddle},
     {.Name = "aImage", .Index = 2, .Kind = kPicture, .Place = {10860, 7140, 420, 330}, .Picture = "progress_mark"},
 });
@@ -375,10 +336,10 @@ inline constexpr auto kAboutFrame = std::to_array<ControlRow>({
 inline constexpr auto kAbout = std::to_array<ControlRow>({
     {.Name = "chkUpgrade", .Kind = kCheckBox, .Text = "Automatically check for upgrades",
      .Place = {6000, 4140, 3615, 315}, .Back = 0xFFFFFF},
-    {.Name = "cmdSendFeedback", .Kind = kButton, .Text = "Send", .Place = {6600, 7020, 1335, 375}, .Font = kTahoma9},
-    {.Name = "txtFeedback", .Kind = kMemo, .Place = {420, 6060, 6015, 1395}, .Font = kArial9, .Spoken = "Feedback"},
+    {.Name = "cmdSendFeedback", .Kind = kButton, .Text = "Send", .Place = {6600, 7020, 1335, 375}, .Font = Tahoma(9)},
+    {.Name = "txtFeedback", .Kind = kMemo, .Place = {420, 6060, 6015, 1395}, .Font = Arial(9), .Spoken = "Feedback"},
     {.Name = "lblLink", .Index = 3, .Text = "Download Upgrade", .Place = {5940, 3660, 4275, 240}, .Fore = 0x336699,
-     .Font = kTahoma9p75BoldUnderlined, .Hidden = true, .Use = kLink},
+     .Font = Underlined(Bold(Tahoma(9.75))), .Hidden = true, .Use = kLink},
     {.Name = "lblCurrentVersion", .Text = "0.5", .Place = {7500, 3120, 2805, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 58, .Text = "Latest Version:", .Place = {5940, 3120, 1485, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 57, .Text = "Good luck at the tables.", .Place = {420, 3060, 3675, 315}},
@@ -395,47 +356,47 @@ inline constexpr auto kAbout = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 52, .Text = "Throw in your 2¢. Let us know what you'd like to see next:",
      .Place = {420, 5700, 5865, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 42, .Text = "Send us Feedback", .Place = {420, 5220, 4140, 405}, .Fore = 0x000000,
-     .Font = kTahoma18},
+     .Font = Tahoma(18)},
     {.Name = "lblNumRanges", .Text = "0", .Place = {7560, 2220, 1485, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 51, .Text = "# Ranges:", .Place = {5940, 2220, 1485, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 33, .Text = "Quick Info", .Place = {5820, 1560, 1635, 435}, .Fore = 0x000000,
-     .Font = kTahoma18},
+     .Font = Tahoma(18)},
     {.Name = "aImage", .Index = 0, .Kind = kPicture, .Place = {5640, 1320, 4785, 900}, .Picture = "about_header"},
     {.Name = "aRectangle", .Index = 3, .Kind = kShape, .Place = {5640, 2040, 4755, 2775}, .Fore = 0xE0E0E0},
     {.Name = "aLine", .Index = 4, .Kind = kLine, .Place = {480, 660, 10920, 0}, .Fore = 0x336699},
     {.Name = "Label", .Index = 34, .Text = "Welcome to Quillon!", .Place = {420, 0, 5295, 480}, .Fore = 0x336699,
-     .Font = kArial20p25Bold},
+     .Font = Bold(Arial(20.25))},
 });
 
 // The store: pictures for the hover panel, the list of range files, and the chooser that a new range is for.
 inline constexpr auto kStore = std::to_array<ControlRow>({
-    {.Name = "fileList", .Kind = kListBox, .Place = {300, 6300, 2535, 1845}, .Font = kMSSansSerif8p25,
+    {.Name = "fileList", .Kind = kListBox, .Place = {300, 6300, 2535, 1845}, .Font = MsSansSerif(8.25),
      .Hidden = true},
-    {.Name = "backBlue", .Kind = kPicture, .Place = {300, 4320, 2535, 1875}, .Font = kArial12,
+    {.Name = "backBlue", .Kind = kPicture, .Place = {300, 4320, 2535, 1875}, .Font = Arial(12),
      .Picture = "hover_blue"},
-    {.Name = "backRed", .Kind = kPicture, .Place = {300, 2340, 2535, 1875}, .Font = kArial12, .Picture = "hover_red"},
-    {.Name = "backGreen", .Kind = kPicture, .Place = {300, 420, 2535, 1875}, .Font = kArial12,
+    {.Name = "backRed", .Kind = kPicture, .Place = {300, 2340, 2535, 1875}, .Font = Arial(12), .Picture = "hover_red"},
+    {.Name = "backGreen", .Kind = kPicture, .Place = {300, 420, 2535, 1875}, .Font = Arial(12),
      .Picture = "hover_green"},
     {.Name = "lblLastEdit", .Text = "0", .Place = {300, 8220, 2535, 315}, .Back = kWindowColor,
-     .Fore = kWindowTextColor, .Font = kVerdana8p25, .Hidden = true},
+     .Fore = kWindowTextColor, .Font = Verdana(8.25), .Hidden = true},
 });
 
 /// Each table comes after the one that holds its container.
 inline constexpr auto kTables = std::to_array<ControlTable>({
-    {.Container = "", .Font = kVerdana8p25, .Rows = kScreens},
-    {.Container = "", .Font = kVerdana8p25, .Rows = kSidePanel},
-    {.Container = "frameContent(0)", .Font = kVerdana8p25, .Rows = kPreflopCall},
-    {.Container = "frameContent(4)", .Font = kVerdana8p25, .Rows = kPreflopRaise},
-    {.Container = "frameContent(6)", .Font = kArial12, .Rows = kEquityOnly},
-    {.Container = "frameContent(1)", .Font = kMSSansSerif8p25, .Rows = kAllInGrid},
-    {.Container = "frameLegend", .Font = kArial12, .Rows = kLegend},
-    {.Container = "frameHover", .Font = kArial12, .Rows = kHoverPanel},
-    {.Container = "frameContent(2)", .Font = kMSSansSerif8p25, .Rows = kDetails},
-    {.Container = "frameContent(3)", .Font = kMSSansSerif9p75, .Rows = kProgress},
-    {.Container = "frameContent(5)", .Font = kMSSansSerif8p25, .Rows = kAboutFrame},
+    {.Container = "", .Font = Verdana(8.25), .Rows = kScreens},
+    {.Container = "", .Font = Verdana(8.25), .Rows = kSidePanel},
+    {.Container = "frameContent(0)", .Font = Verdana(8.25), .Rows = kPreflopCall},
+    {.Container = "frameContent(4)", .Font = Verdana(8.25), .Rows = kPreflopRaise},
+    {.Container = "frameContent(6)", .Font = Arial(12), .Rows = kEquityOnly},
+    {.Container = "frameContent(1)", .Font = MsSansSerif(8.25), .Rows = kAllInGrid},
+    {.Container = "frameLegend", .Font = Arial(12), .Rows = kLegend},
+    {.Container = "frameHover", .Font = Arial(12), .Rows = kHoverPanel},
+    {.Container = "frameContent(2)", .Font = MsSansSerif(8.25), .Rows = kDetails},
+    {.Container = "frameContent(3)", .Font = MsSansSerif(9.75), .Rows = kProgress},
+    {.Container = "frameContent(5)", .Font = MsSansSerif(8.25), .Rows = kAboutFrame},
     // At 12 points, Label(56) would run into Label(57), and Label(58) into lblCurrentVersion.
-    {.Container = "frameAboutContent", .Font = kArial9p75, .Rows = kAbout},
-    {.Container = "frameControls", .Font = kArial12, .Rows = kStore},
+    {.Container = "frameAboutContent", .Font = Arial(9.75), .Rows = kAbout},
+    {.Container = "frameControls", .Font = Arial(12), .Rows = kStore},
 });
 
 // clang-format on

@@ -117,6 +117,7 @@ void CurvePage::ShowBelowBoxes(QWidget& part) {
 
 void CurvePage::Tell(const std::string& words) {
   words_.setText(ToQt(words));
+  if (!words.empty()) Announce(*this, words_.text());
 }
 
 TextBox& CurvePage::AddBox(QHBoxLayout& row, const char* caption, const char* spoken, int stretch) {
@@ -159,7 +160,6 @@ void CurvePage::Read() {
   const auto refuse = [this](const std::string& what, const std::string& reason) {
     answers_ = false;
     Tell(what + ": " + reason);
-    Announce(*this, words_.text());
   };
   auto hands = ReadCurveHands(FromQt(hands_->text()), bestFirst_);
   if (const auto* const reason = std::get_if<std::string>(&hands)) return refuse("Hands", *reason);
@@ -200,7 +200,6 @@ void CurvePage::CopyPicture() {
   painter.end();
   QGuiApplication::clipboard()->setImage(image);
   Tell("The picture is copied.");
-  Announce(*this, words_.text());
 }
 
 void CurvePage::SavePicture() {
@@ -225,7 +224,6 @@ void CurvePage::Save(const char* title, const char* kind, const std::string& byt
   if (file.empty()) return;
   ReplaceFile(file, bytes, folder_.Path, *folder_.Calls);
   Tell("Saved as " + TextOfFileName(file.filename().string()) + ".");
-  Announce(*this, words_.text());
 }
 
 }  // namespace quillon

@@ -69,7 +69,7 @@ class CurvePage : public StudyPage {
   /// They are whole: has the figure told to a player who has asked for it.
   void TellFigure();
 
-  /// Says beside the buttons what is wrong, or what has been done; empty: nothing.
+  /// Says beside the buttons, and to a screen reader, what is wrong or has been done; empty: nothing.
   void Tell(const std::string& words);
 
   /// Puts a part of the page's own above the figures.
