@@ -282,7 +282,6 @@ bool WindowSession::IsAt(QPoint place, QPoint wanted) {
   return (place - wanted).manhattanLength() <= (WindowsFolder() ? kFrames : 0);
 }
 
-// Those of the process itself: the programs of several starts have windows of the same titles.
 QRect WindowSession::LayNote(QPoint corner, const Window& keeper) {
   const std::string place = "+" + std::to_string(corner.x()) + "+" + std::to_string(corner.y());
   note_ = StartBeside("xmessage", {"-geometry", place, "-bg", "yellow", "Back at nine."});
@@ -295,6 +294,7 @@ QRect WindowSession::LayNote(QPoint corner, const Window& keeper) {
   return PlaceOf(ids.front());
 }
 
+// Those of the process itself: the programs of several starts have windows of the same titles.
 std::vector<std::string> WindowSession::FindIds() const {
   return Lines(Ask("xdotool", {"search", "--onlyvisible", "--all", "--pid", std::to_string(Running().Id())}));
 }

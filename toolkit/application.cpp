@@ -103,7 +103,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   // X11 calls the class of its windows by the application's name, and Wayland by that of the desktop file.
   setApplicationName(QStringLiteral(QUILLON_APPLICATION_ID));
   setDesktopFileName(QStringLiteral(QUILLON_APPLICATION_ID));
-  // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder.
+  // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder. On Windows
+  // the history is in the registry, where no path leads.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
   LoadFonts();
   UseLightLook();

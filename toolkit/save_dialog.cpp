@@ -10,6 +10,8 @@
 
 #include "support/file_names.h"
 #include "support/files.h"
+#include "support/joined_text.h"
+#include "toolkit/message_dialogs.h"
 #include "toolkit/single_line.h"
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
@@ -61,7 +63,12 @@ class FileNameDialog : public QFileDialog {
     }
     const QString name = file.fileName();
     const std::string bytes = FromQt(name);
-    if (bytes.empty() || bytes.size() > kLongestName || !NameFault(bytes).empty()) return;  // no file can be called so
+    if (bytes.empty() || bytes.size() > kLongestName) return;  // no file can be called so
+    if (const std::string_view fault = NameFault(bytes); !fault.empty()) {
+      MessageDialogs().Show(
+          {.text = Joined({"The name ", fault, ". Please choose another one."}), .icon = MessageIcon::kExclamation});
+      return;
+    }
     fileName_ = file.absoluteFilePath();
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): QFileDialog's would look for marks in the name
   }

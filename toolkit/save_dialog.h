@@ -18,7 +18,8 @@ struct SaveQuestion {
 };
 
 /// Asks, over the window of `parent`, and returns the path chosen, empty if the dialog is cancelled. A "~/" at the
-/// start is the user's home, the name of a folder opens it, and a name that no file can have leaves the dialog open.
+/// start is the user's home, the name of a folder opens it, and a name that no file can have leaves the dialog open,
+/// with a message where it is only this system that cannot store it.
 /// Paths that are not UTF-8 are kept byte for byte.
 [[nodiscard]] std::filesystem::path AskFileName(QWidget& parent, const SaveQuestion& question);
 

@@ -37,7 +37,7 @@ fuzz=(clang-14 libclang-rt-14-dev)
 # Programs for Windows, and what runs them.
 windows=(g++-mingw-w64-x86-64-posix googletest python3 wine wine64)
 # The zip: Qt from its sources, the icon, the archive.
-windows+=(dpkg-dev librsvg2-bin icoutils zip)
+windows+=(dpkg-dev librsvg2-bin icoutils zip unzip)
 newer=(clang-16)
 coverage=("${fuzz[@]}" llvm-14)
 pages=(chromium)

@@ -31,8 +31,7 @@ namespace {
 // "K9o shove.svg", or "K9o shove 2.svg" where that is taken: the dialog does not ask before it replaces a file.
 std::string FreeName(const std::filesystem::path& folder, const std::string& stem, const std::string& extension) {
   std::string name = stem + extension;
-  std::error_code unknown;
-  for (int number = 2; std::filesystem::exists(folder / name, unknown); ++number)
+  for (int number = 2; IsThere(folder / name); ++number)
     name = Joined({stem, " ", std::to_string(number), extension});
   return name;
 }

@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Makes what players on Windows unpack: dist/Quillon-VERSION-windows-x86_64.zip. Two makings of the same sources are the
-# same, byte for byte, as long as Qt is: the first one makes it (tools/windows/qt.sh), with its time in the table of MIME
-# types.
+# same, byte for byte. The first one makes Qt (tools/windows/qt.sh).
 #
 #   tools/windows/build.sh
 set -euo pipefail

@@ -138,7 +138,7 @@ class Companion:
 
     def ask(self, arguments, typed=""):
         done = subprocess.run([*self.start, *arguments], input=typed.encode(), capture_output=True,
-                              cwd=self.root / "Elsewhere", check=False)
+                              cwd=self.root / "Elsewhere", check=False, timeout=60)
         return done.returncode, self.plain(done.stdout), self.plain(done.stderr)
 
     def at_a_terminal(self, arguments, output=None, typed=b"", pressed=b""):
@@ -151,7 +151,10 @@ class Companion:
         os.close(theirs)
         shown = b""
         next_time = time.monotonic()
+        limit = next_time + 60
         while process.poll() is None:
+            if time.monotonic() > limit:
+                process.kill()
             if pressed and os.fstat(output.fileno()).st_size > 0:
                 os.write(ours, pressed)
                 typed = pressed = b""
@@ -163,8 +166,13 @@ class Companion:
                     shown += os.read(ours, 65536)
                 except OSError:  # nothing has the other end open any more
                     break
+        while select.select([ours], [], [], 1)[0]:  # what another process, as Wine's console is, has yet to show
+            try:
+                shown += os.read(ours, 65536)
+            except OSError:
+                break
         os.close(ours)
-        return process.wait(), shown
+        return process.wait(60), shown
 
     def interrupted_batch(self, *file, typed=b""):
         """The exit status and the answers of a batch that Ctrl+C ends once there are some."""

@@ -11,11 +11,11 @@
 # refuses to its superuser: as root it all runs as the user nobody.
 set -euo pipefail
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
+programs=()
+[ $# -eq 0 ] || programs=("$(readlink -f "$1")" "$(readlink -f "$2")")
 cd "$here/../.."
 
-if [ $# -eq 2 ]; then
-  programs=("$(readlink -f "$1")" "$(readlink -f "$2")")
-else
+if [ $# -eq 0 ]; then
   tools/install_packages.sh windows
   for preset in release windows; do
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
@@ -26,7 +26,7 @@ fi
 
 scratch=$(mktemp -d)
 as=()
-trap '"${as[@]}" wineserver -k 2>/dev/null || true; rm -rf "$scratch"' EXIT
+trap '"${as[@]}" env WINEPREFIX="$scratch/wine" wineserver -k 2>/dev/null || true; rm -rf "$scratch"' EXIT
 cp "${programs[0]}" "$scratch/quillon-cli"
 cp "${programs[1]}" "$scratch/quillon-cli.exe"
 cp -r examples/Ranges "$scratch/Ranges"

@@ -24,7 +24,7 @@ unzip -q dist/Quillon-*-windows-x86_64.zip -d build/windows-unpacked
 QUILLON_WINDOWS_FOLDER=$(echo "$PWD"/build/windows-unpacked/*)
 export QUILLON_WINDOWS_FOLDER
 
-cmake --preset dev -DQUILLON_BENCH=OFF
+[ -f build/dev/build.ninja ] || cmake --preset dev
 cmake --build --preset dev --target window_journeys_test
 export WINEPREFIX=${WINEPREFIX:-$PWD/build/wine} WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 wineboot --init
