@@ -105,6 +105,7 @@ TEST_F(InputChecks, PreflopRaise) {
           {"ranges are not opened", {"15", "5", "100", "Missing", "Scribble"}, kNone},
           {"no current range", {"15", "5", "100", "", "Full"}, kNoCurrentRange},
           {"no calling range", {"15", "5", "100", "Full", ""}, kNoCallingRange},
+          {"neither range", {"0", "-1", "0", "", ""}, kNoCurrentRange},
           {"the calling range is missed before the pot", {"0", "5", "100", "Full", ""}, kNoCallingRange},
           {"the pot is looked at before the call", {"0", "-1", "0", "Full", "Full"}, kRaisePotNotPositive},
           {"the call is looked at before the shove", {"15", "-1", "0", "Full", "Full"}, kCallNegative},

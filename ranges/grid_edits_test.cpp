@@ -105,6 +105,9 @@ TEST(GridHistory, GoesBackAndForth) {
     bool canRedo;
   };
   const auto gridNamed = [](char name) { return GridOf(std::string(2, name)); };
+  std::string many;
+  for (int i = 0; i < 500; ++i)
+    many += "34";
   for (const Case& c : std::vector<Case>{
            {"nothing yet", "", "2", false, false},
            {"one step back", "3<", "2", false, true},
@@ -112,6 +115,7 @@ TEST(GridHistory, GoesBackAndForth) {
            {"no further forth than the last step", "34<>>>", "4", true, false},
            {"a new step ends the way forth", "345<<6", "6", true, false},
            {"and the way back goes past it", "345<<6<<", "2", false, true},
+           {"any number of steps", many + std::string(1000, '<'), "2", false, true},
            {"a step that changes nothing is none", "33", "3", true, false},
            {"nor does it end the way forth", "34<3", "3", true, true},
        }) {

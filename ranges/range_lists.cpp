@@ -35,7 +35,7 @@ std::u32string SortingKey(std::string_view fileName) {
 }  // namespace
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
-  std::set<std::pair<std::u32string, std::string>> entries;  // the key, the name
+  std::multiset<std::pair<std::u32string, std::string>> entries;  // the key, and the name, which two files may have
   for (const std::string& name : FileNamesIn(RangeFolderPath(folder)))
     entries.emplace(SortingKey(name), name);
   std::vector<std::string> names;

@@ -36,6 +36,13 @@ TEST(RangeFolderEntries, NamesTheSameInSmallLettersAreInByteOrder) {
                   "gamma.txt", "za.txt", "ZZ.txt", "×.txt", "ß.txt", "Ärger.txt", "ärger2.txt", "É.txt", "é.txt"));
 }
 
+TEST(RangeFolderEntries, NameThatIsNotUtf8IsShownAsWindows1252) {
+  const TemporaryProgram program;
+  for (const char* name : {"K\xE4se.txt", "Käse.txt", "Kabel.txt"})
+    program.Write(name);
+  EXPECT_THAT(RangeFolderEntries(program.Folder()), ElementsAre("Kabel.txt", "Käse.txt", "Käse.txt"));
+}
+
 TEST(RangeFolderEntries, FolderThatIsALinkToItselfIsFatalAndNamed) {
   const TemporaryProgram program;
   std::filesystem::remove(RangeFolderPath(program.Folder()));

@@ -114,6 +114,7 @@ TEST(RangeNotation, ReadsWeights) {
   ExpectReadings({
       {"in percent", "AA:50%,KK:100%", "KK", "AA"},
       {"as in a range file", "AA (0.5), KK (1), QQ (0), ", "KK", "AA"},
+      {"without a blank before it", "AA(0.5),KK( 1 )", "KK", "AA"},
       {"with a blank in the weight", "AA (0. 5), KK ( 10 0 % )", "KK", "AA"},
       {"of a run", "QQ+:.5, 76s-54s (5E-1)", "", "AA KK QQ 76s 65s 54s"},
       {"of a share", "top 1%:50%", "", "AA KK"},
@@ -154,6 +155,10 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"1e999%", "1e999%\n^ a share is from 0% to 100%"},
            {"AA:2", "AA:2\n^ " + weight},
            {"AA:", "AA:\n^ " + weight},
+           {"AA:-1", "AA:-1\n^ " + weight},
+           {"AA:nan", "AA:nan\n^ " + weight},
+           {"-5%", "-5%\n^ " + half},
+           {"JJ-88+", "JJ-88+\n^ \"+\" does not belong here"},
            {"AA (0.5 KK)", "AA (0.5 KK)\n^ \")\" is missing after the weight"},
            {"AA (1 1)", "AA (1 1)\n^ a weight is from 0 to 1, or from 0% to 100%"},
            {"AA (x)", "AA (x)\n^ " + weight},

@@ -119,10 +119,15 @@ TEST_P(EachPage, NeedsNothingFromElsewhere) {
 }
 
 TEST(AnalysisPage, OfARaiseHasTheFiguresOfEachHand) {
-  const std::string page = AnalysisPage(sample::RaiseState());
+  Analysis raise = sample::RaiseState();
+  raise.PotSize = 1.005;
+  raise.CallAmount = 0.126;
+  const std::string page = AnalysisPage(raise);
   EXPECT_THAT(SeenText(TableRows(page).at(0)), StartsWith("AA6+150.0000N/A100%"));
   EXPECT_THAT(SeenText(TableRows(page).at(168)), StartsWith("226-12.500030%0%"));
-  EXPECT_THAT(page, AllOf(HasSubstr("<dt>Shove Amount</dt><dd><b>62.5</b></dd>"),
+  EXPECT_THAT(page, AllOf(HasSubstr("<dt>Pot Size</dt><dd><b>1</b></dd>"),
+                          HasSubstr("<dt>Call Amount</dt><dd><b>0.13</b></dd>"),
+                          HasSubstr("<dt>Shove Amount</dt><dd><b>62.5</b></dd>"),
                           HasSubstr("<dt>His Calling Range</dt><dd><b>Tight</b><br>AA</dd>")));
   EXPECT_THAT(AnalysisPage(sample::EquityState()), AllOf(Not(HasSubstr("Pot Size")), Not(HasSubstr(">EV<"))));
 }

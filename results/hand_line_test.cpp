@@ -48,6 +48,7 @@ TEST(HandLine, HoldsTheWorkingOfTheHand) {
   const std::vector<LineCase> cases = {
       {"a call that wins has a plus sign", CallFor(150, 50), "AA", "120.46\t0.8523\t1",
        "EV for AA = 0.8523 * (200) - 50 = +120.46"},
+      {"an equity has four decimals", CallFor(150, 50), "AA", "1\t0.123456\t1", "EV for AA = 0.1235 * (200) - 50 = +1"},
       {"a call that wins nothing has no sign", CallFor(150, 50), "AKo", "0\t0.25\t1",
        "EV for AKo = 0.25 * (200) - 50 = 0"},
       {"a call that loses brings its minus sign", CallFor(150, 50), "72o", "-12.5\t0.1875\t1",

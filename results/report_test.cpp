@@ -184,6 +184,10 @@ TEST(Report, HeadingsOfThePlainFormAreLargerThanTheRest) {
         const char* const ofPlain = isHeading ? "font Arial, size 14, colour 0" : "font Courier New, size 10, colour 0";
         EXPECT_EQ(font, form == ReportForm::kForum ? "" : ofPlain) << call;
       }
+      const std::ptrdiff_t hands = form == ReportForm::kForum ? 0 : kHandClassCount;
+      EXPECT_TRUE(std::all_of(screen.Calls.end() - hands, screen.Calls.end(), [](const std::string& call) {
+        return call.starts_with("insert ");
+      })) << "no font is set for each row";
     }
   }
 }

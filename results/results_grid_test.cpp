@@ -165,6 +165,7 @@ TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
       sample::ResultsTable({{"AA", "5000000000\t0.9\t1"}, {"KK", "2500000000\t0.8\t1"}}, "-1\t0.1\t1");
 
   const std::vector<CellCase> cases = {
+      {"without results all are the palest green", kPreflopCall, "", "AA", "200, 255, 200"},
       {"the best is dark green", kPreflopCall, plain, "AA", "0, 120, 0"},
       {"half of the best", kPreflopRaise, plain, "QQ", "33, 255, 33"},
       {"a small win is pale green", kPreflopCall, plain, "AKs", "200, 255, 200"},

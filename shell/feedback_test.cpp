@@ -48,6 +48,7 @@ TEST(IsTimeToSend, IsSoAfterMoreThanFiveSeconds) {
       {"5,000 milliseconds are not enough", 1000, 6000, false},
       {"5,001 are", 1000, 6001, true},
       {"the last tick before the turn", kLast - 5001, kLast, true},
+      {"the longest way that 32 bits hold", -1, kLast - 1, true},
       {"after the turn all is well", -kLast - 1, -kLast, false},
       {"a clock that goes back has not come far", 1000, 0, false},
   };
@@ -55,6 +56,7 @@ TEST(IsTimeToSend, IsSoAfterMoreThanFiveSeconds) {
     EXPECT_EQ(IsTimeToSend(c.start, c.now), c.over) << c.rule;
   for (const std::int32_t start : {kLast, kLast - 5000})
     EXPECT_EQ(FaultOf([&] { return IsTimeToSend(start, -kLast - 1); }), RunTimeFault::kOverflow) << start;
+  EXPECT_EQ(FaultOf([] { return IsTimeToSend(-1, kLast); }), RunTimeFault::kOverflow);
 }
 
 TEST(FeedbackComplaint, LengthIsFromThreeToAThousandCharacters) {

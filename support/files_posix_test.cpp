@@ -44,6 +44,11 @@ TEST_F(ReplacingAFile, LinkIsFollowed) {
   EXPECT_FALSE(fs::is_symlink(elsewhere / "kept.txt"));
   EXPECT_EQ(BytesOf(elsewhere / "kept.txt"), kNew);
   EXPECT_THAT(Listing(elsewhere), testing::ElementsAre("kept.txt"));
+
+  WatchedCalls calls;
+  EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
+  EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path().lexically_normal(), elsewhere)
+      << "beside the file, not beside the link";
 }
 
 TEST_F(ReplacingAFile, CircleOfLinksAndPipeFailAndStay) {

@@ -245,6 +245,18 @@ TEST_F(ReplacingAFile, LastingFailureLeavesTheOldContentAndNoScratchFile) {
   }
 }
 
+TEST_F(WritingInPlace, FullDiskThatTakesNoCopyLeavesTheOldContent) {
+  Put(File(), kOld);
+  WatchedCalls calls([this](const MadeCall& entry, int) -> std::optional<int> {
+    if (entry.Purpose != OpenFor::kCreating) return std::nullopt;
+    return fs::path(entry.Path).parent_path() == ScratchFolder() ? -ENOSPC : -EACCES;
+  });
+  const auto error = Replace(calls);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Fault(), RunTimeFault::kDiskFull);
+  EXPECT_EQ(BytesOf(File()), kOld);
+}
+
 TEST_F(WritingInPlace, EachRefusalOfTheNameLeadsToIt) {
   for (const int refusal : {EACCES, EPERM, EROFS, EBUSY}) {
     Put(File(), kOld);

@@ -95,7 +95,7 @@ bool IsTooSmall(std::string_view compact) {
 double ParseCompact(std::string_view compact) {
   const bool negative = compact.starts_with('-');
   if (negative || compact.starts_with('+')) compact.remove_prefix(1);
-  if (compact.empty() || !(IsDigit(compact[0]) || compact[0] == '.')) return 0;  // a second sign
+  if (compact.empty() || !(IsDigit(compact[0]) || compact[0] == '.')) return 0;  // a second sign, "inf", "nan"
   double value = 0;
   const auto [end, fault] = std::from_chars(compact.data(), compact.data() + compact.size(), value);
   if (fault == std::errc::invalid_argument) return 0;

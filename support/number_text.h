@@ -36,7 +36,7 @@ namespace quillon {
 [[nodiscard]] double LeadingNumber(std::string_view text);
 
 /// The number at the start of what comes before the first `end` in a text, or of the whole text if it holds none:
-/// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there, without looking for the cut first.
+/// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there.
 [[nodiscard]] double LeadingNumberBefore(std::string_view text, char end);
 
 /// How amounts are written where the user lives, each mark as UTF-8 text: (€)(,)(.) in Germany. An empty one is none.

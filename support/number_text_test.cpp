@@ -110,6 +110,7 @@ TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
   const std::vector<ParseCase> cases = {
       {"too large by its exponent", "1e400", kLargest},
       {"too large by its digits", "1" + zeros, kLargest},
+      {"too large by its digits, before other text", "1" + zeros + "xe-999", kLargest},
       {"too large by its digits after zeros", zeros + "1" + zeros, kLargest},
       {"too large in spite of a negative exponent", "1" + zeros + "e-50", kLargest},
       {"too large after a point", "0.0001e400", kLargest},
@@ -216,6 +217,8 @@ TEST(IsNumericText, HeedsTheUsersMarks) {
       {"the currency between sign and digits", german, "-€100", true},
       {"both marks", german, "1.000.000,50", true},
       {"the marks of everywhere", german, "1,000.50", true},
+      {"the marks of everywhere and the currency", german, "1,000.50 €", true},
+      {"the dollar", german, "$100", true},
       {"marks of two kinds", german, "1.000,50.5", false},
       {"a group after the fraction", german, "1,000,000.5.5", false},
       {"two currencies", german, "€100€", false},

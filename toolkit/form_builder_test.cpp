@@ -132,6 +132,18 @@ TEST(FormBuilder, DressesControlsAsTheirRowsSay) {
   EXPECT_EQ(controls.ShapeAt("shape").LineWidth(), 2);
 }
 
+TEST(FormBuilder, GivesALineOfNoHeightAPixelToBeSeenBy) {
+  static constexpr std::array kRows = {
+      ControlRow{.Name = "across", .Kind = ControlKind::kLine, .Place = {150, 300, 1500, 0}},
+      ControlRow{.Name = "down", .Kind = ControlKind::kLine, .Place = {150, 300, 0, 1500}},
+  };
+  QWidget form;
+  const OneTable<kRows> controls(form);
+
+  EXPECT_EQ(controls.ShapeAt("across").geometry(), QRect(10, 20, 100, 1));
+  EXPECT_EQ(controls.ShapeAt("down").geometry(), QRect(10, 20, 1, 100));
+}
+
 TEST(FormBuilder, LeavesTheWheelToTheWindowAndToWhatHasTheFocus) {
   static constexpr std::array kRows = {
       ControlRow{.Name = "list", .Kind = ControlKind::kChooser, .Place = {0, 0, 3000, 300}},
