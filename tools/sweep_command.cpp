@@ -153,7 +153,7 @@ bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& input
   return false;
 }
 
-int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place, SweepQuestion question,
+int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place, SweepQuestion& question,
                    CommandInputs& inputs, const Surroundings& surroundings) {
   const auto steps = ReadSteps(kAmountOptions[place], request.situation.Amounts[place], inputs);
   if (!steps) return inputs.Status();
@@ -222,7 +222,7 @@ int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) 
   }
   for (const std::string& hand : request.hands)
     question.Hands.push_back(HandIndex(hand));
-  if (swept) return SweepTheAmount(mode, request, *swept, std::move(question), inputs, surroundings);
+  if (swept) return SweepTheAmount(mode, request, *swept, question, inputs, surroundings);
   return SweepTheWidth(mode, request, question, inputs, surroundings);
 }
 
