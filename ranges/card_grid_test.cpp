@@ -194,9 +194,9 @@ TEST(ShowRangeOnGrid, FailureNamesTheFileThatIsListed) {
       {"Both", "Both.txt"},   {"Käse", "Käse.txt"},     {"Missing", "Missing.txt"},
   };
   CellColors grid{};
-  for (const auto& [name, file] : cases) {
-    EXPECT_THAT(FaultTextOf([&] { ShowRangeOnGrid(grid, program.Folder(), name); }),
-                testing::HasSubstr("the range file \"" + std::string(file) + "\" holds"));
+  for (const auto& c : cases) {
+    EXPECT_THAT(FaultTextOf([&] { ShowRangeOnGrid(grid, program.Folder(), c.first); }),
+                testing::HasSubstr("the range file \"" + std::string(c.second) + "\" holds"));
   }
   std::filesystem::remove_all(RangeFolderPath(program.Folder()));
   EXPECT_EQ(FaultOf([&] { ShowRangeOnGrid(grid, program.Folder(), "Empty"); }), RunTimeFault::kInvalidProcedureCall)
