@@ -13,13 +13,13 @@ namespace {
 
 static_assert(std::tuple_size_v<decltype(kEquityPieces)> == kHandClassCount);
 
-// The module's one piece of state, written by LoadEquityTable alone and read-only ever after.
+// The only state here; LoadEquityTable writes it, and it is read-only afterwards.
 std::array<std::string, kHandClassCount>& Rows() {
   static std::array<std::string, kHandClassCount> rows;
   return rows;
 }
 
-// Where field number `column` of a row starts: after the space that ends the field before it.
+// Where field `column` of a row starts: after the space that ends the previous one.
 std::size_t FieldStart(std::string_view row, std::size_t column) {
   if (column == 0) return 0;
   const std::size_t blank = FindNthByte(row, ' ', column - 1);

@@ -1,9 +1,8 @@
 #pragma once
 
-// Equity of one starting-hand class against another, read from the program's constant table of text. The equity of a
-// class is the share of the pot that it takes when both hands are all in before the flop; "hand/equity_rows.h" says
-// what an entry means and how exact it is. There is no numeric form of the table: a lookup counts spaces along its row
-// and reads one number, and nothing is kept from one lookup to the next.
+// Equity of one starting-hand class against another, read from the constant table of text. It is the share of the pot
+// that the class wins when both hands are all in before the flop; see "hand/equity_rows.h" for its precision. There is
+// no numeric form of the table: a lookup counts spaces along a row and reads one number, and nothing is cached.
 
 #include <array>
 #include <string>
@@ -11,12 +10,12 @@
 
 namespace quillon {
 
-/// Joins the two pieces of each row and stores the 169 rows. Called once, when the program starts and before anything
-/// asks for an equity; calling it again changes nothing.
+/// Joins the two pieces of each row and stores the 169 rows. Called once at start, before anything asks for an equity;
+/// further calls have no effect.
 void LoadEquityTable();
 
 /// The 169 rows in class index order, each of 169 numbers followed by one space each; empty texts before
-/// LoadEquityTable. They never change once they are there.
+/// LoadEquityTable, constant afterwards.
 [[nodiscard]] const std::array<std::string, 169>& EquityRows();
 
 /// The equity, 0 to 1, of the class labelled `hand` against the class labelled `opponentHand`. The order matters: the

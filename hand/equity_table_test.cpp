@@ -28,7 +28,7 @@ class EquityTable : public testing::Test {
  protected:
   static void SetUpTestSuite() { LoadEquityTable(); }
 
-  // Every entry as it is in the table, row by row, less the empty field at a row's end.
+  // Every entry of the table, row by row.
   static const std::vector<std::vector<std::string>>& Entries() {
     static const std::vector<std::vector<std::string>> entries = [] {
       std::vector<std::vector<std::string>> rows;

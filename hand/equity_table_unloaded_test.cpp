@@ -4,7 +4,7 @@
 #include "hand/equity_table.h"
 #include "testing/fault_of.h"
 
-// A program of its own: once the table is loaded, a process cannot be without it again.
+// A separate program, since a process cannot unload the table.
 
 namespace quillon {
 namespace {

@@ -26,7 +26,7 @@ constexpr auto kLabels = [] {
 
 static_assert(kLabels[0] == "AA" && kLabels[1] == "AKs" && kLabels[13] == "AKo" && kLabels[168] == "22");
 
-// Place of each character among the rank letters, and kRankCount for any other character.
+// Index of each character among the rank letters, and kRankCount for any other character.
 constexpr auto kRankPlaces = [] {
   std::array<std::uint8_t, 256> places{};
   places.fill(kRankCount);
@@ -44,7 +44,7 @@ unsigned RankPlace(char letter) {
 
 std::int16_t HandIndex(std::string_view label) {
   if (label.size() < 2 || label.size() > 3) return 0;
-  // A label says where it is, so its index is computed rather than searched for.
+  // A label's index is computed rather than searched for.
   const unsigned high = RankPlace(label[0]);
   const unsigned low = RankPlace(label[1]);
   if (high >= kRankCount || low >= kRankCount) return 0;

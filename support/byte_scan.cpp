@@ -9,9 +9,9 @@
 #include <immintrin.h>
 #endif
 
-// One source, two machine codes: the loader resolves each search once, by what the processor offers. Sanitizers hook
-// into programs before such a choice can be made, and other compilers and loaders do it differently; they take the
-// baseline.
+// One source, two machine codes: the loader picks one for each search at start, by what the processor offers.
+// Sanitizers hook into programs before that choice can be made, and other compilers and loaders do it differently; they
+// take the baseline.
 #if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) && \
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define QUILLON_CHOOSES_PROCESSOR
@@ -22,9 +22,9 @@
 namespace quillon {
 namespace {
 
-// `Processor` policy: a byte vector, which the compiler compares and joins by itself, plus the two operations that the
-// compiler cannot derive: whether any byte of a mask is set, and a mask's bytes as bits, the first one lowest. A mask
-// has all bits of a byte set or none.
+// `Processor` policy: a byte vector, which the compiler compares and combines by itself, plus the two operations that
+// the compiler cannot derive: whether any byte of a mask is set, and a mask's bytes as bits, the first one lowest. A
+// mask has all bits of a byte set or none.
 #ifdef QUILLON_CHOOSES_PROCESSOR
 struct Avx2 {
   using Bytes = signed char __attribute__((vector_size(32)));
@@ -65,8 +65,8 @@ QUILLON_PART_OF_SCAN void Read(Bytes& bytes, const char* from) {
   std::memcpy(&bytes, from, sizeof bytes);
 }
 
-// How many bytes of a block of so many vectors are the one wanted; a byte holds the counts of seven vectors. The loop's
-// length is known while compiling and it makes no choice, so it becomes a few vector instructions.
+// How many bytes in a block of `Vectors` vectors equal the wanted one; a byte holds the counts of seven vectors. The
+// loop has a fixed length and no branches, so it becomes a few vector instructions.
 template <class Processor, std::size_t Vectors>
 QUILLON_PART_OF_SCAN std::size_t Count(const char* block, char wanted) {
   constexpr std::size_t kSize = Vectors * sizeof(typename Processor::Bytes);
@@ -77,14 +77,14 @@ QUILLON_PART_OF_SCAN std::size_t Count(const char* block, char wanted) {
   return count;
 }
 
-// The place of the set bit number `n` (from 0) of bits that have more than `n`.
+// The position of set bit number `n` (from 0) in a word that has more than `n` set.
 QUILLON_PART_OF_SCAN std::size_t PlaceOfBit(std::uint32_t bits, std::size_t n) {
   for (; n > 0; --n)
     bits &= bits - 1;
   return static_cast<std::size_t>(std::countr_zero(bits));
 }
 
-// Whole blocks are passed by their counts, then the vectors of the block that holds the place by theirs.
+// Skips whole blocks by their counts, then vectors within the block that holds the position.
 template <class Processor>
 QUILLON_PART_OF_SCAN std::size_t NthByte(std::string_view text, char byte, std::size_t n) {
   using Bytes = typename Processor::Bytes;
@@ -113,7 +113,7 @@ QUILLON_PART_OF_SCAN std::size_t NthByte(std::string_view text, char byte, std::
   return std::string_view::npos;
 }
 
-// A text of two or three characters: its first two and its last are all that it has.
+// A text of two or three characters: its first two and its last cover it.
 struct ShortText {
   signed char first;
   signed char second;
@@ -126,13 +126,13 @@ constexpr std::size_t kVectorsOfSearch = 4;
 template <class Processor>
 constexpr std::size_t kSearchedBlock = kVectorsOfSearch * sizeof(typename Processor::Bytes);
 
-// Place of the first occurrence that starts in a block, or the block's size if none does.
+// Position of the first occurrence that starts in a block, or the block's size if none does.
 template <class Processor>
 QUILLON_PART_OF_SCAN std::size_t PlaceInBlock(const char* block, const ShortText& wanted) {
   using Bytes = typename Processor::Bytes;
   constexpr std::size_t kVector = sizeof(Bytes);
 
-  // The first two characters are seldom side by side, so most blocks are passed by looking for these alone.
+  // The first two characters are seldom adjacent, so looking for these alone skips most blocks.
   std::array<Bytes, kVectorsOfSearch> pairs{};
   for (std::size_t v = 0; v < kVectorsOfSearch; ++v) {
     Bytes here;
@@ -197,7 +197,7 @@ std::size_t BaselineFind(std::string_view text, std::string_view wanted) {
   return Find<Avx2>(text, wanted);
 }
 
-// The better of two functions for this processor, asked before anything else of the program has run.
+// The better of two functions for this processor. Runs before anything else in the program.
 template <typename Search>
 Search* Chosen(Search& withAvx2, Search& baseline) {
   __builtin_cpu_init();
@@ -208,7 +208,7 @@ Search* Chosen(Search& withAvx2, Search& baseline) {
 }  // namespace
 
 #ifdef QUILLON_CHOOSES_PROCESSOR
-// The loader calls these, by their plain names.
+// The loader finds these by their unmangled names.
 extern "C" {
 static auto QuillonNthByteSearch() {
   return Chosen(Avx2NthByte, BaselineNthByte);

@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-constexpr std::size_t kLongest = 480;  // at least two whole blocks of every search, and a rest
+constexpr std::size_t kLongest = 480;  // at least two whole blocks of every search, plus a remainder
 constexpr std::size_t kNowhere = std::string_view::npos;
 
 std::string RandomText(std::string_view letters, std::size_t length) {
@@ -23,8 +23,7 @@ std::string RandomText(std::string_view letters, std::size_t length) {
   return text;
 }
 
-// Places next to which a block of some search begins or ends: 224 or 112 bytes where they are counted, 128 or 64 where
-// a text is looked for.
+// Positions near block edges: blocks are 224 or 112 bytes when counting, 128 or 64 when searching for a text.
 const std::vector<std::size_t> kBlockEdges = {0,   1,   63,  64,  65,  111, 112, 113, 127, 128, 129, 191,
                                               192, 223, 224, 225, 256, 335, 336, 337, 384, 447, 448, 449};
 

@@ -10,8 +10,8 @@
 namespace quillon {
 namespace {
 
-constexpr mode_t kFolderMode = 0777;  // less what the user's umask takes off
-constexpr mode_t kPermissions = 0777;  // what of a file's mode is its permissions
+constexpr mode_t kFolderMode = 0777;  // minus the user's umask
+constexpr mode_t kPermissions = 0777;  // the permission bits of a file's mode
 
 template <typename Result>
 Result OrError(Result result) {

@@ -1,5 +1,5 @@
-// The calls on files, made of those of Windows. What is open can be renamed, replaced and deleted meanwhile, as the
-// rest of the program expects, and what is under a name changes in one step.
+// The file calls for Windows. As the rest of the program expects, open files can be renamed, replaced and deleted, and
+// replacing a file is one step.
 
 #include <algorithm>
 #include <cerrno>
@@ -22,8 +22,8 @@ constexpr FileMode kReadable = 0444;
 constexpr FileMode kWritable = 0222;
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Virus scanners and indexers open a file that has just been written, and for that moment it may be neither opened nor
-// replaced.
+// Virus scanners and indexers briefly hold a newly written file open, and until they close it, it can be neither opened
+// nor replaced.
 constexpr int kAttempts = 20;
 constexpr DWORD kPauseMilliseconds = 10;
 
@@ -82,7 +82,7 @@ int LastError() {
   return -ErrorNumber(GetLastError());
 }
 
-constexpr std::size_t kLongestName = 255;  // UTF-16 units, on every file system of this one
+constexpr std::size_t kLongestName = 255;  // UTF-16 units, on every Windows file system
 constexpr std::wstring_view kVerbatim = LR"(\\?\)";
 constexpr std::wstring_view kDevice = LR"(\\.\)";
 constexpr std::wstring_view kShare = LR"(\\)";
@@ -96,15 +96,15 @@ bool HasLongName(std::wstring_view path) {
   return false;
 }
 
-// A path as the system takes it whatever its length, with each name in it taken as it is: otherwise 259 characters are
-// all, and "CON.txt" in any folder is the console. A device that is named alone, such as "NUL", stays one.
+// A path in the form that has no length limit and takes every name literally: in the usual form a path ends at 259
+// characters and "CON.txt" in any folder is the console. A device named alone, such as "NUL", stays one.
 std::wstring SystemPath(const std::string& text) {
   std::filesystem::path path = PathOf(text);
   if (path.empty() || path.native().starts_with(kVerbatim) || path.native().starts_with(kDevice)) return path.native();
   if (!path.has_parent_path() && !NameFault(text).empty()) return path.native();
   std::error_code unknown;
   if (!path.native().starts_with(kShare)) path = std::filesystem::current_path(unknown) / path;
-  // The library takes the start of a share for that of a path without a drive.
+  // The library takes the start of a share for a path without a drive.
   if (path.native().starts_with(kShare)) {
     const std::filesystem::path share = path.native().substr(kShare.size());
     return std::wstring(kVerbatim) + LR"(UNC\)" + share.lexically_normal().native();
@@ -137,14 +137,14 @@ Opening OpeningFor(OpenFor purpose) {
     case OpenFor::kListing:
       break;
   }
-  return {GENERIC_READ, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS};  // which folders are opened with too
+  return {GENERIC_READ, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS};  // which opens folders too
 }
 
 HANDLE HandleOf(int file) {
   return reinterpret_cast<HANDLE>(_get_osfhandle(file));  // NOLINT: that is what the number is
 }
 
-// Repeats a call while it fails with one of these errors, those of a file that another program has open.
+// Repeats a call while it fails with one of these errors, which mean that another program has the file open.
 template <typename Call>
 int Patiently(std::initializer_list<int> passing, Call call) {
   int error = 0;
@@ -169,7 +169,7 @@ class WindowsFileCalls final : public FileCalls {
     if (isThere && purpose == OpenFor::kCreating) return -EEXIST;
     if (isThere && !folder && purpose == OpenFor::kListing) return -ENOTDIR;
     if (folder && writes) return -EISDIR;
-    // A disk of another system may let its superuser write such a file.
+    // On the disk of another system, its superuser might be able to write such a file.
     if (isThere && writes && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return -EACCES;
     const Opening opening = OpeningFor(purpose);
     HANDLE handle = INVALID_HANDLE_VALUE;
@@ -186,7 +186,7 @@ class WindowsFileCalls final : public FileCalls {
     DWORD count = 0;
     if (ReadFile(HandleOf(file), buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr) != 0) return count;
     const DWORD error = GetLastError();
-    if (error == ERROR_INVALID_FUNCTION) return -EISDIR;  // nothing else that can be opened cannot be read
+    if (error == ERROR_INVALID_FUNCTION) return -EISDIR;  // whatever else opens can be read
     return error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF ? 0 : -ErrorNumber(error);
   }
   std::ptrdiff_t Write(int file, std::string_view bytes) override {
@@ -196,7 +196,7 @@ class WindowsFileCalls final : public FileCalls {
     if (WriteFile(HandleOf(file), bytes.data(), size, &count, nullptr) == 0) return LastError();
     return count;
   }
-  // A folder cannot be synced and need not be: MOVEFILE_WRITE_THROUGH has brought the new name to the disk.
+  // Folders cannot be synced and need not be: MOVEFILE_WRITE_THROUGH has already written the new name to disk.
   int Sync(int file) override { return FlushFileBuffers(HandleOf(file)) != 0 ? 0 : LastError(); }
   int Close(int file) override {
     Unlock(file);
@@ -205,7 +205,7 @@ class WindowsFileCalls final : public FileCalls {
   int Rename(const std::string& from, const std::string& to) override {
     const std::wstring oldName = SystemPath(from);
     const std::wstring newName = SystemPath(to);
-    // ReplaceFileW would keep more of the old file, but between its steps there is none of that name.
+    // ReplaceFileW would keep more of the old file, but midway there is no file of that name at all.
     const DWORD replacing = IsFolder(oldName) ? 0 : MOVEFILE_REPLACE_EXISTING;
     const int renamed = Patiently({EBUSY, EACCES}, [&] {
       return MoveFileExW(oldName.c_str(), newName.c_str(), replacing | MOVEFILE_WRITE_THROUGH) != 0;
@@ -222,7 +222,7 @@ class WindowsFileCalls final : public FileCalls {
     if (HasLongName(name)) return -ENAMETOOLONG;
     return CreateDirectoryW(name.c_str(), nullptr) != 0 ? 0 : LastError();
   }
-  // Of the permissions this system has only whether a file may be written, and one that may not is never replaced.
+  // The only permission here is whether a file may be written, and a read-only file is never replaced.
   int Mode(int file) override {
     BY_HANDLE_FILE_INFORMATION about{};
     if (GetFileInformationByHandle(HandleOf(file), &about) == 0) return LastError();
@@ -231,8 +231,8 @@ class WindowsFileCalls final : public FileCalls {
   }
   int SetMode(int /*file*/, FileMode /*mode*/) override { return 0; }
 
-  // A folder cannot be locked, but there is only one object of a name, and it is gone when the last who holds it has
-  // closed it or has ended. The name is that of the folder on its disk, by whatever path it was reached.
+  // Folders cannot be locked, but a named object can exist only once, and it goes when its last holder closes it or
+  // ends. It is named after the folder's place on its disk, whatever path led there.
   int TryLock(int file) override {
     BY_HANDLE_FILE_INFORMATION about{};
     if (GetFileInformationByHandle(HandleOf(file), &about) == 0) return LastError();
@@ -266,12 +266,12 @@ FileCalls& SystemFileCalls() {
   return calls;
 }
 
-// With the one separator that this system shows.
+// With the one separator that Windows displays.
 std::filesystem::path PathOf(std::string_view text) {
   return std::filesystem::path(WideText(text)).make_preferred();
 }
 
-// The iterators of the library list the current folder where a path is longer than 259 characters.
+// For a path of more than 259 characters the library's iterators list the current folder.
 FolderListing ListFolder(const std::filesystem::path& folder) {
   const std::wstring name = SystemPath(folder.string());
   if (HasLongName(name)) return {{}, std::make_error_code(std::errc::filename_too_long)};
@@ -295,7 +295,7 @@ FolderListing ListFolder(const std::filesystem::path& folder) {
   return listing;
 }
 
-// Those of the library know no path of more than 259 characters.
+// The library's functions know no path of more than 259 characters.
 std::error_code ErrorOfPath(const std::filesystem::path& path) {
   const std::wstring name = SystemPath(path.string());
   if (HasLongName(name)) return std::make_error_code(std::errc::filename_too_long);
@@ -309,7 +309,7 @@ std::string ReasonOf(int systemError) {
 }
 
 bool IsQuotaError(int /*systemError*/) {
-  return false;  // ErrorNumber has made it a full disk
+  return false;  // ErrorNumber maps it to a full disk
 }
 
 }  // namespace quillon

@@ -5,7 +5,7 @@
 #include <string>
 #include <windows.h>
 
-// Of calls of that name for each kind of text, of which these are none.
+// The Windows headers define macros with these names.
 #undef DeleteFile
 #undef ReplaceFile
 
@@ -25,7 +25,7 @@ class FileOpenElsewhere : public Files {
     Files::SetUp();
     Put(File(), kOld);
   }
-  // As another program opens it, which lets others do what `shared` says.
+  // Opens it as another program would, sharing as `shared` says.
   void OpenWith(DWORD shared) {
     handle_ = CreateFileW(File().c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(handle_, INVALID_HANDLE_VALUE);
@@ -76,7 +76,7 @@ TEST_F(FilesOfWindows, ThatAreReadOnlyStay) {
   ASSERT_NE(SetFileAttributesW(File().c_str(), FILE_ATTRIBUTE_NORMAL), 0);
 }
 
-// With the names of devices among them, which a path in the usual form would lead to.
+// Some are names of devices, which a path in the usual form would lead to.
 TEST_F(FilesOfWindows, HaveTheirNamesHoweverLongTheirPathIs) {
   fs::path folder = Folder();
   for (int level = 0; level < 5; ++level) {
@@ -112,7 +112,7 @@ TEST_F(FilesOfWindows, AreReachedByEveryFormOfAPath) {
   fs::current_path(before);
 }
 
-// On Windows its administrators have every disk as a share; for Wine tools/windows/check_core.sh makes this one.
+// Windows shares every disk with its administrators; for Wine tools/windows/check_core.sh makes this share.
 TEST_F(FilesOfWindows, AreReachedOnAShare) {
   const std::string share = R"(\\localhost\C$)";
   if (GetFileAttributesW(PathOf(share + "\\").c_str()) == INVALID_FILE_ATTRIBUTES) GTEST_SKIP() << "no share of disk C";

@@ -12,14 +12,14 @@ namespace {
 
 constexpr std::string_view kForbidden = R"(<>:"/\|?*)";
 
-// With each of the digits 1 to 9 after it, of which the first three may be superscripts.
+// Followed by a digit 1 to 9; 1 to 3 may be superscripts.
 constexpr std::array<std::string_view, 2> kNumberedDevices = {"com", "lpt"};
 constexpr std::array<std::string_view, 12> kNumbers = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "¹", "²", "³"};
 constexpr std::array<std::string_view, 6> kOtherDevices = {"con", "prn", "aux", "nul", "conin$", "conout$"};
 
 bool IsDevice(std::string_view name) {
   std::string start = AsciiLower(name.substr(0, name.find('.')));
-  start.resize(start.find_last_not_of(' ') + 1);  // "con .txt" is one too
+  start.resize(start.find_last_not_of(' ') + 1);  // "con .txt" is reserved too
   if (std::ranges::find(kOtherDevices, start) != kOtherDevices.end()) return true;
   constexpr std::size_t kLetters = 3;
   if (start.size() <= kLetters) return false;

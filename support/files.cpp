@@ -17,14 +17,14 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
-constexpr int kMostLinks = 40;  // as many as the system follows
-constexpr FileMode kFileMode = 0666;  // less what the user's umask takes off
+constexpr int kMostLinks = 40;  // the system's own limit
+constexpr FileMode kFileMode = 0666;  // minus the user's umask
 
 constexpr std::string_view kScratchStart = ".quillon-";
 constexpr std::string_view kScratchEnd = ".tmp";
 constexpr std::string_view kCopyEnd = ".copy";
 constexpr std::chrono::hours kStaleAge{1};
-constexpr int kMostScratchNames = 100;  // that are tried in one folder
+constexpr int kMostScratchNames = 100;  // to try in one folder
 
 int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
   while (!bytes.empty()) {
@@ -36,12 +36,12 @@ int WriteWhole(int file, std::string_view bytes, FileCalls& calls) {
   return 0;
 }
 
-// Writes an open file through to the disk and closes it: 0, or the negated error number.
+// Writes an open file to disk and closes it: 0, or the negated error number.
 int WriteToDisk(int file, std::string_view bytes, FileCalls& calls) {
   int result = WriteWhole(file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Sync(file); });
   const int closed = calls.Close(file);
-  // An interrupted close has closed the file all the same, and the content was on the disk before it.
+  // An interrupted close has closed the file anyway, and the content was already on disk.
   return result >= 0 && closed < 0 && closed != -EINTR ? closed : result;
 }
 
@@ -66,8 +66,7 @@ struct Scratch {
   std::string path;
 };
 
-// A process that was killed may have had this one's number and left its scratch files, so there may be names to pass
-// over.
+// A killed process may have had the same number and left scratch files, so some names may be taken.
 Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, FileMode mode, FileCalls& calls) {
   Scratch scratch{-EEXIST, {}};
   for (int attempt = 0; scratch.file == -EEXIST && attempt < kMostScratchNames; ++attempt) {
@@ -77,11 +76,11 @@ Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, F
   return scratch;
 }
 
-// Writes the scratch file and gives it the target's name: 0, or the negated error number with the scratch file gone.
+// Writes the scratch file and renames it to the target: 0, or the negated error number with the scratch file deleted.
 int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<FileMode> mode,
                    std::string_view bytes, FileCalls& calls) {
-  // The umask may have taken off bits of the old file. A disk that knows no permissions refuses this and has none
-  // to keep; a save is not lost for that.
+  // The umask may have removed bits of the old mode. A disk without permissions refuses this call and has none to keep,
+  // so failure is ignored.
   if (mode) static_cast<void>(Uninterrupted([&] { return calls.SetMode(scratch.file, *mode); }));
   int result = WriteToDisk(scratch.file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Rename(scratch.path, target); });
@@ -89,14 +88,14 @@ int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optio
   return result;
 }
 
-// The file that is to be replaced.
+// The file to replace.
 struct OldFile {
-  int refusal = 0;  // the negated error number where it must stay
-  std::optional<FileMode> mode;  // nothing where there is no such file
+  int refusal = 0;  // the negated error number if it must not be replaced
+  std::optional<FileMode> mode;  // nothing if there is no such file
 };
 
-// A file that may not be written must not be replaced either, although the folder's permissions would allow it. A file
-// that is not there may be made.
+// A write-protected file must not be replaced either, although the folder's permissions would allow it. A missing file
+// may be created.
 OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   const int file = Uninterrupted([&] { return calls.Open(path, OpenFor::kWriting, 0); });
   if (file < 0) return {file == -ENOENT ? 0 : file, std::nullopt};
@@ -106,13 +105,12 @@ OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   return {0, static_cast<FileMode>(mode)};
 }
 
-// Whether an error means that the folder takes no new names, which says nothing about the files in it.
+// Whether an error means that the folder takes no new names, which does not rule out writing the files in it.
 bool IsRefusal(int negatedError) {
   return negatedError == -EACCES || negatedError == -EPERM || negatedError == -EROFS || negatedError == -EBUSY;
 }
 
-// Makes the new name itself last through a power failure. The content is whole either way, so a system that cannot sync
-// a folder stops nobody.
+// Makes the new name survive a power failure. Failure is ignored: the content is whole either way.
 void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
   const int file = Uninterrupted([&] { return calls.Open(folder.string(), OpenFor::kListing, 0); });
   if (file < 0) return;
@@ -122,12 +120,12 @@ void SyncFolder(const std::filesystem::path& folder, FileCalls& calls) {
 
 struct Rewriting {
   int result;
-  std::string copy;  // where the new content is whole if writing the file has failed; otherwise empty
+  std::string copy;  // holds the whole new content if writing the file has failed; otherwise empty
 };
 
-// Writes into the file itself, with a copy of the new content in a scratch file until it is on the disk. A crash in the
-// middle leaves the copy alone whole, so its name is one that no start clears away. It goes without a copy where both
-// folders refuse one, but not on a full disk.
+// Writes into the file itself while a scratch file keeps a copy of the new content. After a crash midway only the copy
+// is whole, so no later start deletes files of its name. There is no copy if both folders refuse one, but a full disk
+// is an error.
 Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
                   const std::filesystem::path& scratchFolder, FileMode mode, FileCalls& calls) {
   Scratch copy = OpenScratch(scratchFolder, kCopyEnd, mode, calls);
@@ -147,7 +145,7 @@ Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
   return {result, {}};
 }
 
-// Where a chain of links ends, whether or not a file is there. Links that go in a circle end at one of them.
+// The end of a chain of links, whether or not a file is there. For a cycle, one of its links.
 std::filesystem::path EndOfLinks(std::filesystem::path path) {
   std::error_code none;
   for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(path, none); ++link)
@@ -180,7 +178,7 @@ bool IsPathTooLong(const std::filesystem::path& path, FileCalls& calls) {
 }
 
 std::optional<std::string> TryReadAllBytes(const std::filesystem::path& path, FileCalls& calls) {
-  // Not to block: a named pipe in the user's folder must not hold the program.
+  // Non-blocking: a named pipe in the user's folder must not hang the program.
   const int file = Uninterrupted([&] { return calls.Open(path.string(), OpenFor::kReading, 0); });
   if (file == -ENOENT) return std::string();
   if (file < 0) return std::nullopt;

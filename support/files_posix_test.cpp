@@ -103,7 +103,7 @@ mode_t ModeOf(const fs::path& path) {
   return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
 }
 
-// The process's umask while a test runs.
+// Sets the process's umask for the length of a test.
 class Umask {
  public:
   explicit Umask(mode_t mask) : before_(::umask(mask)) {}
@@ -134,7 +134,7 @@ TEST_F(ReplacingAFile, FileThatWasNotThereHasTheUsersUsualPermissions) {
   EXPECT_EQ(ModeOf(File()), 0640U);
 }
 
-// A file that only its owner may read must not be readable by others while it is saved either.
+// While a file is saved, its scratch file must not be readable by more users than the file.
 TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
   const Umask umask(0);
   Put(File(), kOld);

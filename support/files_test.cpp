@@ -29,7 +29,7 @@ using ReplacingAFile = Files;
 
 TEST_F(ReadingBytes, GivesEveryByteAsItIs) {
   std::string bytes;
-  for (int i = 0; i < 3 * 4096 + 17; ++i)  // several buffers and a rest
+  for (int i = 0; i < 3 * 4096 + 17; ++i)  // several buffers plus a remainder
     bytes += static_cast<char>(i % 251);
   Put(File(), bytes);
   EXPECT_EQ(ReadAllBytes(File()), bytes);
@@ -62,7 +62,7 @@ TEST_F(ReadingBytes, WhatIsThereButUnreadableIsToldFromWhatIsEmpty) {
   }
 }
 
-// The first file that it opens then has the number 0.
+// The first file opened then has the number 0.
 TEST_F(Files, NeedNoStandardInput) {
   for (const WatchedCalls::Fault& fault : {WatchedCalls::Fault(), FailAll(Call::kRename, EACCES)}) {
     Put(File(), kOld);
@@ -109,7 +109,7 @@ TEST_F(ReplacingAFile, NewContentTakesThePlaceOfTheOld) {
   ExpectNoScratchFiles();
 }
 
-// The calls from the first opening for that purpose on.
+// The calls from the first opening for that purpose onwards.
 std::vector<Call> CallsFrom(const WatchedCalls& calls, OpenFor purpose) {
   std::vector<Call> order;
   for (const MadeCall& entry : calls.Made()) {
@@ -123,7 +123,7 @@ TEST_F(ReplacingAFile, ContentReachesTheDiskBeforeItTakesTheName) {
   WatchedCalls calls;
   ReplaceFile(File(), kNew, ScratchFolder(), calls);
 
-  // The new name itself must last too: the folder is synced after the rename.
+  // The new name must survive a power failure too: the folder is synced after the rename.
   EXPECT_THAT(CallsFrom(calls, OpenFor::kCreating),
               testing::ElementsAre(Call::kOpen, Call::kSetMode, Call::kWrite, Call::kSync, Call::kClose, Call::kRename,
                                    Call::kOpen, Call::kSync, Call::kClose));
@@ -347,11 +347,11 @@ TEST_F(RemovingStaleScratchFiles, OnlyOldFilesWithSuchANameGo) {
   constexpr std::array kCases = {
       Case{".quillon-1-0.tmp", 61, true},        Case{".quillon-4194304-123.tmp", 6000, true},
       Case{".quillon-2-0.tmp", 59, false},  // may be in use
-      Case{".quillon-3-0.tmp", -6000, false},  // a clock that was put back
+      Case{".quillon-3-0.tmp", -6000, false},  // a clock that was set back
       Case{"quillon-1-0.tmp", 6000, false},      Case{".quillon-notes.tmp", 6000, false},
       Case{".quillon-1-0.tmp.txt", 6000, false}, Case{".quillon-1-0x.tmp", 6000, false},
       Case{".quillon-1-0", 6000, false},         Case{"settings.ini", 6000, false},
-      Case{".quillon-1-0.copy", 6000, false},  // may be all that is whole
+      Case{".quillon-1-0.copy", 6000, false},  // may be the only whole copy
   };
   const auto now = fs::file_time_type::clock::now();
   for (const Case& c : kCases) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// A short text of bounded length that lives where it is declared. Cards and class labels are texts of one to five
-// characters, and an analysis builds millions of them; this type spares each one a trip to the heap.
+// A short text of bounded length, stored inline. Cards and class labels are texts of one to five characters, and an
+// analysis builds millions of them; this type saves each a heap allocation.
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-/// At most `Capacity` characters. Reads as a std::string_view wherever a text is read.
+/// At most `Capacity` characters. Converts to std::string_view wherever a text is read.
 template <std::size_t Capacity>
 class FixedText {
  public:
@@ -24,7 +24,7 @@ class FixedText {
   }
   constexpr FixedText(const char* text) : FixedText(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
 
-  /// Adds one character; a full text stays as it is.
+  /// Appends one character; a full text is unchanged.
   constexpr void Append(char c) {
     if (size_ < Capacity) characters_[size_++] = c;
   }

@@ -16,7 +16,7 @@ int OpenFolder(const std::filesystem::path& folder, FileCalls& calls) {
   return Uninterrupted([&] { return calls.Open(folder.string(), OpenFor::kListing, 0); });
 }
 
-// Asks again and again rather than once with patience: such a wait would have no end.
+// Polls, because a blocking wait has no time limit.
 bool WaitForLock(int folder, FileCalls& calls) {
   const auto end = std::chrono::steady_clock::now() + kLongestWait;
   int result = calls.TryLock(folder);

@@ -1,7 +1,7 @@
 #pragma once
 
-// One at a time in a folder. Two copies of the program may run from the same folder, and a file that one of them reads,
-// changes and writes back would lose what the other has written in between.
+// A lock on a folder. Two copies of the program may run from the same folder, and when one of them reads, changes and
+// rewrites a file, it would lose what the other has written in between.
 
 #include <filesystem>
 
@@ -9,12 +9,12 @@
 
 namespace quillon {
 
-/// Holds the lock of a folder from its making to its end. The lock binds only those who ask for it. It is the folder
-/// itself that is locked, so nothing is left behind, and a process that dies releases it.
+/// Locks a folder for the lifetime of the object. The lock is advisory. The folder itself is locked, so no lock file is
+/// left over, and a process that dies releases the lock.
 ///
-/// Making one waits while somebody else holds the lock, but no longer than a second: a copy of the program that hangs
-/// must not hang the others. Then, and where the folder cannot be locked, things go on without a lock; that is no worse
-/// than it would be without locks. Never fails.
+/// The constructor waits at most a second for another holder: a copy of the program that hangs must not hang the
+/// others. After that, or if the folder cannot be locked, the object holds no lock, which is no worse than having none.
+/// Never fails.
 class FolderLock {
  public:
   explicit FolderLock(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());

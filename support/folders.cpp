@@ -12,13 +12,13 @@
 namespace quillon {
 namespace {
 
-// To a caller who wants a folder, "File not found" would speak of the wrong thing: what is missing is on the way to it.
+// For a folder, "File not found" would be misleading: what is missing is a folder on the path.
 [[noreturn]] void FailOnFolder(int systemError, std::string_view reason, const std::filesystem::path& folder) {
   throw RunTimeError(systemError == ENOENT ? RunTimeFault::kPathNotFound : RunTimeFaultOf(systemError),
                      TextOfFileName(folder.string()).append(": ").append(reason));
 }
 
-// Joined as text: the path operator would let a name that starts with a separator replace the folder.
+// Concatenated as text: with operator/ a name that starts with a separator would replace the folder.
 std::filesystem::path PathOfBytes(const std::filesystem::path& folder, std::string_view name) {
   return PathOf(folder.string().append("/").append(name));
 }
@@ -33,8 +33,7 @@ bool FolderExists(const std::filesystem::path& path, FileCalls& calls) {
   std::string text = path.string();
   if (!text.ends_with('/')) text += '/';
 
-  // Opened for reading: what cannot be listed does not count as being there. A folder that opens
-  // always lists something, itself.
+  // Opened for reading: a folder that cannot be listed does not count. One that opens always lists at least ".".
   const int folder = Uninterrupted([&] { return calls.Open(text, OpenFor::kListing, 0); });
   if (folder < 0) return false;
   calls.Close(folder);
@@ -56,7 +55,7 @@ std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
     FailOnFolder(error.default_error_condition().value(), error.message(), folder);
   std::vector<std::string> names;
   for (const std::filesystem::directory_entry& file : listing.Entries) {
-    // What cannot be examined, such as a link to nowhere, is listed too: it reads as a missing file.
+    // What cannot be examined, such as a dangling link, is listed too: it reads as a missing file.
     std::error_code unknown;
     if (file.is_directory(unknown)) continue;
     std::string name = TextOfFileName(file.path().filename().string());

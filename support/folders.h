@@ -1,7 +1,7 @@
 #pragma once
 
-// The folders that the program keeps its files in. They are made when the program starts, and made anew where one has
-// gone since.
+// The folders that the program keeps its files in. They are created when the program starts, and again whenever one has
+// gone missing.
 
 #include <filesystem>
 #include <string>
@@ -12,29 +12,27 @@
 
 namespace quillon {
 
-/// Whether a folder is there and can be listed. It is asked for with a separator at its end, added where there is none,
-/// so a file of that name is not a folder, while a link to a folder is one and the empty path is the root. Whatever
-/// goes wrong in asking counts as not being there.
+/// Whether a folder exists and can be listed. A separator is appended if missing, so a file of that name does not
+/// count, a link to a folder does, and the empty path is the root. Any error counts as no.
 [[nodiscard]] bool FolderExists(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// Makes a folder in one that is there. RunTimeError, with the path and the reason, if it cannot be made: "Path not
-/// found" where the outer folder is missing, "Path/File access error" where anything of that name is there already.
+/// Creates a folder in an existing one. RunTimeError, with the path and the reason, if it cannot be created: "Path not
+/// found" if the outer folder is missing, "Path/File access error" if the name is taken.
 void MakeFolder(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// Makes a folder if it is not there. Fails as MakeFolder does, so a folder that is there but may not be listed is a
-/// failure too.
+/// Creates a folder if it does not exist. Fails as MakeFolder does, also if the folder exists but cannot be listed.
 void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls = SystemFileCalls());
 
-/// Whether anything of that name is there. A link to nowhere is a file too: it is listed, and it can be deleted.
+/// Whether the name exists. A dangling link counts: it is listed, and it can be deleted.
 [[nodiscard]] bool IsThere(const std::filesystem::path& file);
 
-/// The names of all files in a folder as text (TextOfFileName), in no order; not those of folders in it nor of the
-/// program's own scratch files. RunTimeError, with the folder and the reason, if it cannot be read: "Path not found"
-/// where it is missing.
+/// The names of all files in a folder as text (TextOfFileName), in no order; without its folders and the program's own
+/// scratch files. RunTimeError, with the folder and the reason, if it cannot be read: "Path not found" if it is
+/// missing.
 [[nodiscard]] std::vector<std::string> FileNamesIn(const std::filesystem::path& folder);
 
-/// The file of a name, in UTF-8 as names on disk are: the folder, a separator, and the name as it is. Where no such
-/// file is there but one whose name is not UTF-8 and is shown as this one (TextOfFileName), it is that file.
+/// The path of a file in a folder, by its UTF-8 name. If there is no such file but one whose name is not UTF-8 and is
+/// shown as this name (TextOfFileName), then the path of that one.
 [[nodiscard]] std::filesystem::path FileOfName(const std::filesystem::path& folder, std::string_view name);
 
 }  // namespace quillon

@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// The parts one after the other. Memory is allocated once, where a chain of + allocates again and again as the text
-/// grows; a report is some hundred such texts.
+/// The parts concatenated, with one allocation. A chain of + allocates again and again as the text grows, and a report
+/// joins hundreds of texts.
 [[nodiscard]] inline std::string Joined(std::initializer_list<std::string_view> parts) {
   std::size_t size = 0;
   for (const std::string_view part : parts)

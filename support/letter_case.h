@@ -1,21 +1,20 @@
 #pragma once
 
-// Letters of every script, whatever the user's locale is and whether it is installed: the tables of Unicode as the
-// system keeps them.
+// Letters of every script, independent of the user's locale and of which locales are installed. Uses the system's
+// Unicode tables.
 
 #include <string>
 #include <string_view>
 
 namespace quillon {
 
-/// A text as a key for sorting without regard to case: its characters, each as the small letter of its capital, so that
-/// both forms of a Greek sigma are one letter. Other characters, and letters without another case, are as they are. A
-/// byte that is not UTF-8 sorts after every character.
+/// A sort key that ignores case: each character is replaced by the small letter of its capital, so that both forms of a
+/// Greek sigma are equal. Other characters are unchanged. A byte that is not UTF-8 sorts after every character.
 ///
 ///     "ŠZ" -> "šz"      "Бета" -> "бета"      "ς" -> "σ"      "ß" -> "ß"      "_a" -> "_a"
 [[nodiscard]] std::u32string WithoutCase(std::string_view text);
 
-/// The other case of a letter; a character that has none is as it is.
+/// The character in the other case; unchanged if it has none.
 [[nodiscard]] char32_t CapitalLetter(char32_t character);
 [[nodiscard]] char32_t SmallLetter(char32_t character);
 

@@ -8,7 +8,7 @@ namespace {
 
 static_assert(sizeof(wchar_t) == sizeof(char32_t), "a wide character of the C library is one of Unicode");
 
-// A C library so bare that it lacks the locale still knows the letters of ASCII.
+// A bare C library without the locale still knows the ASCII letters.
 locale_t Letters() {
   static const locale_t letters = [] {
     const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);

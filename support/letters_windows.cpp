@@ -10,7 +10,7 @@ namespace {
 constexpr char32_t kFirstOfPairs = 0x10000;
 constexpr char32_t kLastCharacter = 0x10FFFF;
 
-// A character as this system writes it, in one unit or as a surrogate pair.
+// A character in UTF-16: one unit or a surrogate pair.
 std::wstring Units(char32_t character) {
   if (character < kFirstOfPairs || character > kLastCharacter) return {static_cast<wchar_t>(character)};
   const char32_t rest = character - kFirstOfPairs;
@@ -20,7 +20,7 @@ std::wstring Units(char32_t character) {
 char32_t Mapped(char32_t character, DWORD mapping) {
   const std::wstring from = Units(character);
   std::array<wchar_t, 2> to{};
-  // By Unicode's tables, not by those that the names of files are compared with.
+  // By Unicode's tables, not by those for comparing file names.
   mapping |= LCMAP_LINGUISTIC_CASING;
   const int size = LCMapStringEx(LOCALE_NAME_INVARIANT, mapping, from.data(), static_cast<int>(from.size()), to.data(),
                                  static_cast<int>(to.size()), nullptr, nullptr, 0);

@@ -1,15 +1,19 @@
 #pragma once
 
-// Line ends. Texts of the window end their lines as its boxes do; a terminal and other programs take a line feed alone.
+// Line ends. The window's texts end lines as its boxes do; a terminal and other programs expect a line feed alone.
 
 #include <string>
 #include <string_view>
 
 namespace quillon {
 
-/// A text with each of its line ends (CR, CR LF) as one LF.
+/// The text with every line end (CR, CR LF) as LF.
 ///
-///     "Situation\r" -> "Situation\n"      "Hand\r\n\r" -> "Hand\n\n"
+///     "Situation\r" -> "Situation
+/// "      "Hand\r
+/// \r" -> "Hand
+///
+/// "
 [[nodiscard]] std::string UnixLineEnds(std::string_view text);
 
 }  // namespace quillon

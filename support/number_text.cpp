@@ -73,8 +73,8 @@ std::string FixedText(const ScientificForm& form) {
   return text;
 }
 
-// Whether a number that has no double is too small for one, and not too large. The place of its first digit that is
-// not 0, moved by its exponent, decides: many digits and a large exponent may make up for each other.
+// Whether a number outside the range of a double is too small rather than too large. The position of its first nonzero
+// digit, shifted by its exponent, decides: many digits and a large exponent may offset each other.
 bool IsTooSmall(std::string_view compact) {
   const std::size_t mark = std::min(compact.find_first_of("eE"), compact.size());
   const std::size_t point = std::min(compact.find('.'), mark);
@@ -91,7 +91,7 @@ bool IsTooSmall(std::string_view compact) {
 }
 
 // The number at the start of a text without spaces, by the library's correctly rounding parser. An exponent counts only
-// with at least one digit: "1e" and "1e+" are the number 1.
+// with at least one digit: "1e" and "1e+" are 1.
 double ParseCompact(std::string_view compact) {
   const bool negative = compact.starts_with('-');
   if (negative || compact.starts_with('+')) compact.remove_prefix(1);
@@ -112,17 +112,17 @@ struct DigitRun {
   std::size_t count;
 };
 
-// All eight at once: neighbours are joined to numbers of two digits, those to four, those to eight (D. Lemire, "Quickly
-// parsing eight digits", 2018).
+// All eight at once: adjacent digits are combined into numbers of two digits, those into four, those into eight (D.
+// Lemire, "Quickly parsing eight digits", 2018).
 DigitRun ReadDigits(const char* eight) {
   std::uint64_t word = 0;
   std::memcpy(&word, eight, kDigitGroup);
-  word ^= 0x3030303030303030;  // a digit becomes its value, and any other character more than 9
-  // Adding 0x76 carries 10 and more into a byte's high bit. A carry out of a byte spoils only what comes after it.
+  word ^= 0x3030303030303030;  // a digit becomes its value, any other character more than 9
+  // Adding 0x76 carries 10 and more into a byte's high bit. A carry out of a byte only affects later bytes.
   const std::uint64_t others = (word | (word + 0x7676767676767676)) & 0x8080808080808080;
   const auto count = static_cast<std::size_t>(std::countr_zero(others)) / kDigitGroup;
   if (count == 0) return {0, 0};
-  word <<= (kDigitGroup - count) * kDigitGroup;  // leading zeros replace the characters that are not digits
+  word <<= (kDigitGroup - count) * kDigitGroup;  // leading zeros replace the characters after the digits
   word = word * 10 + (word >> 8U);
   word = (((word & 0x000000FF000000FF) * 0x000F424000000064) +
           (((word >> 16U) & 0x000000FF000000FF) * 0x0000271000000001)) >>
@@ -130,12 +130,12 @@ DigitRun ReadDigits(const char* eight) {
   return {static_cast<std::int64_t>(word), count};
 }
 
-// The number times 10^decimals, rounded half away from zero to a whole number: its digits alone.
+// The digits of number * 10^decimals, rounded half away from zero to an integer.
 std::string WholeDigits(const ScientificForm& form, int decimals) {
   const int digitCount = static_cast<int>(form.digits.size());
   const int dropped = digitCount - (form.exponent + 1 + decimals);
   if (dropped <= 0) return form.digits + std::string(static_cast<std::size_t>(-dropped), '0');
-  if (dropped > digitCount) return "0";  // less than a tenth
+  if (dropped > digitCount) return "0";  // less than 0.1
 
   std::int64_t mantissa = 0;
   std::from_chars(form.digits.data(), form.digits.data() + form.digits.size(), mantissa);
@@ -143,7 +143,7 @@ std::string WholeDigits(const ScientificForm& form, int decimals) {
   return std::to_string((mantissa + unit / 2) / unit);
 }
 
-// A space, a no-break space, and the narrow no-break space that groups digits in French.
+// A space, a no-break space, and the narrow no-break space, the French thousands separator.
 constexpr std::array<std::string_view, 3> kBlanks = {" ", "\u00A0", "\u202F"};
 
 bool HasLetter(std::string_view text) {
@@ -155,7 +155,7 @@ bool HasLetter(std::string_view text) {
   return false;
 }
 
-// Takes an amount apart from its start. A mark that is empty is never there.
+// Consumes an amount from its start. An empty mark never matches.
 class AmountScanner {
  public:
   AmountScanner(std::string_view text, std::string_view currency, std::string_view decimal, std::string_view group)
@@ -196,7 +196,7 @@ class AmountScanner {
 
   bool TakeGroup() { return std::ranges::find(kBlanks, group_) != kBlanks.end() ? TakeBlank() : Take(group_); }
 
-  // A mark between groups counts between two digits alone.
+  // A thousands separator counts only between two digits.
   bool TakeDigits(bool grouped) {
     bool taken = false;
     for (;;) {
@@ -245,7 +245,7 @@ double LeadingNumber(std::string_view text) {
 }
 
 double LeadingNumberBefore(std::string_view text, char end) {
-  // One digit, a point and at most seven digits: nearly every entry of the equity table is that, and reading one is the
+  // One digit, a point and at most seven digits: nearly every equity table entry has this form, and reading one is the
   // program's innermost step.
   if (text.size() >= 2 + kDigitGroup && IsDigit(text[0]) && text[1] == '.' && end != '.') {
     const DigitRun run = ReadDigits(text.data() + 2);

@@ -1,8 +1,8 @@
 #pragma once
 
-// How numbers become text and text becomes numbers, everywhere in the program. Numbers pass between routines as text
-// (range files, the results table, amount boxes), so these few routines decide what a number is. None of them looks at
-// the locale: the decimal mark is always a point.
+// How numbers become text and text becomes numbers, everywhere in the program. Routines pass numbers to each other as
+// text (range files, the results table, amount boxes), so these few define what a number is. None of them uses the
+// locale: the decimal mark is always a point.
 
 #include <cstddef>
 #include <string>
@@ -20,26 +20,25 @@ namespace quillon {
 /// A value that is not finite has no text: RunTimeError "Overflow".
 [[nodiscard]] std::string NumberText(double value);
 
-/// The same form for a 32-bit float, which holds 7 digits and shows no more: a value whose fixed form would need more
-/// than 7 decimals, or more than 7 digits before the point, takes the exponent form. Fails as NumberText does.
+/// The same form for a 32-bit float, which holds 7 digits: a value whose fixed form would need more than 7 decimals, or
+/// more than 7 digits before the point, takes the exponent form. Fails as NumberText does.
 ///
 ///     150 -> "150"      0.1f -> "0.1"      857.142857f -> "857.1429"      1e7f -> "1E+07"
 [[nodiscard]] std::string FloatNumberText(float value);
 
-/// The number at the start of a text: the longest start that reads as an optional sign, digits, an optional fraction
-/// after a point and an optional exponent. Spaces are skipped wherever they are; anything else
-/// ends the number, and a text with no such start gives 0. Never fails: a number beyond the range of a double gives the
-/// largest finite double with its sign, one too small gives 0.
+/// The number at the start of a text: the longest prefix that is an optional sign, digits, an optional fraction after a
+/// point and an optional exponent. Spaces are skipped anywhere; anything else ends the number, and a text without such
+/// a prefix gives 0. Never fails: a number beyond the range of a double gives the largest finite double with its sign,
+/// one too small gives 0.
 ///
 ///     "12abc" -> 12      "1,000" -> 1      " 1 000" -> 1000      "1.5.2" -> 1.5
 ///     "1e3" -> 1000      "1e" -> 1         "-.5" -> -0.5         "$5" -> 0      "" -> 0
 [[nodiscard]] double LeadingNumber(std::string_view text);
 
-/// The number at the start of what comes before the first `end` in a text, or of the whole text if it holds none:
-/// ("0.5 0.7 ", ' ') is 0.5. The same as LeadingNumber of the text cut there.
+/// LeadingNumber of the text before the first `end`, or of the whole text if it has none: ("0.5 0.7 ", ' ') is 0.5.
 [[nodiscard]] double LeadingNumberBefore(std::string_view text, char end);
 
-/// How amounts are written where the user lives, each mark as UTF-8 text: (€)(,)(.) in Germany. An empty one is none.
+/// The user's marks in amounts, each as UTF-8 text: (€)(,)(.) in Germany. An empty text means no such mark.
 struct NumberMarks {
   std::string Currency;
   std::string Decimal;
@@ -60,8 +59,8 @@ struct NumberMarks {
 [[nodiscard]] bool IsNumericText(std::string_view text, const NumberMarks& marks = {});
 
 /// A number with exactly `digits` decimals (0 to 15) and at least one digit before the point: the number patterns
-/// "0.000" (digits 3) and, with the leading 0 taken off by the caller, ".00". It rounds the general form, the number as
-/// people read it, half away from zero: 0.4135 is a tie here, although its double lies a little lower.
+/// "0.000" (digits 3) and, once the caller removes the leading 0, ".00". It rounds the decimal digits of the general
+/// form, half away from zero: 0.4135 is a tie here, although its double is slightly less.
 ///
 ///     (0.4135, 3) -> "0.414"      (-1, 3) -> "-1.000"      (1234.5, 2) -> "1234.50"
 ///

@@ -132,7 +132,7 @@ TEST(LeadingNumber, BeyondTheRangeGivesTheLargestNumberAndBelowItNothing) {
     EXPECT_EQ(LeadingNumber(c.text), c.value) << c.rule;
 }
 
-// The table's own form, one digit before the point, with every byte as the end and as a character that does not occur.
+// The table's own form, with every byte as the end and as a character that does not occur.
 TEST(LeadingNumberBefore, TellsEveryByteFromADigit) {
   constexpr std::string_view kDigits = "8785953902";
   for (std::size_t count = 0; count <= kDigits.size(); ++count) {
@@ -288,7 +288,7 @@ TEST(Numbers, ThatAreNotFiniteHaveNoText) {
   }
 }
 
-// Any bits, fractions, and ties of every number of decimals.
+// Random bits, fractions, and ties at every number of decimals.
 TEST(Numbers, HaveTheTextsOfTheOracle) {
   std::mt19937_64 source(169);
   for (int i = 0; i < 30000; ++i) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Colours as the program uses them: red, green and blue from 0 to 255.
+// RGB colours with components from 0 to 255.
 
 #include <cstdint>
 #include <string>
@@ -15,7 +15,7 @@ struct Rgb {
   bool operator==(const Rgb&) const = default;
 };
 
-/// A colour from components of any size: above 255 counts as 255, below 0 as 0.
+/// A colour from components of any size, each clamped to 0 to 255.
 [[nodiscard]] Rgb MakeRgb(int red, int green, int blue);
 
 /// 0xRRGGBB.
@@ -30,8 +30,8 @@ struct Rgb {
 /// the Web Content Accessibility Guidelines 2, which want 4.5 for text and 3 for large text.
 [[nodiscard]] double ContrastRatio(Rgb one, Rgb other);
 
-/// The colour to write in on a ground: white where that contrasts by 4.5, and otherwise black, which then contrasts by
-/// more.
+/// The text colour for a background: white if its contrast is at least 4.5, otherwise black, whose contrast is then
+/// higher.
 [[nodiscard]] Rgb ReadableOn(Rgb ground);
 
 }  // namespace quillon

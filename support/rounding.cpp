@@ -12,7 +12,7 @@ namespace quillon {
 
 double RoundTo(double value, int digits) {
   if (!std::isfinite(value)) return value;
-  // Printing is the one operation that rounds the exact binary value; scaling by a power of ten would round twice.
+  // Printing rounds the exact binary value; scaling by a power of ten would round twice.
   std::array<char, 400> buffer{};
   const char* const end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, digits).ptr;
@@ -25,7 +25,7 @@ std::int16_t RoundToInt16(double value) {
   constexpr double kLow = std::numeric_limits<std::int16_t>::min();
   constexpr double kHigh = std::numeric_limits<std::int16_t>::max();
   if (std::isnan(value)) return 0;
-  // nearbyint follows the default rounding mode, which is to nearest, ties to even; nothing here changes it.
+  // nearbyint uses the default rounding mode, to nearest with ties to even; nothing here changes it.
   return static_cast<std::int16_t>(std::clamp(std::nearbyint(value), kLow, kHigh));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Rounding and the two divisions that people read. To round means half to even on the binary value: only a double that
-// lies exactly between two decimals is a tie, so 2.675, which is stored a little lower, rounds to 2.67.
+// Rounding and division. Rounding is half to even on the binary value: only a double exactly between two decimals is a
+// tie, so 2.675, which is stored slightly lower, rounds to 2.67.
 
 #include <cstdint>
 
@@ -11,12 +11,11 @@ namespace quillon {
 /// not finite is returned as it is.
 [[nodiscard]] double RoundTo(double value, int digits);
 
-/// `value` as a 16-bit integer, ties to even, as channel arithmetic needs it: 87.5 is 88, 120.5 is 120. A value outside
-/// the 16-bit range gives the nearest end of it, and what is not a number gives 0.
+/// `value` as a 16-bit integer, ties to even, for channel arithmetic: 87.5 is 88, 120.5 is 120. Values outside the
+/// 16-bit range are clamped, and NaN gives 0.
 [[nodiscard]] std::int16_t RoundToInt16(double value);
 
-/// numerator / denominator. A denominator of 0 has no result: RunTimeError "Division by zero", or "Overflow" where the
-/// numerator is 0 too.
+/// numerator / denominator. RunTimeError "Division by zero" if the denominator is 0, or "Overflow" if both are.
 [[nodiscard]] double Divide(double numerator, double denominator);
 
 /// `value` / `base` * 100, rounded to `digits` decimals: (85, 169, 0) is 50. Fails as Divide does.

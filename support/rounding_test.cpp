@@ -33,7 +33,7 @@ TEST(RoundTo, TiesGoToTheEvenDigit) {
     EXPECT_EQ(RoundTo(c.value, c.digits), c.rounded) << c.rule;
 }
 
-// Eighths, sixteenths and so on are exact in binary, so plain integers tell what rounding must give.
+// Eighths, sixteenths and so on are exact in binary, so integer arithmetic gives the expected value.
 TEST(RoundTo, EqualsIntegerArithmeticOnExactFractions) {
   constexpr long long kParts = 1024;
   for (long long numerator = -5000; numerator <= 5000; ++numerator) {

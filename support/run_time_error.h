@@ -1,9 +1,9 @@
 #pragma once
 
-// The fatal failure. A fault that nothing can put right (a file that will not be written, a division that has no
-// result) is thrown as a RunTimeError and passes through everything: only a program's outermost frame catches it (and a
-// listing that must not end over one bad file), shows its text, writes it to standard error and ends the process with
-// exit status 1. Whatever must not be lost is therefore whole before a routine that can fail is called.
+// The fatal failure. A fault that cannot be recovered from (a file that cannot be written, a division by zero) is
+// thrown as a RunTimeError. Only a program's outermost frame catches it (as does a listing that one bad file must not
+// end), shows its text, writes it to standard error and exits with status 1. So a routine that can fail is called only
+// when whatever must not be lost is safe.
 
 #include <stdexcept>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-/// The faults a program of this kind knows, under their customary numbers.
+/// The faults, under their customary numbers.
 enum class RunTimeFault {
   kInvalidProcedureCall = 5,
   kOverflow = 6,

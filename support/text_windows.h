@@ -1,13 +1,13 @@
 #pragma once
 
-// Text at the border of Windows, which keeps names in UTF-16. Only sources for that system include this.
+// Text for Windows, whose names are UTF-16. Only included by sources for that system.
 
 #include <string>
 #include <string_view>
 
 namespace quillon {
 
-/// UTF-8 as UTF-16; a byte that is not UTF-8 becomes U+FFFD, which no name holds.
+/// UTF-8 as UTF-16; a byte that is not UTF-8 becomes U+FFFD, which is in no name.
 [[nodiscard]] std::wstring WideText(std::string_view text);
 
 /// UTF-16 as UTF-8; half a surrogate pair becomes U+FFFD.

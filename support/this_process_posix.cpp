@@ -22,7 +22,7 @@ unsigned ProcessNumber() {
 
 unsigned UsableCores() {
   cpu_set_t cores{};
-  // Fails on a machine with more cores than such a set holds.
+  // Fails on a machine with more cores than cpu_set_t holds.
   if (sched_getaffinity(0, sizeof cores, &cores) != 0) return std::max(1U, std::thread::hardware_concurrency());
   return std::max(1U, static_cast<unsigned>(CPU_COUNT(&cores)));
 }

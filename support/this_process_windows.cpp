@@ -57,14 +57,14 @@ bool IsTerminal(int file) {
   return GetConsoleMode(HandleOf(file), &mode) != 0 && (mode & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
-// A console knows them if it knows control sequences at all.
+// A console that knows control sequences knows these colours.
 bool TerminalsHaveColors() {
   return true;
 }
 
 std::vector<std::string> ProcessArguments(int /*count*/, char** /*arguments*/) {
   int count = 0;
-  // Those of `main` are in the code page of the system, which lacks most characters.
+  // The arguments of `main` are in the system's code page, which lacks most characters.
   wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> arguments;
   for (int i = 1; wide != nullptr && i < count; ++i)
@@ -84,11 +84,11 @@ void PrepareStandardStreams() {
     if (stream != kInputStream && GetConsoleMode(console, &mode) != 0)
       SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
   }
-  // Without room for more the library writes byte by byte to a console, which then sees no character of several.
+  // With a small buffer the library writes to a console byte by byte, which splits multi-byte characters.
   constexpr std::size_t kRoom = 1U << 16U;
   for (std::FILE* const stream : {stdout, stderr})
     static_cast<void>(std::setvbuf(stream, nullptr, _IOFBF, kRoom));
-  // The console outlives the program, and another one's output should not change for it.
+  // The console outlives the program, so the old code page is restored for other programs.
   static const UINT before = GetConsoleOutputCP();
   if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != 0)
     static_cast<void>(std::atexit([] { SetConsoleOutputCP(before); }));

@@ -1,7 +1,7 @@
 #pragma once
 
-// Lengths on screen as the layouts give them: twips, 1,440 to the inch and 15 to a pixel of a screen of 96 dots to the
-// inch. Left and top are measured from the upper left corner of what holds the rectangle.
+// Screen lengths in layouts: twips, 1,440 to the inch and 15 to a pixel at 96 dpi. Left and top are relative to the
+// parent's upper left corner.
 
 namespace quillon {
 

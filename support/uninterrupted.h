@@ -1,12 +1,12 @@
 #pragma once
 
-// System calls that a signal may interrupt before they have done anything. That is not a failure; they are repeated.
+// Retries system calls that a signal interrupts before they have done anything.
 
 #include <cerrno>
 
 namespace quillon {
 
-/// What `call` gives, a result or a negated error number, once that is not "interrupted".
+/// The result of `call`, or its negated error number; repeats it while it is interrupted.
 template <typename Call>
 auto Uninterrupted(Call call) {
   auto result = call();

@@ -11,7 +11,7 @@ Utf8Character FirstCharacter(std::string_view text) {
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
   if (length == 0 || length > text.size() || lead > 0xF4) return {};
 
-  constexpr std::array<char32_t, 3> kSmallest = {0x80, 0x800, 0x10000};  // of two bytes, three, four
+  constexpr std::array<char32_t, 3> kSmallest = {0x80, 0x800, 0x10000};  // of two, three and four bytes
   char32_t character = lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {
     if ((at(i) & 0xC0U) != 0x80U) return {};
