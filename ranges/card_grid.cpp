@@ -14,7 +14,7 @@ constexpr float kCellGap = 25;
 constexpr float kLabelSideMargin = 10;
 constexpr float kLabelTopMargin = 100;
 
-// How far a row of cells reaches, from the left edge of the first to the right edge of the last.
+// The width of a row of cells, from the left edge of the first to the right edge of the last.
 float RowLength(float cell) {
   return kRankCount * (cell + kCellGap) - kCellGap;
 }
@@ -30,8 +30,8 @@ Rgb& ColorOf(CellColors& cells, int index) {
   return cells.at(static_cast<std::size_t>(index));
 }
 
-// Towards better hands a suited class moves left along its row, an offsuit class up its column, both until they meet
-// the diagonal, where the pairs are and move along it.
+// Towards better hands a suited class moves left along its row and an offsuit class up its column until they meet the
+// diagonal; pairs move along the diagonal.
 void PaintBetterHands(CellColors& cells, std::int16_t index, Rgb color) {
   const std::string_view label = HandLabel(index);
   const bool suited = label.ends_with('s');
@@ -118,7 +118,7 @@ std::string GridSummary(const CellColors& cells) {
 
 ClassWeights ShowRangeOnGrid(CellColors& cells, const ProgramFolder& folder, std::string_view name) {
   const std::string text = LoadRangeText(folder, name);
-  // A file with another extension reads as missing. A start that fails over it must name it as it is.
+  // A file with another extension reads as missing; the error must name it as it is on disk.
   const std::string file = text.empty() ? ListedFileName(folder, name) : RangeFileName(name);
   const ClassWeights weights = RangeWeightsOf(text, file);
   for (std::size_t index = 0; index < weights.size(); ++index) {

@@ -24,7 +24,7 @@ Rgb& ColorOf(CellColors& cells, std::string_view label) {
   return cells.at(static_cast<std::size_t>(HandIndex(label)));
 }
 
-// A grid with the words of two lists of labels at full and at half.
+// A grid with two lists of labels selected at full and at half.
 CellColors GridWith(const std::string& full, const std::string& half = {}) {
   CellColors cells = UnselectedCells();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -96,8 +96,7 @@ TEST(ToggleCell, ClickSelectsAnUnselectedCellAndClearsAnyOther) {
   }
 }
 
-// A slow reading of the labels: the sweep from a class takes those with its higher rank and kind, from its lower rank
-// up.
+// A slow check by label: the sweep from a class takes those of its higher rank and kind, from its lower rank up.
 TEST(ToggleCell, SweepOfEveryClassIsWhatItsLabelSays) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string label(HandLabel(index));
@@ -138,7 +137,7 @@ TEST(ToggleCell, SweepPaintsWhateverTheCellsHad) {
 
 TEST(CardGrid, HasTheTextAndTheCaptionsOfFullAndHalf) {
   CellColors grid = GridWith("AA 72o", "AKs 22");
-  ColorOf(grid, "KK") = {10, 36, 107};  // one step away is neither
+  ColorOf(grid, "KK") = {10, 36, 107};  // one step off is neither
   ColorOf(grid, "QQ") = {255, 128, 1};
   EXPECT_EQ(RangeTextFromGrid(grid), TextWith("AA 72o", "AKs 22"));
   EXPECT_EQ(SelectedCombos(grid), 6 + 12 + 2 + 3);

@@ -1,8 +1,8 @@
 #pragma once
 
-// The lines of classes that a run of a range's notation goes through: the pairs, the suited hands of one high card, the
-// offsuit hands of one high card, each from the best class down. In the grid of all classes they are the diagonal, what
-// is in one row to the right of it, and what is in one column below it.
+// The lines of classes that runs in a range's notation follow: the pairs, the suited hands of one high card, the
+// offsuit hands of one high card, each from the best class down. In the grid they are the diagonal, the part of a row
+// to the right of it, and the part of a column below it.
 
 #include <array>
 #include <cstdint>
@@ -22,7 +22,7 @@ struct ClassLine {
   [[nodiscard]] constexpr int Index(int place) const { return First + place * Step; }
   [[nodiscard]] std::string_view Label(int place) const { return HandLabel(static_cast<std::int16_t>(Index(place))); }
 
-  /// The classes from place `start` to place `end` as the notation writes them.
+  /// The classes from position `start` to position `end` in notation.
   ///
   ///     "88" for one class      "88+", "ATs+" for a run from the line's best      "JJ-88", "AQs-A9s" for any other
   [[nodiscard]] std::string Run(int start, int end) const {
@@ -32,8 +32,8 @@ struct ClassLine {
   }
 };
 
-/// All lines in the order of the notation: the pairs, then the suited hands by high card from A down to 3, then the
-/// offsuit hands likewise. Every class is in exactly one.
+/// All lines in notation order: the pairs, then the suited hands by high card from A down to 3, then the offsuit hands
+/// likewise. Every class is in exactly one.
 inline constexpr std::array<ClassLine, 25> kClassLines = [] {
   constexpr int kToTheRight = 1;
   constexpr int kDown = kRankCount;

@@ -44,7 +44,7 @@ TEST(ExampleRanges, AreFilesAsTheProgramWritesThemWithTheHandsTheyAreKnownFor) {
   EXPECT_EQ(RangeFolderEntries(Examples()), files);
 }
 
-// With these two an analysis of a shove shows its warning about dropped hands: one that is halved and one that is gone.
+// With these two, the analysis of a shove warns about dropped hands: one halved and one gone.
 TEST(ExampleRanges, BigBlindCallsWithTwoClassesMoreThanTheButtonShoves) {
   const std::string shove = LoadRangeText(Examples(), "Button Shove");
   const std::string call = LoadRangeText(Examples(), "Big Blind Call");

@@ -1,9 +1,9 @@
 #pragma once
 
-// What changes many cells of a card grid at once: a pasted notation, everything, nothing, the opposite, the best hands;
-// and the steps back and forth. Each is told as the grid that is wanted, and comes about by toggles of single cells, as
-// if they had been clicked one by one without Shift ("ranges/card_grid.h"). What selects without saying at which weight
-// does so as a click does: at half weight while `chkHalf` is checked.
+// Edits of many cells of a card grid at once (pasting a notation, everything, nothing, inversion, the best hands), and
+// undo. Each edit gives the wanted grid, which is reached by toggles of single cells, as if clicked one by one without
+// Shift ("ranges/card_grid.h"). An edit that names no weight selects as a click does: at half weight while `chkHalf` is
+// checked.
 
 #include <cstddef>
 #include <cstdint>
@@ -18,7 +18,7 @@
 
 namespace quillon {
 
-/// One toggle of a cell, and whether it takes `chkHalf` for checked.
+/// A toggle of one cell, and whether it treats `chkHalf` as checked.
 struct CellToggle {
   std::int16_t Index = 0;
   bool Half = false;
@@ -26,41 +26,40 @@ struct CellToggle {
   bool operator==(const CellToggle&) const = default;
 };
 
-/// The toggles that make the second grid of the first, in index order: none for a cell that is right already, and two
-/// where half is to become full, or full half, since a click on a selected cell clears it.
+/// The toggles that turn `from` into `to`, in index order: none for a cell that is right already, and two from half to
+/// full or full to half, since a click on a selected cell clears it.
 [[nodiscard]] std::vector<CellToggle> TogglesBetween(const CellColors& from, const CellColors& to);
 
-/// A grid on which every class is selected.
+/// A grid with every class selected.
 [[nodiscard]] CellColors EverySelectedCell(bool half);
 
-/// The grid after a click on each of its cells: what was selected, in full or half, is cleared, and the rest selected.
+/// The grid after a click on each cell: everything selected, in full or half, is cleared, and the rest selected.
 [[nodiscard]] CellColors InvertedCells(const CellColors& cells, bool half);
 
-/// The grid of a notation with no other weights than 0, 0.5 and 1, or why there is none. `bestFirst` as for
-/// ReadRangeNotation.
+/// The grid of a notation whose weights are all 0, 0.5 or 1, or the error. `bestFirst` as for ReadRangeNotation.
 [[nodiscard]] std::variant<CellColors, NotationError> CellsOfNotation(std::string_view notation,
                                                                       const HandOrder& bestFirst);
 
-/// The grid of the best hands, as "top 15%" has them, for a share in percent as people type it: digits with a point, a
-/// percent sign or none, and spaces round them. Nothing for any other text, and for more than 100.
+/// The grid of the best hands, as in "top 15%", for a share in percent as people type it: digits with an optional point
+/// and percent sign, and spaces around them. Nothing for any other text, and for more than 100.
 ///
 ///     "15"  "15%"  " 12.5 % "
 [[nodiscard]] std::optional<CellColors> BestCells(std::string_view share, bool half, const HandOrder& bestFirst);
 
-/// The grids that have been on show since a range came up, one a step, and which of them shows.
+/// The grids shown since a range was loaded, one per step, for undo and redo.
 class GridHistory {
  public:
-  /// A range came up: what was before it is forgotten.
+  /// Starts anew with a loaded range.
   explicit GridHistory(const CellColors& shown = UnselectedCells()) : grids_{shown} {}
 
-  /// The grid has been changed. What had been undone is forgotten; a grid that is as it was is no step.
+  /// Adds a changed grid and drops what had been undone. An unchanged grid is not a step.
   void Add(const CellColors& changed);
 
   [[nodiscard]] bool CanUndo() const { return now_ > 0; }
   [[nodiscard]] bool CanRedo() const { return now_ + 1 < grids_.size(); }
 
-  /// The grid one step back, and one step forth again, which shows from now on; the one that shows where there is no
-  /// such step.
+  /// The grid one step back, or one step forward, which becomes the current one; if there is no such step, the current
+  /// grid.
   [[nodiscard]] const CellColors& Undo();
   [[nodiscard]] const CellColors& Redo();
 

@@ -74,7 +74,7 @@ TEST(CellsOfNotation, HaveEachWeightThatAGridCanShow) {
 TEST(BestCells, TakeAShareAsPeopleTypeIt) {
   struct Case {
     std::string share;
-    std::string notation;  // empty where that is no share
+    std::string notation;  // empty if it is not a share
   };
   for (const Case& c : std::vector<Case>{
            {"15", "top 15%"},  {"15%", "top 15%"}, {" 12.5 % ", "top 12.5%"},
@@ -95,7 +95,7 @@ TEST(BestCells, TakeAShareAsPeopleTypeIt) {
   }
 }
 
-// Letters are steps to grids of their own, "<" goes back and ">" forth.
+// Letters add grids of their own, "<" is undo and ">" redo.
 TEST(GridHistory, GoesBackAndForth) {
   struct Case {
     const char* rule;
@@ -123,7 +123,7 @@ TEST(GridHistory, GoesBackAndForth) {
     CellColors shown = gridNamed('2');
     for (const char step : c.steps) {
       shown = step == '<' ? history.Undo() : step == '>' ? history.Redo() : gridNamed(step);
-      history.Add(shown);  // after a step back, too: it is no change
+      history.Add(shown);  // no change, even after an undo
     }
     EXPECT_EQ(shown, gridNamed(c.shown.front())) << c.rule;
     EXPECT_EQ(std::pair(history.CanUndo(), history.CanRedo()), std::pair(c.canUndo, c.canRedo)) << c.rule;

@@ -8,7 +8,7 @@
 namespace quillon {
 
 std::size_t EditDistance(std::string_view from, std::string_view to) {
-  // distances[i] is that from what has been read of `from` to the first i bytes of `to`.
+  // distances[i] is the distance from the part of `from` read so far to the first i bytes of `to`.
   std::vector<std::size_t> distances(to.size() + 1);
   std::iota(distances.begin(), distances.end(), std::size_t{0});
   for (const char read : from) {

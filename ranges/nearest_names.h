@@ -1,6 +1,6 @@
 #pragma once
 
-// What a user may have meant by a name that does not exist.
+// Suggestions for a name that does not exist.
 
 #include <cstddef>
 #include <string>
@@ -9,13 +9,13 @@
 
 namespace quillon {
 
-/// How many bytes must be inserted, deleted or changed to turn one text into the other, without regard to the case of
-/// the letters A to Z: ("tihgt", "Tight") is 2. Source: V. I. Levenshtein, "Binary codes capable of correcting
-/// deletions, insertions, and reversals", 1966.
+/// The number of bytes to insert, delete or change to turn one text into the other, ignoring the case of A to Z:
+/// ("tihgt", "Tight") is 2. Source: V. I. Levenshtein, "Binary codes capable of correcting deletions, insertions, and
+/// reversals", 1966.
 [[nodiscard]] std::size_t EditDistance(std::string_view from, std::string_view to);
 
-/// The `count` of `names` that are nearest to `wanted` by EditDistance, or all where there are fewer: the nearest
-/// first, those equally near in the order given.
+/// The `count` of `names` nearest to `wanted` by EditDistance, nearest first and ties in the given order; all if there
+/// are fewer.
 [[nodiscard]] std::vector<std::string> NearestNames(std::string_view wanted, std::vector<std::string> names,
                                                     std::size_t count);
 

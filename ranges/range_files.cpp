@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-// The system would take a path up to its first NUL character and so reach the file of another range.
+// The system would cut a path at its first NUL character and so reach another range's file.
 bool CanNameFile(std::string_view name) {
   return name.find('\0') == std::string_view::npos;
 }
@@ -21,8 +21,8 @@ void RequireFileName(std::string_view name) {
   throw RunTimeError(RunTimeFault::kBadFileName, "a NUL character in the name of a range");
 }
 
-// Whether deleting `oldFile` would take what was saved as `newFile` with it. Names that differ in case may be one file
-// to the file system, and the new name may be a link to the old file. An old name that is a link itself only goes.
+// Whether deleting `oldFile` would also delete what was saved as `newFile`: names that differ in case may be one file,
+// and the new name may be a link to the old file. If the old name is a link itself, only the link is deleted.
 bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem::path& newFile) {
   std::error_code unknown;
   return !std::filesystem::is_symlink(oldFile, unknown) && std::filesystem::equivalent(oldFile, newFile, unknown);
@@ -66,7 +66,7 @@ void RenameRange(const ProgramFolder& folder, std::string_view oldName, std::str
   if (const std::error_code error = ErrorOfPath(oldFile)) FailOnFile(error.default_error_condition().value(), oldFile);
 
   SaveRangeText(folder, newName, text);
-  // Not every system gives a file that is replaced the new name's letter case. It is the same name to it either way.
+  // Not every system gives a replaced file the new name's letter case; the system treats both as the same name.
   if (IsSameName(oldName, newName)) {
     if (oldName != newName)
       static_cast<void>(folder.Calls->Rename(oldFile.string(), RangeFilePath(folder, newName).string()));

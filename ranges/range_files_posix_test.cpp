@@ -32,7 +32,7 @@ TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoesUnlessBothAreOneFile) {
     const char* rule;
     std::vector<const char*> files;
     const char* link;  // empty: there is none
-    const char* target;  // only where that is the old range does the old name stay
+    const char* target;  // the old name stays only if this is the old range
     const char* from;
     const char* to;
   };
@@ -55,7 +55,7 @@ TEST(RenameRange, NewRangeTakesTheTextAndTheOldNameGoesUnlessBothAreOneFile) {
   }
 }
 
-// As old archives leave them: the name on disk is bytes of the code page.
+// As old archives have them: names on disk in the code page.
 TEST(RangeFilePath, NameThatIsNotUtf8IsFoundByItsText) {
   const TemporaryProgram program;
   const ProgramFolder& folder = program.Folder();
@@ -78,13 +78,13 @@ TEST(RangeFilePath, NameInUtf8ComesFirst) {
   const auto expectFile = [&](std::string_view name, std::string_view file) {
     EXPECT_EQ(RangeFilePath(program.Folder(), name), program.RangeFile(file)) << name;
   };
-  expectFile("Käse", "Käse.txt");  // neither is there, so a new range has the usual name
+  expectFile("Käse", "Käse.txt");  // neither exists, so a new range has the usual name
   program.Write("K\xE4se.txt");
   expectFile("Käse", "K\xE4se.txt");
   program.Write("Käse.txt");
   expectFile("Käse", "Käse.txt");
 
-  // The bytes C3 A4 are "ä" in UTF-8, so no file is listed under what they are in the code page.
+  // The bytes C3 A4 are "ä" in UTF-8, so no file is listed under their code page text.
   program.Write("ä.txt");
   expectFile("Ã¤", "Ã¤.txt");
   program.Write("\x3F\xE4.txt");

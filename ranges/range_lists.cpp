@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kExtensionLength = 4;
 
-// Where the last four characters of a file's name begin; nothing if it has fewer.
+// Where the last four characters of a file's name begin; nothing if it is shorter.
 std::optional<std::size_t> StartOfExtension(std::string_view fileName) {
   std::size_t start = fileName.size();
   for (int taken = 0; taken < kExtensionLength; ++taken) {
@@ -27,7 +27,7 @@ std::optional<std::size_t> StartOfExtension(std::string_view fileName) {
   return start;
 }
 
-// By the names that are listed: "Big Blind.txt" would come after "Big Blind 2.txt".
+// By the listed names: by file names "Big Blind.txt" would come after "Big Blind 2.txt".
 std::u32string SortingKey(std::string_view fileName) {
   return WithoutCase(fileName.substr(0, StartOfExtension(fileName).value_or(fileName.size())));
 }
@@ -35,7 +35,8 @@ std::u32string SortingKey(std::string_view fileName) {
 }  // namespace
 
 std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder) {
-  std::multiset<std::pair<std::u32string, std::string>> entries;  // the key, and the name, which two files may have
+  std::multiset<std::pair<std::u32string, std::string>>
+      entries;  // the key, and the name, since two files may have the same key
   for (const std::string& name : FileNamesIn(RangeFolderPath(folder)))
     entries.emplace(SortingKey(name), name);
   std::vector<std::string> names;
@@ -61,7 +62,7 @@ std::string ListedFileName(const ProgramFolder& folder, std::string_view name) {
   try {
     files = RangeFolderEntries(folder);
   } catch (const RunTimeError&) {
-    return usual;  // the caller reports a fault of its own
+    return usual;  // the caller reports its own fault
   }
   if (std::ranges::find(files, usual) != files.end()) return usual;
   const auto isListedSo = [name](std::string_view file) {

@@ -17,7 +17,7 @@
 namespace quillon {
 namespace {
 
-// A text may be read as a range and still not be one: a letter, a picture. A range has at least one class with a
+// A text may read as a range without being one, such as a letter or a picture. A range has at least one class with a
 // weight.
 bool HoldsAnEntry(std::string_view text) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -34,7 +34,7 @@ std::vector<std::string> RangeNames(const ProgramFolder& folder) {
   return names;
 }
 
-// A name is that of a file in the range folder: one with a separator would lead elsewhere.
+// A name with a separator would lead out of the range folder.
 bool HasFile(const std::string& name, const ProgramFolder& folder) {
   if (name.find('\0') != std::string::npos || PathOf(RangeFileName(name)).has_parent_path()) return false;
   return IsThere(RangeFilePath(folder, name));

@@ -1,7 +1,6 @@
 #pragma once
 
-// Ranges that are named where there is no list to choose from: whether there is one, and whether its file holds a
-// range.
+// Ranges named outside a list: whether they exist, and whether their files hold a range.
 
 #include <optional>
 #include <string>
@@ -11,7 +10,7 @@
 
 namespace quillon {
 
-/// What `read` returns, nothing where it ends in a run-time error.
+/// What `read` returns, or nothing if it throws a RunTimeError.
 template <typename Read>
 auto Attempt(Read read) -> std::optional<decltype(read())> {
   try {
@@ -21,15 +20,15 @@ auto Attempt(Read read) -> std::optional<decltype(read())> {
   }
 }
 
-/// Whether the range's file can be read as a range and holds an entry of one.
+/// Whether the range's file can be read as a range and holds at least one entry.
 [[nodiscard]] bool IsReadable(const std::string& name, const ProgramFolder& folder);
 
-/// Nothing for a range that is readable, and otherwise that its file is not, with the path: a failure over its text
-/// would not know which file it is about.
+/// Nothing for a readable range; otherwise a message that its file is not, with the path, which an error from reading
+/// the text would lack.
 [[nodiscard]] std::optional<std::string> WhyUnreadable(const std::string& name, const ProgramFolder& folder);
 
-/// Nothing where there is a file for a range of this name, and otherwise that there is none, with the names nearest to
-/// it. A name that leads out of the range folder, such as "../Tight", names no range.
+/// Nothing if the range has a file; otherwise a message that there is no such range, with the nearest names. A name
+/// that leads out of the range folder, such as "../Tight", is unknown.
 ///
 ///     There is no range "Tihgt" in Quillon/Ranges. The nearest names: "Tight", "Top Ten"
 [[nodiscard]] std::optional<std::string> WhyUnknown(const std::string& name, const ProgramFolder& folder);

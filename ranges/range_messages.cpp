@@ -36,7 +36,7 @@ Message SaveRangeQuestion(std::string_view name) {
 }
 
 Message NotARangeMessage(std::string_view notation, const NotationError& error) {
-  constexpr std::size_t kAroundPlace = 25;  // together what one line of a box has room for
+  constexpr std::size_t kAroundPlace = 25;  // twice this fits on one line of a box
   std::string text = MarkedPlace(notation, error, kAroundPlace);
   text.insert(text.find('\n'), "\r");
   return {.title = "This Is Not a Range", .text = std::move(text), .icon = MessageIcon::kExclamation, .columns = true};

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the range dialogs say and ask. The words are the product's own, odd ones too.
+// The messages and questions of the range dialogs. The texts are verbatim, odd ones too.
 
 #include <span>
 #include <string>
@@ -36,14 +36,14 @@ inline constexpr LineQuestion kAskTopShare = {"What percentage of all hands, the
 /// Before the Range Manager closes over a changed range: Yes, No or Cancel.
 [[nodiscard]] Message SaveRangeQuestion(std::string_view name);
 
-/// A text that was to be painted on a grid is no notation, or none that a grid can show: its place, with the reason.
+/// The text to paint is not a notation, or not one that a grid can show: its place, with the reason.
 [[nodiscard]] Message NotARangeMessage(std::string_view notation, const NotationError& error);
 
-/// The answer to kAskTopShare is no share.
+/// The answer to kAskTopShare is not a share.
 [[nodiscard]] Message NotAShareMessage();
 
-/// What a player is to know of a range whose file has weights that a grid cannot show; the empty text where all weights
-/// are 0, 0.5 or 1. Of many weights, the first. Two lines, separated by CR LF.
+/// Tells a player that a range's file has weights that a grid cannot show; the empty text if all weights are 0, 0.5 or
+/// 1. A long list is cut. Two lines, separated by CR LF.
 ///
 ///     The range "Loose" has weights that the grid cannot show, and saving drops them:
 ///     QQ:0.25,AJs+:0.7

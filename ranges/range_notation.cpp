@@ -37,7 +37,7 @@ bool IsControl(char c) {
   return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
 }
 
-// The character at the front of a text, in words.
+// The first character of a text, in words.
 std::string Named(std::string_view text) {
   if (IsControl(text.front())) return "character " + std::to_string(static_cast<int>(text.front()));
   constexpr std::size_t kLongestCharacter = 4;
@@ -47,9 +47,9 @@ std::string Named(std::string_view text) {
   return Joined({"\"", text.substr(0, size), "\""});
 }
 
-// How many characters at the front of a text are a number: digits, a fraction, an exponent.
+// The length of the number at the start of a text: digits, a fraction, an exponent.
 std::size_t NumberLength(std::string_view text) {
-  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) return 0;  // the library takes a sign, and "inf"
+  if (text.empty() || !(IsDigit(text[0]) || text[0] == '.')) return 0;  // the library would take a sign, and "inf"
   double number = 0;
   const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
   return fault == std::errc::invalid_argument ? 0 : static_cast<std::size_t>(end - text.data());
@@ -57,7 +57,7 @@ std::size_t NumberLength(std::string_view text) {
 
 enum class Suits { kPair, kBoth, kSuited, kOffsuit };
 
-// A hand as it is written. Ranks are places in kRankLetters, so the high card has the smaller one.
+// A hand as written. Ranks are positions in kRankLetters, so the high card has the smaller one.
 struct WrittenHand {
   int High = 0;
   int Low = 0;
@@ -98,20 +98,20 @@ class NotationReader {
     place_ = std::min(text_.find_first_not_of(characters, place_), text_.size());
   }
 
-  // `word` is in lower case.
+  // `word` is lower-case.
   bool TakeWord(std::string_view word) {
     if (!EqualButForCase(Rest().substr(0, word.size()), word)) return false;
     place_ += word.size();
     return true;
   }
 
-  // Always false, so that a failure can be returned. Of several reasons the first counts.
+  // Always false, so that a caller can return it. The first reason counts.
   bool Fail(std::string_view reason) {
     if (reason_.empty()) reason_ = reason;
     return false;
   }
 
-  // "Full:" and "Half:", and what separates the two.
+  // "Full:" and "Half:", and the separator of the two.
   bool TakeMark() {
     const bool bar = TakeWord("|");
     if (bar) Skip(kSeparators);
@@ -126,7 +126,7 @@ class NotationReader {
     return true;
   }
 
-  // After hands and spaces, with no other separator between them.
+  // After hands and spaces, without another separator between them.
   [[nodiscard]] bool SpacedDashIsNext() const {
     return !named_.empty() && Rest().starts_with('-') &&
            kSeparators.find(text_[text_.find_last_not_of(kBlanks, place_ - 1)]) == std::string_view::npos;
@@ -172,7 +172,7 @@ class NotationReader {
     const double share = TakeNumber();
     ++place_;  // the percent sign
     if (share > 100) return Fail(kBadShare);
-    // In percent times hands: whole numbers wherever two shares are equally near, so that ties are exact.
+    // In percent times hands: integers whenever two shares are equally near, so that ties are exact.
     const double wanted = share * kConcreteHandCount;
     double nearest = wanted;
     double combos = 0;
@@ -262,7 +262,7 @@ class NotationReader {
     return static_cast<int>(rank);
   }
 
-  // The weight of the item: the one written after it, or the usual one.
+  // The weight of the item: the one written after it, or the default.
   std::optional<double> ReadWeight() {
     if (TakeWord(":")) {
       const std::string_view written = WeightAtFront(Rest());
@@ -276,7 +276,7 @@ class NotationReader {
     return usualWeight_;
   }
 
-  // A range file may have a space between two digits of a weight, and reads without it.
+  // A range file may have a space between two digits of a weight, which readers skip.
   std::optional<double> TakeWeightInBrackets() {
     std::string inside(Rest().substr(0, Rest().find(')')));
     place_ += inside.size();
@@ -310,12 +310,12 @@ class NotationReader {
   NotationWeights allowed_;
   std::size_t place_ = 0;
   double usualWeight_ = 1;
-  std::vector<int> named_;  // the classes of the item at hand
+  std::vector<int> named_;  // the classes of the current item
   std::string reason_;
   ClassWeights weights_{};
 };
 
-// Weights as they read: two that read the same are the same.
+// Weights as text: equal texts are equal weights.
 using WeightTexts = std::array<std::string, kHandClassCount>;
 
 // Classes of one line at the same weight, each run followed by a comma.
@@ -334,7 +334,7 @@ std::string LineNotation(const ClassLine& line, const WeightTexts& weights) {
   return items;
 }
 
-// What a terminal can show of a line, each character one column wide.
+// The text with each character one column wide on a terminal.
 std::string Printable(std::string_view text) {
   std::string printable;
   for (const char c : text)
@@ -351,7 +351,7 @@ NotationReading ReadRangeNotation(std::string_view notation, std::span<const std
 
 std::string MarkedPlace(std::string_view notation, const NotationError& error, std::size_t around) {
   constexpr std::string_view kLineEnds = "\r\n";
-  std::size_t start = notation.substr(0, error.Place).find_last_of(kLineEnds) + 1;  // 0 where there is none
+  std::size_t start = notation.substr(0, error.Place).find_last_of(kLineEnds) + 1;  // 0 if there is none
   if (start == 0 && notation.starts_with(kUtf8Mark)) start = std::min(kUtf8Mark.size(), error.Place);
   std::size_t end = std::min(notation.find_first_of(kLineEnds, error.Place), notation.size());
   if (error.Place - start > around) start = error.Place - around;

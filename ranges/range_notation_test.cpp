@@ -18,7 +18,7 @@ namespace {
 
 using Order = std::array<std::int16_t, kHandClassCount>;
 
-// Enough of an order to tell it from the index order: AA, KK and so on, then the other classes by index.
+// An order that differs from the index order: AA, KK and so on, then the other classes by index.
 Order PairsFirst() {
   Order order{};
   std::size_t next = 0;
@@ -177,7 +177,7 @@ TEST(RangeNotation, ForAGridAWeightThatItCannotShowIsAnError) {
   const std::string reason = "^ the grid knows the weights 0, 0.5 and 1 only";
   struct Case {
     std::string notation;
-    std::string marked;  // empty where the notation is good
+    std::string marked;  // empty if the notation is valid
   };
   for (const Case& c : std::vector<Case>{
            {"AA:1, KK:0.5, QQ:0, JJ:50%, TT (0.5)", ""},

@@ -1,4 +1,4 @@
-// Random ranges on their way through text, weights and notation, against the oracle.
+// Random ranges converted between text, weights and notation, checked against the oracle.
 
 #include <algorithm>
 #include <array>
@@ -31,10 +31,10 @@ auto AnyOf(Random& random, const Values& values) {
 }
 
 constexpr std::array kUsualWeights = {0.0, 0.5, 1.0};
-// No two equal digits side by side: a weight such as 0.99 would be taken for the label of a pair.
+// No two equal adjacent digits: a weight such as 0.99 would be taken for the label of a pair.
 constexpr std::array kAnyWeights = {0.0, 0.5, 1.0, 0.25, 0.75, 2.0, -1.0, 0.015625, 0.98, 1e-20, 1e20};
 
-// Ranges of players have runs, so a weight is kept along a line more often than it changes; `keep` is in percent.
+// Players' ranges have runs, so a weight is kept along a line more often than not; `keep` is in percent.
 template <typename Palette>
 plain::Weights RandomWeights(Random& random, const Palette& palette, int keep) {
   plain::Weights weights(plain::kClasses);
@@ -87,7 +87,7 @@ constexpr std::array kWrittenWeights = {"0",    "0.5", "1",   "1",  "0",     ".5
                                         "-0.5", "+1",  " 1 ", "1x", "5e-01", "0. 5", "x",    "",    "22.5", "9 9"};
 constexpr std::array kRemarks = {"", "my notes: ", "(loose) ", "AK? ", "T9 ", "\r\n", ") ", "22 "};
 
-// A text as somebody might leave it who edits range files by hand.
+// A text as left by somebody who edits range files by hand.
 std::string HandEditedText(Random& random) {
   const int missing = AnyOf(random, std::array{0, 0, 3, 50});  // percent
   const int doubled = AnyOf(random, std::array{0, 10});
@@ -130,7 +130,7 @@ std::array<std::int16_t, kHandClassCount> ByIndex() {
   return order;
 }
 
-// The weights of a notation that must be readable.
+// The weights of a notation that must be valid.
 ClassWeights WeightsOfNotation(const std::string& notation) {
   const NotationReading reading = ReadRangeNotation(notation, ByIndex());
   if (const auto* const error = std::get_if<NotationError>(&reading)) ADD_FAILURE() << MarkedPlace(notation, *error);
@@ -156,7 +156,7 @@ TEST_P(RandomRange, ReadsTheNotationThatItWrote) {
   }
 }
 
-// An item as somebody might type it, and the classes that it names.
+// An item as somebody might type it, and its classes.
 struct TypedItem {
   std::string text;
   std::vector<std::string> classes;

@@ -20,7 +20,7 @@ std::string LineRuns(const ClassLine& line, std::string_view text, double target
       start = place + 1;
       continue;
     }
-    // Intentional: not "equal to". A run of halves goes on into a full class, where it is dropped unwritten.
+    // Intentional: not "equal to". A run of halves continues into a full class, where it is dropped unwritten.
     if (place + 1 < line.Count && weightAt(place + 1) >= target) continue;
     runs.append(line.Run(start, place)).append(",");
   }

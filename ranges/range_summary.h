@@ -1,7 +1,7 @@
 #pragma once
 
-// The short form in which poker players write a range, such as "88+,ATs+,KQs,AJo+". It exists for reading only: nothing
-// ever parses it back, and the range text stays the range.
+// The short form in which poker players write a range, such as "88+,ATs+,KQs,AJo+". For display only; it is never
+// parsed.
 //
 // Items are separated by commas without spaces: first the pairs from AA down, then the suited hands by high card from A
 // down, then the offsuit hands likewise. An item is one class ("88", "KQs"), an open run ("88+", "ATs+": that class and
@@ -25,9 +25,9 @@ namespace quillon {
 /// Fails as RangeWeightOf does.
 [[nodiscard]] std::string SummarizeWeight(std::string_view text, double target);
 
-/// The full notation of a range text: the classes at weight 1, or, where some class at 0.5 has a notation, "Full: ",
-/// those at 1, " | Half: ", those at 0.5. All 169 classes at 1 give "[Everything]", nothing at all gives "[None]". A
-/// class at any other weight does not appear.
+/// The full notation of a range text: the classes at weight 1 or, if some class at 0.5 has a notation, "Full: ", those
+/// at 1, " | Half: ", those at 0.5. All 169 classes at 1 give "[Everything]", nothing at all gives "[None]". A class at
+/// any other weight does not appear.
 ///
 ///     AA at 1, KK at 0.5 -> "Full: AA | Half: KK"      32o alone at 0.5 -> "Full:  | Half: 32o"
 ///     AA at 0.5, KK at 1 -> "KK"

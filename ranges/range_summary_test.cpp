@@ -71,7 +71,7 @@ TEST(SummarizeWeight, TakesAnyTarget) {
 }
 
 TEST(RangeSummary, MissingClassesReadByTheCommonRule) {
-  // Every missing class of three characters reads the 1 of "AA (1)", every missing pair reads nothing.
+  // Every missing class of three characters reads the 1 of "AA (1)"; every missing pair reads 0.
   EXPECT_EQ(RangeSummary("AA (1), "), "AA" + std::string(kWholeGrid).substr(3));
 }
 

@@ -23,8 +23,8 @@ constexpr std::string_view kEntryEnd = "), ";
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, source.append(" holds no weight for ").append(label));
 }
 
-// The weight of an entry like "AKs (1)", one digit between brackets, as nearly all are; of any other, nothing. A label
-// with a bracket of its own is left alone, since that would end the number's place before it has begun.
+// The weight of an entry like "AKs (1)", with one digit between brackets, as nearly all have; nothing for any other. A
+// label containing a bracket is left alone, since that would end the number before its start.
 std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t found, std::string_view label) {
   constexpr std::size_t kBehindLabel = 4;  // " (1)"
   const bool isLabel = (label.size() == 2 || label.size() == 3) && label[1] != ')' && label.back() != ')';
@@ -37,8 +37,8 @@ std::optional<double> WeightOfUsualEntry(std::string_view text, std::size_t foun
   return digit;
 }
 
-// The place in a UTF-8 text that is so many characters after another. In a range's file each is one byte, and
-// places in it are counted so.
+// The position in a UTF-8 text that is this many characters after another. In a range's file each character is one
+// byte, and positions in it count bytes.
 std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t characters) {
   for (; characters > 0; --characters) {
     ++place;
@@ -48,8 +48,8 @@ std::size_t PlaceBehind(std::string_view text, std::size_t place, std::size_t ch
   return place;
 }
 
-// Of all that the text of a number can hold, two equal digits alone are a label, that of a pair. A space, which a
-// number's reader skips, breaks it where the pair's own entry is yet to come.
+// The only label that the text of a number can contain is a pair's: two equal digits. A space, which the number's
+// reader skips, splits them if the pair's own entry comes later.
 std::string WithLabelsBroken(std::string number, std::int16_t index) {
   for (std::size_t place = number.size() - 1; place > 0; --place) {
     const bool isLabel = number[place - 1] == number[place] && HandIndex(number.substr(place - 1, 2)) > index;
@@ -79,7 +79,7 @@ double RangeWeightOf(std::string_view text, std::string_view label, std::string_
   const std::size_t found = FindText(text, label);
   if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;
 
-  // A label that is missing counts as one place before the text: the fallback for missing classes rests on it.
+  // A missing label counts as one place before the text; the fallback for missing classes depends on it.
   const bool missing = found == std::string_view::npos;
   const auto length = static_cast<std::size_t>(std::count_if(label.begin(), label.end(), StartsUtf8Character));
   const std::size_t start =

@@ -16,7 +16,7 @@ void ShiftKeys::KeyDown(ShiftKey key) {
 
 void ShiftKeys::KeyUp(ShiftKey key) {
   KeyState& state = StateOf(key);
-  // A release without a press seen before it belongs to the press that was not seen.
+  // A release without a known press belongs to the press that was not seen.
   if (!state.Down) unseen_ = {};
   state = {};
 }

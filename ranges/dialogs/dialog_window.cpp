@@ -38,7 +38,7 @@ void FrameBoxes(QWidget& form) {
 }
 
 void OrderTabs(std::span<QWidget* const> controls) {
-  // Qt takes only those into the order that Tab reaches at the moment.
+  // Qt puts into the tab order only those that Tab can reach at the time.
   std::vector<QWidget*> unreached;
   std::ranges::copy_if(controls, std::back_inserter(unreached),
                        [](const QWidget* control) { return control->focusPolicy() == Qt::NoFocus; });

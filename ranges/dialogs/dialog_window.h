@@ -1,7 +1,7 @@
 #pragma once
 
-// What the windows beside the main window have in common: a white ground, the program's icon, a way for the
-// Tab key, and how they come up.
+// What all windows other than the main window share: a white background, the program's icon, a tab order, and how they
+// are raised.
 
 #include <QWidget>
 #include <functional>
@@ -18,25 +18,25 @@
 
 namespace quillon {
 
-/// What a dialog finds round it. All of it outlives the dialog.
+/// What a dialog uses from outside. All of it outlives the dialog.
 struct DialogSurroundings {
   ProgramFolder Folder;
   MessageBoxes& Messages;
   InputBoxes& Inputs;
   ShiftWatch& Shift;
-  std::function<HandOrder()> BestFirst;  // the classes as "top 15%" takes them
+  std::function<HandOrder()> BestFirst;  // the classes in the order of "top 15%"
 };
 
-/// Gives a window that title, the ground and the icon of the dialogs.
+/// Gives a window this title and the dialogs' background and icon.
 void DressWindow(QWidget& form, std::string_view title);
 
-/// Makes `form` a window with that title and inner area, hidden.
+/// Makes `form` a hidden window with this title and inner size.
 void PrepareDialog(QWidget& form, std::string_view title, const TwipSize& size);
 
-/// Draws frames round the boxes of the form, which has no shapes round them.
+/// Draws frames around the form's boxes, which have no shapes around them.
 void FrameBoxes(QWidget& form);
 
-/// The same with its controls.
+/// The same, also adding the controls.
 template <typename Controls>
 [[nodiscard]] Controls BuildDialog(QWidget& form, std::string_view title, const TwipSize& size) {
   PrepareDialog(form, title, size);
@@ -45,14 +45,13 @@ template <typename Controls>
   return controls;
 }
 
-/// Lets Tab go from one control to the next, also to those that it does not reach yet. The first has the focus when the
-/// window comes up.
+/// Sets the tab order, including controls that Tab cannot reach yet. The first gets the focus when the window is shown.
 void OrderTabs(std::span<QWidget* const> controls);
 
-/// Tells that a range was saved in a box, and has it said at once.
+/// Shows that a range was saved in a message box, and announces it at once.
 void TellSaved(QWidget& form, const DialogSurroundings& around, std::string_view rangeName);
 
-/// Shows the window in front of all others and gives it the keyboard, also where it is shown already or minimised.
+/// Shows the window in front of all others with keyboard focus, also if it is already visible or minimised.
 void BringUp(QWidget& window);
 
 }  // namespace quillon

@@ -92,8 +92,8 @@ TEST_F(FormCardGridTest, ARepeatOfAHeldShiftKeyIsNoNewPress) {
   ShiftUp();
 }
 
-// Both Shift keys: one that went down while another program had the keyboard and stays down, and one that is pressed
-// and released here. The window system's event comes to the window and again to the control in it.
+// Both Shift keys: one pressed while another program had the keyboard and still held, and one pressed and released
+// here. The window system's event reaches the window and then the control in it.
 TEST_F(FormCardGridTest, AReleaseThatComesTwiceIsOneRelease) {
   const auto send = [this](QEvent::Type type, quint64 when) {
     for (int i = 0; i < 2; ++i) {

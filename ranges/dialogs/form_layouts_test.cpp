@@ -1,5 +1,5 @@
-// Both dialogs on the screen: nothing is cut off or covers another control, and each control can be reached with the
-// mouse, the Tab key and a screen reader.
+// Both dialogs on screen: nothing is cut off or covers another control, and each control can be reached by mouse, Tab
+// key and screen reader.
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -16,7 +16,7 @@
 namespace quillon {
 namespace {
 
-// What a control shows: of a label its text, of anything else its whole rectangle.
+// The visible part of a control: a label's text, anything else's whole rectangle.
 QRect SeenPart(const QWidget& control) {
   const auto* label = qobject_cast<const Label*>(&control);
   if (label == nullptr) return control.geometry();
@@ -57,7 +57,7 @@ void ExpectNoOverlaps(const QWidget& form) {
   }
 }
 
-// Where Tab goes, once round, from what has the focus when the window comes up.
+// One full round of the Tab key, from the initial focus.
 std::vector<std::string> TabWay(const QWidget& form) {
   std::vector<std::string> way;
   const QWidget* start = form.focusWidget();

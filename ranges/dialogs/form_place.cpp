@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-// Places are counted over all screens, so that one of them must be the measure.
+// Positions span all screens, so one screen's scale must serve for all.
 double ScreenTwipsPerPixel() {
   return static_cast<double>(kTwipsPerPixel) / DesktopScale(QGuiApplication::primaryScreen());
 }
@@ -23,7 +23,7 @@ int PixelOf(float twips) {
   return static_cast<int>(std::floor(static_cast<double>(twips) / ScreenTwipsPerPixel() + 0.5));
 }
 
-// The upper left end wins where there is no room.
+// If there is too little room, the upper left end wins.
 int Within(int start, int length, int roomStart, int roomLength) {
   return std::max(roomStart, std::min(start, roomStart + roomLength - length));
 }

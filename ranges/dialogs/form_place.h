@@ -1,7 +1,7 @@
 #pragma once
 
-// Where a form is on the screen ("shell/window_place.h"). Here a twip is one of the screen: 15 are a logical pixel of
-// the desktop, whatever the zoom of the form, so that a form keeps its place when the zoom has changed.
+// A form's place on the screen ("shell/window_place.h"), in screen twips: 15 to a logical pixel of the desktop whatever
+// the form's zoom, so that a form keeps its place when the zoom changes.
 
 #include <QWidget>
 #include <string_view>
@@ -11,17 +11,17 @@
 
 namespace quillon {
 
-/// A size on the screen in twips of the screen.
+/// A size in screen twips.
 [[nodiscard]] TwipSize ScreenTwips(const QSize& pixels);
 
-/// Puts the form where it was when its place was stored, or into the middle of the screen; there its title bar is on
-/// the screen, also where the form is larger.
+/// Moves the form to its stored place, or to the middle of the screen, where its title bar stays visible even if the
+/// form is larger than the screen.
 void RestorePlace(QWidget& form, std::string_view section, const ProgramFolder& folder);
 
-/// Brings the title bar of a form on to the screen, and as much of the form as there is room for.
+/// Moves the form so that its title bar is on the screen, and as much of the rest as fits.
 void KeepOnScreen(QWidget& form);
 
-/// Where the form is, as settings of that section.
+/// The form's place as settings of this section.
 [[nodiscard]] std::vector<IniSetting> PlaceSettings(std::string_view section, const QWidget& form);
 
 }  // namespace quillon

@@ -36,7 +36,7 @@ void GridPainting::Bind() {
     Q_EMIT Painted();
   });
   connect(&grid_, &FormCardGrid::MenuWanted, this, [this](qint16 /*index*/, const QPoint& place) { ShowMenu(place); });
-  // Later, so that who dragged the text does not wait for a message about it to be read.
+  // Queued, so that the source of the drag does not wait while a message is read.
   connect(&grid_, &FormCardGrid::TextDropped, this, &GridPainting::PaintText, Qt::QueuedConnection);
   BindKeyBesideText(form_, kCopyKey, [this] { Copy(); });
   BindKeyBesideText(form_, kPasteKey, [this] { Paste(); });
@@ -70,7 +70,7 @@ void GridPainting::Paste() {
 }
 
 void GridPainting::PaintText(const QString& notation) {
-  // A drop is an act in the window of whoever drags.
+  // A drop is an action in the window of its source.
   const Answering answering({.ByKey = AnswersKey(), .Window = &form_});
   const std::string text = FromQt(notation);
   const auto cells = CellsOfNotation(text, around_.BestFirst());

@@ -1,8 +1,8 @@
 #pragma once
 
-// Fast painting on the card grid of a dialog: its clicks, a menu with what changes many cells at once
-// ("ranges/grid_edits.h"), the keys and the drop of a text that do the same, and the steps back and forth. Keys are
-// heard wherever in the window the focus is, but for its text boxes, which know the same keys.
+// Fast painting on a dialog's card grid: clicks, a menu for changing many cells at once ("ranges/grid_edits.h"), the
+// keys and the text drop that do the same, and undo and redo. The keys work wherever in the window the focus is, except
+// in text boxes, which use the same keys themselves.
 
 #include <QCheckBox>
 #include <QObject>
@@ -22,14 +22,14 @@ class GridPainting : public QObject {
   /// `form` is the dialog, `half` its check box for half weight. All of them outlive this.
   GridPainting(QWidget& form, FormCardGrid& grid, const QCheckBox& half, const DialogSurroundings& around);
 
-  /// A range came up on the grid: there is nothing to undo.
+  /// A range has been loaded into the grid: there is nothing to undo.
   void Start() { history_ = GridHistory(grid_.Colors()); }
 
-  /// The grid was changed by another: one step.
+  /// Something else changed the grid: adds one step.
   void AddStep() { history_.Add(grid_.Colors()); }
 
  Q_SIGNALS:
-  void Painted();  // the grid is to be summed up anew
+  void Painted();  // the summary is out of date
 
  private:
   void Bind();

@@ -127,7 +127,7 @@ TEST_F(PaintingTest, TheMenuComesByTheKeyboardWithItsFirstEntryMarked) {
   EXPECT_EQ(Clipboard(), "AKs");
   QTest::qWait(0);
 
-  // What the window system makes of the menu key.
+  // The window system's context menu event for the menu key.
   Label& cell = Controls().LabelAt("lblCards", 0);
   QContextMenuEvent event(QContextMenuEvent::Keyboard, cell.rect().center(), cell.mapToGlobal(cell.rect().center()));
   QCoreApplication::sendEvent(&cell, &event);
@@ -301,7 +301,7 @@ TEST_F(PaintingTest, StepsGoBackAndForth) {
   Cell("AJs");
   Paste("22");
   Choose("Clear");
-  Choose("Clear");  // no step: it is clear
+  Choose("Clear");  // no step: it is already clear
   const std::vector<std::string> steps = {"", "22", "AA AKs AQs|AJs", "AA AKs AQs", "AA AKs AQs AJs", "AA", ""};
   const auto text = [](const std::string& step) {
     const auto bar = step.find('|');

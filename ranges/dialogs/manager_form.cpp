@@ -66,7 +66,7 @@ void ManagerForm::ShowRange() {
   const ClassWeights file = ShowRangeOnGrid(cells, around_.Folder, name);
   grid_.Show(cells);
   painting_.Start();
-  // Of what the grid can show: a weight such as 0.25 in the file does not appear.
+  // Sums up what the grid shows: a weight such as 0.25 in the file does not appear.
   SumUp();
   controls_.LabelAt("lblRangeName").SetText(ToQt(name));
   TellLostWeights(name, file);
@@ -77,7 +77,7 @@ void ManagerForm::SumUp() {
   SetSummary(GridSummary(grid_.Colors()));
 }
 
-// A refresh that shows the same range again is no news.
+// Refreshing the same range again is no reason to repeat the note.
 void ManagerForm::TellLostWeights(std::string_view name, const ClassWeights& file) {
   const std::string before = std::exchange(lostWeights_, LostWeightsNote(name, file));
   grid_.SetToolTip(ToQt(lostWeights_));
@@ -93,7 +93,7 @@ void ManagerForm::ClickNew() {
   ShowSelectionCaption();
   SaveGridAs(answer);
   RefreshAndSelect(answer);
-  Announce(*this, ToQt(RangeSavedMessage(answer).text));  // no box tells of it
+  Announce(*this, ToQt(RangeSavedMessage(answer).text));  // there is no message box for it
 }
 
 void ManagerForm::ClickSave() {
@@ -115,7 +115,7 @@ void ManagerForm::ClickSaveAs() {
 void ManagerForm::ClickRename() {
   const std::string name = list_.CurrentText();
   const std::string answer = AskName(kAskRename, name);
-  // Here a cancelled box is not silent: its empty answer is refused like any other.
+  // Intentional: cancelling is not silent here; its empty answer is refused like any other.
   if (!ValidateNewName(around_.Folder, name, answer, around_.Messages)) return;
 
   RenameRange(around_.Folder, name, answer, RangeTextFromGrid(grid_.Colors()));
@@ -148,7 +148,8 @@ bool ManagerForm::MayTakeName(std::string_view name) {
   return ValidateRangeName(around_.Folder, name, around_.Messages);
 }
 
-// As texts, so a weight that the grid cannot show, such as 0.25, is a change, and so is no range at all.
+// Compared as texts, so a weight that the grid cannot show, such as 0.25, is a change, and so is having no range at
+// all.
 bool ManagerForm::HasBeenModified() const {
   return RangeTextFromGrid(grid_.Colors()) != LoadRangeText(around_.Folder, list_.CurrentText());
 }

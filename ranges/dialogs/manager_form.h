@@ -1,13 +1,12 @@
 #pragma once
 
-// The Range Manager, `frmManager`: the window in which ranges are looked at, edited, made, renamed and deleted, beside
-// the main one and not modal. A list shows the names, a grid the selected range, a label and a text box sum it up. The
-// grid is a working copy. It reaches a file through Save, Save As, Rename, or the question at OK, and whatever selects
-// an entry of the list, a refresh too, paints the grid anew from the file: changes that were not saved are gone then,
-// without a question.
+// The Range Manager, `frmManager`: the modeless window for viewing, editing, creating, renaming and deleting ranges. A
+// list shows the names, a grid the selected range, and a label and a text box sum it up. The grid is a working copy. It
+// is saved to a file by Save, Save As, Rename, or the question at OK; whatever selects an entry of the list, even a
+// refresh, reloads the grid from the file and drops unsaved changes without asking.
 //
-// Of the range nothing is kept beside the controls. The one that is shown is the selected entry, the empty text where
-// none is, and whether it was changed is found out by comparison. Failures of files are told at "ranges/range_files.h".
+// The controls are the only state. The current range is the selected entry (the empty text if there is none), and
+// comparing with its file tells whether it was changed. For file errors see "ranges/range_files.h".
 
 #include <QWidget>
 #include <string>
@@ -27,23 +26,23 @@ class ManagerForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// The form where it stood last, hidden, with nothing selected on its grid and its list empty.
+  /// The form at its last place, hidden, with an unselected grid and an empty list.
   explicit ManagerForm(DialogSurroundings surroundings);
 
   [[nodiscard]] const ManagerControls& Controls() const { return controls_; }
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
   [[nodiscard]] FormListBox& RangeList() { return list_; }
 
-  /// Fills the list from the folder, which selects and shows a range: the same one where it still exists, otherwise the
-  /// first. Where there is none, the grid keeps what it shows. RunTimeError as told at FillRangeList, and as told at
-  /// ShowRangeOnGrid if the range's file is missing or empty.
+  /// Fills the list from the folder, which selects and shows a range: the same one if it still exists, otherwise the
+  /// first. If there is none, the grid is unchanged. RunTimeError as of FillRangeList, and as of ShowRangeOnGrid if the
+  /// range's file is missing or empty.
   void RefreshList();
 
  Q_SIGNALS:
-  /// The folder of ranges has changed: every list of ranges is to be filled anew before this returns.
+  /// The range folder has changed: every list of ranges must be refilled before this returns.
   void RangesChanged();
 
-  /// The form was closed, by its OK or by its close box, and is not to be used again.
+  /// The form was closed, by OK or by its close box, and must not be used again.
   void Closed();
 
  protected:
@@ -75,7 +74,7 @@ class ManagerForm : public QWidget {
   FormCardGrid grid_;
   GridPainting painting_;
   FormListBox list_;
-  std::string lostWeights_;  // what a save drops of the range shown
+  std::string lostWeights_;  // what saving the current range would lose
 };
 
 }  // namespace quillon

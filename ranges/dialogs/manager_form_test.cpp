@@ -121,7 +121,7 @@ TEST_F(ManagerFormTest, TheScratchRangeIsReplacedWithoutAWordAboutItsName) {
   EXPECT_FALSE(RangeExists(Stage.Program.Folder(), "Button Shove"));
 }
 
-// Save tells first and fills the lists then; Save As and Rename show their new range before they tell of it.
+// Save shows its message before the lists are filled; Save As and Rename show the new range first.
 TEST_F(ManagerFormTest, ItIsToldBeforeOrAfterTheListsAreFilled) {
   std::string selected;
   int refreshes = 0;
@@ -313,7 +313,7 @@ TEST(ManagerFormDeathTest, AFileThatIsGoneStopsTheProgramAndIsNamed) {
               testing::ExitedWithCode(1), "'53': File not found.*Ranges/Tight.txt");
 }
 
-// What each key presses shows itself by the box that comes up.
+// The box that opens shows what a key pressed.
 TEST_F(ManagerFormTest, KeysPressTheActions) {
   ComeToFront();
   const auto press = [this](Qt::Key key, Qt::KeyboardModifiers held = {}) {

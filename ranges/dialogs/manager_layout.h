@@ -1,7 +1,7 @@
 #pragma once
 
-// The Range Manager as a table: the list on the left, the grid in the middle, the five actions on the right. The words
-// are the product's own, odd ones too.
+// The Range Manager as a table: the list on the left, the grid in the middle, the five actions on the right. The texts
+// are verbatim, odd ones too.
 
 #include <array>
 #include <string_view>
@@ -14,7 +14,7 @@ namespace quillon {
 
 inline constexpr std::string_view kManagerTitle = "Range Manager";
 
-/// The inner area, which cannot be resized.
+/// The inner size, which is fixed.
 inline constexpr TwipSize kManagerSize = {13665, 8880};
 
 namespace manager_layout {
@@ -23,9 +23,9 @@ using enum ControlKind;
 using enum ControlUse;
 
 constexpr std::int32_t kHeading = 0x336699;
-constexpr std::string_view kActionTip = "Delete current range";  // of four actions, and not of that which deletes
+constexpr std::string_view kActionTip = "Delete current range";  // of all actions but Delete
 
-// One row stays one row.
+// One line per row.
 // clang-format off
 
 inline constexpr auto kRows = std::to_array<ControlRow>({
@@ -78,7 +78,7 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
 
 inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = Arial(9.75), .Rows = kRows}});
 
-/// The way of the Tab key, from one name to the next; "lblCards" is every cell of the grid.
+/// The tab order by name; "lblCards" is every cell of the grid.
 inline constexpr auto kTabOrder =
     std::to_array<ControlKey<kTables>>({"lstRanges", "lblCards", "txtRangeAbbr", "imgNew", "imgSave", "imgRename",
                                         "imgSaveAs", "imgDelete", "chkHalf", "cmdOK"});

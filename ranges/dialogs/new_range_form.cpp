@@ -61,7 +61,7 @@ void NewRangeForm::ClickSaveRange(bool save) {
   if (!save) name_.setText(ToQt(kScratchRangeName));
   name_.setEnabled(save);
   if (!save) return;
-  // The name of before is gone; the scratch name is ready to be typed over.
+  // The old name is gone; the scratch name is selected for typing over.
   name_.setFocus(Qt::OtherFocusReason);
   name_.selectAll();
 }

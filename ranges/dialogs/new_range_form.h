@@ -1,11 +1,11 @@
 #pragma once
 
 // The New Range dialog, `frmNewRange`, the quick way to a range from the input screens: the user paints a grid, and the
-// range is saved and chosen in the list from which the dialog was opened ("ranges/dialogs/range_choosers.h"). A range
-// that is wanted once only goes under the scratch name.
+// range is saved and selected in the list from which the dialog was opened ("ranges/dialogs/range_choosers.h"). A range
+// for one use only goes under the scratch name.
 //
-// Intentional: OK closes the dialog, and the next opening brings a fresh one; Cancel only hides it, and the next
-// opening brings it back as it was, selection and name and all. So a player can look something up and go on.
+// Intentional: OK closes the dialog, and it reopens empty; Cancel only hides it, and it reopens as it was, so a player
+// can look something up and go on.
 
 #include <QWidget>
 #include <cstdint>
@@ -24,21 +24,21 @@ class NewRangeForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// The form where it stood last, hidden, with an empty grid.
+  /// The form at its last place, hidden, with an empty grid.
   explicit NewRangeForm(DialogSurroundings surroundings);
 
   [[nodiscard]] const NewRangeControls& Controls() const { return controls_; }
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
 
-  /// Toggles these cells as clicks on them would, one after another, sums the grid up, and puts the focus on the name
-  /// where it can be typed. All of it is one step to undo.
+  /// Toggles these cells like clicks, in order, updates the summary, and focuses the name if it can be typed. All of it
+  /// is one undo step.
   void Propose(std::span<const std::int16_t> cells);
 
  Q_SIGNALS:
-  /// A range was saved and the user told: the lists are to be filled anew and the range chosen before this returns.
+  /// A range was saved and the user told: before this returns, the lists must be refilled and the range selected.
   void RangeSaved(const std::string& name);
 
-  /// The form was closed, by its OK or by its close box, and is not to be used again.
+  /// The form was closed, by OK or by its close box, and must not be used again.
   void Closed();
 
  protected:

@@ -21,7 +21,7 @@ class NewRangeFormTest : public DialogFormTest<NewRangeForm> {
 
   [[nodiscard]] TextBox& Name() const { return Controls().Get<TextBox>("txtRangeName"); }
   void Type(const char* text) const { QTest::keyClicks(&Name(), QString::fromUtf8(text)); }
-  // The middle of the check box's place is beside its caption.
+  // The middle of the check box is beside its caption.
   void ToggleSave() const {
     QTest::mouseClick(&Controls().Get<QCheckBox>("chkSaveRange"), Qt::LeftButton, {}, QPoint(8, 12));
   }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The New Range dialog as a table: the grid with its summary on the left, and on the right what to do, the key to the
-// colours, and the name. The words are the product's own.
+// The New Range dialog as a table: the grid with its summary on the left; instructions, colour key and name on the
+// right. The texts are verbatim.
 
 #include <array>
 #include <string_view>
@@ -15,7 +15,7 @@ namespace quillon {
 
 inline constexpr std::string_view kNewRangeTitle = "Create a New Range for your Opponent";
 
-/// The inner area, which cannot be resized.
+/// The inner size, which is fixed.
 inline constexpr TwipSize kNewRangeSize = {12195, 9105};
 
 namespace new_range_layout {
@@ -26,7 +26,7 @@ using enum ControlUse;
 constexpr std::int32_t kHeading = 0x336699;
 constexpr std::int32_t kKeyLine = 0x404040;
 
-// One row stays one row.
+// One line per row.
 // clang-format off
 
 inline constexpr auto kRows = std::to_array<ControlRow>({
@@ -93,7 +93,7 @@ inline constexpr auto kRows = std::to_array<ControlRow>({
 
 inline constexpr auto kTables = std::to_array<ControlTable>({{.Container = {}, .Font = Arial(9.75), .Rows = kRows}});
 
-/// The way of the Tab key, from one name to the next; "lblCards" is every cell of the grid.
+/// The tab order by name; "lblCards" is every cell of the grid.
 inline constexpr auto kTabOrder = std::to_array<ControlKey<kTables>>(
     {"lblCards", "txtRangeAbbr", "chkHalf", "txtRangeName", "chkSaveRange", "cmdCancel", "cmdOK"});
 

@@ -25,7 +25,7 @@ void RangeChoosers::Add(QComboBox& box, Label& orWord, Label& edit, Label& make)
   connect(&list, &FormChooser::Clicked, this, [&list, &orWord, &edit] {
     const bool isRange = !list.CurrentText().empty();
     orWord.setVisible(isRange);
-    // With another window in front, Qt would leave the focus with a link that is gone.
+    // With another window in front, Qt would leave the focus on a link that is now hidden.
     QWidget& form = *edit.window();
     if (!isRange && form.focusWidget() == &edit) form.setFocus(Qt::OtherFocusReason);
     edit.setVisible(isRange);

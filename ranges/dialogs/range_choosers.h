@@ -1,10 +1,9 @@
 #pragma once
 
-// The four places of the main window where a range is chosen. Each has a list, `cmboRanges(index)`, whose first entry
-// is blank, and under it the links "Edit this Range..." and "Create a New Range...". The word "or" and the link to edit
-// show where the selected entry is a range, and are hidden where it is blank. Which chooser the New Range dialog was
-// opened from last is kept in the caption of a hidden label, `lblLastEdit`, "0" at the start; that is where its range
-// is chosen when it ends. An index is that of a chooser, 0 to 3.
+// The four range choosers of the main window. Each has a list, `cmboRanges(index)`, whose first entry is blank, and
+// under it the links "Edit this Range..." and "Create a New Range...". The word "or" and the link to edit are shown
+// only while a range is selected. The chooser that last opened the New Range dialog is kept in the caption of a hidden
+// label, `lblLastEdit`, initially "0"; that chooser selects the dialog's range. Indexes are 0 to 3.
 
 #include <QObject>
 #include <cstdint>
@@ -24,7 +23,7 @@ class RangeChoosers : public QObject {
   Q_OBJECT
 
  public:
-  /// `controls` are those of the main window, which outlive this.
+  /// `controls` are the main window's, which outlive this.
   template <typename Controls>
   explicit RangeChoosers(const Controls& controls) : lastEdit_(controls.LabelAt("lblLastEdit")) {
     for (std::int16_t i = 0; i < kChooserCount; ++i) {
@@ -35,11 +34,11 @@ class RangeChoosers : public QObject {
 
   [[nodiscard]] FormChooser& List(std::int16_t index) const { return *lists_.at(static_cast<std::size_t>(index)); }
 
-  /// Fills the lists from the folder, in order, so that each keeps its range where that still exists. RunTimeError as
-  /// told at FillRangeList.
+  /// Fills the lists from the folder, in order; each keeps its range if that still exists. RunTimeError as of
+  /// FillRangeList.
   void Refresh(const ProgramFolder& folder);
 
-  /// The chooser that the New Range dialog was opened from last.
+  /// The chooser that last opened the New Range dialog.
   [[nodiscard]] std::int16_t LastEdit() const;
   void SetLastEdit(std::int16_t index);
 

@@ -4,7 +4,7 @@ namespace quillon {
 
 void RangeDialogs::Bind() {
   connect(&choosers_, &RangeChoosers::EditClicked, this, &RangeDialogs::EditRange);
-  // Where the dialog is open already, for another chooser, its range goes to this one from now on.
+  // If the dialog is already open for another chooser, its range will go to this one.
   connect(&choosers_, &RangeChoosers::NewClicked, this, [this](qint16 index) {
     choosers_.SetLastEdit(index);
     ShowNewRange();
@@ -28,7 +28,7 @@ NewRangeForm& RangeDialogs::ShowNewRange() {
 }
 
 void RangeDialogs::EditRange(std::int16_t chooser) {
-  // The name first: loading the Range Manager fills the lists anew.
+  // Read the name first: loading the Range Manager refills the lists.
   const std::string name = choosers_.List(chooser).CurrentText();
   ManagerForm& manager = Manager();
   manager.RangeList().SelectEntry(name);
@@ -57,7 +57,7 @@ NewRangeForm& RangeDialogs::NewRange() {
   return *newRange_;
 }
 
-// A form closes in the midst of its own handling of an event, so it goes after that.
+// A form closes while it handles an event, so it is deleted afterwards.
 template <typename Form>
 void RangeDialogs::ForgetWhenClosed(std::unique_ptr<Form>& form) {
   connect(

@@ -1,8 +1,7 @@
 #pragma once
 
-// The two range dialogs of the program and the lists of ranges that they and the main window show. A dialog is there
-// from its first touch until it is closed. One that was closed is gone, and the next touch brings a fresh one. Neither
-// is modal.
+// The two range dialogs, and the lists of ranges in them and in the main window. A dialog is created on first use and
+// destroyed when it is closed. Neither is modal.
 
 #include <QObject>
 #include <memory>
@@ -19,8 +18,8 @@ class RangeDialogs : public QObject {
   Q_OBJECT
 
  public:
-  /// `controls` are those of the main window, among them the choosers; the boxes stand over the dialog that asks. All
-  /// that is given outlives the dialogs.
+  /// `controls` are the main window's, including the choosers; message boxes belong to the dialog that asks. All
+  /// arguments outlive the dialogs.
   template <typename Controls>
   RangeDialogs(QWidget& mainWindow, const Controls& controls, DialogSurroundings surroundings)
       : mainWindow_(mainWindow), around_(std::move(surroundings)), choosers_(controls) {
@@ -29,18 +28,17 @@ class RangeDialogs : public QObject {
 
   [[nodiscard]] const RangeChoosers& Choosers() const { return choosers_; }
 
-  /// Fills every list of ranges anew, the choosers' first and then that of the Range Manager, which is loaded for it,
-  /// hidden. Each keeps what it shows where that range still exists. RunTimeError as told at FillRangeList.
+  /// Refills every list of ranges, the choosers' first and then that of the Range Manager, which is loaded for it,
+  /// hidden. Each keeps its selection if that range still exists. RunTimeError as of FillRangeList.
   void RefreshLists();
 
   /// Shows the Range Manager as it is.
   void ShowManager();
 
-  /// Shows the New Range dialog. Where it was closed before, or never open, it comes with an empty grid; where it was
-  /// hidden, or is open, as it was.
+  /// Shows the New Range dialog: with an empty grid if it was closed or never open, otherwise as it was.
   NewRangeForm& ShowNewRange();
 
-  /// The dialogs as they stand; null where one is not loaded.
+  /// The dialogs, or null if not loaded.
   [[nodiscard]] ManagerForm* LoadedManager() const { return manager_.get(); }
   [[nodiscard]] NewRangeForm* LoadedNewRange() const { return newRange_.get(); }
 

@@ -1,4 +1,4 @@
-// The two dialogs together, as the main window has them.
+// The two dialogs together, as the main window uses them.
 
 #include "ranges/dialogs/range_dialogs.h"
 
@@ -27,7 +27,7 @@ TEST(RangeDialogs, ARefreshLoadsTheManagerHiddenAndFilled) {
   ASSERT_NE(stage.Dialogs.LoadedManager(), nullptr);
   EXPECT_FALSE(stage.Dialogs.LoadedManager()->isVisible());
   EXPECT_EQ(stage.Dialogs.LoadedManager()->RangeList().CurrentText(), "Button Shove");
-  // Its own load is a second one, within the first.
+  // The load of the dialog nests a second refresh.
   EXPECT_EQ(stage.Refreshes, 2);
 }
 
