@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::int16_t kLastClass = kHandClassCount - 1;
 
-// Whether every class has been worked out.
+// Whether every class is done.
 template <class Ranges>
 bool Walk(Analysis& analysis, const Ranges& ranges, const AnalysisListener& listener) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);

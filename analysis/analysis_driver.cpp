@@ -33,7 +33,7 @@ std::string ProgressMessage(const InputScreen& screen, std::string_view rangeNam
   return std::string(screen.ProgressMessage).append(screen.MessageNamesRange ? rangeName : "");
 }
 
-// What the scenario does not ask for keeps what an earlier run left.
+// Whatever the scenario does not ask for keeps its value from an earlier run.
 void StoreSituation(AnalysisState& state, const Situation& situation) {
   const Scenario& scenario = ScenarioOf(situation.Mode);
   if (scenario.AmountCount > 0) state.PotSize = situation.PotSize;
@@ -46,7 +46,7 @@ void StoreSituation(AnalysisState& state, const Situation& situation) {
   state.CallingRangeText = situation.CallingRangeText;
 }
 
-// A range without a file is read once more when its hands are dealt.
+// A range without a file is read again when it is dealt.
 void ReadMissingRanges(Situation& situation, const ProgramFolder& folder) {
   if (situation.RangeText.empty()) situation.RangeText = LoadRangeText(folder, situation.RangeName);
   if (!situation.CallingRangeText.empty() || !ScenarioOf(situation.Mode).HasCallingRange) return;
@@ -59,7 +59,7 @@ void ShowProgress(std::int16_t classesDone, AnalysisWindow& window) {
   window.SetProgressBarWidth(static_cast<float>(share * kProgressBarWidth));
 }
 
-// The window as the listener of a run. A stop is noticed when the class after it is done.
+// The window as the listener of a run. A stop takes effect after the current class.
 AnalysisListener ListenerOf(AnalysisState& state, const InputScreen& screen, AnalysisWindow& window) {
   const int run = state.RunsBegun;
   return {.Begins = [&window](std::int16_t index) { window.RaiseCell(index); },

@@ -1,14 +1,13 @@
 #pragma once
 
 // The click on an Analyze button: the checks, the screens and captions, and a run of the engine on the window's own
-// thread. After each class the window system runs once, so that the progress bar moves and the stop label can be
-// clicked.
+// thread. After each class the window system processes its events, so that the progress bar moves and the stop label
+// can be clicked.
 //
-// Every control stays live during a run, the start buttons too, and all runs work on the same state. A run started from
-// within another ends before the other goes on; the other then finds itself stopped at its next class. A click within a
-// run that its check refuses changes the state's scenario; the run goes on by its own and puts it back when it
-// finishes. Amounts are read from the boxes anew for each class, so an edit affects the classes still to come, while
-// the state keeps the amounts that the run began with.
+// Every control stays live during a run, including the start buttons, and all runs share one state. A run started
+// within another ends first; the outer one then stops at its next class. A click within a run that its check refuses
+// changes the state's scenario; the run keeps its own and restores it at the end. Amounts are read from the boxes again
+// for each class, so an edit affects the remaining classes, while the state keeps the amounts that the run began with.
 
 #include <cstdint>
 #include <string_view>
@@ -21,7 +20,8 @@
 
 namespace quillon {
 
-/// The caption of `lblNoResults` from the click until the run ends, when the label is a link to the Progress screen.
+/// The caption of `lblNoResults` from the click until the run ends; meanwhile the label is a link to the Progress
+/// screen.
 inline constexpr std::string_view kWaitCaption = "Please wait...";
 
 /// Its caption at all other times.
@@ -30,27 +30,27 @@ inline constexpr std::string_view kNoResultsCaption = "There are no results to d
 /// The width of the full progress bar, in twips.
 inline constexpr double kProgressBarWidth = 7815;
 
-/// What is entered on an input screen at this moment; nothing where it has no such box or list.
+/// The current entries of an input screen; empty where it has no such box or list.
 [[nodiscard]] EnteredSituation EnteredOn(const InputScreen& screen, const AnalysisWindow& window);
 
 /// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check has a
-/// complaint, the click ends with it. Intentional: the label goes on saying "Please wait..." although nothing runs, and
-/// the next run corrects it. Otherwise the situation is stored in the state, the Progress screen comes up and the run
-/// goes through the classes.
+/// complaint, the click ends with it. Intentional: the label keeps saying "Please wait..." although nothing is running,
+/// and the next run corrects it. Otherwise the situation is stored in the state, the Progress screen is shown and the
+/// classes are analysed.
 ///
-/// A finished run stores its table in `HandInfo`, has it presented, shows the results entries and clicks the third
-/// navigation entry, the grid. A stop, noticed at the end of the class after the yield in which it came, throws the
-/// table away: the scenario's input screen returns, and `HandInfo` is as it was.
+/// A finished run stores its table in `HandInfo`, presents it, shows the results entries and clicks the third
+/// navigation entry, the grid. A stop takes effect after the class during whose yield it came and discards the table:
+/// the scenario's input screen is shown again, and `HandInfo` is unchanged.
 ///
-/// Nothing is caught: it fails as the checks and Analyze do, as over a range file that vanishes after the check, or
-/// that does not exist in "Preflop Raise". `Running` is then left true, for the program ends.
+/// Nothing is caught: it fails as the checks and Analyze do, for example over a range file that vanishes after the
+/// check, or is missing in "Preflop Raise". `Running` then stays true, as the program ends.
 void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow& window, const ProgramFolder& folder);
 
-/// The click on the stop label `lblStopCalc`: clears `Running` and does nothing else.
+/// The click on the stop label `lblStopCalc`: just clears `Running`.
 void StopAnalysis(AnalysisState& state);
 
-/// The click on `lblNoResults`: brings up the Progress screen if the label's caption is exactly "Please wait...", so
-/// that a user who has wandered off during a run can return.
+/// The click on `lblNoResults`: shows the Progress screen if the caption is exactly "Please wait...", so that a user
+/// who has navigated elsewhere during a run can return.
 void ClickNoResults(std::string_view caption, AnalysisWindow& window);
 
 }  // namespace quillon

@@ -31,16 +31,14 @@ constexpr std::int16_t kEquityButton = 2;
 const std::string kShoveLine =
     "SetProgressMessage Please wait while we determine what hands you should go ALL IN with...";
 
-// Ranges as short as they can be written, so that a run is quick where the run is what matters. A class that a text
-// does not name reads the number before the first bracket.
+// Very short range texts, for quick runs. A class that a text does not name reads the number before the first bracket.
 const std::string kEveryHand = "all 1)";
 const std::string kNoHand = "all 0)";
 const std::string kAces = "all 0), AA (1)";
 const std::string kPairs = "all 0), AA (1), KK (1), QQ (1), 22 (0.5)";
 
-// A window that writes down what a click on an Analyze button does with it: every call is a line of the log, its name
-// and its arguments: "ShowFrame Progress", "RaiseCell 0". Whatever the test wants to happen at a call is done by
-// `OnCall`, after its line is written. The boxes and lists of every screen hold what has been entered.
+// A window that logs the calls of a click on an Analyze button, each as its name and arguments: "ShowFrame Progress",
+// "RaiseCell 0". After logging a call it runs `OnCall`. The boxes and lists of every screen hold what was entered.
 class RecordingWindow : public AnalysisWindow {
  public:
   explicit RecordingWindow(EnteredSituation entered) : Entered(std::move(entered)) {}
@@ -78,12 +76,12 @@ class RecordingWindow : public AnalysisWindow {
   void Yield() override { Note("Yield", ""); }
   void PresentResults(const Analysis& /*analysis*/) override { Note("PresentResults", ""); }
 
-  // How many lines of the log start with `text`.
+  // The number of log lines that start with `text`.
   [[nodiscard]] std::ptrdiff_t Count(std::string_view text) const {
     return std::count_if(Log.begin(), Log.end(), [&](const std::string& line) { return line.starts_with(text); });
   }
 
-  // The lines from the last one equal to `line` on, that one included; none if there is no such line.
+  // The lines from the last one equal to `line` onwards, inclusive; none if there is no such line.
   [[nodiscard]] std::vector<std::string> LogFromLast(std::string_view line) const {
     const auto last = std::find(Log.rbegin(), Log.rend(), line);
     if (last == Log.rend()) return {};
@@ -99,7 +97,7 @@ class RecordingWindow : public AnalysisWindow {
   void Note(std::string line, std::string_view argument) {
     if (!argument.empty()) line.append(" ").append(argument);
     Log.push_back(line);
-    const auto action = OnCall;  // it may put another one, or none, in its own place
+    const auto action = OnCall;  // it may replace or clear itself
     if (action) action(line);
   }
 };
@@ -116,12 +114,12 @@ class AnalysisDriver : public testing::Test {
 
   void Run(std::int16_t button) { RunAnalysis(state_, button, window_, ranges_.Folder()); }
 
-  // What the engine says of the same.
+  // The engine's table for the same entries.
   [[nodiscard]] std::string TableOf(std::int16_t button, const EnteredSituation& entered) const {
     return Analyze(SituationOf(ScreenOfButton(button).Mode, entered, ranges_.Folder()))->HandInfo;
   }
 
-  // Calls `action` inside yield number `yield`, counted from 1.
+  // Calls `action` during yield number `yield`, counted from 1.
   template <class Action>
   void AtYield(int yield, Action action) {
     window_.OnCall = [this, yield, action](const std::string& line) {
@@ -144,7 +142,7 @@ TEST_F(AnalysisDriver, ARunStartsInOrder) {
         Row{kEquityButton, "SetProgressMessage Quillon is determing your equity vs the following range: \r\nPairs"}}) {
     window_.Log.clear();
     state_ = {};
-    std::string stored;  // at each call, whether the situation is stored and whether the state says that a run goes on
+    std::string stored;  // at each call, whether the situation is stored and whether the state is running
     window_.OnCall = [&](const std::string& /*line*/) {
       stored += state_.RangeName.empty() ? '-' : state_.Running ? 'R' : 'S';
     };
@@ -184,7 +182,7 @@ TEST_F(AnalysisDriver, AFinishedRunEndsInOrder) {
   EXPECT_FALSE(state_.Running);
 }
 
-// What the scenario does not ask for keeps what an earlier run left.
+// Whatever the scenario does not ask for keeps its value from an earlier run.
 TEST_F(AnalysisDriver, ARunStoresItsSituation) {
   window_.Entered = {"15", "", "100", "Pairs", "Full"};
   std::string dropped;
@@ -361,7 +359,7 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
   EXPECT_EQ(state_.ShoveAmount, 200);
 }
 
-// A window in which a range's file goes while the run starts, after the check has read it.
+// A window in which a range's file vanishes when the run starts, after the check has read it.
 class VanishingRange : public RecordingWindow {
  public:
   VanishingRange(EnteredSituation entered, const TemporaryProgram& ranges, int readings = 1)

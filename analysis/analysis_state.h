@@ -1,8 +1,8 @@
 #pragma once
 
-// What outlives a run in the main window: the situation of the last run that began and the results of the last one that
-// finished. Only the driver writes it ("analysis/analysis_driver.h"), but for `Running`, which the stop label clears
-// too. A field that a scenario does not ask for keeps what an earlier run left in it.
+// What the main window keeps between runs: the situation of the last run begun and the results of the last one
+// finished. Only the driver writes it ("analysis/analysis_driver.h"), except that the stop label clears `Running`. A
+// field that a scenario does not ask for keeps its value from an earlier run.
 
 #include "analysis/analysis.h"
 
@@ -10,7 +10,7 @@ namespace quillon {
 
 struct AnalysisState : Analysis {
   bool Running = false;  // from just before the first class until the run ends or is stopped
-  int RunsBegun = 0;  // by this a run finds out that another has begun inside it
+  int RunsBegun = 0;  // lets a run notice that another has begun inside it
 };
 
 }  // namespace quillon

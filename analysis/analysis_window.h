@@ -1,8 +1,8 @@
 #pragma once
 
-// The main window as the click on an Analyze button sees it: the boxes and lists that state the situation, and the few
-// things on the screens that change while a run goes on. The order of the calls is the behaviour. Controls go by their
-// names in the main window.
+// The main window as seen by the click on an Analyze button: the boxes and lists that hold the situation, and whatever
+// changes on the screens during a run. The order of the calls is the behaviour. Controls are named as in the main
+// window.
 
 #include <cstdint>
 #include <string>
@@ -14,8 +14,7 @@
 
 namespace quillon {
 
-/// The links of the side panel, `lblNav`, by index: those to the input screens, and from the grid's on those to
-/// results.
+/// The links of the side panel, `lblNav`, by index: first the input screens, then, from the grid on, the results.
 inline constexpr std::int16_t kCallNav = 0;
 inline constexpr std::int16_t kRaiseNav = 1;
 inline constexpr std::int16_t kEquityNav = 2;
@@ -26,25 +25,25 @@ class AnalysisWindow {
  public:
   virtual ~AnalysisWindow() = default;
 
-  /// The text of `txtNumber(index)` at this moment.
+  /// The current text of `txtNumber(index)`.
   [[nodiscard]] virtual std::string BoxText(std::int16_t index) const = 0;
 
-  /// The text of the selected entry of `cmboRanges(index)`, the empty text if none is selected.
+  /// The text of the selected entry of `cmboRanges(index)`; the empty text if none is selected.
   [[nodiscard]] virtual std::string SelectedRange(std::int16_t index) const = 0;
 
-  /// How the user writes amounts, besides the plain way.
+  /// The user's marks in amounts, accepted besides the plain ones.
   [[nodiscard]] virtual NumberMarks Marks() const { return {}; }
 
-  /// Where the complaint of an input check is shown.
+  /// Shows the complaint of an input check.
   [[nodiscard]] virtual MessageBoxes& Messages() = 0;
 
-  /// Brings up the screen of that name: "Progress", or the input screen of a scenario.
+  /// Shows the screen of that name: "Progress", or the input screen of a scenario.
   virtual void ShowFrame(std::string_view name) = 0;
 
   /// Does what a click on the navigation entry `lblNav(index)` does.
   virtual void ClickNav(std::int16_t index) = 0;
 
-  /// Shows or hides the results entries of the navigation; `lblNoResults` shows when they do not.
+  /// Shows or hides the results entries of the navigation; `lblNoResults` is visible when they are not.
   virtual void SetResultsShown(bool shown) = 0;
 
   virtual void SetNoResultsCaption(std::string_view caption) = 0;
@@ -65,11 +64,11 @@ class AnalysisWindow {
   /// Hides `imgGridBack`.
   virtual void HideGridBack() = 0;
 
-  /// Lets the window system handle everything that is pending, then returns. Anything the user can click may happen
-  /// inside: a click on the stop label, an edit of a box, even the start of another run.
+  /// Processes all pending events, then returns. Anything the user can click may happen inside: a click on the stop
+  /// label, an edit of a box, even the start of another run.
   virtual void Yield() = 0;
 
-  /// Colours the grid and writes the texts of a finished run.
+  /// Colours the grid and shows the texts of a finished run.
   virtual void PresentResults(const Analysis& analysis) = 0;
 };
 

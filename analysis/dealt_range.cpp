@@ -30,13 +30,13 @@ constexpr HandRecord RecordOf(std::string_view card1, std::string_view card2) {
   return hand;
 }
 
-// The position of the hand of these two cards in a list, the first card being the earlier one of the deck.
+// The position of a hand of two cards in a list; the first card is the earlier one in the deck.
 constexpr std::size_t PlaceOf(std::size_t first, std::size_t second) {
   return first * (2 * kDeckSize - first - 1) / 2 + second - first - 1;
 }
 
-// A deal changes nothing of a hand but its weight, so the hands are laid out while compiling and a deal starts with a
-// copy of them: an analysis deals hundreds of thousands.
+// A deal only changes weights, so the hands are laid out at compile time and a deal starts from a copy: an analysis
+// makes hundreds of thousands.
 constexpr auto kUnblockedHands = [] {
   std::array<HandRecord, kConcreteHandCount> hands;
   for (std::size_t i = 0; i < kDeckSize; ++i) {
@@ -92,7 +92,7 @@ HandList DealText(std::string_view rangeName, std::string_view card1, std::strin
 
   HandList hands = BuildCombos(card1, card2);
   for (HandRecord& hand : hands) {
-    // Read for blocked hands too: a text that cannot be read fails whichever hands are blocked.
+    // Read for blocked hands too: an unreadable text must fail whichever hands are blocked.
     const double weight = RangeWeightOf(rangeText, hand.Label, fileName);
     if (hand.Weight != 0) hand.Weight = weight;
   }

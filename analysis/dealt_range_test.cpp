@@ -39,7 +39,7 @@ TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
 }
 
 TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
-  // "33" is taken for part of the weight before it, and no weight follows it.
+  // "33" is found in the weight before it, and no weight follows.
   EXPECT_EQ(FaultOf([] { return Deal(RangeWith({{"AA", 0.333}}), "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
   EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "after the entry it does no harm";
 }

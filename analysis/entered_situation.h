@@ -1,6 +1,6 @@
 #pragma once
 
-// A situation as the user states it: amounts as typed, ranges by name. This is how it becomes what an analysis asks.
+// A situation as the user enters it, amounts as typed and ranges by name, and its conversion for the analysis.
 
 #include <optional>
 #include <string>
@@ -12,26 +12,25 @@
 
 namespace quillon {
 
-/// What a scenario does not ask for may be left empty. A range is read from the file of its name, unless its text is
-/// there.
+/// Whatever a scenario does not ask for may be empty. A range is read from its file unless its text is given.
 struct EnteredSituation {
   std::string Pot;
   std::string Call;
   std::string Shove;
   std::string Range;
   std::string CallingRange;
-  NumberMarks Marks{};  // how the user writes amounts, besides the plain way
+  NumberMarks Marks{};  // the user's marks in amounts, accepted besides the plain ones
   std::string RangeText{};
   std::string CallingRangeText{};
 };
 
-/// The value of a typed amount: every "$" is taken out, and the leading number of the rest counts. It never fails.
+/// The value of a typed amount: its leading number, once every "$" is removed. Never fails.
 ///
 ///     "150" -> 150      "$12.50" -> 12.5      "1,000" -> 1      "12abc" -> 12      "abc" -> 0      "" -> 0
 [[nodiscard]] double BoxValue(std::string_view text);
 
-/// The warning for an amount, called `name`, that a comma cuts short; nothing where the whole text counts, and for
-/// what is not a number at all and so will be refused.
+/// The warning for an amount, called `name`, that a comma cuts short; nothing if the whole text counts, or if it is not
+/// a number, which is refused anyway.
 ///
 ///     ("pot", "1,000") -> "Warning: pot 1,000 counts as 1; a comma ends a number."
 [[nodiscard]] std::optional<std::string> CommaWarning(std::string_view name, const std::string& amount);
@@ -39,8 +38,8 @@ struct EnteredSituation {
 /// The values of the three amounts.
 [[nodiscard]] Amounts AmountsOf(const EnteredSituation& entered);
 
-/// The situation of a scenario, with range texts read from their files; a range without a readable file has the empty
-/// text. What the scenario does not ask for stays as it is in a new Situation.
+/// The situation of a scenario, with range texts read from their files; the empty text for a range without a readable
+/// file. Whatever the scenario does not ask for keeps its default.
 [[nodiscard]] Situation SituationOf(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder);
 
 }  // namespace quillon

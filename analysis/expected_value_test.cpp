@@ -41,9 +41,9 @@ TEST(OpponentOddsTexts, AreRoundedToTwoDecimals) {
   };
   for (const Row& row : {
            Row{15, 5, 100, {"1.2 : 1", "45.45%"}},
-           Row{1, 0, 8, {"1.12 : 1", "47.06%"}},  // 1.125 lies between and goes to the even neighbour
+           Row{1, 0, 8, {"1.12 : 1", "47.06%"}},  // 1.125 is a tie and rounds to even
            Row{3, 0, 8, {"1.38 : 1", "42.11%"}},  // and so does 1.375
-           Row{100, 0, -20, {"-4 : 1", "-33.33%"}},  // a negative amount is not refused here
+           Row{100, 0, -20, {"-4 : 1", "-33.33%"}},  // negative amounts are accepted here
            Row{15, 5, 0, {"N/A", "N/A"}},
        }) {
     EXPECT_EQ(OpponentOddsTexts(row.pot, row.call, row.shove), row.texts)

@@ -14,10 +14,10 @@ namespace {
 struct Inputs {
   const EnteredSituation& Entered;
   Amounts Values;
-  HandList Range;  // the opponent's whole range, where a check opens it
+  HandList Range;  // the opponent's whole range, if a check opens it
 };
 
-// One row of a table: the complaint, and the test of the inputs that brings it up.
+// A row of a table: a complaint, and the condition for it.
 struct Check {
   Complaint Message;
   bool (*Applies)(const Inputs&) = nullptr;
@@ -41,8 +41,8 @@ constexpr std::array<Check, 7> kCallChecks = {{
      [](const Inputs& in) { return !IsNumericText(in.Entered.Call, in.Entered.Marks); }},
 }};
 
-// Intentional: the complaint about the shove has the title "Pot Size", and the wording differs from row to row; these
-// are the messages that users know.
+// Intentional: the complaint about the shove has the title "Pot Size", and the wording differs from row to row; users
+// know these messages.
 constexpr std::array<Check, 8> kRaiseChecks = {{
     {{"Missing Range", "You must assign or create a range of hands for your opponent."},
      [](const Inputs& in) { return in.Entered.Range.empty(); }},

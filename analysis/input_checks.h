@@ -1,12 +1,11 @@
 #pragma once
 
-// The checks before a run, one for each scenario. Each looks at what the user has entered, in the order of its table,
-// and answers with the first complaint, or with none. Nothing is shown and nothing changes: the caller tells the
-// user.
+// The checks before a run, one for each scenario. Each goes through its table in order and returns the first complaint,
+// or none. Nothing is shown and nothing changes: the caller tells the user.
 //
-// Amounts are tested for their value (BoxValue) before they are tested for being numbers at all (IsNumericText of
-// the raw text, in the plain notation and the user's own). So "abc" is complained of as an amount of 0, "12abc" as not
-// numeric, and "1,000" passes as an amount of 1.
+// The value of an amount (BoxValue) is tested before the text is tested for being a number (IsNumericText of the raw
+// text, with the plain marks and the user's). So the complaint about "abc" is an amount of 0, that about "12abc" is not
+// being numeric, and "1,000" passes as an amount of 1.
 
 #include <optional>
 #include <string_view>
@@ -23,17 +22,17 @@ struct Complaint {
   bool operator==(const Complaint&) const = default;
 };
 
-/// The check of a scenario, one of the three below.
+/// The check of a scenario: one of the three below.
 [[nodiscard]] std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered,
                                                    const ProgramFolder& folder);
 
-/// "Preflop Call": a range is chosen and has weight, the pot is above the call and both are above 0, and both are
-/// numbers. The range is read from its file; if there is no such file, or nothing in it, that is not a complaint but a
-/// RunTimeError "Subscript out of range", and a file that cannot be read as a range fails as DealRange does.
+/// "Preflop Call": a range is chosen and has weight, the pot is larger than the call and both are above 0, and both are
+/// numbers. The range is read from its file. A missing or empty file is not a complaint but a RunTimeError
+/// "Subscript out of range", and a file that cannot be read as a range fails as DealRange does.
 [[nodiscard]] std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder);
 
 /// "Preflop Raise": both ranges are chosen, pot and shove are above 0, the call is not below 0 (an empty text is 0),
-/// and the texts are numbers. No range is opened: an empty one has its meaning in the run.
+/// and the texts are numbers. No range is opened: the run can handle an empty one.
 [[nodiscard]] std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& folder);
 
 /// "Equity Only": a range is chosen and has weight. Fails as CheckCallInputs does.

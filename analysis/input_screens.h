@@ -1,7 +1,7 @@
 #pragma once
 
-// The input screens, one for each scenario: which boxes and lists of the main window state its situation, and what
-// the Progress screen says while its run goes on. A row's place is the index of its start button.
+// The input screens, one for each scenario: which boxes and lists of the main window hold its situation, and what the
+// Progress screen says during its run. A row's index is that of its start button.
 
 #include <array>
 #include <cstdint>
@@ -12,7 +12,7 @@
 namespace quillon {
 
 /// The boxes for amounts, by their index in `txtNumber`.
-inline constexpr std::int16_t kCallPotBox = 0;  // "Preflop Call": the pot, the opponent's bet included
+inline constexpr std::int16_t kCallPotBox = 0;  // "Preflop Call": the pot, including the opponent's bet
 inline constexpr std::int16_t kCallCallBox = 1;  // what the user must put in
 inline constexpr std::int16_t kRaisePotBox = 2;  // "Preflop Raise": the pot
 inline constexpr std::int16_t kRaiseCallBox = 3;  // what the user must put in to stay in, 0 if he is first to act
@@ -30,7 +30,7 @@ inline constexpr std::int16_t kNoControl = -1;
 struct InputScreen {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::array<std::int16_t, 3> AmountBoxes{};  // pot, call, shove
-  std::array<std::int16_t, 2> RangeLists{};  // the opponent's range, the one he calls with
+  std::array<std::int16_t, 2> RangeLists{};  // the opponent's range, his calling range
   std::string_view ProgressMessage;
   bool MessageNamesRange = false;  // the range's name follows the message
 };
@@ -49,13 +49,13 @@ inline constexpr ScenarioTable<InputScreen> kInputScreens = {{
     {.Mode = AnalysisMode::kEquityOnly,
      .AmountBoxes = {kNoControl, kNoControl, kNoControl},
      .RangeLists = {kEquityRangeList, kNoControl},
-     // "determing" is how the program has always put it.
+     // Intentional: "determing" is the established spelling here.
      .ProgressMessage = "Quillon is determing your equity vs the following range: \r\n",
      .MessageNamesRange = true},
 }};
 static_assert(CoversEveryScenario(kInputScreens));
 
-/// The screen of the button `cmdPreflopEV(index)`; an index that no button has gives "Preflop Raise".
+/// The screen of the button `cmdPreflopEV(index)`; any other index gives "Preflop Raise".
 [[nodiscard]] constexpr const InputScreen& ScreenOfButton(std::int16_t index) {
   const bool exists = index >= 0 && static_cast<std::size_t>(index) < kInputScreens.size();
   return exists ? kInputScreens.at(static_cast<std::size_t>(index)) : RowOf(kInputScreens, AnalysisMode::kPreflopRaise);

@@ -24,19 +24,19 @@ namespace quillon {
 namespace {
 
 constexpr std::array kWeights = {0.0, 0.5, 1.0};
-// "0.3333" and "0.999999" spell the pairs 33 and 99, which are then found there. No grid shows what is below 0 or above
-// 1.
+// "0.3333" and "0.999999" contain the labels of the pairs 33 and 99, which are then found there. No grid shows weights
+// below 0 or above 1.
 constexpr std::array kOddWeights = {0.0, 0.5, 1.0, 0.25, 0.3333, 0.1, 0.999999, 2.0, -0.5};
 
-// Ranges that are always the same for the same seed.
+// Random ranges, reproducible by seed.
 class RangeMaker {
  public:
   explicit RangeMaker(std::uint32_t seed) : random_(seed) {}
 
-  // One weight in three of all 169, as the Range Manager saves them.
+  // All 169 classes, a third of them at a weight, as the Range Manager saves them.
   std::string Saved() { return Join(Entries(kWeights)); }
 
-  // As someone might write a file by hand: odd weights, any order, remarks between, classes left out.
+  // As someone might write a file by hand: odd weights, any order, remarks in between, classes left out.
   std::string ByHand() {
     std::vector<std::string> entries = Entries(kOddWeights);
     std::shuffle(entries.begin(), entries.end(), random_);
@@ -70,7 +70,7 @@ class Oracle : public testing::Test {
  public:
   void SetUp() override { LoadEquityTable(); }
 
-  // The results table of the program, by way of range files.
+  // The program's results table, through range files.
   [[nodiscard]] std::string TableOf(const plain::Run& run) const {
     ranges_.Save("Range", run.RangeFile);
     ranges_.Save("Calling Range", run.CallingRangeFile);

@@ -1,8 +1,7 @@
 #pragma once
 
 // The equity of a hand against a range: the mean of its equities against the concrete hands that the opponent may hold,
-// each counted by its weight. The table of equities is one of class against class, so which suits survive decides how
-// much a class counts and nothing else.
+// weighted. The equity table knows only classes, so the surviving suits affect just how much a class counts.
 
 #include <algorithm>
 #include <string_view>
@@ -12,15 +11,15 @@
 
 namespace quillon {
 
-/// The sums over an opponent's concrete hands, added one by one. Their order decides the last digits, so it is the
-/// order of the deck, wherever weights and equities come from.
+/// The sums over an opponent's concrete hands, added one by one. The order determines the last digits, so it is always
+/// deck order, wherever weights and equities come from.
 class RangeSums {
  public:
-  /// A hand that he holds with one weight and plays on with another, the same or smaller; `equity` is the hero's
-  /// against it. It counts for the equity only if it is played on with a weight above 0, and may be anything finite
-  /// otherwise.
+  /// Adds a hand that he holds with one weight and plays on with another, the same or smaller; `equity` is the hero's
+  /// against it. The equity counts only if the hand is played on with a weight above 0, and may otherwise be any finite
+  /// number.
   void Add(double held, double played, double equity) {
-    const double counted = std::max(played, 0.0);  // what adds 0 changes no digit
+    const double counted = std::max(played, 0.0);  // adding 0 changes no digit
     held_ += held;
     played_ += played;
     counted_ += counted;
@@ -44,9 +43,9 @@ class RangeSums {
 ///
 ///     sum of weight * equity / sum of weight,      over the records with a weight above 0, in the list's order
 ///
-/// A range of aces alone, dealt around "As" and "Ac", leaves AA one opponent, "Ah Ad", and gives 0.5. A list without
-/// any weight has no mean: RunTimeError "Overflow"; so callers ask for the weight first. A list without records is a
-/// RunTimeError "Subscript out of range".
+/// A range of aces only, dealt around "As" and "Ac", leaves AA one opponent, "Ah Ad", and gives 0.5. RunTimeError
+/// "Overflow" for a list without any weight, so callers check the weight first, and "Subscript out of range" for a list
+/// without records.
 [[nodiscard]] double EquityVsRange(std::string_view heroLabel, const HandList& list);
 
 }  // namespace quillon

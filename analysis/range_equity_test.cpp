@@ -22,7 +22,7 @@ double Equity(std::string_view hero, std::string range) {
 }
 
 TEST_F(EquityVsRangeTest, ClassesCountByTheHandsThatSurviveAndTheirWeight) {
-  // KK is Ks Kc: of AA all six survive, of KK Kh Kd alone, and of AKs Ah Kh and Ad Kd.
+  // KK is Ks Kc: all six combos of AA survive, of KK only Kh Kd, and of AKs Ah Kh and Ad Kd.
   const double mean = (3 * HandEquity("KK", "AA") + 1 * HandEquity("KK", "KK") + 2 * HandEquity("KK", "AKs")) / 6;
   EXPECT_NEAR(Equity("KK", RangeWith({{"AA", 0.5}, {"KK", 1}, {"AKs", 1}})), mean, 1e-15);
 }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int16_t kLastClass = kHandClassCount - 1;
 
-// A class, played as its one sample hand.
+// A class, represented by its sample hand.
 struct Hero {
   explicit Hero(std::int16_t index) : Label(HandLabel(index)), Cards(HandCards(Label)) {}
 
@@ -26,7 +26,7 @@ HandList DealAround(const Hero& hero, const RangeTexts::Range& range) {
   return DealText(range.Name, hero.Card1(), hero.Card2(), range.Text);
 }
 
-// An equity of -1 marks that the opponent never calls; neither division would have a result then.
+// An equity of -1 means that the opponent never calls; neither division would have a result then.
 ClassFigures CallersFigures(const RangeSums& sums) {
   if (sums.Played() == 0) return {.Equity = -1, .CallShare = 0};
   return {.Equity = sums.Equity(), .CallShare = Divide(sums.Played(), sums.Held())};

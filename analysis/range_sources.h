@@ -1,9 +1,8 @@
 #pragma once
 
-// Where an analysis takes weights and equities from. RangeTexts reads the range texts and the equity table on every
-// lookup, as an analysis does. RangeNumbers has read both before, which is what thousands of analyses in a row can
-// afford. Both deal the same hands in the same order into the same sums (RangeSums), so their figures agree to the last
-// digit.
+// Where an analysis gets weights and equities. RangeTexts reads the range texts and the equity table on every lookup.
+// RangeNumbers has read both in advance, for thousands of analyses in a row. Both deal the same hands in the same order
+// into the same sums (RangeSums), so their figures agree to the last digit.
 
 #include <array>
 #include <cstddef>
@@ -18,7 +17,7 @@
 
 namespace quillon {
 
-/// What a class's cards and the ranges say, whatever the amounts are.
+/// The figures of a class that do not depend on the amounts.
 struct ClassFigures {
   double Equity = 0;  // 0 to 1; -1 if the opponent never calls
   double CallShare = 0;  // the share of his hands with which he calls; 0 in a scenario without a calling range
@@ -26,7 +25,7 @@ struct ClassFigures {
   bool operator==(const ClassFigures&) const = default;
 };
 
-/// Reads on every lookup. The texts and the equity table, loaded, must outlive it.
+/// Reads on every lookup. The texts must outlive it, and the equity table must be loaded.
 class RangeTexts {
  public:
   /// A range's text, and its name for error messages.
@@ -35,14 +34,14 @@ class RangeTexts {
     std::string_view Text;
   };
 
-  /// The calling range is not read in a scenario without one.
+  /// A scenario without a calling range does not read it.
   RangeTexts(Range range, Range callingRange) : range_(range), callingRange_(callingRange) {}
 
   /// The figures of the class `index`, 0 to 168. RunTimeError "Subscript out of range" for an empty text, "Overflow"
-  /// for a range without any weight above 0 in a scenario without a calling range; otherwise it fails as DealText does.
+  /// for a range without any weight above 0 in a scenario without a calling range; otherwise fails as DealText does.
   [[nodiscard]] ClassFigures FiguresOf(const Scenario& scenario, std::int16_t index) const;
 
-  /// What ListDroppedHands says of the two ranges dealt around the last class.
+  /// ListDroppedHands of the two ranges dealt around the last class.
   [[nodiscard]] std::string DroppedHands() const;
 
  private:
@@ -50,8 +49,8 @@ class RangeTexts {
   Range callingRange_;
 };
 
-/// The equity table as numbers, and for each class of the hero's the classes of the 1225 concrete hands that its two
-/// cards leave, in deck order: what does not depend on the situation. About half a megabyte, made in a few
+/// The equity table as numbers, and for each of the hero's classes the classes of the 1225 concrete hands that its two
+/// cards leave, in deck order: everything that does not depend on the situation. About half a megabyte, built in a few
 /// milliseconds.
 class HandNumbers {
  public:
@@ -59,7 +58,7 @@ class HandNumbers {
   using DealtClasses = std::array<std::uint8_t, kDealtHandCount>;
   using EquityRow = std::array<double, kHandClassCount>;
 
-  /// Reads the equity table. Fails as HandEquity does before that has been loaded.
+  /// Reads the equity table, which must be loaded. Fails as HandEquity does.
   HandNumbers();
 
   [[nodiscard]] const DealtClasses& Dealt(std::int16_t hero) const { return dealt_[static_cast<std::size_t>(hero)]; }
@@ -70,14 +69,15 @@ class HandNumbers {
   std::vector<EquityRow> equities_;
 };
 
-/// Has read everything before.
+/// Reads everything in advance.
 class RangeNumbers {
  public:
-  /// The weights are those of RangeWeightsOf; in a scenario without a calling range those of `callingRange` are not
-  /// read. `hands` must outlive it.
+  /// The weights are those of RangeWeightsOf; a scenario without a calling range does not use those of `callingRange`.
+  /// `hands` must outlive it.
   RangeNumbers(const HandNumbers& hands, const ClassWeights& range, const ClassWeights& callingRange = {});
 
-  /// What RangeTexts says of the texts of these weights. It fails only where there is no mean: RunTimeError "Overflow".
+  /// The same figures as RangeTexts for texts of these weights. Fails only if there is no mean: RunTimeError
+  /// "Overflow".
   [[nodiscard]] ClassFigures FiguresOf(const Scenario& scenario, std::int16_t index) const;
   [[nodiscard]] std::string DroppedHands() const;
 

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kUsualRowSize = 64;
 
-// Takes the first row off `rest` and returns it without its line end; nothing if no line end is left.
+// Removes the first row from `rest` and returns it without its line end; nothing if no line end is left.
 std::optional<std::string_view> TakeRow(std::string_view& rest) {
   const std::size_t length = rest.find(kLineEnd);
   if (length == std::string_view::npos) return std::nullopt;
@@ -26,7 +26,7 @@ bool BeginsRow(std::string_view table, std::size_t place) {
   return place == 0 || table.substr(0, place).ends_with(kLineEnd);
 }
 
-// The row that begins at `place`; the last one need not have a line end.
+// The row that begins at `place`; the last one may lack a line end.
 std::string_view RowAt(std::string_view table, std::size_t place) {
   return table.substr(place, table.substr(place).find(kLineEnd));
 }
@@ -48,8 +48,8 @@ double ValueOf(std::string_view row, std::int16_t column) {
   return LeadingNumber(CellOf(row, column));
 }
 
-// The first row with the key `label`, empty if there is none. A report asks some hundred times: looking for the label,
-// and then whether it is a row's key, goes over many bytes at a time where a walk from row to row goes over one.
+// The first row with the key `label`, empty if there is none. A report calls this hundreds of times; searching for the
+// label and then checking that it is a row's key handles many bytes at once, unlike walking the rows.
 std::string_view RowOf(std::string_view table, std::string_view label) {
   std::size_t from = 0;
   while (from <= table.size()) {
@@ -130,7 +130,7 @@ HandResult GetHandResult(std::string_view table, std::string_view label) {
 std::array<HandResult, kHandClassCount> GetHandResults(std::string_view table) {
   std::array<HandResult, kHandClassCount> results;
   std::string_view rest = table;
-  bool inOrder = true;  // so far, row for row; then no earlier row can have the key of the next one
+  bool inOrder = true;  // so far; then no earlier row can have the key of the next one
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const std::string_view label = HandLabel(index);
     const auto row = inOrder ? TakeRow(rest) : std::nullopt;

@@ -14,7 +14,7 @@
 namespace quillon {
 namespace {
 
-// A table whose rows r0, r1, r2 ... hold these texts in column 1.
+// A table whose rows r0, r1, r2 ... have these texts in column 1.
 std::string TableOf(std::initializer_list<std::string> values) {
   std::string table;
   int row = 0;
@@ -137,7 +137,7 @@ TEST(WorstHand, IsTheTrueMinimum) {
   }
 }
 
-// Whatever the order, and whatever is missing, twice there or cut.
+// Whatever the order, and with rows missing, doubled or cut.
 TEST(GetHandResults, HoldWhatASearchForEachClassFinds) {
   std::vector<std::string> rows;
   for (std::int16_t index = 0; index < kHandClassCount; ++index)

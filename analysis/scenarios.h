@@ -1,9 +1,8 @@
 #pragma once
 
-// The three questions that an analysis answers, as a table: what each is called, which amounts and ranges it asks for,
-// and what a move is worth in it. Code that must know which question it is reads the row. What belongs to the input
-// screens or to the results is in tables of their own, which hold one row for each row here and say so in a
-// static_assert.
+// The three questions that an analysis answers, as a table: the name of each, which amounts and ranges it asks for, and
+// how a move is valued. Code that depends on the question reads the row. Input screens and results have tables of their
+// own with one row for each row here, as a static_assert checks.
 
 #include <algorithm>
 #include <array>
@@ -15,10 +14,10 @@
 
 namespace quillon {
 
-/// The scenario: the opponent has moved all in and the user may call; the user may shove; or only equities are wanted.
+/// The scenario: the opponent is all in and the user may call; the user may shove; or only equities are wanted.
 enum class AnalysisMode : std::int32_t { kNone = 0, kPreflopCall = 1, kPreflopRaise = 2, kEquityOnly = 3 };
 
-/// The amounts of a situation, in the user's own unit. What a scenario does not ask for is 0.
+/// The amounts of a situation, in the user's own unit. One that a scenario does not ask for is 0.
 struct Amounts {
   double Pot = 0;
   double Call = 0;  // what the user must put in
@@ -30,12 +29,12 @@ struct Amounts {
 struct Scenario {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::string_view Name;
-  std::string_view Command;  // the one word for it, where it is typed or written into data
+  std::string_view Command;  // one word, for the command line and data
   int AmountCount = 0;  // how many of pot, call and shove it asks for, in this order
   bool HasCallingRange = false;  // the opponent may fold: a second range says what he calls with
 
-  /// What the move is worth, from the equity and the share of the opponent's hands that call. Null where nothing is
-  /// put in: every expected value is 0 then.
+  /// The value of the move, from the equity and the share of the opponent's hands that call. Null if nothing is put in:
+  /// every expected value is then 0.
   double (*ExpectedValue)(const Amounts& amounts, double equity, double callShare) = nullptr;
 
   [[nodiscard]] constexpr bool HasExpectedValue() const { return ExpectedValue != nullptr; }
@@ -70,20 +69,20 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
 template <class Row>
 using ScenarioTable = std::array<Row, kScenarios.size()>;
 
-/// Whether a table lacks no scenario. Every ScenarioTable is followed by a static_assert on it.
+/// Whether a table has every scenario. Every ScenarioTable is followed by a static_assert on it.
 template <class Row>
 [[nodiscard]] constexpr bool CoversEveryScenario(const ScenarioTable<Row>& table) {
   return std::equal(table.begin(), table.end(), kScenarios.begin(),
                     [](const Row& row, const Scenario& scenario) { return row.Mode == scenario.Mode; });
 }
 
-/// The row of a scenario; not for kNone, which is not a scenario.
+/// The row of a scenario other than kNone.
 template <class Row>
 [[nodiscard]] constexpr const Row& RowOf(const ScenarioTable<Row>& table, AnalysisMode mode) {
   return table.at(static_cast<std::size_t>(mode) - 1);
 }
 
-/// The row of a scenario, and null for kNone.
+/// The row of a scenario, or null for kNone.
 template <class Row>
 [[nodiscard]] constexpr const Row* FindRow(const ScenarioTable<Row>& table, AnalysisMode mode) {
   return mode == AnalysisMode::kNone ? nullptr : &RowOf(table, mode);

@@ -23,7 +23,7 @@ using FieldNames = std::span<const std::string>;
 constexpr std::string_view kHands = "hands";
 constexpr std::string_view kLabel = "hand";
 
-// The analysis with what several fields need.
+// The analysis, plus what several fields share.
 class Told {
  public:
   explicit Told(const Analysis& analysis) : analysis_(analysis) {}
@@ -32,7 +32,7 @@ class Told {
   [[nodiscard]] const Scenario& Asked() const { return ScenarioOf(analysis_.Mode); }
   [[nodiscard]] std::int16_t Column() const { return ShownColumn(analysis_); }
 
-  // Made when the first of them is needed.
+  // Made on first use.
   const GridTexts& Texts() {
     if (!texts_) texts_ = MakeGridTexts(analysis_);
     return *texts_;
@@ -52,7 +52,7 @@ Json LabelIfAny(const std::string& label) {
   return ValueIf(!label.empty(), label);
 }
 
-// The classes that the report names, each a text such as "JJ (½'d)".
+// The classes in the report's text, each a text such as "JJ (½'d)".
 Json DroppedHandsJson(std::string_view text) {
   constexpr std::string_view kSeparator = ", ";
   Json hands = Json::array();
@@ -110,7 +110,7 @@ bool IsNamed(FieldNames names, std::string_view name) {
   return std::ranges::find(names, name) != names.end();
 }
 
-// All of a hand's fields, unless some of them are named, and then its label with them.
+// All fields of a hand, or, if some are named, its label and those.
 std::vector<HandField> WantedOfHands(FieldNames names) {
   const bool some =
       std::ranges::any_of(kHandFields, [&](const HandField& field) { return IsNamed(names, field.Name); });

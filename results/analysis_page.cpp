@@ -22,7 +22,7 @@
 namespace quillon {
 namespace {
 
-// The shades of a pale win and of a pale loss tell little in a legend.
+// The palest shades of wins and losses would be useless in a legend.
 constexpr double kLegendShade = 0.5;
 
 Rgb PanelColor(HoverPicture picture) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// A finished analysis for whoever posts or keeps it: a web page of one file, and its grid as a picture. Both show the
-// colours of the grid and the texts of the hover panel, as the window does.
+// A finished analysis for posting or keeping: a web page of one file, and its grid as a picture. Both show the same
+// colours and hover texts as the window.
 
 #include <string>
 
@@ -9,9 +9,9 @@
 
 namespace quillon {
 
-/// The analysis as one web page ("results/web_page.h"): the situation, the explanation and the coloured grid, whose
-/// panels hold the texts of MakeHoverTexts, and a table of expected value, equity and fold share, as far as the
-/// scenario has them. The analysis must be finished; fails as MakeGridTexts does.
+/// The analysis as one web page ("results/web_page.h"): the situation, the explanation, the coloured grid with the
+/// texts of MakeHoverTexts, and a table of expected value, equity and fold share, as far as the scenario has them. The
+/// analysis must be finished; fails as MakeGridTexts does.
 [[nodiscard]] std::string AnalysisPage(const Analysis& analysis);
 
 /// The coloured grid alone, as an SVG picture ("results/grid_picture.h").

@@ -26,7 +26,7 @@ using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
-// What a reader sees of a piece of a page.
+// The visible text of a piece of a page.
 std::string SeenText(const std::string& markup) {
   std::string text;
   bool tag = false;
@@ -38,12 +38,12 @@ std::string SeenText(const std::string& markup) {
   return text;
 }
 
-// A length that a tag gives, in pixels.
+// A length in a tag, in pixels.
 int Length(const std::string& tag, const std::string& name) {
   return std::stoi(Split(" " + tag, " " + name + "=\"").at(1));
 }
 
-// The cells of the grid, each with what is in it.
+// The cells of the grid with their contents.
 std::vector<std::string> GridCells(const std::string& page) {
   const std::size_t start = page.find("<table class=\"grid\"");
   std::vector<std::string> cells = Split(page.substr(start, page.find("</table>", start) - start), "<td ");
@@ -51,7 +51,7 @@ std::vector<std::string> GridCells(const std::string& page) {
   return cells;
 }
 
-// The rows of the table, each with its heading.
+// The rows of the table with their headings.
 std::vector<std::string> TableRows(const std::string& page) {
   std::vector<std::string> rows = Split(page.substr(page.find("<tbody>")), "<tr>");
   rows.erase(rows.begin());
@@ -109,7 +109,7 @@ TEST_P(EachPage, ShowsSituationExplanationAndARowForEachHand) {
   EXPECT_EQ(Split(page, "class=\"key\"").size() == 2, GetParam().legend);
 }
 
-// Everything is in the page, and it may fetch nothing.
+// Everything is in the page; it may fetch nothing.
 TEST_P(EachPage, NeedsNothingFromElsewhere) {
   const std::string page = AnalysisPage(GetParam().analysis());
   for (const char* fetches : {"http:", "https:", "//", "src=", "@import", "url(", "<iframe", "<object"})
@@ -176,7 +176,7 @@ TEST_P(EachPage, HasAPictureOfItsGrid) {
   EXPECT_THAT(picture, StartsWith("<svg xmlns=\"http://www.w3.org/2000/svg\""));
   EXPECT_THAT(picture, HasSubstr("<title>" + MakeGridTexts(analysis).Title + "</title>"));
   const auto cells = Split(picture, "<rect ");
-  ASSERT_THAT(cells, SizeIs(171));  // what comes first, the ground, and the cells
+  ASSERT_THAT(cells, SizeIs(171));  // the parts before, the background, and the cells
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const Rgb color = GridColors(analysis).at(static_cast<std::size_t>(index));
     EXPECT_THAT(cells.at(static_cast<std::size_t>(index) + 2),

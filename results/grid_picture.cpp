@@ -11,7 +11,7 @@
 namespace quillon {
 namespace {
 
-// All lengths are pixels at the picture's own size.
+// All lengths are pixels at the picture's natural size.
 constexpr int kCellWidth = 54;
 constexpr int kCellHeight = 40;
 constexpr int kGap = 2;

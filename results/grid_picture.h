@@ -1,6 +1,6 @@
 #pragma once
 
-// The 13 by 13 grid of classes as an SVG picture, for whoever posts it.
+// The 13 by 13 grid of classes as an SVG picture, for posting.
 
 #include <array>
 #include <span>
@@ -12,7 +12,7 @@
 
 namespace quillon {
 
-/// A cell: its colour, and a short text under its label, or none.
+/// A cell: its colour, and an optional short text under its label.
 struct PictureCell {
   Rgb Color;
   std::string Text{};
@@ -20,15 +20,15 @@ struct PictureCell {
 
 using PictureCells = std::array<PictureCell, kHandClassCount>;
 
-/// A grid with the line above it, or none, and a note below it, or none, which is broken into lines between words.
+/// A grid with an optional line above it and an optional note below it, which is wrapped.
 struct PictureGrid {
   std::string Caption;
   PictureCells Cells;
   std::string Note{};
 };
 
-/// One SVG document with the grids side by side. The title is for screen readers and for the tab of a browser. Labels
-/// are black or white, as ReadableOn has it.
+/// One SVG document with the grids side by side. The title is for screen readers and browser tabs. Labels are black or
+/// white, by ReadableOn.
 [[nodiscard]] std::string GridPicture(std::string_view title, std::span<const PictureGrid> grids);
 
 }  // namespace quillon

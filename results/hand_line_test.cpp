@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// What is written for one hand with the given cells: expected value, equity, fold share.
+// The line for a hand with the given cells: expected value, equity, fold share.
 std::string LineFor(Analysis state, std::string_view hand, std::string_view cells) {
   state.HandInfo = sample::ResultsTable({{hand, cells}}, "7\t0.7\t0.7");
   RecordingReportScreen screen;

@@ -24,7 +24,7 @@ std::string ValueText(double expectedValue) {
   return (expectedValue > 0 ? "+" : "") + RoundedText(expectedValue, 8);
 }
 
-// A shove may be analysed with nothing to call, and then there is nothing to measure a return by.
+// A shove may be analysed with nothing to call, and then there is no return.
 std::string ReturnText(double expectedValue, double callAmount) {
   if (callAmount == 0) return "N/A";
   const double share = expectedValue / callAmount;
@@ -52,8 +52,7 @@ HoverTexts MoveTexts(const HandResult& result, const Scenario& scenario, double 
 
 HoverTexts EquityTexts(const HandResult& result) {
   constexpr double kGoodEquity = 0.25;
-  // Intentional: unlike the other scenarios this one rounds before it multiplies, and -1 is a number like any
-  // other to it.
+  // Intentional: unlike the other scenarios this one rounds before it multiplies, and treats -1 like any other number.
   return {.Picture = HoverPicture::kBlue,
           .Hand = result.Label,
           .EquityTitle = "Equity:",

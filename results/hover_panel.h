@@ -1,13 +1,13 @@
 #pragma once
 
 // The hover panel: a small panel, `frameHover`, that opens beside a cell of the results grid while the mouse is over it
-// and shows what the last analysis found for that hand: its equity, what it is worth, the return on the money put
-// in, for a shove how often the opponent folds, and a verdict in words.
+// and shows the last analysis of that hand: its equity, its value, the return on the money put in, for a shove how
+// often the opponent folds, and a verdict in words.
 //
-// The panel keeps the hand it shows in its caption `lblHov_Cards`, and is filled only when the mouse comes to another
-// one. It is never cleared, so after a new analysis that same hand shows its old numbers until another has been
-// hovered. Intentional: a player compares hands, and a hand that has not been left has been read. The window hides the
-// panel when the mouse moves over any bare `frameContent`.
+// The panel keeps its hand in its caption `lblHov_Cards`, and is refilled only when the mouse moves to another hand. It
+// is never cleared, so after a new analysis that same hand shows its old numbers until another has been hovered.
+// Intentional: a player compares hands, and a hand that has not been left has been read. The window hides the panel
+// when the mouse moves over any empty part of `frameContent`.
 //
 // All lengths are twips in 32-bit floats. Texts round half to even and have the general number form.
 
@@ -21,7 +21,7 @@
 
 namespace quillon {
 
-/// The backgrounds of the panel: a profitable hand, an unprofitable one, and a hand of which only the equity is known.
+/// The backgrounds of the panel: a profitable hand, an unprofitable one, and a hand with only an equity.
 enum class HoverPicture : std::uint8_t { kGreen, kRed, kBlue };
 
 /// The titles of the panel's lines; the equity's title is one of the texts.
@@ -29,7 +29,7 @@ inline constexpr std::string_view kValueTitle = "EV:";
 inline constexpr std::string_view kReturnTitle = "ROI:";
 inline constexpr std::string_view kFoldShareTitle = "Opponent Fold %:";
 
-/// What the panel shows of a hand. A line without a text is hidden, with its title, and keeps its text.
+/// The panel's texts for a hand. A line without a text is hidden, with its title, and keeps its text.
 struct HoverTexts {
   HoverPicture Picture = HoverPicture::kBlue;  // imgHover
   std::string_view Hand;  // lblHov_Cards
@@ -45,13 +45,13 @@ struct HoverTexts {
 
 /// The texts for the class `index`; nothing before any analysis.
 ///
-/// The return is the expected value over the call amount, in a shove too. Where it is not a finite number, as with
-/// nothing to call, its line reads "N/A"; so does the equity line of a hand that nobody calls, whose equity is -1.
+/// The return is the expected value over the call amount, in a shove too. If it is not finite, as with nothing to call,
+/// its line says "N/A"; so does the equity line of a hand that nobody calls, whose equity is -1.
 [[nodiscard]] std::optional<HoverTexts> MakeHoverTexts(std::int16_t index, const Analysis& analysis);
 
-/// Where the panel goes: below its square by 25, left edge on left edge. Where it would leave the screen to the right
-/// its right edge goes to the square's left edge, and where it would leave it at the bottom it goes above the square by
-/// 25. An exact fit counts as inside. Its size stays.
+/// The panel's place: 25 below its square, left edges aligned. If it would leave the screen on the right, its right
+/// edge moves to the square's left edge, and if at the bottom, it goes 25 above the square. An exact fit counts as
+/// inside. Its size is unchanged.
 [[nodiscard]] TwipRect HoverPlace(const TwipRect& panel, const TwipRect& square, const TwipRect& screen);
 
 }  // namespace quillon

@@ -13,14 +13,14 @@
 namespace quillon {
 namespace {
 
-// What the panel shows of a hand: for tests of its texts, which are there.
+// The panel's texts, which must be present.
 HoverTexts TextsOf(std::string_view hand, const Analysis& state) {
   const std::optional<HoverTexts> texts = MakeHoverTexts(HandIndex(hand), state);
   EXPECT_TRUE(texts.has_value());
   return texts.value_or(HoverTexts{});
 }
 
-// The state of one scenario with the row of KQs as given: "value, tab, equity, tab, fold share".
+// The state with this row for KQs: "value, tab, equity, tab, fold share".
 Analysis WithCells(Analysis state, std::string_view cells) {
   state.HandInfo = sample::ResultsTable({{"KQs", cells}}, "7\t0.7\t0.7");
   return state;
@@ -54,7 +54,6 @@ struct MoveCase {
 };
 
 TEST(HoverPanel, NumbersAndVerdictFollowTheTable) {
-  // 50 to call
   const std::vector<MoveCase> cases = {
       {"a loss", "-25.32\t0.1234\t1", HoverPicture::kRed, "12.34%", "-25.32", "-50.6%", "You should FOLD"},
       {"a value of 0 is red, has no sign and leaves the choice", "0\t0.25\t1", HoverPicture::kRed, "25%", "0", "0%",

@@ -21,8 +21,8 @@ namespace {
 constexpr std::int16_t kHeadingSize = 14;
 constexpr std::int16_t kBodySize = 10;
 
-// Writes the lines of the plain form. A heading and the first line under it set their fonts; the lines that follow go
-// on in the font that is set.
+// Writes the lines of the plain form. A heading and the first line under it set their fonts; later lines keep the
+// current one.
 class PlainReport {
  public:
   explicit PlainReport(ReportBox& box) : box_(box) {}
@@ -46,7 +46,7 @@ std::string HandAndCombos(const HandResult& hand) {
   return Joined({hand.Label, "\t", std::to_string(hand.Combos), "\t"});
 }
 
-// The equity column rounds half away from zero and the formula to even; the two may differ in the last digit.
+// Intentional: the equity column rounds half away from zero and the formula to even, so the last digits may differ.
 std::string CallRow(const Analysis& analysis, const HandResult& hand) {
   const std::string call = RoundedText(analysis.CallAmount, 2);
   const std::string pot = RoundedText(analysis.PotSize, 2);
@@ -130,7 +130,7 @@ void WriteForumLine(ReportBox& box, std::string text) {
   AppendReportLine(box, text, kNoPadding);
 }
 
-// The hands with an expected value of 0 or more, in the notation of a range.
+// The hands with an expected value of 0 or more, in range notation.
 std::string ProfitableHandsText(const Analysis& analysis) {
   std::array<double, kHandClassCount> weights{};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -140,7 +140,7 @@ std::string ProfitableHandsText(const Analysis& analysis) {
   return RangeSummary(RangeTextOf(weights));
 }
 
-// Five hands to a line; the separator after the last hand is cut off.
+// Five hands to a line; the separator after the last hand is removed.
 std::string EquityBlockText(const Analysis& analysis) {
   constexpr std::int16_t kHandsPerLine = 5;
   constexpr std::size_t kSeparatorLength = 2;
@@ -170,7 +170,7 @@ void WriteForumCall(ReportBox& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
   WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount));
-  // Intentional: the break-even point is the fraction in a post, where the plain form has the percentage.
+  // Intentional: a post shows the break-even point as a fraction, the plain form as a percentage.
   WriteForumLine(box, "[COLOR=\"GRAY\"](Pot Odds: " + RoundedText(odds, 2) +
                           ":1, BEP: " + RoundedText(BreakEvenEquity(odds), 2) + ")[/COLOR]");
   WriteForumLine(box, "Villain Range: " + RangeSummary(analysis.RangeText) + "\r\n");
@@ -195,7 +195,6 @@ void WriteForumEquity(ReportBox& box, const Analysis& analysis) {
   WriteForumLine(box, "[/COLOR]");
 }
 
-// The writers of the two forms.
 struct ReportRow {
   AnalysisMode Mode = AnalysisMode::kNone;
   void (*Plain)(ReportBox& box, const Analysis& analysis) = nullptr;

@@ -2,9 +2,9 @@
 
 // The written report of the last analysis, in one of two forms. The plain form is for reading: headings, the situation,
 // and a table with the formula of each of the 169 hands, in fixed-width type. The forum form is a short text in mark-up
-// for pasting into a post; it sets no font. Rows follow the class index order (AA, AKs, ... 22) and are never sorted.
-// Ranges are in the summary notation of "ranges/range_summary.h", no amount carries a currency sign, and a hand that
-// the opponent never calls prints its equity as the -1 that it is.
+// for pasting into a post; it sets no font. Rows are in class index order (AA, AKs, ... 22). Ranges are in the summary
+// notation of "ranges/range_summary.h", no amount has a currency sign, and a hand that the opponent never calls has the
+// equity -1.
 
 #include <array>
 #include <string_view>
@@ -19,7 +19,7 @@ enum class ReportForm { kPlainText, kForum };
 /// The entries of the list of forms, in the order of ReportForm.
 inline constexpr std::array<std::string_view, 2> kReportFormTexts = {"Plain Text", "2+2"};
 
-/// What the report needs of its screen.
+/// The report's view of its screen.
 class ReportScreen : public ReportBox {
  public:
   /// The form selected in cmboOutputType.
@@ -28,11 +28,11 @@ class ReportScreen : public ReportBox {
   virtual void SetSpecificHandVisible(bool visible) = 0;
 };
 
-/// Empties the box and writes the report of the selected form and of the analysis's scenario; before any analysis it
-/// only empties. The list of single hands is shown with the forum form alone.
+/// Clears the box and, unless there has been no analysis, writes the report in the selected form. The list of single
+/// hands is shown with the forum form only.
 ///
-/// A Preflop Call needs a call amount that is not 0: its pot odds fail as Divide does, and so does its break-even point
-/// where pot and call come to 0 together.
+/// A Preflop Call needs a call amount other than 0: its pot odds fail as Divide does, and so does its break-even point
+/// if pot and call sum to 0.
 void BuildReport(ReportScreen& screen, const Analysis& analysis);
 
 }  // namespace quillon

@@ -39,7 +39,7 @@ void AppendReportLine(ReportBox& box, std::string& text, std::int16_t padWidth) 
 std::string MoneyColumn(double value, std::int16_t width) {
   std::string amount = PatternText(value, 2);
   const std::size_t firstDigit = amount.front() == '-' ? 1 : 0;
-  if (amount[firstDigit] == '0') amount.erase(firstDigit, 1);  // a whole part never starts with a 0 of its own
+  if (amount[firstDigit] == '0') amount.erase(firstDigit, 1);  // no leading zero
   return Blanks(width - static_cast<std::int64_t>(amount.size())) + amount;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // Writing into the report's text box, one line and one font at a time. The box is a rich text box with an insertion
-// point: fonts set there hold for what is inserted next, and inserting moves it after the new text. Line ends within
-// the box are single carriage returns; a line may hold CR LF of its own, which makes empty lines.
+// point: fonts set there apply to what is inserted next, and inserting moves it after the new text. Line ends within
+// the box are single carriage returns; CR LF within a line makes empty lines.
 
 #include <cstdint>
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// What the report needs of the box it is written into.
+/// The report's view of its box.
 class ReportBox {
  public:
   virtual ~ReportBox() = default;
@@ -20,7 +20,7 @@ class ReportBox {
   virtual void SetFontName(std::string_view name) = 0;
   virtual void SetFontSize(std::int16_t size) = 0;
   virtual void SetFontColor(std::int32_t color) = 0;
-  /// Inserts at the insertion point and moves that after what was inserted.
+  /// Inserts at the insertion point, which moves to the end of the text.
   virtual void InsertText(std::string_view text) = 0;
 };
 
@@ -28,27 +28,26 @@ inline constexpr std::int32_t kHeadingFontCode = 1;  // "Arial"
 inline constexpr std::int32_t kFixedWidthFontCode = 3;  // "Courier New"
 inline constexpr std::int32_t kBlack = 0;
 
-/// The pad width of a line that is written as it is.
+/// For a line without padding.
 inline constexpr std::int16_t kNoPadding = -1;
-/// The pad width of lines that start with a name and a colon, so that what follows the names lines up in a column.
+/// The pad width of lines that start with a name and a colon, so that what follows the names is aligned.
 inline constexpr std::int16_t kNameColumn = 20;
 
-/// Sets the font of the insertion point: name, then size, then colour. The codes are 1 "Arial", 2 "Verdana" and
-/// 3 "Courier New"; any other code leaves the name as it is.
+/// Sets the font of the insertion point: name, then size, then colour. The codes are 1 "Arial", 2 "Verdana" and 3
+/// "Courier New"; any other code keeps the name.
 void SetReportFont(ReportBox& box, std::int32_t fontCode, std::int16_t size, std::int32_t color);
 
-/// Inserts one line and a carriage return. Unless `padWidth` is kNoPadding, a text with a colon is first cut after its
-/// first colon, the left piece filled up with spaces to `padWidth` characters, and a tab put between the pieces. `text`
-/// is changed along with what is written. Characters are counted, not bytes; a left piece that is long enough gets the
-/// tab alone.
+/// Inserts one line and a carriage return. Unless `padWidth` is kNoPadding, a text with a colon is first split after
+/// its first colon, the left part padded with spaces to `padWidth` characters (not bytes), and a tab put between the
+/// parts. `text` becomes what was written. A left part that is already long enough just gets the tab.
 ///
 ///     ("Total Pot Size: 150", 20) -> "Total Pot Size:     \t 150"      ("BEP:", 2) -> "BEP:\t"
 ///     ("Situation", 20) -> "Situation"                                 ("a: b", -1) -> "a: b"
 void AppendReportLine(ReportBox& box, std::string& text, std::int16_t padWidth);
 
-/// An amount with two decimals, rounded half away from zero, with no digit before the point where the whole part is 0,
-/// and spaces in front up to `width`, so that the points of a column of amounts line up. An amount
-/// that is too long is not cut. A loss too small to be seen keeps its sign. Fails as PatternText does.
+/// An amount with two decimals, rounded half away from zero, without a leading 0 before the point, right-aligned to
+/// `width`, so that a column lines up at the points. A longer amount is not cut. A loss too small to show keeps its
+/// sign. Fails as PatternText does.
 ///
 ///     (120, 13) -> "       120.00"      (0.5, 6) -> "   .50"      (-0.5, 0) -> "-.50"      (0, 0) -> ".00"
 [[nodiscard]] std::string MoneyColumn(double value, std::int16_t width);

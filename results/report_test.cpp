@@ -33,7 +33,7 @@ std::string_view Combos(std::string_view hand) {
   return hand[2] == 's' ? "4" : "12";
 }
 
-// The rows of a plain report's table: hand, combos, and the columns after them, by hand.
+// The rows of a plain report's table: hand, combos, and the remaining columns, by hand.
 std::string Rows(const sample::TextsByHand& cells, std::string_view otherwise) {
   std::string rows;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -95,7 +95,7 @@ TEST(Report, PlainPreflopRaise) {
   EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kPlainText), expected);
 }
 
-// Both doubles lie below the tie that their digits show.
+// Both doubles are slightly below the decimal tie that they display as.
 TEST(Report, ColumnsRoundTheNumberAsItReadsAndTheFormulaItsBinaryValue) {
   Analysis state = sample::CallState();
   state.HandInfo = sample::ResultsTable({{"AA", "199738.115\t0.4135\t1"}});
@@ -141,7 +141,7 @@ TEST(Report, ForumPreflopRaise) {
   EXPECT_EQ(Report(sample::RaiseState(), ReportForm::kForum), expected);
 }
 
-// The block goes from aces down: a rank with each higher card offsuit, its pair, and with each lower card suited.
+// For each rank from aces down: each higher card offsuit, the pair, each lower card suited.
 TEST(Report, ForumEquityOnly) {
   constexpr std::string_view kRanks = "AKQJT98765432";
   std::string block;
@@ -163,7 +163,7 @@ TEST(Report, ForumEquityOnly) {
             Title("Equity Analysis") + "Villain Range: KK+\r[COLOR=\"BLUE\"]\r" + block + "\r[/COLOR]\r");
 }
 
-// The plain form sets a font for each heading and for the line under it, and the forum form sets none.
+// The plain form sets a font for each heading and for the line under it; the forum form sets none.
 TEST(Report, HeadingsOfThePlainFormAreLargerThanTheRest) {
   constexpr auto kHeadings = std::to_array<std::string_view>({"Situation", "Range", "Details", "Calculations"});
   for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {

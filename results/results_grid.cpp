@@ -64,7 +64,7 @@ GridTexts RaiseTexts(const Analysis& analysis) {
   };
 }
 
-// Intentional: the spelling of "meausrement", which is the program's own.
+// Intentional: the spelling "meausrement", which users know.
 GridTexts EquityTexts(const Analysis& analysis) {
   return {
       .Title = "Equity Grid",
@@ -80,7 +80,7 @@ double FractionOf(double value, double span) {
   return span == 0 ? 0 : value / span;
 }
 
-// The colour of a cell by its value, where `high` and `low` span the shown column.
+// The colour of a cell; `high` and `low` span the shown column.
 Rgb CellColor(std::int16_t column, double value, double high, double low) {
   if (column == kEquityColumn) return EquityColor(FractionOf(value - low, high - low));
   if (value >= 0) return EVColor(FractionOf(value, high), "+");

@@ -1,7 +1,7 @@
 #pragma once
 
 // The results grid of a finished analysis: the colour of each of the 169 cells, the situation under the grid, and the
-// explanation beside it. A hand is profitable when its expected value is 0 or more: it is painted green and counted in
+// explanation beside it. A hand is profitable if its expected value is 0 or more: it is painted green and counted in
 // the percentage.
 
 #include <cstdint>
@@ -15,11 +15,11 @@
 
 namespace quillon {
 
-/// What the legend says of green cells, and of red ones.
+/// The legend of green cells, and of red ones.
 inline constexpr std::string_view kGoodLegend = "Go ALL IN";
 inline constexpr std::string_view kBadLegend = "Fold";
 
-/// The texts around the grid; as they are here before any analysis.
+/// The texts around the grid, initialised as before any analysis.
 struct GridTexts {
   std::string Title = "ALL IN Grid";
   std::string HandInfo;  // the situation, lines separated by CR LF
@@ -29,21 +29,20 @@ struct GridTexts {
   bool operator==(const GridTexts&) const = default;
 };
 
-/// The column of the results table that a scenario is about: the equity where nothing else is known, otherwise the
-/// expected value.
+/// The column of the results table that a scenario shows: the equity in "Equity Only", otherwise the expected value.
 [[nodiscard]] std::int16_t ShownColumn(const Analysis& analysis);
 
-/// The texts for the last finished analysis. A Preflop Call needs a call amount that is not 0: its pot odds fail as
+/// The texts for the last finished analysis. A Preflop Call needs a call amount other than 0: its pot odds fail as
 /// Divide does.
 [[nodiscard]] GridTexts MakeGridTexts(const Analysis& analysis);
 
-/// The colours of the cells, in class index order. High and Low are the values of the rows that BestHand and WorstHand
-/// name, in the equity column for Equity Only and the expected value column for the others. High can fall short of the
-/// true maximum, so a cell can come out darker than the darkest green. Never fails: what is measured against 0, such as
-/// a best value of exactly 0 or equities that are all alike, has the palest shade.
+/// The colours of the cells, in class index order. High and Low are the values of the rows of BestHand and WorstHand,
+/// in the shown column. High may be below the true maximum, so a cell may be darker than the darkest green. Never
+/// fails: a value measured against 0, such as a best value of exactly 0 or equities that are all equal, has the palest
+/// shade.
 [[nodiscard]] CellColors GridColors(const Analysis& analysis);
 
-/// A class's row of the results table with the colour of its cell, as "#00ff00".
+/// A class's row of the results table with the colour of its cell, such as "#00ff00".
 using ShownHand = std::pair<HandResult, std::string>;
 
 /// All classes, in index order.

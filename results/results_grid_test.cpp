@@ -151,7 +151,7 @@ TEST(GridColors, MeasureEachValueAgainstTheBestAndTheWorst) {
                                                   {"22", "-10\t0.2\t1"},
                                                   {"32o", "-0.5\t0.3\t1"}});
   const std::string losing = sample::ResultsTable({{"AA", "-10\t0.4\t1"}}, "-20\t0.2\t1");
-  // The first value rounds to a best of 1, so the later and higher ones do not take over.
+  // The first value rounds to a best of 1, so the later and higher ones do not replace it.
   const std::string shortOfTheBest =
       sample::ResultsTable({{"AA", "0.625\t0.1\t1"}, {"AKs", "0.65625\t0.2\t1"}, {"AQs", "0.9375\t0.3\t1"}}, "0\t0\t1");
   // No value rounds above 0, so the last above 0 counts as the best.

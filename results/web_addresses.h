@@ -1,7 +1,7 @@
 #pragma once
 
-// The product's place on the web. The host is chosen when the program is built (QUILLON_WEB_HOST), and every address of
-// the program is on it. A host without a port is reached at port 80.
+// The product's web addresses. The host is chosen at build time (QUILLON_WEB_HOST) and is the same for all. Without a
+// port it is reached at port 80.
 
 #include <string>
 #include <string_view>
@@ -14,13 +14,13 @@ namespace quillon {
 /// The address of the product's home page: "http://www.quillon.example/quillon/".
 [[nodiscard]] std::string HomeAddress();
 
-/// The file whose text starts with the number of the newest version: "register/ver.html" below the home page.
+/// The file that starts with the newest version's number: "register/ver.html" below the home page.
 [[nodiscard]] std::string VersionFileAddress();
 
-/// The page from which the newest version can be downloaded: "download.html" below the home page.
+/// The page for downloading the newest version: "download.html" below the home page.
 [[nodiscard]] std::string DownloadAddress();
 
-/// The script that takes feedback, without its query: "register/benice.php" below the home page.
+/// The script for feedback, without its query: "register/benice.php" below the home page.
 [[nodiscard]] std::string FeedbackScriptAddress();
 
 }  // namespace quillon

@@ -11,7 +11,8 @@
 namespace quillon {
 namespace {
 
-// Whatever a text might hold, nothing may be fetched; the icon is there because a browser would ask the host for one.
+// The page may fetch nothing, whatever its texts contain; it has an icon because a browser would otherwise ask the host
+// for one.
 constexpr std::string_view kHead = R"(<!DOCTYPE html>
 <html lang="en">
 <head>
@@ -120,7 +121,7 @@ std::string Section(std::string_view attributes, std::string_view heading, std::
 }
 
 std::string Panel(std::string_view label, const PageCell& cell) {
-  // The cell has said its label already.
+  // The cell has already announced its label.
   std::string markup = Joined({R"(<span class="tip"><b aria-hidden="true" style="background:)",
                                ColorText(cell.PanelColor), "\">", label, "</b>"});
   for (const PageLine& line : cell.Panel)
@@ -135,7 +136,7 @@ std::string GridTable(const PageGrid& grid) {
     const PageCell& cell = grid.Cells[i];
     const std::string_view label = HandLabel(static_cast<std::int16_t>(i));
     if (i % kRankCount == 0) markup += "<tr>";
-    // Tab comes to one cell of a grid; from there on arrows move.
+    // Tab reaches one cell of a grid; arrow keys move on from there.
     markup += Joined({"<td tabindex=\"", i == 0 ? "0" : "-1", "\" style=\"background:", ColorText(cell.Color),
                       ";color:", ColorText(ReadableOn(cell.Color)), "\">", label});
     if (!cell.Text.empty()) markup += Joined({"<small aria-hidden=\"true\">", MarkupText(cell.Text), "</small>"});
@@ -158,7 +159,7 @@ std::string Grids(const WebPage& page) {
   return markup + "</ul>\n";
 }
 
-// A notation has commas without spaces, and is long.
+// A notation is long and has commas without spaces.
 std::string Breakable(std::string_view text) {
   std::string markup;
   for (const char c : MarkupText(text)) {

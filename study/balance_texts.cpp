@@ -22,7 +22,7 @@ std::string OftenWords(BalanceSide side, const std::string& before, const std::s
   return (side == BalanceSide::kShove ? "you " + before + "shove" : "he " + before + "calls") + after;
 }
 
-// Why an amount does not do, or nothing.
+// What is wrong with an amount, or nothing.
 std::string WhyNot(std::string_view what, const std::string& text, bool mayBeZero) {
   if (text.empty()) return "Type " + std::string(what) + ".";
   if (!IsNumericText(text)) return "\"" + text + "\" is not a plain number.";
@@ -31,7 +31,7 @@ std::string WhyNot(std::string_view what, const std::string& text, bool mayBeZer
   return "The amount must be above zero" + std::string(mayBeZero ? ", or zero" : "") + ": " + text + ".";
 }
 
-// Of a share that is neither 0 nor 1.
+// For a share that is neither 0 nor 1.
 std::string ShortPercent(double share) {
   constexpr double kLeast = 0.1;
   const double percent = share * 100;
@@ -48,7 +48,7 @@ ClassCell PlayedCell(BalanceSide side, double played, double held) {
   }
   if (played == 0) return {.Color = kNeverPlayedColor, .Words = OftenWords(side, "never ")};
   if (played == 1) return {.Color = kFullColor, .Words = OftenWords(side, "always ")};
-  constexpr int kDecimals = 10;  // of a share with twelve
+  constexpr int kDecimals = 10;  // for a share with twelve
   const std::string percent = NumberText(RoundTo(played * 100, kDecimals)) + "%";
   return {.Color = kAtTimesColor,
           .Text = ShortPercent(played),

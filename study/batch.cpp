@@ -17,7 +17,7 @@ using Json = nlohmann::ordered_json;
 
 }  // namespace
 
-// Makes a question of the values of a line, or says why there is none.
+// Makes a question from the values of a line, or says what is wrong.
 class Batch::Reader {
  public:
   Reader(const Batch& batch, const BatchLine& line) : batch_(batch), line_(line) {}
@@ -37,7 +37,7 @@ class Batch::Reader {
  private:
   [[nodiscard]] BatchRefusal Refusal() const { return {line_.Id, reason_}; }
 
-  // Always false, for whoever fails with it.
+  // Always false, so that a caller can return it.
   bool Fail(std::string reason) {
     reason_ = std::move(reason);
     return false;
@@ -99,14 +99,14 @@ std::variant<BatchQuestion, BatchRefusal> Batch::Read(std::string_view text) con
   if (!line.Faults.empty()) return BatchRefusal{std::move(line.Id), std::move(line.Faults.front())};
   try {
     return Reader(*this, line).Read();
-  } catch (const RunTimeError& error) {  // of this line, and the next one is another matter
+  } catch (const RunTimeError& error) {  // about this line only; later lines go on
     return BatchRefusal{line.Id, error.what()};
   }
 }
 
 BatchAnswer Batch::Answer(std::string_view line, std::int64_t number) const {
   const auto dump = [](const Json& object) {
-    // The name of a range may be no valid UTF-8.
+    // A range's name may be invalid UTF-8.
     return object.dump(-1, ' ', false, Json::error_handler_t::replace);
   };
   const auto refused = [&](const std::string& id, const std::string& reason) {

@@ -48,8 +48,7 @@ std::string Listed(const Rows& rows, NameOf nameOf) {
   return list;
 }
 
-// Takes the values of a line as the parser comes to them. What is wrong with one does not keep it from the rest, so
-// that an answer can have its id.
+// Collects the values of a line from the parser. A bad value does not stop it, so that an answer can have its id.
 class LineValues final : public nlohmann::json_sax<nlohmann::json> {
  public:
   explicit LineValues(BatchLine& line) : line_(line) {}
@@ -61,7 +60,7 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
   bool boolean(bool /*value*/) override { return Misplaced(); }
   bool number_integer(number_integer_t value) override { return TakeNumber(std::to_string(value)); }
   bool number_unsigned(number_unsigned_t value) override { return TakeNumber(std::to_string(value)); }
-  // Of whole numbers, those of more than 64 bits.
+  // Includes integers of more than 64 bits.
   bool number_float(number_float_t /*value*/, const string_t& written) override { return TakeNumber(written); }
   bool binary(binary_t& /*value*/) override { return Misplaced(); }
 
@@ -123,13 +122,13 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
   }
 
  private:
-  // Always true, for whoever reads on.
+  // Always true, to continue parsing.
   bool Fail(std::string fault) {
     if (line_.Faults.size() < kMostFaults) line_.Faults.push_back(std::move(fault));
     return true;
   }
 
-  // Whether a value belongs to a key of the line.
+  // Whether a value belongs to a key of the outermost object.
   bool Outermost() {
     if (depth_ == 0) Break("a line is one JSON object");
     return depth_ == 1;
@@ -157,7 +156,7 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
 
   BatchLine& line_;
   std::array<bool, kBatchKeys.size()> seen_{};
-  std::optional<BatchKey> key_;  // that the next value belongs to
+  std::optional<BatchKey> key_;  // the key of the next value
   int depth_ = 0;
 };
 
@@ -177,7 +176,7 @@ BatchLine ReadBatchLine(std::string_view line) {
     values.Break("the line is empty");
   } else {
     nlohmann::json::sax_parse(line, &values);
-    // The parser takes a NUL for the end of the text.
+    // The parser takes a NUL as the end of the text.
     if (const std::size_t nul = line.find('\0'); nul != std::string_view::npos && read.Broken.empty())
       values.Break(Joined({"this is not JSON from byte ", std::to_string(nul + 1), " on: a NUL character"}));
   }

@@ -1,7 +1,7 @@
 #pragma once
 
 // One situation as one JSON object on one line: the form of a batch ("study/batch.h") and of a saved situation
-// ("study/situation_file.h"). Here is what the line says; what that means is for those who asked.
+// ("study/situation_file.h"). This only parses the line; its meaning is up to the caller.
 
 #include <array>
 #include <cstddef>
@@ -15,7 +15,7 @@
 
 namespace quillon {
 
-/// A longer line is refused: no situation needs it, and whoever reads lines need not keep more of one.
+/// Longer lines are refused: no situation needs one, and readers can bound their memory.
 inline constexpr std::size_t kLongestBatchLine = 1 << 20;
 
 /// The keys of a line.
@@ -31,48 +31,46 @@ enum BatchKey : std::size_t {
   kCallingHandsKey,
 };
 
-/// How a line writes each of them.
+/// The spelling of each key.
 inline constexpr std::array<std::string_view, 9> kBatchKeys = {
     "id", "mode", "pot", "call", "shove", "range", "hands", "calling_range", "calling_hands"};
 
 /// The keys of the amounts, in the order in which a scenario asks for them.
 inline constexpr std::array<BatchKey, 3> kAmountKeys = {kPotKey, kCallKey, kShoveKey};
 
-/// The values of a line, and what is wrong with it.
+/// The values of a line, and its faults.
 struct BatchLine {
   [[nodiscard]] const std::optional<std::string>& operator[](BatchKey key) const { return Values.at(key); }
 
-  std::array<std::optional<std::string>, kBatchKeys.size()> Values;  // a number as it is written
+  std::array<std::optional<std::string>, kBatchKeys.size()> Values;  // a number as written
   std::string Id = "null";  // as JSON, as far as the line could be read
-  std::vector<std::string> Faults;  // in their order, and no more than a handful
-  std::string Broken;  // the first fault that leaves it no JSON object on one line, as a rule the last of all
+  std::vector<std::string> Faults;  // in order, and only the first few
+  std::string Broken;  // the fault because of which it is not one JSON object on one line, usually the last fault
 };
 
-/// Reads a line. A key whose value is null is one that is not there. At fault is any other key, and one that is there
-/// twice, and a value of another form; all else is read all the same. A byte-order mark before the line is skipped.
-/// Never fails.
+/// Reads a line. A key whose value is null counts as missing. Unknown keys, repeated keys and values of the wrong form
+/// are faults; the rest is read all the same. A byte-order mark before the line is skipped. Never fails.
 [[nodiscard]] BatchLine ReadBatchLine(std::string_view line);
 
 /// A key in double quotes.
 [[nodiscard]] std::string QuotedKey(BatchKey key);
 
-/// The scenario that a line names, or why it names none.
+/// The scenario that a line names, or the error.
 [[nodiscard]] std::variant<const Scenario*, std::string> ScenarioOfLine(const BatchLine& line);
 
-/// What is wrong with each key of the line that does not go with its scenario: "\"shove\" does not go with mode
-/// \"call\"".
+/// A fault for each key of the line that its scenario does not ask for: "\"shove\" does not go with mode \"call\"".
 [[nodiscard]] std::vector<std::string> ForeignKeys(const BatchLine& line, const Scenario& scenario);
 
 /// An amount of a line.
 struct LineAmount {
-  std::string Text;  // as an amount box has it once its user has left it: of a sum, the value
-  std::string Fault;  // empty where there is an amount; otherwise the text is as it is written
+  std::string Text;  // as an amount box has it after editing: for a sum, its value
+  std::string Fault;  // empty if there is an amount; otherwise the text is as written
 };
 
-/// The amount of that key. At fault is one that is missing, and a sum that cannot be worked out.
+/// The amount of a key. It is a fault if it is missing, or a sum that cannot be evaluated.
 [[nodiscard]] LineAmount AmountOfLine(const BatchLine& line, BatchKey key);
 
-/// What is wrong where a line has neither of two keys: "\"range\" or \"hands\" is missing".
+/// The fault if a line has neither of two keys: "\"range\" or \"hands\" is missing".
 [[nodiscard]] std::string Missing(BatchKey nameKey, BatchKey handsKey);
 
 }  // namespace quillon

@@ -57,7 +57,7 @@ TEST_F(BatchTest, AnswersWithTheIdBeforeTheFieldsOfAnAnalysis) {
   EXPECT_EQ(object.size(), AnalysisFieldNames().size() - 6 + 1) << "all but those of a hand, and the id";
 }
 
-// They name a line and are none of its amounts, so no digit of them is lost.
+// An id is not an amount, so it loses no digit.
 TEST_F(BatchTest, TakesWholeNumbersOfAnySizeAsIds) {
   for (const std::string id :
        {"0", "-7", "18446744073709551615", "-9223372036854775808", "123456789012345678901234567890"})
@@ -100,7 +100,7 @@ TEST_F(BatchTest, AnswersALineAlikeWhicheverWayItIsWritten) {
   }
 }
 
-// What a single run of the same situation finds, by way of texts.
+// The result of a single run of the same situation, from texts.
 std::string SingleRun(const Situation& situation) {
   return Dumped(AnalysisJson(*Analyze(situation)));
 }
@@ -119,7 +119,7 @@ std::string AnyNotation(std::mt19937& random) {
              : kind == 2 ? 0.01 * std::uniform_int_distribution<int>(0, 100)(random)
                          : share(random);
   }
-  weights.front() = 1;  // so that there is an opponent
+  weights.front() = 1;  // so that the opponent has a hand
   return RangeNotation(weights);
 }
 
@@ -128,7 +128,7 @@ std::string AnyAmount(std::mt19937& random) {
   return NumberText(std::uniform_int_distribution<int>(0, 3)(random) == 0 ? cents / 7 : cents / 100);
 }
 
-// Each answer is, to the last digit, what an analysis of texts says, with whatever threads beside it.
+// Each answer equals an analysis of texts to the last digit, on several threads too.
 TEST_F(BatchTest, EqualsSingleRunsToTheLastDigit) {
   constexpr int kSituations = 12;
   std::mt19937 random(20261122);
@@ -193,7 +193,7 @@ struct RefusedCase {
   const char* rule;
   std::string line;
   const char* id;
-  const char* error;  // how it begins
+  const char* error;  // its start
 };
 
 std::vector<RefusedCase> RefusedLines() {

@@ -15,16 +15,17 @@ using PerClass = ClassWeights;
 using Table = std::vector<PerClass>;
 
 constexpr std::size_t kClasses = kHandClassCount;
-// In pots. After so many rounds half of what is promised is good enough.
+// In pots. After many rounds half of the promise is good enough.
 constexpr double kPromised = 1e-6;
 constexpr double kWanted = 1e-9;
 constexpr double kGoodEnough = 5e-7;
 constexpr int kPatience = 4096;
-// Six decimals are enough but for shoves of many pots, where a millionth of a range is worth more than is promised.
+// Six decimals are enough except for shoves of many pots, where a millionth of a range is worth more than the promised
+// error.
 constexpr int kShareDecimals = 6;
 constexpr int kFineShareDecimals = 12;
 constexpr int kRoundsBetweenLooks = 64;
-constexpr int kMostRounds = 1 << 17;  // so that no question takes longer than some five analyses of a raise
+constexpr int kMostRounds = 1 << 17;  // so that no question takes longer than about five analyses of a raise
 
 double Dot(const PerClass& a, const PerClass& b) {
   return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
@@ -35,7 +36,7 @@ void AddScaled(PerClass& sum, double factor, const PerClass& row) {
     sum[i] += factor * row[i];
 }
 
-// Weights of which the largest is 1: how seldom a player holds any hand at all does not matter.
+// Scaled so that the largest weight is 1: only the ratios matter.
 ClassWeights ToOne(ClassWeights weights) {
   const double largest = std::ranges::max(weights);
   if (largest == 0) return weights;
@@ -43,20 +44,20 @@ ClassWeights ToOne(ClassWeights weights) {
   return weights;
 }
 
-// What is gained where a class is played if that gains something, and not if it loses.
+// The gain from playing each class only if that gains something.
 double BestGain(const PerClass& gains) {
   return std::accumulate(gains.begin(), gains.end(), 0.0,
                          [](double sum, double gain) { return sum + std::max(gain, 0.0); });
 }
 
-// The gains in pots of each pair of classes, by how often it is dealt.
+// The gains in pots of each pair of classes, weighted by how often it is dealt.
 class Game {
  public:
   Game(const HandNumbers& hands, const BalanceQuestion& question) : called_(kClasses), mirrored_(kClasses) {
     const double call = question.Call / question.Pot;
     const double shove = question.Shove / question.Pot;
     const double afterCall = 1 + call + 2 * shove;
-    const double lost = call + shove + 1;  // the pot, too, that a fold would have won
+    const double lost = call + shove + 1;  // includes the pot that a fold would have won
     const ClassWeights own = ToOne(question.OwnHands);
     const ClassWeights his = ToOne(question.HisHands);
     for (std::size_t i = 0; i < kClasses; ++i) {
@@ -81,7 +82,7 @@ class Game {
 
   [[nodiscard]] bool HasDeals() const { return dealt_ > 0; }
 
-  // What each class of the hero's gains by shoving at him who calls with `call`.
+  // The gain of each of the hero's classes from shoving against the calling frequencies `call`.
   [[nodiscard]] PerClass ShoveGains(const PerClass& call) const {
     PerClass gains = folded_;
     for (std::size_t j = 0; j < kClasses; ++j)
@@ -89,7 +90,7 @@ class Game {
     return gains;
   }
 
-  // What each class of the opponent's gains by calling him who shoves with `shove`.
+  // The gain of each of the opponent's classes from calling the shoving frequencies `shove`.
   [[nodiscard]] PerClass CallGains(const PerClass& shove) const {
     PerClass gains{};
     for (std::size_t i = 0; i < kClasses; ++i)
@@ -97,7 +98,7 @@ class Game {
     return gains;
   }
 
-  // The same gains when one class has changed.
+  // Updates these gains after a change of one class.
   void ChangeShove(std::size_t hand, double change, PerClass& callGains) const {
     AddScaled(callGains, -change, called_[hand]);
   }
@@ -107,23 +108,23 @@ class Game {
 
   [[nodiscard]] double Value(const PerClass& shove, const PerClass& call) const { return Dot(shove, ShoveGains(call)); }
 
-  // The hero's best gain less his gain, and the same of the opponent: the pot's two halves fall out of the sum.
+  // The sum over both players of best gain minus gain; the pot cancels out.
   [[nodiscard]] double Exploitability(const PerClass& shove, const PerClass& call) const {
     const double both = BestGain(ShoveGains(call)) - Dot(shove, folded_) + BestGain(CallGains(shove));
-    return std::max(both, 0.0);  // in balance to the last digit, the rest may be less than nothing
+    return std::max(both, 0.0);  // rounding may leave slightly less than 0
   }
 
  private:
-  PerClass folded_{};  // how often each class of the hero's is dealt: a pot each time that nobody calls
-  Table called_;  // what the hero gains more, or less, when he is called
+  PerClass folded_{};  // how often each of the hero's classes is dealt: it wins a pot whenever nobody calls
+  Table called_;  // the hero's extra gain or loss when he is called
   Table mirrored_;
   double dealt_ = 0;
 };
 
-// How often one player plays each class, learnt from what playing it would have gained.
+// How often one player plays each class, learnt from the gains.
 class Learner {
  public:
-  // Tells `moved` of each class that is played more or less than before, and by how much.
+  // Calls `moved` for each class whose frequency changes, with the change.
   template <typename Moved>
   void Learn(const PerClass& gains, Moved moved) {
     for (std::size_t i = 0; i < kClasses; ++i) {
@@ -141,19 +142,19 @@ class Learner {
     }
   }
 
-  // Counts the round for the mean.
+  // Adds the round to the mean.
   void Count() {
     AddScaled(sum_, 1, plays_);
     ++rounds_;
   }
 
-  // Begins the mean anew.
+  // Restarts the mean.
   void Forget() {
     sum_ = {};
     rounds_ = 0;
   }
 
-  // As played now, and in the mean of the rounds counted; both rounded.
+  // The current frequencies, and the mean of the rounds counted; both rounded.
   [[nodiscard]] PerClass Last(int decimals) const { return Rounded(plays_, 1, decimals); }
   [[nodiscard]] PerClass Mean(int decimals) const { return Rounded(sum_, rounds_, decimals); }
 
@@ -189,7 +190,7 @@ Answer AnswerOf(const Game& game, const PerClass& shove, const PerClass& call) {
   return {shove, call, game.Exploitability(shove, call)};
 }
 
-// A range of which each class is played so often.
+// A range with each class played this often.
 ClassWeights Played(const ClassWeights& held, const PerClass& plays) {
   ClassWeights played{};
   std::ranges::transform(held, plays, played.begin(), [](double weight, double share) { return weight * share; });
@@ -199,7 +200,7 @@ ClassWeights Played(const ClassWeights& held, const PerClass& plays) {
 }  // namespace
 
 PairCounts CountPairs(const HandNumbers& hands, std::int16_t index) {
-  // Each of a class's hands leaves as many of another class as its sample hand does.
+  // Each hand of a class leaves as many hands of another class as its sample hand does.
   const double combos = ComboCount(HandLabel(index));
   PairCounts counts{};
   for (const std::uint8_t other : hands.Dealt(index))
@@ -222,7 +223,7 @@ struct BalanceSearch::State {
         Best(AnswerOf(Dealt, Hero.Last(kShareDecimals), Opponent.Last(kShareDecimals))),
         Ended(!Dealt.HasDeals()) {}
 
-  // Gains are worked out anew after each look, so that no error of rounding adds up.
+  // Recomputed after each look, so that rounding errors do not add up.
   void Learn() {
     PerClass shoveGains = Dealt.ShoveGains(Opponent.Plays());
     PerClass callGains = Dealt.CallGains(Hero.Plays());
@@ -234,8 +235,8 @@ struct BalanceSearch::State {
     }
   }
 
-  // Ranges in which every class is played or not are found as they are, others as a mean. The mean is that of the
-  // second half of all rounds, since the first ones know nothing.
+  // If every class is fully played or not at all, the current ranges are exact; otherwise a mean is needed. It covers
+  // the second half of all rounds, since the first ones know nothing.
   void Look() {
     const int decimals = Round < kPatience ? kShareDecimals : kFineShareDecimals;
     for (const Answer& answer : {AnswerOf(Dealt, Hero.Last(decimals), Opponent.Last(decimals)),

@@ -119,8 +119,8 @@ TEST(Equilibrium, WithoutAHandThereIsNone) {
   EXPECT_FALSE(FindEquilibrium(Hands(), question));
 }
 
-// What a player gains by playing each class as well as can be, beyond what he gains by the weights found, each class
-// counted by how often it is dealt; by the analysis of every day.
+// What a player could gain by best responses over the weights found, each class counted by how often it is dealt;
+// computed by ordinary analyses.
 class OrdinaryAnalysis {
  public:
   OrdinaryAnalysis(const BalanceQuestion& question, const Equilibrium& found) : question_(question), found_(found) {}
@@ -136,7 +136,7 @@ class OrdinaryAnalysis {
     return CouldGain(analysis, question_.OwnHands, found_.Shove, question_.HisHands);
   }
 
-  // In "Preflop Call", facing the range found. The pot holds the hero's call and shove then.
+  // In "Preflop Call", facing the range found; the pot then includes the hero's call and shove.
   [[nodiscard]] double OpponentCouldGain() const {
     const Analysis analysis = Finished({.Mode = AnalysisMode::kPreflopCall,
                                         .PotSize = question_.Pot + question_.Call + question_.Shove,
@@ -151,7 +151,7 @@ class OrdinaryAnalysis {
     return Analyze(situation).value_or(Analysis{});
   }
 
-  // How often the two of a class of one player and the other's hands are dealt, as pairs of concrete hands.
+  // How often the two classes are dealt together, in pairs of concrete hands.
   static double Dealt(std::int16_t index, const ClassWeights& others) {
     const PairCounts counts = CountPairs(Hands(), index);
     return std::inner_product(counts.begin(), counts.end(), others.begin(), 0.0);
@@ -221,8 +221,8 @@ TEST(Equilibrium, NobodyPlaysWhatHeCannotHold) {
   }
 }
 
-// He calls so seldom that a millionth of his range is worth more than a millionth of the pot. What is not as near to
-// balance as promised is no answer.
+// He calls so seldom that a millionth of his range is worth more than a millionth of the pot. Ranges that miss the
+// promise are not an answer.
 TEST(Equilibrium, IsFoundWhereASmallShareDecidesUnlessItIsTooSmall) {
   BalanceQuestion question = {.Pot = 1.5, .Call = 0.5, .OwnHands = Only("AA"), .HisHands = Only("KK")};
   question.OwnHands.at(Index("72o")) = 1;

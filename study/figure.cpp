@@ -12,8 +12,8 @@
 namespace quillon {
 namespace {
 
-// Source: M. Okabe and K. Ito, "Color Universal Design", 2008, less the yellow, which is too pale for a line on white,
-// and with a dark purple. Lines beyond the last colour begin again with another dash.
+// Source: M. Okabe and K. Ito, "Color Universal Design", 2008, without the yellow, which is too pale on white, and with
+// a dark purple. After the last colour they repeat with another dash.
 constexpr std::array<std::string_view, 8> kLineColors = {"#0072b2", "#d55e00", "#009e73", "#cc79a7",
                                                          "#56b4e9", "#e69f00", "#6a3d9a", "#000000"};
 constexpr std::array<std::string_view, 4> kDashes = {"", "7 4", "2 4", "10 4 2 4"};
@@ -31,7 +31,7 @@ constexpr double kPlotWidth = 640;
 constexpr double kLeastPlotHeight = 380;
 constexpr double kTop = 52;
 constexpr double kTopUntitled = 20;
-constexpr double kPotsHeight = 24;  // of the numbers above the plot
+constexpr double kPotsHeight = 24;  // for the numbers above the plot
 constexpr double kBelow = 62;
 constexpr double kBelowUntitled = 30;
 constexpr double kNameHeight = 18;
@@ -40,8 +40,8 @@ constexpr double kNameWidth = 76;
 constexpr double kNameStart = 28;  // after the sample
 constexpr double kGap = 8;
 constexpr double kTick = 5;
-constexpr double kLetter = 7;  // as wide as a digit of the ticks
-constexpr double kBold = 1.15;  // as many times as wide
+constexpr double kLetter = 7;  // the width of a digit in the ticks
+constexpr double kBold = 1.15;  // times as wide
 constexpr double kHalfCapital = 4.5;
 constexpr int kMostUpTicks = 8;
 constexpr int kDecimals = 4;
@@ -50,14 +50,14 @@ double WidthOf(std::string_view text) {
   return kLetter * static_cast<double>(text.size());
 }
 
-// From 0 at `low` to 1 at `high`. A span may be beyond all numbers, and half a span below all but 0.
+// 0 at `low`, 1 at `high`. A span may overflow, and half a span underflow.
 double ShareOf(double value, double low, double high) {
   const double span = high - low;
   if (!(span > 0)) return 0.5;
   return std::isfinite(span) ? (value - low) / span : (value / 2 - low / 2) / (high / 2 - low / 2);
 }
 
-// As many as there is room for.
+// As many as fit.
 std::vector<double> UpTicks(const FigureScale& up, double height = kLeastPlotHeight) {
   return RoundTicks(up.Low, up.High, std::clamp(static_cast<int>(height / kNameHeight), 2, kMostUpTicks));
 }
@@ -73,7 +73,7 @@ double WidestOf(const std::vector<double>& numbers) {
   return widest;
 }
 
-// As many as there is room for; long numbers need more than short ones.
+// As many as fit; long numbers need more room.
 std::vector<double> AcrossTicks(const FigureScale& across, double width) {
   const double each = WidestOf({across.Low, across.High}) + 4 * kLetter;
   return RoundTicks(across.Low, across.High, std::clamp(static_cast<int>(width / each), 2, 10));
@@ -112,20 +112,20 @@ double BelowOf(const Figure& figure) {
   return figure.Across.Title.empty() ? kBelowUntitled : kBelow;
 }
 
-// As many of a unit as a number says, "1 chip", "2.5 chips" or "50%".
+// A number with its unit: "1 chip", "2.5 chips" or "50%".
 std::string Counted(std::string number, std::string_view unit) {
   if (unit == "%") return number + "%";
   const bool one = number == "1";
   return std::move(number) + " " + std::string(unit) + (one ? "" : "s");
 }
 
-// In the plot, where the axis tells the unit.
+// In the plot, where the axis shows the unit.
 std::string MarkLabel(const FigureMark& mark, const FigureScale& across) {
   const std::string number = NumberText(RoundTo(mark.At, kDecimals));
   return mark.Text + " " + (across.Unit == "%" ? number + "%" : number);
 }
 
-// No longer than that on the page, with an ellipsis for what is left out.
+// Cut to this width, with an ellipsis.
 std::string CutTo(std::string text, double width) {
   if (WidthOf(text) <= width) return text;
   const auto length = static_cast<std::size_t>(std::max(0.0, width / kLetter - 1));
@@ -136,7 +136,7 @@ std::string Told(double value) {
   return NumberText(RoundTo(value, kDecimals));
 }
 
-// With as many pots, where the scale counts them.
+// Also in pots, if the scale counts them.
 std::string Counted(const FigureScale& scale, std::string number, double value) {
   std::string text = Counted(std::move(number), scale.Unit);
   if (scale.Pot > 0) text += ", " + Counted(Told(value / scale.Pot), "pot");
@@ -273,7 +273,7 @@ void FigureLayout::AddAcrossAxis(std::vector<FigurePart>& parts) const {
   }
 }
 
-// Above and to the right; the corner between the two names the unit of both.
+// Above and to the right; the corner between names the unit of both.
 void FigureLayout::AddPots(std::vector<FigurePart>& parts) const {
   const FigureScale& across = figure_->Across;
   const FigureScale& up = figure_->Up;
@@ -333,8 +333,8 @@ bool FigureLayout::IsCrossed(FigureSpot start, FigureSpot end) const {
   return false;
 }
 
-// From the highest end of a line to the lowest, each as near to it as those above and below leave room. Where there is
-// no room for notes they are left out.
+// From the highest line end to the lowest, each name as close to its line as its neighbours allow. Notes are left out
+// if they do not fit.
 void FigureLayout::AddNames(std::vector<FigurePart>& parts) const {
   const std::vector<FigureLine>& lines = figure_->Lines;
   const double room = (bottom_ - top_) / static_cast<double>(lines.size());
@@ -381,18 +381,18 @@ FigureCurve FigureLayout::CurveOf(std::size_t line) const {
 }
 
 std::vector<double> RoundTicks(double low, double high, int wanted) {
-  // A step is at least this; `low` and `high` may lie further apart than the largest number.
+  // The smallest step; `low` and `high` may be further apart than the largest double.
   const double least = high / wanted - low / wanted;
-  constexpr double kLeastStep = 1e-300;  // its powers of ten are still numbers
+  constexpr double kLeastStep = 1e-300;  // its powers of ten are still normal
   if (!(least > kLeastStep)) return {low};
   const double power = std::floor(std::log10(least));
   const double unit = least / std::pow(10.0, power);
   const double leading = unit <= 1 ? 1 : unit <= 2 ? 2 : unit <= 5 ? 5 : 10;
-  // Dividing by a whole power of ten is exact enough that 0.3 is told as 0.3.
+  // Dividing by an integer power of ten is exact enough to give 0.3 for 0.3.
   const double scale = std::pow(10.0, std::abs(power));
   const auto tick = [&](double count) { return power < 0 ? count * leading / scale : count * leading * scale; };
   std::vector<double> ticks;
-  // Where numbers have no digits left for a step, adding 1 again and again would not get anywhere.
+  // Where doubles are too coarse for a step, adding 1 repeatedly would get nowhere.
   const double first = std::ceil(low / tick(1));
   for (int i = 0; i <= wanted && first + i <= std::floor(high / tick(1)); ++i)
     ticks.push_back(tick(first + i));

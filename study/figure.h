@@ -1,10 +1,10 @@
 #pragma once
 
-// A figure of lines as data: two scales, lines, marks and their texts, and what is said of each point to somebody who
-// does not see it. Laid out for a size it is a list of rules, samples, texts, curves and rings, which a painter draws
-// as they are: one writes SVG ("study/figure_svg.h"), another draws in a window ("study/window/figure_view.h").
+// A line chart as data: two scales, lines, marks and texts, and the words for each point, for somebody who cannot see
+// it. Laid out for a size it is a list of rules, samples, texts, curves and rings for a painter: one writes SVG
+// ("study/figure_svg.h"), another draws in a window ("study/window/figure_view.h").
 //
-// Lengths are pixels of the design, counted from the upper left corner to the right and down.
+// Lengths are design pixels, measured from the upper left corner to the right and down.
 
 #include <cstddef>
 #include <optional>
@@ -17,11 +17,11 @@
 namespace quillon {
 
 struct FigureScale {
-  std::string Title;  // beside it, with its unit
+  std::string Title;  // the axis title, with its unit
   double Low = 0;
   double High = 0;
-  std::string Unit{};  // as it is counted in words: "chip" makes "2 chips", and "%" makes "2%"
-  double Pot = 0;  // in that unit; above 0, the opposite side of the plot counts in pots
+  std::string Unit{};  // the unit in words: "chip" makes "2 chips", and "%" makes "2%"
+  double Pot = 0;  // in that unit; if above 0, the opposite axis counts in pots
 };
 
 struct FigureLine {
@@ -31,25 +31,25 @@ struct FigureLine {
   std::optional<double> Limit{};  // the place across where it crosses zero
 };
 
-/// A place across that is marked by an upright line, such as the current amount.
+/// A place across that is marked by a vertical line, such as the current amount.
 struct FigureMark {
   double At = 0;
   std::string Text;  // such as "now"
 };
 
 struct Figure {
-  std::string Title;  // empty in a figure that lies under another of the same places
+  std::string Title;  // empty in a figure below another with the same places
   std::string Subtitle{};  // UTF-8; cut at the plot's right end
   FigureScale Across;
   FigureScale Up;
-  std::vector<std::string> Places;  // across, as numbers in texts, not falling; at least one
+  std::vector<std::string> Places;  // across, numbers as text, not descending; at least one
   std::vector<FigureLine> Lines;  // at least one
   std::vector<FigureMark> Marks{};
-  double LeastLeft = 0;  // room beside the plot, where it has to lie under another
+  double LeastLeft = 0;  // room left of the plot, to align it with another
   double LeastRight = 0;
 };
 
-/// Gives figures that lie one under the other the same room beside their plots.
+/// Aligns figures that are stacked: gives them the same room beside their plots.
 void AlignFigures(std::span<Figure> figures);
 
 /// One point of a figure, by its line and its place.
@@ -64,11 +64,11 @@ struct FigurePoint {
 ///
 ///     "K9o at 9 chips, 6 pots: 0.7085 chips, 0.4723 pots"      "Profitable at 30%: 85.52%"
 ///
-/// A place that is marked has the mark's text after it, as in "K9o at 9 chips, 6 pots, now: ...".
+/// A marked place has the mark's text after it, as in "K9o at 9 chips, 6 pots, now: ...".
 [[nodiscard]] std::string PointWords(const Figure& figure, FigurePoint point);
 
-/// The figure in words: its titles, its marks, and its lines with their notes, "K9o, up to 23.07". Where it has no
-/// title, that of the scale upwards.
+/// The figure in words: its titles, its marks, and its lines with their notes, such as "K9o, up to 23.07". Without a
+/// title, the title of its vertical scale.
 [[nodiscard]] std::string FigureWords(const Figure& figure);
 
 struct FigureSpot {
@@ -86,22 +86,22 @@ struct FigureSize {
 };
 
 struct FigurePen {
-  std::string_view Color;  // as "#0072b2"
+  std::string_view Color;  // such as "#0072b2"
   double Width = 1;
-  std::string_view Dashes{};  // the lengths of dashes and gaps in turn, as "7 4"; empty: solid
+  std::string_view Dashes{};  // alternating lengths of dashes and gaps, such as "7 4"; empty: solid
 };
 
 struct FigureFont {
   std::string_view Color{};  // empty: kFigureTextColor
   double Size = 0;  // 0: kFigureTextSize
   bool Bold = false;
-  bool Halo = false;  // a white edge round the letters, which lie over lines
+  bool Halo = false;  // white edge around letters that lie over lines
 };
 
 inline constexpr std::string_view kFigureTextColor = "#3e4c59";
 inline constexpr double kFigureTextSize = 13;
 
-/// A straight line. One that a style sheet may want to find has a name.
+/// A straight line. It has a name if a style sheet may want to find it.
 struct FigureRule {
   FigureSpot From;
   FigureSpot To;
@@ -109,7 +109,7 @@ struct FigureRule {
   std::string_view Name{};
 };
 
-/// The piece of a line that its name begins with.
+/// The sample of a line before its name.
 struct FigureSample {
   FigureSpot From;
   double Length = 0;
@@ -119,21 +119,21 @@ struct FigureSample {
 enum class FigureAnchor { kStart, kMiddle, kEnd };
 
 struct FigureText {
-  FigureSpot At;  // on its base line: its start, its middle or its end
+  FigureSpot At;  // on its baseline: its start, its middle or its end
   std::string Text;
   FigureAnchor Anchor = FigureAnchor::kStart;
   FigureFont Font{};
   bool Turned = false;  // reads upwards
 };
 
-/// A line through points, in the order of the places, with a dot on each where there are few.
+/// A line through points, in order of the places, with a dot on each if there are few.
 struct FigureCurve {
   std::vector<FigureSpot> Spots;
   FigurePen Pen;
   bool Dotted = false;
 };
 
-/// Round the place where a line crosses zero.
+/// A circle where a line crosses zero.
 struct FigureRing {
   FigureSpot At;
   FigurePen Pen;
@@ -148,27 +148,27 @@ using FigurePart = std::variant<FigureRule, FigureSample, FigureText, FigureCurv
 /// A figure laid out for a size.
 class FigureLayout {
  public:
-  /// The size at which a figure is published: all names have room.
+  /// The size for publishing: all names fit.
   [[nodiscard]] static FigureSize NaturalSize(const Figure& figure);
 
-  /// The figure must outlive it. A size that is too small for the texts is filled beyond its edges.
+  /// The figure must outlive it. If the size is too small for the texts, they overflow it.
   FigureLayout(const Figure& figure, FigureSize size);
 
   [[nodiscard]] const Figure& Of() const { return *figure_; }
   [[nodiscard]] FigureSize Size() const { return size_; }
 
-  /// From the back to the front. Within a curve, steps narrower than a tenth of a pixel are left out.
+  /// From back to front. Steps of a curve narrower than a tenth of a pixel are left out.
   [[nodiscard]] std::vector<FigurePart> Parts() const;
 
-  /// The pen that a line is drawn with.
+  /// The pen of a line.
   [[nodiscard]] static FigurePen PenOf(std::size_t line);
 
   [[nodiscard]] FigureSpot SpotOf(FigurePoint point) const;
 
-  /// The place that is nearest across, and of its points the nearest; of two equally near ones the earlier.
+  /// The point nearest to a spot at the place nearest across; the earlier one on a tie.
   [[nodiscard]] FigurePoint Nearest(FigureSpot spot) const;
 
-  /// Upper left and lower right corner of what is within the axes.
+  /// Upper left and lower right corner of the area within the axes.
   [[nodiscard]] FigureSpot PlotStart() const { return {left_, top_}; }
   [[nodiscard]] FigureSpot PlotEnd() const { return {right_, bottom_}; }
 
@@ -180,7 +180,8 @@ class FigureLayout {
   void AddPots(std::vector<FigurePart>& parts) const;
   void AddMarks(std::vector<FigurePart>& parts) const;
   void AddNames(std::vector<FigurePart>& parts) const;
-  [[nodiscard]] bool IsCrossed(FigureSpot start, FigureSpot end) const;  // that rectangle, by a point of a line
+  [[nodiscard]] bool IsCrossed(FigureSpot start,
+                               FigureSpot end) const;  // whether a point of a line lies in that rectangle
   [[nodiscard]] FigureCurve CurveOf(std::size_t line) const;
 
   const Figure* figure_;
@@ -192,8 +193,8 @@ class FigureLayout {
   double bottom_ = 0;
 };
 
-/// Round numbers, 1, 2 or 5 times a power of ten apart, from `low` to `high`: at most one more than `wanted`, and where
-/// the two are too near to each other for steps, `low` alone. Both must be finite.
+/// Round numbers, 1, 2 or 5 times a power of ten apart, from `low` to `high`: at most `wanted` + 1 of them, or just
+/// `low` if the two are too close for steps. Both must be finite.
 ///
 ///     (0, 20, 5) -> 0, 5, 10, 15, 20      (-0.3, 1.1, 6) -> -0.2, 0, 0.2, ... 1      (7, 7, 5) -> 7
 [[nodiscard]] std::vector<double> RoundTicks(double low, double high, int wanted);

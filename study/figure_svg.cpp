@@ -29,11 +29,10 @@ std::string Dashes(const FigurePen& pen) {
 }
 
 std::string_view AnchorText(FigureAnchor anchor) {
-  constexpr std::array<std::string_view, 3> kTexts = {"", "middle", "end"};  // the start goes without saying
+  constexpr std::array<std::string_view, 3> kTexts = {"", "middle", "end"};  // the first is the default
   return kTexts.at(static_cast<std::size_t>(anchor));
 }
 
-// Writes each part as it comes.
 class Markup {
  public:
   void operator()(const FigureRule& rule) {

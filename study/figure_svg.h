@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// One SVG document of the figures, one under the other, each in its natural size, with the title of the first. There
-/// must be one.
+/// One SVG document of the stacked figures, each in its natural size, with the first one's title. There must be at
+/// least one.
 [[nodiscard]] std::string FigureSvg(std::span<const Figure> figures);
 [[nodiscard]] std::string FigureSvg(const Figure& figure);
 

@@ -42,7 +42,7 @@ std::vector<Part> PartsOf(const FigureLayout& layout) {
   return parts;
 }
 
-// The texts, from the back to the front, and where each is.
+// The text that reads `text`, or null.
 const FigureText* TextOf(const std::vector<FigureText>& texts, const std::string& text) {
   const auto found = std::ranges::find(texts, text, &FigureText::Text);
   return found == texts.end() ? nullptr : &*found;
@@ -69,7 +69,7 @@ TEST(RoundTicks, AreRoundAndWithin) {
   }
 }
 
-// The powers of ten of two systems' libraries differ in their last digit up there.
+// Powers of ten differ between C libraries in the last digit up there.
 TEST(RoundTicks, ReachAsFarAsNumbersDo) {
   EXPECT_THAT(RoundTicks(-kMost, kMost, 4), testing::Pointwise(testing::DoubleEq(), {-1e308, 0.0, 1e308}));
 }
@@ -103,7 +103,7 @@ TEST(FigureLayout, FindsThePointNearestToASpot) {
     for (std::size_t place = 0; place < figure.Places.size(); ++place) {
       const FigurePoint point{line, place};
       const FigureSpot spot = layout.SpotOf(point);
-      const bool shared = place == 1;  // both lines meet there, and the earlier is told
+      const bool shared = place == 1;  // both lines meet there, and the earlier is read
       EXPECT_EQ(layout.Nearest(spot), (FigurePoint{shared ? 0 : line, place})) << line << " " << place;
       EXPECT_EQ(layout.Nearest({spot.X + 20, spot.Y + 5}).Place, place) << line << " " << place;
     }
@@ -121,7 +121,7 @@ TEST(FigureLayout, FindsThePointNearestToASpot) {
     EXPECT_EQ(layout.Nearest(c.spot), c.point) << c.rule;
 }
 
-// Of a scale without a span, and of one beyond all numbers.
+// A scale without a span, and one that overflows.
 TEST(FigureLayout, FindsAPointOnAnyScale) {
   Figure figure = TwoHands();
   figure.Places = {"7"};

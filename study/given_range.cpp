@@ -10,7 +10,7 @@ RangeFinding TypedRange(std::string_view notation, std::span<const std::int16_t,
   if (const auto* const error = std::get_if<NotationError>(&reading)) return MarkedPlace(notation, *error);
   const auto& weights = std::get<ClassWeights>(reading);
   GivenRange range{RangeNotation(weights), SearchableRangeText(weights)};
-  range.Weights = *WrittenWeightsOf(range.Text);  // what RangeWeightsOf reads of such a text, in less time
+  range.Weights = *WrittenWeightsOf(range.Text);  // as RangeWeightsOf reads such a text, but faster
   return range;
 }
 

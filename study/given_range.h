@@ -1,7 +1,6 @@
 #pragma once
 
-// A range as it is given, by a notation or by the name of a file, made ready for an analysis. What cannot be had is
-// told in words.
+// A range given by notation or file name, ready for an analysis, or the error in words.
 
 #include <cstdint>
 #include <span>
@@ -17,21 +16,21 @@ namespace quillon {
 
 /// `Weights` are those that an analysis reads from `Text`, which holds 15 digits of each.
 struct GivenRange {
-  std::string Name;  // its notation where it was given by that
+  std::string Name;  // its notation if it was given by one
   std::string Text;
   ClassWeights Weights{};
 };
 
-/// The range, or why there is none.
+/// The range, or the error.
 using RangeFinding = std::variant<GivenRange, std::string>;
 
-/// The range that a notation describes, named by it as the program writes it; otherwise the place that is wrong, marked
-/// (MarkedPlace). `bestFirst` is the order of ReadRangeNotation.
+/// The range that a notation describes, named by the program's spelling of it; or the error with its place marked
+/// (MarkedPlace). `bestFirst` is as for ReadRangeNotation.
 [[nodiscard]] RangeFinding TypedRange(std::string_view notation,
                                       std::span<const std::int16_t, kHandClassCount> bestFirst);
 
-/// The range in the file of that name; otherwise what WhyUnknown or WhyUnreadable says. Fails as RangeWeightsOf does
-/// where a file with some weights lacks others.
+/// The range in the file of that name; or what WhyUnknown or WhyUnreadable says. Fails as RangeWeightsOf does if a file
+/// has only some weights.
 [[nodiscard]] RangeFinding SavedRange(const std::string& name, const ProgramFolder& folder);
 
 }  // namespace quillon

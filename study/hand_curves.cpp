@@ -46,7 +46,7 @@ std::string NoteOf(const Limit& limit) {
   return HasAmount(limit) ? kind + " " + ShortAmount(limit) : kind;
 }
 
-// 1, 2 and 5 times powers of ten, as the nearest number to each.
+// 1, 2 and 5 times powers of ten, each as the nearest double.
 double RoundStep(int power, int leading) {
   const double scale = std::pow(10.0, std::abs(power));
   return power < 0 ? leading / scale : leading * scale;
@@ -58,8 +58,8 @@ bool IsMultiple(double amount, double step) {
   return std::abs(count - std::round(count)) < kNear * std::max(1.0, count);
 }
 
-// The widest round step with a hundred to a thousand of them up to `reach`, such that `amount` is one of them; or the
-// widest of all where there is none.
+// The widest round step that has a hundred to a thousand steps up to `reach` and hits `amount`; the widest of all if
+// none hits it.
 double StepFor(double reach, double amount) {
   constexpr double kLeastCount = 100;
   constexpr double kMostCount = 1000;
@@ -99,7 +99,7 @@ std::variant<Steps, std::string> ReadSteps(const StepTexts& texts) {
   return std::to_string(steps->Count()) + " steps are too many to be seen: at most " + std::to_string(kMostCurveSteps);
 }
 
-// The best hands, as many percent of all as `width` says, up to 100.
+// The best `width` percent of all hands, up to 100.
 ClassWeights TopHands(const std::string& width, const HandOrder& bestFirst) {
   return std::get<ClassWeights>(ReadRangeNotation(width + "%", bestFirst));
 }
@@ -216,7 +216,7 @@ Figure AmountFigure(const StudySituation& situation, const HandCurves& curves) {
   figure.Subtitle = "He plays " + Quoted(asked.RangeName);
   if (shove) figure.Subtitle += " and calls with " + Quoted(asked.CallingRangeName);
   figure.Up.Title = kValuesTitle;
-  // A first step of its own width is one from 0 on.
+  // A first step equal to the step width means that the sweep starts from 0.
   const std::vector<std::string>& places = figure.Places;
   if (places.size() > 1 && LeadingNumber(places[1]) == 2 * figure.Across.Low) figure.Across.Low = 0;
   CountInPots(figure.Across, situation);
@@ -239,7 +239,7 @@ std::array<Figure, 2> WidthFigures(const StudySituation& situation, const HandCu
   if (shove) share.Title += ", he must call " + NumberText(asked.ShoveAmount);
   if (shove) share.Subtitle = "He plays " + Quoted(asked.RangeName);
   share.Lines.front().Name = "Profitable";
-  share.Up.Title = "Profitable hands, in %";  // fits a low plot
+  share.Up.Title = "Profitable hands, in %";  // short enough for a low plot
   share.Up.High = 105;  // a line at 100 is clear of the frame
   values.Up.Title = kValuesTitle;
   CountInPots(values.Up, situation);

@@ -68,7 +68,7 @@ TEST(CurveHands, AreReadAsANotation) {
   }
 }
 
-// Every hand that gains less than the marginal one loses, by an analysis of its own.
+// Every hand that gains less than the marginal one loses, by separate analyses.
 TEST(CurveHands, BeginWithTheHandThatHardlyPays) {
   for (const StudySituation& situation : {Shove(), Shove(15), Call(150, 50)}) {
     const auto rows = [&](const std::vector<std::int16_t>& hands) {
@@ -155,7 +155,7 @@ TEST(WidthSteps, AreThoseOfARange) {
   }
 }
 
-// As the guide has them of the companion, and every digit as a sweep tells it.
+// The companion's figures in the guide, and every digit of a sweep.
 TEST(HandCurves, AreTheCompanionsFigures) {
   const HandCurves amounts = AmountCurves(Shove(), HandsOf("K9o 22"), StepsOf("5:20:5"));
   const auto rows = SweepAmount({AnalysisMode::kPreflopRaise, {1.5, 0.5, 0}, HandsOf("K9o 22")}, Shove().Numbers(),
@@ -180,7 +180,7 @@ TEST(HandCurves, AreTheCompanionsFigures) {
   EXPECT_EQ(calls.Csv(), SweepCsv("call", std::vector<std::string>{"AA"}, calls.Rows));
 }
 
-// At the width of his range now, where that is a top of all hands, the figures are those of now.
+// If his range is a top of all hands, the figures at its width are the current ones.
 TEST(HandCurves, OverTheWidthMeetThoseOfNow) {
   for (const auto& [situation, width] : {std::pair{Shove(), "30"}, {Call(150, 50), "20"}}) {
     const std::vector<std::int16_t> hands = HandsOf("22 A5s T8s");
@@ -203,7 +203,7 @@ TEST(AmountFigure, MarksTheAmountAndTheLimits) {
   EXPECT_EQ(figure.Up.Pot, 1.5);
   for (const FigureLine& line : figure.Lines) {
     if (line.Name == "A5s") continue;
-    // Where its limit is, a line crosses zero.
+    // A line crosses zero at its limit.
     ASSERT_TRUE(line.Limit) << line.Name;
     for (std::size_t i = 0; i < figure.Places.size(); ++i)
       EXPECT_EQ(LeadingNumber(figure.Places[i]) <= *line.Limit, line.Values[i] >= 0) << line.Name << " " << i;

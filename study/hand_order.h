@@ -1,6 +1,6 @@
 #pragma once
 
-// The classes from the best to the worst, as "top 15%" takes them: by their equity against a hand that may be any.
+// The classes from best to worst, for "top 15%": by their equity against a random hand.
 
 #include <array>
 #include <cstdint>
@@ -10,8 +10,8 @@
 
 namespace quillon {
 
-/// All class indexes, ordered by what "Equity Only" says of them against a range of all hands; of equal ones the lower
-/// index comes first. AA is the first, 32o the last.
+/// All class indexes, ordered by their "Equity Only" result against a range of all hands; ties by lower index first. AA
+/// is the first, 32o the last.
 [[nodiscard]] std::array<std::int16_t, kHandClassCount> HandsBestFirst(const HandNumbers& hands);
 
 }  // namespace quillon

@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-// The equities of every day's analysis fall along the order.
+// The equities of ordinary analyses fall along the order.
 TEST(HandOrder, GoesByTheEquityAgainstAnyHand) {
   LoadEquityTable();
   const auto order = HandsBestFirst(HandNumbers());

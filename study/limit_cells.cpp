@@ -11,8 +11,8 @@ namespace quillon {
 namespace {
 
 constexpr Rgb kFromColor = {0xFF, 0xD3, 0x7A};
-constexpr double kPalest = 0.1;  // of the scale of equities
-constexpr double kDeepest = 0.7;  // a shade below what is always good
+constexpr double kPalest = 0.1;  // on the scale of equities
+constexpr double kDeepest = 0.7;  // a shade below "always"
 
 std::string CellText(const Limit& limit) {
   if (!HasAmount(limit)) return LimitText(limit);
@@ -33,7 +33,7 @@ Rgb ColorOf(const Limit& limit, const AmountShades& shades) {
   return kNeverPlayedColor;
 }
 
-// The tint that is left of a colour under a white veil.
+// The colour under a white veil.
 Rgb Paled(Rgb color) {
   constexpr int kVeil = 4;
   const auto pale = [](int component) { return 255 - (255 - component) / kVeil; };

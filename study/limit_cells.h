@@ -1,7 +1,7 @@
 #pragma once
 
-// Limits on a grid of the classes: the colour, the short text and the words of each cell, the same in a window, on a
-// web page and in a picture. The larger the amount, the darker the blue.
+// Limits on a grid of the classes: the colour, short text and words of each cell, the same in a window, on a web page
+// and in a picture. The larger the amount, the darker the blue.
 
 #include <array>
 #include <cstdint>
@@ -16,28 +16,28 @@
 
 namespace quillon {
 
-/// A cell of a grid that a study shows.
+/// A cell of a study's grid.
 struct ClassCell {
   Rgb Color;
-  std::string Text{};  // under the label, UTF-8; empty where there is none
+  std::string Text{};  // under the label, UTF-8; may be empty
   std::string Words{};  // the same with every digit
-  bool Pale = false;  // what the cell tells does not hold for the situation at hand
+  bool Pale = false;  // does not apply to the current situation
 
   bool operator==(const ClassCell&) const = default;
 };
 
 using ClassCells = std::array<ClassCell, kHandClassCount>;
 
-/// The colour of a hand that is played at no amount.
+/// The colour of a hand that is never played.
 inline constexpr Rgb kNeverPlayedColor = {0xE3, 0xE6, 0xEA};
 
-/// Shades of blue for amounts above 0, from pale to dark; by ratios, as amounts go over several sizes.
+/// Shades of blue for amounts above 0, from pale to dark; logarithmic, since amounts span orders of magnitude.
 class AmountShades {
  public:
-  /// Widens the scale to that amount.
+  /// Extends the scale to that amount.
   void Add(double amount);
 
-  /// The shade of an amount on the scale; the palest if all that were added are the same.
+  /// The shade of an amount on the scale; the palest if all added amounts are equal.
   [[nodiscard]] Rgb Of(double amount) const;
 
   /// Darker than any amount, and in the middle of the scale.
@@ -57,22 +57,22 @@ class AmountShades {
 /// The cells of all classes by class index, with short amounts (ShortAmount). None is pale.
 [[nodiscard]] ClassCells LimitCells(const Limits& limits);
 
-/// The same with the hands pale that lose at the amount, and in words which do:
+/// The same, but hands that lose at the amount are pale, and the words say so:
 ///
 ///     "up to 25, does not lose at 20"      "up to 25, loses at 90"
 [[nodiscard]] ClassCells LimitCellsAt(const Limits& limits, double amount);
 
-/// What the colours of these limits say, one line for each kind that occurs.
+/// The legend of these limits, one line for each colour that occurs.
 [[nodiscard]] std::vector<PageLegend> LimitLegend(const Limits& limits);
 
 /// The same with a line for pale hands, if there are any.
 [[nodiscard]] std::vector<PageLegend> LimitLegendAt(const Limits& limits, double amount);
 
-/// How many concrete hands, 0 to 1326, do not lose at the amount.
+/// The number of concrete hands, 0 to 1326, that do not lose at the amount.
 [[nodiscard]] int CombosGoodAt(const Limits& limits, double amount);
 
-/// The limits as lines of three columns under a heading: hand, kind of limit (LimitKindName), and the amount with every
-/// digit, empty where there is none. Tabs separate what goes into a spreadsheet, commas what is a file.
+/// The limits as lines of three columns with a heading: hand, kind of limit (LimitKindName), and the amount with every
+/// digit, or empty. Separated by tabs for spreadsheets, by commas for files.
 [[nodiscard]] std::string LimitTable(const Limits& limits, char separator);
 
 }  // namespace quillon

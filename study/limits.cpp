@@ -16,17 +16,17 @@
 namespace quillon {
 namespace {
 
-// Where a line of this height at 0 and this slope is not below 0, among amounts above 0.
+// Where a line with this value at 0 and this slope is not below 0, for amounts above 0.
 Limit LimitOfLine(double atZero, double slope) {
   const double crossing = -atZero / slope;
-  const bool crosses = std::abs(crossing) <= kMostLimit;  // not where the slope is 0
+  const bool crosses = std::abs(crossing) <= kMostLimit;  // false if the slope is 0
   if (crosses && slope < 0 && atZero > 0) return {LimitKind::kUpTo, crossing};
   if (crosses && slope > 0 && atZero < 0) return {LimitKind::kFrom, crossing};
   const bool neverBelow = crosses ? slope > 0 : atZero >= 0;
   return {neverBelow ? LimitKind::kAlways : LimitKind::kNever, 0};
 }
 
-// Half of `unit` farther to the side on which the hand does not lose, so that the nearest multiple is on that side.
+// Moved by half a `unit` to the side on which the hand does not lose, so that the nearest multiple is on that side.
 double Safer(const Limit& limit, double unit) {
   return limit.Amount + (limit.Kind == LimitKind::kUpTo ? -unit / 2 : unit / 2);
 }
@@ -55,7 +55,7 @@ Limit CallLimit(double pot, double equity) {
 }
 
 Limit ShoveLimit(double pot, double call, const ClassFigures& figures) {
-  // Folded, the amount does not matter. Called, each unit of it brings two at the equity and costs one.
+  // If he folds, the amount does not matter. If he calls, each unit of it brings two at the equity and costs one.
   const double slope = figures.CallShare * (2 * figures.Equity - 1);
   return LimitOfLine(ShoveExpectedValue(pot, call, 0, figures.Equity, figures.CallShare), slope);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// Up to which amount a class is good. What a move is worth is linear in each amount, so the amount at which it is worth
-// nothing follows from the formula and needs no search.
+// The amount up to which a class is good. The value of a move is linear in each amount, so the amount at which it is 0
+// follows from the formula without a search.
 
 #include <array>
 #include <string>
@@ -16,7 +16,7 @@ enum class LimitKind {
   kUpTo,  // does not lose up to the amount, and loses above it
   kAlways,  // does not lose, whatever the amount
   kNever,  // loses, whatever the amount
-  kFrom,  // loses below the amount, and does not from there on
+  kFrom,  // loses below the amount, but not from there on
 };
 
 /// A larger limit counts as none.
@@ -24,22 +24,22 @@ inline constexpr double kMostLimit = 1e300;
 
 struct Limit {
   LimitKind Kind = LimitKind::kNever;
-  double Amount = 0;  // of kUpTo and kFrom alone; above 0, at most kMostLimit
+  double Amount = 0;  // only for kUpTo and kFrom; above 0, at most kMostLimit
 
   bool operator==(const Limit&) const = default;
 };
 
 using Limits = std::array<Limit, kHandClassCount>;
 
-/// The largest amount that a class with this equity may call for the pot, pot * equity / (1 - equity). One that is not
-/// below the pot is "always", since no larger call is accepted. The pot is above 0.
+/// The largest call that does not lose with this equity, pot * equity / (1 - equity). If it reaches the pot it is
+/// "always", since no larger call is accepted. The pot is above 0.
 ///
 ///     pot 100, equity 0.2 -> up to 25      0.5 -> always      0 -> never
 [[nodiscard]] Limit CallLimit(double pot, double equity);
 
-/// The largest amount that a class may shove with pot and call as they are; the pot is above 0, the call not below it.
-/// A class that is never called always wins. At an equity of 0.5 the amount does not matter, and above it a class that
-/// pays more for the call than it gains may win only from an amount on.
+/// The largest shove that does not lose with this pot and call; the pot is above 0, the call at least 0. A class that
+/// is never called always wins. At an equity of 0.5 the amount does not matter, and above it a class that pays more for
+/// the call than it gains may win only from some amount on.
 [[nodiscard]] Limit ShoveLimit(double pot, double call, const ClassFigures& figures);
 
 /// The limits of all classes, by class index. `range` must have some weight above 0; fails as FiguresOf does.
@@ -51,7 +51,7 @@ using Limits = std::array<Limit, kHandClassCount>;
   return limit.Kind == LimitKind::kUpTo || limit.Kind == LimitKind::kFrom;
 }
 
-/// The kind of a limit as tables have it: "up to", "always", "never", "from".
+/// The kind of a limit in tables: "up to", "always", "never", "from".
 [[nodiscard]] std::string_view LimitKindName(LimitKind kind);
 
 /// Whether a class with this limit loses at an amount.
@@ -62,11 +62,11 @@ using Limits = std::array<Limit, kHandClassCount>;
 ///     "12.5"      "always"      "never"      "from 12.5"
 [[nodiscard]] std::string LimitText(const Limit& limit);
 
-/// The amount of a limit in at most eight characters, two decimals, fewer, or a power of ten, rounded to the side on
-/// which the hand does not lose: down for kUpTo, up for kFrom.
+/// The amount of a limit in at most eight characters, with two decimals or fewer, or as a power of ten, rounded to the
+/// side on which the hand does not lose: down for kUpTo, up for kFrom.
 ///
-///     up to 12.345 -> "12.34"      from 12.341 -> "12.35"      up to 116724.46 -> "116724.4"      up to 129e6 ->
-///     "1.2E+08"
+///     up to 12.345 -> "12.34"      from 12.341 -> "12.35"      up to 116724.46 -> "116724.4"
+///     up to 129e6 -> "1.2E+08"
 [[nodiscard]] std::string ShortAmount(const Limit& limit);
 
 }  // namespace quillon

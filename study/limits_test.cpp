@@ -51,7 +51,7 @@ TEST(ShoveLimit, MindsTheEnds) {
   }
 }
 
-// What analyses say of a class at an amount.
+// Checks a class at an amount by analyses.
 template <typename ExpectedValueAt>
 void ExpectLimit(const Limit& limit, ExpectedValueAt at, const std::string& what) {
   constexpr double kALittle = 1e-9;

@@ -25,7 +25,7 @@ std::string_view TakeLine(std::string_view& bytes) {
   return line;
 }
 
-// A notation may be as long as a line.
+// A notation may fill a whole line.
 std::string Shown(std::string_view notation) {
   constexpr std::size_t kShown = 100;
   const std::string_view start = WholeCharacters(notation, kShown);

@@ -27,9 +27,9 @@ PlayedHands PlayedOf(const ClassWeights& weights) {
 }
 
 PlayAtStack PlayAt(const HandNumbers& hands, const std::string& stack) {
-  // The shove as it is written: 2.3 - 1 is not quite the number 1.3.
+  // The shove as written in decimals: 2.3 - 1 is not quite the number 1.3.
   const double shove = LeadingNumber(NumberText(LeadingNumber(stack) - 1));
-  // With all hands there is balance at every stack: the larger it is, the fewer hands are worth the same either way.
+  // With all hands there is always an answer: the larger the stack, the fewer hands are indifferent.
   const Equilibrium found = FindEquilibrium(hands, {.Pot = 1.5, .Call = 0.5, .Shove = shove}).value();
   return {PlayedOf(found.Shove), PlayedOf(found.Call)};
 }

@@ -22,7 +22,7 @@ const StackLimit& At(const StackLimits& limits, std::string_view hand) {
   return limits.at(static_cast<std::size_t>(HandIndex(hand)));
 }
 
-// Whether the chart says that a hand is played at a stack.
+// Whether the chart has a hand played at a stack.
 bool Plays(const StackLimit& limit, double stack) {
   if (limit.Largest.empty() || stack > LeadingNumber(limit.Largest)) return false;
   return std::ranges::none_of(limit.Gaps, [stack](const StackSpan& gap) {
@@ -44,7 +44,7 @@ TEST(StackChart, AgreesWithWhatIsPublishedOfHeadsUpPlay) {
   EXPECT_EQ(StackText(At(chart.Shove, "AA")), "7.4+");
 }
 
-// Each class at each stack as one question about that stack alone answers it.
+// Compares each class at each stack with a question about that stack alone.
 TEST(StackChart, TellsWhatEachStackSays) {
   const auto stacks = std::get<Steps>(Steps::Read("1.3:16:2.1"));
   const StackChart chart = ChartOf("1.3:16:2.1");

@@ -13,7 +13,7 @@ namespace quillon {
 namespace {
 
 constexpr Rgb kPanelColor = {0x1F, 0x5F, 0xA8};
-constexpr double kLast = 1e300;  // in the order of a table; the largest number of all would not be one with 15 digits
+constexpr double kLast = 1e300;  // for sorting; the largest double would not have 15 digits
 
 std::array<PictureCell, kHandClassCount> PictureOf(const PageGrid& grid) {
   PictureCells cells;
@@ -69,7 +69,7 @@ PageCell CellOf(const std::string& title, const StackLimit& limit, const AmountS
   return cell;
 }
 
-// What the stars of a picture stand for, since it has no panels.
+// Explains the stars of a picture, which has no panels.
 std::string GapsNote(const StackLimits& limits) {
   std::string note;
   for (std::size_t i = 0; i < limits.size(); ++i) {

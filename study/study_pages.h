@@ -1,7 +1,7 @@
 #pragma once
 
-// Limits and charts for whoever posts or keeps them: a web page of one file ("results/web_page.h"), and the grids as a
-// picture ("results/grid_picture.h"). The larger an amount, the darker the blue of its cell.
+// Limits and charts for posting or keeping: a web page of one file ("results/web_page.h"), and the grids as a picture
+// ("results/grid_picture.h"). The larger an amount, the darker the blue of its cell.
 
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@
 
 namespace quillon {
 
-/// What is shown of limits beside them.
+/// What is shown with limits.
 struct LimitsQuestion {
   std::string Title;  // such as "Largest Shove"
   std::vector<PageLine> Situation;

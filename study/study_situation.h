@@ -1,6 +1,6 @@
 #pragma once
 
-// A finished analysis as the study's pages ask about it further: what was asked, with the ranges read once.
+// A finished analysis with its ranges read once, for the further questions of the study's pages.
 
 #include <string>
 
@@ -11,7 +11,7 @@
 namespace quillon {
 
 struct StudySituation {
-  Situation Asked;  // what its scenario does not ask for is 0 or empty
+  Situation Asked;  // whatever its scenario does not ask for is 0 or empty
   ClassWeights Range{};  // the weights of Asked.RangeText
   ClassWeights CallingRange{};  // of Asked.CallingRangeText; all 0 in a scenario without one
   const HandNumbers* Hands = nullptr;  // never null; outlives the situation
@@ -22,12 +22,12 @@ struct StudySituation {
   /// The amounts of the situation.
   [[nodiscard]] Amounts AllAmounts() const { return {Asked.PotSize, Asked.CallAmount, Asked.ShoveAmount}; }
 
-  /// The amount that the move is about: the call, or the shove; 0 where only equities were asked for.
+  /// The amount of the move: the call or the shove, or 0 in "Equity Only".
   [[nodiscard]] double OwnAmount() const;
 };
 
-/// The situation of a finished analysis, whose fields may hold more than its scenario asks for. `hands` must outlive
-/// what is returned. Fails as RangeWeightsOf does, as on texts that no analysis finishes with.
+/// The situation of a finished analysis, without fields that its scenario does not ask for. `hands` must outlive the
+/// result. Fails as RangeWeightsOf does, on texts with which no analysis could finish.
 [[nodiscard]] StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands);
 
 /// One line about a situation, which must have a scenario.

@@ -17,7 +17,7 @@ TEST(StudySituation, HoldsWhatItsScenarioAsksFor) {
   EXPECT_EQ(raise.CallingRange.at(0), 1);
   EXPECT_EQ(raise.CallingRange.at(1), 0);
 
-  // The state of the window keeps what an earlier raise has left in it.
+  // The window's state keeps values from an earlier raise.
   raised.Mode = AnalysisMode::kPreflopCall;
   const StudySituation call = StudySituationOf(raised, Hands());
   EXPECT_EQ(call.OwnAmount(), 50);

@@ -32,7 +32,7 @@ std::optional<Decimal> ReadDecimal(std::string_view text) {
   return decimal;
 }
 
-// The digits of a decimal with so many decimals, nothing if they are more than a 64-bit integer holds.
+// The digits of a number with this many decimals; nothing if a 64-bit integer cannot hold them.
 std::optional<std::int64_t> Scaled(const Decimal& decimal, int decimals) {
   constexpr std::int64_t kMost = 1'000'000'000'000'000'000;
   std::int64_t digits = decimal.digits;
@@ -52,7 +52,7 @@ AllFigures FiguresOf(const Scenario& scenario, const RangeNumbers& ranges) {
   return figures;
 }
 
-// A cell of a table loses what is beyond 15 digits. Its sign it keeps, so only what is told goes through the text.
+// A table cell keeps only 15 digits. The sign is taken before that, so only displayed values go through the text.
 double AsTableHolds(double value) {
   return LeadingNumber(NumberText(value));
 }

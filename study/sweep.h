@@ -1,9 +1,9 @@
 #pragma once
 
-// One question asked many times, with one amount or the width of a range going up step by step. Equities and fold
-// shares do not depend on the amounts, so they are worked out once for all steps, and a thousand steps take little more
-// time than one; where the range changes they are worked out for each. Either way the figures are those of separate
-// analyses, digit for digit.
+// One question asked many times, as one amount or the width of a range goes up step by step. Equities and fold shares
+// do not depend on the amounts, so they are computed once, and a thousand steps take little longer than one; when the
+// range changes they are computed for each step. Either way the figures are those of separate analyses, digit for
+// digit.
 
 #include <array>
 #include <cstdint>
@@ -21,26 +21,27 @@
 
 namespace quillon {
 
-/// More steps than these are refused.
+/// More steps are refused.
 inline constexpr std::int64_t kMostSteps = 100000;
 
-/// Decimals from one to another: the step k is FROM + k * STEP, and the last is the largest not above TO.
+/// A sequence of decimals: step k is FROM + k * STEP, and the last is the largest not above TO.
 class Steps {
  public:
-  /// Reads "FROM:TO:STEP", three plain decimals such as "5", "0.25" or ".5" with at most 15 digits each. The second may
-  /// not be below the first, the third must be above 0, and there may be at most kMostSteps. Otherwise the reason, as
-  /// in "the step must be above 0".
+  /// Reads "FROM:TO:STEP", three plain decimals such as "5", "0.25" or ".5" with at most 15 digits each. TO must not be
+  /// below FROM, STEP must be above 0, and there may be at most kMostSteps. Otherwise the error, such as
+  /// "the step must be above 0".
   ///
   ///     "1:2:0.25" -> 1, 1.25, 1.5, 1.75, 2      "0.1:0.35:0.1" -> 0.1, 0.2, 0.3      "5:5:1" -> 5
   [[nodiscard]] static std::variant<Steps, std::string> Read(std::string_view text);
 
-  /// The same from the three decimals.
+  /// The same from three separate decimals.
   [[nodiscard]] static std::variant<Steps, std::string> Between(std::string_view from, std::string_view to,
                                                                 std::string_view step);
 
   [[nodiscard]] std::int64_t Count() const { return count_; }
 
-  /// The step as text, from the decimals and not by floats: the shortest decimal, as "0.3". It counts as it reads.
+  /// The step as text, computed in decimals, not floats: the shortest form, such as "0.3". The value used is that of
+  /// the text.
   [[nodiscard]] std::string Text(std::int64_t step) const;
 
  private:
@@ -53,40 +54,39 @@ class Steps {
   int decimals_;
 };
 
-/// What a sweep tells of one step.
+/// One step of a sweep.
 struct SweepRow {
   std::string At;  // the text of the step
-  int ProfitableCombos = 0;  // concrete hands, 0 to 1326, of the classes whose expected value is 0 or more
-  std::vector<double> ExpectedValues;  // of the hands asked for, in their order, as a results table holds them
+  int ProfitableCombos = 0;  // concrete hands, 0 to 1326, whose class has an expected value of 0 or more
+  std::vector<double> ExpectedValues;  // of the hands asked for, in order, with a results table's digits
 };
 
-/// The share of all hands that is profitable, in percent.
+/// The profitable share of all hands, in percent.
 [[nodiscard]] double ProfitablePercent(const SweepRow& row);
 
-/// The rows as comma-separated lines under a heading, with every digit. `what` goes up, and the hands are those of the
-/// rows, in their order.
+/// The rows as comma-separated lines with a heading, with every digit. `what` is what goes up, and the hands are those
+/// of the rows, in order.
 ///
 ///     shove,profitable,K9o,22
 ///     5,100,0.909819209069834,1.00635614402889
 [[nodiscard]] std::string SweepCsv(std::string_view what, std::span<const std::string> hands,
                                    std::span<const SweepRow> rows);
 
-/// What is asked at every step.
 struct SweepQuestion {
   AnalysisMode Mode = AnalysisMode::kPreflopCall;  // or kPreflopRaise
   Amounts Fixed;
   std::vector<std::int16_t> Hands;  // class indexes
 };
 
-/// A row for each step, with this amount going through the steps in place of the fixed one. Fails as FiguresOf does for
+/// A row for each step, with this amount taking the step's value instead of the fixed one. Fails as FiguresOf does for
 /// the ranges.
 [[nodiscard]] std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges,
                                                 double Amounts::*amount, const Steps& steps);
 
-/// The row of one step, from what the ranges say at it and the amounts as they are there. Fails as FiguresOf does.
+/// The row of one step, from the ranges and amounts at that step. Fails as FiguresOf does.
 [[nodiscard]] SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, std::string at);
 
-/// The same with all amounts fixed and the range of each step given: what FiguresOf is asked of at the step's text.
+/// The same with all amounts fixed and a range for each step, given by the step's text.
 [[nodiscard]] std::vector<SweepRow> SweepRanges(const SweepQuestion& question,
                                                 const std::function<RangeNumbers(std::string_view at)>& rangesAt,
                                                 const Steps& steps);

@@ -19,7 +19,7 @@ double Finite(double value) {
   return std::clamp(value, -kMostNumber, kMostNumber);
 }
 
-// Room above and below the lines, so that none lies on the frame.
+// Adds room above and below, so that no line lies on the frame.
 void Widen(FigureScale& scale, double part) {
   const double room = scale.High > scale.Low ? scale.High * part - scale.Low * part : 1;
   scale.Low = Finite(scale.Low - room);

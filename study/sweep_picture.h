@@ -1,6 +1,6 @@
 #pragma once
 
-// A sweep as a figure: a line for each hand over the amount or the width that goes up.
+// A sweep as a figure: a line for each hand over the amount or width that goes up.
 
 #include <span>
 #include <string>
@@ -11,15 +11,15 @@
 
 namespace quillon {
 
-/// What a sweep's figure says beside its lines.
+/// The texts of a sweep's figure.
 struct SweepLabels {
   std::string Title;
   std::string Across;  // what goes up, with its unit
-  std::vector<std::string> Hands;  // those of the rows, in their order
+  std::vector<std::string> Hands;  // those of the rows, in order
 };
 
-/// The expected values of the hands, with the zero line, or where no hand was asked for the percentage of hands that
-/// are profitable. There must be a row.
+/// The expected values of the hands, with the zero line; if no hand was asked for, the percentage of profitable hands.
+/// There must be a row.
 [[nodiscard]] Figure SweepFigure(const SweepLabels& labels, std::span<const SweepRow> rows);
 
 /// The same as an SVG document.

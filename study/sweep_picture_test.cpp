@@ -61,7 +61,7 @@ TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
   EXPECT_NEAR(zero - lines[0][0].second, lines[1][1].second - zero, 0.11);
   EXPECT_NEAR(zero - lines[1][2].second, 3 * (zero - lines[0][1].second), 0.3);
   EXPECT_NEAR(lines[0][1].first - lines[0][0].first, lines[0][2].first - lines[0][1].first, 0.11);
-  // The highest and the lowest point are as far from the ends of the axis.
+  // The highest and lowest points are equally far from the ends of the axis.
   const std::string axis = Split(Split(picture, "stroke=\"#7b8794\"").at(0), "<line").back();
   const double above = lines[1][2].second - LeadingNumber(Attribute(axis, "y1"));
   const double below = LeadingNumber(Attribute(axis, "y2")) - lines[1][1].second;
@@ -150,7 +150,6 @@ TEST(SweepPicture, LeavesRoomBetweenNumbersOfAnyLength) {
   }
 }
 
-// A line of a hundred thousand steps has no more points than can be told apart.
 TEST(SweepPicture, OfManyStepsIsNotLarge) {
   std::vector<SweepRow> rows;
   for (int i = 0; i < 100000; ++i)

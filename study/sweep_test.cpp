@@ -13,7 +13,7 @@
 namespace quillon {
 namespace {
 
-// The texts of all steps with blanks between, or why there are none.
+// The texts of all steps separated by spaces, or the error.
 std::string Read(const std::string& text) {
   const auto read = Steps::Read(text);
   if (const auto* const reason = std::get_if<std::string>(&read)) return *reason;
@@ -80,7 +80,7 @@ struct ProfitableShare {
   std::vector<double> values;
 };
 
-// What a separate analysis says.
+// The result of a separate analysis.
 ProfitableShare Separate(const Situation& situation, const SweepQuestion& question) {
   const Analysis analysis = Analyze(situation).value_or(Analysis{});
   ProfitableShare share;

@@ -28,7 +28,7 @@ constexpr const char* kNotFound =
 
 constexpr const char* kGridNote = "The file keeps every weight. Editing it on a grid keeps only none, half and full.";
 
-// The amounts that the scenario asks for, the others empty.
+// The amounts that the scenario asks for; the others are empty.
 BalanceTexts TextsOf(const StudySituation& situation) {
   const Scenario* const scenario = FindRow(kScenarios, situation.Asked.Mode);
   const int count = scenario == nullptr ? 0 : scenario->AmountCount;

@@ -1,8 +1,8 @@
 #pragma once
 
 // The page "Balanced ranges": which hands to shove, and which to call the shove with, so that neither player gains by
-// changing ("study/equilibrium.h"). The amounts are those of the situation until the player types others. He holds the
-// range of the situation, or any hand.
+// changing ("study/equilibrium.h"). The amounts are those of the situation until the player types others. The opponent
+// holds the situation's range, or any hand.
 
 #include <QCheckBox>
 #include <QLabel>
@@ -30,16 +30,16 @@ class BalancedPage : public StudyPage {
 
   [[nodiscard]] QString Title() const override { return QStringLiteral("Balanced ranges"); }
 
-  /// Never: with its own boxes the page can ask about any situation, before the first analysis too.
+  /// Always nothing: with its own boxes the page can answer for any situation, even before the first analysis.
   [[nodiscard]] std::optional<QString> WhyNothing(const StudySituation& situation) const override;
   void Show(const StudySituation& situation) override;
 
  Q_SIGNALS:
-  /// The range to call with was saved and the player told: lists are to be filled anew before this returns.
+  /// The calling range was saved and the player told: the lists must be refilled before this returns.
   void CallingRangeSaved(const std::string& name);
 
  private:
-  /// A grid under a heading.
+  /// A grid with a heading.
   struct Side {
     QLabel& Heading;
     ClassGridView& Grid;
@@ -71,9 +71,9 @@ class BalancedPage : public StudyPage {
   LegendView& legend_;
   QPushButton& save_;
   std::optional<StudySituation> situation_;
-  std::optional<BalanceTexts> asked_;  // what the page shows, or works out
+  std::optional<BalanceTexts> asked_;  // the question shown, or being answered
   bool askedOnlyHis_ = false;
-  ClassWeights found_{};  // the range to call with, while the button can save it
+  ClassWeights found_{};  // the calling range, while the button can save it
   std::int16_t told_ = 0;
 };
 

@@ -38,7 +38,7 @@ class BalancedRanges : public StudyStage {
     WaitForTheEnd();
   }
 
-  // Every cell of both grids, and the words, are those of the answer.
+  // Every cell of both grids and the words match the answer.
   void ExpectAnswerTo(const BalanceQuestion& question) const {
     const Equilibrium found = FindEquilibrium(Hands(), question).value();
     const ClassCells shove = PlayedCells(BalanceSide::kShove, found.Shove, question.OwnHands);

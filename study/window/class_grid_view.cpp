@@ -14,7 +14,7 @@
 
 namespace quillon {
 
-// A square with a class on it. What does not hold is told by more than its colour: the label is not bold.
+// A square for a class. A pale one does not rely on colour alone: its label is not bold.
 class GridCell : public Control {
  public:
   GridCell(std::int16_t index, QWidget* parent) : Control(parent), label_(ToQt(HandLabel(index))) {
@@ -34,7 +34,7 @@ class GridCell : public Control {
     QPainter painter(this);
     painter.fillRect(rect(), ToColor(cell_.Color));
     painter.setPen(ToColor(ReadableOn(cell_.Color)));
-    // Heights of cells differ by a pixel; the letters are to be alike.
+    // Cell heights differ by a pixel; the letters must not.
     const QSize whole = parentWidget()->size() / kRankCount;
     const int label = std::min(whole.height() * kLabelShare, whole.width() * kLabelWidthShare) / 100;
     const bool hasText = !cell_.Text.empty();
@@ -54,7 +54,7 @@ class GridCell : public Control {
   static constexpr int kTextShare = 30;
   static constexpr int kLabelWidthShare = 38;
 
-  // As large as asked for, smaller where the text would be too wide.
+  // At this size, or smaller if the text would be too wide.
   void Write(QPainter& painter, const QRect& place, const QString& text, int pixels, bool bold) const {
     QFont font = this->font();
     font.setBold(bold);
@@ -111,7 +111,7 @@ bool ClassGridView::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-// Edges are worked out from the whole, so that the grid is filled and gaps are alike to a pixel.
+// Edges are computed from the whole, so that the cells fill the grid and the gaps differ by at most a pixel.
 void ClassGridView::resizeEvent(QResizeEvent* /*event*/) {
   const int gap = LinePixels(1);
   const auto edge = [](int length, int line) { return length * line / kRankCount; };

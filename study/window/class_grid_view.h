@@ -1,8 +1,7 @@
 #pragma once
 
-// A grid of the 169 classes that grows with its window. Tab reaches it at one cell, and the keys of
-// "toolkit/grid_keys.h" go from there to the others. A cell says its class, and as its description the words of what it
-// shows.
+// A resizable grid of the 169 classes. Tab reaches one of its cells, and the keys of "toolkit/grid_keys.h" move on from
+// there. A cell's accessible name is its class, its description the words of what it shows.
 
 #include <QWidget>
 #include <array>
@@ -22,16 +21,16 @@ class ClassGridView : public QWidget {
 
   void Show(const ClassCells& cells);
 
-  /// The cell of a class, for whoever wants its place or its words.
+  /// The cell of a class, for its place or words.
   [[nodiscard]] QWidget& Cell(std::int16_t index) const;
 
-  /// Gives the keyboard to the cell of a class, which is the one that Tab reaches from now on.
+  /// Focuses the cell of a class, which Tab reaches from then on.
   void FocusCell(std::int16_t index);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  Q_SIGNALS:
-  void HandReached(qint16 index);  // the mouse or the keyboard came to its cell
+  void HandReached(qint16 index);  // by mouse or keyboard
   void HandPressed(qint16 index);  // by a click, Enter or Space
 
  protected:

@@ -28,7 +28,7 @@
 namespace quillon {
 namespace {
 
-// "K9o shove.svg", or "K9o shove 2.svg" where that is taken: the dialog does not ask before it replaces a file.
+// "K9o shove.svg", or "K9o shove 2.svg" if that is taken: the dialog does not ask before replacing a file.
 std::string FreeName(const std::filesystem::path& folder, const std::string& stem, const std::string& extension) {
   std::string name = stem + extension;
   for (int number = 2; IsThere(folder / name); ++number)
@@ -57,7 +57,7 @@ CurvePage::CurvePage(ProgramFolder folder, int figures, QWidget* parent)
   rows_.addLayout(&actions_);
   for (int i = 0; i < figures; ++i) {
     views_.push_back(new FigureView(this));
-    rows_.addWidget(views_.back(), 1 + i);  // the names of the hands, in the last, need more room
+    rows_.addWidget(views_.back(), 1 + i);  // the hands' names in the last one need more room
   }
   setFocusProxy(views_.front());
 }
@@ -145,7 +145,7 @@ QStringList CurvePage::Typed() const {
   return {hands_->text(), from_->text(), to_->text(), step_->text()};
 }
 
-// Whoever only passes through a box has typed nothing.
+// Passing through a box without typing changes nothing.
 void CurvePage::Leave(const TextBox& box) {
   if (!situation_ || Typed() == read_) return;
   if (&box != hands_) hasOwnSteps_ = true;
@@ -177,7 +177,7 @@ void CurvePage::Read() {
   Begin(chosen, std::get<Steps>(steps));
 }
 
-// As it is shown, the figures one under the other.
+// As shown: the figures one below the other.
 void CurvePage::CopyPicture() {
   if (curves_.Rows.empty()) return;
   std::vector<QImage> pictures;

@@ -1,8 +1,8 @@
 #pragma once
 
-// What the pages of curves have in common: boxes for the hands, as a notation, and for the steps of what goes up; and
-// the figure for the clipboard, as a picture in a file, or as the companion's table. What is typed counts when Enter is
-// pressed or the box is left. Where it cannot be read, a line says why and the figure stays.
+// The base of the pages of curves: boxes for the hands, as a notation, and for the steps of what goes up; and the chart
+// copied as an image, saved as a picture, or copied as the companion's table. Typing takes effect on Enter or on
+// leaving the box. If a text cannot be read, a line says why and the chart stays.
 
 #include <QHBoxLayout>
 #include <QImage>
@@ -26,17 +26,17 @@ class CurvePage : public StudyPage {
   Q_OBJECT
 
  public:
-  /// Takes the situation and keeps the hands where they can be read, as they cannot at first: then it is the hand that
-  /// hardly pays. The steps are the page's own.
+  /// Takes the situation. The hands stay if they can be read; at first they cannot, and become the marginal hand. The
+  /// steps are the page's own.
   void Show(const StudySituation& situation) override;
 
-  /// The hand takes the place of the others.
+  /// Replaces the hands by this one.
   void ShowHand(std::int16_t index) override;
 
-  /// Takes the hands of another page, as text; they are drawn when this page shows.
+  /// Takes the hands of another page, as text; they are drawn when this page is shown.
   void TakeHands(const QString& hands);
 
-  /// The figures, from above down.
+  /// The figures, top to bottom.
   [[nodiscard]] const std::vector<FigureView*>& Views() const { return views_; }
 
  Q_SIGNALS:
@@ -45,34 +45,34 @@ class CurvePage : public StudyPage {
  protected:
   void showEvent(QShowEvent* event) override;
 
-  /// A page with that many figures, whose files go into that folder.
+  /// A page with this many figures, whose files are saved to that folder.
   CurvePage(ProgramFolder folder, int figures, QWidget* parent);
 
   [[nodiscard]] const StudySituation& About() const { return *situation_; }
   [[nodiscard]] const HandOrder& BestFirst() const { return bestFirst_; }
 
-  /// Steps to begin with.
+  /// The initial steps.
   [[nodiscard]] virtual StepTexts StepsFor(std::span<const std::int16_t> hands) const = 0;
 
-  /// The steps of the boxes, or why they are none.
+  /// The steps of the boxes, or the error.
   [[nodiscard]] virtual std::variant<Steps, std::string> ReadSteps(const StepTexts& texts) const = 0;
 
-  /// Works the curves out, now or in a while, with Draw and TellFigure.
+  /// Computes the curves, at once or later, and calls Draw and TellFigure.
   virtual void Begin(const std::vector<std::int16_t>& hands, const Steps& steps) = 0;
 
   /// The figures of the curves, as many as the page has.
   [[nodiscard]] virtual std::vector<Figure> FiguresOf(const HandCurves& curves) const = 0;
 
-  /// Shows curves as far as they have been worked out.
+  /// Shows the curves computed so far.
   void Draw(HandCurves curves);
 
-  /// They are whole: has the figure told to a player who has asked for it.
+  /// The curves are complete: announces them if the player asked for them.
   void TellFigure();
 
-  /// Says beside the buttons, and to a screen reader, what is wrong or has been done; empty: nothing.
+  /// Shows beside the buttons, and announces, an error or what was done; empty: nothing.
   void Tell(const std::string& words);
 
-  /// Puts a part of the page's own above the figures.
+  /// Inserts a widget above the figures.
   void ShowBelowBoxes(QWidget& part);
 
  private:
@@ -97,10 +97,10 @@ class CurvePage : public StudyPage {
   TextBox* step_ = nullptr;
   std::optional<StudySituation> situation_;
   HandOrder bestFirst_{};
-  QStringList read_;  // the texts of the boxes when they were read last
-  bool hasOwnSteps_ = false;  // the player's
-  bool isStale_ = false;  // other hands have been taken than those that are drawn
-  bool answers_ = false;  // the player, who is told of what comes of it
+  QStringList read_;  // the texts of the boxes when last read
+  bool hasOwnSteps_ = false;  // typed by the player
+  bool isStale_ = false;  // the hands are not those drawn
+  bool answers_ = false;  // the player asked, and the result is announced
   HandCurves curves_;
 };
 

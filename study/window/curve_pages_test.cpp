@@ -55,7 +55,7 @@ class PageTest : public testing::Test {
     page.Show(situation);
   }
 
-  // The boxes in their order: hands, from, to, steps.
+  // The boxes in order: hands, from, to, steps.
   [[nodiscard]] TextBox& Box(qsizetype index) { return *page.template findChildren<TextBox*>().at(index); }
   [[nodiscard]] std::string Boxes() {
     std::string texts;
@@ -100,7 +100,7 @@ class PageTest : public testing::Test {
   Page page{program.Folder()};
 };
 
-// A slow machine goes on after the first moment.
+// A slow machine continues after the first moment.
 void WaitFor(const WidthPage& page) {
   FinishWork(page.Work());
 }
@@ -139,7 +139,7 @@ TEST_F(HowFarPageTest, ReadsWhatIsTyped) {
            {0, "88 A7x", "88 A7x|1|109|1", "Hands: \"x\" does not belong here", 2},
            {0, "TT+", "TT+|1|109|1", "", 5},
            {2, "50", "TT+|1|50|1", "", 5},
-           {0, "AA", "AA|1|50|1", "", 1},  // steps of the player's own stay
+           {0, "AA", "AA|1|50|1", "", 1},  // the player's own steps stay
            {2, "110", "AA|1|110|1", "From, to and steps: a call is smaller than the pot, which is 110", 1},
            {2, "20", "AA|1|20|1", "", 1},
            {3, "0", "AA|1|20|0", "From, to and steps: the step must be above 0", 1},
@@ -162,7 +162,7 @@ TEST_F(HowFarPageTest, LeavesTheFigureAloneWhereNothingWasTyped) {
   EXPECT_TRUE(heard.Texts().empty());
 }
 
-// As a screen reader writes it.
+// As a screen reader would write it.
 TEST_F(HowFarPageTest, ReadsWhatIsWrittenIntoABox) {
   Open(Call());
   Box(0).setFocus();
@@ -194,7 +194,7 @@ TEST_F(HowFarPageTest, SavesThePictureAndTheCompanionsTable) {
   EXPECT_EQ(FileOf("table.csv"), curves.Csv());
 }
 
-// Enter twice must not cost the picture of another situation.
+// Pressing Enter twice must not overwrite the picture of another situation.
 TEST_F(HowFarPageTest, OffersANameThatIsFree) {
   Open(Shove());
   page.ShowHand(HandIndex("K9o"));
@@ -219,7 +219,7 @@ TEST_F(WidthPageTest, ShowsTheShareAndTheHands) {
   for (const auto& [view, words] : {std::pair{std::size_t{0}, "Profitable at 30%: 85.52%"},
                                     {std::size_t{1}, "K9o at 30%: 0.7085 chips, 0.4723 pots"}}) {
     View(view).setFocus(Qt::TabFocusReason);
-    // Where the keyboard begins depends on how far the lines had grown when it came.
+    // The initial focus depends on how far the lines had grown.
     QTest::keyClick(&View(view), Qt::Key_Home);
     for (int width = 1; width < 30; ++width)
       QTest::keyClick(&View(view), Qt::Key_Right);

@@ -22,7 +22,7 @@
 namespace quillon {
 namespace {
 
-// Pixels of the design.
+// Design pixels.
 constexpr double kWordsHeight = 26;
 constexpr FigureSize kLeastSize = {420, 170};
 constexpr FigureSize kWantedSize = {820, 500};
@@ -44,7 +44,7 @@ QFont FontOf(const FigureFont& font) {
   return FormFont({.Family = "Arial", .Points = static_cast<float>(size * kPointsPerPixel), .Bold = font.Bold}, {});
 }
 
-// Qt counts dashes in widths of the pen.
+// Qt measures dashes in pen widths.
 QPen PenOf(const FigurePen& pen, double scale) {
   QPen made(ColorOf(pen.Color), pen.Width * scale, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
   QList<qreal> dashes;
@@ -54,14 +54,14 @@ QPen PenOf(const FigurePen& pen, double scale) {
   return made;
 }
 
-// Draws each part as it comes, with so many pixels to one of the design.
+// Draws the parts at this many pixels per design pixel.
 class Brush {
  public:
   Brush(QPainter& painter, double scale) : painter_(painter), scale_(scale) {
     painter.setRenderHint(QPainter::Antialiasing);
   }
 
-  // Upright and level lines keep to whole pixels, so that all are equally sharp.
+  // Vertical and horizontal lines are snapped to whole pixels, so that all are equally sharp.
   void operator()(const FigureRule& rule) const {
     QPen pen = PenOf(rule.Pen, scale_);
     const double width = std::max(1.0, std::round(pen.widthF()));
@@ -193,7 +193,7 @@ void FigureView::Show(Figure figure) {
     }
   }
   figure_ = std::move(figure);
-  // While a figure grows its name stays, and is not to be read again.
+  // While a figure grows its name stays, and should not be announced again.
   if (const QString name = ToQt(FigureWords(*figure_)); name != accessibleName()) setAccessibleName(name);
   GoTo(kept ? kept : hasFocus() ? std::optional(StartPoint()) : std::nullopt);
 }
@@ -269,7 +269,7 @@ void FigureView::keyPressEvent(QKeyEvent* event) {
   Announce(*this, Words());
 }
 
-// Whoever comes by the keyboard is on a point at once.
+// Keyboard focus always starts on a point.
 void FigureView::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   if (figure_ && !point_ && event->reason() != Qt::MouseFocusReason) GoTo(StartPoint());
@@ -280,7 +280,7 @@ FigureLayout FigureView::Layout() const {
   return FigureLayout(*figure_, {width() / scale, height() / scale - kWordsHeight});
 }
 
-// Of the first line, the place nearest to the first mark.
+// On the first line, the place nearest to the first mark.
 FigurePoint FigureView::StartPoint() const {
   if (figure_->Marks.empty()) return {};
   const double at = figure_->Marks.front().At;
@@ -289,7 +289,7 @@ FigurePoint FigureView::StartPoint() const {
   return {.Line = 0, .Place = static_cast<std::size_t>(nearest - figure_->Places.begin())};
 }
 
-// Nothing where the key is none of the figure's. From no point any of them leads to the first.
+// Nothing for other keys. Without a current point each of the keys leads to the first.
 std::optional<FigurePoint> FigureView::PointReachedBy(int key) const {
   const FigurePoint from = point_.value_or(StartPoint());
   const std::size_t last = figure_->Places.size() - 1;

@@ -1,9 +1,9 @@
 #pragma once
 
-// A figure ("study/figure.h") in a window, in whatever size it is given. It is read off with the mouse, which finds the
-// nearest point, or with the keyboard: Left and Right go from place to place, Page Up and Page Down ten places at a
-// time, Home and End to the ends, Up and Down to the line above or below there, and Esc lets go of the point. The point
-// has a cross hair, and the line below the figure tells it in words, as a screen reader hears it.
+// A figure ("study/figure.h") in a window, at any size. Points are read with the mouse, which finds the nearest one, or
+// with the keyboard: Left and Right go from place to place, Page Up and Page Down ten places at a time, Home and End to
+// the ends, Up and Down to the line above or below, and Esc leaves the point. The point has a cross hair, and the line
+// below the figure gives it in words, which a screen reader announces.
 
 #include <QImage>
 #include <QString>
@@ -18,27 +18,26 @@ class FigureView : public QWidget {
   Q_OBJECT
 
  public:
-  /// Shows nothing yet.
+  /// Empty at first.
   explicit FigureView(QWidget* parent = nullptr);
 
-  /// Shows a figure. The point that is being read off stays on the line of its name and at its place, where the new
-  /// figure has both.
+  /// Shows a figure. The current point stays if the new figure has its line's name and its place.
   void Show(Figure figure);
 
-  /// Shows nothing again.
+  /// Empties the view.
   void Clear();
 
-  /// What is shown; there must be something.
+  /// The figure shown; there must be one.
   [[nodiscard]] const Figure& Shown() const { return *figure_; }
 
-  /// The point that is being read off, and its words; without one they say how to.
+  /// The current point, and its words; without one they explain how to read one.
   [[nodiscard]] std::optional<FigurePoint> Point() const { return point_; }
   [[nodiscard]] QString Words() const;
 
-  /// Where a point is within the view; a figure is shown.
+  /// The position of a point in the view, which must show a figure.
   [[nodiscard]] QPointF SpotOf(FigurePoint point) const;
 
-  /// The figure as it is shown, in the pixels of the screen, without cross hair and words.
+  /// The figure as shown, in screen pixels, without cross hair and words.
   [[nodiscard]] QImage Picture() const;
 
   [[nodiscard]] QSize sizeHint() const override;
@@ -60,7 +59,7 @@ class FigureView : public QWidget {
 
   std::optional<Figure> figure_;
   std::optional<FigurePoint> point_;
-  QString told_;  // the words that a screen reader knows
+  QString told_;  // the words last announced
 };
 
 }  // namespace quillon

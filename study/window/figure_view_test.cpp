@@ -16,7 +16,7 @@
 namespace quillon {
 namespace {
 
-// Three hands over a shove of 1 to 4; at the second place two are worth the same.
+// Three hands over a shove of 1 to 4; at the second place two have the same value.
 Figure Hands() {
   return {.Title = "Preflop Raise",
           .Across = {.Title = "Shove", .Low = 0, .High = 4, .Unit = "chip"},
@@ -100,7 +100,7 @@ TEST_F(FigureViewTest, IsReadOffByKeys) {
            {Qt::Key_PageDown, "22 at 4 chips: -1 chips"},
            {Qt::Key_PageUp, "22 at 1 chip: 2 chips"},
            {Qt::Key_Right, "22 at 2 chips: 1 chip"},
-           {Qt::Key_Up, "K9o at 2 chips: 1 chip"},  // of equal ones the earlier is above
+           {Qt::Key_Up, "K9o at 2 chips: 1 chip"},  // of equal values the earlier is above
            {Qt::Key_Up, "AA at 2 chips: 2 chips"},
            {Qt::Key_End, "AA at 4 chips: 2.5 chips"},
        }) {
@@ -179,7 +179,7 @@ TEST_F(FigureViewTest, IsCopiedWithoutCrossHairAndWords) {
   EXPECT_EQ(View.Picture(), picture);
 }
 
-// Each line of the figure is there in its colour, whatever the size, and so are its dots.
+// Each line and its dots are drawn in its colour, at every size.
 TEST_F(FigureViewTest, DrawsEveryLineAtEveryScale) {
   View.Show(Hands());
   for (const double scale : {0.75, 1.0, 2.0, 3.0}) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The page "How far?": what hands are worth as the amount goes up that you call, or that he has to call.
+// The page "How far?": the value of hands as the amount that you call, or that he has to call, goes up.
 
 #include "study/window/curve_page.h"
 

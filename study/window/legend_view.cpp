@@ -11,7 +11,7 @@
 namespace quillon {
 namespace {
 
-constexpr int kSwatch = 14;  // pixels of the design
+constexpr int kSwatch = 14;  // design pixels
 
 class Swatch : public QWidget {
  public:

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the colours of a grid say: a square of each colour with its text after it.
+// The legend of a grid: a square of each colour, followed by its text.
 
 #include <QWidget>
 #include <vector>
@@ -15,7 +15,7 @@ class LegendView : public QWidget {
  public:
   explicit LegendView(QWidget* parent = nullptr);
 
-  /// Puts these lines in place of all others.
+  /// Replaces all lines.
   void Show(const std::vector<PageLegend>& lines);
 };
 

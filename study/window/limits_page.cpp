@@ -21,7 +21,7 @@
 namespace quillon {
 namespace {
 
-constexpr int kGridShare = 7;  // of the page's width, and what is beside the grid
+constexpr int kGridShare = 7;  // of the page's width; the rest is for the legend and texts
 constexpr int kPanelShare = 2;
 constexpr float kHandPoints = 15;
 

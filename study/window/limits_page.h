@@ -1,7 +1,6 @@
 #pragma once
 
-// The page "Limits": up to which amount each hand calls, or shoves. The amount of the situation is the threshold: hands
-// that lose at it are pale.
+// The page "Limits": up to which amount each hand calls, or shoves. Hands that lose at the situation's amount are pale.
 
 #include <QLabel>
 
@@ -36,7 +35,7 @@ class LimitsPage : public StudyPage {
   LegendView& legend_;
   std::int16_t told_ = 0;
   Limits limits_{};
-  double now_ = 0;  // the amount of the situation
+  double now_ = 0;  // the situation's amount
 };
 
 }  // namespace quillon

@@ -24,11 +24,11 @@
 namespace quillon {
 namespace {
 
-// At the least, every cell has room for its text.
+// The smallest size at which every cell has room for its text.
 constexpr TwipSize kLeastSize = {.Width = 12900, .Height = 9000};
 constexpr TwipSize kFirstSize = {.Width = 14400, .Height = 10200};
 
-// With names cut that would take the room of the pages; the tool tip and a screen reader have them whole.
+// With names cut that would take up the pages' room; the tool tip and a screen reader have them in full.
 QString ShortWords(Situation situation) {
   constexpr std::size_t kLongest = 40;
   for (std::string* name : {&situation.RangeName, &situation.CallingRangeName}) {
@@ -186,7 +186,7 @@ void StudyForm::ShowCurrent() {
   Leaf& leaf = Current();
   const std::optional<QString> nothing = leaf.Page->WhyNothing(situation_);
   leaf.Notice->setText(nothing.value_or(QString()));
-  // Before the page goes, or Qt would give the keyboard to whatever comes next.
+  // Asked before the page is hidden, when Qt would move the focus to whatever comes next.
   const bool takesKeyboard = nothing && leaf.Page->isAncestorOf(focusWidget());
   if (takesKeyboard) tabs_.tabBar()->setFocus(Qt::OtherFocusReason);
   leaf.Stack->setCurrentIndex(nothing ? 0 : 1);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The study window: what else can be asked about a situation that has been analysed. Its pages are tabs. It is about
-// one situation, which it tells, and keeps that when a new analysis finishes, until the player follows.
+// The study window: further questions about an analysed situation, on tabbed pages. It shows which situation it is
+// about, and keeps it when a new analysis finishes, until the player follows.
 
 #include <QLabel>
 #include <QPushButton>
@@ -27,33 +27,31 @@ class StudyForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// The window where it was last, hidden, about nothing yet.
+  /// The window at its last place, hidden and empty.
   explicit StudyForm(DialogSurroundings surroundings);
 
-  /// Takes a finished analysis as the situation that the window is about. The equity table must have been loaded.
+  /// Makes a finished analysis the window's situation. The equity table must be loaded.
   void Follow(const Analysis& analysis);
 
-  /// Whether the window is about an analysis that asks the same.
+  /// Whether the window is about an analysis of the same situation.
   [[nodiscard]] bool IsAbout(const Analysis& analysis);
 
-  /// Tells of a finished analysis: the first is followed at once, a later one only offered, where it asks something
-  /// else.
+  /// Reports a finished analysis: the first is followed at once; a later one is only offered, if its situation differs.
   void Offer(const Analysis& analysis);
 
-  /// Turns to a page, which gets the keyboard, and there to a hand; to the first page where that page is not one of the
-  /// window's.
+  /// Switches to a page and focuses it, and there to a hand; to the first page if the window does not have this one.
   void ShowPage(StudyTopic topic, std::optional<std::int16_t> hand = {});
 
-  /// Where the window is, as settings; nothing while it is maximised, when it is nowhere of its own.
+  /// The window's place as settings; none while it is maximised.
   [[nodiscard]] std::vector<IniSetting> PlaceSettings() const;
 
   [[nodiscard]] QTabWidget& Tabs() const { return tabs_; }
 
-  /// The page of a topic; null where the window has none.
+  /// The page of a topic; null if the window has none.
   [[nodiscard]] StudyPage* Page(StudyTopic topic) const;
 
  Q_SIGNALS:
-  /// A range to call a shove with was saved and the player told: lists are to be filled anew before this returns.
+  /// A calling range was saved and the player told: the lists must be refilled before this returns.
   void CallingRangeSaved(const std::string& name);
 
  protected:
@@ -61,13 +59,13 @@ class StudyForm : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  /// A page, and the notice that shows in its place while it has nothing to show.
+  /// A page, and the notice in its place while it has nothing to show.
   struct Leaf {
     StudyTopic Topic = StudyTopic::kLimits;
     StudyPage* Page = nullptr;
     QLabel* Notice = nullptr;
     QStackedWidget* Stack = nullptr;
-    bool IsCurrent = false;  // has been shown the situation
+    bool IsCurrent = false;  // shows the current situation
   };
 
   void AddPage(StudyTopic topic, StudyPage* page);
@@ -83,7 +81,7 @@ class StudyForm : public QWidget {
   QPushButton& follow_;
   QTabWidget& tabs_;
   std::vector<Leaf> leaves_;
-  std::unique_ptr<HandNumbers> hands_;  // read when they are needed first
+  std::unique_ptr<HandNumbers> hands_;  // read when first needed
   StudySituation situation_;  // without a scenario before the first analysis
   std::optional<Analysis> offered_;
 };

@@ -116,7 +116,7 @@ TEST_F(StudyWindow, RemembersItsPlaceAndSize) {
   EXPECT_EQ(again.size(), QSize(1502, 1055));
 }
 
-// Its least room is what the pages need, whatever the ranges are called.
+// Its minimum size fits the pages, whatever the ranges are called.
 TEST_F(StudyWindow, CutsNothingOffAtItsLeastSize) {
   Open();
   Analysis analysis = sample::RaiseState();
@@ -131,7 +131,7 @@ TEST_F(StudyWindow, CutsNothingOffAtItsLeastSize) {
          {StudyTopic::kLimits, StudyTopic::kHowFar, StudyTopic::kWidth, StudyTopic::kBalanced}) {
       Form.ShowPage(topic);
       if (const auto* work = Form.Page(topic)->findChild<StudyWork*>()) FinishWork(*work);
-      for (int rounds = 0; rounds < 3; ++rounds)  // fonts are told of their size, and layouts of the fonts
+      for (int rounds = 0; rounds < 3; ++rounds)  // fonts learn their size first, then layouts the fonts
         QCoreApplication::processEvents();
       EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the page wants more";
       for (const QWidget* part : Form.findChildren<QWidget*>()) {

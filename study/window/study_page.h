@@ -1,7 +1,7 @@
 #pragma once
 
-// A page of the study window. It is shown a situation and keeps it until it is shown another one. A page is asked for
-// nothing while it is hidden: it is shown the situation when the player comes to it.
+// A page of the study window. It keeps the situation that it was last shown. A hidden page gets no calls: it is shown
+// the situation when the player switches to it.
 
 #include <QString>
 #include <QWidget>
@@ -21,21 +21,21 @@ class StudyPage : public QWidget {
  public:
   using QWidget::QWidget;
 
-  /// What the page's tab says.
+  /// The text of the page's tab.
   [[nodiscard]] virtual QString Title() const = 0;
 
-  /// Why the page has nothing for a situation, in a sentence; nothing where it has. By default situations without
-  /// amounts have nothing, and so has the one without a scenario, before the first analysis.
+  /// A sentence on why the page has nothing for a situation, or nothing if it has. By default it has nothing for
+  /// situations without amounts, and before the first analysis.
   [[nodiscard]] virtual std::optional<QString> WhyNothing(const StudySituation& situation) const;
 
-  /// Shows what the page has for a situation, one that it has something for. `situation` is a value to copy.
+  /// Shows a situation that the page has something for. `situation` must be copied.
   virtual void Show(const StudySituation& situation) = 0;
 
-  /// Turns to a hand of the situation that is shown, where the page can. By default nothing happens.
+  /// Goes to a hand of the current situation, if the page can. By default nothing happens.
   virtual void ShowHand(std::int16_t index);
 
  Q_SIGNALS:
-  /// The player wants to see what another page says of a hand.
+  /// The player wants to see this hand on another page.
   void HandAsked(StudyTopic topic, qint16 index);
 };
 

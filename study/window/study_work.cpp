@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kUnnoticed = 50;  // milliseconds
 constexpr int kBetweenEvents = 12;
-constexpr int kWhole = 1000;  // of the bar
+constexpr int kWhole = 1000;  // the bar's full value
 
 }  // namespace
 
@@ -94,7 +94,7 @@ void StudyWork::StopOrGoOn() {
   Announce(*this, text_.text());
 }
 
-// Escape stops, and nobody expects it to go on with something.
+// Escape stops work, but nobody expects it to resume.
 void StudyWork::ShowState() {
   escape_.setEnabled(!stopped_);
   text_.setText(stopped_ ? QStringLiteral("Stopped") : what_ + QStringLiteral("..."));

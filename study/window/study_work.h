@@ -1,8 +1,8 @@
 #pragma once
 
-// Long work of a page, done in short steps between events of the window, so that everything stays live and nothing is
-// done twice at a time. Work that ends before a player notices shows nothing. Longer work shows how far it is, and can
-// be stopped, by its button or Escape, and gone on with. While the page is hidden the work rests.
+// Long work of a page, done in short steps between window events, so that everything stays live and nothing runs twice
+// at a time. Work that ends before a player notices shows nothing. Longer work shows its progress; it can be stopped by
+// its button or Escape, and resumed. It pauses while the page is hidden.
 
 #include <QLabel>
 #include <QProgressBar>
@@ -19,20 +19,20 @@ class StudyWork : public QWidget {
   Q_OBJECT
 
  public:
-  /// A step of some milliseconds at most: returns the share of the work that is done, 0 to 1, and nothing at its end.
+  /// A step of a few milliseconds at most: returns the share of the work that is done, 0 to 1, and nothing at its end.
   using Step = std::function<std::optional<double>()>;
 
   /// Hidden, with nothing to do.
   explicit StudyWork(QWidget* parent = nullptr);
 
-  /// Puts this work in place of what there was. `what` is shown and spoken, as "Finding balanced ranges"; `finished` is
-  /// called once after the last step, be it within this call.
+  /// Replaces the work. `what` is shown and announced, such as "Finding balanced ranges"; `finished` is called once
+  /// after the last step, possibly within this call.
   void Start(const QString& what, Step step, std::function<void()> finished);
 
-  /// Forgets the work.
+  /// Drops the work.
   void Drop();
 
-  /// Whether there is work that has not finished, going on or stopped.
+  /// Whether there is unfinished work, running or stopped.
   [[nodiscard]] bool HasWork() const { return static_cast<bool>(step_); }
 
  protected:

@@ -13,7 +13,7 @@
 namespace quillon {
 namespace {
 
-// Work of so many steps, each of a millisecond.
+// Work of this many steps of a millisecond each.
 class Work : public testing::Test {
  protected:
   Work() { Page.show(); }

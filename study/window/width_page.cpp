@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-// Long enough that drawing what is there costs little, and short enough for a step of the work.
+// Long enough that drawing costs little, and short enough for a step of the work.
 constexpr int kStepMilliseconds = 10;
 
 }  // namespace
@@ -39,7 +39,7 @@ void WidthPage::Begin(const std::vector<std::int16_t>& hands, const Steps& steps
     watch.start();
     const std::int64_t count = steps.Count();
     auto done = static_cast<std::int64_t>(curves->Rows.size());
-    do {  // at least one, however busy the machine is: no rows are no figure
+    do {  // at least one, however busy the machine is: there is no figure without rows
       curves->Rows.push_back(WidthRow(About(), curves->Hands, BestFirst(), steps.Text(done)));
     } while (++done < count && watch.elapsed() < kStepMilliseconds);
     Draw(*curves);

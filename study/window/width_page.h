@@ -1,7 +1,7 @@
 #pragma once
 
-// The page "Width": the share of profitable hands, and what some hands are worth, as the opponent's range goes up, or
-// the range that he calls with. Every width is worked out on its own, and the lines grow as they are.
+// The page "Width": the share of profitable hands, and the value of some hands, as the width of the opponent's range,
+// or of his calling range, goes up. Every width is computed on its own, and the lines grow meanwhile.
 
 #include "study/window/curve_page.h"
 #include "study/window/study_work.h"
