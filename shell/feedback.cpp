@@ -14,7 +14,7 @@ constexpr std::size_t kShortestFeedback = 3;
 constexpr std::size_t kLongestFeedback = 1000;
 constexpr std::int64_t kMillisecondsPerSecond = 1000;
 
-// The counter's width decides, so that a wait over its turn fails and does not go on for seven weeks.
+// In the counter's width, so that a wait across the wraparound fails rather than lasting seven weeks.
 std::int32_t TicksBetween(std::int32_t start, std::int32_t now) {
   const std::int64_t ticks = std::int64_t{now} - start;
   using Limits = std::numeric_limits<std::int32_t>;

@@ -8,7 +8,7 @@ namespace {
 struct HelpText {
   std::string_view key;
   std::string_view first;
-  std::string_view second;  // empty where one paragraph is enough
+  std::string_view second;  // may be empty
 };
 
 constexpr std::string_view kPotSizeText =

@@ -1,8 +1,7 @@
 #pragma once
 
-// The short explanations of the links "What's this?" beside the inputs of "Preflop Call" and "Preflop Raise". A
-// link's tool tip is its title and its key: it shows as the title of the message box, and the text is found by it
-// alone.
+// The short explanations for the links "What's this?" beside the inputs of "Preflop Call" and "Preflop Raise". A link's
+// tool tip is both the title of the message box and the key of its text.
 
 #include <array>
 #include <string>
@@ -18,8 +17,8 @@ inline constexpr std::array<std::string_view, 8> kFieldHelpKeys = {
     "Calling Range", "Call ALL IN - Pot Size", "Call ALL IN - Amount To Call", "Call ALL IN - Current Range",
 };
 
-/// The explanation for a key, compared exactly and with case: one paragraph, or two with an empty line between (CR LF
-/// CR LF). An unknown key gives the empty text.
+/// The explanation for a key, case-sensitive: one paragraph, or two with an empty line between (CR LF CR LF). The empty
+/// text for an unknown key.
 [[nodiscard]] std::string FieldHelpText(std::string_view key);
 
 /// The click on `lblWhatsThis(index)` whose tool tip is `key`: shows its explanation under the key as title. An unknown

@@ -1,5 +1,5 @@
-// What the user's files look like after each thing that writes them, with every call to the system failing in turn:
-// each file is as it was or as it was to be, never neither, and the user is told.
+// The user's files after every action that writes them, with each system call failing in turn: each file has its old or
+// its new content, and the user is told.
 
 #include <algorithm>
 #include <array>
@@ -54,12 +54,12 @@ void RemoveScratch(Files& files) {
   std::erase_if(files, [](const auto& file) { return IsScratch(file.first) && !file.first.starts_with("Ranges/"); });
 }
 
-// What the range dialogs write.
+// The text that the range dialogs write.
 std::string Edited() {
   return TextWith("AA QQ", "KK");
 }
 
-// What Ctrl+S writes, and Yes where there is one of that name.
+// What Ctrl+S does, with Yes if the name is taken.
 void SaveSituation(const std::string& name, const ProgramFolder& folder) {
   RecordedInput inputs;
   RecordedMessages messages;
@@ -72,9 +72,9 @@ void SaveSituation(const std::string& name, const ProgramFolder& folder) {
 struct Action {
   const char* Name;
   std::function<void(const ProgramFolder&)> Do;
-  // One of these is always there.
+  // At least one of these always exists.
   std::vector<std::string> NeverAllGone;
-  bool MaySwallow = false;  // a failure may go untold, since the file is not worth stopping for
+  bool MaySwallow = false;  // a failure may be silent, since the file is not worth stopping for
 };
 
 const std::vector<Action>& Actions() {
@@ -142,7 +142,7 @@ constexpr std::array kDisks = {
 
 class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
  protected:
-  // What an action leaves of fresh files when the disk does what `calls` does.
+  // The result of an action on fresh files with these calls.
   struct Outcome {
     Files Left;
     std::optional<RunTimeError> Failure;
@@ -170,14 +170,14 @@ class FileFaults : public testing::TestWithParam<std::tuple<Disk, Action>> {
   }
 };
 
-// The files before any of the actions.
+// The files before each action.
 Files FilesBefore() {
   return {{"Ranges/Old.txt", TextWith("AA", "KK") + "\r\n"}, {"Ranges/Temp Range1.txt", TextWith("22") + "\r\n"},
           {"Ranges/zzz.txt", TextWith("72o") + "\r\n"},      {"Situations/Old.json", "{\"mode\":\"equity\"}\n"},
           {"old.bmp", "BM old picture, which is longer"},    {"settings.ini", "[Values]\r\n0=150\r\n1=50\r\n"}};
 }
 
-// Nothing where a file is missing.
+// Nothing if the file is missing.
 std::optional<std::string> ContentIn(const Files& files, const std::string& name) {
   const auto found = files.find(name);
   return found == files.end() ? std::nullopt : std::optional(found->second);

@@ -1,8 +1,8 @@
 #pragma once
 
-// The grid as a picture file: what the screen shows where the grid is, with its title and its footer, and with
-// whatever lies over it. The picture is a Windows bitmap under the very name that the user gives, in the folder "Saved
-// Grids" of the program's folder unless he chooses another.
+// The grid as a picture file: a copy of the screen where the grid is, with its title and footer, and with whatever
+// covers it. The picture is a Windows bitmap under exactly the name that the user gives, by default in the folder
+// "Saved Grids" of the program's folder.
 
 #include <cstdint>
 #include <string_view>
@@ -35,11 +35,11 @@ struct PixelRect {
 /// The edges of a control, each rounded to a whole twip, ties to even.
 [[nodiscard]] CaptureRect CaptureRectOf(const TwipRect& rect);
 
-/// The pixels of a rectangle on a screen with so many twips to the pixel, each of the four numbers rounded on its own,
-/// ties to even. The grid's place, 240,180 to 6375,7995, is 16,12 and 409 by 521 pixels at 15 twips to the pixel.
+/// A rectangle in pixels, with this many twips to the pixel, each of the four numbers rounded on its own, ties to even.
+/// The grid's place, 240,180 to 6375,7995, is 16,12 and 409 by 521 pixels at 15 twips to the pixel.
 [[nodiscard]] PixelRect PixelsOf(const CaptureRect& rect, double twipsPerPixelX, double twipsPerPixelY);
 
-/// The title and the filter of the save dialog: what it says, " | ", the file names it lists.
+/// The title and the filter of the save dialog: a caption, " | ", and the file names it lists.
 inline constexpr std::string_view kSaveImageTitle = "Save Expected Value Grid";
 inline constexpr std::string_view kSaveImageFilter = "24-bit Bitmap | *.bmp";
 

@@ -23,9 +23,9 @@ constexpr int kMostRedirects = 10;
 constexpr std::string_view kScheme = "http://";
 
 struct Place {
-  std::string Host;  // letters in lower case
+  std::string Host;  // lower-case
   std::uint16_t Port = 80;
-  std::string Target;  // path and query, beginning with "/"
+  std::string Target;  // path and query, starting with "/"
 };
 
 std::optional<std::uint16_t> PortOf(std::string_view digits) {
@@ -50,7 +50,7 @@ std::optional<Place> PlaceOf(std::string_view address) {
   return Place{AsciiLower(authority.substr(0, colon)), *port, std::move(target)};
 }
 
-// What a location may hold. A line end in it would be a way to write the rest of the next request.
+// The characters allowed in a location. A line end could inject a request header.
 bool IsPlain(std::string_view text) {
   return std::ranges::all_of(text, [](char character) { return character > ' ' && character < '\x7F'; });
 }
@@ -60,8 +60,8 @@ bool HasScheme(std::string_view location) {
   return colon != std::string_view::npos && colon < location.find_first_of("/?");
 }
 
-// Where a location leads: absolute ("http://host/b"), from the root ("/b") or beside `from` ("b", "?x"). Nothing where
-// that is another host or port.
+// The target of a location: absolute ("http://host/b"), from the root ("/b") or relative to `from` ("b", "?x"). Nothing
+// for another host or port.
 std::optional<Place> RedirectedPlace(const Place& from, std::string_view location) {
   location = location.substr(0, location.find('#'));
   if (location.empty() || !IsPlain(location)) return std::nullopt;
@@ -82,7 +82,7 @@ bool Redirects(int status) {
   return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-// The body at the address, or where its redirects lead; empty for any failure.
+// The body at the address, after redirects; empty for any failure.
 std::string Follow(httplib::Client& client, std::optional<Place> place) {
   for (int redirects = 0; place && redirects <= kMostRedirects; ++redirects) {
     std::optional<std::string> location;
@@ -103,7 +103,7 @@ std::string Follow(httplib::Client& client, std::optional<Place> place) {
   return {};
 }
 
-// A system that has run out of memory fails a request like any other.
+// Running out of memory fails the request like any other error.
 std::string ValueOf(std::future<std::string>& body) {
   try {
     return body.get();
@@ -136,7 +136,7 @@ void HttpGet(std::string_view address, milliseconds limit, std::function<void(st
     }
     const bool isInTime = body.wait_until(deadline) == std::future_status::ready;
     answer(isInTime ? ValueOf(body) : std::string());
-    // To stop the client blocks while it looks up the host or connects, and does nothing between two redirects.
+    // A single stop is not enough: it blocks during lookup and connect, and has no effect between two redirects.
     while (!isInTime && body.wait_for(milliseconds(100)) != std::future_status::ready)
       client.stop();
   }).detach();

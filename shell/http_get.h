@@ -1,7 +1,7 @@
 #pragma once
 
-// A plain HTTP GET, on threads of its own. A host may send what it likes: nothing is kept without a limit, and a reply
-// that breaks the rules counts as no reply.
+// A plain HTTP GET, on threads of its own. The host is not trusted: every buffer is limited, and an invalid reply
+// counts as no reply.
 
 #include <chrono>
 #include <cstddef>
@@ -11,18 +11,16 @@
 
 namespace quillon {
 
-/// The longest body that is read, in bytes. What is asked for is a number or a word.
+/// The longest body that is read, in bytes. A reply should be a number or a word.
 inline constexpr std::size_t kLongestHttpBody = std::size_t{1} << 20;
 
-/// Asks for the body at `address`, an "http" address, and returns at once. `answer` is called exactly once, on
-/// another thread, when the body is there or has failed, and with the empty text when `limit` has passed. It must not
-/// throw.
+/// Asks for the body at `address`, an "http" address, and returns at once. `answer` is called exactly once, on another
+/// thread, when the request succeeds or fails, or with the empty text after `limit`. It must not throw.
 ///
-/// The target is sent byte for byte as the address gives it, odd escapes such as "%9" included; what follows a "#" is
-/// not sent. The body of an error page counts like any other. A redirect is followed on the same host and port, ten
-/// times at most; the limit of time is for all of it together. A body longer than kLongestHttpBody is a failure, and so
-/// is one that ends before its announced length or with a connection that is reset. The host is asked directly, by no
-/// proxy, and no cookie is sent. The bytes of the body are taken as Windows-1252, and given as UTF-8.
+/// The target is sent byte for byte, odd escapes such as "%9" included, but without a fragment ("#..."). The body of an
+/// error page counts like any other. Redirects are followed on the same host and port, at most ten times, all within
+/// the one time limit. It is a failure if a body is longer than kLongestHttpBody, or ends early or with a connection
+/// reset. No proxy is used, and no cookie is sent. The body is decoded from Windows-1252 to UTF-8.
 void HttpGet(std::string_view address, std::chrono::milliseconds limit, std::function<void(std::string)> answer);
 
 }  // namespace quillon

@@ -21,7 +21,7 @@ using std::chrono::milliseconds;
 
 constexpr std::array kProxyVariables = {"http_proxy", "HTTP_PROXY", "all_proxy", "ALL_PROXY"};
 constexpr milliseconds kShort{300};
-constexpr milliseconds kSlack{10'000};  // for a machine that has other things to do
+constexpr milliseconds kSlack{10'000};  // for a busy machine
 
 std::string Get(std::string_view address, milliseconds limit) {
   const auto answer = std::make_shared<std::promise<std::string>>();
@@ -30,7 +30,7 @@ std::string Get(std::string_view address, milliseconds limit) {
   return body.get();
 }
 
-// A host whose name leads nowhere can be asked through a proxy only; this machine is never asked through one.
+// A host name that does not resolve can only be reached through a proxy; requests to this machine never use one.
 TEST(HttpGet, AsksNoProxy) {
   const LoopbackHost proxy("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nproxy");
   for (const char* name : kProxyVariables)
@@ -43,17 +43,17 @@ TEST(HttpGet, AsksNoProxy) {
   EXPECT_TRUE(proxy.Requests().empty());
 }
 
-// Drops whatever is sent to it, as one behind a firewall does. A connection to it is neither made nor refused.
+// Drops all packets, like a firewall: a connection to it is neither established nor refused.
 class DeafHost {
  public:
-  // The system drops what would be one connection too many for a host that never takes one.
+  // The backlog is full, so the system drops further connections.
   DeafHost() {
     const bool listens = bind(host_, Address(), sizeof place_) == 0 && listen(host_, 0) == 0;
     socklen_t size = sizeof place_;
     if (!listens || getsockname(host_, Address(), &size) != 0) return;
     for (int& caller : callers_) {
       caller = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
-      static_cast<void>(connect(caller, Address(), sizeof place_));  // stays in progress, which is not a success
+      static_cast<void>(connect(caller, Address(), sizeof place_));  // stays in progress, which is not an error
     }
   }
   ~DeafHost() {

@@ -19,8 +19,8 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kShort{300};
-constexpr milliseconds kSlack{10'000};  // for a machine that has other things to do
-constexpr milliseconds kGenerous{20'000};  // never used up, save by a test that fails
+constexpr milliseconds kSlack{10'000};  // for a busy machine
+constexpr milliseconds kGenerous{20'000};  // only reached by a failing test
 
 std::string Ok(std::string_view body) {
   return "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(body.size()) + "\r\n\r\n" + std::string(body);
@@ -44,7 +44,7 @@ std::string TargetOf(const std::string& request) {
 }
 
 void BreakLater(const LoopbackConnection& connection) {
-  std::this_thread::sleep_for(milliseconds(50));  // until the bytes are there, which a break takes back
+  std::this_thread::sleep_for(milliseconds(50));  // a reset discards bytes that have not been delivered yet
   connection.Break();
 }
 
@@ -52,7 +52,7 @@ class HttpGetTime : public testing::Test {
  protected:
   [[nodiscard]] milliseconds Spent() const { return std::chrono::duration_cast<milliseconds>(Clock::now() - start_); }
 
-  // It lasted as long as the limit and not much longer.
+  // It took as long as the limit and not much longer.
   void ExpectTheLimit() const {
     EXPECT_GE(Spent(), kShort);
     EXPECT_LT(Spent(), kShort + kSlack);
@@ -199,7 +199,7 @@ TEST_F(HttpGetTime, EndsWithABodyThatIsTooLong) {
     EXPECT_EQ(Get(host.Address()), "");
   }
   ExpectNoWait();
-  EXPECT_LT(sent, std::size_t{32} << 20);  // what fits between the two ends of a connection is beyond our say
+  EXPECT_LT(sent, std::size_t{32} << 20);  // the socket buffers between the two ends vary
 }
 
 TEST_F(HttpGetTime, EndsWithAnAnnouncementThatIsTooLong) {

@@ -30,7 +30,7 @@ std::optional<std::string_view> SectionName(std::string_view line) {
 
 struct KeyLine {
   std::string_view key;
-  std::string_view value;  // a part of the line, also where it is empty
+  std::string_view value;  // a part of the line, even if empty
 };
 
 std::optional<KeyLine> ReadKeyLine(std::string_view line) {
@@ -41,7 +41,7 @@ std::optional<KeyLine> ReadKeyLine(std::string_view line) {
 
 struct KeyPlace {
   bool sectionFound = false;
-  std::size_t newLine = 0;  // where a line for the key would go in, if the section was found
+  std::size_t newLine = 0;  // where to insert the key, if the section was found
   std::optional<std::string_view> value;  // a part of the text
 };
 
@@ -49,7 +49,7 @@ std::size_t StartOfLines(std::string_view text) {
   return text.starts_with(kUtf8Mark) ? kUtf8Mark.size() : 0;
 }
 
-// The line end at a place where one begins, CR LF as one; the empty text at the end of the text.
+// The line end at this position, CR LF as one; the empty text at the end.
 std::string_view LineEndAt(std::string_view text, std::size_t place) {
   return text.substr(place, text.substr(place).starts_with("\r\n") ? 2 : 1);
 }
@@ -68,7 +68,7 @@ KeyPlace FindKey(std::string_view text, std::string_view section, std::string_vi
       place.sectionFound = EqualButForCase(*name, section);
       place.newLine = next;
     } else if (const auto keyLine = ReadKeyLine(line); keyLine && place.sectionFound) {
-      // A comment above the next heading belongs to that heading, so new keys go in after the last key.
+      // A comment above the next heading belongs to it, so new keys go after the last key.
       place.newLine = next;
       if (EqualButForCase(keyLine->key, key)) {
         place.value = keyLine->value;

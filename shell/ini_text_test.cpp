@@ -162,7 +162,7 @@ TEST(WithIniValue, AValueEndsAtItsFirstLineEnd) {
 
 using Key = std::pair<std::string, std::string>;  // section, key
 
-// What the program keeps, read from a text.
+// The program's settings, read from a text.
 std::map<Key, std::string> AllValues(const std::string& text) {
   std::map<Key, std::string> values;
   for (const char* section : {"A", "B", "Values"}) {

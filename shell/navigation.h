@@ -1,11 +1,11 @@
 #pragma once
 
-// The side panel and the screens. The panel is on the left of the main window with its links `lblNav`; to the right of
-// it shows one screen at a time, one of the frames `frameContent`. A link and its screen have the same caption, and
-// that is all that joins them. All lengths are twips.
+// The side panel and the screens. The panel, on the left of the main window, has the links `lblNav`; to its right one
+// screen shows at a time, one of the frames `frameContent`. A link opens the screen with the same caption. All lengths
+// are twips.
 //
-// The window system says when the mouse is over something, never that it has left. So a link that was hovered over
-// keeps its looks until the mouse passes over the panel's background, whatever it passes over before.
+// The window system reports when the mouse is over something, but not when it leaves. So a hovered link keeps its looks
+// until the mouse moves over the panel's background.
 
 #include <cstdint>
 #include <string_view>
@@ -16,16 +16,16 @@
 
 namespace quillon {
 
-/// The screen that has no link: it shows at the start and on a click on the logo.
+/// The screen without a link: it shows at start and on a click on the logo.
 inline constexpr std::string_view kAboutScreen = "About";
 
 /// The height of every screen.
 inline constexpr float kScreenHeight = 8645;
 
-/// In place of a link's index where none is selected.
+/// The index when no link is selected.
 inline constexpr std::int16_t kNoNav = -1;
 
-/// The colour of the headings on the panel, and of the links that lead to results.
+/// The colour of the panel's headings, and of the links to results.
 inline constexpr Rgb kPaleYellow = {0xFF, 0xFF, 0xC0};
 
 /// How a link `lblNav` looks.
@@ -36,24 +36,23 @@ struct LinkLook {
   bool operator==(const LinkLook&) const = default;
 };
 
-/// The look of `lblNav(index)` when nothing hovers. The selected link is underlined; those that lead to results have
-/// their own colours, dark gray and pale yellow.
+/// The look of `lblNav(index)` when not hovered. The selected link is underlined; links to results have their own
+/// colours, dark gray and pale yellow.
 [[nodiscard]] LinkLook RestingLink(std::int16_t index, bool selected);
 
-/// The look of a link with the mouse over it, from the look before. The selected link turns black, without an underline
-/// where a click on the logo has taken it off. Any other that is not underlined yet turns pale green and is.
+/// The look of a link under the mouse, from its look before. The selected link turns black, without an underline if a
+/// click on the logo has removed it. Any other link without an underline turns pale green and is underlined.
 [[nodiscard]] LinkLook HoveredLink(LinkLook before, bool selected);
 
-/// The look of every link that shows and is not the selected one once the mouse is over the panel's background.
-/// Intentional: the results links turn white, too, which are pale yellow before, so that a player sees which he has
-/// been to.
+/// The look of every visible link except the selected one once the mouse is over the panel's background. Intentional:
+/// the results links turn from pale yellow to white too, so that a player sees which he has visited.
 inline constexpr LinkLook kLinkLeft = {.Color = {0xFF, 0xFF, 0xFF}};
 
-/// Where a screen shows: beside the panel's background, up to the window's right edge, as high as all screens are,
+/// The place of a screen: from the panel's background to the window's right edge, at the height of all screens,
 /// whatever the window's height.
 [[nodiscard]] TwipRect ScreenPlace(const TwipRect& panel, float windowWidth);
 
-/// Where the selection bar is: behind a link whose top is given, and a little into the screen beside it.
+/// The place of the selection bar: behind a link with this top, and slightly into the screen.
 [[nodiscard]] TwipRect SelectionBarPlace(float linkTop, float screenLeft);
 
 }  // namespace quillon

@@ -23,7 +23,7 @@ bool IsInstalled(const fs::path& executableFolder) {
   return fs::exists(executableFolder / kPackageMarker, unknown);
 }
 
-// Where programs keep a user's data.
+// The base folder for user data.
 fs::path DataHome(const EnvironmentVariable& variable) {
   fs::path dataHome = PathOf(variable("XDG_DATA_HOME"));
   if (dataHome.is_absolute()) return dataHome;
@@ -33,7 +33,7 @@ fs::path DataHome(const EnvironmentVariable& variable) {
                      "HOME and XDG_DATA_HOME are not set, and one of them has to say where ranges are kept");
 }
 
-// With those on the way to it. One that is there need not be one that may be listed.
+// Creates the folder with its parents. An existing one need not be listable.
 void MakeFolders(const fs::path& path, FileCalls& calls) {
   const auto make = [&] { return calls.MakeFolder(path.string()); };
   int made = Uninterrupted(make);
@@ -60,11 +60,11 @@ void CopyExamples(const fs::path& from, const fs::path& to, FileCalls& calls) {
     FailOnFile(error.default_error_condition().value(), from, "; it is part of the package, so install Quillon again");
 }
 
-// A folder that is to get its name when it is complete, and is gone if it never does.
+// A folder that gets its final name once complete, and is deleted otherwise.
 class Draft {
  public:
   Draft(fs::path path, FileCalls& calls) : path_(std::move(path)) {
-    Remove();  // what a killed start has left
+    Remove();  // left over from a start that was killed
     MakeFolder(path_, calls);
   }
   Draft(const Draft&) = delete;
@@ -85,7 +85,7 @@ class Draft {
 void MakeProgramFolder(const fs::path& path, const fs::path& examples, FileCalls& calls) {
   MakeFolders(path.parent_path(), calls);
   const FolderLock lock(path.parent_path(), calls);
-  if (FolderExists(path, calls)) return;  // by another start of the program meanwhile
+  if (FolderExists(path, calls)) return;  // another copy of the program was faster
   const fs::path draftPath = path.parent_path() / ".Quillon.new";
   const Draft draft(draftPath, calls);
   CopyExamples(examples, draftPath / kRanges, calls);

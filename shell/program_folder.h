@@ -1,11 +1,12 @@
 #pragma once
 
-// Where a copy of the program keeps what is the user's, and where it finds what came with it. A portable copy has all
-// of it in the folder of its executable, so that a copied folder takes everything along. A package puts a marker beside
-// its executables, the file "installed", and only that marker makes the program's folder one in the user's home: who
-// may write where does not matter, so nothing of root's ends up among the system's files.
+// Where a copy of the program keeps the user's files, and where it finds what came with it. A portable copy keeps
+// everything in the folder of its executable, so copying that folder takes everything along. A package puts a marker
+// next to its executables, the file "installed", and only this marker moves the program's folder to the user's home.
+// Write permissions play no part, so that root's files never end up among the system's.
 //
-// The marker names, from the folder it is in, the folder of what the package brings: the example "Ranges" and "Guide".
+// The marker contains the path, relative to its own folder, of the package's shared files: the example "Ranges" and
+// "Guide".
 
 #include <filesystem>
 #include <string_view>
@@ -17,15 +18,15 @@ namespace quillon {
 
 inline constexpr std::string_view kPackageMarker = "installed";
 
-/// The folder of what came with the program: that of the executable, or the one that the marker in it names.
+/// The folder of the files that came with the program: that of the executable, or the one that the marker in it names.
 [[nodiscard]] std::filesystem::path SharedFolderPath(const std::filesystem::path& executableFolder);
 
 /// The program's folder: that of the executable, or with the marker "$XDG_DATA_HOME/Quillon", by default
-/// "~/.local/share/Quillon". The latter is made if it is missing, with the example ranges in it, as a whole or not at
-/// all; what is there already stays as it is. A relative XDG_DATA_HOME is ignored, as freedesktop.org's rules for base
-/// directories demand.
+/// "~/.local/share/Quillon". The latter is created if missing, with the example ranges in it, as a whole or not at all;
+/// an existing one is unchanged. A relative XDG_DATA_HOME is ignored, following freedesktop.org's XDG base directory
+/// rules.
 ///
-/// RunTimeError, with the path and the reason, if it cannot be made, and where the environment names no folder.
+/// RunTimeError, with the path and the reason, if it cannot be created, or if the environment has no folder for it.
 [[nodiscard]] std::filesystem::path ProgramFolderPath(const std::filesystem::path& executableFolder,
                                                       const EnvironmentVariable& variable,
                                                       FileCalls& calls = SystemFileCalls());

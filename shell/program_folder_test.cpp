@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 
-// A machine with the program unpacked or installed on it, and the home of one of its users.
+// A machine with the program unpacked or installed, and a user's home.
 class Machine {
  public:
   Machine() {

@@ -1,7 +1,7 @@
 #pragma once
 
-// What is said when a player saves the results as a web page ("results/analysis_page.h") from the window. The page is a
-// file under the very name that the user gives, in the folder of the pictures unless he chooses another.
+// The messages for saving the results as a web page ("results/analysis_page.h") from the window. The page is a file
+// under exactly the name that the user gives, by default in the folder of the pictures.
 
 #include <filesystem>
 #include <string_view>
@@ -17,7 +17,7 @@ inline constexpr std::string_view kSavePageFilter = "Web page | *.html";
 /// After a save: whether to open the page, Yes or No.
 [[nodiscard]] Message OpenPageQuestion();
 
-/// What the user is told where nothing opens it.
+/// The message if nothing opens it.
 [[nodiscard]] Message PageNotOpenedMessage(const std::filesystem::path& page);
 
 }  // namespace quillon

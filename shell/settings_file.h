@@ -1,10 +1,10 @@
 #pragma once
 
-// The file "settings.ini" in the program's folder, all that survives a restart besides the ranges: where the windows
-// were, what the amount boxes held, and whether to look for upgrades. "shell/ini_text.h" has its form; on disk it is
-// in the code page of "support/windows_1252.h". It is the user's file, who may edit it while the program runs: it is
-// read anew for each value, and the lines that are not ours stay as they are. A file that an editor has saved in UTF-16
-// is left alone, neither read nor written.
+// The file "settings.ini" in the program's folder, which holds everything that survives a restart besides the ranges:
+// window places, the contents of the amount boxes, and whether to look for upgrades. "shell/ini_text.h" describes its
+// form; on disk it is in the code page of "support/windows_1252.h". The user may edit it while the program runs: it is
+// read again for each value, and foreign lines are kept. A file that an editor has saved as UTF-16 is neither read nor
+// written.
 
 #include <cstddef>
 #include <filesystem>
@@ -16,14 +16,14 @@
 
 namespace quillon {
 
-/// So much of a value is read, and what lies beyond is lost.
+/// Longer values are cut when read.
 inline constexpr std::size_t kLongestSetting = 2999;
 
 /// "settings.ini" in the program's folder.
 [[nodiscard]] std::filesystem::path SettingsFilePath(const ProgramFolder& folder);
 
-/// The value of a key, cut after kLongestSetting characters. It is the empty text where the key is empty, the key, the
-/// section or the file is missing, or the file cannot be read or is in UTF-16.
+/// The value of a key, cut after kLongestSetting characters. The empty text if the key is empty, the key, section or
+/// file is missing, or the file is UTF-16 or cannot be read.
 [[nodiscard]] std::string ReadIniValue(std::string_view section, std::string_view key, const ProgramFolder& folder);
 
 /// A value and where it is stored.
@@ -33,17 +33,17 @@ struct IniSetting {
   std::string Value;
 };
 
-/// Stores values in order, with their sections and the file made where they are missing. ReadIniValue returns each
-/// exactly, up to what the code page lacks (which becomes "?") and to its length. The file is replaced as
-/// a whole ("support/files.h"), once for all values, and not touched where they are there already.
+/// Stores values in order, creating sections and the file as needed. ReadIniValue then returns each exactly, except for
+/// its length and characters that the code page lacks, which become "?". The file is replaced as a whole
+/// ("support/files.h"), once for all values, and not touched if it has them already.
 ///
 /// Copies of the program in one folder may store at once ("support/folder_lock.h"): no value of either is lost.
 ///
-/// It never fails: a file that cannot be written keeps the values it has, and so does one that cannot be read, since
-/// nobody knows then what would be lost, and one in UTF-16.
+/// Never fails: if the file cannot be written, is UTF-16, or cannot be read, in which case nobody knows what a write
+/// would lose, it keeps its values.
 void WriteIniValues(std::span<const IniSetting> settings, const ProgramFolder& folder);
 
-/// Stores one value in this way.
+/// Stores one value likewise.
 void WriteIniValue(std::string_view section, std::string_view key, std::string_view value, const ProgramFolder& folder);
 
 }  // namespace quillon

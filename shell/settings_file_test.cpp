@@ -49,7 +49,7 @@ TEST(SettingsFile, IsReadUpTo2999Characters) {
 TEST(SettingsFile, ThatCannotBeReadIsNotOverwritten) {
   const TemporaryProgram program;
   Put(SettingsFilePath(program.Folder()), "[Main]\r\nLeft=5\r\n");
-  for (const int call : {2, 3}) {  // after the lock of its folder: opening the file, reading it
+  for (const int call : {2, 3}) {  // after locking its folder: opening the file, reading it
     FailingCalls calls(call);
     WriteIniValue("Main", "Left", "7", {program.Folder().Path, &calls});
     EXPECT_TRUE(calls.HasFailed());

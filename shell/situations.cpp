@@ -33,7 +33,7 @@ Message ReplaceQuestion(std::string_view name) {
           MessageIcon::kQuestion, MessageButtons::kYesNo};
 }
 
-// A range that no list has is not chosen, and a remark says so.
+// A range that does not exist is not chosen, and a remark says so.
 void DropUnknownRanges(ReadSituation& read, const ProgramFolder& folder) {
   const std::vector<std::string> known = FillRangeList(folder, ListStart::kBlankEntry, {}).Entries;
   EnteredSituation& entered = read.Situation.Entered;
@@ -118,7 +118,7 @@ std::optional<OpenedSituation> OpenSituation(std::string_view name, const Progra
 
 bool AskAndDeleteSituation(std::string_view name, const ProgramFolder& folder, MessageBoxes& messages) {
   if (messages.Show(DeleteRangeQuestion(name)) != MessageAnswer::kYes) return false;
-  // Somebody else may have deleted it meanwhile.
+  // Another program may have deleted it meanwhile.
   if (const std::filesystem::path file = SituationFilePath(folder, name); IsThere(file))
     DeleteFile(file, *folder.Calls);
   return true;

@@ -140,7 +140,7 @@ TEST_F(Situations, ComeBackAsTheyWereSaved) {
   const auto opened = Open("Käse");
   ASSERT_TRUE(opened);
   ScreenSituation expected = kShove;
-  expected.Entered.Call = "0.5";  // a sum is worked out, as when its box is left
+  expected.Entered.Call = "0.5";  // evaluated, as when leaving its box
   EXPECT_EQ(TextOfSituation(opened->Situation).Line, TextOfSituation(expected).Line);
   EXPECT_EQ(opened->Remarks, std::nullopt);
   Put("New.json", R"({"mode":"call","pot":"","call":"","range":""})");

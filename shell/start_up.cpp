@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-// The section in which the amount boxes are kept, under their indexes.
+// The section of the amount boxes, whose keys are their indexes.
 constexpr std::string_view kValuesSection = "Values";
 
 }  // namespace
@@ -25,7 +25,7 @@ void PrepareFolders(const ProgramFolder& folder) {
   MakeFolderIfMissing(RangeFolderPath(folder), *folder.Calls);
   MakeFolderIfMissing(SavedGridsFolderPath(folder), *folder.Calls);
   RemoveStaleScratchFiles(folder.Path, *folder.Calls);
-  // Beside what was saved there are scratch files only where the program's own folder cannot hold them.
+  // Scratch files are next to what was saved only if the program's own folder refuses them.
   RemoveStaleScratchFiles(RangeFolderPath(folder), *folder.Calls);
   RemoveStaleScratchFiles(SituationFolderPath(folder), *folder.Calls);
 }

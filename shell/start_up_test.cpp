@@ -21,7 +21,7 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-// A program's folder with nothing in it.
+// An empty program folder.
 class EmptyProgram : public TemporaryProgram {
  public:
   EmptyProgram() { std::filesystem::remove_all(RangeFolderPath(Folder())); }

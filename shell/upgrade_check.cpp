@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kSection = "Upgrade";
 constexpr std::string_view kKey = "Auto";
 
-// The one caption that the link has before it is set; the others are set below.
+// The caption that the link has before it is first set; the others are set below.
 constexpr std::string_view kFirstLinkCaption = "Download Upgrade";
 constexpr std::string_view kDownloadCaption = "Download latest version of Quillon";
 constexpr std::string_view kLatestCaption = "You have the latest version of Quillon";
@@ -37,7 +37,7 @@ void StoreUpgradeBox(CheckBoxState state, const ProgramFolder& folder) {
 UpgradeLook UpgradeLookOf(std::string_view reply) {
   if (reply.empty()) return {.CurrentVersion = "Error Connecting", .Link = {}};
   const std::string latest = NumberText(LeadingNumber(reply));
-  // The user must be able to follow the outcome, so the captions are what is compared, digit for digit.
+  // Compared as displayed, so that the user can follow the outcome.
   const bool upToDate = LeadingNumber(kVersionText) >= LeadingNumber(latest);
   return {.CurrentVersion = latest, .Link = upToDate ? kLatestCaption : kDownloadCaption};
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-// The upgrade check of the About screen: whether the product's web host announces a version above this one's. It is off
-// until the user checks `chkUpgrade`, and is made when the program starts and whenever that box changes. The setting is
-// the key "Auto" in the section "Upgrade" of the settings file, "1" for on and "0" or nothing for off.
+// The upgrade check of the About screen: whether the product's web host announces a newer version. It is off until the
+// user checks `chkUpgrade`, and runs when the program starts and whenever that box changes. The setting is the key
+// "Auto" in the section "Upgrade" of the settings file, "1" for on and "0" or nothing for off.
 //
-// A version is a decimal number, not a row of numbers: 0.10 is 0.1 and older than 0.9.
+// A version is a decimal number: 0.10 is 0.1 and older than 0.9.
 //
 //     state                 lblCurrentVersion       lblLink(3)
 //     off                   "N/A"                   hidden
@@ -29,37 +29,37 @@ enum class CheckBoxState : std::int16_t { kUnchecked = 0, kChecked = 1, kGrayed 
 inline constexpr std::string_view kUpgradeOffCaption = "N/A";
 inline constexpr std::string_view kUpgradeAskedCaption = "Checking website...";
 
-/// The outcome of a request, as the About screen shows it.
+/// The outcome of a request, for the About screen.
 struct UpgradeLook {
   std::string CurrentVersion;  // lblCurrentVersion
-  std::string_view Link;  // lblLink(3); the link is hidden where this is empty
+  std::string_view Link;  // lblLink(3); empty hides the link
 
   bool operator==(const UpgradeLook&) const = default;
 };
 
-/// The state of `chkUpgrade` by the setting, whose leading number is rounded to a whole one. Where that is neither 0, 1
-/// nor 2, which is the greyed box and asks for nothing, the box cannot show it: RunTimeError "Invalid property value".
+/// The state of `chkUpgrade` from the setting, whose leading number is rounded to an integer. Other than 0, 1 and 2
+/// (the greyed box, which does not check), the box cannot show it: RunTimeError "Invalid property value".
 [[nodiscard]] CheckBoxState StoredUpgradeBox(const ProgramFolder& folder);
 
-/// Stores the state as a digit. It never fails ("shell/settings_file.h").
+/// Stores the state as a digit. Never fails ("shell/settings_file.h").
 void StoreUpgradeBox(CheckBoxState state, const ProgramFolder& folder);
 
-/// What a reply of the web host says. The empty text is a request that failed, and one without a number counts as
+/// The outcome for a reply of the web host. The empty text is a failed request, and a reply without a number counts as
 /// version 0.
 [[nodiscard]] UpgradeLook UpgradeLookOf(std::string_view reply);
 
-/// What a click on a link does: a message to show, or an address to open in the browser. The empty one opens nothing.
+/// The effect of a click on a link: a message, or an address for the browser. The empty address opens nothing.
 struct LinkTarget {
   std::optional<Message> Told;
   std::string Address;
 };
 
-/// The target of `lblLink`, by the link's caption, compared exactly: "Download Upgrade" and "Download latest version of
-/// Quillon" open the download page, "You have the latest version of Quillon" shows a message, and any other opens the
-/// empty address. The tutorials' link on the grid screen is another such; it leads nowhere yet.
+/// The target of `lblLink`, by the link's exact caption: "Download Upgrade" and "Download latest version of
+/// Quillon" open the download page, "You have the latest version of Quillon" shows a message, and any other, such as
+/// the tutorials' link on the grid screen, opens the empty address.
 [[nodiscard]] LinkTarget TargetOfLink(std::string_view caption);
 
-/// What the user is told where no browser opens an address.
+/// The message if no browser opens an address.
 [[nodiscard]] Message NoBrowserMessage(std::string_view address);
 
 }  // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-// The user guide, which comes with the program and which F1 opens in the browser.
+// The user guide, which comes with the program; F1 opens it in the browser.
 
 #include <filesystem>
 
@@ -8,10 +8,10 @@
 
 namespace quillon {
 
-/// Where it is: "Guide/user-guide.html" in the folder of what came with the program, with its pictures.
+/// Its path: "Guide/user-guide.html" in the folder of shared files, with its pictures.
 [[nodiscard]] std::filesystem::path UserGuidePath(const std::filesystem::path& sharedFolder);
 
-/// What the user is told where nothing opens it.
+/// The message if nothing opens it.
 [[nodiscard]] Message NoUserGuideMessage(const std::filesystem::path& guide);
 
 }  // namespace quillon

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kSection = "View";
 constexpr std::string_view kKey = "Zoom";
 
-// What a window manager puts round a window. It cannot be asked before the window shows; most title bars are lower.
+// The window manager's decoration, which is unknown before the window is shown; most title bars are lower.
 constexpr float kTitleBar = 40 * kTwipsPerPixel;
 constexpr float kSideBorders = 4 * kTwipsPerPixel;
 

@@ -1,8 +1,7 @@
 #pragma once
 
 // The zoom of the program's windows: how large the design is drawn, in percent of its size in the desktop's logical
-// pixels. There are fixed steps. The one that the user has chosen is kept in the settings; as long as none is, the main
-// window fits the screen that it comes up on.
+// pixels, in fixed steps. The user's choice is kept in the settings; without one, the main window fits its screen.
 
 #include <array>
 #include <optional>
@@ -15,16 +14,16 @@ namespace quillon {
 inline constexpr std::array kZoomSteps = {75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 inline constexpr int kDesignZoom = 100;
 
-/// The next larger step, the next smaller one; the last and the first have none and are returned themselves.
+/// The next larger step, and the next smaller one; the argument itself at either end.
 [[nodiscard]] int LargerZoom(int percent);
 [[nodiscard]] int SmallerZoom(int percent);
 
-/// 100, or the largest smaller step at which a window of that size and what a window manager puts round it fit on the
-/// screen, or the smallest where they fit at none. An exact fit counts as inside. `screen` is what panels leave of it,
-/// in twips of the desktop's logical pixels.
+/// 100, or the largest smaller step at which a window of that size with its decoration fits on the screen, or else the
+/// smallest. An exact fit counts as inside. `screen` is the area without panels, in twips of the desktop's logical
+/// pixels.
 [[nodiscard]] int FittingZoom(TwipSize window, TwipSize screen);
 
-/// What was kept; nothing where there is no such setting or it is none of the steps.
+/// The stored zoom; nothing if it is missing or not one of the steps.
 [[nodiscard]] std::optional<int> StoredZoom(const ProgramFolder& folder);
 void StoreZoom(int percent, const ProgramFolder& folder);
 

@@ -114,7 +114,7 @@ const Message kSent = {.title = "Quillon", .text = "Your message has been sent."
 const Message kNotSent = {
     .title = "Error", .text = "There was a problem sending your message.", .icon = MessageIcon::kStop};
 
-// "nobody@q.test", each character as its code.
+// "nobody@q.test", encoded.
 constexpr std::string_view kAnonymousCode = "%6E%6F%62%6F%64%79%40%71%2E%74%65%73%74";
 
 class FeedbackInWindow : public MainFormTest {
@@ -152,7 +152,7 @@ TEST(SystemMilliseconds, AreThoseThatPass) {
   EXPECT_LT(SystemMilliseconds() - start, 10'000);
 }
 
-// Pasted characters keep their codes, and lines of any kind end with CR LF.
+// Pasted characters keep their codes, and all line ends become CR LF.
 TEST_F(FeedbackInWindow, ANoteGoesOutCharacterByCharacter) {
   for (const auto& [note, encoded] :
        std::vector<std::pair<const char*, std::string>>{{"a\r\n¡b\n", "%61%0D%0A%A1%62%0D%0A"},

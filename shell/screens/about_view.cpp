@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::int16_t kUpgradeLink = 3;
 
-// The hourglass as mouse pointer over the whole program, or the default pointer again, whoever has asked for it.
+// Shows or removes the hourglass pointer over the whole program, whoever set it.
 void ShowHourglass(bool shown) {
   if (shown) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -99,7 +99,7 @@ void AboutView::SendFeedback() {
   around_.Messages.Show(FeedbackOutcome(sent));
 }
 
-// At once on the screen: a request may block what follows.
+// Repainted at once: a request may block what follows.
 void AboutView::ShowCurrentVersion(std::string_view caption) {
   Label& label = controls_.LabelAt("lblCurrentVersion");
   label.SetText(ToQt(caption));
@@ -107,14 +107,14 @@ void AboutView::ShowCurrentVersion(std::string_view caption) {
 }
 
 std::string AboutView::FeedbackText() const {
-  // What Qt calls the plain text has a blank where the box has a no-break space.
+  // toPlainText would turn no-break spaces into spaces.
   QString text = controls_.Get<QPlainTextEdit>("txtFeedback").document()->toRawText();
   for (const QChar lineEnd : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
     text.replace(lineEnd, QLatin1Char('\n'));
   return LinesFromQt(text);
 }
 
-// At full speed, and at least once: all that is pending is handled meanwhile, also the start of another wait.
+// Polls at full speed, at least once, and processes all pending events meanwhile, which may start another wait.
 void AboutView::WaitToSend() const {
   const std::int32_t start = around_.Clock();
   do {

@@ -1,7 +1,7 @@
 #pragma once
 
-// The About screen: this version and the newest one ("shell/upgrade_check.h"), the links of the program, and the
-// feedback box ("shell/feedback.h").
+// The About screen: this version and the newest one ("shell/upgrade_check.h"), the program's links, and the feedback
+// box ("shell/feedback.h").
 
 #include <cstdint>
 #include <functional>
@@ -16,44 +16,44 @@
 
 namespace quillon {
 
-/// Milliseconds since some moment, by the system's clock.
+/// The milliseconds of the system's clock, from an arbitrary start.
 [[nodiscard]] std::int32_t SystemMilliseconds();
 
 class AboutView {
  public:
-  /// What the screen finds round it. All of it outlives the screen.
+  /// What the screen uses from outside. All of it outlives the screen.
   struct Surroundings {
     ProgramFolder Folder;
     MessageBoxes& Messages;
     InputBoxes& Inputs;
     WebClient& Web;
-    std::function<std::int32_t()> Clock;  // the milliseconds that a wait is measured by
+    std::function<std::int32_t()> Clock;  // the millisecond counter for waits
   };
 
   AboutView(const MainControls& controls, Surroundings surroundings);
 
-  /// Shows this version, brings `chkUpgrade` to the state of the setting, and, if that is on, asks the web host for the
-  /// newest version and shows the outcome. Blocks for as long as the request takes.
+  /// Shows this version, sets `chkUpgrade` to the stored state and, if that is on, asks the web host for the newest
+  /// version and shows the outcome. Blocks during the request.
   ///
-  /// Intentional: where the box was in another state, as at a start with the setting on, that is a click, so the same
-  /// runs inside and a second request follows the first. The second result stays.
+  /// Intentional: if the box had another state, as at a start with the setting on, setting it is a click, so the same
+  /// check runs inside and a second request follows the first. The second result stays.
   ///
-  /// RunTimeError as told at StoredUpgradeBox.
+  /// RunTimeError as of StoredUpgradeBox.
   void CheckForUpgrade();
 
-  /// The click on `chkUpgrade`: stores its state at once and checks. A setting that cannot be written therefore brings
-  /// the box back to its old state.
+  /// The click on `chkUpgrade`: stores its state at once and checks. If the setting cannot be written, the box returns
+  /// to its old state.
   void ClickUpgrade();
 
-  /// The click on a link, which goes by its caption.
+  /// The click on a link, whose caption decides its target.
   void ClickLink(const Label& link);
 
-  /// The click on `cmdSendFeedback`. A note too long or too short is refused with a message. Then the user is asked for
-  /// an address. Five seconds later, under the hourglass, the note is sent as it reads by then, whatever its length. A
-  /// reply that tells so empties the box; any other leaves the text for a second attempt. Either is told in a message.
+  /// The click on `cmdSendFeedback`. A note too long or too short is refused with a message. Otherwise the user is
+  /// asked for an address. Five seconds later, under the hourglass, the note is sent as it then reads, whatever its
+  /// length. A reply of success clears the box; any other keeps the text for another attempt. A message reports either.
   ///
-  /// A second click during the five seconds runs to its end inside the first, which then goes on: both send.
-  /// RunTimeError as told at IsTimeToSend.
+  /// A second click during the five seconds runs to its end inside the first, which then continues: both send.
+  /// RunTimeError as of IsTimeToSend.
   void SendFeedback();
 
  private:

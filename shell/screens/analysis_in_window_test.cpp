@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kNothingYet = "There are no results to display at this time.";
 
-// The right edge of the bar after so many classes.
+// The right edge of the bar after this many classes.
 int BarWidthAfter(int classes) {
   return PixelPlace({1980, 3180, static_cast<float>(classes / 169.0 * 7815), 495}).width();
 }
@@ -28,7 +28,7 @@ class PaintCount : public QObject {
 
 class AnalysisInWindow : public MainFormTest {
  protected:
-  /// The results that the engine alone comes to.
+  /// The results of the engine alone.
   std::string EngineTable(std::int16_t button, const EnteredSituation& situation) {
     return Analyze(SituationOf(ScreenOfButton(button).Mode, situation, Program.Folder()))->HandInfo;
   }
@@ -36,7 +36,7 @@ class AnalysisInWindow : public MainFormTest {
   QWidget& Bar() { return Get("picProgBar"); }
 };
 
-// The fields of the state have tests without a window.
+// The state's fields are tested without a window.
 TEST_F(AnalysisInWindow, EachComesToTheEnginesResults) {
   EXPECT_EQ(Get("frameContent", kGridScreen).childAt(Get("imgGridBack").geometry().center()), &Get("imgGridBack"))
       << "it covers the grid until the first run";

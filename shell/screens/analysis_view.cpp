@@ -30,7 +30,7 @@ void AnalysisView::ShowFrame(std::string_view name) {
 
 void AnalysisView::ClickNav(std::int16_t index) {
   parts_.ClickNav(index);
-  // The end of a run leads here.
+  // The focus moves here after a run.
   Label& results = parts_.Controls.LabelAt("lblResults");
   Announce(results, results.Text());
   if (const Analysis* const finished = std::exchange(finished_, nullptr)) parts_.Finished(*finished);

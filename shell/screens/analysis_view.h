@@ -34,7 +34,7 @@ class AnalysisView : public AnalysisWindow {
 
   explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
 
-  /// Stops a run, if there is one. The screen that comes up then answers the act of this moment, not the one that
+  /// Stops a run, if there is one. The next screen then takes the focus for the key that stops, not for the one that
   /// started the run.
   void Stop(AnalysisState& state);
 
@@ -58,8 +58,8 @@ class AnalysisView : public AnalysisWindow {
  private:
   Parts parts_;
   UserAct stop_;
-  bool isStopping_ = false;  // until the stop has been answered
-  const Analysis* finished_ = nullptr;  // until its results show
+  bool isStopping_ = false;  // until the stop has been handled
+  const Analysis* finished_ = nullptr;  // until its results are shown
 };
 
 }  // namespace quillon

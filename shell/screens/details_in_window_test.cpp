@@ -39,7 +39,7 @@ class DetailsInWindow : public MainFormTest {
   void PickForum() { Pick("cmboOutputType", "2+2"); }
   void PickPlain() { Pick("cmboOutputType", "Plain Text"); }
 
-  /// Picks a hand with one step of the list, so that no hand between is picked on the way.
+  /// Picks a hand in one step, without passing the hands in between.
   void PickHand(std::string_view hand) {
     auto& box = Get<QComboBox>("cmbo169");
     const int wanted = box.findText(ToQt(hand));
@@ -47,7 +47,7 @@ class DetailsInWindow : public MainFormTest {
     QTest::keyClick(&box, Qt::Key_Down);
   }
 
-  /// Where on the line the text after each tab starts.
+  /// The position on the line of the text after each tab.
   std::vector<int> EdgesBehindTabs(const QTextBlock& line) {
     const QString text = line.text();
     std::vector<int> edges;

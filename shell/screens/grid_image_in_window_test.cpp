@@ -26,11 +26,11 @@ class GridImageInWindow : public MainFormTest {
  protected:
   void SetUp() override {
     MainFormTest::SetUp();
-    Form.move(0, 0);  // the whole region is on the screen
+    Form.move(0, 0);  // so that the whole region is on the screen
     RunEquity("Tight");
   }
 
-  /// Saves under a name, and the picture is not opened.
+  /// Saves under a name and declines to open the picture.
   void SaveAs(const std::string& typed) {
     ExpectFileName(typed);
     ExpectSaving();
@@ -43,7 +43,7 @@ class GridImageInWindow : public MainFormTest {
   }
 
   [[nodiscard]] static std::filesystem::path Home() { return FromQt(QDir::homePath()); }
-  /// All but those of the program.
+  /// All files except the program's.
   [[nodiscard]] std::set<std::filesystem::path> FilesAtHome() const {
     std::set<std::filesystem::path> files;
     for (auto entry = std::filesystem::recursive_directory_iterator(Home()); entry != end(entry); ++entry) {
@@ -120,7 +120,7 @@ TEST_F(GridImageInWindow, ACancelAfterASaveSavesNothing) {
   EXPECT_EQ(BytesOf(SavedGrids() / "grid.bmp"), "gone");
 }
 
-// Typed and saved by the keyboard or the button, as a user does; each name is that of one file.
+// Typed and saved by keyboard or button, as a user would. Each text names a single file.
 TEST_F(GridImageInWindow, ANameIsTakenAsTyped) {
   bool byKey = false;
   for (const std::string typed :
@@ -177,7 +177,7 @@ TEST_F(GridImageInWindow, AFolderIsEnteredAndATildeIsTheHome) {
 TEST_F(GridImageInWindow, TheWheelOverTheListOfFoldersLeavesTheFolder) {
   ExpectDialog([this](QDialog& dialog) {
     for (QComboBox* list : dialog.findChildren<QComboBox*>()) {
-      list->showPopup();  // has no folder but the present one before that
+      list->showPopup();  // it only lists the current folder until then
       list->hidePopup();
       NameLineOf(dialog).setFocus();
       const QPointF spot = QRectF(list->rect()).center();

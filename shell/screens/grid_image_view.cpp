@@ -24,10 +24,10 @@
 namespace quillon {
 namespace {
 
-// How long a window that has closed may still be seen.
+// How long a closed window may remain visible.
 constexpr int kSettleMilliseconds = 250;
 
-// The save dialog has just closed; what lay under it is drawn again before the screen is copied.
+// The save dialog has just closed; the window under it must be repainted before the screen is copied.
 void WaitForTheScreen() {
   QEventLoop loop;
   QTimer timer;
@@ -37,7 +37,7 @@ void WaitForTheScreen() {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-// In the image program of the desktop.
+// In the desktop's image program.
 void OpenImage(const std::filesystem::path& fileName) {
   if (QDesktopServices::openUrl(AddressOfFile(fileName))) return;
   throw RunTimeError(RunTimeFault::kFileNotFound, "no program opens " + TextOfFileName(fileName.string()));
@@ -77,16 +77,16 @@ QRect GridImageView::GridArea() const {
   return {place.Left, place.Top, place.Width, place.Height};
 }
 
-// The pixels of the screen itself, whatever lies over the window there, as the bytes of a bitmap file. A screen that
-// does not let itself be copied gives the window's own drawing instead. At a higher scale these are the screen's own,
-// finer pixels. The mark of the focus is not part of the picture: nobody has the focus meanwhile.
+// A bitmap file of the screen's own pixels, including whatever covers the window; at a higher scale these are finer
+// than the window's. If the screen cannot be copied, the window's own rendering instead. The focus mark is not in the
+// picture, since the focus is cleared meanwhile.
 std::string GridImageView::CaptureGrid() {
   QWidget* const focused = form_.focusWidget();
   form_.setFocus(Qt::OtherFocusReason);
   WaitForTheScreen();
   const QRect area = GridArea();
 
-  // Counted from the window, whose corner can stand between two device-independent pixels of the screen.
+  // Relative to the window, whose corner may lie between two device-independent pixels of the screen.
   const Frame& grid = controls_.FrameAt("frameContent", kGridScreen);
   const QPoint corner = grid.mapTo(&form_, area.topLeft());
   QPixmap copy = form_.screen()->grabWindow(form_.winId(), corner.x(), corner.y(), area.width(), area.height());

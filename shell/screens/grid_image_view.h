@@ -1,6 +1,6 @@
 #pragma once
 
-// The saving of the grid's image ("shell/grid_image.h") from the grid screen.
+// Saving the grid's image ("shell/grid_image.h") from the grid screen.
 
 #include <QPixmap>
 #include <QRect>
@@ -15,18 +15,17 @@ namespace quillon {
 
 class GridImageView {
  public:
-  /// The boxes and the folder's calls outlive the view, as the form and its controls do.
+  /// All arguments outlive the view.
   GridImageView(QWidget& form, const MainControls& controls, MessageBoxes& messages, ProgramFolder folder);
 
-  /// The click on `imgSave`: makes the folder "Saved Grids" if it is missing, asks for a file name, captures the grid,
-  /// writes the file, and offers to open it. The dialog offers the name of the last save; a cancelled one saves
-  /// nothing.
+  /// The click on `imgSave`: creates the folder "Saved Grids" if it is missing, asks for a file name, captures the
+  /// grid, writes the file, and offers to open it. The dialog proposes the last name; cancelling saves nothing.
   ///
-  /// RunTimeError, with the path and the reason, if the folder cannot be made, the file not be written, in which case
-  /// an old file of that name is still there, or the picture not be opened.
+  /// RunTimeError, with the path and the reason, if the folder cannot be created, the file cannot be written (an old
+  /// file of that name is then intact), or the picture cannot be opened.
   void Save();
 
-  /// The same region as the window draws it, with nothing over it, not even the hover panel.
+  /// The same region as the window renders it, with nothing covering it, not even the hover panel.
   [[nodiscard]] QPixmap Picture() const;
 
  private:
@@ -37,7 +36,7 @@ class GridImageView {
   const MainControls& controls_;
   MessageBoxes& messages_;
   ProgramFolder folder_;
-  std::string lastName_;  // of the file that was saved last
+  std::string lastName_;  // of the last saved file
 };
 
 }  // namespace quillon

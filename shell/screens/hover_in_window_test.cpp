@@ -13,7 +13,7 @@ class HoverInWindow : public MainFormTest {
  protected:
   QPoint CellOf(std::string_view hand) { return MiddleOf("lblCards", HandIndex(hand)); }
   void Hover(std::string_view hand) {
-    MoveTo(CellOf(hand) + QPoint(2, 2));  // a mouse that is there already has to move
+    MoveTo(CellOf(hand) + QPoint(2, 2));  // the mouse may be there already, and must move
     MoveTo(CellOf(hand));
   }
 
@@ -25,7 +25,7 @@ class HoverInWindow : public MainFormTest {
     ASSERT_EQ(Caption("lblHov_Cards"), "AKs");
   }
 
-  /// A point of the bare screen.
+  /// Moves the mouse to the empty part of the screen.
   void MoveOffTheGrid() { MoveTo({230, 565}); }
 
   [[nodiscard]] bool PanelShows() { return Shows("frameHover"); }
@@ -42,7 +42,7 @@ TEST_F(HoverInWindow, ThePanelShowsTheTextsOfItsHandBesideItsCell) {
   };
   for (const Analysis& state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
     ShowGridOf(state);
-    for (const std::string_view hand : {"AA", "AKs", "72o", "A2s", "22", "22"}) {  // one of them once more
+    for (const std::string_view hand : {"AA", "AKs", "72o", "A2s", "22", "22"}) {  // the last one again
       SCOPED_TRACE(hand);
       MoveOffTheGrid();
       Hover(hand);
@@ -83,8 +83,8 @@ TEST_F(HoverInWindow, StripAndGapBelongToTheScreen) {
   const QPoint corner = Get("frameContent", kGridScreen).mapTo(&Form, QPoint(0, 0));
   const std::array<QPoint, 4> outside = {
       QPoint(square.center().x(), square.top() + 3),  // the strip above the label
-      QPoint(label.left() - 1, square.center().y()),  // at its left
-      QPoint(label.right() + 1, square.center().y()),  // at its right
+      QPoint(label.left() - 1, square.center().y()),  // to its left
+      QPoint(label.right() + 1, square.center().y()),  // to its right
       QPoint(square.center().x(), square.bottom() + 1),  // the gap below the cell
   };
   for (const QPoint& point : outside) {
@@ -196,7 +196,7 @@ TEST_F(HoverInWindow, NoTextOfARealRunIsCutOff) {
     for (const Label* label : Get("frameHover").findChildren<Label*>()) {
       if (!label->isVisible()) continue;
       EXPECT_GE(label->width(), label->TextSize().width()) << label->objectName().toStdString();
-      // The verdict is centred over the whole panel, and its place a pixel wider.
+      // The verdict is centred over the whole panel, and a pixel wider than it.
       EXPECT_TRUE(panel.contains(label->geometry()) || label == &LabelAt("lblHov_Advice"))
           << HandLabel(i) << " " << label->objectName().toStdString() << ": " << label->Text().toStdString();
     }

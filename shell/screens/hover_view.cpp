@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-// The pictures lie in the store, each under the name of its colour.
+// The pictures are in the store, named by colour.
 MainControls::Key<Picture> StoredPicture(HoverPicture picture) {
   switch (picture) {
     case HoverPicture::kGreen:

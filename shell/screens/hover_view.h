@@ -1,7 +1,7 @@
 #pragma once
 
-// The hover panel of the grid screen ("results/hover_panel.h"). One that the mouse has opened stays until the mouse is
-// over the bare screen. One that the keyboard has opened is a guest: it goes with the keyboard.
+// The hover panel of the grid screen ("results/hover_panel.h"). If opened by the mouse it stays until the mouse is over
+// the empty part of the screen. If opened by the keyboard it closes when the focus leaves.
 
 #include <cstdint>
 #include <string_view>
@@ -14,15 +14,15 @@ namespace quillon {
 
 class HoverView {
  public:
-  /// The panel takes the size of its border. It shows no hand yet, so that the first one that is hovered is a new one
-  /// to it, AA too.
+  /// The panel takes the size of its border. It shows no hand yet, so the first one hovered is always new to it, even
+  /// AA.
   HoverView(const MainControls& controls, const FormCardGrid& grid);
 
-  /// The mouse over the cell `index`: fills the panel if it shows another hand, and brings it up beside the cell. Lines
-  /// that the hand has not are hidden at once. Before any analysis nothing happens.
+  /// The mouse over the cell `index`: fills the panel if it shows another hand, and shows it beside the cell. Lines
+  /// without a text are hidden at once. Before any analysis nothing happens.
   void ShowForMouse(std::int16_t index, const Analysis& analysis) { Show(index, analysis, false); }
 
-  /// The same for the keyboard on the cell, until it leaves.
+  /// The same for the keyboard focus on the cell, until it leaves.
   void ShowForKeyboard(std::int16_t index, const Analysis& analysis) { Show(index, analysis, true); }
   void LeaveWithKeyboard();
 

@@ -25,7 +25,7 @@ std::string HttpClient::Get(std::string_view address) {
     reply->finish();
   });
   loop.exec();
-  // The end of the program ends every loop.
+  // Quitting the program ends every loop.
   return watcher.isFinished() ? watcher.result() : std::string();
 }
 

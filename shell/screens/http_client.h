@@ -1,7 +1,6 @@
 #pragma once
 
-// The web client of the window. While a request is under way the window is drawn and can be closed, but input is
-// blocked.
+// The web client of the window. During a request the window repaints and can be closed, but other input is blocked.
 
 #include <chrono>
 
@@ -13,7 +12,7 @@ class HttpClient : public WebClient {
  public:
   explicit HttpClient(std::chrono::milliseconds limit = std::chrono::seconds(kWebTimeOutSeconds)) : limit_(limit) {}
 
-  /// What HttpGet answers, waited for with the event loop.
+  /// HttpGet with an event loop that waits for the answer.
   std::string Get(std::string_view address) override;
 
   /// How long a request may take.

@@ -33,7 +33,7 @@ TEST_F(ChecksInWindow, AComplaintIsShownInsteadOfARun) {
   expectRefusal(2, "Equity Only", {"Empty Range", "Your opponent's range is empty. Please select another range."});
 }
 
-// A user of German amounts.
+// A user with German amounts.
 class GermanChecksInWindow : public testing::Test, public MainStage {
  protected:
   GermanChecksInWindow() : MainStage({"€", ",", "."}) {}
@@ -42,7 +42,7 @@ class GermanChecksInWindow : public testing::Test, public MainStage {
 
 TEST_F(GermanChecksInWindow, TheUsersMarksPassAndTheValueIsWhatItIs) {
   EnterCall("", "", "Tight");
-  // Keys that are not of ASCII cannot be pressed.
+  // QTest cannot press non-ASCII keys.
   Get<QLineEdit>("txtNumber", 0).insert(ToQt("100 €"));
   Get<QLineEdit>("txtNumber", 1).insert(ToQt("12,5€"));
   Click("cmdPreflopEV", 0);
@@ -51,7 +51,7 @@ TEST_F(GermanChecksInWindow, TheUsersMarksPassAndTheValueIsWhatItIs) {
   EXPECT_EQ(Form.State().CallAmount, 12);
 }
 
-// The button comes up again over the message box, and so the picture is not clicked.
+// The message box makes the button's release miss it, so the picture is not clicked.
 TEST_F(ChecksInWindow, ASumThatCannotBeWorkedOutIsToldInsteadOfARun) {
   Open(kCallNav);
   Choose(0, "Tight");

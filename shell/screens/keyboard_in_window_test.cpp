@@ -26,7 +26,7 @@ bool CanBeWorkedWith(const QWidget& control) {
 
 class KeyboardInWindow : public MainFormTest {
  protected:
-  /// Every screen, with the link or the picture that leads there.
+  /// Opens a screen by its link or picture.
   void OpenScreen(std::string_view name) {
     if (name == "About") {
       Click("picLogo");
@@ -48,7 +48,7 @@ class KeyboardInWindow : public MainFormTest {
     ASSERT_EQ(Screen(), name);
   }
 
-  /// The names of all controls that show and that a user can do something with.
+  /// The names of all visible controls that a user can operate.
   std::set<std::string> Workable() {
     std::set<std::string> names;
     for (const ControlTable& table : main_layout::kTables) {
@@ -60,7 +60,7 @@ class KeyboardInWindow : public MainFormTest {
     return names;
   }
 
-  /// The names of what Tab goes to, until it comes round again.
+  /// The names of the controls that Tab visits in one round.
   std::vector<std::string> TabRound() {
     std::vector<std::string> names;
     Get("picLogo").setFocus(Qt::TabFocusReason);
@@ -236,7 +236,7 @@ TEST_F(KeyboardInWindow, ControlAndADigitOpenAScreenWhoseLinkShowsAtItsFirstBox)
   EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
 }
 
-// Whoever starts it decides, or whoever stops it, whatever is pressed meanwhile. The mouse gives nobody the focus.
+// The key that starts or stops the run decides, whatever is pressed meanwhile. The mouse moves no focus.
 TEST_F(KeyboardInWindow, ARunThatIsStartedOrStoppedByAKeyEndsWithTheFocusOnWhatItLeadsTo) {
   const auto byKey = [this] { Press(Qt::Key_Return, Qt::ControlModifier); };
   const auto byMouse = [this] { Click("cmdPreflopEV", 2); };
@@ -325,7 +325,7 @@ TEST_F(KeyboardInWindow, WhateverHasTheKeyboardIsMarkedAsAWhole) {
       const QWidget& place = name == "lblCards(0)" ? Get("shapeCardBack", 0) : control;
       const QRect whole(place.mapTo(&Form, QPoint(0, 0)), place.size());
       EXPECT_TRUE(mark.isVisible()) << name;
-      const int out = name == "txtHandInfo" ? 0 : 3;  // its text has a margin for the mark
+      const int out = name == "txtHandInfo" ? 0 : 3;  // leaves a margin for the mark in its text
       EXPECT_EQ(mark.geometry(), whole.adjusted(-out, -out, out, out).intersected(Form.rect())) << name;
     }
   }

@@ -39,13 +39,13 @@ constexpr QKeyCombination kSaveSituationKey = Qt::CTRL | Qt::Key_S;
 constexpr QKeyCombination kOpenSituationKey = Qt::CTRL | Qt::Key_O;
 constexpr QKeyCombination kStudyKey = Qt::CTRL | Qt::Key_T;
 
-// The design's own size is there from the start: the screens are fitted to the window as they come up.
+// The design's own size applies from the start: screens are fitted to the window when shown.
 MainControls BuildMainControls(QWidget& form) {
   constexpr TwipRect kScreen = main_layout::kScreenPlace;
   SetPlace(form, {.Left = 0, .Top = 0, .Width = kScreen.Left + kScreen.Width, .Height = kMainWindowHeight});
   form.setPalette(QPalette(Qt::white));
   InitArtwork();
-  // Of every window: boxes and dialogs, too.
+  // The icon of every window, including boxes and dialogs.
   QApplication::setWindowIcon(ArtworkIcon(QStringLiteral("icon")));
   return MainControls(form);
 }
@@ -55,8 +55,8 @@ bool IsLeftOnTheSameLine(const QWidget& one, const QWidget& other) {
   return sameLine && one.x() < other.x();
 }
 
-// What Tab reaches in a table, in its order: from top to bottom, and a line from left to right. Where there is
-// something to analyse, the way goes from box to box and on to Analyze, and links come after it.
+// The tab stops of a table: from top to bottom, and within a line from left to right. On a screen with an Analyze
+// button, the boxes and that button come first, the links after it.
 std::vector<QWidget*> TabStopsOf(const ControlTable& table, const FormControls& controls) {
   std::vector<QWidget*> stops;
   bool leadsToAnalyze = false;
@@ -131,7 +131,7 @@ MainForm::MainForm(Surroundings surroundings)
                    .Folder = around_.Folder}),
       zoom_(*this, around_.Folder),
       stop_(BindKey(*this, Qt::Key_Escape, [this] { analysis_.Stop(state_); })) {
-  // It covers the cells until a run brings them up one by one.
+  // It covers the cells until a run raises them one by one.
   controls_.PictureAt("imgGridBack").raise();
   focusMark_.StayBehind(controls_.FrameAt("frameHover"));
   BindSidePanel();
@@ -153,7 +153,7 @@ DialogSurroundings MainForm::AroundDialogs() const {
 
 void MainForm::Start() {
   PrepareFolders(around_.Folder);
-  zoom_.Start();  // before the dialogs are loaded, which take their places by their sizes
+  zoom_.Start();  // before the dialogs are loaded, whose places depend on their sizes
   ShowAboutContent();
   LoadStartupState();
   show();
@@ -164,7 +164,7 @@ void MainForm::Start() {
 void MainForm::closeEvent(QCloseEvent* event) {
   event->accept();
   hide();
-  // In one go: each write of its own would wait anew for another copy of the program that holds the file.
+  // All at once: each separate write would wait for the lock again if another copy of the program holds it.
   std::vector<IniSetting> settings = PlaceSettings(kMainSection, *this);
   std::ranges::move(BoxTextSettings(boxes_.Texts()), std::back_inserter(settings));
   std::ranges::move(study_.PlaceSettings(), std::back_inserter(settings));
@@ -173,7 +173,7 @@ void MainForm::closeEvent(QCloseEvent* event) {
 }
 
 void MainForm::contextMenuEvent(QContextMenuEvent* event) {
-  // A menu would take the release of what is held down, and it would stay pressed.
+  // A menu would swallow the release of the button, which would then stay pressed.
   if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) return;
   PopUpMenu(*this, event->globalPos(),
             {{.Text = QStringLiteral("Save situation..."),
@@ -190,7 +190,7 @@ void MainForm::contextMenuEvent(QContextMenuEvent* event) {
 void MainForm::ShowAboutContent() {
   const Frame& about = navigation_.ShowFrame(kAboutScreen);
   setWindowTitle(ToQt(MainWindowTitle()));
-  // Intentional: the list is not filled yet, so this is always 0, and it is never set again.
+  // Intentional: the list is still empty, so this is always 0, and it is never set again.
   controls_.LabelAt("lblNumRanges").SetText(QString::number(controls_.Get<QComboBox>("cmboRanges", 0).count()));
 
   Frame& content = controls_.FrameAt("frameAboutContent");
@@ -203,7 +203,7 @@ void MainForm::LoadStartupState() {
   boxes_.Restore(StoredBoxTexts(controls_.CountOf("txtNumber"), around_.Folder));
   dialogs_.RefreshLists();
   results_.SetResultsShown(false);
-  // The first screen has the design's width still; those that have been shown are as wide as the window was.
+  // The first screen still has the design's width; any that has been shown is as wide as the window was.
   const float designed = PlaceOf(controls_.FrameAt("frameContent", 0)).Width;
   const TwipSize size = MainWindowSize(navigation_.PanelPlace(), designed);
   SetPlace(*this, {.Left = 0, .Top = 0, .Width = size.Width, .Height = size.Height});
@@ -214,10 +214,10 @@ void MainForm::LoadStartupState() {
   auto& hands = controls_.Get<QComboBox>("cmbo169");
   for (const std::string& entry : HandListEntries())
     hands.addItem(ToQt(entry));
-  hands.setCurrentIndex(-1);  // none is picked yet, "None" neither
+  hands.setCurrentIndex(-1);  // nothing is picked yet, not even "None"
 }
 
-// "Details" always opens with a new report of the first form.
+// "Details" always opens with a new report in the first form.
 void MainForm::ClickNav(std::int16_t link) {
   dialogs_.RefreshLists();
   navigation_.OpenLink(link);
@@ -226,7 +226,7 @@ void MainForm::ClickNav(std::int16_t link) {
   report_.Build(state_);
 }
 
-// The clicks on "Details", "2+2" and the hand.
+// Clicks on "Details", "2+2" and the hand.
 void MainForm::ShowInReport(std::int16_t hand) {
   ClickNav(kDetailsNav);
   controls_.Get<QComboBox>("cmboOutputType").setCurrentIndex(static_cast<int>(ReportForm::kForum));
@@ -297,7 +297,7 @@ void MainForm::BindAbout() {
     OnClick("lblLink", i, [this, i] { about_.ClickLink(controls_.LabelAt("lblLink", i)); });
   }
   auto& upgrade = controls_.Get<QCheckBox>("chkUpgrade");
-  // A click leads out of the third state, and never into it.
+  // A click can leave the third state but never enter it.
   connect(&upgrade, &QCheckBox::pressed, &upgrade, [&upgrade] { upgrade.setTristate(false); });
   connect(&upgrade, &QCheckBox::stateChanged, this, [this] { about_.ClickUpgrade(); });
   connect(&controls_.Get<QPushButton>("cmdSendFeedback"), &QPushButton::clicked, this,
@@ -326,7 +326,7 @@ void MainForm::BindKeys() {
       *this, Qt::Key_F1, [this] { ShowUserGuide(); }, Qt::ApplicationShortcut);
 }
 
-// A run may be asked for, and refused, while another goes on.
+// A run may be requested, and refused, while another is running.
 void MainForm::Run(std::int16_t button) {
   const bool wasRunning = stop_.isEnabled();
   stop_.setEnabled(true);
@@ -339,7 +339,7 @@ void MainForm::ShowUserGuide() {
   OpenInBrowser(AddressOfFile(guide), [this, guide] { around_.Messages.Show(NoUserGuideMessage(guide)); });
 }
 
-// The side panel comes first. Nobody has the focus until somebody is given it: the window keeps it.
+// The side panel comes first. Initially no control has the focus: the window keeps it.
 void MainForm::OrderTabs() {
   std::vector<QWidget*> order = {this};
   for (const ControlTable& table : main_layout::kTables) {

@@ -34,7 +34,7 @@ class MainForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// What the window finds round it. All of it outlives the window.
+  /// What the window uses from outside. All of it outlives the window.
   struct Surroundings {
     ProgramFolder Folder;
     std::filesystem::path UserGuide;
@@ -49,8 +49,8 @@ class MainForm : public QWidget {
 
   explicit MainForm(Surroundings surroundings);
 
-  /// The start of the program ("shell/start_up.h"). The window can be used when this returns. RunTimeError, before
-  /// anything shows, if a folder cannot be made or the ranges cannot be listed ("ranges/range_lists.h").
+  /// Starts the program ("shell/start_up.h"). The window can be used when this returns. RunTimeError, before anything
+  /// is shown, if a folder cannot be created or the ranges cannot be listed ("ranges/range_lists.h").
   void Start();
 
   [[nodiscard]] MainControls& Controls() { return controls_; }
@@ -59,16 +59,16 @@ class MainForm : public QWidget {
   [[nodiscard]] const ZoomView& Zoom() const { return zoom_; }
   [[nodiscard]] const StudyView& Study() const { return study_; }
 
-  /// Brings up the study window at a page about the results that the main window shows, and there at a hand.
+  /// Opens the study window at a page about the main window's results, and there at a hand.
   void ShowStudy(StudyTopic topic, std::optional<std::int16_t> hand = {}) { study_.ShowPage(topic, hand); }
 
  protected:
-  /// For whatever reason the window closes: it is hidden, its place and all box texts are stored as they are, sums
-  /// unevaluated and empty boxes too, with the place of the study window, and the process ends. No other window is
-  /// asked, and an analysis just stops.
+  /// Whenever the window closes, it is hidden, its place, all box texts as they are (unevaluated sums and empty ones
+  /// too) and the study window's place are stored, and the process ends. No other window is asked, and an analysis just
+  /// stops.
   void closeEvent(QCloseEvent* event) override;
 
-  /// A right click where nothing else answers it, or the menu key: what the keys of situations and of the study do.
+  /// A right click that nothing else handles, or the menu key: a menu of what the keys for situations and the study do.
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
@@ -105,7 +105,7 @@ class MainForm : public QWidget {
   AnalysisView analysis_;
   SituationView situations_;
   ZoomView zoom_;
-  QShortcut& stop_;  // "< Back" from whatever screen, during a run
+  QShortcut& stop_;  // "< Back" from any screen, during a run
   FocusMark focusMark_{*this};
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// The main window as tables: the side panel, the seven screens, the two frames on the grid screen, and a frame that is
-// never shown and keeps things. The words are the product's own, odd ones too. The product's web host and the address
-// where its maker reads mail come with the build.
+// The main window as tables: the side panel, the seven screens, the two frames on the grid screen, and an invisible
+// frame that stores things. The texts are verbatim, odd ones too. The product's web host and feedback address come from
+// the build.
 
 #include <array>
 #include <cstddef>
@@ -32,7 +32,7 @@ constexpr TwipRect kScreenPlace = {3300, 0, 12000, kScreenHeight};
 
 constexpr std::int32_t kHeading = RgbNumber(kPaleYellow);
 
-// One row stays one row.
+// One line per row.
 // clang-format off
 
 constexpr ControlRow WhatsThis(std::int16_t index, TwipRect place, std::string_view spoken) {
@@ -46,7 +46,7 @@ constexpr ControlRow StepNumber(std::int16_t index, std::string_view text, float
           .Fore = 0xFFFFFF, .Font = Bold(Arial(11.25)), .Alignment = kMiddle};
 }
 
-// The screens. Each takes its place and its size anew when it is shown.
+// The screens. Each is placed and sized again when it is shown.
 inline constexpr auto kScreens = std::to_array<ControlRow>({
     {.Name = "frameContent", .Index = 0, .Kind = kFrame, .Text = "Preflop Call", .Place = kScreenPlace, .Hidden = true},
     {.Name = "frameContent", .Index = 1, .Kind = kFrame, .Text = "ALL IN Grid", .Place = kScreenPlace, .Hidden = true},

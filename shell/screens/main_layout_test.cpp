@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-/// One window for all of these tests, which only look.
+/// One window for all of these tests, which change nothing.
 class MainLayoutTest : public testing::Test {
  protected:
   static void SetUpTestSuite() {
@@ -34,7 +34,7 @@ TEST_F(MainLayoutTest, KeepsTheRulesOfEveryLayout) {
 }
 
 TEST_F(MainLayoutTest, EverythingStaysWithinItsScreen) {
-  // Intentional: cut off at the edge of what holds them, as the picture behind the panel is larger than the panel.
+  // Intentional: cut off by their container, as the picture behind the panel is larger than the panel.
   constexpr std::array<std::string_view, 5> kCutOff = {"imgHover", "frameAboutContent", "aRectangle(1)",
                                                        "lblHov_Advice", "rectHov"};
   for (const ControlTable& table : main_layout::kTables) {
@@ -48,7 +48,7 @@ TEST_F(MainLayoutTest, EverythingStaysWithinItsScreen) {
   }
 }
 
-// What no picture of a screen shows at first.
+// Hidden in every initial picture of a screen.
 TEST_F(MainLayoutTest, HidesWhatComesLater) {
   for (const auto name : std::to_array<MainControls::Key<>>(
            {"frameControls", "shapeBlue", "cmbo169", "lblSpecificHand", "frameHover", "lblLastEdit", "fileList"})) {

@@ -13,7 +13,7 @@ namespace {
 
 class NavigationInWindow : public MainFormTest {
  protected:
-  /// The text colours of all links, with a "_" after that of an underlined one.
+  /// The text colours of all links, each followed by "_" if underlined.
   std::string LinkLooks() {
     std::string looks;
     for (std::int16_t i = 0; i < 5; ++i) {
@@ -23,7 +23,7 @@ class NavigationInWindow : public MainFormTest {
     return looks;
   }
 
-  /// A place on the panel's background with nothing else on it.
+  /// An empty place on the panel's background.
   void MoveOverPanel() { MoveTo({110, 400}); }
 };
 
@@ -47,7 +47,7 @@ TEST_F(NavigationInWindow, EachLinkBringsUpItsScreenAlone) {
   RunEquity("Tight");
   for (const LinkCase& link : kLinks) {
     SCOPED_TRACE(link.Caption);
-    for (int click = 0; click < 2; ++click) {  // a click on the selected link leaves the same picture
+    for (int click = 0; click < 2; ++click) {  // clicking the selected link again changes nothing
       Open(link.Link);
       EXPECT_EQ(Screen(), link.Caption);
       EXPECT_EQ(Get("frameContent", link.Frame).geometry(), PixelPlace({3300, 0, 12000, 8645}));

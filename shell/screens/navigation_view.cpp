@@ -25,13 +25,13 @@ Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
   throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "no screen is called " + std::string(name));
 }
 
-// Whoever was busy on a screen that goes away is done there. Left to itself, the focus would go to a neighbour, or to
-// the first control of the window once that comes to the front; the window keeps it from them.
+// A focus on the hidden screen is given to the window: Qt would otherwise move it to a neighbour, or to the window's
+// first control on activation.
 void HideScreen(Frame& screen, QWidget& form) {
   QWidget* busy = form.focusWidget();
   if (busy != nullptr && screen.isAncestorOf(busy)) {
     form.setFocus(Qt::OtherFocusReason);
-    // With another program in front there is no focus to lose, and the box is left all the same.
+    // With another program in front there is no focus to lose, but the box must still handle being left.
     if (auto* box = qobject_cast<TextBox*>(busy)) box->Leave();
   }
   screen.hide();
@@ -47,7 +47,7 @@ bool IsJustRead(const QWidget& control) {
   return memo != nullptr && memo->isReadOnly();
 }
 
-// In the order of the Tab key.
+// In tab order.
 QWidget* FirstToWorkWith(const Frame& screen) {
   for (QWidget* control = screen.nextInFocusChain(); control != &screen; control = control->nextInFocusChain()) {
     const bool reached = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisibleTo(control->window());

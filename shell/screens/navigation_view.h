@@ -16,26 +16,26 @@ class NavigationView {
  public:
   NavigationView(QWidget& form, const MainControls& controls) : form_(form), controls_(controls) {}
 
-  /// Where the panel's background lies.
+  /// The place of the panel's background.
   [[nodiscard]] TwipRect PanelPlace() const;
 
-  /// The name of the screen that shows.
+  /// The name of the visible screen.
   [[nodiscard]] std::string ShownScreen() const;
 
-  /// Shows the screen of that name, exactly that, white and in front of all others, which are hidden, and returns it. A
-  /// waiting pointer ends. In answer to a key ("toolkit/application.h"), the first control of the screen that is not
-  /// just pressed has the focus then, such as its first box; a focus that was on a screen that goes is nobody's
-  /// otherwise. RunTimeError "Invalid procedure call or argument", with nothing changed, if no screen has that name.
+  /// Shows the screen of exactly that name, white and in front of all others, which are hidden, and returns it. Resets
+  /// the mouse pointer. In response to a key ("toolkit/application.h"), the first control of the screen that is not
+  /// just a button gets the focus, such as its first box; otherwise a focus on the hidden screen is dropped.
+  /// RunTimeError "Invalid procedure call or argument", with nothing changed, if no screen has that name.
   Frame& ShowFrame(std::string_view name);
 
-  /// Brings up the screen of `lblNav(link)`, moves the selection bar behind the link, and makes it the selected one.
+  /// Shows the screen of `lblNav(link)`, moves the selection bar behind the link, and selects it.
   void OpenLink(std::int16_t link);
 
   /// The mouse over `lblNav(link)`, and over the panel's background.
   void HoverLink(std::int16_t link);
   void HoverPanel();
 
-  /// The click on `picLogo`: the About screen comes up and no link looks selected. Intentional: the last link is still
+  /// The click on `picLogo`: the About screen is shown and no link looks selected. Intentional: the last link is still
   /// remembered, and the selection bar stays behind it, to lead a player back.
   void ClickLogo();
 

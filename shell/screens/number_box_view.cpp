@@ -65,7 +65,7 @@ void NumberBoxView::Change(std::int16_t index) {
 void NumberBoxView::WorkOut(std::int16_t index) {
   const std::string before = Text(index);
   const std::string after = EvalTextBox(before, messages_);
-  // A text that stays is not set: that would count as a change and take the results away from whoever only looks in.
+  // An unchanged text is not set: that would count as a change and hide the results.
   if (after != before) Box(index).setText(ToQt(after));
 }
 

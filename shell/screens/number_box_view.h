@@ -1,7 +1,7 @@
 #pragma once
 
-// The amount boxes with their borders, and the two labels that follow the last of them ("shell/number_boxes.h"). An
-// index is that of a box, 0 to 4.
+// The amount boxes with their borders, and the two labels that depend on the last of them ("shell/number_boxes.h").
+// Indexes are those of boxes, 0 to 4.
 
 #include <cstdint>
 #include <functional>
@@ -26,10 +26,10 @@ class NumberBoxView {
   [[nodiscard]] std::string Text(std::int16_t index) const;
   [[nodiscard]] std::vector<std::string> Texts() const;
 
-  /// Sets the text of a box, one that was kept. Earlier results go, and the odds follow as they do at a start.
+  /// Sets the text of a box to a saved one. Earlier results are hidden, and the odds are updated as at start.
   void Set(std::int16_t index, std::string_view text);
 
-  /// Sets texts that the last run left; an empty one leaves its box as it is.
+  /// Sets the texts of the last run; an empty one leaves its box unchanged.
   void Restore(std::span<const std::string> texts);
 
  private:

@@ -125,7 +125,7 @@ TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
   EXPECT_EQ(odds(), "9 : 1, 10%");
 }
 
-// P + C + 2H = 0 has odds of -1, by which nothing can be divided.
+// P + C + 2H = 0 gives odds of -1, a division by zero.
 TEST_F(NumberBoxesInWindow, OddsOfMinusOneEndTheProgram) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   Open(kRaiseNav);

@@ -1,5 +1,5 @@
-// The desktop program. It takes no arguments but those of Qt's, as a session manager gives them when it brings the
-// window back, and keeps everything in the program's folder ("shell/program_folder.h").
+// The desktop program. It takes no arguments other than Qt's, as from a session manager that restores the window, and
+// keeps everything in the program's folder ("shell/program_folder.h").
 
 #include <cstdio>
 #include <cstdlib>
@@ -46,13 +46,13 @@ int RunWindow() {
 
 int RunProgram(int argc, char** argv) {
   const std::unique_ptr<Application> application = StartApplication(argc, argv);
-  // Qt has taken its own out.
+  // Qt has removed its own.
   if (argc > 1) {
     std::fputs("Quillon takes no arguments. quillon-cli works out a situation given on the command line.\n", stderr);
     return kWrongUsage;
   }
 
-  // Caught in here: only while the application exists can a failed start be shown.
+  // Caught inside: a failed start can be shown only while the application exists.
   try {
     return RunWindow();
   } catch (...) {

@@ -14,17 +14,17 @@
 namespace quillon {
 namespace {
 
-// Where the columns of the plain form begin, in letters of its fixed-width font. Each is wide enough for whatever it
-// may hold (names of 20 letters; amounts of 13 letters, or of 11 behind the wide equities of a shove), so that headers
-// and rows stand one above the other, at whatever width the font comes out.
+// Where the columns of the plain form begin, in characters of its fixed-width font. Each is wide enough for its
+// contents (names of 20 characters; amounts of 13, or of 11 after the wide equities of a shove), so that headers and
+// rows line up, whatever the font's width.
 constexpr std::array kColumnLetters = {7, 14, 22, 36, 48};
 
 constexpr std::int16_t kTableFontPoints = 10;
 
-// For an empty box: each line that is added takes over the columns of the one before.
+// For an empty box: each added line inherits the columns of the one before.
 void SetColumns(const RichTextBox& box) {
   QFont table = FormFont({.Family = "Courier New", .Points = kTableFontPoints}, {});
-  table.setPixelSize(FontPixels(kTableFontPoints));  // the box brings both to its scale
+  table.setPixelSize(FontPixels(kTableFontPoints));  // the box scales both
   const double letter = QFontMetricsF(table).horizontalAdvance(QLatin1Char('0'));
   QList<QTextOption::Tab> columns;
   for (const int letters : kColumnLetters)
@@ -55,7 +55,7 @@ void ReportView::SetText(std::string_view text) {
   font_.setFont(box.font());
   box.setPlainText(ToQt(text));
 
-  // A table whose rows were broken would be none; marked-up prose is broken like any other.
+  // A table must not wrap; marked-up prose may.
   box.setLineWrapMode(SelectedForm() == ReportForm::kPlainText ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
   SetColumns(box);
 }
@@ -76,12 +76,12 @@ void ReportView::SetFontColor(std::int32_t color) {
 
 void ReportView::InsertText(std::string_view text) {
   QTextCursor caret = Box().textCursor();
-  // Insertions add; what the user has selected, to copy it, stays.
+  // Inserting keeps the user's selection, which he may want to copy.
   if (caret.hasSelection()) {
     caret.clearSelection();
     Box().setTextCursor(caret);
   }
-  // The box's own caret moves along, and the view stays where it is: a report is read from its start.
+  // The box's own caret moves along, but the view does not scroll: a report is read from its start.
   caret.insertText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), font_);
 }
 

@@ -14,10 +14,10 @@ class ReportView : public ReportScreen {
  public:
   explicit ReportView(MainControls& controls) : controls_(controls) {}
 
-  /// Writes the report anew. Nothing that was typed before can be undone then.
+  /// Rewrites the report and clears the undo history.
   void Build(const Analysis& analysis);
 
-  /// Adds the working of a hand, which can be undone as a whole.
+  /// Appends the calculation for a hand as one undo step.
   void AddHand(const Analysis& analysis, std::string_view hand);
 
   void SetText(std::string_view text) override;

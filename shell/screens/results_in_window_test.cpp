@@ -17,7 +17,7 @@ class ResultsInWindow : public MainFormTest {
     return ColorName(Get<Shape>("shapeCardBack", HandIndex(hand)).Fill());
   }
 
-  /// The pixels of the grid screen show the colours that the engine gives the state.
+  /// The pixels of the grid screen have the engine's colours for the state.
   void ExpectCellsAsWorkedOut() {
     const std::array<Rgb, kHandClassCount> colors = GridColors(Form.State());
     const QImage shown = Get("frameContent", kGridScreen).grab().toImage();
@@ -27,7 +27,7 @@ class ResultsInWindow : public MainFormTest {
     }
   }
 
-  /// The texts that the engine gives the state, and all of them can be read.
+  /// The engine's texts for the state, all readable.
   void ExpectTextsAsWorkedOut() {
     const GridTexts texts = MakeGridTexts(Form.State());
     EXPECT_EQ(Caption("lblGridTitle"), texts.Title);
@@ -80,7 +80,7 @@ class ResultsAsRange : public ResultsInWindow {
  protected:
   NewRangeForm& Dialog() { return *Dialogs.LoadedNewRange(); }
 
-  /// The hands with something to win.
+  /// The hands that win something.
   std::string Winners() {
     std::string winners;
     for (std::int16_t i = 0; i < kHandClassCount; ++i) {

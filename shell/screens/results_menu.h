@@ -1,7 +1,7 @@
 #pragma once
 
-// The menu of the results grid: the results as a picture, a table or a web page, and more of the hand that it was
-// opened on. Nothing of it is on offer before the first analysis has finished.
+// The menu of the results grid: the results as a picture, a table or a web page, and more about the hand that it was
+// opened on. All disabled before the first finished analysis.
 
 #include <QPoint>
 #include <QWidget>
@@ -18,7 +18,7 @@ namespace quillon {
 
 class ResultsMenu {
  public:
-  /// What it works with. All of it outlives the menu.
+  /// What the menu uses from outside. All of it outlives the menu.
   struct Surroundings {
     QWidget& Form;
     const AnalysisState& State;
@@ -31,7 +31,7 @@ class ResultsMenu {
 
   explicit ResultsMenu(Surroundings surroundings);
 
-  /// Brings it up at that point of the screen, for the class `hand`, or for none where that is below 0.
+  /// Opens it at that point of the screen, for the class `hand`, or for none if that is below 0.
   void Show(std::int16_t hand, const QPoint& place);
 
  private:
@@ -40,7 +40,7 @@ class ResultsMenu {
   void SavePage();
 
   Surroundings around_;
-  std::string lastPage_;  // the path of the page that was saved last
+  std::string lastPage_;  // the path of the last saved page
 };
 
 }  // namespace quillon

@@ -155,7 +155,7 @@ TEST_F(ResultsMenuInWindow, AHandInTheReportIsDetailsForumAndThatHand) {
   };
   expectReport();
 
-  // By the keyboard, and with the same hand in the list already.
+  // By keyboard, and with the same hand already in the list.
   Open(kGridNav);
   Get("lblCards", HandIndex("K9o")).setFocus(Qt::TabFocusReason);
   Press(Qt::Key_F10, Qt::ShiftModifier);

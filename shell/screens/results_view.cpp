@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-// The hover panel in words, its titles among them.
+// The hover panel in words, including its titles.
 QString SpokenFigures(const HoverTexts& texts, const MainControls& controls) {
   QStringList said;
   const auto say = [&said](const QString& title, const std::string& figure) {

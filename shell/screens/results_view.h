@@ -1,7 +1,7 @@
 #pragma once
 
-// The results on the main window: the cells of the grid, the texts round it, and the links of the side panel that lead
-// to it ("results/results_grid.h").
+// The results in the main window: the cells of the grid, the texts around it, and the side panel's links to it
+// ("results/results_grid.h").
 
 #include <string_view>
 
@@ -15,15 +15,15 @@ class ResultsView {
  public:
   ResultsView(const MainControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
-  /// Paints the cells in index order and describes each as the hover panel does, then shows the texts. Fails as
+  /// Paints the cells in index order, describes each as the hover panel does, then shows the texts. Fails as
   /// MakeGridTexts does.
   void Present(const Analysis& analysis);
 
-  /// Shows or hides the links that lead to results; the note that there are none shows when they do not. The links take
-  /// their own colour again.
+  /// Shows or hides the links to results, which return to their own colour; the note that there are none is shown
+  /// instead.
   void SetResultsShown(bool shown);
 
-  /// Changes the caption of `lblNoResults`, which is a link for as long as it says that a run goes on.
+  /// Sets the caption of `lblNoResults`, which is a link while it says that a run is going on.
   void ShowNoResultsCaption(std::string_view caption);
 
  private:

@@ -1,5 +1,5 @@
-// The window and its dialogs at every step of the zoom: texts fit, neighbours stay apart, and the
-// captions of the grid can be read.
+// The window and its dialogs at every step of the zoom: texts fit, neighbours do not overlap, and the captions of the
+// grid are readable.
 
 #include <QAbstractButton>
 #include <QImage>
@@ -66,7 +66,7 @@ TEST_F(ScalesInWindow, EveryTextFitsItsPlace) {
   });
 }
 
-// How many lines each label of several has, by the labels' names.
+// The number of lines of each multi-line label, by name.
 std::map<std::string, int> LinesOf(const QWidget& form) {
   std::map<std::string, int> lines;
   for (const Label* label : form.findChildren<Label*>()) {
@@ -91,7 +91,8 @@ TEST_F(ScalesInWindow, TextsHaveNoMoreLinesThanInTheDesign) {
   }
 }
 
-// The darkest point of a caption's picture against the lightest: the letters, and the cell or their own pale edge.
+// The contrast between the darkest and the lightest point of a caption: the letters, and the cell or their own pale
+// edge.
 double ContrastOfCaption(const QImage& cell) {
   constexpr Rgb kWhite = {255, 255, 255};
   Rgb darkest = kWhite;
@@ -130,7 +131,7 @@ TEST_F(ScalesInWindow, CaptionsOfTheGridStandOutFromTheirCells) {
   AtEachScale(expectLegible);
 }
 
-// The head of the box is a picture, 30 twips wider than the box, and ends with it.
+// The head of the box is a picture, 30 twips wider than the box, cut at its edge.
 TEST_F(ScalesInWindow, TheHeadOfTheQuickInfoIsAsWideAsItsBox) {
   AtEachScale([this] {
     const QRect head = Get("aImage", 0).geometry();

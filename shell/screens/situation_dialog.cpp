@@ -43,7 +43,7 @@ void SituationDialog::Fill(std::string_view selected) {
   entries_.Show(contents);
 }
 
-// The one after it is selected then, or the last.
+// Then selects the next one, or the last.
 void SituationDialog::Delete() {
   const QListWidgetItem* const next =
       list_.item(list_.currentRow() + (list_.currentRow() + 1 < list_.count() ? 1 : -1));

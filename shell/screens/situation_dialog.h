@@ -1,7 +1,7 @@
 #pragma once
 
-// The list that Ctrl+O shows: the saved situations, of which one is opened. Typing goes to the next name that begins
-// so; Enter and a double click open, Esc opens nothing, Del deletes after a question.
+// The list that Ctrl+O shows, for opening a saved situation. Typing jumps to the next name that starts so; Enter and a
+// double click open, Esc cancels, Del deletes after a question.
 
 #include <QDialog>
 #include <QListWidget>
@@ -19,11 +19,10 @@ class SituationDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// The list over `parent`, with the situation of that name selected, or the first where there is none of that name.
-  /// Fails as SituationNames does.
+  /// The list over `parent`, with the situation of that name selected, or else the first. Fails as SituationNames does.
   SituationDialog(QWidget* parent, ProgramFolder folder, MessageBoxes& messages, std::string_view selected);
 
-  /// The name that is selected; empty where there are none.
+  /// The selected name; empty if there are none.
   [[nodiscard]] std::string Name() const { return entries_.CurrentText(); }
 
  private:

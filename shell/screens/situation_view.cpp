@@ -55,7 +55,7 @@ const InputScreen* SituationView::ShownInputs() const {
 void SituationView::Show(const ScreenSituation& situation) {
   const InputScreen& screen = RowOf(kInputScreens, situation.Mode);
   const EnteredSituation& entered = situation.Entered;
-  parts_.ClickNav(static_cast<std::int16_t>(&screen - kInputScreens.data()));  // which fills the lists
+  parts_.ClickNav(static_cast<std::int16_t>(&screen - kInputScreens.data()));  // this fills the lists
   const std::array amounts = {&entered.Pot, &entered.Call, &entered.Shove};
   for (std::size_t i = 0; i < amounts.size(); ++i) {
     if (screen.AmountBoxes.at(i) != kNoControl) parts_.Amounts.Set(screen.AmountBoxes.at(i), *amounts.at(i));

@@ -1,6 +1,6 @@
 #pragma once
 
-// Ctrl+S and Ctrl+O of the main window: what an input screen holds is saved under a name, and brought back
+// Ctrl+S and Ctrl+O of the main window: saves an input screen's contents under a name, and restores them
 // ("shell/situations.h").
 
 #include <QWidget>
@@ -22,7 +22,7 @@ namespace quillon {
 
 class SituationView {
  public:
-  /// What is written to and shown. All of it outlives the view.
+  /// What the view works on. All of it outlives the view.
   struct Parts {
     QWidget& Form;
     const AnalysisWindow& Inputs;
@@ -37,15 +37,15 @@ class SituationView {
 
   explicit SituationView(Parts parts) : parts_(std::move(parts)) {}
 
-  /// Whether an input screen shows.
+  /// Whether an input screen is shown.
   [[nodiscard]] bool CanSave() const { return ShownInputs() != nullptr; }
 
-  /// Saves what is entered on the screen that shows, a sum that is being typed as it is. On a screen that is no input
-  /// screen the user is told where to save.
+  /// Saves the entries of the current screen, including a sum that is still being typed. On a screen that is not an
+  /// input screen the user is told where to save.
   void Save();
 
-  /// Lets the user choose a situation, brings up its screen and fills it in, with blank boxes and lists for what it
-  /// lacks. During a run, which reads the boxes, he is told to wait.
+  /// Lets the user choose a situation, shows its screen and fills it in, clearing boxes and lists that it lacks. During
+  /// a run, which reads the boxes, the user is told to wait.
   void Open(const AnalysisState& state);
 
  private:

@@ -34,7 +34,7 @@ class SituationsInWindow : public MainFormTest {
     ExpectMessageBox(Told("The situation \"" + name + "\" was saved successfully!"));
     PressSave();
   }
-  /// After what is expected has come, the window is in front again.
+  /// After the expected box, the window is in front again.
   void PressSave() { PressAndLook(Qt::Key_S); }
   void PressOpen() { PressAndLook(Qt::Key_O); }
   void PressAndLook(Qt::Key key) {
@@ -42,7 +42,7 @@ class SituationsInWindow : public MainFormTest {
     VerifyExpectedBoxes();
     ComeToFront();
   }
-  /// The list comes, and the user opens the situation of that name in it by keys.
+  /// Opens the situation of that name in the list by keys.
   void OpenByKeys(const std::string& name) {
     ExpectDialog([name](QDialog& dialog) {
       QTest::keyClick(&ListOf(dialog), Qt::Key_Home);
@@ -173,7 +173,7 @@ TEST_F(SituationsInWindow, ALineOfABatchIsTakenAsFarAsTheScreenGoes) {
   EXPECT_THAT(heard.Texts(), Contains("The situation \"Sent\" is open."));
 }
 
-// What is said of it has tests without a window.
+// The messages are tested without a window.
 TEST_F(SituationsInWindow, AFileThatCannotBeReadOpensNothing) {
   Put("Bad", "AA (1), ");
   EnterCall("150", "50", "Tight");

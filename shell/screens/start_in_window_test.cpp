@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-// In twips, and then to the nearest pixel.
+// In twips, then to the nearest pixel.
 QPoint Centred(const QWidget& form) {
   const QSize room = QGuiApplication::primaryScreen()->size() - form.size();
   const auto half = [](int pixels) { return PixelEdge(static_cast<float>(pixels) * kTwipsPerPixel / 2); };
@@ -114,7 +114,7 @@ TEST_F(StartInWindow, ClosingStoresPlaceAndAllBoxes) {
 TEST_F(StartInWindow, ClosingAsksNoOtherWindow) {
   Start();
   Click("lblRangeManager");
-  ClickCell(Dialogs.LoadedManager()->Controls(), "72o");  // a change that is not saved
+  ClickCell(Dialogs.LoadedManager()->Controls(), "72o");  // an unsaved change
   Open(kCallNav);
   Click("lblNewRange", 0);
 

@@ -1,4 +1,4 @@
-// The study window as the main window opens it and tells it of analyses.
+// The study window as the main window opens it and reports analyses to it.
 
 #include <QPushButton>
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@ using testing::Not;
 
 class StudyInWindow : public MainFormTest {
  protected:
-  /// What the window says that it is about.
+  /// The window's line about its situation.
   [[nodiscard]] std::string About() const { return FromQt(Study().findChild<QLabel*>()->text()); }
   [[nodiscard]] StudyForm& Study() const { return *Form.Study().Loaded(); }
 };
@@ -49,7 +49,7 @@ TEST_F(StudyInWindow, IsAboutTheResultsThatAreAskedAbout) {
   EXPECT_EQ(FromQt(Study().focusWidget()->accessibleName()), "T9s");
 }
 
-// A question about one more hand, or a window that was closed, costs nothing that was typed on another page.
+// Asking about another hand, or closing the window, loses nothing that was typed on another page.
 TEST_F(StudyInWindow, KeepsWhatWasTypedAboutTheSameAnalysis) {
   RunRaise("150", "50", "400", "Everything", "Tight");
   Form.ShowStudy(StudyTopic::kBalanced);
@@ -67,7 +67,7 @@ TEST_F(StudyInWindow, KeepsWhatWasTypedAboutTheSameAnalysis) {
   EXPECT_EQ(FromQt(pot->text()), "150") << "another situation has amounts of its own";
 }
 
-// An offer is of the analysis that finished last, also of one that finished while the window was closed.
+// An offer is for the last finished analysis, even if it finished while the window was closed.
 TEST_F(StudyInWindow, OffersNothingWhereItIsAboutTheLastAnalysis) {
   RunCall("110", "90", "Tight");
   Press(Qt::Key_T, Qt::ControlModifier);

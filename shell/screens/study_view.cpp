@@ -17,8 +17,7 @@ void StudyView::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
   form.ShowPage(topic, hand);
 }
 
-// What the player has typed and found on the pages stays where they are about it already; then there is nothing to
-// offer, either.
+// If the pages are about it already, what the player has typed and found stays, and there is nothing to offer.
 void StudyView::FollowLast() {
   if (!finished_) return;
   if (form_->IsAbout(*finished_))

@@ -1,7 +1,7 @@
 #pragma once
 
-// The study window beside the main window ("study/window/study_form.h"). It is made at its first opening and kept; what
-// it is about is told to it: analyses that have finished.
+// Connects the study window ("study/window/study_form.h") with the main window. It is created on first use and kept,
+// and is told of finished analyses.
 
 #include <QWidget>
 #include <cstdint>
@@ -18,24 +18,23 @@ namespace quillon {
 
 class StudyView {
  public:
-  /// All that is given outlives the view.
+  /// All arguments outlive the view.
   StudyView(RangeDialogs& ranges, DialogSurroundings surroundings)
       : ranges_(ranges), around_(std::move(surroundings)) {}
 
-  /// Shows the window, about the last finished analysis where it was closed or never open, and brings it up as it is
-  /// where it is open.
+  /// Shows the window: as it is if it is open, otherwise about the last finished analysis.
   void Show();
 
-  /// The same, about the last finished analysis in any case, at a page of it and there at a hand.
+  /// The same, but always about the last finished analysis, at a page and there at a hand.
   void ShowPage(StudyTopic topic, std::optional<std::int16_t> hand);
 
   /// An analysis has finished.
   void Finish(const Analysis& analysis);
 
-  /// Where the window is, as settings; none while it is closed, for it has stored them then.
+  /// The window's place as settings; none while it is closed, since closing has stored them.
   [[nodiscard]] std::vector<IniSetting> PlaceSettings() const;
 
-  /// The window; null until it is opened first.
+  /// The window; null until it is first opened.
   [[nodiscard]] StudyForm* Loaded() const { return form_.get(); }
 
  private:

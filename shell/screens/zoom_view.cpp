@@ -19,7 +19,7 @@ ZoomView::ZoomView(QWidget& form, ProgramFolder folder) : form_(form), folder_(s
     QObject::connect(shortcut, &QShortcut::activated, &form_, [this, stepFrom] { Choose(stepFrom(percent_)); });
   };
   bind("Ctrl++", LargerZoom);
-  bind("Ctrl+=", LargerZoom);  // the same key without Shift, on many keyboards
+  bind("Ctrl+=", LargerZoom);  // the same key without Shift on many keyboards
   bind("Ctrl+-", SmallerZoom);
   bind("Ctrl+0", [](int /*percent*/) { return kDesignZoom; });
 }
@@ -33,7 +33,7 @@ void ZoomView::Start() {
 void ZoomView::Choose(int percent) {
   StoreZoom(percent, folder_);
   Show(percent);
-  // Those that are hidden come up where they are now.
+  // Hidden windows reappear at their current place.
   for (QWidget* window : QApplication::topLevelWidgets())
     KeepOnScreen(*window);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The zoom of the main window and of the dialogs beside it ("shell/window_zoom.h"), with its keys: Ctrl+Plus,
-// Ctrl+Minus and, for the size of the design, Ctrl+0. They are heard in every window but while a box wants an answer.
+// The zoom of the main window and its dialogs ("shell/window_zoom.h"), with its keys: Ctrl+Plus, Ctrl+Minus and, for
+// the original size, Ctrl+0. They work in every window unless a box is waiting for an answer.
 
 #include <QWidget>
 
@@ -12,10 +12,10 @@ namespace quillon {
 
 class ZoomView {
  public:
-  /// `form` is the main window, in its place in the layout.
+  /// `form` is the main window, at its layout size.
   ZoomView(QWidget& form, ProgramFolder folder);
 
-  /// Takes the zoom that is kept, or the one that fits the screen. Before any window shows.
+  /// Applies the stored zoom, or the one that fits the screen. Call before any window is shown.
   void Start();
 
   [[nodiscard]] int Percent() const { return percent_; }
