@@ -2,7 +2,7 @@
 
 #include <QtCore/QtGlobal>
 
-// The macro declares a function of the global namespace, so it can be neither in ours nor in an unnamed one.
+// The macro declares a function in the global namespace, so it cannot be used inside ours.
 static void InitResources() {
   Q_INIT_RESOURCE(artwork);
 }

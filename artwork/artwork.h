@@ -1,13 +1,13 @@
 #pragma once
 
-// The pictures of the window, compiled into the program: as SVG sources, or as the build has drawn them. A picture is
-// found among Qt's resources by "toolkit/artwork_painting.h", and its default size is the one that it has on a screen
-// of 96 dots to the inch. README.md beside this header tells what makes them one family.
+// The pictures of the window, compiled into the program: as SVG sources, or pre-rendered by the build.
+// "toolkit/artwork_painting.h" finds a picture among Qt's resources; its default size is that at 96 dots to the inch.
+// README.md in this folder explains their common style.
 
 namespace quillon {
 
-/// Makes the pictures findable. To be called once before the first of them is opened; calling it again changes nothing
-/// that can be seen. Without the call a picture's name may lead nowhere: a linker may drop data that nobody asks for.
+/// Registers the pictures. Call it once before the first of them is opened; further calls have no effect. Without it a
+/// picture may be missing, since a linker may drop unreferenced data.
 void InitArtwork();
 
 }  // namespace quillon

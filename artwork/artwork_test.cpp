@@ -40,7 +40,7 @@ TEST_F(ArtworkPicture, DrawsSomething) {
 TEST_F(ArtworkPicture, BackgroundsRunFromTheirColourToNearlyWhite) {
   struct Background {
     const char* Name = nullptr;
-    int Rim = 0;  // pixels round the gradient
+    int Rim = 0;  // pixels around the gradient
     QColor Top;
     QColor Bottom;
   };
@@ -51,7 +51,7 @@ TEST_F(ArtworkPicture, BackgroundsRunFromTheirColourToNearlyWhite) {
       Background{"legend_green.svg", 1, QColor(227, 254, 222), QColor(243, 255, 241)},
       Background{"legend_red.svg", 1, QColor(254, 93, 93), QColor(255, 241, 241)},
   };
-  // A small picture has few steps from top to bottom, and its outer ones are half way to the next.
+  // A small picture has few steps from top to bottom, and its outer ones are half-way to the next.
   const auto isNear = [](const QColor& a, const QColor& b, int tolerance) {
     return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&
            std::abs(a.blue() - b.blue()) <= tolerance;

@@ -33,7 +33,7 @@ QAccessible::Role RoleOf(const Control& control) {
   return qobject_cast<const Picture*>(&control) != nullptr ? QAccessible::Graphic : QAccessible::StaticText;
 }
 
-// By way of a key, so that an event filter that takes the keyboard away from the program takes this away, too.
+// Through a key event, so that an event filter that blocks the keyboard blocks this too.
 void SendSpace(QWidget& control, QEvent::Type type) {
   QKeyEvent space(type, Qt::Key_Space, Qt::NoModifier);
   QCoreApplication::sendEvent(&control, &space);
@@ -45,7 +45,7 @@ void SetChecked(QAccessible::State& state, Qt::CheckState check) {
   state.checkStateMixed = check == Qt::PartiallyChecked;
 }
 
-// Qt stops the mouse and the keyboard for it where the system's events come in, which a screen reader's press passes.
+// Qt blocks the mouse and the keyboard for it where system events arrive; a screen reader's press bypasses that.
 bool IsBehindAModalWindow(const QWidget& control) {
   const QWidget* const modal = QApplication::activeModalWidget();
   const QWidget* part = &control;
@@ -58,7 +58,7 @@ bool CanBePressed(const QWidget& control) {
   return control.isVisible() && control.isEnabled() && !IsBehindAModalWindow(control);
 }
 
-// What only looks nice: lines, grounds, and pictures of which there is nothing to say.
+// Purely decorative: lines, backgrounds, and pictures without a description.
 bool IsDecoration(const QWidget& part) {
   const auto* picture = qobject_cast<const Picture*>(&part);
   const bool speaks = picture != nullptr && (picture->CanBeClicked() || !picture->SpokenText().isEmpty());
@@ -104,7 +104,7 @@ class AccessibleControl : public AccessiblePart {
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return control_->SpokenText();
-    // Qt takes the tool tip where there is none; the one of a grid would be said at each of its cells.
+    // Without a description Qt would take the tool tip, and repeat a grid's at each of its cells.
     if (kind == QAccessible::Description && control_->CheckState()) return control_->accessibleDescription();
     return QAccessibleWidget::text(kind);
   }
@@ -129,7 +129,7 @@ class AccessibleControl : public AccessiblePart {
   Control* control_;
 };
 
-// Qt's own has what is chosen as its name, and nothing of the question. Its one child is the list that opens.
+// Qt's own is named after its selection and lacks the question. Its one child is the list that opens.
 class AccessibleChooser : public QAccessibleWidget {
  public:
   explicit AccessibleChooser(QComboBox* box) : QAccessibleWidget(box, QAccessible::ComboBox), box_(box) {
@@ -179,7 +179,7 @@ class AccessibleChooser : public QAccessibleWidget {
   QComboBox* box_;
 };
 
-// Qt's own presses a button by a timer and toggles a check box by no event at all.
+// Qt's own presses a button by a timer and toggles a check box without any event.
 class AccessibleButton : public QAccessibleWidget {
  public:
   AccessibleButton(QAbstractButton* button, QAccessible::Role role, QString action)
@@ -219,7 +219,7 @@ class AccessibleButton : public QAccessibleWidget {
   QString action_;
 };
 
-// Its name as people say it; Application::applicationName is for desktops.
+// The program's display name; Application::applicationName is for desktops.
 class AccessibleProgram final : public QAccessibleApplication {
  public:
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
@@ -237,12 +237,12 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
     return new AccessibleButton(button, QAccessible::Button, QAccessibleActionInterface::pressAction());
   }
   if (auto* chooser = qobject_cast<QComboBox*>(object)) return new AccessibleChooser(chooser);
-  // Asked about the class itself first and its bases later: what has an interface of its own has it by then.
+  // Called for the class itself first, then for its bases: a class with an interface of its own has it by then.
   auto* window = className == QStringLiteral("QWidget") ? qobject_cast<QWidget*>(object) : nullptr;
   if (window != nullptr && window->windowType() == Qt::Window) {
     return new AccessiblePart(window, QAccessible::Window);
   }
-  // What has a name of its own and no other role is heard as one: a grid, whose cells are its parts.
+  // A widget with a name and no other role is a group: a grid, whose cells are its parts.
   if (window != nullptr && !window->accessibleName().isEmpty())
     return new AccessiblePart(window, QAccessible::Grouping);
   return nullptr;
@@ -253,12 +253,12 @@ bool TellsThatSomethingComesOrGoes(QAccessible::Event type) {
          type == QAccessible::ObjectShow || type == QAccessible::ObjectHide || type == QAccessible::ObjectReorder;
 }
 
-// Every event of the program passes here. What is hidden has nothing to say, but for its being hidden.
+// Every accessibility event passes here. Hidden widgets send none, except that they are hidden.
 void PassOn(QAccessibleEvent* event) {
   const auto* widget = qobject_cast<const QWidget*>(event->object());
   if (widget != nullptr && IsDecoration(*widget)) return;
   if (widget != nullptr && !widget->isVisible() && !TellsThatSomethingComesOrGoes(event->type())) return;
-  // The interface of a table has learnt of it by now and would count it twice; nobody else wants it.
+  // The table's interface knows already and would count it twice; nobody else wants it.
   if (event->type() == QAccessible::TableModelChanged) return;
   QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(event);

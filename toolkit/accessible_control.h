@@ -1,9 +1,9 @@
 #pragma once
 
-// What a screen reader learns of the program. Labels and pictures are a piece of text or a picture, a link or a button
-// where they can be clicked, with the click as their action, and a check box where they have a check state. A drop-down
-// list has its question as name and what is chosen as description; top windows are windows. Actions count as a key:
-// where the program hears no keys, they do nothing. What is hidden says nothing and cannot be pressed.
+// The program for screen readers. Labels and pictures are text or pictures; clickable ones are links or buttons with
+// the click as their action; ones with a check state are check boxes. A drop-down list has its question as name and its
+// selection as description; top-level windows are windows. Actions count as keys: while the program ignores keys, they
+// do nothing. Hidden controls say nothing and cannot be pressed.
 
 #include <QString>
 
@@ -13,15 +13,15 @@ namespace quillon {
 
 class Application;
 
-/// Makes all that known to the accessibility interface. Called once, before the first form is built.
+/// Registers all that with the accessibility interface. Called once, before the first form is built.
 void InstallAccessibleControls(Application& application);
 
-/// Tells a screen reader that is listening that the control's spoken text has changed, or its check state.
+/// Notifies screen readers that the control's spoken text or check state has changed.
 void TellNameChanged(Control& control);
 void TellChecked(Control& control);
 
-/// Has a screen reader say the text once, when it has finished what it is saying. `speaker` is a control or a window
-/// that shows; what is hidden announces nothing. Application::Announced tells of it, too.
+/// Has a screen reader say the text once, after whatever it is saying. `speaker` is a visible control or window; hidden
+/// ones announce nothing. Also emits Application::Announced.
 void Announce(QWidget& speaker, const QString& text);
 
 }  // namespace quillon

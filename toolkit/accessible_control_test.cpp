@@ -34,7 +34,7 @@ QString NameOf(QWidget& control) {
   return Spoken(control).text(QAccessible::Name);
 }
 
-// As a screen reader hears a box, or a cell that is one, in each of its states.
+// The name and state of a check box, or of a cell that acts as one, in each of its states.
 template <typename Setter>
 void ExpectCheckStates(QWidget& control, const Setter& set) {
   struct Row {
@@ -222,7 +222,7 @@ TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
   EXPECT_FALSE(chooser.view()->isVisible());
 }
 
-// What the mouse and the keyboard cannot reach either.
+// Like the mouse and the keyboard.
 TEST(AccessibleControl, CannotBeUsedBehindAModalWindow) {
   QWidget window;
   Label link(&window);

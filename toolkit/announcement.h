@@ -1,14 +1,14 @@
 #pragma once
 
-// Announcements as the system's screen readers hear them.
+// Announcements through the system's screen readers.
 
 #include <QString>
 #include <QWidget>
 
 namespace quillon {
 
-/// Has a screen reader say the text when it has said what it is at, as from that control, which shows. Nothing happens
-/// where none listens.
+/// Has a screen reader say the text after its current one, on behalf of that visible control. Does nothing if none is
+/// listening.
 void SendAnnouncement(QWidget* speaker, const QString& text);
 
 }  // namespace quillon

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-// Qt before 6.8 has no event for an announcement; the signal is the one that it sends since, from the same connection.
+// Qt before 6.8 has no event for an announcement; this is the signal that later versions send, on the same connection.
 void SendAnnouncement(QWidget* speaker, const QString& text) {
   const QDBusConnection bus(QStringLiteral("a11y"));
   if (!bus.isConnected()) return;

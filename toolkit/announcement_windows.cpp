@@ -5,7 +5,7 @@
 namespace quillon {
 namespace {
 
-// What UI Automation has for this since the update 1709 of Windows 10, and mingw-w64's headers have not.
+// In UI Automation since Windows 10 update 1709, but missing in mingw-w64's headers.
 using HostProvider = HRESULT(WINAPI*)(HWND, IRawElementProviderSimple**);
 using RaiseNotification = HRESULT(WINAPI*)(IRawElementProviderSimple*, int kind, int processing, BSTR text,
                                            BSTR activity);

@@ -24,10 +24,10 @@
 namespace quillon {
 namespace {
 
-// What Qt says of itself as it starts.
+// Qt's messages during start.
 struct StartMessages {
   QStringList All;
-  QString NoDisplay;  // the first that tells of a display
+  QString NoDisplay;  // the first one about a display
 };
 
 StartMessages& Heard() {
@@ -43,10 +43,10 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
       heard.NoDisplay = text.trimmed();
     return;
   }
-  // Qt goes on to abort.
+  // Qt then aborts.
   const std::string reason =
       FromQt(heard.NoDisplay.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : heard.NoDisplay);
-  // Qt looks for the part that knows a display before it looks for the display.
+  // Qt looks for its platform plug-in before it looks for the display.
   const bool incomplete = reason.starts_with("Could not find");
   const std::string message = incomplete
                                   ? "Quillon cannot show its window, and may have to be installed or unpacked again: "
@@ -67,16 +67,16 @@ QWidget* WindowOf(const QWidget& control) {
   return window;
 }
 
-// The menu key asks for its menu by an event that is none of a key.
+// The menu key sends no key event but a context menu event.
 bool IsOfKey(const QEvent& event) {
   const auto* const menu = dynamic_cast<const QContextMenuEvent*>(&event);
   if (menu != nullptr) return menu->reason() == QContextMenuEvent::Keyboard;
   return dynamic_cast<const QKeyEvent*>(&event) != nullptr;
 }
 
-// Nothing for an event that is not an act of the user, or not yet one on a control.
+// Nothing for an event that is not a user's action, or not on a control yet.
 std::optional<UserAct> ActOf(QObject* receiver, const QEvent& event) {
-  // A shortcut may be that of another window than the one in front, in which the key was pressed.
+  // A shortcut may belong to another window than the active one, in which the key was pressed.
   if (event.type() == QEvent::Shortcut) return UserAct{.ByKey = true, .Window = QApplication::activeWindow()};
   const auto* control = event.isInputEvent() ? qobject_cast<const QWidget*>(receiver) : nullptr;
   if (control == nullptr) return {};
@@ -86,7 +86,7 @@ std::optional<UserAct> ActOf(QObject* receiver, const QEvent& event) {
 }  // namespace
 
 std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
-  // The style works lengths out for 96 dots to the inch, and the program's scale comes on top.
+  // The style computes lengths for 96 dots to the inch; the program's scale is applied on top.
   QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
   std::optional<QtScalingOff> scalingOff(std::in_place);
   const QtMessageHandler before = qInstallMessageHandler(HearStart);
@@ -100,11 +100,11 @@ std::unique_ptr<Application> StartApplication(int& argc, char** argv) {
 }
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-  // X11 calls the class of its windows by the application's name, and Wayland by that of the desktop file.
+  // The application's name becomes X11's window class; Wayland uses the name of the desktop file.
   setApplicationName(QStringLiteral(QUILLON_APPLICATION_ID));
   setDesktopFileName(QStringLiteral(QUILLON_APPLICATION_ID));
-  // Qt's file dialog keeps a history in the user's home; the program keeps nothing outside its own folder. On Windows
-  // the history is in the registry, where no path leads.
+  // Qt's file dialog stores a history in the user's home; the program writes nothing outside its own folder. On Windows
+  // the history goes to the registry, which no path reaches.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
   LoadFonts();
   UseLightLook();
@@ -150,7 +150,7 @@ void EndWithFault(const std::string& text) {
     box.exec();
     HandOverClipboard();
   }
-  // At once: handlers further out, and what they hold, belong to a program that has ended.
+  // At once: no destructors, and no handlers further out, may run any more.
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The program's outermost frame. A fault that nothing has caught on its way ends here: its text is written to standard
-// error, shown in a message box with the stop icon, and the process ends with exit status 1.
+// The program's outermost frame. An uncaught fault ends here: its text is written to standard error and shown in a
+// message box with the stop icon, and the process exits with status 1.
 
 #include <QApplication>
 #include <QPointer>
@@ -13,10 +13,10 @@
 
 namespace quillon {
 
-/// What a user does that the program answers.
+/// A user's action that the program responds to.
 struct UserAct {
   bool ByKey = false;
-  QPointer<QWidget> Window;  // where; a list that is open belongs to the window of its box
+  QPointer<QWidget> Window;  // where it happened; an open list belongs to the window of its box
 };
 
 class Application : public QApplication {
@@ -25,18 +25,18 @@ class Application : public QApplication {
  public:
   Application(int& argc, char** argv);
 
-  /// Events are handled one at a time, each of them here; what escapes a handler goes no further.
+  /// Passes every event on; an exception that escapes its handler ends here.
   bool notify(QObject* receiver, QEvent* event) override;
 
  Q_SIGNALS:
   void Announced(QWidget* speaker, const QString& text);  // to a screen reader ("toolkit/accessible_control.h")
 };
 
-/// The act that the program answers at this moment; of two, one within the other, the inner one. A long answer, such as
-/// a run, stays that of the act that started it, whatever keys and clicks are answered meanwhile.
+/// The action being handled; if nested, the innermost. A long response, such as a run, belongs to the action that
+/// started it, whatever keys and clicks are handled meanwhile.
 [[nodiscard]] UserAct AnsweredAct();
 
-/// Makes what is done while it lives the answer to that act: each event has one, and so has news that comes later.
+/// During its lifetime, whatever is done is a response to this action: for each event, and for later consequences.
 class Answering {
  public:
   explicit Answering(UserAct act);
@@ -50,23 +50,22 @@ class Answering {
   UserAct outer_;
 };
 
-/// Whether it is a key that is being answered. What a key reaches or opens is to have the focus, and to show it.
+/// Whether the action is a key. What a key reaches or opens should get the focus and show it.
 [[nodiscard]] bool AnswersKey();
 
-/// The window that a box which comes up at this moment belongs to: the one whose user is being answered, or else the
-/// one in front. Null where neither can be seen.
+/// The window that a box opened now belongs to: that of the action being handled, or else the active one. Null if
+/// neither is visible.
 [[nodiscard]] QWidget* AskingWindow();
 
-/// The application, once it has a display. Without one, a line on standard error says so, with Qt's reason, and the
-/// process ends with status 1.
+/// The application, once it has a display. Without one, prints a line with Qt's reason to standard error and exits with
+/// status 1.
 [[nodiscard]] std::unique_ptr<Application> StartApplication(int& argc, char** argv);
 
-/// Tells of the fault and ends the process; the box says that it does. With no window system to show it in, the text on
-/// standard error is all.
+/// Shows the fault and ends the process. Without a window system, it is only written to standard error.
 [[noreturn]] void EndWithFault(const std::string& text);
 
-/// The text of the exception being handled: that of a RunTimeError as it is; of another, the nearest
-/// run-time error. Called inside a catch clause only.
+/// The text of the exception being handled: that of a RunTimeError, or of the nearest run-time error for any other.
+/// Call only inside a catch clause.
 [[nodiscard]] std::string CurrentFaultText();
 
 }  // namespace quillon

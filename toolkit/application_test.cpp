@@ -45,7 +45,7 @@ TEST(ApplicationFault, HasTheTextOfTheErrorThatComesNearest) {
   EXPECT_EQ(TextOf(42), "Run-time error '51': Internal error");
 }
 
-// What is on the screen when the process ends can be told by that process alone, so it writes it to standard error.
+// Only the process itself can tell what is on its screen when it ends, so it writes that to standard error.
 void TellOfTheBox() {
   ExpectDialog([](QDialog& dialog) {
     const auto& box = dynamic_cast<QMessageBox&>(dialog);
@@ -56,7 +56,7 @@ void TellOfTheBox() {
   });
 }
 
-// A handler fails within two others, which must not go on.
+// A handler fails within two others, which must not continue.
 void FailInAHandler() {
   TellOfTheBox();
   std::atexit([] { std::cerr << "at exit\n"; });
@@ -74,7 +74,7 @@ void FailInAHandler() {
   QTest::mouseClick(&outer, Qt::LeftButton);
 }
 
-// The test program starts itself anew for these.
+// The test program restarts itself for these.
 class ApplicationEnd : public testing::Test {
  protected:
   ApplicationEnd() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
@@ -96,7 +96,7 @@ TEST_F(ApplicationEnd, OfAFaultOutsideAHandlerIsTheSame) {
               AllOf(HasSubstr("It is over.\n"), HasSubstr("[|Quillon|3|It is over.\n\nQuillon ends now.]\n")));
 }
 
-// Right after a box no window is in front.
+// Right after a box no window is active.
 void FailAfterABox() {
   QWidget window;
   window.setObjectName(QStringLiteral("frmManager"));

@@ -8,7 +8,7 @@ QString ArtworkFile(const QString& name) {
   return QStringLiteral(":/artwork/%1.png").arg(name);
 }
 
-// Scaled as an image: a painter would take a few of the pixels and leave the others out.
+// Scaled as an image: a painter would sample only a few of its pixels.
 bool PaintArtwork(const QString& name, QPainter& painter, const QRectF& rectangle) {
   const QImage drawn(ArtworkFile(name));
   if (drawn.isNull()) return false;

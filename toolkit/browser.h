@@ -1,6 +1,6 @@
 #pragma once
 
-// Addresses of the web, shown in the user's browser by the desktop's own opener, `xdg-open`.
+// Opens web addresses in the user's browser through the desktop's opener, `xdg-open`.
 
 #include <QUrl>
 #include <filesystem>
@@ -8,13 +8,13 @@
 
 namespace quillon {
 
-/// The address of a file whose path is absolute, byte by byte: a name need not be UTF-8.
+/// The address of a file with an absolute path, byte by byte: a name need not be UTF-8.
 ///
 ///     /home/ann/K\xE4se.html -> file:///home/ann/K%E4se.html
 [[nodiscard]] QUrl AddressOfFile(const std::filesystem::path& file);
 
-/// Shows the address in the browser, and returns at once. Where there is no browser, `missing` is called from the event
-/// loop soon after, in answer to the same act of the user's ("toolkit/application.h").
+/// Opens the address in the browser and returns at once. If there is no browser, `missing` is called from the event
+/// loop soon after, in response to the same user action ("toolkit/application.h").
 void OpenInBrowser(const QUrl& address, std::function<void()> missing);
 
 }  // namespace quillon

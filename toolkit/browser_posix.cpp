@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-// Some openers last as long as the browser does; what becomes of a browser that was there is none of our business.
+// Some openers run as long as the browser; after this time an exit no longer means that there is none.
 constexpr qint64 kLongEnoughForABrowser = 10'000;
 
 }  // namespace
@@ -22,7 +22,7 @@ QUrl AddressOfFile(const std::filesystem::path& file) {
 
 void OpenInBrowser(const QUrl& address, std::function<void()> missing) {
   auto* opener = new QProcess(qApp);
-  // A session of its own: the browser stays when the terminal of the program is closed.
+  // In a session of its own, so that the browser survives closing the program's terminal.
   opener->setChildProcessModifier([] { setsid(); });
   opener->setStandardInputFile(QProcess::nullDevice());
   opener->setStandardOutputFile(QProcess::nullDevice());

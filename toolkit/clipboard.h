@@ -1,13 +1,12 @@
 #pragma once
 
-// What is copied lives in the program that it was copied in, and would be gone with it.
+// Copied data lives in the process that copied it, and is lost when it exits.
 
 namespace quillon {
 
-/// Hands what was copied in this program to the system, which keeps it from then on. Under X11 it goes to the clipboard
-/// manager where the desktop runs one (the target SAVE_TARGETS of the X clipboard manager convention), and the call
-/// returns when that has it, after a second at the latest. Nothing happens where there is no manager, or where another
-/// program has copied since.
+/// Hands what this program has copied to the system. Under X11 it goes to the clipboard manager if the desktop has one
+/// (the target SAVE_TARGETS of the X clipboard manager convention), and the call returns once that has it, after a
+/// second at most. Does nothing if there is no manager, or if another program has copied since.
 void HandOverClipboard();
 
 }  // namespace quillon

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{1};
 
-// The replies of the X server are the caller's to free.
+// Frees the X server's replies.
 template <typename Reply>
 std::unique_ptr<Reply, decltype(&std::free)> Own(Reply* reply) {
   return {reply, &std::free};
@@ -34,7 +34,7 @@ bool HasOwner(xcb_connection_t* screen, xcb_atom_t selection) {
   return reply != nullptr && reply->owner != XCB_NONE;
 }
 
-// A window that only represents the program in the exchange, and is never shown.
+// A window that represents the program in the exchange and is never shown.
 xcb_window_t MakeRequestor(xcb_connection_t* screen) {
   const xcb_window_t window = xcb_generate_id(screen);
   const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(screen)).data->root;
@@ -43,7 +43,7 @@ xcb_window_t MakeRequestor(xcb_connection_t* screen) {
   return window;
 }
 
-// Ends the loop when the manager says that it is done.
+// Ends the loop when the manager reports success.
 class Answer : public QAbstractNativeEventFilter {
  public:
   Answer(xcb_window_t requestor, QEventLoop& loop) : requestor_(requestor), loop_(loop) {}
@@ -77,7 +77,7 @@ void HandOverClipboard() {
   const xcb_atom_t all = Atom(screen, "SAVE_TARGETS");
   xcb_convert_selection(screen, requestor, manager, all, all, XCB_CURRENT_TIME);
   xcb_flush(screen);
-  // The manager asks for the texts, and Qt answers it from the loop.
+  // The manager requests the texts, and Qt answers from the loop.
   QTimer patience;
   QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
   patience.start(kPatience);

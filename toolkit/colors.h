@@ -1,6 +1,6 @@
 #pragma once
 
-// Colours of the layouts and of the logic as Qt's.
+// Colours of the layouts and of the logic as Qt colours.
 
 #include <QColor>
 #include <cstdint>

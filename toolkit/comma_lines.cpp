@@ -20,7 +20,7 @@ int LineLength(const QString& text, int start, double width, const QFont& font) 
   int fitting = 0;
   int parts = 0;  // up to the last comma or space that fits
   while (fitting < rest) {
-    // A space at the end of a line takes up no room.
+    // A trailing space takes no room.
     const QStringView line = QStringView(text).mid(start, fitting + 1);
     const bool space = line.back() == QLatin1Char(' ');
     if (!space && metrics.horizontalAdvance(line.toString()) > width) break;
@@ -35,13 +35,13 @@ CommaLines::CommaLines(QPlainTextEdit& box) : QPlainTextDocumentLayout(box.docum
   box.document()->setDocumentLayout(this);
 }
 
-// Qt's own layout takes the lines that a block has, and breaks only what has none.
+// Qt's own layout uses existing lines of a block, and only breaks a block without any.
 QRectF CommaLines::blockBoundingRect(const QTextBlock& block) const {
   if (block.isValid() && block.layout()->lineCount() == 0) LayOut(block);
   return QPlainTextDocumentLayout::blockBoundingRect(block);
 }
 
-// Qt breaks a block that has changed at once, in its own way.
+// Qt breaks a changed block at once, in its own way.
 void CommaLines::documentChanged(int from, int removed, int added) {
   QPlainTextDocumentLayout::documentChanged(from, removed, added);
   for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
@@ -55,7 +55,7 @@ void CommaLines::LayOut(QTextBlock block) const {
   const QString text = block.text();
   QTextLayout& layout = *block.layout();
   QTextOption option = document()->defaultTextOption();
-  option.setWrapMode(QTextOption::WrapAnywhere);  // a line has as many letters as it is told
+  option.setWrapMode(QTextOption::WrapAnywhere);  // the number of letters per line is set explicitly
   layout.setTextOption(option);
   layout.beginLayout();
   double height = 0;

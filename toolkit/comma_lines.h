@@ -1,19 +1,19 @@
 #pragma once
 
-// Lines for the texts of ranges, such as "AA-TT,AKs,KQs+ | Half: 99": a line ends after a comma or a space and never
-// within a hand. Left to itself a text box breaks after the hyphen of a run and, where it finds no space, between any
-// two letters, since a comma with no space after it could be that of a number.
+// Line breaks for range texts, such as "AA-TT,AKs,KQs+ | Half: 99": a line ends after a comma or a space and never
+// within a hand. By default a text box breaks after the hyphen of a run and, without a space, between any two letters,
+// since a comma without a space could belong to a number.
 
 #include <QPlainTextDocumentLayout>
 #include <QPlainTextEdit>
 
 namespace quillon {
 
-/// How many letters of `text`, from `start` on, go into a line of that width: up to the last comma or space that fits,
-/// or as many as fit where there is none. At least 1.
+/// How many letters of `text`, from `start` on, fit on a line: up to the last comma or space that fits, or as many as
+/// fit if there is none. At least 1.
 [[nodiscard]] int LineLength(const QString& text, int start, double width, const QFont& font);
 
-/// Lays out the text of a box in this way, whatever its width becomes.
+/// Lays out the text of a box this way, at any width.
 class CommaLines : public QPlainTextDocumentLayout {
   Q_OBJECT
 

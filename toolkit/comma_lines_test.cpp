@@ -30,7 +30,7 @@ class CommaLinesTest : public testing::Test {
   CommaLinesTest() {
     Box.setFont(FormFont({.Family = "Courier New", .Points = 9}, {}));
     Box.document()->setDocumentMargin(4);
-    new CommaLines(Box);  // the document's from now on
+    new CommaLines(Box);  // owned by the document
     Box.show();
   }
   void TearDown() override { ShowAtScale(1); }

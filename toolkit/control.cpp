@@ -9,7 +9,7 @@
 namespace quillon {
 namespace {
 
-// Hears whether a box comes up over a window while this lives.
+// Notices whether a box opens over a window during its lifetime.
 class BoxWatch : public QObject {
  public:
   explicit BoxWatch(QWidget& window) { window.installEventFilter(this); }
@@ -79,7 +79,7 @@ void Control::mouseReleaseEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint())) Q_EMIT Clicked();
 }
 
-// Accepted as it is, so that a move over a control never counts as one over the frame under it.
+// Accepted, so that a move over a control never counts as one over the frame under it.
 void Control::mouseMoveEvent(QMouseEvent* /*event*/) {
   Q_EMIT MouseMoved();
 }
@@ -98,7 +98,7 @@ void Control::focusInEvent(QFocusEvent* event) {
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) Q_EMIT FocusReached();
 }
 
-// A menu brings the focus back when it closes.
+// A menu returns the focus when it closes.
 void Control::focusOutEvent(QFocusEvent* event) {
   if (event->reason() != Qt::PopupFocusReason) Q_EMIT FocusLeft();
 }
@@ -111,7 +111,7 @@ void Control::leaveEvent(QEvent* /*event*/) {
   update();
 }
 
-// A control that went away with its screen is not told that the mouse has left it.
+// A control hidden with its screen gets no leave event.
 void Control::hideEvent(QHideEvent* /*event*/) {
   held_ = false;
   setAttribute(Qt::WA_UnderMouse, false);

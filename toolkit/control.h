@@ -1,9 +1,8 @@
 #pragma once
 
-// What labels, pictures and frames have in common: they hear the mouse, and those that can be clicked hear the keyboard
-// as well. The mouse gives the focus to none of them, unless it is asked to, so a box that is being typed into keeps it
-// while a link is clicked. A click is a press and a release of the left button over the control, or Enter or Space
-// while the control has the focus; a second quick click is another click.
+// The base of labels, pictures and frames: they react to the mouse, and clickable ones to the keyboard as well. By
+// default a mouse click does not move the focus, so a box keeps it while a link is clicked. A click is a press and
+// release of the left button over the control, or Enter or Space while it has the focus; a double click is two clicks.
 
 #include <QRect>
 #include <QString>
@@ -25,36 +24,36 @@ class Control : public QWidget {
  public:
   explicit Control(QWidget* parent);
 
-  /// Makes the control a link or plain again: the cursor over it, and whether Tab reaches it.
+  /// Sets whether the control is clickable: its cursor, and whether Tab reaches it.
   void SetUse(ControlUse use);
   [[nodiscard]] ControlUse Use() const { return use_; }
   [[nodiscard]] bool CanBeClicked() const { return use_ != ControlUse::kPassive; }
 
-  /// Does what a click does.
+  /// Acts as if clicked.
   void Click();
 
-  /// Gives the control the focus. False if a box came up meanwhile, from whoever lost the focus: the press that was to
-  /// follow is not wanted any more.
+  /// Focuses the control. False if that opened a box, from the control that lost the focus: the press should then be
+  /// dropped.
   bool TakeFocus(Qt::FocusReason reason);
 
-  /// What the mark of the focus goes round: the control itself, unless it is only a part of what is seen as one.
+  /// The widget that the focus mark surrounds: the control itself, unless it is part of a larger visual unit.
   [[nodiscard]] const QWidget& MarkedPlace() const { return markedPlace_ == nullptr ? *this : *markedPlace_; }
   void SetMarkedPlace(const QWidget& place) { markedPlace_ = &place; }
 
-  /// Makes the control one that is checked and unchecked, for somebody who cannot see it, and gives it that state.
+  /// Makes the control a check box for screen readers, in this state.
   void SetCheckState(Qt::CheckState state);
   [[nodiscard]] std::optional<Qt::CheckState> CheckState() const { return checkState_; }
 
-  /// What the control says of itself to somebody who cannot see it.
+  /// The control's name for screen readers.
   [[nodiscard]] virtual QString SpokenText() const { return accessibleName(); }
 
  Q_SIGNALS:
   void Clicked();
-  void Pressed();  // the left mouse button went down on it
-  void Released();  // and up again, wherever that was
+  void Pressed();  // the left mouse button was pressed on it
+  void Released();  // and released, anywhere
   void MouseMoved();  // over it, with or without a button
   void FocusReached();  // by Tab
-  void FocusLeft();  // for whatever reason
+  void FocusLeft();  // for any reason
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The name of a control, checked against the layout of its form as the program is compiled: a name that no row has does
-// not compile, nor does one whose row makes another kind of control than the one asked for.
+// The name of a control, checked against the form's layout at compile time: a name without a row, or whose row makes
+// another kind of control, does not compile.
 
 #include <concepts>
 #include <span>
@@ -57,10 +57,10 @@ template <typename Widget>
   return false;
 }
 
-/// What the compiler stops at. It is not defined.
+/// Not defined, so that a wrong name does not compile.
 void TheLayoutHasNoSuchControl();
 
-/// The name of a `Widget` in `kLayout`, a table of ControlTable. Write the name where a key is wanted.
+/// The name of a `Widget` in `kLayout`, a table of ControlTable. Converts from a string literal.
 template <const auto& kLayout, typename Widget = QWidget>
 class ControlKey {
  public:

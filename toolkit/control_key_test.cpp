@@ -15,7 +15,7 @@ constexpr std::array kPanelRows = {ControlRow{.Name = "txtNotes", .Kind = Contro
 constexpr std::array kLayout = {ControlTable{.Container = "", .Font = {}, .Rows = kScreenRows},
                                 ControlTable{.Container = "", .Font = {}, .Rows = kPanelRows}};
 
-// What a key is stopped by as it is compiled.
+// The check that stops a wrong key at compile time.
 static_assert(HasControl<Label>(kLayout, "lblPot"));
 static_assert(HasControl<Label>(kLayout, "lblNav"));
 static_assert(HasControl<Control>(kLayout, "lblPot"));

@@ -1,8 +1,8 @@
 #pragma once
 
-// A screen as a table: one row for each control, with its name, its place in twips, its colours and its font. A form is
-// built from such rows ("toolkit/form_builder.h"), and tests and pictures of the screens walk the same ones. Of two
-// controls that overlap, the one whose row comes first is in front.
+// A screen as a table: one row for each control, with its name, its place in twips, its colours and its font. Forms are
+// built from these rows ("toolkit/form_builder.h"), and tests and screenshots use them too. If two controls overlap,
+// the one whose row comes first is in front.
 
 #include <cstdint>
 #include <span>
@@ -32,25 +32,25 @@ enum class ControlKind : std::uint8_t {
 
 enum class TextAlignment : std::uint8_t { kLeft, kCentered, kRight };
 
-/// What a control does with the mouse and the keyboard.
+/// How a control reacts to mouse and keyboard.
 enum class ControlUse : std::uint8_t {
-  kPassive,  // nothing can be done with it
-  kLink,  // a click is heard; the hand cursor shows over it, and Tab reaches it
-  kFocusLink,  // the same, and a click of the mouse takes the keyboard focus, too
-  kPlainLink,  // a click is heard and Tab reaches it, under the ordinary cursor
+  kPassive,  // not at all
+  kLink,  // clickable, with the hand cursor, and Tab reaches it
+  kFocusLink,  // the same, and a mouse click focuses it
+  kPlainLink,  // clickable, and Tab reaches it, with the ordinary cursor
 };
 
 enum class LineStyle : std::uint8_t { kSolid, kDotted, kNone };
 
-/// A colour in the form 0xRRGGBB, as the tables of controls give it, or no colour of its own.
+/// No colour of its own. Colours in tables of controls have the form 0xRRGGBB.
 inline constexpr std::int32_t kNoColor = -1;
 /// The window system's colour for the background and the text of a window.
 inline constexpr std::int32_t kWindowColor = -2;
 inline constexpr std::int32_t kWindowTextColor = -3;
 
 struct FontSpec {
-  std::string_view Family = {};  // empty: the font of the frame that holds the control
-  float Points = 0;  // at 96 dots to the inch, whatever the screen says
+  std::string_view Family = {};  // empty: the font of the containing frame
+  float Points = 0;  // at 96 dots to the inch, whatever the screen reports
   bool Bold = false;
   bool Underlined = false;
 };
@@ -76,7 +76,7 @@ constexpr FontSpec Underlined(FontSpec font) {
   return font;
 }
 
-/// The index of a control that alone has its name.
+/// The index of a control with a unique name.
 inline constexpr std::int16_t kNoIndex = -1;
 
 struct ControlRow {
@@ -94,19 +94,19 @@ struct ControlRow {
   bool Cut = false;  // a label's text that is too wide ends with an ellipsis, and the label does not grow
   LineStyle Style = LineStyle::kSolid;
   std::int16_t LineWidth = 1;  // pixels
-  std::string_view Picture = {};  // the file in "artwork/" less its extension
+  std::string_view Picture = {};  // the file in "artwork/" without its extension
   std::string_view ToolTip = {};
-  std::string_view Spoken = {};  // what a screen reader calls it; empty: its text
+  std::string_view Spoken = {};  // the name for screen readers; empty: its text
 };
 
 /// The rows of one container: the form itself, one screen, or a frame within a screen.
 struct ControlTable {
   std::string_view Container;  // the object name of the frame, such as "frameContent(0)"; empty: the form
-  FontSpec Font;  // of every row that names none
+  FontSpec Font;  // for every row without one
   std::span<const ControlRow> Rows;
 };
 
-/// The name by which a control is found: "txtNumber(2)", or "picLogo" if it alone has its name.
+/// A control's object name: "txtNumber(2)", or "picLogo" for a unique name.
 [[nodiscard]] std::string ObjectName(std::string_view name, std::int16_t index = kNoIndex);
 
 }  // namespace quillon

@@ -16,8 +16,8 @@
 namespace quillon {
 namespace {
 
-// A text box and one control of each use, on a frame that fills a form. Everything goes through the window, so what
-// lies where, and what has the focus, decides who hears it.
+// A text box and one control of each use, on a frame that fills a form. Events go through the window, so geometry and
+// focus decide who gets them.
 class ControlTest : public testing::Test {
  public:
   ControlTest() {
@@ -186,8 +186,7 @@ TEST_F(ControlTest, TellsThatTheKeyboardReachedItButNotThatTheMouseDid) {
   EXPECT_EQ(byMouse.count(), 0);
 }
 
-// Whoever has the focus may have something to say when it goes: the press has gone to that, and the button comes up
-// over it.
+// Losing the focus may open a box, which then takes the press; the button must not stay down.
 TEST_F(ControlTest, IsNotPressedWhereABoxComesUpInBetween) {
   const QSignalSpy presses(&focusLink, &Control::Pressed);
   const QSignalSpy clicks(&focusLink, &Control::Clicked);

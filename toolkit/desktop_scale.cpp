@@ -18,7 +18,7 @@ double FactorOr(const QByteArray& text, double otherwise) {
   return factor > 0 ? factor : otherwise;
 }
 
-// 0 where the user has set none for the screen.
+// 0 if the user has set none for the screen.
 double FactorOf(const QScreen* screen) {
   const qsizetype order = QGuiApplication::screens().indexOf(screen);
   const QByteArray name = screen == nullptr ? QByteArray() : screen->name().toUtf8();

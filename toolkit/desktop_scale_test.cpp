@@ -7,7 +7,7 @@
 namespace quillon {
 namespace {
 
-// The one screen of the tests is called "test" and has 96 dots to the inch.
+// The only screen of the tests is called "test" and has 96 dots to the inch.
 struct ScaleCase {
   const char* Factor;
   const char* ScreenFactors;

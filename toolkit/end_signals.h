@@ -10,15 +10,15 @@ namespace quillon {
 
 class EndSignals {
  public:
-  /// From now on `end` is called when the process is asked to end: from the event loop, and on Windows before the
-  /// answer to the system, which ends the process then. A signal that the process was started to ignore, as by nohup,
-  /// stays ignored. There may be one such object at a time.
+  /// Calls `end` when the process is asked to end: from the event loop, and on Windows before the system's message is
+  /// answered, which ends the process. A signal that was ignored at start, as by nohup, stays ignored. Only one such
+  /// object may exist at a time.
   explicit EndSignals(std::function<void()> end);
   EndSignals(const EndSignals&) = delete;
   EndSignals(EndSignals&&) = delete;
   EndSignals& operator=(const EndSignals&) = delete;
   EndSignals& operator=(EndSignals&&) = delete;
-  /// The signals do again what they did before.
+  /// Restores the signals' old handlers.
   ~EndSignals();
 
  private:

@@ -1,5 +1,4 @@
-// A handler of a signal may do next to nothing, so it only writes a byte into a pipe, and the event loop reads it
-// there.
+// A signal handler may do almost nothing, so it only writes a byte to a pipe, which the event loop reads.
 
 #include <QSocketNotifier>
 #include <array>
@@ -18,13 +17,13 @@ namespace {
 
 constexpr std::array kSignals = {SIGHUP, SIGINT, SIGTERM};
 
-// A handler knows nothing but what is global.
+// Global, for the handler.
 std::atomic<int> wakeUpEnd = -1;
 
 void WakeUp(int /*signal*/) {
   const int error = errno;
   constexpr char kByte = 0;
-  // A full pipe wakes the event loop as well.
+  // A full pipe wakes the event loop too.
   if (write(wakeUpEnd, &kByte, 1) < 0) errno = error;
 }
 

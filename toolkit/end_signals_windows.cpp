@@ -7,14 +7,14 @@
 
 namespace quillon {
 
-// The system ends the process when the message is answered, so everything is done before that.
+// The system ends the process once the message is answered, so everything is done before that.
 class EndSignals::Watch final : public QAbstractNativeEventFilter {
  public:
   explicit Watch(std::function<void()> end) : end_(std::move(end)) { qGuiApp->installNativeEventFilter(this); }
 
   bool nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr* /*result*/) override {
     const auto* const told = static_cast<const MSG*>(message);
-    // Told to each window of the process; a session that goes on after all is told too, with 0.
+    // Sent to each window of the process; also sent, with 0, if the session goes on after all.
     if (told->message == WM_ENDSESSION && told->wParam != 0 && !std::exchange(isEnding_, true)) end_();
     return false;
   }

@@ -15,11 +15,11 @@
 namespace quillon {
 namespace {
 
-// Of any colour, one of the two is at least 4:1 apart.
+// Against any colour, one of the two has a contrast of at least 4:1.
 constexpr QColor kDark(0x10, 0x20, 0x30);
 constexpr QColor kPale(0xFF, 0xFF, 0xFF);
 constexpr int kDarkLine = 2;
-constexpr int kPaleLine = 1;  // no wider than it must be: it lies over what is close to the control
+constexpr int kPaleLine = 1;  // as thin as possible, since it covers what is next to the control
 
 bool IsMarkedByItsForm(const QWidget& control) {
   const auto* box = qobject_cast<const QLineEdit*>(&control);
@@ -31,7 +31,7 @@ const QWidget& PlaceOf(const QWidget& control) {
   return ours == nullptr ? control : ours->MarkedPlace();
 }
 
-// A text without a frame has a margin, and the mark has room there.
+// A text without a frame has a margin with room for the mark.
 bool IsMarkedInside(const QWidget& control) {
   const auto* text = qobject_cast<const QPlainTextEdit*>(&control);
   return text != nullptr && text->frameShape() == QFrame::NoFrame;

@@ -1,10 +1,9 @@
 #pragma once
 
-// The mark round the control that has the keyboard, one for each window and in front of all that is in it: a dark line
-// with a pale one round it, so that one of the two stands out from whatever it is on. It shows where Tab or a shortcut
-// has brought the focus, and where the program has in answer to a key ("toolkit/application.h"). The mouse shows none.
-// It goes while another window is in front. A text box without a frame has none: the form shows there by its own line
-// who has the focus.
+// The mark around the focused control, one for each window and in front of everything: a dark line inside a pale one,
+// so that one of the two stands out from any background. It appears when Tab or a shortcut moves the focus, or the
+// program does in response to a key ("toolkit/application.h"), but not for the mouse, nor while another window is
+// active. A text box without a frame has none: the form's own border line shows its focus.
 
 #include <QFocusFrame>
 #include <QPointer>
@@ -15,10 +14,10 @@ class FocusMark : public QFocusFrame {
   Q_OBJECT
 
  public:
-  /// The mark of that window, hidden.
+  /// A hidden mark for that window.
   explicit FocusMark(QWidget& window);
 
-  /// Lets that part of the window lie in front of the mark. It outlives the mark.
+  /// Keeps the mark behind that part of the window, which outlives it.
   void StayBehind(const QWidget& panel) { panel_ = &panel; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,9 +33,9 @@ class FocusMark : public QFocusFrame {
 
   QWidget& window_;
   const QWidget* panel_ = nullptr;
-  QPointer<QWidget> control_;  // the last that had the focus
-  bool marked_ = false;  // whether it was marked then
-  bool shownByKey_ = false;  // the window, when it came up last
+  QPointer<QWidget> control_;  // the last one focused
+  bool marked_ = false;  // whether it had the mark
+  bool shownByKey_ = false;  // whether the window was last activated by a key
 };
 
 }  // namespace quillon

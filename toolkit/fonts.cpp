@@ -9,7 +9,7 @@
 #include "toolkit/text.h"
 #include "toolkit/twip_geometry.h"
 
-// The macro declares a function of the global namespace, so it can be neither in ours nor in an unnamed one.
+// The macro declares a function in the global namespace, so it cannot be used inside ours.
 static void InitResources() {
   Q_INIT_RESOURCE(quillon_fonts);
 }
@@ -48,7 +48,7 @@ int FontPixels(float points) {
   return static_cast<int>(std::lround(points * 96 / 72));
 }
 
-// Rounded down: a text that grew more than its place would run into what is beside it. Hinted in height alone, so that
+// Rounded down: a text that grew more than its place would overlap its neighbours. Hinted vertically only, so that
 // letters are alike on every system.
 void SizeFont(QFont& font, float points) {
   font.setPixelSize(std::max(1, static_cast<int>(std::floor(FontPixels(points) * PixelScale()))));

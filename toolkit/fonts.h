@@ -1,9 +1,8 @@
 #pragma once
 
-// The fonts of the layouts. They name fonts of another platform. The program draws with free fonts of the same measures
-// instead, which are compiled in, so that the window looks the same on every machine. Sizes are in points of 96 dots to
-// the inch, so they become pixels here, by the scale of the program ("toolkit/twip_geometry.h"), and do not change with
-// what the screen reports of itself.
+// The fonts of the layouts, which name fonts of another platform. The program uses free, metrically compatible fonts,
+// compiled in, so that the window looks the same on every machine. Sizes are in points at 96 dots to the inch and are
+// converted to pixels here, by the program's scale ("toolkit/twip_geometry.h"), whatever the screen reports.
 
 #include <QFont>
 #include <QString>
@@ -14,25 +13,24 @@
 
 namespace quillon {
 
-/// Makes the fonts that are compiled in known to Qt. Called once, before the first font is made.
+/// Registers the compiled-in fonts with Qt. Called once, before the first font is made.
 void LoadFonts();
 
 /// The substitute for a family: Liberation Sans for Arial and MS Sans Serif, DejaVu Sans Condensed for Tahoma, DejaVu
 /// Sans for Verdana, Liberation Mono for Courier New. Any other name is kept.
 [[nodiscard]] QStringList FontFamilies(std::string_view family);
 
-/// The font of what no layout has: message boxes, menus, tool tips.
+/// The font of everything outside the layouts: message boxes, menus, tool tips.
 inline constexpr FontSpec kDialogFont = {.Family = "Arial", .Points = 9};
 
-/// The font of a row, `inherited` where it names none: 8.25 points are 11 pixels, 20.25 points are 27, at a scale of 1.
+/// The font of a row, or `inherited` if it has none: 8.25 points are 11 pixels, 20.25 points are 27, at a scale of 1.
 [[nodiscard]] QFont FormFont(const FontSpec& font, const FontSpec& inherited);
 
-/// Points of 96 dots to the inch as pixels of the design, rounded.
+/// Points at 96 dots to the inch as design pixels, rounded.
 [[nodiscard]] int FontPixels(float points);
 
-/// Gives a font that size at the scale of the program. At a scale of 1 its letters keep to whole pixels, as far as the
-/// desktop wants them to; at any other their widths grow with it exactly, so that a text takes up the same share of its
-/// place.
+/// Sets a font's size at the program's scale. At a scale of 1 glyphs are snapped to whole pixels if the desktop wants
+/// that; otherwise widths scale exactly, so that a text always takes the same share of its place.
 void SizeFont(QFont& font, float points);
 
 }  // namespace quillon

@@ -57,7 +57,7 @@ QPlainTextEdit* MakeMemo(QWidget* container, const ControlRow& row) {
   memo->setReadOnly(row.Kind == ControlKind::kReadOnlyMemo);
   if (memo->isReadOnly()) {
     memo->setFrameShape(QFrame::NoFrame);
-    new CommaLines(*memo);  // the document's from now on
+    new CommaLines(*memo);  // owned by the document
   }
   memo->setTabChangesFocus(true);
   if (row.Fore != kNoColor) {
@@ -77,7 +77,7 @@ QComboBox* MakeChooser(QWidget* container) {
 
 QPushButton* MakeButton(QWidget* container, const ControlRow& row) {
   auto* button = new QPushButton(ToQt(row.Text), container);
-  button->setAutoDefault(true);  // Enter presses it, as Space does
+  button->setAutoDefault(true);  // Enter presses it, like Space
   return button;
 }
 

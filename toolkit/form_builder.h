@@ -1,6 +1,6 @@
 #pragma once
 
-// From the rows of a form to its controls, and from a control's name and index back to the control.
+// Builds a form's controls from its rows, and finds them by name and index.
 
 #include <QWidget>
 #include <cstdint>
@@ -19,31 +19,30 @@
 
 namespace quillon {
 
-/// The controls of one form by their object names. It owns none of them; the form does.
+/// The controls of a form by object name. The form owns them.
 class FormControls {
  public:
-  /// Builds the controls of all tables, each in its container, which is in an earlier table. Every control gets its
-  /// name and index as object name; the rows of each table are stacked with the first in front.
+  /// Builds the controls of all tables, each in its container, which is in an earlier table. A control's object name is
+  /// its name and index; the rows of each table are stacked with the first in front.
   FormControls(QWidget& form, std::span<const ControlTable> layout);
 
   void Add(QWidget* control);
 
-  /// Null for a name that is not there.
+  /// Null for an unknown name.
   [[nodiscard]] QWidget* Find(const std::string& objectName) const;
 
-  /// The control of that name, and that which a row of the layout has become. A name that is not there is a fault in
-  /// the program: std::out_of_range.
+  /// The control of that name, and of the kind that its row makes. An unknown name is a bug: std::out_of_range.
   [[nodiscard]] QWidget& At(const std::string& objectName) const { return *controls_.at(objectName); }
   [[nodiscard]] QWidget& At(const ControlRow& row) const { return At(ObjectName(row.Name, row.Index)); }
 
-  /// How many controls there are of that name, counted from index 0 without a gap.
+  /// The number of controls of that name, counted from index 0 without a gap.
   [[nodiscard]] std::int16_t CountOf(std::string_view name) const;
 
  private:
   std::unordered_map<std::string, QWidget*> controls_;
 };
 
-/// The controls of the form that is built from `kLayout`, each as the kind that its row makes.
+/// The controls of a form built from `kLayout`, each as the kind that its row makes.
 template <const auto& kLayout>
 class LayoutControls : public FormControls {
  public:
@@ -52,7 +51,7 @@ class LayoutControls : public FormControls {
 
   explicit LayoutControls(QWidget& form) : FormControls(form, kLayout) {}
 
-  /// The control of that name. An index that is not there is a fault in the program: std::out_of_range.
+  /// The control of that name. An unknown index is a bug: std::out_of_range.
   template <typename Widget>
   [[nodiscard]] Widget& Get(Key<Widget> key, std::int16_t index = kNoIndex) const {
     return dynamic_cast<Widget&>(At(ObjectName(key.Name(), index)));
@@ -65,7 +64,7 @@ class LayoutControls : public FormControls {
   [[nodiscard]] Shape& ShapeAt(Key<Shape> key, std::int16_t index = kNoIndex) const { return Get<Shape>(key, index); }
   [[nodiscard]] Frame& FrameAt(Key<Frame> key, std::int16_t index = kNoIndex) const { return Get<Frame>(key, index); }
 
-  /// The controls of these names, those that share one in the order of their indexes.
+  /// The controls of these names; controls that share one are ordered by index.
   [[nodiscard]] std::vector<QWidget*> All(std::span<const Key<>> keys) const {
     std::vector<QWidget*> all;
     for (const Key<>& key : keys) {

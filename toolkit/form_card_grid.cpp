@@ -65,7 +65,7 @@ void FormCardGrid::Show(const CellColors& cells) {
 void FormCardGrid::SetFill(std::int16_t index, Rgb color) {
   Square(index).SetFill(ToColor(color));
   ShowHalo(index);
-  // Where cells are selected the colour is their state, which is told to somebody who cannot see it.
+  // On a grid for selecting, the colour is a state, which screen readers must hear.
   if (half_ != nullptr) Cell(index).SetCheckState(CheckStateOf(color));
 }
 
@@ -73,7 +73,7 @@ void FormCardGrid::Describe(std::int16_t index, const QString& text) {
   Cell(index).setAccessibleDescription(text);
 }
 
-// Black letters on a dark cell: neither colour may change, so the letters are drawn on an edge that is pale.
+// Black letters on a dark cell: neither colour may change, so the letters get a pale edge.
 void FormCardGrid::ShowHalo(std::int16_t index) {
   constexpr double kLegible = 3;
   constexpr Rgb kPale = {0xF4, 0xF4, 0xF4};
@@ -153,7 +153,7 @@ void FormCardGrid::Listen(std::int16_t index) {
   connect(&cell, &Control::FocusLeft, this, &FormCardGrid::CellLeft);
 }
 
-// What cells leave alone comes to the container: the mouse wherever it is over the grid, and the menu key.
+// Events that cells ignore reach the container: mouse moves anywhere over the grid, and the menu key.
 bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -183,7 +183,7 @@ std::optional<std::int16_t> FormCardGrid::CellOf(const QObject* label) const {
   return static_cast<std::int16_t>(cell - labels_.begin());
 }
 
-// And not over what lies in front of it.
+// But not over what is in front of it.
 bool FormCardGrid::IsOverGrid(const QPoint& place) const {
   const QWidget* const front = container_.childAt(place);
   return frame_.geometry().contains(place) && (front == nullptr || CellOf(front));
@@ -196,11 +196,11 @@ bool FormCardGrid::HandlesKey(std::int16_t from, const QKeyEvent& press) {
   }
   if (press.key() == Qt::Key_Escape) Q_EMIT CellLeft();
   const auto to = CellReachedFrom(from, press);
-  if (to) MoveFocus(*to);  // also to where it is, for what it tells
+  if (to) MoveFocus(*to);  // even if it is the same cell, for its signals
   return to.has_value();
 }
 
-// A copy: what is dragged stays where it is.
+// A copy: the source keeps what is dragged.
 bool FormCardGrid::HandlesDrag(QDropEvent& event) {
   const bool entersWindow = event.type() == QEvent::DragEnter;
   event.setDropAction(Qt::CopyAction);

@@ -1,10 +1,9 @@
 #pragma once
 
-// The card grid of a form, made of the form's own controls: the cell of index 0, of which all others are copies, and
-// `shapeBlue`, which is fitted round them. It also carries what the keyboard does: Tab reaches the grid at one cell,
-// the arrow keys go from there to the neighbours, Home and End to the ends of the row and with Ctrl to those of the
-// grid, and Enter or Space presses the cell; the menu key or Shift+F10 asks for its menu, as the right mouse button
-// does all over the grid. An index is that of a class.
+// The card grid of a form, made of the form's own controls: the cell of index 0, which all others are copies of, and
+// `shapeBlue`, which is fitted around them. It also handles the keyboard: Tab reaches one cell, the arrow keys move to
+// its neighbours, Home and End to the ends of the row and with Ctrl to those of the grid, and Enter or Space presses
+// the cell; the menu key, Shift+F10 and the right mouse button open its menu. Indexes are those of classes.
 
 #include <QCheckBox>
 #include <QDropEvent>
@@ -29,9 +28,9 @@ class FormCardGrid : public QObject {
   Q_OBJECT
 
  public:
-  /// Builds the cells, shown and unselected, each label in front of its square and all in front of what `container`,
-  /// the form or screen, has besides. The captions keep the colour of label 0. `half` is the check box for half weight,
-  /// null where the form has none. New cells are made known to `controls`.
+  /// Builds the cells, visible and unselected, each label in front of its square and all in front of everything else in
+  /// `container`, the form or screen. The captions keep the colour of label 0. `half` is the check box for half weight,
+  /// null if the form has none. New cells are added to `controls`.
   template <typename Controls>
   FormCardGrid(Controls& controls, QWidget& container, ShiftWatch& shift, const QCheckBox* half)
       : FormCardGrid({.Frame = controls.ShapeAt("shapeBlue"),
@@ -39,28 +38,28 @@ class FormCardGrid : public QObject {
                       .Cell = controls.LabelAt("lblCards", 0)},
                      controls, container, shift, half) {}
 
-  /// The fills of the squares as they are.
+  /// The current fills of the squares.
   [[nodiscard]] CellColors Colors() const;
 
-  /// Gives each square its colour and each caption the one that goes with it.
+  /// Sets the colour of each square, and the matching caption colour.
   void Show(const CellColors& cells);
 
-  /// Gives one square a colour; its caption keeps its own.
+  /// Sets the colour of one square; its caption keeps its own.
   void SetFill(std::int16_t index, Rgb color);
 
   /// What a screen reader says of a cell besides its class.
   void Describe(std::int16_t index, const QString& text);
 
-  /// What a click does: toggles the cell by the check box and the Shift test, which is used up by that.
+  /// Acts as a click: toggles the cell, depending on the check box and the Shift test, which it uses up.
   void Toggle(std::int16_t index);
 
-  /// Toggles cells one after another, whatever the check box says and whether Shift is pressed or not.
+  /// Toggles cells in order, ignoring the check box and Shift.
   void Toggle(std::span<const CellToggle> toggles);
 
-  /// What the mouse is told over every cell; nothing by the empty text.
+  /// The tool tip of every cell; the empty text for none.
   void SetToolTip(const QString& text);
 
-  /// Lets texts be dropped on the grid.
+  /// Accepts drops of text.
   void TakeTexts();
 
   /// Brings a cell to the front.
@@ -73,14 +72,14 @@ class FormCardGrid : public QObject {
  Q_SIGNALS:
   void CellClicked(qint16 index);
   void CellHovered(qint16 index);  // the mouse moved over it
-  void CellReached(qint16 index);  // the keyboard went there: Tab, or a key that goes from cell to cell
-  void CellLeft();  // the keyboard went away, or the user pressed Escape
-  /// The user wants a menu at that point of the screen, of the cell there, -1 for a gap between cells.
+  void CellReached(qint16 index);  // by Tab, or a key that moves between cells
+  void CellLeft();  // the keyboard focus left, or the user pressed Escape
+  /// The user wants a menu at that point of the screen, for the cell there, or -1 for a gap between cells.
   void MenuWanted(qint16 index, const QPoint& place);
   void TextDropped(const QString& text);
 
  private:
-  /// What the form has of the grid before it is built.
+  /// The controls that the grid is built from.
   struct Patterns {
     Shape& Frame;
     Shape& Square;

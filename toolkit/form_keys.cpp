@@ -44,7 +44,7 @@ void BindKeyBesideText(QWidget& parent, QKeyCombination key, std::function<void(
                    [&shortcut](QWidget* /*before*/, QWidget* now) { shortcut.setEnabled(!IsTextBox(now)); });
 }
 
-// A shortcut sleeps while its parent is hidden.
+// A shortcut is inactive while its parent is hidden.
 void BindPress(QWidget& control, QKeyCombination key) {
   BindKey(control, key, [&control] { PressByKey(control); });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// Keys of a form, heard wherever in its window the focus is, and once however long they are held down. While a box
-// wants an answer they are not.
+// Keys of a form: they work wherever in its window the focus is, without auto-repeat, but not while a box is waiting
+// for an answer.
 
 #include <QKeyCombination>
 #include <QShortcut>
@@ -10,18 +10,18 @@
 
 namespace quillon {
 
-/// Makes the key press `control`, a label, a picture or a button, as a click does. It does nothing while the control is
-/// hidden or disabled, so what cannot be seen cannot be pressed. A control that a click gives the focus has it first,
-/// so that the box that is being typed in has been left; where that box complains, the press is off.
+/// Makes the key press `control`, a label, a picture or a button, like a click. It does nothing while the control is
+/// hidden or disabled. A control that takes the focus on a click gets it first, so that a box being edited is left; if
+/// that box complains, the press is dropped.
 void BindPress(QWidget& control, QKeyCombination key);
 
-/// Makes the key do something of the window of `parent`; with Qt::ApplicationShortcut it is heard in every window of
-/// the program. It does nothing while `parent` is hidden, nor while the shortcut returned is disabled.
+/// Binds the key to an action in the window of `parent`; with Qt::ApplicationShortcut in every window of the program.
+/// It does nothing while `parent` is hidden, nor while the returned shortcut is disabled.
 QShortcut& BindKey(QWidget& parent, QKeyCombination key, std::function<void()> action,
                    Qt::ShortcutContext context = Qt::WindowShortcut);
 
-/// The same for a key that text boxes know, such as Ctrl+C: while one of the window has the focus, be it one to read
-/// from, the key is that box's.
+/// The same for a key that text boxes use themselves, such as Ctrl+C: while a text box of the window has the focus,
+/// even a read-only one, the key goes to that box.
 void BindKeyBesideText(QWidget& parent, QKeyCombination key, std::function<void()> action);
 
 }  // namespace quillon

@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-// Asks for no more width than the list has, so that a name is cut where it ends.
+// Limited to the list's width, so that a longer name is cut there.
 class CutNames : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -40,7 +40,7 @@ FormChooser::FormChooser(QComboBox& box) : box_(box) {
   connect(&box_, &QComboBox::activated, this, &FormChooser::Clicked);
 }
 
-// At another scale a name may have room that had none before.
+// At another scale a name may fit that did not before.
 bool FormChooser::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) ShowTip();
   return QObject::eventFilter(watched, event);
@@ -59,7 +59,7 @@ void FormChooser::Show(const RangeListContents& contents) {
       box_.addItem(ToQt(entry));
       box_.setItemData(box_.count() - 1, ToQt(entry), Qt::ToolTipRole);
     }
-    // A drop-down list of Qt's selects its first entry by itself; nothing is selected until somebody does.
+    // A Qt drop-down list selects its first entry by itself; here nothing is selected at first.
     box_.setCurrentIndex(-1);
   }
   if (contents.Selected) Select(*contents.Selected);
@@ -84,19 +84,19 @@ FormListBox::FormListBox(QListWidget& list) : list_(list) {
   connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) Q_EMIT Clicked();
   });
-  // A click below the entries and Ctrl+Space would leave none selected.
+  // A click below the entries or Ctrl+Space would clear the selection.
   connect(&list_, &QListWidget::itemSelectionChanged, this, [this] {
     QListWidgetItem* item = list_.currentItem();
     if (item != nullptr && list_.selectedItems().isEmpty()) item->setSelected(true);
   });
-  // A press on the selected entry changes nothing that the list would tell of, and is a click all the same.
+  // A press on the selected entry emits no signal of the list, but is a click all the same.
   list_.viewport()->installEventFilter(this);
   connect(&list_, &QListWidget::itemPressed, this, [this](const QListWidgetItem* item) {
     if (list_.row(item) == std::exchange(rowBeforePress_, -1)) Q_EMIT Clicked();
   });
 }
 
-// Swallows what does not select: another button than the left one, and the left one with Ctrl.
+// Swallows presses that do not select: other buttons, and Ctrl with the left one.
 bool FormListBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
   if (!press && event->type() != QEvent::MouseMove) return QObject::eventFilter(watched, event);

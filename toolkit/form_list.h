@@ -1,10 +1,10 @@
 #pragma once
 
-// The drop-down lists and the list box from which a range is chosen. The click event is raised by a selection of the
-// user's as well as by one in code, and also where the entry selected was selected before; emptying and filling a list
-// raises none. The current entry of the list box is always selected: only another entry takes the selection from it.
+// The drop-down lists and the list box for choosing a range. A selection, by the user or in code, raises the click
+// event, also if the entry was selected already; clearing and filling a list does not. The list box always has a
+// selection: only selecting another entry changes it.
 //
-// A name that is too long for its list ends with an ellipsis, and its tool tip has it whole.
+// A name that is too long for its list ends with an ellipsis, and its tool tip has it in full.
 
 #include <QComboBox>
 #include <QListWidget>
@@ -24,10 +24,10 @@ class FormChooser : public QObject {
  public:
   explicit FormChooser(QComboBox& box);
 
-  /// The selected entry, the empty text if none is selected.
+  /// The selected entry; the empty text if none is selected.
   [[nodiscard]] std::string CurrentText() const { return FromQt(box_.currentText()); }
 
-  /// Puts these entries in place of all others, and selects one of them by a click.
+  /// Replaces the entries, and selects one of them by a click.
   void Show(const RangeListContents& contents);
 
   /// Selects the first entry equal to `name` by a click; does nothing if there is none.
@@ -51,7 +51,7 @@ class FormListBox : public QObject {
  public:
   explicit FormListBox(QListWidget& list);
 
-  /// As those of FormChooser.
+  /// As for FormChooser.
   [[nodiscard]] std::string CurrentText() const;
   void Show(const RangeListContents& contents);
   void SelectEntry(std::string_view name);
@@ -65,7 +65,7 @@ class FormListBox : public QObject {
   void Select(int index);
 
   QListWidget& list_;
-  int rowBeforePress_ = -1;  // the selected one when the left mouse button went down
+  int rowBeforePress_ = -1;  // the selected row when the left mouse button was pressed
 };
 
 }  // namespace quillon

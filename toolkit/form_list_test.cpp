@@ -18,7 +18,7 @@ RangeListContents Three(std::optional<int> selected = {}) {
   return {{"one", "two", "three"}, selected};
 }
 
-// A list and the clicks that it tells of.
+// A list, and a log of its clicks.
 template <typename ListType, typename Shown>
 class ListTest : public testing::Test {
  public:

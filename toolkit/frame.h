@@ -1,7 +1,7 @@
 #pragma once
 
-// A part of a form that holds other controls: a screen, or a panel on one. Its caption is never shown; a screen is
-// found by it.
+// A part of a form that contains other controls: a screen, or a panel on one. Its caption is never shown; it identifies
+// a screen.
 
 #include <QColor>
 #include <QString>

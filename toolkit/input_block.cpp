@@ -7,7 +7,7 @@
 namespace quillon {
 namespace {
 
-// A list that is open holds the mouse of the whole screen.
+// An open list grabs the mouse of the whole screen.
 void CloseLists() {
   for (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && popup->close();)
     popup = QApplication::activePopupWidget();
@@ -21,7 +21,7 @@ InputBlock::InputBlock() {
   qApp->installEventFilter(this);
 }
 
-// An event loop that leaves input alone would not do: it counts the closing of a window among it.
+// An event loop that excludes user input would not do: it would exclude the closing of a window too.
 bool InputBlock::eventFilter(QObject* watched, QEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return false;
   switch (event->type()) {
@@ -38,7 +38,7 @@ bool InputBlock::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-// What the mouse has held since before the block is released, but far from the mouse, so that it is not a click.
+// A mouse press from before the block is released, but at a distant point, so that it is not a click.
 bool InputBlock::TakesRelease(QObject& control, const QMouseEvent& release) {
   if (lettingGo_) return true;
   if (release.button() != Qt::LeftButton) return false;

@@ -1,17 +1,17 @@
 #pragma once
 
-// Makes the whole program deaf for a while: what the user does with the mouse, the keyboard or a screen reader is
-// dropped, not kept, since a click is meant for the window as it looks at that moment, and ten impatient ones would do
-// ten things. Windows are still drawn and can be closed.
+// Drops all user input to the program for a while, from mouse, keyboard and screen readers. It is dropped rather than
+// queued, since a click refers to the window as it looks at that moment, and ten impatient ones would do ten things.
+// Windows are still repainted and can be closed.
 
 #include <QMouseEvent>
 #include <QObject>
 
 namespace quillon {
 
-/// Blocks input while it lives. A list that is open at its start is closed, a button that is held down is
-/// let go without a click, and so is what the mouse holds, once it is released. Only a box that comes up in the
-/// meantime is heard, for it wants an answer. A block is made while no such box is open.
+/// Blocks input during its lifetime. At its start an open list is closed, and a button that is held down is released
+/// without a click, as is whatever the mouse holds when it is released. Only a box that opens meanwhile gets input,
+/// since it needs an answer. No box may be open at its start.
 class InputBlock : public QObject {
  public:
   InputBlock();

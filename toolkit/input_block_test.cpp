@@ -68,7 +68,7 @@ class WatchedWindow : public QWidget {
 
 class InputBlockTest : public testing::Test {
  public:
-  // Does something during a block, and returns what the window has seen of it by the block's end.
+  // Does something during a block, and returns what the window has received by its end.
   std::string SeenWhileBlocked(const std::function<void()>& act) {
     const InputBlock block;
     act();
@@ -100,7 +100,7 @@ class InputBlockTest : public testing::Test {
   }
   void Hold() { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
   void LetGo() { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, kSpot.toPoint()); }
-  // Lays a control of its own over the window.
+  // Covers the window with a control of its own.
   void Cover(QWidget& control) {
     control.setParent(&window);
     control.setGeometry(window.rect());
@@ -130,7 +130,7 @@ TEST_F(InputBlockTest, NeverLearnsOfInputMadeDuringTheBlock) {
   EXPECT_EQ(SeenWhileBlocked([&] { Drop(); }), "");
 }
 
-// A screen reader uses a control by no event of the mouse or the keyboard.
+// A screen reader operates a control without mouse or keyboard events.
 TEST_F(InputBlockTest, NeverLearnsOfAScreenReadersActionDuringTheBlock) {
   Label label(nullptr);
   label.SetUse(ControlUse::kLink);
@@ -213,7 +213,7 @@ TEST_F(InputBlockTest, LetsGoOfAButtonThatAKeyHolds) {
   EXPECT_EQ(clicks.count(), 0);
 }
 
-// It is closed by a key, and by itself once that is in vain.
+// It is closed by a key, or by itself if that fails.
 TEST_F(InputBlockTest, HearsWhatIsDoneToABoxThatComesUpDuringTheBlock) {
   int answer = 0;
   ExpectDialog([](QDialog& box) {
@@ -229,7 +229,7 @@ TEST_F(InputBlockTest, HearsWhatIsDoneToABoxThatComesUpDuringTheBlock) {
   EXPECT_EQ(answer, QMessageBox::Ok);
 }
 
-// The block hears everything while a box is up; the window under it is the box's to block.
+// While a box is open the block lets everything through; the box blocks the window under it.
 TEST_F(InputBlockTest, NeverLearnsOfAScreenReadersActionUnderABoxThatComesUpDuringTheBlock) {
   Label label(nullptr);
   label.SetUse(ControlUse::kLink);
@@ -251,7 +251,7 @@ TEST_F(InputBlockTest, NeverLearnsOfAScreenReadersActionUnderABoxThatComesUpDuri
 
 TEST_F(InputBlockTest, HearsAgainAfterTheBlock) {
   SeenWhileBlocked([] {});
-  // The way to a spot is one move, unless the mouse is there already.
+  // Moves the mouse away first, so that the move to the spot is always an event.
   QTest::mouseMove(window.windowHandle(), QPoint(10, 10));
   SeenByNow();
   window.Seen.clear();

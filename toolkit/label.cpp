@@ -75,7 +75,7 @@ void Label::ShowTip() {
 }
 
 QRect Label::WithinContainer(QRect grown) const {
-  const int edge = LinePixels(4);  // left free, lest the text touch the container's border
+  const int edge = LinePixels(4);  // margin, so that the text does not touch the container's border
   if (parentWidget() == nullptr) return grown;
   const int over = grown.right() + edge - parentWidget()->rect().right();
   if (over > 0) grown.moveLeft(std::max(0, grown.left() - over));
@@ -117,7 +117,7 @@ int Label::Flags() const {
   return SizeWith(betweenWords).width() <= place_.width() ? betweenWords : plain | Qt::TextWrapAnywhere;
 }
 
-// The letters in all eight directions round their own place.
+// Draws the letters shifted in all eight directions.
 void Label::PaintHalo(QPainter& painter, const QString& shown) {
   painter.setPen(halo_);
   const int reach = LinePixels(1);

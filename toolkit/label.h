@@ -1,13 +1,11 @@
 #pragma once
 
-// A piece of text on a form. A label whose place in the layout has room for one line is one line: its text is never cut
-// off or wrapped, the label grows with it instead, to the right, or to where its alignment leaves room: to both sides
-// where the text is centred, to the left where it ends at the right edge. Where it would grow past the right edge of
-// what holds it, it moves to the left as far as it must. A label with room for more wraps its text at its edges, within
-// its words where one is wider than the label, and grows downwards. The text is shown as it is and never read as
-// mark-up.
+// A text on a form. A label with room for one line in the layout is one line: it is never cut or wrapped but grows with
+// its text, to the right, or depending on its alignment to both sides or to the left. If it would grow past its
+// container's right edge, it moves left as far as needed. A label with room for more lines wraps its text at its edges,
+// within a word if that is wider than the label, and grows downwards. The text is always plain text.
 //
-// A label that is cut keeps its place instead: what has no room ends with an ellipsis, and the tool tip has it whole.
+// A label that cuts keeps its place instead: a longer text ends with an ellipsis, and the tool tip has it in full.
 
 #include <QColor>
 #include <QPainter>
@@ -23,7 +21,7 @@ class Label : public Control {
  public:
   explicit Label(QWidget* parent);
 
-  /// The place in the layout, which is the least that the label takes up, and whether the text wraps there.
+  /// Its place in the layout, which is its minimum, and whether the text wraps there.
   void SetPlace(const QRect& place, bool wraps = false);
 
   void SetText(const QString& text);
@@ -44,15 +42,15 @@ class Label : public Control {
   /// Whether a text that is too wide is cut.
   void SetCut(bool cut);
 
-  /// Draws a fine edge round the letters, where their colour hardly stands out from what is under them; Qt::transparent
-  /// for none.
+  /// Draws a thin edge around the letters, if their colour hardly stands out from the background; Qt::transparent for
+  /// none.
   void SetHalo(const QColor& color);
   [[nodiscard]] const QColor& Halo() const { return halo_; }
 
   /// Whether the text wraps within the label's place.
   [[nodiscard]] bool Wraps() const { return wraps_; }
 
-  /// The room that the whole text takes as it is shown; more than the label's size where something is cut off.
+  /// The size of the whole text as shown; larger than the label if something is cut off.
   [[nodiscard]] QSize TextSize() const;
 
   [[nodiscard]] QString SpokenText() const override;

@@ -25,7 +25,7 @@ constexpr QRgb kHoveredFace = 0xFFE8EEF4;
 constexpr QRgb kPressedFace = 0xFFD6DEE6;
 constexpr QRgb kDisabledSign = 0xFFA0A0A0;
 
-constexpr int kArrowWidth = 18;  // of a drop-down list, in pixels of the design
+constexpr int kArrowWidth = 18;  // of a drop-down list, in design pixels
 constexpr int kShortestHandle = 24;
 
 bool Has(const QStyleOption& option, QStyle::StateFlag state) {
@@ -36,20 +36,20 @@ QColor SignColor(const QStyleOption& option) {
   return QColor::fromRgb(Has(option, QStyle::State_Enabled) ? kSign : kDisabledSign);
 }
 
-// A line on the inner side of the rectangle's edge.
+// A line along the inside of the rectangle's edge.
 void DrawLineAlong(QPainter& painter, const QRect& rectangle, int width, QRgb color) {
   const QRegion inner(rectangle.adjusted(width, width, -width, -width));
   for (const QRect& side : QRegion(rectangle) - inner)
     painter.fillRect(side, QColor::fromRgb(color));
 }
 
-// Twice as wide where the control has the keyboard.
+// Twice as wide if the control has the focus.
 void DrawEdge(QPainter& painter, const QStyleOption& option) {
   const bool focused = Has(option, QStyle::State_HasFocus);
   DrawLineAlong(painter, option.rect, LinePixels(focused ? 2 : 1), focused ? kFocusedEdge : kEdge);
 }
 
-// Signs are drawn on a square of so many pixels of the design, from its middle.
+// Signs are drawn on a square of this many design pixels, from its middle.
 void DrawSign(QPainter& painter, const QStyleOption& option, const QList<QPointF>& sign, double width) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -83,7 +83,7 @@ void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QRec
   DrawSign(painter, sign, {{-3.5, -1.75}, {0, 1.75}, {3.5, -1.75}}, 1.6);
 }
 
-// The chosen tab is white and open to its page, with a line of the colour of a focused edge over it.
+// The selected tab is white and open to its page, with a line in the focus colour on top.
 void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
   const bool chosen = Has(tab, QStyle::State_Selected);
   const int line = LinePixels(1);
@@ -105,7 +105,7 @@ void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, QRect handl
   painter.fillRect(handle, QColor::fromRgb(held ? kHeldHandle : kHandle));
 }
 
-// The handle has the share of the groove that the page has of the whole.
+// The handle takes the same share of the groove as the visible page of the whole.
 QRect HandleOf(const QStyleOptionSlider& bar) {
   const bool lying = bar.orientation == Qt::Horizontal;
   const int groove = lying ? bar.rect.width() : bar.rect.height();
@@ -125,7 +125,7 @@ QRect HandleOf(const QStyleOptionSlider& bar) {
   return handle;
 }
 
-// There are no buttons at the ends; a click beside the handle goes on by a page.
+// No buttons at the ends; a click beside the handle scrolls by a page.
 QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
   const QRect handle = HandleOf(bar);
   const bool lying = bar.orientation == Qt::Horizontal;
@@ -174,7 +174,7 @@ int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 
 int LightStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* answer) const {
-  // Lists open as lists beneath their box, and not as menus over it.
+  // Lists open below their box, not as menus over it.
   if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
@@ -184,8 +184,8 @@ QSize LightStyle::sizeFromContents(ContentsType type, const QStyleOption* option
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (type != CT_MenuItem || entry == nullptr) return size;
-  // What it leaves round the text of an entry, and all of a line between entries, are pixels whatever the scale is. It
-  // draws with no less beside the text.
+  // Its margins around an entry's text, and the height of a separator, are pixels at any scale. It draws with at least
+  // those margins.
   const bool line = entry->menuItemType == QStyleOptionMenuItem::Separator;
   const int beside = size.width() - contents.width();
   const int above = line ? size.height() : size.height() - entry->fontMetrics.height();
@@ -234,7 +234,7 @@ void LightStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_PanelButtonCommand:
       return DrawButton(*painter, *option);
     case PE_FrameFocusRect:
-      // Flat tool buttons have no edge of their own to tell it by.
+      // Flat tool buttons have no edge of their own to show the focus.
       if (qobject_cast<const QToolButton*>(widget) != nullptr) return DrawEdge(*painter, *option);
       return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_IndicatorCheckBox:

@@ -1,9 +1,9 @@
 #pragma once
 
-// How native controls are drawn: boxes, lists, buttons, check boxes, tabs and scroll bars. Their lengths follow the
-// scale of the program ("toolkit/twip_geometry.h"), their lines are whole pixels, and what is drawn at 100% is what is
-// drawn at 300%. Edges have at least 3:1 to white, and the handle of a scroll bar is darker than its groove. A tool tip
-// is never read as mark-up: it may be a name that the user has given.
+// How native controls are drawn: boxes, lists, buttons, check boxes, tabs and scroll bars. Lengths follow the program's
+// scale ("toolkit/twip_geometry.h"), lines are whole pixels, and nothing is added or left out at any scale. Edges have
+// a contrast of at least 3:1 to white, and the handle of a scroll bar is darker than its groove. A tool tip is always
+// plain text, since it may be a name from the user.
 
 #include <QProxyStyle>
 

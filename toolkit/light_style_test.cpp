@@ -125,7 +125,7 @@ TEST_F(LightStyleTest, DrawsTabsThatStandOutFromWhite) {
   }
 }
 
-// What the focus changes on each side of a control of a box stands out from what was there.
+// On each side of a control or box the focus makes a clearly visible change.
 TEST_F(LightStyleTest, MarksTheFocusOnEachSide) {
   constexpr double kLeast = 3;
   for (const double scale : kScales) {

@@ -45,7 +45,7 @@ QLabel& TextOf(const QMessageBox& box) {
   return *box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
 }
 
-// Qt makes no box wider, whatever it holds, and cuts the rest off.
+// The maximum width of a box in Qt, which cuts the rest off.
 int WidestBox(const QMessageBox& box) {
   constexpr int kSmallScreen = 1024;
   constexpr int kBeside = 480;
@@ -54,8 +54,8 @@ int WidestBox(const QMessageBox& box) {
   return screen <= kSmallScreen ? screen : std::min(screen - kBeside, kMost);
 }
 
-// Qt breaks lines where a box becomes wider than 500 pixels, whatever its scale; the text has this much of them, and
-// the icon and what is round both have some more.
+// Qt wraps the text if a box becomes wider than 500 pixels, whatever its scale. The text gets this much of them; the
+// icon and the margins some more.
 void WidenToScale(const QMessageBox& box) {
   constexpr int kTextWidth = 427;
   constexpr int kBesideText = 72;
@@ -79,7 +79,7 @@ void FillMessageBox(QMessageBox& box, const Message& message) {
   box.setIcon(IconOf(message.icon));
   box.setStandardButtons(ButtonsOf(message.buttons));
   box.setDefaultButton(message.buttons == MessageButtons::kOk ? QMessageBox::Ok : QMessageBox::Yes);
-  // Escape and the close box answer what changes nothing.
+  // Escape and the close box give the answer that changes nothing.
   if (message.buttons == MessageButtons::kYesNo) box.setEscapeButton(QMessageBox::No);
 }
 

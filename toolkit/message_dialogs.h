@@ -1,7 +1,7 @@
 #pragma once
 
-// Message boxes and input boxes on the screen. Each is modal: it takes the mouse and the keyboard of the whole program
-// until it is answered. It belongs to the window that asks ("toolkit/application.h") and is centred on it.
+// Message boxes and input boxes on the screen. Each is modal for the whole program, belongs to the window that asks
+// ("toolkit/application.h") and is centred on it.
 
 #include <QMessageBox>
 
@@ -16,7 +16,7 @@ class MessageDialogs : public MessageBoxes, public InputBoxes {
   std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override;
 };
 
-/// Dresses a box: its text is shown as it is, never read as mark-up, and can be selected with the mouse.
+/// Sets up a box: its text is plain text and can be selected with the mouse.
 void FillMessageBox(QMessageBox& box, const Message& message);
 
 }  // namespace quillon

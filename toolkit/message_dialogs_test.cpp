@@ -113,7 +113,7 @@ class AskingWindows : public testing::Test {
       EXPECT_EQ(box.parentWidget()->objectName(), owner.objectName());
       EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
       const QPoint off = box.frameGeometry().center() - owner.frameGeometry().center();
-      EXPECT_LE(off.manhattanLength(), 40) << off.x() << " " << off.y();  // what a window manager's frame may be
+      EXPECT_LE(off.manhattanLength(), 40) << off.x() << " " << off.y();  // room for a window manager's frame
       box.accept();
     });
   }
@@ -129,7 +129,7 @@ TEST_F(AskingWindows, AreThoseWhoseUserIsAnsweredWhateverHasComeInFront) {
     BringToFront(other);
     ExpectBoxOf(asker);
     boxes.Show(With(MessageButtons::kOk));
-    // No window is in front right after a box, until the window system has given one the keyboard again.
+    // Right after a box no window is active, until the window system activates one.
     QApplication::setActiveWindow(nullptr);
     ExpectBoxOf(asker);
     boxes.Ask("Name?", "New Range", "");
@@ -227,7 +227,7 @@ TEST(MessageDialogs, ShowAllOfATextInLinesThatBreakAlikeAtEachScale) {
       QMessageBox box;
       FillMessageBox(box, {.title = "Pot Size", .text = text, .icon = MessageIcon::kStop});
       box.show();
-      if (scale <= 2) {  // beyond it the screen of the tests is too narrow
+      if (scale <= 2) {  // beyond that the test screen is too narrow
         widths.push_back(box.width() / scale);
         heights.push_back(box.height() / scale);
       }

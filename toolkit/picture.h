@@ -1,8 +1,7 @@
 #pragma once
 
-// A picture from "artwork/", drawn anew for every size and scale, so that it is as sharp on a screen of 200% as on one
-// of 100%. One that can be clicked may have a look of its own for the mouse over it and for being pressed: files of its
-// name followed by "_hover" and "_pressed".
+// A picture from "artwork/", rendered for each size and scale, so that it is always sharp. A clickable one may have
+// variants for hovering and pressing: files of its name followed by "_hover" and "_pressed".
 
 #include <QIcon>
 #include <QPixmap>
@@ -18,7 +17,7 @@ class Picture : public Control {
  public:
   explicit Picture(QWidget* parent);
 
-  /// Takes the picture of that name; the empty name shows nothing.
+  /// Sets the picture by name; the empty name shows nothing.
   void SetArtwork(const QString& name);
   [[nodiscard]] const QString& Artwork() const { return name_; }
 
@@ -32,10 +31,10 @@ class Picture : public Control {
   bool hasLooks_ = false;
 };
 
-/// The picture of that name for a widget of that size and scale. Drawn once and kept; empty if there is none.
+/// The picture of that name for a widget of that size and scale. Cached; empty if there is none.
 [[nodiscard]] QPixmap ArtworkPixmap(const QString& name, const QSize& size, double scale);
 
-/// The same in whatever size it is wanted in.
+/// The same for any size.
 [[nodiscard]] QIcon ArtworkIcon(const QString& name);
 
 }  // namespace quillon

@@ -19,7 +19,7 @@ class PictureTest : public testing::Test {
  protected:
   PictureTest() { InitArtwork(); }
 
-  // The file as the renderer alone draws it.
+  // The file drawn directly by the renderer.
   static QImage File(const QString& name, const QSize& pixels) {
     QSvgRenderer renderer(QStringLiteral(":/artwork/%1.svg").arg(name));
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);

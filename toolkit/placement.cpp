@@ -18,7 +18,7 @@ constexpr const char* kLeastProperty = "leastSizeInTwips";
 constexpr const char* kSizeProperty = "sizeInTwips";
 constexpr const char* kPointsProperty = "fontPoints";
 
-// For more than one. It goes by the layout and not by pixels, so that a label is the same at every scale.
+// For more than one. Judged by the layout, not by pixels, so that a label is the same at every scale.
 bool HasRoomForLines(const QWidget& control) {
   const int line = FontPixels(control.property(kPointsProperty).toFloat());
   return line > 0 && PlaceOf(control).Height >= 2 * kTwipsPerPixel * static_cast<float>(line);
@@ -47,7 +47,7 @@ void TakeFont(QWidget& control) {
   control.setFont(font);
 }
 
-// What is empty has nothing to undo; elsewhere the margin stays, for a change of it would be one more step.
+// Only without undo history: changing the margin would add a step to it.
 void TakeMargin(QWidget& control) {
   constexpr int kMargin = 4;
   auto* memo = qobject_cast<QPlainTextEdit*>(&control);
@@ -137,7 +137,7 @@ void ShowAtScale(double scale) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
     TakeScale(*window);
     if (IsResizable(*window)) TakeSize(*window);
-    // What holds a control comes before it, so a label finds the room that it may grow into.
+    // Containers come first, so that a label knows the room for growing.
     for (QWidget* control : window->findChildren<QWidget*>())
       TakeScale(*control);
     window->update();

@@ -1,7 +1,7 @@
 #pragma once
 
-// A control keeps its place in twips and the size of its font, so that it can take both anew when the scale of the
-// program changes ("toolkit/twip_geometry.h"). No place is ever worked out from pixels.
+// A control keeps its place in twips and the size of its font, so that both can be applied again when the program's
+// scale changes ("toolkit/twip_geometry.h"). Places are never computed from pixels.
 
 #include <QWidget>
 
@@ -10,28 +10,28 @@
 
 namespace quillon {
 
-/// Puts a control into its place; of a window only the size counts, which is fixed. A place without a height or a width
-/// is that of a line, which is as thick as a line is.
+/// Puts a control in its place; for a window only the size counts, and becomes fixed. A place without height or width
+/// is that of a line with its own thickness.
 void SetPlace(QWidget& control, const TwipRect& place);
 
-/// Where SetPlace has put it; all zero where it never has.
+/// The place last given to SetPlace; all zero if never.
 [[nodiscard]] TwipRect PlaceOf(const QWidget& control);
 
-/// Makes a window one that the user may resize, down to `least`, and gives it `size`, which is no less. Both grow with
-/// the scale, and so does what the user makes of it.
+/// Makes a window resizable, with the minimum `least`, and gives it `size`, which is at least that. Both scale, and so
+/// does the size that the user chooses.
 void SetResizable(QWidget& window, const TwipSize& least, const TwipSize& size);
 
-/// The size that such a window has, exactly what SetResizable gave it as long as the user has not changed it. Of one
-/// that is maximised, the size before.
+/// The size of such a window: exactly that of SetResizable unless the user has changed it. For a maximised one, the
+/// size before.
 [[nodiscard]] TwipSize SizeOf(const QWidget& window);
 
-/// Gives a control its font, `inherited` where `font` names none.
+/// Sets a control's font, or `inherited` if `font` has none.
 void SetFormFont(QWidget& control, const FontSpec& font, const FontSpec& inherited);
 
-/// Gives a control the font that another one has.
+/// Sets a control's font to another's.
 void CopyFormFont(QWidget& control, const QWidget& other);
 
-/// Sets the scale of the program, and with it every font and every place in every window that there is.
+/// Sets the program's scale, and updates every font and place in every window.
 void ShowAtScale(double scale);
 
 }  // namespace quillon

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array kScales = {0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
 
-// Twelve squares of a card grid in a row, on a frame that is a little larger.
+// Twelve squares of a card grid in a row, on a slightly larger frame.
 struct Grid : public QWidget {
   Grid() {
     SetPlace(*this, {0, 0, 6000, 600});

@@ -17,7 +17,7 @@ void PopUpMenu(QWidget& owner, const QPoint& place, const std::vector<MenuEntry>
       continue;
     }
     QAction* action = menu->addAction(QString(entry.Text).replace(QLatin1Char('&'), QStringLiteral("&&")));
-    // Only to be seen: the key of an entry is heard by nobody but the menu.
+    // For display only: only the menu reacts to its entries' keys.
     action->setShortcut(entry.Key);
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setShortcutVisibleInContextMenu(true);

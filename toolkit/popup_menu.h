@@ -1,7 +1,6 @@
 #pragma once
 
-// Menus that come up by the right mouse button, the menu key or Shift+F10, on what is there already: a form shows no
-// more for having one.
+// Context menus, opened by the right mouse button, the menu key or Shift+F10. They add nothing visible to a form.
 
 #include <QKeySequence>
 #include <QPoint>
@@ -14,14 +13,14 @@ namespace quillon {
 
 /// One line of a menu.
 struct MenuEntry {
-  QString Text;  // as it is shown; of an entry without one, only a line between groups is seen
+  QString Text;  // empty for a separator
   std::function<void()> Action{};
-  QKeySequence Key{};  // that does the same; it is only shown here
+  QKeySequence Key{};  // a key that does the same; only displayed here
   bool Enabled = true;
 };
 
-/// Brings up a menu at that point of the screen, over the window of `owner`, and returns at once. What is chosen is
-/// done when the menu has gone. Where a key has brought it up, its first enabled entry is marked.
+/// Opens a menu at that point of the screen, over the window of `owner`, and returns at once. The chosen action runs
+/// after the menu has closed. If a key opened it, its first enabled entry is selected.
 void PopUpMenu(QWidget& owner, const QPoint& place, const std::vector<MenuEntry>& entries);
 
 }  // namespace quillon

@@ -3,7 +3,7 @@
 namespace quillon {
 
 bool IsRightShift(const QKeyEvent& key) {
-  constexpr quint32 kSymbol = 0xFFE2;  // the X window system's name for it, which Wayland has taken over
+  constexpr quint32 kSymbol = 0xFFE2;  // the X keysym, which Wayland uses too
   return key.nativeVirtualKey() == kSymbol;
 }
 

@@ -3,7 +3,7 @@
 namespace quillon {
 
 bool IsRightShift(const QKeyEvent& key) {
-  constexpr quint32 kPlace = 0x36;  // on the keyboard; the two keys share their name
+  constexpr quint32 kPlace = 0x36;  // the scan code; the two keys share their name
   return key.nativeScanCode() == kPlace;
 }
 

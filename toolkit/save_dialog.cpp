@@ -20,17 +20,17 @@
 namespace quillon {
 namespace {
 
-constexpr std::size_t kLongestName = 255;  // of a file, in bytes: every system takes as many
+constexpr std::size_t kLongestName = 255;  // of a file, in bytes: every system allows as many
 
-// The dialog's "what it says | the files it lists" in Qt's form, the list in brackets.
+// The dialog's "caption | the files it lists" in Qt's form, with the list in brackets.
 QString NameFilter(std::string_view filter) {
   const auto bar = filter.find('|');
   if (bar == std::string_view::npos) return ToQt(filter);
   return ToQt(filter.substr(0, bar)).trimmed() + QStringLiteral(" (%1)").arg(ToQt(filter.substr(bar + 1)).trimmed());
 }
 
-// Qt's own dialog: those of the desktops keep lists of recent files. It would read quotes in a name as marks round
-// several names; here they are part of the one name.
+// Qt's own dialog, since those of the desktops keep lists of recent files. It would read quotes in a name as delimiters
+// of several names; here they are part of the name.
 class FileNameDialog : public QFileDialog {
  public:
   FileNameDialog(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
@@ -63,7 +63,7 @@ class FileNameDialog : public QFileDialog {
     }
     const QString name = file.fileName();
     const std::string bytes = FromQt(name);
-    if (bytes.empty() || bytes.size() > kLongestName) return;  // no file can be called so
+    if (bytes.empty() || bytes.size() > kLongestName) return;  // no file can have this name
     if (const std::string_view fault = NameFault(bytes); !fault.empty()) {
       MessageDialogs().Show(
           {.text = Joined({"The name ", fault, ". Please choose another one."}), .icon = MessageIcon::kExclamation});
@@ -78,8 +78,8 @@ class FileNameDialog : public QFileDialog {
   QString fileName_;
 };
 
-// A folder as Qt knows it, whose names of files are Unicode. One with a path that is not UTF-8, as only POSIX has, is
-// reached by way of this process's own hold on it, as long as this lives.
+// A path to a folder for Qt, whose file names are Unicode. A path that is not UTF-8, which only POSIX has, is reached
+// through a file descriptor of this process during the object's lifetime.
 class FolderForQt {
  public:
   explicit FolderForQt(const std::string& path) : path_(path), name_(ToQt(path)) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// Where to save a picture or a table: the program's own dialog for the name of a file. A name is taken as it was typed:
-// no extension is added, quotes are part of it, and a file that is there is no reason to ask.
+// The program's own dialog for saving a picture or a table. The name is taken as typed: no extension is added, quotes
+// are part of it, and existing files are replaced without asking.
 
 #include <QWidget>
 #include <filesystem>
@@ -12,15 +12,14 @@ namespace quillon {
 
 struct SaveQuestion {
   std::string_view Title;
-  std::string_view Filter;  // what the dialog says, " | ", the file names that it lists
-  std::string Folder;  // where it opens; exists
-  std::string Offered{};  // a path within the folder, or empty: what the line holds at first
+  std::string_view Filter;  // a caption, " | ", the file names that it lists
+  std::string Folder;  // the initial folder, which exists
+  std::string Offered{};  // the proposed path within the folder; may be empty
 };
 
-/// Asks, over the window of `parent`, and returns the path chosen, empty if the dialog is cancelled. A "~/" at the
-/// start is the user's home, the name of a folder opens it, and a name that no file can have leaves the dialog open,
-/// with a message where it is only this system that cannot store it.
-/// Paths that are not UTF-8 are kept byte for byte.
+/// Shows the dialog over the window of `parent` and returns the chosen path; empty if cancelled. A leading "~/" is the
+/// user's home, and the name of a folder opens it. An invalid name keeps the dialog open, with a message if only this
+/// system cannot store it. Paths that are not UTF-8 are kept byte for byte.
 [[nodiscard]] std::filesystem::path AskFileName(QWidget& parent, const SaveQuestion& question);
 
 }  // namespace quillon

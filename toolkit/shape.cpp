@@ -60,7 +60,7 @@ void Shape::PaintRounded(QPainter& painter, const QRect& outline, int width) con
   painter.drawRoundedRect(QRectF(outline).adjusted(half, half, -half, -half), radius, radius);
 }
 
-// Filled, not stroked: a pen of an even width has no middle among the pixels.
+// Filled, not stroked: a pen of even width cannot be centred on pixels.
 void Shape::PaintEdge(QPainter& painter, const QRect& outline, int width) const {
   const int across = outline.right() + 1 - width;
   const int down = outline.bottom() + 1 - width;

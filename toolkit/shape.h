@@ -1,8 +1,7 @@
 #pragma once
 
-// A rectangle, with square or rounded corners, or a straight line. One that sticks out of what holds it is drawn as far
-// as that goes, with its line on all four sides. Shapes take no part in what the mouse does: what
-// lies under one hears the mouse as if it were not there.
+// A rectangle, with square or rounded corners, or a straight line. One that extends beyond its container is drawn up to
+// its edge, with its line on all four sides. Shapes ignore the mouse: events go to what is under them.
 
 #include <QColor>
 #include <QPainter>

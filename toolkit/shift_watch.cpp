@@ -21,7 +21,7 @@ ShiftWatch::ShiftWatch(std::function<bool()> isHeld, QObject* parent)
   QCoreApplication::instance()->installEventFilter(this);
 }
 
-// One event passes through here for the window, for the control in it, and for whatever holds that.
+// The same event passes here for the window, for the control in it, and for its containers.
 bool ShiftWatch::IsKnown(const QKeyEvent& key) {
   const Seen seen{key.type(), key.timestamp()};
   const bool known = seen.When != 0 && seen == last_;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Listens to the Shift keys in all windows of the program, and answers the Shift test of a click on a card grid.
+// Observes the Shift keys in all windows of the program, and answers the Shift test for clicks on a card grid.
 
 #include <QEvent>
 #include <QObject>
@@ -16,8 +16,8 @@ class ShiftWatch : public QObject {
   Q_OBJECT
 
  public:
-  /// From now on it sees every key event of the program. `isHeld` tells whether the window system has a Shift key down
-  /// at this moment; by default the window system is asked.
+  /// Sees every key event of the program from now on. `isHeld` says whether a Shift key is down at the moment; by
+  /// default the window system is asked.
   explicit ShiftWatch(std::function<bool()> isHeld = {}, QObject* parent = nullptr);
 
   /// The Shift test: "ranges/shift_keys.h". Asking changes the next answer.

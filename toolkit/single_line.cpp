@@ -17,7 +17,7 @@ class SingleLine : public QValidator {
  public:
   using QValidator::QValidator;
 
-  // The caret is after the text that has come in, and all that was there before is clean.
+  // The caret is after the inserted text, and everything before the insertion is clean.
   State validate(QString& text, int& caret) const override {
     const QChar* start = text.cbegin();
     const auto kept = static_cast<int>(std::find_if(start, start + caret, IsLineEnd) - start);

@@ -1,14 +1,14 @@
 #pragma once
 
-// What every box for one line of text has in common: a text copied from a table cell or a terminal brings a line end
-// along, which no such box shows.
+// The base of all one-line boxes: text copied from a table cell or a terminal contains a line end, which such a box
+// does not show.
 
 #include <QLineEdit>
 
 namespace quillon {
 
-/// What is pasted, dropped or set in the box ends before its first line end, and each tab becomes a space. What is
-/// after the caret stays.
+/// Cuts pasted, dropped or set text at its first line end, and replaces each tab by a space. What is after the caret
+/// stays.
 void KeepToOneLine(QLineEdit& box);
 
 }  // namespace quillon

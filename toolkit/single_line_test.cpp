@@ -14,7 +14,7 @@
 namespace quillon {
 namespace {
 
-// How a text comes into a box, at the caret and in place of what is selected.
+// A way to put text into a box, at the caret, replacing the selection.
 struct Way {
   const char* Name;
   void (*Bring)(QLineEdit& box, const QString& text);
@@ -39,7 +39,7 @@ void Compose(QLineEdit& box, const QString& text) {
 struct TextCase {
   const char* Rule;
   const char* Brought;
-  const char* Box;  // after "12|34" with the caret at the bar
+  const char* Box;  // with the text inserted into "12|34" at the bar
   int Caret;
 };
 

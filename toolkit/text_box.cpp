@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-// The window going to the background, or a menu over the box, leaves the box in the middle of its work.
+// Switching to another window, or opening the box's menu, does not leave the box.
 bool LeavesTheBox(const QFocusEvent& event) {
   return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason;
 }

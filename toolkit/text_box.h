@@ -1,6 +1,6 @@
 #pragma once
 
-// A box for one line of text, without a border of its own: the form draws one round it.
+// A box for one line of text, without a border of its own: the form draws one around it.
 
 #include <QLineEdit>
 
@@ -12,13 +12,13 @@ class TextBox : public QLineEdit {
  public:
   explicit TextBox(QWidget* parent);
 
-  /// Ends the user's work in the box, as the loss of the focus does; nothing where it has ended.
+  /// Ends editing, like losing the focus; nothing if it has ended.
   void Leave();
 
  Q_SIGNALS:
   void FocusGot();
   void FocusLost();
-  void EnterPressed();  // Enter or Return; the key goes on to whoever else wants it
+  void EnterPressed();  // Enter or Return; the key is then passed on
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
@@ -26,7 +26,7 @@ class TextBox : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  bool busy_ = false;  // from FocusGot to FocusLost, also while another window is in front
+  bool busy_ = false;  // from FocusGot to FocusLost, even while another window is active
 };
 
 }  // namespace quillon

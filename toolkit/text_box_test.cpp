@@ -75,7 +75,7 @@ TEST_F(TextBoxTest, CanBeLeftWhileAnotherWindowIsInFrontAndIsLeftOnce) {
 
   box.Leave();
   EXPECT_EQ(lost.count(), 1);
-  box.Leave();  // nobody is busy in it any longer
+  box.Leave();  // editing has ended already
   BringToFront(form);
   EXPECT_EQ(got.count(), 1);
   EXPECT_EQ(lost.count(), 1);

@@ -1,11 +1,11 @@
 #pragma once
 
-// How twips become pixels. Every edge goes to the nearest pixel on its own, the right one like the left one, so that
-// two controls which meet in the layout meet on the screen. The pixels are the screen's own wherever the window system
-// lets them be counted ("toolkit/desktop_scale.h"), so that this rounding is the only one.
+// Conversion of twips to pixels. Each edge is rounded to the nearest pixel separately, so that controls that meet in
+// the layout meet on the screen. The pixels are the screen's own wherever the window system allows it
+// ("toolkit/desktop_scale.h"), so this is the only rounding.
 //
-// How many pixels a twip has is the scale of the program, the same for all of its windows, and known here alone: at 1
-// there are 15 twips to the pixel, at 2 there are 7.5. A layout stays what it is at every scale.
+// The program's scale, pixels per twip, is the same for all of its windows and used only here: at 1 there are 15 twips
+// to the pixel, at 2 there are 7.5. Layouts do not depend on it.
 
 #include <QPoint>
 #include <QRect>
@@ -14,16 +14,16 @@
 
 namespace quillon {
 
-/// The scale of the program, 1 at first: how many pixels 15 twips have.
+/// The program's scale: the pixels per 15 twips, initially 1.
 [[nodiscard]] double PixelScale();
 
-/// Sets it. Controls that exist already take it by "toolkit/placement.h".
+/// Sets it. "toolkit/placement.h" applies it to existing controls.
 void SetPixelScale(double scale);
 
-/// How many twips a pixel has at that scale.
+/// The number of twips per pixel at that scale.
 [[nodiscard]] double TwipsPerPixel();
 
-/// The pixel whose edge is nearest; half way goes up.
+/// The nearest pixel edge; halves round up.
 [[nodiscard]] int PixelEdge(float twips);
 
 /// The rectangle between the nearest pixel edges.
@@ -32,7 +32,7 @@ void SetPixelScale(double scale);
 /// The twips of a pixel rectangle.
 [[nodiscard]] TwipRect TwipsOf(const QRect& pixels);
 
-/// The width of a line that has so many pixels at a scale of 1: rounded, and at least 1.
+/// The width of a line that has this many pixels at a scale of 1: rounded, and at least 1.
 [[nodiscard]] int LinePixels(int width);
 
 }  // namespace quillon

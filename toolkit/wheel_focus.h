@@ -1,6 +1,7 @@
 #pragma once
 
-// The wheel over a list turns it only while it has the focus: whoever rolls through a screen chooses nothing by it.
+// The mouse wheel changes a list's selection only while the list has the focus, so that scrolling a screen changes
+// nothing.
 
 #include <QWidget>
 
