@@ -1,6 +1,6 @@
-// The single steps: one lookup in the equity table beside a bare scan of the bytes that it has to pass, one weight read
-// from a range text, one dealt range, and the loading of the table. Each lookup benchmark walks all pairs of classes,
-// so that a figure is the mean over near and far columns.
+// The single steps: one lookup in the equity table next to a bare scan of the bytes that it has to skip, one weight
+// read from a range text, one dealt range, and the loading of the table. Each lookup benchmark covers all pairs of
+// classes, so a figure is the mean over near and far columns.
 
 #include <algorithm>
 #include <array>
@@ -21,7 +21,7 @@
 namespace quillon {
 namespace {
 
-// The table is loaded once in a program's life, so this comes first and is timed once.
+// A process loads the table only once, so this comes first and is timed once.
 void EquityTableLoading(benchmark::State& timing) {
   while (timing.KeepRunning()) {
     LoadEquityTable();
@@ -51,7 +51,7 @@ void HandEquityLookup(benchmark::State& timing) {
 }
 BENCHMARK(HandEquityLookup);
 
-// For each row, where its fields start.
+// The starts of each row's fields.
 std::vector<std::array<std::size_t, kHandClassCount>> FieldStarts() {
   std::vector<std::array<std::size_t, kHandClassCount>> starts(kHandClassCount);
   for (std::size_t i = 0; i < kHandClassCount; ++i) {
@@ -61,7 +61,7 @@ std::vector<std::array<std::size_t, kHandClassCount>> FieldStarts() {
   return starts;
 }
 
-// A bare scan of the bytes that a lookup has to pass, as the compiler makes it of the library's plain loop.
+// A bare scan of the bytes that a lookup has to skip, as compiled from the library's plain loop.
 void BareScan(benchmark::State& timing) {
   LoadEquityTable();
   const auto starts = FieldStarts();
@@ -73,8 +73,8 @@ void BareScan(benchmark::State& timing) {
 }
 BENCHMARK(BareScan);
 
-// The floor under a lookup: the same bytes, passed by the program's own vector loop with nothing else to do. The text
-// is made up to whole vectors, since a lookup, which does not end at its field, has no single bytes left over either.
+// The lower bound for a lookup: the same bytes scanned by the program's own vector loop with nothing else to do. The
+// text is padded to whole vectors, since a lookup, which does not end at its field, has no remainder either.
 void ScanFloor(benchmark::State& timing) {
   LoadEquityTable();
   const auto starts = FieldStarts();

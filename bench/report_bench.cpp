@@ -1,4 +1,4 @@
-// The written report of a finished Preflop Raise in both of its forms, without a window around it.
+// The written report of a finished Preflop Raise in both of its forms, without a window.
 
 #include <benchmark/benchmark.h>
 #include <cstdint>
@@ -16,7 +16,7 @@
 namespace quillon {
 namespace {
 
-// Both ranges full, and every hand with figures of its own.
+// Both ranges full, and different figures for each hand.
 Analysis FinishedRaise() {
   Analysis state = sample::RaiseState();
   state.RangeText = EveryHandAt(1);

@@ -1,4 +1,4 @@
-// What asks many questions at once, from nothing, the reading of the equity table included, beside the analyses of
+// Batches of many questions, including the reading of the equity table, to compare with the analyses of
 // "analysis_bench.cpp" in the same run.
 
 #include <benchmark/benchmark.h>
@@ -18,7 +18,7 @@
 namespace quillon {
 namespace {
 
-// A raise at so many shoves, one hand told.
+// A raise at this many shoves, for one hand.
 void ShoveSweep(benchmark::State& timing) {
   LoadEquityTable();
   const auto steps = std::get<Steps>(Steps::Read("1:" + std::to_string(timing.range(0)) + ":1"));
@@ -45,7 +45,7 @@ void BalancedRanges(benchmark::State& timing) {
 }
 BENCHMARK(BalancedRanges)->Unit(benchmark::kMillisecond)->Arg(5)->Arg(10)->Arg(15)->Arg(20)->Arg(50)->Arg(100);
 
-// All stacks of a chart from 1.1 to 20 big blinds, on so many threads.
+// All stacks of a chart from 1.1 to 20 big blinds, on this many threads.
 void StackCharts(benchmark::State& timing) {
   LoadEquityTable();
   const auto stacks = std::get<Steps>(Steps::Read("1.1:20:0.1"));
@@ -54,7 +54,7 @@ void StackCharts(benchmark::State& timing) {
 }
 BENCHMARK(StackCharts)->Unit(benchmark::kMillisecond)->UseRealTime()->Arg(1)->Arg(2);
 
-// A line's raise, both ranges full as in PreflopRaise beside it, from its text to its answer's.
+// A raise from a line's text to its answer's text, with both ranges full as in PreflopRaise.
 constexpr const char* kRaiseLine =
     R"({"id":1,"mode":"raise","pot":150,"call":50,"shove":400,"hands":"any","calling_hands":"any"})";
 

@@ -1,7 +1,7 @@
-// What a player waits for in the window: from a click on Analyze to the painted grid, from a move of the mouse to the
-// painted hover panel, from a click on Details to the written report, from asking for a page of the study window to the
-// page, and the making of the whole window. The window is a real one on whatever platform Qt is told; bench/window.sh
-// runs this on a virtual screen.
+// What a player waits for in the window: from a click on Analyze to the painted grid, from a mouse move to the painted
+// hover panel, from a click on Details to the written report, from opening a page of the study window to the page, and
+// the creation of the whole window. It is a real window on whatever platform Qt is given; bench/window.sh runs this on
+// a virtual screen.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -41,7 +41,7 @@ class NoWeb : public WebClient {
   std::string Get(std::string_view /*address*/) override { return {}; }
 };
 
-// Counts how often a widget is painted.
+// Counts the paint events of a widget.
 class PaintWatch : public QObject {
  public:
   explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
@@ -93,7 +93,7 @@ struct Program {
   }
 };
 
-// One program serves all benchmarks but that of making it. It ends before the application does.
+// One program serves all benchmarks except that of its creation. It ends before the application does.
 std::unique_ptr<Program>& TheProgramPlace() {
   static std::unique_ptr<Program> place;
   return place;
@@ -162,7 +162,7 @@ void ClickDetailsToReport(benchmark::State& timing) {
 }
 BENCHMARK(ClickDetailsToReport)->Unit(benchmark::kMillisecond);
 
-// The study window is open at another page, and is turned to that one for a situation that it has not shown yet.
+// The study window is open at another page, and switches to this one for a situation that it has not shown yet.
 void AskForPage(benchmark::State& timing, StudyTopic topic, StudyTopic other) {
   Program& program = TheProgram();
   program.FillInRaise();

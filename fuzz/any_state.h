@@ -1,6 +1,6 @@
 #pragma once
 
-// An analysis that never ran, made of the bytes of a fuzz input: any scenario, any amounts, names, ranges and results.
+// An analysis made from the bytes of a fuzz input: any scenario, amounts, names, ranges and results.
 
 #include <cstdint>
 #include <string>
@@ -14,14 +14,14 @@
 
 namespace quillon {
 
-/// A range text: one of whole weights, or any bytes at all.
+/// A range text: one of simple weights, or arbitrary bytes.
 inline std::string AnyRangeText(FuzzInput& input) {
   constexpr std::size_t kBytes = 43;  // two bits a class
   if (input.TakeBelow(4) == 3) return std::string(input.TakeText(input.TakeBelow(200)));
   return RangeTextOf(AnyWeights(input.TakeText(input.TakeBelow(kBytes + 1))));
 }
 
-/// An amount: a whole number, hundredths, or any double.
+/// An amount: an integer, hundredths, or any double.
 inline double AnyAmount(FuzzInput& input) {
   const std::size_t kind = input.TakeBelow(4);
   if (kind == 0) return input.TakeDouble();
@@ -29,7 +29,7 @@ inline double AnyAmount(FuzzInput& input) {
   return kind == 1 ? whole / 100 : whole;
 }
 
-/// A results table: a whole one with any cells, a part of one, or any bytes at all.
+/// A results table: a whole one with any cells, a part of one, or arbitrary bytes.
 inline std::string AnyResults(FuzzInput& input) {
   if (input.TakeBelow(4) == 3) return std::string(input.Rest());
   const auto rows = static_cast<std::int16_t>(input.TakeBelow(kHandClassCount + 1));
@@ -58,7 +58,7 @@ inline Analysis AnyState(FuzzInput& input) {
   return state;
 }
 
-/// Whether a fault is one of those that amounts, ranges and results can lead to.
+/// Whether a fault is one that amounts, ranges and results can cause.
 inline bool IsFaultOfAnalysis(RunTimeFault fault) {
   return fault == RunTimeFault::kOverflow || fault == RunTimeFault::kDivisionByZero ||
          fault == RunTimeFault::kInvalidProcedureCall;

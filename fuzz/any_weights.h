@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// A weight for each class from two bits each, the lowest first; 0 where the bits have come to an end.
+/// A weight for each class from two bits each, the lowest first; 0 after the last bit.
 inline ClassWeights AnyWeights(std::string_view bits) {
   constexpr std::array<double, 4> kWeights = {0, 0.5, 1, 0.25};
   ClassWeights weights{};

@@ -1,5 +1,5 @@
-// Lines of a batch with any bytes in them: each is a question or a refusal that can be told, and an answer is JSON with
-// the id that the line has.
+// Lines of a batch with arbitrary bytes: each is a question or a printable refusal, and an answer is JSON with the
+// line's id.
 
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -17,7 +17,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// A folder without ranges: names are looked for in vain, and notations need none.
+// A folder without ranges: no name exists, and notations need none.
 const Batch& TheBatch() {
   LoadEquityTable();
   static const Batch batch({"/nonexistent"}, {"best", "ev"});

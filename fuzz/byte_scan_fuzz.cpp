@@ -1,4 +1,4 @@
-// The searches over many bytes at a time must give what one byte at a time gives.
+// The searches over many bytes at a time must give the same as one byte at a time.
 
 #include "fuzz/fuzz_target.h"
 #include "support/byte_scan.h"
@@ -16,7 +16,7 @@ void CheckInput(FuzzInput input) {
   for (const char byte : wanted.empty() ? std::string_view(" ") : wanted)
     Require(FindNthByte(text, byte, n) == plain::NthByte(text, byte, n), "FindNthByte equals a plain loop");
 
-  // A piece of the text itself is there, at the latest where it was taken from.
+  // A piece of the text itself is found, at its place or earlier.
   const std::size_t start = text.empty() ? 0 : n % text.size();
   const std::string_view piece = text.substr(start, wanted.size());
   Require(FindText(text, piece) == text.find(piece), "FindText finds a piece of the text itself");

@@ -1,4 +1,4 @@
-// What libFuzzer calls.
+// libFuzzer's entry point.
 
 #include "fuzz/fuzz_target.h"
 

@@ -1,4 +1,4 @@
-// Settings files of any bytes, against the oracle, which splits them into lines first.
+// Settings files of arbitrary bytes, against the oracle, which splits them into lines first.
 
 #include <array>
 #include <string>
@@ -17,7 +17,7 @@ std::string FirstLine(std::string_view text) {
   return std::string(text.substr(0, text.find_first_of("\r\n")));
 }
 
-// Whether `longer` is `text` with some bytes put in at one place.
+// Whether `longer` is `text` with some bytes inserted at one place.
 bool HasInsertion(std::string_view longer, std::string_view text) {
   std::size_t same = 0;
   while (same < text.size() && same < longer.size() && longer[same] == text[same])
@@ -39,7 +39,7 @@ void CheckWriting(std::string_view text, const std::string& section, const std::
   if (isNew) Require(HasInsertion(after, text), "a new key leaves every byte as it is");
 }
 
-// The same through the file, with the text of the code page.
+// The same through the file, with text of the code page.
 void CheckFile(std::string_view bytes, const std::string& section, const std::string& key, std::string_view value) {
   MemoryFiles files;
   const ProgramFolder folder{"/quillon-fuzz", &files};

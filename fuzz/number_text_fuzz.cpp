@@ -34,7 +34,8 @@ void EraseOnce(std::string& text, std::string_view unwanted) {
   if (const std::size_t place = text.find(unwanted); place != std::string::npos) text.erase(place, unwanted.size());
 }
 
-// With the marks of a German user: what is numeric without them stays so, and what they add is a number but for them.
+// With a German user's marks: what is numeric without them stays so, and what they add is a number once they are
+// removed.
 void CheckMarks(std::string_view text) {
   const bool numeric = IsNumericText(text, {"€", ",", "."});
   Require(numeric || !plain::IsNumeric(text), "marks take nothing away");

@@ -1,5 +1,5 @@
-// Any bytes pasted on any grid: what can be read is what toggles of single cells make of the grid, and copies as a
-// notation that pastes the same; what cannot be read has a place and a reason. The same bytes as a share.
+// Arbitrary bytes pasted on any grid: a valid notation is reached by toggles of single cells, and copies as a notation
+// that pastes the same; an invalid one has a place and a reason. Also the same bytes as a share.
 
 #include <numeric>
 #include <optional>

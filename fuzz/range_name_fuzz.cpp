@@ -1,5 +1,5 @@
-// Names of ranges and of files, of any bytes: an accepted name stays in the range folder and is recovered from
-// its file's name.
+// Arbitrary names of ranges and of files: an accepted name stays in the range folder and is recovered from its file's
+// name.
 
 #include <set>
 #include <string>

@@ -1,5 +1,5 @@
-// Notations of any bytes, and ranges of any weights: what is read is a range, what is written reads the same, and an
-// error has a place that can be shown.
+// Arbitrary notations, and ranges of any weights: what is read is a range, what is written reads the same, and an error
+// has a place that can be shown.
 
 #include <algorithm>
 #include <array>

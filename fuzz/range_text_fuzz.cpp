@@ -1,4 +1,4 @@
-// Weights, sums and summaries of any text and of any range, against the oracle.
+// Weights, sums and summaries of any text and range, against the oracle.
 
 #include <cmath>
 #include <optional>
@@ -31,7 +31,7 @@ void CheckLabel(const std::string& text, const std::string& label) {
   Require(!weight || std::isfinite(*weight), "a weight is finite");
 }
 
-// Of texts of which some weights cannot be read there is neither.
+// A text with unreadable weights has neither.
 void CheckSumAndSummary(const std::string& text) {
   const std::optional<plain::Weights> weights = plain::WeightsOf(text);
   try {

@@ -1,5 +1,4 @@
-// Runs a fuzz target over the files of the folders named on the command line. A run over no file at all is a failure:
-// it would say nothing.
+// Runs a fuzz target over the files of the folders named on the command line. Finding no file at all is a failure.
 
 #include <algorithm>
 #include <cstdio>
@@ -26,7 +25,8 @@ std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& folder) 
 
 void Replay(const std::filesystem::path& file) {
   const std::string text = BytesOf(file);
-  const std::vector<std::uint8_t> bytes(text.begin(), text.end());  // no more, so that a read past the end is found
+  const std::vector<std::uint8_t> bytes(text.begin(),
+                                        text.end());  // exactly sized, so that a read past the end is caught
   CheckInput({bytes.data(), bytes.size()});
 }
 

@@ -1,5 +1,5 @@
-// Reports of analyses that never ran: each is whole or fails as told, only the dropped hands of its state change, and a
-// second one is the same.
+// Reports of arbitrary analyses: each is complete or fails as documented, changes nothing but the dropped hands of its
+// state, and repeats identically.
 
 #include <optional>
 #include <string>
@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-// A screen that keeps the text and nothing else: a report is written in some two hundred pieces, and most runs are one.
+// A screen that only keeps the text: a report has about two hundred pieces, and most runs make one.
 class Screen final : public ReportScreen {
  public:
   Screen(ReportForm form, std::string_view text, std::size_t caret) : form_(form), text_(text), caret_(caret) {}
@@ -53,7 +53,7 @@ std::optional<std::string> Report(const Analysis& state, ReportForm form) {
   return screen.Text();
 }
 
-// Forward, since the library's search from the end asks at every place on its own.
+// Forward, since the library's search from the end compares at every position.
 std::size_t LastPlaceOf(std::string_view text, std::string_view wanted) {
   std::size_t last = std::string_view::npos;
   for (std::size_t place = text.find(wanted); place != std::string_view::npos; place = text.find(wanted, place + 1))
@@ -62,7 +62,7 @@ std::size_t LastPlaceOf(std::string_view text, std::string_view wanted) {
 }
 
 void CheckPlain(const Analysis& state, std::string_view text) {
-  // A name of a range may hold anything, but not in this place.
+  // A range's name may contain anything, but not at this position.
   const std::size_t rows = LastPlaceOf(text, "Calculations");
   Require(rows != std::string_view::npos, "a report has its calculations");
   std::size_t place = text.find("\rAA\t", rows);

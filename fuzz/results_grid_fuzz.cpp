@@ -1,5 +1,4 @@
-// The grid and the hover panel of analyses that never ran: green is profit, red is loss, and each cell shows its own
-// hand.
+// The grid and the hover panel of arbitrary analyses: green is profit, red is loss, and each cell shows its own hand.
 
 #include <cstddef>
 #include <optional>

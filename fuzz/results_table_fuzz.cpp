@@ -13,7 +13,7 @@
 namespace quillon {
 namespace {
 
-// The changed table, nothing where its number has no text.
+// The changed table; nothing if its number has no text.
 std::optional<std::string> Changed(std::string_view table, std::string_view label, std::int16_t column, double value,
                                    std::int16_t lastColumn) {
   try {

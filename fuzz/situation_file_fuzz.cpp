@@ -1,5 +1,5 @@
-// Files of situations with any bytes in them, and input screens with any texts: what is read is written as a file that
-// reads the same, nothing that it lacks goes untold, and a line that a batch answers can be opened.
+// Situation files of arbitrary bytes, and input screens with any texts: what is read is written as a file that reads
+// the same, everything missing is reported, and a line that a batch answers can be opened.
 
 #include <algorithm>
 #include <array>
@@ -32,7 +32,7 @@ void CheckIsOfItsMode(const ScreenSituation& situation) {
   Require(scenario.HasCallingRange || entered.CallingRange.empty(), "only a shove has a calling range");
 }
 
-// A sum is written as it is, and read as its value.
+// A sum is written as it is, but read as its value.
 void CheckWritten(const ScreenSituation& situation) {
   const SituationText text = TextOfSituation(situation);
   Require(text.Line.find('\n') == text.Line.size() - 1, "a situation is one line");
@@ -82,7 +82,7 @@ void CheckBatch(std::string_view line) {
   Require(read->NotTaken.size() == notations + (question->Id == "null" ? 0 : 1), "the rest of it is told, and no more");
 }
 
-// Texts of bytes as an input screen may have them: UTF-8, as long as they like.
+// Texts as an input screen may contain them: UTF-8 of any length.
 ScreenSituation AnyScreen(FuzzInput& input) {
   ScreenSituation situation;
   situation.Mode = kScenarios.at(input.TakeBelow(kScenarios.size())).Mode;

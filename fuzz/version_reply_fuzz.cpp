@@ -1,5 +1,5 @@
-// The upgrade check with any reply of the web host and any settings file: the link says what the caption says, and only
-// a setting that no box can show fails.
+// The upgrade check with any reply and any settings file: the link agrees with the caption, and only a setting that no
+// box can show fails.
 
 #include <cmath>
 #include <string>
@@ -25,7 +25,7 @@ void CheckLook(const UpgradeLook& look, const std::string& reply) {
   const bool isNewer = LeadingNumber(reply) > LeadingNumber(kVersionText);
   const bool tellsNewer = look.Link == "Download latest version of Quillon";
   Require(tellsNewer || look.Link == "You have the latest version of Quillon", "the link tells one of two things");
-  // Between neighbours the caption's 15 digits decide, and nobody could follow more.
+  // Between close numbers the caption's 15 digits decide.
   const bool isClose = std::abs(LeadingNumber(reply) - LeadingNumber(kVersionText)) < 1e-12;
   Require(isClose || tellsNewer == isNewer, "the link goes by the number");
 }

@@ -1,4 +1,4 @@
-// Any bytes survive the round trip into memory, and any text becomes one byte a character.
+// Any bytes survive the round trip into memory, and any text becomes one byte per character.
 
 #include <string>
 

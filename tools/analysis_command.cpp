@@ -36,7 +36,7 @@ Analysis AnalyzeWithProgress(Situation situation, const Surroundings& surroundin
                   }});
 }
 
-// A range by its notation goes in as text, one by its name is for the checks and the run to read.
+// A range given by notation goes in as text; one given by name is read by the checks and the run.
 bool TakeRange(const RangeOption& option, CommandInputs& inputs, std::string& name, std::string& text) {
   if (option.Hands) {
     const std::optional<GivenRange> range = inputs.TypedRange(*option.Hands);
@@ -46,13 +46,13 @@ bool TakeRange(const RangeOption& option, CommandInputs& inputs, std::string& na
   }
   if (!option.Name) throw CLI::RequiredError(option.Options);
   name = *option.Name;
-  if (name.empty()) return true;  // the input checks have their own words for it
+  if (name.empty()) return true;  // the input checks report this in their own words
   if (const auto unknown = WhyUnknown(name, inputs.Folder())) {
     inputs.Refuse(*unknown);
     return false;
   }
   if (const auto unreadable = WhyUnreadable(name, inputs.Folder()))
-    inputs.Refuse(*unreadable);  // the run fails over it
+    inputs.Refuse(*unreadable);  // the run will fail on it
   return true;
 }
 

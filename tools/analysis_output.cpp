@@ -17,7 +17,7 @@
 namespace quillon {
 namespace {
 
-// A report screen that keeps the text alone; a terminal has no fonts.
+// A report screen that keeps only the text; a terminal has no fonts.
 class TextScreen final : public ReportScreen {
  public:
   explicit TextScreen(ReportForm form) : form_(form) {}
@@ -72,7 +72,7 @@ std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::s
     case OutputFormat::kTable:
       return analysis.HandInfo;
     case OutputFormat::kJson:
-      // A name from the command line may be no valid UTF-8; it must not cost the user the analysis.
+      // A name from the command line may be invalid UTF-8, which must not make the output fail.
       return AnalysisJson(analysis).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     case OutputFormat::kCsv:
       return AnalysisTable(analysis, ',');

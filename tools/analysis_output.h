@@ -1,6 +1,6 @@
 #pragma once
 
-// A finished analysis as text for a terminal, a file or another program, in the forms that the companion offers.
+// A finished analysis as text, in the companion's formats.
 
 #include <array>
 #include <span>
@@ -31,21 +31,21 @@ inline constexpr std::array<OutputFormatRow, 7> kAnalysisFormats = {{
     {{"svg", "the grid as a picture"}, OutputFormat::kSvg},
 }};
 
-/// The format of that name; kPlain for a text that names none.
+/// The format of that name; kPlain for an unknown name.
 [[nodiscard]] OutputFormat OutputFormatOf(std::string_view name);
 
-/// The analysis in one format, the last line end included.
+/// The analysis in one format, including the last line end.
 ///
-/// kPlain and kForum are the two reports, with Unix line ends; the forum form ends in the working of each of `hands`
-/// (class labels). kHtml and kSvg are those of "results/analysis_page.h". kTable is the results table byte for byte,
-/// its line ends included. kCsv is AnalysisTable with commas, and kJson is one object: what the scenario does not have,
-/// such as the fold share of a call, is null there. Numbers read back as those of the table; an equity of -1 says that
-/// the opponent never calls. Fails as BuildReport and MakeGridTexts do.
+/// kPlain and kForum are the two reports, with Unix line ends; the forum form ends with the calculations for each of
+/// `hands` (class labels). kHtml and kSvg are those of "results/analysis_page.h". kTable is the results table byte for
+/// byte, including its line ends. kCsv is AnalysisTable with commas, and kJson is one object, with null for a value
+/// that the scenario does not have, such as the fold share of a call. Numbers read back as in the table; an equity of
+/// -1 means that the opponent never calls. Fails as BuildReport and MakeGridTexts do.
 [[nodiscard]] std::string AnalysisOutput(OutputFormat format, const Analysis& analysis,
                                          std::span<const std::string> hands);
 
-/// The 13 by 13 grid in its colours, for a terminal that takes 24-bit colour sequences: one line for each row, with
-/// class labels in black or white, whichever reads better.
+/// The 13 by 13 grid in its colours, for a terminal with 24-bit colour sequences: one line for each row, with class
+/// labels in black or white, whichever reads better.
 [[nodiscard]] std::string TerminalGrid(const std::array<Rgb, 169>& colors);
 
 }  // namespace quillon

@@ -39,7 +39,7 @@ using Json = nlohmann::ordered_json;
 
 // ---- what the tests compare with, written without the routines under test
 
-// First the pairs, then what is left: another road than a walk through the characters.
+// First the pairs, then what is left: a different method from the product's scan.
 std::string WithUnixLineEnds(const std::string& text) {
   return Replaced(Replaced(text, "\r\n", "\n"), "\r", "\n");
 }
@@ -99,7 +99,7 @@ struct RunCase {
   bool hasFold;
 };
 
-// Each test goes through all three.
+// Each test covers all three.
 class EachScenario : public testing::Test {
  protected:
   static constexpr std::array kRuns = {RunCase{"Call", CallRun, true, false}, RunCase{"Raise", RaiseRun, true, true},
@@ -367,7 +367,7 @@ TEST(TerminalGrid, HasOneLineForEachRow) {
   EXPECT_EQ(lines.back(), "");
   for (std::size_t row = 0; row < 13; ++row) {
     EXPECT_TRUE(lines[row].starts_with("\x1b[48;2;")) << row;
-    EXPECT_TRUE(lines[row].ends_with("\x1b[0m")) << row;  // no colour runs into what is printed next
+    EXPECT_TRUE(lines[row].ends_with("\x1b[0m")) << row;  // the colour is reset at the end of each line
   }
 }
 

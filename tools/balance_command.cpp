@@ -66,7 +66,7 @@ constexpr std::array<Format<Answer>, 2> kFormats = {{
     {{"json", "the same as one object, with the situation"}, JsonOutput},
 }};
 
-// Whether what was not given is everything, and what was given has hands.
+// The weights of an option; all hands if it is missing, nothing after an error message.
 std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& inputs) {
   if (!option.Given()) return AllHands();
   const std::optional<GivenRange> range = inputs.RangeWithHands(option);
@@ -76,7 +76,7 @@ std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& in
   return std::nullopt;
 }
 
-// The situation, once it is one that can be balanced.
+// The situation, once checked to be one that can be balanced.
 std::optional<BalanceQuestion> QuestionOf(const Request& request, CommandInputs& inputs) {
   const auto& [pot, call, shove] = request.situation.Amounts;
   const auto [potOption, callOption, shoveOption] = kAmountOptions;
@@ -92,7 +92,7 @@ std::optional<BalanceQuestion> QuestionOf(const Request& request, CommandInputs&
   return std::nullopt;
 }
 
-// Whether both ranges may be saved under the names given, if any are.
+// Whether both ranges may be saved under their names, if given.
 bool MaySaveBoth(const Request& request, CommandInputs& inputs, const Surroundings& surroundings) {
   const auto maySave = [&](const std::optional<std::string>& name) {
     return !name || MaySave(inputs, *name, request.replace, surroundings);

@@ -37,7 +37,7 @@ struct Request {
   std::string folder;
 };
 
-// The fields in a list, all of them where there is none.
+// The fields in a list; all of them if there is none.
 std::vector<std::string> FieldsOf(const std::optional<std::string>& list) {
   std::vector<std::string> fields;
   if (!list) return fields;
@@ -54,7 +54,7 @@ std::vector<std::string> FieldsOf(const std::optional<std::string>& list) {
   return fields;
 }
 
-// The next line, or nothing at the end. Of a line that is too long, as much as shows that it is.
+// The next line, or nothing at the end. A line that is too long is cut just above the limit.
 std::optional<std::string> NextLine(std::streambuf& input) {
   std::string line;
   int next = input.sbumpc();
@@ -65,8 +65,8 @@ std::optional<std::string> NextLine(std::streambuf& input) {
   return line;
 }
 
-// One thread reads, some answer, and one writes. Between them are queues of a fixed length, so that no more lines are
-// in memory than keep everybody busy, however many there are and whoever is the slowest.
+// One thread reads, some answer, and one writes, with queues of fixed length in between, so that memory stays bounded
+// however many lines there are and whichever thread is the slowest.
 class Filter {
  public:
   Filter(const Batch& batch, unsigned jobs, const Surroundings& surroundings)
@@ -78,12 +78,12 @@ class Filter {
       workers_.emplace_back([this] { Work(); });
   }
 
-  // The exit status. What could not be answered or written ends it with an exception.
+  // Returns the exit status; throws if something could not be answered or written.
   int Run(std::streambuf& input) {
     std::future<int> written = std::async(std::launch::async, [this] { return Write(); });
     try {
       Read(input);
-    } catch (...) {  // of input that cannot be read; the others must not wait for more
+    } catch (...) {  // from unreadable input; the others must not wait for more
       Close();
       throw;
     }
@@ -95,12 +95,11 @@ class Filter {
  private:
   static constexpr std::size_t kLinesForEachJob = 16;
 
-  // Up to the end or Ctrl+C. What was read is answered all the same, which takes a moment, or until the answers are
-  // taken.
+  // Reads until the end or Ctrl+C. Lines already read are still answered.
   void Read(std::streambuf& input) {
     for (std::int64_t number = 1; !failed_ && !InterruptWatch::Came(); ++number) {
       std::optional<std::string> line = NextLine(input);
-      if (!line || InterruptWatch::Came()) break;  // perhaps in the middle of the line
+      if (!line || InterruptWatch::Came()) break;  // possibly in the middle of the line
       std::packaged_task<BatchAnswer()> task(
           [this, number, line = *std::move(line)] { return batch_.Answer(line, number); });
       answers_.Push(task.get_future());
@@ -119,7 +118,7 @@ class Filter {
     while (auto answer = answers_.Pop()) {
       try {
         if (!failed_) status = std::max(status, WriteOne(*answer));
-      } catch (...) {  // to be told when the reader has ended, which must not wait for room meanwhile
+      } catch (...) {  // rethrown once the reader has ended, which must not wait for room meanwhile
         failed_ = true;
         failure = std::current_exception();
       }
@@ -131,7 +130,7 @@ class Filter {
   int WriteOne(std::future<BatchAnswer>& coming) {
     const BatchAnswer answer = coming.get();
     surroundings_.Output << answer.Line << '\n';
-    if (answers_.IsEmpty()) surroundings_.Output.flush();  // for whoever sends a line and waits for its answer
+    if (answers_.IsEmpty()) surroundings_.Output.flush();  // for a user who sends a line and waits for its answer
     failed_ = !surroundings_.Output;
     if (!answer.Warning.empty()) surroundings_.Errors << answer.Warning << '\n';
     return answer.Refused ? kFailed : kDone;
@@ -150,7 +149,7 @@ class Filter {
   std::vector<std::jthread> workers_;
 };
 
-// An open file, or nothing after it was told why it cannot be opened.
+// An open file, or nothing after an error message.
 class OpenFile {
  public:
   OpenFile(const std::string& path, CommandInputs& inputs)

@@ -1,4 +1,4 @@
-// The command that answers a situation a line, run as the program runs it.
+// The command for batches, run as the program runs it.
 
 #include <array>
 #include <atomic>
@@ -39,7 +39,7 @@ class BatchCommand : public testing::Test {
     return program_.Run(arguments, {.Typed = lines});
   }
 
-  // The exit status of a run with streams of the test's own.
+  // The exit status of a run with the test's own streams.
   [[nodiscard]] int Run(const Arguments& arguments, std::streambuf& lines, std::ostream& output) const {
     std::ostringstream errors;
     std::istream input(&lines);
@@ -114,7 +114,7 @@ TEST_F(BatchCommand, NeedsNoLastLineEndAndNoLine) {
   EXPECT_EQ(nothing.Output, "");
 }
 
-// Only the start of it is kept, and the next line is taken.
+// Only the start of it is kept, and the next line is read.
 TEST_F(BatchCommand, RefusesALineOfTenMegabytes) {
   const CompanionOutcome outcome =
       Run({"batch", "--fields", "best"}, std::string(10 << 20, '[') + "\n" + EquityLine(3));
@@ -158,7 +158,7 @@ TEST_F(BatchCommand, FailsOverWhatCannotBeRead) {
   EXPECT_THAT(outcome.Errors, StartsWith("Run-time error '"));
 }
 
-// However fast the input comes, no more of it is taken than the answers that have been written make room for.
+// However fast the input, the program reads only as far ahead as the written answers make room for.
 TEST_F(BatchCommand, ReadsNoFartherAheadThanItsWindow) {
   class CountedLines final : public std::streambuf {
    public:

@@ -19,7 +19,7 @@ SetsBySize MakeSetsBySize() {
   return sets;
 }
 
-// Counting the orders by going through them settles equal sets without a formula.
+// Counting the orders by enumeration handles equal sets without a formula.
 int OrderCount(std::array<RankMask, kSuitCount> suits) {
   std::sort(suits.begin(), suits.end());
   int count = 1;

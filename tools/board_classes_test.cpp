@@ -8,7 +8,7 @@
 namespace quillon {
 namespace {
 
-// One class for all that exchanging suits makes of a board, which is as many boards as there are orders of its suits.
+// One class for all renamings of a board; the size is the number of orders of its suits.
 TEST(BoardClasses, StandForEachBoardAsOftenAsItIsDealt) {
   std::set<std::array<RankMask, kSuitCount>> seen;
   int boards = 0;
@@ -26,7 +26,7 @@ TEST(BoardClasses, StandForEachBoardAsOftenAsItIsDealt) {
   EXPECT_EQ(boards, kBoardCount);
 }
 
-// Whoever ranks hands on them does that once for all that follow each other.
+// So that their hands are ranked only once.
 TEST(BoardClasses, OfTheSameRanksStandSideBySide) {
   std::set<RankTally> seen;
   RankTally previous{};
@@ -35,7 +35,7 @@ TEST(BoardClasses, OfTheSameRanksStandSideBySide) {
     ASSERT_TRUE(seen.insert(board.ranks).second);
     previous = board.ranks;
   }
-  // Of all sets of five ranks, repetitions counted, those of one rank five times cannot be dealt.
+  // Of all multisets of five ranks, those of one rank five times cannot be dealt.
   constexpr std::size_t kSetsOfFive = 17 * 16 * 15 * 14 * 13 / (5 * 4 * 3 * 2);
   EXPECT_EQ(seen.size(), kSetsOfFive - 13);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-// A queue between threads that holds so much and no more: who puts in waits while it is full, who takes out while it is
-// empty.
+// A bounded queue between threads: Push waits while it is full, Pop while it is empty.
 
 #include <condition_variable>
 #include <cstddef>
@@ -18,7 +17,7 @@ class BoundedQueue {
   /// Holds at most `most` items, at least one.
   explicit BoundedQueue(std::size_t most) : most_(most) {}
 
-  /// Puts an item at the end, once there is room.
+  /// Appends an item, once there is room.
   void Push(Item item) {
     std::unique_lock lock(access_);
     room_.wait(lock, [this] { return items_.size() < most_; });
@@ -26,7 +25,7 @@ class BoundedQueue {
     filled_.notify_one();
   }
 
-  /// Takes the first item, once there is one; nothing when the queue is closed and empty.
+  /// Removes the first item, once there is one; nothing if the queue is closed and empty.
   std::optional<Item> Pop() {
     std::unique_lock lock(access_);
     filled_.wait(lock, [this] { return closed_ || !items_.empty(); });
@@ -37,13 +36,13 @@ class BoundedQueue {
     return item;
   }
 
-  /// Whether there is nothing to take at the moment.
+  /// Whether the queue is empty at the moment.
   [[nodiscard]] bool IsEmpty() const {
     const std::lock_guard lock(access_);
     return items_.empty();
   }
 
-  /// Nothing is put in any more.
+  /// No more items follow.
   void Close() {
     const std::lock_guard lock(access_);
     closed_ = true;

@@ -33,7 +33,7 @@ struct Answer {
   StackChart chart;
 };
 
-// The grid and, since a cell has no room for them, the gaps below it.
+// The grid, and below it the gaps, which do not fit into cells.
 std::string GridOutput(const char* title, const StackLimits& limits) {
   std::array<std::string, kHandClassCount> texts;
   std::string gaps;

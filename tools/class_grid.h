@@ -1,6 +1,6 @@
 #pragma once
 
-// A text for each class as people read it on a terminal.
+// A text for each class as a grid for terminals.
 
 #include <array>
 #include <string>
@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// The 13 by 13 grid, each cell its label and text, columns aligned, rows without blanks at their ends. Texts are
-/// ASCII.
+/// The 13 by 13 grid, each cell its label and text, with aligned columns and no trailing spaces. Texts are ASCII.
 [[nodiscard]] std::string ClassGrid(const std::array<std::string, kHandClassCount>& texts);
 
 }  // namespace quillon

@@ -22,12 +22,12 @@
 namespace quillon {
 namespace {
 
-// Names of formats and statuses, in their lists.
+// The width of names of formats and statuses in their lists.
 constexpr std::size_t kHelpNameWidth = 6;
 
 constexpr double kMostAmount = 1e300;
 
-// What the help says of a scenario's amounts and of its ranges.
+// The help's texts for a scenario's amounts and ranges.
 struct SituationTexts {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::array<const char*, 3> Amounts{};  // pot, call, shove
@@ -211,10 +211,10 @@ std::optional<GivenRange> CommandInputs::TypedRange(const std::string& notation)
 std::optional<std::string> CommandInputs::StandardInput() {
   if (inputTaken_) throw CLI::ValidationError("Standard input can be read for one range only");
   inputTaken_ = true;
-  // One more than a notation may have is enough to see that it is too long.
+  // One byte more than a notation may have is enough to see that it is too long.
   std::string text(kLongestNotation + 1, '\0');
   if (surroundings_.Input == nullptr) return "";
-  // Not by the stream, which would take a failure for the end of the input.
+  // Not through the stream, which would take an error as the end of the input.
   const std::streamsize size =
       surroundings_.Input->rdbuf()->sgetn(text.data(), static_cast<std::streamsize>(text.size()));
   text.resize(static_cast<std::size_t>(size));

@@ -1,8 +1,7 @@
 #pragma once
 
-// What the companion's commands are given, read and checked in one place: amounts as an amount box takes them, and
-// ranges by name or by notation. What is wrong is told on standard error, and the command then ends with the status for
-// it.
+// The inputs of the companion's commands, read and checked in one place: amounts as in an amount box, and ranges by
+// name or by notation. Errors go to standard error, and the command then ends with the status for them.
 
 #include <array>
 #include <cstddef>
@@ -28,20 +27,20 @@ class App;
 
 namespace quillon {
 
-/// Does what a command was asked for, and returns the exit status.
+/// Runs a command and returns the exit status.
 using RunCommand = std::function<int(const Surroundings& surroundings)>;
 
-/// A command of the companion and what its help says. `Offer` adds its options to its part of the command line; what it
-/// returns is called when they have been read.
+/// A command of the companion with its help. `Offer` adds its options to its part of the command line; the function
+/// that it returns is called once they have been parsed.
 struct Command {
   const char* Name;
   const char* Description;  // one line
-  const char* About;  // what the line leaves out
+  const char* About;  // the details
   const char* Example;  // a command line after the program's name
   RunCommand (*Offer)(CLI::App& options);
 };
 
-/// Message boxes on standard error. A message has one button there, and nobody to press it.
+/// Message boxes printed to standard error. Every message there has a single button.
 class PrintedMessages final : public MessageBoxes {
  public:
   explicit PrintedMessages(std::ostream& errors) : errors_(errors) {}
@@ -55,44 +54,43 @@ class PrintedMessages final : public MessageBoxes {
   bool shown_ = false;
 };
 
-/// A range as it is asked for: by its name, or by its notation ("ranges/range_notation.h"), "-" for that on standard
-/// input.
+/// A range option: by name, or by notation ("ranges/range_notation.h"), with "-" for one from standard input.
 struct RangeOption {
   std::optional<std::string> Name;
   std::optional<std::string> Hands;
-  std::string Options;  // what they are called
+  std::string Options;  // the names of its options
 
   [[nodiscard]] bool Given() const { return Name || Hands; }
 };
 
-/// Adds a pair of options for one range, such as "--range" and "--hands", of which one may be used.
+/// Adds a pair of options for one range, such as "--range" and "--hands", which exclude each other.
 void OfferRange(CLI::App& command, const std::string& nameOption, const std::string& handsOption, RangeOption& range,
                 const std::string& description);
 
 /// The options of pot, call and shove.
 inline constexpr std::array<const char*, 3> kAmountOptions = {"--pot", "--call", "--shove"};
 
-/// What is asked for of a situation: amounts as typed, in the order of kAmountOptions, and ranges.
+/// A situation as given: amounts as typed, in the order of kAmountOptions, and ranges.
 struct SituationOptions {
   std::array<std::string, 3> Amounts;
   RangeOption Range;
   RangeOption CallingRange;
 };
 
-/// Adds the first `count` amounts, each required, with what they mean in a scenario.
+/// Adds the first `count` amounts, each required, with their meanings in a scenario.
 void OfferAmounts(CLI::App& command, AnalysisMode mode, std::size_t count, SituationOptions& situation);
 
 /// Adds the ranges that a scenario asks for.
 void OfferRanges(CLI::App& command, AnalysisMode mode, SituationOptions& situation);
 
-/// Adds the options of a command that writes one range as text, and returns what writes it; `write` makes the text from
-/// the range's.
+/// Adds the options of a command that prints one range in some form, and returns the function that runs it; `write`
+/// makes the output from the range's text.
 [[nodiscard]] RunCommand OfferRangeText(CLI::App& command, std::string (*write)(std::string_view rangeText));
 
 /// Adds "--folder".
 void OfferFolder(CLI::App& command, std::string& folder);
 
-/// Adds "--format" with formats, the first of which is the default, and tells their meanings in the command's help.
+/// Adds "--format" with formats, the first of which is the default, and lists them in the command's help.
 void OfferFormat(CLI::App& command, std::string& format, std::vector<FormatName> formats);
 
 template <typename Row, std::size_t count>
@@ -100,7 +98,7 @@ void OfferFormat(CLI::App& command, std::string& format, const std::array<Row, c
   OfferFormat(command, format, std::vector<FormatName>(formats.begin(), formats.end()));
 }
 
-/// Nothing for the label of a class, and otherwise why it is none.
+/// Nothing for the label of a class, otherwise the error.
 [[nodiscard]] std::string CheckLabel(const std::string& label);
 
 enum class LeastAmount { kAboveZero, kZero };
@@ -108,36 +106,35 @@ enum class LeastAmount { kAboveZero, kZero };
 /// The inputs of one run of a command.
 class CommandInputs {
  public:
-  /// Ranges are looked for in `folder`, or where it is empty in the program's own.
+  /// Ranges are in `folder`, or in the program's own if it is empty.
   CommandInputs(const Surroundings& surroundings, const std::string& folder);
 
-  /// An amount, or nothing after it was told what is wrong with it: a number above 0, or not below it, or a sum such as
-  /// "=735+220-178", and at most 1E+300, so that what is made of several is still a number. Where 0 is allowed, an
-  /// empty text is 0, as in an amount box. A comma that cuts it short gives a warning.
+  /// An amount, or nothing after an error message: a number above 0, or not below it, or a sum such as "=735+220-178",
+  /// and at most 1E+300, so that computing with several does not overflow. Where 0 is allowed, an empty text is 0, as
+  /// in an amount box. A comma that cuts it short gives a warning.
   [[nodiscard]] std::optional<double> Amount(std::string_view option, std::string text, LeastAmount least);
 
-  /// The first half of that: whether the text is not a sum or was replaced by the value of its sum.
+  /// The first half of that: replaces a sum by its value; false if it cannot be evaluated.
   [[nodiscard]] bool EvaluateAmount(std::string_view option, std::string& text);
 
-  /// A range, or nothing after it was told what is wrong with it: no file, a file that is none of a range, a notation
-  /// that cannot be read, with its place. A text without weights fails as RangeWeightOf does, and standard input that
-  /// cannot be read as DescriptorInput does. Wrong usage, which ends the command, if neither option is there or
-  /// standard input is asked for twice.
+  /// A range, or nothing after an error message: no file, a file that is not a range, an invalid notation, with its
+  /// place. A text without weights fails as RangeWeightOf does, and unreadable standard input as DescriptorInput does.
+  /// Wrong usage, which ends the command, if neither option is given or standard input is used twice.
   [[nodiscard]] std::optional<GivenRange> Range(const RangeOption& option);
 
-  /// A range by its notation alone.
+  /// A range by notation only.
   [[nodiscard]] std::optional<GivenRange> TypedRange(const std::string& notation);
 
-  /// As Range; a range that has no hands is refused, too.
+  /// As Range; a range without hands is refused too.
   [[nodiscard]] std::optional<GivenRange> RangeWithHands(const RangeOption& option);
 
-  /// Tells why an input is refused.
+  /// Reports why an input is refused.
   void Refuse(std::string_view reason);
 
-  /// The exit status after something was wrong with an input.
+  /// The exit status after an input error.
   [[nodiscard]] int Status() const { return status_; }
 
-  /// Fails as Surroundings::ProgramFolder does.
+  /// The folder of the ranges. Fails as Surroundings::ProgramFolder does.
   [[nodiscard]] const ProgramFolder& Folder();
   [[nodiscard]] const HandNumbers& Hands() const { return hands_; }
 
@@ -146,7 +143,7 @@ class CommandInputs {
   [[nodiscard]] std::optional<std::string> StandardInput();
 
   const Surroundings& surroundings_;
-  ProgramFolder folder_;  // with an empty path until it is asked for
+  ProgramFolder folder_;  // with an empty path until first used
   HandNumbers hands_;
   bool inputTaken_ = false;
   int status_ = kRefused;

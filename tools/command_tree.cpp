@@ -6,7 +6,7 @@
 namespace quillon {
 namespace {
 
-// The library joins what a value is called and what it is checked for: "F:{plain,csv}".
+// The library joins a value's name and its choices: "F:{plain,csv}".
 std::vector<std::string> ChoicesIn(const std::string& type) {
   const std::size_t open = type.find(":{");
   if (open == std::string::npos || !type.ends_with('}')) return {};

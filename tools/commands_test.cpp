@@ -1,4 +1,4 @@
-// The commands that study a situation and that take ranges as they are typed, run as the program runs them.
+// The commands for studies and for typed ranges, run as the program runs them.
 
 #include "tools/commands.h"
 
@@ -67,7 +67,7 @@ TEST(TypedRange, IsReportedByItsNotation) {
   EXPECT_THAT(outcome.Output, HasSubstr("AA:0.99,KK-QQ,AKs,AKo"));
 }
 
-// The digits of such a weight are the label of a pair that comes later.
+// The digits of such a weight are the label of a later pair.
 TEST(TypedRange, MayHaveAnyWeight) {
   const CompanionProgram program;
   const CompanionOutcome outcome = program.Run({"equity", "--hands", "AA:0.99,99:0.22", "--format", "csv"});
@@ -92,7 +92,7 @@ TEST(TypedRange, IsReadFromStandardInputOnce) {
   }
 }
 
-// What is typed there need not be in the box of a raise: with no bet to call it is 0.
+// What is typed there may be missing from the box of a raise: with no bet to call it is 0.
 TEST(EmptyCall, CountsAsNothing) {
   const CompanionProgram program;
   const Arguments ranges = {"--hands", "any", "--calling-hands", "QQ+"};
@@ -208,7 +208,7 @@ TEST(Save, WritesWhatCanBeReadAgain) {
   EXPECT_EQ(program.Read("Mine.txt"), TextWith("AA") + "\r\n");
 }
 
-// A file may hold weights that no notation can say. They are shown, and the help says that they cannot be typed.
+// A file may have weights that no notation can express. They are printed, and the help says that they cannot be typed.
 TEST(Notation, OfAWeightAboveOneIsNotRead) {
   const CompanionProgram program;
   program.Write("Double.txt", "AA (2), " + TextWith("KK").substr(8) + "\r\n");
@@ -217,7 +217,7 @@ TEST(Notation, OfAWeightAboveOneIsNotRead) {
   EXPECT_THAT(program.Run({"help", "notation"}).Output, HasSubstr("typed weights are from 0 to 1."));
 }
 
-// Input that cannot be read is not input that is empty.
+// Unreadable input is not empty input.
 TEST(StandardInput, ThatCannotBeReadEndsTheRun) {
   const CompanionProgram program;
   const int folder = SystemFileCalls().Open("/", OpenFor::kListing, 0);
@@ -283,7 +283,7 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
   EXPECT_EQ(program.Run(With(raise, {"--format", "grid"})).Output, grid);
 }
 
-// At what the grid shows no hand loses, so "up to" is rounded down and "from" up.
+// No hand loses at the amount shown, so "up to" is rounded down and "from" up.
 TEST(LimitsCommand, RoundsToTheSideThatDoesNotLose) {
   const CompanionProgram program;
   const Arguments call = {"limits", "call", "--pot", "100", "--hands", "AA"};
@@ -312,7 +312,7 @@ TEST(LimitsCommand, RoundsToTheSideThatDoesNotLose) {
   EXPECT_TRUE(limitOf("J5s")["amount"].is_null());
 }
 
-// Each row holds the figures that a command of its own prints.
+// Each row has the figures of a separate command.
 TEST(SweepCommand, AgreesWithSingleAnalyses) {
   const CompanionProgram program;
   const Arguments shared = {"--pot", "15", "--call", "5", "--hands", "any", "--calling-range", "Tight"};
@@ -331,7 +331,7 @@ TEST(SweepCommand, AgreesWithSingleAnalyses) {
   }
 }
 
-// 33.3% is not the double 0.333, but an analysis reads it from a text, where it is.
+// 33.3% is not the double 0.333, but an analysis reads the weight from a text, where it is.
 TEST(SweepCommand, TakesWeightsAsAnAnalysisReadsThem) {
   const CompanionProgram program;
   const Arguments shared = {"--hands", "AA:33.3%,KK:7.7%,QJs:12.3%,72o:91.7%", "--pot", "100", "--call"};
@@ -452,7 +452,7 @@ TEST(ChartCommand, TellsTheSameInEachFormat) {
   const Json json = Json::parse(program.Run(With(chart, {"--format", "json"})).Output);
   const auto csv = Lines(program.Run(With(chart, {"--format", "csv"})).Output);
   const CompanionOutcome grid = program.Run(chart);
-  // With what is broken into lines as one.
+  // With wrapped lines joined.
   const std::string svg = std::regex_replace(program.Run(With(chart, {"--format", "svg"})).Output,
                                              std::regex("</text>\n<text [^>]*text-anchor=\"start\">"), " ");
   ASSERT_EQ(json["hands"].size(), 169U);
@@ -479,7 +479,7 @@ TEST(ChartCommand, TellsTheSameInEachFormat) {
     }
     EXPECT_EQ(csv.at(i + 1), line);
   }
-  // As published: 63s is shoved at 7 big blinds and at 2.2, and not from 2.4 to 5.
+  // As published: 63s is shoved at 7 big blinds and at 2.2, but not from 2.4 to 5.
   EXPECT_THAT(csv, testing::Contains(StartsWith("63s,7,2.4-5")));
   EXPECT_THAT(grid.Output, StartsWith("Shove up to so many big blinds\nAA  7.4+"));
   EXPECT_THAT(grid.Output, HasSubstr("\n* 63s but not at 2.4-5"));

@@ -37,7 +37,7 @@ constexpr const char* kExitStatuses =
     "  2  the command line makes no sense\n"
     "  3  the input was refused, or there is no such range\n";
 
-// A list of commands has a line for each; the rest of a description is for the help of the command itself.
+// A list of commands has one line each; the rest of a description is for the command's own help.
 class ManualFormatter : public CLI::Formatter {
  public:
   std::string make_subcommand(const CLI::App* command) const override {
@@ -54,7 +54,7 @@ std::string Epilogue(const Command& command) {
   return std::string(kExitStatuses) + "\nExample:\n  quillon-cli " + command.Name + " " + command.Example;
 }
 
-// The manual of a command, or of a part of it, after the line that it has in a list.
+// Adds the manual of a command, or of a part of it, after its line in the list.
 void Explain(const Command& command, CLI::App& options) {
   options.description(options.get_description() + "\n\n" + command.About + "\n");
 }
@@ -70,14 +70,14 @@ bool IsCommand(const std::string& name) {
   return std::ranges::any_of(kCommands, [&](const Command& command) { return command.Name == name; });
 }
 
-// Help on what is not a command. An option after "help" is for the library to tell of.
+// Rejects help on something that is not a command. The library reports an option after "help".
 void CheckHelpOf(std::span<const std::string> arguments) {
   if (arguments.size() < 2 || arguments[0] != kHelpCommand || arguments[1].starts_with('-')) return;
   if (IsCommand(arguments[1]) || arguments[1] == kHelpCommand) return;
   throw CLI::ValidationError("There is no command \"" + arguments[1] + "\"; there are " + CommandNames(" and "));
 }
 
-// The arguments in reverse, as the library takes them; "help call" as "call --help".
+// The arguments in reverse, as the library expects; "help call" as "call --help".
 std::vector<std::string> Reversed(std::span<const std::string> arguments) {
   std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
   if (!reversed.empty() && reversed.back() == kHelpCommand) {
@@ -87,8 +87,7 @@ std::vector<std::string> Reversed(std::span<const std::string> arguments) {
   return reversed;
 }
 
-// A command for those who package the program: its manual page, and the completions of shells. The help does not list
-// it.
+// A command for packagers: prints the manual page and the shell completions. The help does not list it.
 class TextsForPackages {
  public:
   explicit TextsForPackages(CLI::App& app) : app_(app), options_(*app.add_subcommand("generate")) {

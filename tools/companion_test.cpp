@@ -258,7 +258,7 @@ TEST(BadFile, IsReportedByEachCommandBeforeTheRunFailsOverIt) {
   }
 }
 
-// Each class that it does not mention reads the number before the first bracket, and there is no number.
+// Each missing class reads the number before the first bracket, and there is none.
 TEST(BadFile, MayPassForARangeOfNoHands) {
   const CompanionProgram program;
   program.Write("Noise.txt", "some noise ) and more of it");
@@ -320,7 +320,7 @@ TEST(UnknownRange, InAFolderWithoutRangesIsARunTimeErrorThatNamesIt) {
 
 // ---- refusals
 
-// The checks themselves have tests of their own; these are the ways in which what they say gets out.
+// The checks have their own tests; these cover how their messages are printed.
 TEST(Refusal, PrintsTitleAndMessageAndNothingElse) {
   const std::string badSum =
       "Problem: There was a problem processing your expression: \n\n"
@@ -413,7 +413,7 @@ TEST(RangeName, IsTakenAsItStands) {
   for (const std::string name :
        {"-", "-5", "-tight", "--range", "--", "[Aces, Kings]", "{A}", "a=b", "\"quoted\"", "'single'", "100% %s",
         "two  blanks", " blank in front", "Überfall ½", "call", "#1", "x:y", "100,000"}) {
-    if (!NameFault(name).empty()) continue;  // no file has it here
+    if (!NameFault(name).empty()) continue;  // no file can have it here
     const TemporaryProgram program;
     program.Write(name + ".txt", TextWith("AA"));
     EXPECT_EQ(RunCompanionIn(program.Folder().Path, {"summary", "--range", name}).Output, "AA\n") << name;
@@ -486,14 +486,14 @@ TEST_P(EachCommand, ShowsTheProgressOfALongRun) {
   EXPECT_EQ(quiet.Errors, "");
 
   const auto frames = Split(outcome.Errors, "\r[");
-  ASSERT_THAT(frames, SizeIs(170));  // nothing before the first of the 169
+  ASSERT_THAT(frames, SizeIs(170));  // one for each of the 169 classes, after the empty start
   EXPECT_EQ(frames[0], "");
   EXPECT_EQ(frames[1], std::string(40, ' ') + "] 1%");
   EXPECT_EQ(frames[85], std::string(20, '#') + std::string(20, ' ') + "] 50%");
   EXPECT_EQ(frames[169], std::string(40, '#') + "] 100%" + std::string(kClearLine));
 }
 
-// Each class takes a step: after 100 of 5 milliseconds it is just half a second.
+// Each class takes a step: after 100 of 5 milliseconds it is exactly half a second.
 TEST_P(EachCommand, ShowsProgressAfterHalfASecond) {
   const CompanionProgram program;
   const auto framesAtSteps = [&](int milliseconds) {
@@ -506,7 +506,7 @@ TEST_P(EachCommand, ShowsProgressAfterHalfASecond) {
   EXPECT_THAT(framesAtSteps(2), SizeIs(1));
 }
 
-// At AKs, the second class, the negative weights cancel out to nothing, and a share of nothing is a division by zero.
+// At AKs, the second class, the negative weights cancel out, and the division fails.
 TEST(Progress, IsClearedBeforeTheTextOfAFailureHalfWay) {
   const TemporaryProgram program;
   program.Write("Now.txt", Replaced(TextWith("AA"), "KK (0)", "KK (-1)"));

@@ -10,19 +10,19 @@
 namespace quillon {
 namespace {
 
-// Lanes are rounded up to whole vector registers; the surplus ones stay 0.
+// Rounded up to whole vector registers; the extra lanes stay 0.
 constexpr std::size_t kVectorBytes = 64;
 constexpr std::size_t kClassLanes = 176;
 constexpr std::size_t kPartnerLanes = 32;
 
-// What can be beside a card in a hand, suits aside: a rank, of the same suit or of another.
+// What can accompany a card in a hand, suits aside: a rank, suited or not.
 constexpr std::size_t kPartnerCount = std::size_t{2} * kRankCount;
 
 constexpr std::size_t PartnerIndex(std::size_t place, bool suited) {
   return suited ? kRankCount + place : place;
 }
 
-// Every board represents a multiple of the least orbit; in that unit more boards fit into 16 bits.
+// Every weight is a multiple of the least orbit; in that unit more boards fit into 16 bits.
 constexpr int kGreatestWeight = 24 / kLeastOrbitSize;
 constexpr int kGreatestPointsPerBoard = 2 * 12 * 12;
 constexpr int kBoardsPerBatch = std::numeric_limits<std::uint16_t>::max() / (kGreatestPointsPerBoard * kGreatestWeight);
@@ -36,21 +36,21 @@ using PartnerRow = std::array<Number, kPartnerLanes>;
 
 template <typename Number>
 struct Points {
-  // By class, from each class, pairs that share a card included.
+  // By class, from each class, including pairs that share a card.
   alignas(kVectorBytes) std::array<ClassRow<Number>, kClassCount> all{};
-  // Of those, from hands that share a card: by the rank of the shared card and the partner beside it, from each partner
-  // that the other hand may have beside it.
+  // Of those, from hands that share a card: by the rank of the shared card and its partner, from each partner of the
+  // other hand.
   alignas(kVectorBytes) std::array<std::array<PartnerRow<Number>, kPartnerCount>, kRankCount> shared{};
 };
 
 using BatchPoints = Points<std::uint16_t>;
 
 struct TotalPoints : Points<std::uint32_t> {
-  // By class, the points that its hands take from themselves.
+  // By class, the points that its hands win from themselves.
   std::array<std::uint32_t, kClassCount> self{};
 };
 
-// What a hand of the strength now reached takes.
+// What a hand of the current strength wins.
 struct Takings {
   alignas(kVectorBytes) ClassRow<std::uint16_t> fromClass{};
   // For each card, from the hands that hold it.
@@ -116,7 +116,8 @@ void Sweep(std::span<const HandBundle> bundles, ClassRange rows, unsigned weight
   while (!bundles.empty()) {
     const std::span<const HandBundle> equals = bundles.first(EqualAtFront(bundles));
     bundles = bundles.subspan(equals.size());
-    // Raised once, an equal hand pays the one point of a tie; raised again, the two of a loss to all that follow.
+    // After the first increment an equal hand gives the one point of a tie; after the second, the two of a loss to all
+    // later hands.
     for (const HandBundle& bundle : equals)
       Raise(takings, bundle, weight);
     for (const HandBundle& bundle : equals) {
@@ -145,7 +146,7 @@ void MoveBatch(BatchPoints& batch, TotalPoints& total) {
   }
 }
 
-// A hand ties with itself once a board.
+// A hand ties with itself once per board.
 void AddSelfTies(std::span<const HandBundle> bundles, ClassRange rows, unsigned weight, TotalPoints& total) {
   for (const HandBundle& bundle : bundles) {
     if (rows.Holds(bundle.handClass)) total.self[bundle.handClass] += weight * bundle.use.hands;
@@ -165,7 +166,7 @@ std::vector<BoardSpan> SplitByRanks(BoardSpan boards) {
   return groups;
 }
 
-// The groups of boards still to be done, handed out to whoever asks next.
+// The groups of boards still to do, handed out to the threads.
 struct WorkList {
   std::vector<BoardSpan> groups;
   std::atomic<std::size_t> next = 0;
@@ -203,8 +204,8 @@ bool IsHand(std::size_t place, std::size_t partner) {
   return partner != PartnerIndex(place, true);
 }
 
-// All points less those between hands that share a card. A hand against itself was among the former once and among the
-// latter twice, for it shares both its cards.
+// All points minus those between hands that share a card. A hand against itself was counted once in the former and
+// twice in the latter, for it shares both its cards.
 void AddTotal(const TotalPoints& total, PointTable& points) {
   const auto inFull = [](std::uint32_t sum) { return kLeastOrbitSize * std::int64_t{sum}; };
   for (std::size_t i = 0; i < kClassCount; ++i) {
@@ -257,7 +258,7 @@ PointTable CountPoints(std::span<const BoardClass> boards, ClassRange rows, unsi
   WorkList work{.groups = SplitByRanks(boards)};
   std::vector<TotalPoints> totals(threads);
   {
-    std::vector<std::jthread> others;  // waited for where they go out of scope
+    std::vector<std::jthread> others;  // joined when they go out of scope
     for (unsigned i = 1; i < threads; ++i) {
       others.emplace_back([&work, rows, &total = totals[i]] { Work(work, rows, total, {}); });
     }

@@ -31,7 +31,7 @@ constexpr std::string_view kSourceTail = R"(}};
 }  // namespace quillon
 )";
 
-// The nearest float to the entry, so the one that reading its text gives.
+// The nearest double to the entry, so the same as reading its text.
 double Counted(std::int64_t points, std::int64_t pairs) {
   return static_cast<double>(Millionths(points, PointsAtStake(pairs))) / static_cast<double>(kMillion);
 }
@@ -80,7 +80,7 @@ std::string LabelOf(std::size_t handClass) {
   return std::string(HandLabel(static_cast<std::int16_t>(handClass)));
 }
 
-// Sorts the file's rows into `rows`; returns what is wrong with the file, if anything is.
+// Sorts the file's rows into `rows`; returns the error, if any.
 std::string CollectRows(const RowFile& file, std::vector<std::string>& rows) {
   std::string_view rest = file.text;
   for (std::size_t lineNumber = 1; !rest.empty(); ++lineNumber) {

@@ -1,11 +1,11 @@
 #pragma once
 
 // The equity table as text: counted points become entries of six decimals, entries become rows, and rows become the
-// source file that the program carries ("hand/equity_rows.cpp").
+// program's source file ("hand/equity_rows.cpp").
 //
 // A row is the equities of one class against the 169 classes in class order, 169 numbers in the general number form
-// with one space after each, the last too. Above the diagonal is the counted equity, rounded to six decimals; on
-// it "0.5"; below it 1 minus the mirror entry, in 64-bit floating point, so that a few of these show the float's error
+// with one space after each, including the last. Above the diagonal is the counted equity, rounded to six decimals; on
+// it "0.5"; below it 1 minus the mirror entry, in 64-bit floating point, so that a few of these show the rounding error
 // in their fifteenth digit and need an exponent ("5.37339999999999E-02").
 
 #include <array>
@@ -23,33 +23,33 @@ namespace quillon {
 /// not be negative and at most `atStake`, which must lie between 1 and 2^62 / 10^6.
 [[nodiscard]] std::int64_t Millionths(std::int64_t points, std::int64_t atStake);
 
-/// The row of class `row`, from the points that it wins from each class and the pairs of hands that it does so with:
+/// The row of class `row`, from the points that it wins from each class and the pairs of hands played:
 ///
 ///     row 0 -> "0.5 0.878595 0.874609 ... 0.822167 "      row 168 -> "0.177833 0.501067 ... 0.5 "
 [[nodiscard]] std::string EquityRowText(std::size_t row, const std::array<std::int64_t, kClassCount>& points,
                                         const std::array<std::int64_t, kClassCount>& pairs);
 
-/// The rows, one a line.
+/// The rows, one per line.
 [[nodiscard]] std::string LinesOf(std::span<const std::string> rows);
 
-/// The source file that carries these 169 rows, each as two literals: entries 0 to 85 and entries 86 to 168.
+/// The source file of these 169 rows, each as two literals: entries 0 to 85 and entries 86 to 168.
 [[nodiscard]] std::string SourceTextOf(std::span<const std::string> rows);
 
-/// What a file of rows holds, and what to call it in a complaint.
+/// A file of rows, with its name for errors.
 struct RowFile {
   std::string name;
   std::string text;
 };
 
-/// The 169 rows in class order; or none, and what is wrong with the files.
+/// The 169 rows in class order; or none, and the error.
 struct JoinedRows {
   std::vector<std::string> rows;
   std::string problem;
 };
 
-/// Puts together rows that were counted apart, one a line and in any order: which class a row belongs to is told by the
-/// place of its "0.5". Only the text of a whole table is accepted: every line must be a row, no row
-/// may occur twice or be missing, and each entry below the diagonal must be the one that follows from its mirror.
+/// Joins rows that were counted separately, one per line and in any order: the position of its "0.5" identifies a row's
+/// class. Only a whole table is accepted: every line must be a row, no row may occur twice or be missing, and each
+/// entry below the diagonal must match its mirror.
 ///
 ///     problem: "part3.txt, line 2: not a row of the table"      "part3.txt, line 2: a second row of AKs"
 ///              "no row of AKs"                                  "the rows of AA and AKs do not add up to 1"

@@ -45,7 +45,7 @@ Row Filled(std::int64_t value) {
   return row;
 }
 
-// The points that make an equity of so many millionths, to the nearest one.
+// The points for an equity of this many millionths, to the nearest one.
 std::int64_t PointsFor(std::int64_t millionths, std::int64_t pairs) {
   return (millionths * PointsAtStake(pairs) + 500'000) / 1'000'000;
 }

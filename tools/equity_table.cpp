@@ -1,5 +1,5 @@
 // The program equity-table: counts the equities of all pairs of hand classes and writes them as text rows or as the
-// source file that carries them.
+// source file.
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -82,7 +82,7 @@ void Describe(CLI::App& app, Request& request) {
       ->excludes(rows);
 }
 
-// Shows the share done, on one line that is overwritten, if standard error is a terminal.
+// Shows the progress on one line that is overwritten, if standard error is a terminal.
 ProgressReport MakeProgressReport() {
   if (!IsTerminal(kErrorStream)) return {};
   return [shown = std::size_t{0}](std::size_t done, std::size_t total) mutable {
@@ -106,7 +106,7 @@ int Write(const Request& request, const std::vector<std::string>& rows) {
   }
   const std::filesystem::path path = PathOf(request.out);
   std::error_code unknown;
-  // What is not a file (a device, a pipe, a folder) must not be replaced by one.
+  // A device, pipe or folder must not be replaced by a file.
   if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown)) {
     return Fail(request.out + " is not a file");
   }
@@ -165,7 +165,7 @@ int main(int argc, char** argv) {
   try {
     return quillon::Run(argc, argv);
   } catch (const std::exception& error) {
-    // A file that will not be written; or the system has no more threads or memory to give.
+    // The file cannot be written, or threads or memory have run out.
     return quillon::Fail(error.what());
   }
 }

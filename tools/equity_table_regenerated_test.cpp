@@ -1,5 +1,5 @@
-// Compares the table that the program carries with the enumeration it came from, as a whole. That the enumeration
-// counts what a plain one counts is in the tests of its parts.
+// Compares the program's whole table with the enumeration that it comes from. The tests of the enumeration's parts
+// compare it with a plain one.
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Runs the program equity-table as a user would and looks at what it prints, writes and answers.
+// Runs the program equity-table as a user would and checks its output, files and status.
 
 #include <array>
 #include <cstdio>

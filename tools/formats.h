@@ -1,6 +1,6 @@
 #pragma once
 
-// The formats of an answer as tables: --format names a row, the help of a command tells all of them.
+// The formats of an answer as tables: --format names a row, and the help of a command lists them all.
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@ struct FormatName {
   const char* Meaning;
 };
 
-/// A format with the routine that writes it.
+/// A format and the function that writes it.
 template <typename Answer>
 struct Format : FormatName {
   std::string (*Text)(const Answer& answer);

@@ -24,7 +24,7 @@ constexpr bool Has(SuitMask suits, std::size_t suit) {
 
 enum class ClassKind : std::size_t { kPair, kSuited, kOffsuit };
 
-// A pair's hand is the same whichever of its cards is named first; taken from equal sets it must not count twice.
+// A pair's hand is the same whichever card is named first; with equal sets it must not count twice.
 constexpr bool IsHand(ClassKind kind, std::size_t high, std::size_t low, SuitMask highSuits, SuitMask lowSuits) {
   if (kind == ClassKind::kSuited) return high == low;
   if (kind == ClassKind::kOffsuit) return high != low;

@@ -1,10 +1,10 @@
 #pragma once
 
-// The hands that can be held beside a board, weakest first, in bundles: hands of one class that are worth the same.
+// The hands possible with a board, weakest first, in bundles: hands of one class with equal strength.
 //
-// Without a flush a hand is worth its ranks, so all hands of a class make one bundle, and boards of the same ranks
-// order their bundles alike. Where the board has three or more cards of one suit, the hands with enough cards of it to
-// make five leave their class's bundle for one of their own.
+// Without a flush only ranks matter, so all hands of a class make one bundle, and boards of the same ranks order their
+// bundles alike. If the board has three or more cards of one suit, the hands with enough cards of it for five leave
+// their class's bundle for one of their own.
 
 #include <array>
 #include <cstddef>
@@ -19,7 +19,7 @@ namespace quillon {
 
 inline constexpr std::size_t kClassCount = static_cast<std::size_t>(kHandClassCount);
 
-/// Places in a table of ranks count from the ace down, as the rows and columns of the class grid do.
+/// Places in a table of ranks count from the ace down, like the rows and columns of the class grid.
 struct ClassShape {
   /// The place of the higher and of the lower rank; the same for a pair.
   std::uint8_t high = 0;
@@ -42,23 +42,23 @@ inline constexpr std::array<ClassShape, kClassCount> kClassShapes = [] {
   return shapes;
 }();
 
-/// How many hands there are in a bundle, and how many of them use each card.
+/// How many hands a bundle has, and how many of them use each card.
 struct CardUse {
-  /// By suit, the hands that hold that suit's card of the class's higher rank. A pair has both its cards here.
+  /// By suit, the hands with that suit's card of the class's higher rank. A pair has both its cards here.
   std::array<std::uint8_t, kSuitCount> high{};
   /// The same for the lower rank; all 0 for a pair.
   std::array<std::uint8_t, kSuitCount> low{};
   std::uint8_t hands = 0;
 };
 
-/// Hands of one class and of equal strength. Such hands can still make two bundles; no hand is in more than one.
+/// Hands of one class and of equal strength. Such hands may be split over two bundles; no hand is in more than one.
 struct HandBundle {
   HandStrength strength = 0;
   std::uint8_t handClass = 0;
   CardUse use;
 };
 
-/// A class and the strength of its hands that make no flush.
+/// A class and the strength of its hands without a flush.
 struct RankedClass {
   HandStrength strength = 0;
   std::uint8_t handClass = 0;
@@ -66,12 +66,11 @@ struct RankedClass {
 
 using RankedClasses = std::array<RankedClass, kClassCount>;
 
-/// The 169 classes in ascending order of what they make of a board of these ranks without a flush.
+/// The 169 classes in ascending order of strength on a board of these ranks without a flush.
 [[nodiscard]] RankedClasses RankClasses(const RankTally& boardRanks);
 
-/// Puts the bundles of all live hands of `board` into `bundles` in ascending order of strength. What was in `bundles`
-/// is dropped, and its memory is reused. `ranked` must be `RankClasses(board.ranks)`; it is a parameter because one
-/// serves all boards of the same ranks.
+/// Replaces `bundles` by the bundles of all live hands of `board` in ascending order of strength, reusing its memory.
+/// `ranked` must be `RankClasses(board.ranks)`, a parameter because one serves all boards of the same ranks.
 void BundleHands(const BoardClass& board, const RankedClasses& ranked, std::vector<HandBundle>& bundles);
 
 }  // namespace quillon

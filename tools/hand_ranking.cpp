@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kRankMaskCount = std::size_t{1} << kRankCount;
 constexpr int kRankedCards = 5;
 
-// For each set of ranks its place among the sets of the same size, in ascending order of mask.
+// For each set of ranks its index among the sets of the same size, in ascending order of mask.
 constexpr std::array<std::uint16_t, kRankMaskCount> kPlaceAmongEquals = [] {
   std::array<std::uint16_t, kRankMaskCount> places{};
   std::array<std::uint16_t, kRankCount + 1> setsOfSize{};
@@ -46,8 +46,8 @@ constexpr HandStrength Strength(HandCategory category, int place) {
   return static_cast<HandStrength>(kCategoryStart[static_cast<std::size_t>(category)] + place);
 }
 
-// 0 for none, 1 for five-high up to 10 for ace-high. The ace is also put below the deuce, so a run of five that starts
-// at bit n of the widened set is the straight number n + 1.
+// 0 for none, 1 for five-high up to 10 for ace-high. The ace is also placed below the deuce, so a run of five that
+// starts at bit n of the extended set is straight number n + 1.
 int HighestStraight(RankMask ranks) {
   const unsigned widened = (static_cast<unsigned>(ranks) << 1) | (ranks >> (kRankCount - 1));
   const unsigned runs = widened & (widened >> 1) & (widened >> 2) & (widened >> 3) & (widened >> 4);

@@ -1,14 +1,14 @@
 #pragma once
 
-// The strength of a poker hand of five to seven cards, as one small number: the better hand has the greater number,
-// and two hands that split the pot have the same.
+// The strength of a poker hand of five to seven cards as a number: the better hand has the greater number, and hands
+// that split the pot have the same.
 //
-// Only two things about the cards matter: how often each rank is held and, if five or more cards are of one suit,
-// which ranks they have. With seven cards a flush leaves just two others, too few to make four of a kind or a full
-// house beside it; so a hand with a flush is worth exactly its flush, and any other hand exactly its ranks.
+// Only two things about the cards matter: how often each rank occurs and, if five or more cards are of one suit, which
+// ranks they have. With seven cards a flush leaves just two others, too few for four of a kind or a full house; so a
+// hand with a flush is worth exactly its flush, and any other hand exactly its ranks.
 //
-// Sets of ranks are masks of thirteen bits, bit 0 for the deuce up to bit 12 for the ace. Between two sets of the same
-// size the one with the greater mask holds the higher first difference, which is how kickers are compared.
+// Sets of ranks are masks of thirteen bits, bit 0 for the deuce up to bit 12 for the ace. Of two sets of the same size
+// the one with the greater mask has the higher rank at the first difference, which is how kickers are compared.
 
 #include <array>
 #include <compare>
@@ -22,8 +22,8 @@ namespace quillon {
 /// A set of ranks, bit 0 for the deuce up to bit 12 for the ace.
 using RankMask = std::uint16_t;
 
-/// A hand's place among all hands: greater beats smaller, equal ties. Not every number below the last of
-/// kCategoryStart is the strength of some hand.
+/// A hand's strength: greater beats smaller, equal ties. Not every number below the last of kCategoryStart is the
+/// strength of some hand.
 using HandStrength = std::uint16_t;
 
 inline constexpr int kSuitCount = 4;
@@ -48,8 +48,8 @@ inline constexpr std::size_t kHandCategoryCount = 9;
 
 /// Where each category's strengths start; the next category's start ends them, and the last number ends the whole.
 ///
-/// A category has one number for each choice of what decides between its hands: C(13,5) = 1287 sets of five ranks for
-/// a high card or a flush, 13 pairs with C(13,3) = 286 sets of kickers, C(13,2) = 78 sets of two pairs with 13 kickers,
+/// A category has one number for each choice of what decides between its hands: C(13,5) = 1287 sets of five ranks for a
+/// high card or a flush, 13 pairs with C(13,3) = 286 sets of kickers, C(13,2) = 78 sets of two pairs with 13 kickers,
 /// 13 triplets with 78 sets of kickers, 10 straights, 13 triplets or quadruplets with 13 companions.
 inline constexpr std::array<HandStrength, kHandCategoryCount + 1> kCategoryStart = [] {
   constexpr std::array<int, kHandCategoryCount> kSizes = {1287, 13 * 286, 78 * 13, 13 * 78, 10,
@@ -61,7 +61,7 @@ inline constexpr std::array<HandStrength, kHandCategoryCount + 1> kCategoryStart
   return starts;
 }();
 
-/// How often each rank is held: the ranks held at least once, twice, three and four times.
+/// How often each rank occurs: the ranks held at least once, twice, three and four times.
 struct RankTally {
   RankMask once = 0;
   RankMask twice = 0;
@@ -81,8 +81,8 @@ struct RankTally {
   return tally;
 }
 
-/// The rank bit of a card given by its place in the deck, which runs from the ace down, four suits to a rank:
-/// `RankBit(0)` is the ace's bit 12, `RankBit(51)` the deuce's bit 0.
+/// The rank bit of a card by its position in the deck, which runs from the ace down, four suits to a rank: `RankBit(0)`
+/// is the ace's bit 12, `RankBit(51)` the deuce's bit 0.
 [[nodiscard]] constexpr RankMask RankBit(int card) {
   return static_cast<RankMask>(1U << (kRankCount - 1 - card / kSuitCount));
 }

@@ -12,7 +12,7 @@
 namespace quillon {
 namespace {
 
-// The counts follow from combinatorics; 7462 is the number of five-card hands that differ in worth.
+// The counts follow from combinatorics; 7462 is the number of distinct strengths of five-card hands.
 TEST(HandRanking, FiveCardHandsFallIntoTheKnownCounts) {
   constexpr int kEnd = static_cast<int>(kDeckSize);
   std::array<int, kHandCategoryCount> counts{};
@@ -38,7 +38,7 @@ TEST(HandRanking, FiveCardHandsFallIntoTheKnownCounts) {
   EXPECT_EQ(strengths.size(), 7462U);
 }
 
-// Cards to deal from; with fewer suits or ranks the rare hands come often.
+// The cards to deal from; with fewer suits or ranks the rare hands are frequent.
 plain::Cards Deck(int ranks, int suits) {
   plain::Cards deck;
   for (int card = 0; card < static_cast<int>(kDeckSize); ++card) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// Ctrl+C for a command that ends in good order, and input that such a command can wait for: a read that blocks ends
-// when the signal comes.
+// Handles Ctrl+C for a command that ends in good order, and reads input such that the signal ends a blocking read.
 
 #include <array>
 #include <filesystem>
@@ -10,9 +9,8 @@
 
 namespace quillon {
 
-/// While it lives, the first SIGINT does not end the program but is noted. A second one ends the program as usual.
-/// Where the program was started with that signal ignored, as shells start what runs in the background, it stays
-/// ignored: the Ctrl+C is for what runs in the foreground. There may be one at a time.
+/// During its lifetime, the first SIGINT does not end the program but is recorded; a second one ends it as usual. If
+/// the signal was ignored at start, as for a shell's background jobs, it stays ignored. Only one may exist at a time.
 class InterruptWatch {
  public:
   InterruptWatch();
@@ -26,8 +24,8 @@ class InterruptWatch {
   [[nodiscard]] static bool Came();
 };
 
-/// Input from an open file, pipe or terminal, which it does not close. It ends where the file ends, and when an
-/// InterruptWatch has noted the signal. A failed read is a RunTimeError as of FailOnFile, with `name`.
+/// Input from an open file, pipe or terminal, which it does not close. It ends at the end of the file, and when an
+/// InterruptWatch has recorded the signal. A failed read is a RunTimeError as of FailOnFile, with `name`.
 class DescriptorInput final : public std::streambuf {
  public:
   DescriptorInput(int descriptor, std::filesystem::path name) : descriptor_(descriptor), name_(std::move(name)) {}

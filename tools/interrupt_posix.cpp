@@ -13,8 +13,8 @@
 namespace quillon {
 namespace {
 
-// A signal handler can reach nothing else. A pipe, since whoever waits for input can wait for it as well: a flag alone
-// could be set between the look at it and the wait.
+// Global, for the signal handler. A pipe, since a thread can wait for it and its input together: a flag alone could be
+// set between checking and waiting.
 std::array<int, 2> wakeUp = {-1, -1};
 std::atomic<bool> came = false;
 struct sigaction before {};
@@ -52,7 +52,7 @@ bool InterruptWatch::Came() {
 }
 
 DescriptorInput::int_type DescriptorInput::underflow() {
-  std::array<pollfd, 2> waited = {{{descriptor_, POLLIN, 0}, {wakeUp[0], POLLIN, 0}}};  // -1 is not looked at
+  std::array<pollfd, 2> waited = {{{descriptor_, POLLIN, 0}, {wakeUp[0], POLLIN, 0}}};  // -1 is skipped
   while (poll(waited.data(), waited.size(), -1) < 0) {
     if (errno != EINTR) FailOnFile(errno, name_);
   }

@@ -1,4 +1,4 @@
-// Ctrl+C in a batch, as the signal that it is.
+// Ctrl+C in a batch, with the real signal.
 
 #include <array>
 #include <atomic>
@@ -26,7 +26,7 @@ using testing::EndsWith;
 
 class InterruptedBatch : public testing::Test {
  protected:
-  // The exit status of a run with streams of the test's own.
+  // The exit status of a run with the test's own streams.
   [[nodiscard]] int Run(const Arguments& arguments, std::streambuf& lines, std::ostream& output) const {
     std::ostringstream errors;
     std::istream input(&lines);
@@ -43,7 +43,7 @@ std::string EquityLine(int id) {
   return R"({"id":)" + std::to_string(id) + R"(,"mode":"equity","hands":")" + (id % 3 == 0 ? "AA" : "any") + "\"}\n";
 }
 
-// SIGINT as a program finds it: SIG_DFL in the foreground, SIG_IGN where a shell starts it in the background.
+// The state of SIGINT at a program's start: SIG_DFL in the foreground, SIG_IGN in the background.
 class StartedWith {
  public:
   explicit StartedWith(void (*interrupt)(int)) : before_(std::signal(SIGINT, interrupt)) {}
@@ -57,7 +57,7 @@ class StartedWith {
   void (*before_)(int);
 };
 
-// Lines without end, with Ctrl+C in the middle of one.
+// Endless lines, with Ctrl+C in the middle of one.
 class EndlessLines final : public std::streambuf {
  public:
   explicit EndlessLines(int interruptedAt) : interruptedAt_(interruptedAt) {}
@@ -90,7 +90,7 @@ TEST_F(InterruptedBatch, EndsBetweenTwoLinesOnAnInterrupt) {
   EXPECT_THAT(output.str(), EndsWith("\n"));
 }
 
-// The reader of lines waits for room then, and must not go on when there is some.
+// The reader is then waiting for room, and must not continue once there is some.
 TEST_F(InterruptedBatch, ReadsNothingMoreOnceInterruptedWhileItsOutputIsBlocked) {
   const StartedWith foreground(SIG_DFL);
   EndlessLines lines(-1);

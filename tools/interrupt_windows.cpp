@@ -20,8 +20,8 @@ std::atomic<HANDLE> readFrom = nullptr;
 
 constexpr DWORD kPauseMilliseconds = 10;
 
-// Runs on a thread of its own. A read that waits ends by itself where it is of a console, and here where it is not: it
-// may be just about to wait, so it is ended again and again until it has returned.
+// Runs on a thread of its own. On a console a pending read ends by itself; others are cancelled here, repeatedly until
+// they have returned, since a read may be just about to start.
 BOOL WINAPI NoteInterrupt(DWORD event) {
   if (event != CTRL_C_EVENT || !watching || came.exchange(true)) return FALSE;
   for (HANDLE waiting = readFrom; waiting != nullptr; waiting = readFrom) {
@@ -31,15 +31,15 @@ BOOL WINAPI NoteInterrupt(DWORD event) {
   return TRUE;
 }
 
-// What is typed, as UTF-8: as bytes a console gives it in a code page that lacks most characters. It ends with Ctrl+Z
-// at the start of a line.
+// Typed input as UTF-8; a console's bytes are in a code page that lacks most characters. Ends at Ctrl+Z at the start of
+// a line.
 std::ptrdiff_t ReadTyped(HANDLE console, std::span<char> buffer) {
   constexpr wchar_t kCtrlZ = 0x1A;
-  std::wstring typed(buffer.size() / 3, L'\0');  // a unit becomes at most three bytes
+  std::wstring typed(buffer.size() / 3, L'\0');  // a UTF-16 unit becomes at most three bytes
   DWORD count = 0;
   SetLastError(ERROR_SUCCESS);
   if (ReadConsoleW(console, typed.data(), static_cast<DWORD>(typed.size()), &count, nullptr) == 0) return -EIO;
-  // Ctrl+C, which another thread is being told of.
+  // Ctrl+C, which is reported on another thread.
   if (count == 0 && GetLastError() == ERROR_OPERATION_ABORTED) {
     while (watching && !came)
       Sleep(kPauseMilliseconds);

@@ -99,7 +99,7 @@ int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
   return Print({question, ShoveLimits(ranges, *pot, *call)}, request.format, surroundings);
 }
 
-// What a scenario asks for, but for the amount that is looked for, its last one.
+// The amounts of a scenario except its last one, whose limit is the question.
 CLI::App* OfferLimitsOf(AnalysisMode mode, CLI::App& options, const std::string& description, Request& request) {
   const Scenario& scenario = ScenarioOf(mode);
   CLI::App* const command = options.add_subcommand(std::string(scenario.Command), description);

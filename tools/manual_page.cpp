@@ -7,7 +7,7 @@
 namespace quillon {
 namespace {
 
-// A text as it stands: "\" and "-" are told as such, and a line that begins as a request does is none.
+// Plain text escaped for roff: "\" and "-", and a leading request character.
 std::string Plain(std::string_view text) {
   std::string page;
   bool lineStart = true;
@@ -53,7 +53,7 @@ std::string Without(std::string text, std::string_view part) {
   return text;
 }
 
-// Lists of formats and examples, whose lines stay as they are.
+// Lists of formats and examples, whose lines are kept.
 std::string FooterOf(const CommandText& command, std::string_view exitStatuses) {
   std::string footer = Without(command.Footer, exitStatuses);
   footer.erase(0, footer.find_first_not_of('\n'));

@@ -1,6 +1,6 @@
 #pragma once
 
-// The companion's manual page, quillon-cli(1), made of the same texts as its help.
+// The companion's manual page, quillon-cli(1), generated from the texts of its help.
 
 #include <string>
 #include <string_view>
@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// The page as input of man's. Its last line names the guide. `exitStatuses`, a list that the footer of each command
-/// has, gets a section of its own.
+/// The page in roff. Its last line names the guide. `exitStatuses`, a list in the footer of each command, gets a
+/// section of its own.
 [[nodiscard]] std::string ManualPage(const CommandText& root, std::string_view exitStatuses, const std::string& guide);
 
 }  // namespace quillon

@@ -1,7 +1,6 @@
 #pragma once
 
-// The progress of a run, drawn over and over on one line of standard error. Most runs are over before anyone could read
-// it, and show none.
+// A progress bar, redrawn on one line of standard error. Most runs are too short to show it.
 
 #include <chrono>
 #include <cstddef>
@@ -12,17 +11,16 @@ namespace quillon {
 
 class ProgressBar {
  public:
-  /// A bar of what starts now. `surroundings` must outlive it.
+  /// A bar that starts now. `surroundings` must outlive it.
   explicit ProgressBar(const Surroundings& surroundings) : surroundings_(surroundings), start_(surroundings.Now()) {}
   ProgressBar(const ProgressBar&) = delete;
   ProgressBar(ProgressBar&&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
   ProgressBar& operator=(ProgressBar&&) = delete;
-  /// Clears the line. A run that fails half-way leaves its bar, and the failure's text must not follow it there.
+  /// Clears the line, so that the text of a failure does not follow the bar.
   ~ProgressBar();
 
-  /// Shows that `done` of `all` is done; nothing within the first half second, and nothing where the terminal does not
-  /// take it.
+  /// Shows that `done` of `all` is done; nothing within the first half second, or if the terminal does not support it.
   void Show(std::size_t done, std::size_t all);
 
  private:

@@ -28,7 +28,7 @@ int Run(const std::vector<std::string>& arguments) {
       std::chrono::steady_clock::now,
       &input};
   const int status = quillon::RunCompanion(arguments, surroundings);
-  // An answer that did not get out is no answer.
+  // Output that cannot be written is a failure.
   if (!std::cout.flush()) throw quillon::RunTimeError(quillon::RunTimeFault::kDeviceError, "standard output");
   return status;
 }

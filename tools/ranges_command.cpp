@@ -17,7 +17,7 @@ std::string ListingLine(const std::string& file, const ProgramFolder& folder) {
   return name + '\t' + SelectionCaption(SelectedCombos(text)) + '\t' + RangeSummary(text) + '\n';
 }
 
-// One file that is no range must not hide the others.
+// One bad file must not hide the others.
 int ListRanges(const ProgramFolder& folder, const Surroundings& surroundings) {
   int status = kDone;
   for (const std::string& file : RangeFolderEntries(folder)) {

@@ -13,7 +13,7 @@
 namespace quillon {
 
 bool MaySave(CommandInputs& inputs, const std::string& name, bool replace, const Surroundings& surroundings) {
-  // The dialogs' boxes let none in.
+  // The dialogs' boxes accept none.
   if (std::ranges::any_of(name, [](unsigned char c) { return c < ' ' || c == '\x7f'; })) {
     inputs.Refuse("A range name is one line without control characters.");
     return false;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Saving ranges from the command line, by the rules that names have in the dialogs.
+// Saves ranges from the command line, with the dialogs' rules for names.
 
 #include <string>
 
@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-/// Whether a range may be saved under this name; if not, the reason has been told. With `replace` an existing
-/// range of that name is no reason to refuse it.
+/// Whether a range may be saved under this name; if not, the reason has been reported. With `replace` it may replace an
+/// existing range.
 [[nodiscard]] bool MaySave(CommandInputs& inputs, const std::string& name, bool replace,
                            const Surroundings& surroundings);
 
@@ -19,9 +19,9 @@ struct NamedText {
   std::string Text;
 };
 
-/// Saves both ranges, as SaveRangeText does, or neither: where the second cannot be saved, the first is as it was, or
-/// gone if it is new, when the RunTimeError is thrown. What can be written but not read could not be put back, so it is
-/// such a failure too, before anything is written. If putting the first back fails, the error is that one.
+/// Saves both ranges, as SaveRangeText does, or neither: if the second cannot be saved, the first is restored, or
+/// deleted if it is new, before the RunTimeError is thrown. A file that can be written but not read could not be
+/// restored, so it fails too, before anything is written. If restoring fails, that is the error.
 void SaveBoth(const ProgramFolder& folder, const NamedText& first, const NamedText& second);
 
 }  // namespace quillon

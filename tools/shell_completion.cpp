@@ -10,11 +10,11 @@
 namespace quillon {
 namespace {
 
-// What is offered for values of a kind.
+// The completions for a kind of value.
 struct ValueKind {
-  std::string_view Name;  // as the help calls it
-  const char* Kind;  // as the scripts for bash and zsh call it
-  const char* FishValues;  // what fish offers, options of "complete" among them
+  std::string_view Name;  // its name in the help
+  const char* Kind;  // its name in the scripts for bash and zsh
+  const char* FishValues;  // what fish offers, including options of "complete"
 };
 
 constexpr std::array kValueKinds = {
@@ -43,7 +43,7 @@ std::string HandLabels() {
   return Joined(labels);
 }
 
-// A text in single quotes, in which bash and zsh read "'" as '\''.
+// A text in single quotes for bash and zsh, with "'" as '\''.
 std::string Quoted(std::string_view text) {
   std::string quoted = "'";
   for (const char c : text) {
@@ -63,7 +63,7 @@ std::string CommandCases(const std::vector<const CommandText*>& commands) {
   return cases;
 }
 
-// A line for each option that takes a value: what its values are.
+// A line for each option with a value: what its values are.
 std::string ValueCases(const std::vector<const CommandText*>& commands) {
   std::string cases;
   for (const CommandText* command : commands) {
@@ -106,8 +106,8 @@ std::string CommandNames(const CommandText& root) {
   return Joined(names);
 }
 
-// Finds the command that the words before the cursor ask for, and what may come now: `kind`, `values` and `options`.
-// `words` counts from `first`, and `at` is the place of the cursor.
+// Finds the command before the cursor, and what may follow: `kind`, `values` and `options`. `words` counts from
+// `first`, and `at` is the index of the cursor's word.
 std::string FindWhatComes(const CommandText& root, const char* isOption) {
   const std::vector<const CommandText*> commands = AllCommands(root);
   return "    local commands=" + Quoted(CommandNames(root)) + "\n" +
@@ -197,7 +197,7 @@ std::string ZshCompletion(const CommandText& root) {
 
 namespace {
 
-// In fish's single quotes "\" and "'" are told by "\".
+// In fish's single quotes "\" and "'" are escaped by "\".
 std::string FishQuoted(std::string_view text) {
   std::string quoted = "'";
   for (const char c : text) {

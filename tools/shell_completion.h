@@ -1,7 +1,7 @@
 #pragma once
 
-// Completions of the companion's command line for bash, zsh and fish, made of its own definitions. They complete
-// commands, options, formats, the names of ranges (asked for when they are needed), labels of hands, and files.
+// Completions of the companion's command line for bash, zsh and fish, generated from its definitions. They complete
+// commands, options, formats, the names of ranges (listed when needed), labels of hands, and files.
 
 #include <array>
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// A shell and the script that it sources.
+/// A shell and its completion script.
 struct CompletionShell {
   const char* Name;
   std::string (*Script)(const CommandText& root);

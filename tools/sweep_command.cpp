@@ -34,7 +34,7 @@ using Rows = std::vector<SweepRow>;
 
 struct Answer {
   std::string title;
-  std::string what;  // the steps go through
+  std::string what;  // the amount or width that the steps are of
   std::vector<std::string> hands;
   Rows rows;
 };
@@ -58,7 +58,7 @@ std::string CsvOutput(const Answer& answer) {
   return SweepCsv(answer.what, answer.hands, answer.rows);
 }
 
-// Columns to the right, as numbers are read.
+// Right-aligned columns, for numbers.
 std::string TableOutput(const Answer& answer) {
   std::vector<std::vector<std::string>> lines = {Headings(answer)};
   for (const SweepRow& row : answer.rows)
@@ -124,7 +124,7 @@ std::optional<Steps> ReadSteps(std::string_view option, const std::string& text,
   return std::nullopt;
 }
 
-// The one amount that has steps, by its place.
+// The index of the one amount that has steps.
 std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count) {
   std::optional<std::size_t> swept;
   int found = request.width.empty() ? 0 : 1;
@@ -137,7 +137,7 @@ std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count)
   return swept;
 }
 
-// A call is smaller than the pot, and only a raise's call may be 0. No amount that was read is below it.
+// A call is smaller than the pot, and only a raise's call may be 0. The amounts read are not below 0.
 bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& inputs) {
   const bool raise = mode == AnalysisMode::kPreflopRaise;
   if (amounts.Pot == 0)

@@ -1,6 +1,6 @@
 #pragma once
 
-// What of the companion's output suits the terminal that it is printed on.
+// Which of the companion's output suits its terminal.
 
 #include "support/this_process.h"
 
@@ -11,10 +11,10 @@ struct Terminal {
   bool ShowColors = false;  // the grid on standard output
 };
 
-/// What to show where standard output and standard error are terminals or not. A bar is drawn over itself, which a
-/// terminal with TERM=dumb cannot do. The grid also needs 24-bit colour, which every terminal of some systems has
-/// (`terminalsHaveColors`) and which elsewhere COLORTERM promises as "truecolor" or "24bit", and a NO_COLOR of any text
-/// forbids it (https://no-color.org).
+/// What to show, given which of standard output and standard error are terminals. The bar is redrawn in place, which
+/// TERM=dumb does not support. The grid also needs 24-bit colour: some systems' terminals all have it
+/// (`terminalsHaveColors`); elsewhere COLORTERM must be "truecolor" or "24bit". A NO_COLOR of any text turns it off
+/// (https://no-color.org).
 [[nodiscard]] Terminal TerminalOf(bool outputIsTerminal, bool errorsIsTerminal, bool terminalsHaveColors,
                                   const EnvironmentVariable& variable);
 
