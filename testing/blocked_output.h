@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// Output that takes nothing until it is released, as that of a reader who is busy.
+/// Output that accepts nothing until it is released, like a pipe with a slow reader.
 class BlockedOutput final : public std::stringbuf {
  public:
   explicit BlockedOutput(std::shared_future<void> released) : released_(std::move(released)) {}

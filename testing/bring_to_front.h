@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// Shows the window, and waits until it is in front and has the keyboard.
+/// Shows the window, and waits until it is in front and active.
 inline void BringToFront(QWidget& window) {
   window.show();
   window.activateWindow();

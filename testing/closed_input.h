@@ -1,6 +1,6 @@
 #pragma once
 
-// A process without a standard input, such as a desktop may start. The next file it opens has the number 0.
+// Runs without a standard input, as some desktops start programs. The next file opened has the number 0.
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The companion, run within a test on a program's folder of its own.
+// Runs the companion within a test, on a program's folder of its own.
 
 #include <chrono>
 #include <filesystem>
@@ -17,7 +17,7 @@ namespace quillon {
 
 using Arguments = std::vector<std::string>;
 
-/// Arguments and more of them.
+/// Arguments, followed by more of them.
 [[nodiscard]] inline Arguments With(Arguments arguments, const Arguments& more) {
   arguments.insert(arguments.end(), more.begin(), more.end());
   return arguments;
@@ -29,7 +29,7 @@ struct CompanionOutcome {
   std::string Errors;
 };
 
-/// What a run finds: the terminal, by how much each look at the clock moves it on, and what is typed.
+/// The environment of a run: the terminal, how far each reading advances the clock, and standard input.
 struct CompanionScene {
   quillon::Terminal Terminal{};
   std::chrono::milliseconds Step{};

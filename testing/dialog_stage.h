@@ -1,7 +1,7 @@
 #pragma once
 
-// A program folder with some ranges, a main window that has nothing but the four choosers, and the dialogs
-// themselves, which speak in real boxes ("testing/expected_boxes.h").
+// A program folder with some ranges, a main window with nothing but the four choosers, and the dialogs themselves, with
+// real boxes ("testing/expected_boxes.h").
 
 #include <QPlainTextEdit>
 #include <QTest>
@@ -43,7 +43,7 @@ inline constexpr auto kStagedRows = [] {
 inline constexpr std::array kStagedLayout = {
     ControlTable{.Container = {}, .Font = {.Family = "Arial", .Points = 9}, .Rows = kStagedRows}};
 
-/// The main window as the dialogs know it.
+/// The main window as seen by the dialogs.
 class StagedMain : public QWidget {
  public:
   StagedMain() { setCursor(Qt::WaitCursor); }
@@ -58,20 +58,20 @@ class StagedMain : public QWidget {
   LayoutControls<kStagedLayout> Controls{*this};
 };
 
-/// AA, AKs, AQs and so on: for the stage as good an order as any.
+/// AA, AKs, AQs and so on: as good an order as any for this stage.
 [[nodiscard]] inline HandOrder IndexOrder() {
   HandOrder order{};
   std::iota(order.begin(), order.end(), std::int16_t{0});
   return order;
 }
 
-/// Everything on stage. The ranges are "Button Shove", with AA full and AKs half, and "Tight", with AA, KK and QQ.
+/// The whole stage. The ranges are "Button Shove", with AA full and AKs half, and "Tight", with AA, KK and QQ.
 class DialogStage {
  public:
   DialogStage() {
     Program.Write("Button Shove.txt", TextWith("AA", "AKs"));
     Program.Write("Tight.txt", TextWith("AA KK QQ"));
-    // Each time that all lists are filled, the first one is, too.
+    // Whenever all lists are filled, so is the first one.
     QObject::connect(&List(0), &FormChooser::Clicked, &Main, [this] { ++Refreshes; });
   }
 
@@ -81,7 +81,7 @@ class DialogStage {
     return *Dialogs.LoadedManager();
   }
 
-  /// The New Range dialog, opened by the link of a chooser.
+  /// The New Range dialog, opened by a chooser's link.
   NewRangeForm& OpenNewRange(std::int16_t chooser = 0) {
     Main.Controls.LabelAt("lblNewRange", chooser).Click();
     return *Dialogs.LoadedNewRange();
@@ -105,8 +105,8 @@ class DialogStage {
       {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift, .BestFirst = IndexOrder}};
 };
 
-/// A click of the left mouse button in the middle of the control, sent the way of the window's own events, so that it
-/// goes to whatever lies in front there.
+/// A click of the left mouse button in the middle of the control, sent to its window, so that whatever is in front
+/// there gets it.
 inline void ClickOn(QWidget& control, Qt::KeyboardModifiers held = {}) {
   QWidget* window = control.window();
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, held, control.mapTo(window, control.rect().center()));
@@ -122,7 +122,7 @@ void ClickCell(const Controls& controls, std::string_view label) {
   ClickOn(controls, "lblCards", HandIndex(label));
 }
 
-/// A test on one of the two dialogs, once the test has opened it.
+/// A test of one of the two dialogs, once opened.
 template <typename Dialog>
 class DialogFormTest : public testing::Test {
  protected:
@@ -143,7 +143,7 @@ class DialogFormTest : public testing::Test {
   void Click(typename DialogControls::template Key<QWidget> name) const { ClickOn(Controls(), name); }
   void Cell(std::string_view label) const { ClickCell(Controls(), label); }
   void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) const { QTest::keyClick(Form().windowHandle(), key, held); }
-  /// The Shift key goes down, and stays down until ShiftUp.
+  /// Presses Shift until ShiftUp.
   void ShiftDown() {
     Stage.ShiftHeld = true;
     QTest::keyPress(Form().windowHandle(), Qt::Key_Shift, Qt::ShiftModifier);
@@ -152,7 +152,7 @@ class DialogFormTest : public testing::Test {
     Stage.ShiftHeld = false;
     QTest::keyRelease(Form().windowHandle(), Qt::Key_Shift);
   }
-  /// What the user does when another window was in front.
+  /// As when the user returns from another window.
   void ComeToFront() const { BringToFront(Form()); }
 
   [[nodiscard]] std::string GridText() const { return RangeTextFromGrid(Form().Grid().Colors()); }

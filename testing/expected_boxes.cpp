@@ -24,7 +24,7 @@ struct ExpectedBox {
   std::function<void(QDialog&)> Answer;
 };
 
-// Tells what is on the screen from the box alone, so that a box which is dressed wrongly cannot pass.
+// Judged by what the box shows, so that a wrongly set-up box cannot pass.
 std::string IconText(QMessageBox::Icon icon) {
   constexpr std::array kTexts = {"no icon", "information", "exclamation", "stop", "question"};  // in Qt's order
   return kTexts.at(icon);
@@ -71,7 +71,7 @@ std::string Describe(const QDialog& dialog) {
 
 void Dismiss(QDialog& dialog) {
   dialog.close();
-  if (dialog.isVisible()) dialog.reject();  // a message box without a way out does not let itself be closed
+  if (dialog.isVisible()) dialog.reject();  // a message box without a cancel button cannot be closed
 }
 
 void ClickButton(QDialog& dialog, QDialogButtonBox::StandardButton button) {
@@ -95,7 +95,7 @@ class BoxWatch : public QObject, public testing::EmptyTestEventListener {
     if (event->type() != QEvent::Show) return false;
     auto* dialog = qobject_cast<QDialog*>(watched);
     if (dialog == nullptr || !dialog->isModal()) return false;
-    // The box's own event loop runs this.
+    // Runs in the box's own event loop.
     QMetaObject::invokeMethod(
         this,
         [this, shown = QPointer<QDialog>(dialog)] {
@@ -125,13 +125,13 @@ class BoxWatch : public QObject, public testing::EmptyTestEventListener {
   std::deque<ExpectedBox> expected_;
 };
 
-// GoogleTest keeps it, and deletes it at the end of the program.
+// GoogleTest owns it.
 BoxWatch& Watch() {
   static auto* const watch = new BoxWatch;
   return *watch;
 }
 
-// Whether the box shows what it should; one that does not has been closed.
+// Whether the box shows what it should; closes it otherwise.
 bool ShowsThis(QDialog& dialog, const std::string& description) {
   const std::string shown = Describe(dialog);
   if (shown == description) return true;

@@ -1,15 +1,14 @@
 #pragma once
 
-// The boxes that stop the program until somebody answers them. A test says beforehand which ones will come,
-// in their order, and how each is answered:
+// The boxes that stop the program until somebody answers them. A test announces them in order, with the answer to each:
 //
 //   ExpectMessageBox({.title = "Delete?", .text = "...", .icon = MessageIcon::kQuestion,
 //                     .buttons = MessageButtons::kYesNoCancel}, MessageAnswer::kYes);
 //   QTest::mouseClick(&form.LabelAt("lblDelete"), Qt::LeftButton);
 //
-// A box that shows something else fails the test, and so does one that nobody expected; either is closed, so that no
-// test hangs. A box that was expected and has not come by the end of its test fails it as well. Boxes are answered from
-// the event loop that they run themselves, after they have come up, as a user would.
+// A box that shows something else fails the test, and so does an unexpected one; either is closed, so that no test
+// hangs. An expected box that has not opened by the end of its test fails it too. Boxes are answered from their own
+// event loop once they are open, as by a user.
 
 #include <QDialog>
 #include <functional>
@@ -32,15 +31,14 @@ void ExpectInputBox(const InputQuestion& question, std::string_view answer);
 /// The next box is this input box, and Cancel is clicked.
 void ExpectInputBoxCancelled(const InputQuestion& question);
 
-/// The next box is one of any kind, such as a QFileDialog. `answer` looks at it, does what a user would, and has to
-/// close it.
+/// The next box is one of any kind, such as a QFileDialog. `answer` acts as a user would, and must close it.
 void ExpectDialog(std::function<void(QDialog& dialog)> answer);
 
-/// Fails the test for each box that was expected and has not come, and expects none of them any longer. Every test ends
-/// with it; one that goes on to something else may call it in between.
+/// Fails the test for each expected box that has not opened, and drops the expectation. Runs at the end of every test;
+/// a test with several parts may call it in between.
 void VerifyExpectedBoxes();
 
-/// Begins to look out for boxes. Called once, by the test program's main, when the application is there.
+/// Starts watching for boxes. Called once, by the test program's main, after creating the application.
 void StartWatchingBoxes();
 
 }  // namespace quillon

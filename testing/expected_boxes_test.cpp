@@ -21,9 +21,9 @@ const Message kQuestion = {.title = "Delete?",
                            .buttons = MessageButtons::kYesNoCancel};
 const Message kNote = {.title = "Quillon", .text = "First line.\r\nSecond line."};
 
-// Statements that have to fail may reach no local variable, so all of them are here.
+// Statements that must fail cannot access local variables, so they are all here.
 MessageAnswer Show(const Message& message) {
-  InitArtwork();  // with the icons of the boxes
+  InitArtwork();  // includes the icons of the boxes
   return MessageDialogs().Show(message);
 }
 
@@ -85,7 +85,7 @@ TEST(ExpectedBoxes, FailTheTestWhereABoxDoesNotCome) {
       },
       "This box has not come: message box \"Quillon\" (information, OK): First line.");
 
-  VerifyExpectedBoxes();  // it is not expected any longer
+  VerifyExpectedBoxes();  // no longer expected
 }
 
 TEST(ExpectedBoxes, TypeIntoAnInputBoxOrCancelIt) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// Takes the place of `xdg-open` in the program's PATH, writes down what it is to open, and ends with a
-// status of the test's choice.
+// Replaces `xdg-open` in the program's PATH: records what it should open, and exits with the test's status.
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -16,7 +15,7 @@ namespace quillon {
 
 class FakeOpener {
  public:
-  /// What the real one ends with where it finds no browser.
+  /// The status of the real one if it finds no browser.
   static constexpr int kNoneFound = 3;
 
   explicit FakeOpener(int status = 0) : path_(qgetenv("PATH")) {
@@ -32,7 +31,7 @@ class FakeOpener {
   FakeOpener& operator=(FakeOpener&&) = delete;
   ~FakeOpener() { qputenv("PATH", path_); }
 
-  /// What it was given, one a line, after waiting for those at work.
+  /// The arguments of all calls, one per line, after waiting for running ones.
   [[nodiscard]] std::string Opened() const {
     EXPECT_TRUE(QTest::qWaitFor([] { return qApp->findChild<QProcess*>() == nullptr; }));
     QFile opened(folder_.filePath(QStringLiteral("xdg-open.opened")));

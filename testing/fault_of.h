@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// What `call` fails with, nothing if it does not fail.
+/// The exception of `call`; nothing if it does not fail.
 template <typename Call>
 std::optional<RunTimeError> FailureOf(Call call) {
   try {
@@ -18,14 +18,14 @@ std::optional<RunTimeError> FailureOf(Call call) {
   return std::nullopt;
 }
 
-/// The fault of this failure.
+/// The fault of that exception.
 template <typename Call>
 std::optional<RunTimeFault> FaultOf(Call call) {
   const auto failure = FailureOf(call);
   return failure ? std::optional(failure->Fault()) : std::nullopt;
 }
 
-/// Its text, empty if there is none.
+/// Its text; empty if there is none.
 template <typename Call>
 std::string FaultTextOf(Call call) {
   const auto failure = FailureOf(call);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Files as a test finds them on the disk, past the routines that it tests.
+// Direct access to files on disk, bypassing the routines under test.
 
 #include <filesystem>
 #include <fstream>
@@ -10,14 +10,14 @@
 
 namespace quillon {
 
-/// The content of a file, empty if there is none.
+/// The content of a file; empty if there is none.
 [[nodiscard]] inline std::string BytesOf(const std::filesystem::path& path) {
   std::ostringstream content;
   content << std::ifstream(path, std::ios::binary).rdbuf();
   return content.str();
 }
 
-/// Makes or overwrites a file.
+/// Creates or overwrites a file.
 inline void Put(const std::filesystem::path& path, std::string_view bytes = {}) {
   std::ofstream(path, std::ios::binary) << bytes;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// The system's own file calls, for a test to watch or to make fail.
+// The system's file calls, watched or made to fail by a test.
 
 #include <algorithm>
 #include <cerrno>
@@ -19,17 +19,17 @@ namespace quillon {
 
 enum class Call { kOpen, kRead, kWrite, kSync, kClose, kRename, kUnlink, kMakeFolder, kMode, kSetMode, kTryLock };
 
-/// A call as it was made. `Path` is empty for calls on an open file.
+/// A recorded call. `Path` is empty for calls on an open file.
 struct MadeCall {
   quillon::Call Call;
   std::string Path = {};
-  std::optional<OpenFor> Purpose = {};  // of kOpen
+  std::optional<OpenFor> Purpose = {};  // only for kOpen
 };
 
-/// Passes every call on to the system, keeps a record of it, and makes the chosen ones fail.
+/// Forwards every call to the system, records it, and makes the chosen ones fail.
 class WatchedCalls : public FileCalls {
  public:
-  /// The negated error number that call number `number` (from 1) returns, or nothing for one that goes through.
+  /// The negated error number for call number `number` (from 1), or nothing to let it through.
   using Fault = std::function<std::optional<int>(const MadeCall& call, int number)>;
 
   /// Reads and writes are cut to `largestPiece`.
@@ -75,7 +75,7 @@ class WatchedCalls : public FileCalls {
   [[nodiscard]] const std::vector<MadeCall>& Made() const { return made_; }
   [[nodiscard]] std::ptrdiff_t Count(Call call) const { return std::ranges::count(made_, call, &MadeCall::Call); }
 
-  /// The paths at which a new file was to be made.
+  /// The paths at which a new file was requested.
   [[nodiscard]] std::vector<std::string> ScratchFiles() const {
     std::vector<std::string> paths;
     for (const MadeCall& call : made_) {
@@ -85,7 +85,7 @@ class WatchedCalls : public FileCalls {
   }
 
  private:
-  // What the system says, or the fault in its place.
+  // The system's result, or the fault instead.
   template <typename Pass>
   auto Do(MadeCall call, Pass pass) -> decltype(pass()) {
     made_.push_back(std::move(call));
@@ -99,7 +99,7 @@ class WatchedCalls : public FileCalls {
   FileCalls& system_ = SystemFileCalls();
 };
 
-/// The first `times` calls of this kind fail.
+/// Makes the first `times` calls of this kind fail.
 [[nodiscard]] inline WatchedCalls::Fault FailAll(Call call, int error, int times = 1'000'000) {
   return [call, error, left = times](const MadeCall& made, int /*number*/) mutable -> std::optional<int> {
     if (made.Call != call || left-- <= 0) return std::nullopt;
@@ -107,13 +107,13 @@ class WatchedCalls : public FileCalls {
   };
 }
 
-/// Calls of which one fails, or all from one on. Counting up through the calls of an action until none fails any more
-/// makes each of them fail in turn.
+/// Makes one call fail, or all from one on. Counting up through the calls of an action until none fails any more makes
+/// each of them fail in turn.
 class FailingCalls final : public WatchedCalls {
  public:
   enum class Lasting { kOnce, kForGood };
 
-  /// Lets `callsUntilFailure` calls through. A call that fails returns `error`, negated.
+  /// Lets `callsUntilFailure` calls through. A failing call returns `error`, negated.
   explicit FailingCalls(int callsUntilFailure, int error = EIO, Lasting lasting = Lasting::kOnce,
                         std::size_t largestPiece = std::string_view::npos)
       : WatchedCalls(

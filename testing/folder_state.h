@@ -1,6 +1,6 @@
 #pragma once
 
-// What a folder holds, so that a test can say that nothing in it has changed.
+// The contents of a folder, so that a test can check that nothing has changed.
 
 #include <filesystem>
 #include <map>
@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// Every file and folder below the folder, by path, with the time of its last change and, of a file, its bytes.
+/// Every file and folder below it, by path, with its modification time and, for a file, its bytes.
 [[nodiscard]] inline std::map<std::string, std::string> FolderState(const std::filesystem::path& folder) {
   std::map<std::string, std::string> state;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {

@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// Memory of x's between two pages that cannot be read.
+/// A block of x's between two unreadable pages.
 class GuardedPage {
  public:
   GuardedPage();

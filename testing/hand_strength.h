@@ -1,6 +1,6 @@
 #pragma once
 
-// The strength of a hand that is given card by card, for tests of how the generator of the equity table ranks hands.
+// The strength of a hand given card by card, for tests of the equity table's generator.
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,7 @@
 
 namespace quillon {
 
-/// The strength of the best five among five to seven cards, given by their places in the deck (0 for "As", 51 for
+/// The strength of the best five among five to seven cards, given by their positions in the deck (0 for "As", 51 for
 /// "2c"). No card may occur twice.
 inline HandStrength StrengthOfCards(std::span<const int> cards) {
   RankTally tally;
@@ -31,7 +31,7 @@ inline HandStrength StrengthOfCards(std::span<const int> cards) {
   return StrengthOfRanks(tally);
 }
 
-/// The category that a strength belongs to.
+/// The category of a strength.
 inline HandCategory CategoryOf(HandStrength strength) {
   const auto started =
       std::upper_bound(kCategoryStart.begin(), kCategoryStart.end(), strength) - kCategoryStart.begin();

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a screen reader is told of by itself while this lives.
+// Records a screen reader's announcements during its lifetime.
 
 #include <QObject>
 #include <QWidget>

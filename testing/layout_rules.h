@@ -1,7 +1,6 @@
 #pragma once
 
-// Rules that every layout keeps, whatever its rows say. Pictures of each screen are compared in
-// "tests/screens_journey_test.cpp".
+// Rules for every layout. "tests/screens_journey_test.cpp" compares pictures of each screen.
 
 #include <QImageReader>
 #include <QWidget>
@@ -21,7 +20,7 @@
 
 namespace quillon {
 
-/// Each row has its control, under a name of its own and in its container.
+/// Each row has a control with a unique name and in its container.
 inline void ExpectBuiltAsItsRows(const QWidget& form, const FormControls& controls,
                                  std::span<const ControlTable> tables) {
   std::set<std::string> names;
@@ -45,7 +44,7 @@ inline void ExpectTextsFit(const QWidget& form) {
   }
 }
 
-/// A label may grow with its text, and then must not run into a control that its row leaves free.
+/// A label may grow with its text, but not into a control that its row leaves free.
 inline void ExpectNoLabelRunsIntoItsNeighbours(const FormControls& controls, std::span<const ControlTable> tables) {
   const auto isDrawing = [](ControlKind kind) {
     return kind == ControlKind::kShape || kind == ControlKind::kRoundedShape || kind == ControlKind::kLine;
@@ -63,8 +62,7 @@ inline void ExpectNoLabelRunsIntoItsNeighbours(const FormControls& controls, std
   }
 }
 
-/// Each picture can be drawn, and was drawn in the size of its place; where the build has made an image of it, that
-/// many times as large.
+/// Each picture exists, and was drawn in the size of its place; if the build has rendered it, at this multiple.
 inline void ExpectPicturesAreThere(const FormControls& controls, std::span<const ControlTable> tables) {
   for (const ControlTable& table : tables) {
     for (const ControlRow& row : table.Rows) {
@@ -72,7 +70,7 @@ inline void ExpectPicturesAreThere(const FormControls& controls, std::span<const
       const std::string name = ObjectName(row.Name, row.Index);
       const auto& picture = dynamic_cast<const Picture&>(controls.At(row));
       EXPECT_FALSE(ArtworkPixmap(picture.Artwork(), picture.size(), 1).isNull()) << name;
-      if (table.Container == "frameControls") continue;  // which only keeps them
+      if (table.Container == "frameControls") continue;  // which only stores them
       const QString file = ArtworkFile(picture.Artwork());
       const QSize drawn = QImageReader(file).size();
       const QSize place = PixelPlace(row.Place).size();
@@ -81,13 +79,13 @@ inline void ExpectPicturesAreThere(const FormControls& controls, std::span<const
   }
 }
 
-/// The tool tips of these controls, and those that have none.
+/// The tool tips of these controls; empty means none.
 inline void ExpectToolTips(const FormControls& controls, const std::map<std::string, const char*>& tips) {
   for (const auto& [name, tip] : tips)
     EXPECT_EQ(FromQt(controls.At(name).toolTip()), tip) << name;
 }
 
-/// The hand shows over these controls.
+/// These controls have the hand cursor.
 inline void ExpectHands(const FormControls& controls, const std::vector<std::string>& names) {
   for (const std::string& name : names)
     EXPECT_EQ(controls.At(name).cursor().shape(), Qt::PointingHandCursor) << name;

@@ -1,7 +1,6 @@
 #pragma once
 
-// A web host on this machine, on a port that was free. It serves connections as a test says, which may be against the
-// rules of HTTP.
+// A web host on this machine, on a free port. It serves connections as a test says, which may violate HTTP.
 
 #include <array>
 #include <chrono>
@@ -30,7 +29,7 @@ class LoopbackConnection {
   /// The head of the request, with its empty line.
   [[nodiscard]] const std::string& Request() const { return request_; }
 
-  /// False once the other end is gone.
+  /// False once the client is gone.
   bool Send(std::string_view bytes) const { return socket_.Send(bytes); }
 
   void WaitUntilTheOtherEndIsGone() const {
@@ -38,10 +37,10 @@ class LoopbackConnection {
     }
   }
 
-  /// Returns after that time, or false as soon as the other end is gone.
+  /// Returns true after that time, or false as soon as the client is gone.
   [[nodiscard]] bool Pause(std::chrono::milliseconds time) const { return socket_.Pause(time); }
 
-  /// Ends the connection as a crash would, not as a host does that has said all.
+  /// Resets the connection, as a crash would, instead of closing it.
   void Break() const { socket_.Break(); }
 
  private:
@@ -56,14 +55,14 @@ class LoopbackConnection {
   std::string request_;
 };
 
-/// Serves one connection after the other.
+/// Serves connections one after another.
 class LoopbackHost {
  public:
   using Serve = std::function<void(LoopbackConnection&)>;
 
   explicit LoopbackHost(Serve serve) : serve_(std::move(serve)) {}
 
-  /// A host that always says the same.
+  /// A host with a fixed reply.
   explicit LoopbackHost(std::string reply)
       : LoopbackHost([reply = std::move(reply)](LoopbackConnection& connection) { connection.Send(reply); }) {}
 
@@ -78,7 +77,7 @@ class LoopbackHost {
 
   [[nodiscard]] std::uint16_t Port() const { return port_; }
 
-  /// "http://127.0.0.1:PORT" and the target; `name` is another name for this machine.
+  /// "http://127.0.0.1:PORT" plus the target; `name` replaces the host's address.
   [[nodiscard]] std::string Address(std::string_view target = "/", std::string_view name = "127.0.0.1") const {
     return "http://" + std::string(name) + ":" + std::to_string(port_) + std::string(target);
   }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The main window with its dialogs on a program folder of its own. It speaks in real boxes
-// ("testing/expected_boxes.h"), hears real mouse and keyboard events, and reaches no web but one that a test gives it.
+// The main window with its dialogs on a program folder of its own, with real boxes ("testing/expected_boxes.h") and
+// real mouse and keyboard events, and without web access except what a test provides.
 
 #include <QComboBox>
 #include <QGuiApplication>
@@ -61,14 +61,14 @@ class RecordedWeb : public WebClient {
   }
 
   std::vector<std::string> Asked;
-  std::deque<std::string> Replies;  // to the requests to come, the first first; they fail once these are used up
-  WebClient* Behind = nullptr;  // answers in place of the replies, where there is one
-  std::function<void()> WhileAsked;  // looks at things while a request is on its way
+  std::deque<std::string> Replies;  // to the next requests, in order; further ones fail
+  WebClient* Behind = nullptr;  // if set, answers instead of the replies
+  std::function<void()> WhileAsked;  // called during a request
 };
 
 /// The ranges are "Everything", with each hand in full, "Nothing", with none, "Pairs", with AA and KK in full and QQ at
 /// half, and "Tight", with AA, KK, AKs and AKo. The window is not started yet, so that a test can change the folder
-/// before.
+/// first.
 class MainStage {
  public:
   using ControlName = MainControls::Key<>;
@@ -93,11 +93,11 @@ class MainStage {
   void Start() {
     Form.Start();
     ComeToFront();
-    // Where the mouse stood in the test before, a move to the same point would be none.
+    // A move to where an earlier test left the mouse would be no event.
     MoveTo({5, Form.height() - 5});
   }
 
-  /// What the user does when another window was in front.
+  /// As when the user returns from another window.
   void ComeToFront() { BringToFront(Form); }
 
   template <typename Kind = QWidget>
@@ -111,7 +111,7 @@ class MainStage {
   [[nodiscard]] std::string BoxText(std::int16_t index) { return FromQt(Get<QLineEdit>("txtNumber", index).text()); }
   [[nodiscard]] bool Shows(ControlName name, std::int16_t index = kNoIndex) { return Get(name, index).isVisible(); }
 
-  /// The caption of the one screen that shows; a test fails where none or more than one does.
+  /// The caption of the visible screen; fails the test unless there is exactly one.
   [[nodiscard]] std::string Screen() {
     std::string shown;
     for (std::int16_t i = 0; i < Form.Controls().CountOf("frameContent"); ++i) {
@@ -121,7 +121,7 @@ class MainStage {
     return shown.substr(0, shown.empty() ? 0 : shown.size() - 1);
   }
 
-  /// The mouse, sent the way of the window's own events, so that what lies in front hears it.
+  /// Mouse events, sent to the window, so that whatever is in front gets them.
   void ClickAt(const QPoint& point) { QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, point); }
   void MoveTo(const QPoint& point) { QTest::mouseMove(Form.windowHandle(), point); }
   [[nodiscard]] QPoint MiddleOf(ControlName name, std::int16_t index = kNoIndex) {
@@ -133,14 +133,14 @@ class MainStage {
   void MoveOver(ControlName name, std::int16_t index = kNoIndex) { MoveTo(MiddleOf(name, index)); }
   void Open(std::int16_t nav) { Click("lblNav", nav); }
 
-  /// Keys go to whatever has the focus, as from the keyboard.
+  /// Key events go to the focused control, as from the keyboard.
   void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
   void TypeKeys(std::string_view text) {
     for (const char key : text)
       QTest::keyClick(Form.windowHandle(), key);
   }
 
-  /// Clicks into an amount box and puts `text` in place of its own, by keys. The box keeps the focus.
+  /// Clicks into an amount box and replaces its text, by keys. The box keeps the focus.
   void Type(std::int16_t box, std::string_view text) {
     Click("txtNumber", box);
     Press(Qt::Key_A, Qt::ControlModifier);
@@ -181,7 +181,7 @@ class MainStage {
     Choose(3, range);
   }
 
-  /// Runs to the end.
+  /// A whole run.
   void RunCall(std::string_view pot, std::string_view call, std::string_view range) {
     EnterCall(pot, call, range);
     Click("cmdPreflopEV", 0);
@@ -196,8 +196,8 @@ class MainStage {
     Click("cmdPreflopEV", 2);
   }
 
-  /// Does `act` once, as soon as `ready` holds while the program runs or waits for something. A test fails where that
-  /// never happens.
+  /// Calls `act` once, as soon as `ready` is true while the program runs or waits. Fails the test if that never
+  /// happens.
   void Once(std::function<bool()> ready, std::function<void()> act) {
     ++ActsToCome;
     auto* timer = new QTimer(&Form);
@@ -210,12 +210,12 @@ class MainStage {
                      });
     timer->start(0);
   }
-  /// The same between two classes of a run, as soon as the percentage reads so.
+  /// The same between two classes of a run, at this percentage.
   void DuringRun(std::string_view percent, std::function<void()> act) {
     Once([this, wanted = std::string(percent)] { return Form.State().Running && Caption("lblProgressPerc") == wanted; },
          std::move(act));
   }
-  /// The same under the hourglass, before a note goes out.
+  /// The same under the hourglass, before a note is sent.
   void DuringWait(std::function<void()> act) {
     Once([] { return QGuiApplication::overrideCursor() != nullptr; }, std::move(act));
   }
@@ -226,7 +226,7 @@ class MainStage {
     static_cast<Analysis&>(Form.State()) = state;
   }
 
-  /// The dialog for a file's name comes, and the user types one.
+  /// Expects the dialog for a file name, and types one.
   static void ExpectFileName(const std::string& typed) {
     ExpectDialog([typed](QDialog& dialog) {
       NameLineOf(dialog).setText(ToQt(typed));
@@ -245,8 +245,8 @@ class MainStage {
   bool ShiftHeld = false;
   int Ends = 0;
   int ActsToCome = 0;
-  std::function<void()> AtEnd;  // what else the end does, besides being counted
-  std::int32_t Now = 0;  // the clock: 700 milliseconds have passed whenever the window looks at it
+  std::function<void()> AtEnd;  // besides counting
+  std::int32_t Now = 0;  // the clock: advances by 700 milliseconds whenever the window reads it
   MessageDialogs Boxes;
   RecordedWeb Web;
   ShiftWatch Shift{[this] { return ShiftHeld; }};
@@ -260,7 +260,7 @@ class MainStage {
   }
 };
 
-/// A test on a window that has started.
+/// A test of a window that has been started.
 class MainFormTest : public testing::Test, public MainStage {
  protected:
   void SetUp() override { Start(); }

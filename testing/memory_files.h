@@ -1,7 +1,7 @@
 #pragma once
 
-// Files that are in memory only, for targets that would otherwise write to the disk a million times. Folders do not
-// count: every path can be opened, and names are all there is.
+// Files in memory, for targets that would otherwise write to the disk a million times. Folders are ignored: any path
+// can be opened.
 
 #include <algorithm>
 #include <cerrno>
@@ -65,7 +65,7 @@ class MemoryFiles final : public FileCalls {
   int SetMode(int /*file*/, FileMode /*mode*/) override { return 0; }
   int TryLock(int /*file*/) override { return 0; }
 
-  /// Whether every file that was opened has been closed.
+  /// Whether every opened file has been closed.
   [[nodiscard]] bool AllClosed() const { return Opened.empty(); }
 };
 

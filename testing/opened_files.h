@@ -1,6 +1,6 @@
 #pragma once
 
-// Takes the place of the desktop's image program, and keeps what it was to open.
+// Replaces the desktop's image program, and records what it should open.
 
 #include <QDesktopServices>
 #include <QObject>

@@ -1,6 +1,6 @@
 #pragma once
 
-// The pop-up menu that shows over a form, read and used as a user does.
+// The pop-up menu open over a form, used as a user would.
 
 #include <QAction>
 #include <QMenu>
@@ -14,12 +14,12 @@
 
 namespace quillon {
 
-/// Null where none shows.
+/// Null if none is open.
 [[nodiscard]] inline QMenu* OpenedMenu(const QWidget& form) {
   return form.findChild<QMenu*>();
 }
 
-/// Its entries, each followed by its key, and by " (off)" if it cannot be chosen; a line between groups is empty.
+/// Its entries, each followed by its key, and by " (off)" if disabled; a separator is empty.
 [[nodiscard]] inline std::vector<std::string> MenuEntries(const QWidget& form) {
   std::vector<std::string> entries;
   for (const QAction* action : OpenedMenu(form)->actions()) {
@@ -31,15 +31,15 @@ namespace quillon {
 
 inline void CloseMenu(const QWidget& form) {
   OpenedMenu(form)->close();
-  QTest::qWait(0);  // the menu has gone
+  QTest::qWait(0);  // lets the menu close
 }
 
-/// Opens it with the right button there.
+/// Opens it with the right button at that point.
 inline void OpenMenu(const QWidget& form, const QPoint& place) {
   QTest::mouseClick(form.windowHandle(), Qt::RightButton, {}, place);
 }
 
-/// Opens it with the right button there, and chooses the entry of that text with the left one.
+/// Opens it with the right button at that point, and chooses the entry of that text with the left one.
 inline void ChooseInMenu(const QWidget& form, const QPoint& place, std::string_view text) {
   OpenMenu(form, place);
   ASSERT_NE(OpenedMenu(form), nullptr);

@@ -2,7 +2,7 @@
 
 namespace quillon {
 
-/// A system may refuse nothing to its superuser, so a test that the superuser runs steps down while this exists.
+/// The superuser may be allowed everything, so a test that he runs drops his rights during this object's lifetime.
 class OrdinaryUser {
  public:
   OrdinaryUser();

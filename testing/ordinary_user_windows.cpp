@@ -2,7 +2,7 @@
 
 namespace quillon {
 
-// A file that is read-only is so to everyone.
+// A read-only file is so for everyone.
 OrdinaryUser::OrdinaryUser() : superuser_(false) {}
 
 OrdinaryUser::~OrdinaryUser() = default;

@@ -1,6 +1,6 @@
-// The main of every test program whose tests build windows. They run without a screen, in a temporary folder, with the
-// program's own style and a font that is always the same, whatever desktop the machine has. A warning of Qt's is a
-// failure: it tells of a connection that was not made or of something drawn nowhere.
+// The main of every test program with windows. They run without a screen, in a temporary folder, with the program's own
+// style and a fixed font, whatever the machine's desktop. A Qt warning is a failure: it reveals a failed connection or
+// lost drawing.
 
 #include <QDir>
 #include <QFile>

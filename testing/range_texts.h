@@ -1,6 +1,6 @@
 #pragma once
 
-// Range texts for tests, written without the routines under test.
+// Range texts for tests, made without the routines under test.
 
 #include <array>
 #include <cstddef>
@@ -53,7 +53,7 @@ namespace quillon {
   return text;
 }
 
-/// All 169 labels with spaces between.
+/// All 169 labels separated by spaces.
 [[nodiscard]] inline std::string AllLabels() {
   std::string labels;
   for (std::int16_t index = 0; index < kHandClassCount; ++index)

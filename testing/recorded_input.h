@@ -1,6 +1,6 @@
 #pragma once
 
-// Input boxes that answer by themselves, and that keep what they asked.
+// Input boxes that answer themselves, and record their questions.
 
 #include <deque>
 #include <ostream>
@@ -33,7 +33,7 @@ class RecordedInput : public InputBoxes {
   }
 
   std::vector<InputQuestion> Asked;
-  std::deque<std::string> Answers;  // to the boxes to come, the first first; they are cancelled once these are used up
+  std::deque<std::string> Answers;  // to the next boxes, in order; further ones are cancelled
 };
 
 }  // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-// Message boxes that nobody has to click, and that keep what they showed.
+// Message boxes that answer themselves, and record what they showed.
 
 #include <deque>
 #include <vector>
@@ -20,7 +20,7 @@ class RecordedMessages : public MessageBoxes {
   }
 
   std::vector<Message> Shown;
-  std::deque<MessageAnswer> Answers;  // to the boxes to come, the first first; kOk once they are used up
+  std::deque<MessageAnswer> Answers;  // to the next boxes, in order; kOk for further ones
 };
 
 }  // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-// A report screen. It keeps the text with its insertion point and writes down every call.
+// A report screen that keeps the text with its insertion point and logs every call.
 
 #include <cstddef>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-// A made-up analysis for tests: range texts and results tables of a few hands, written without the routines under test.
+// A made-up analysis for tests: range texts and results tables of a few hands, made without the routines under test.
 
 #include <cstdint>
 #include <map>
@@ -14,7 +14,7 @@ namespace quillon::sample {
 
 using TextsByHand = std::map<std::string_view, std::string_view>;
 
-/// What `texts` has for `hand`, `otherwise` for a hand that it lacks.
+/// The entry of `texts` for `hand`, or else `otherwise`.
 inline std::string TextFor(const TextsByHand& texts, std::string_view hand, std::string_view otherwise) {
   const auto found = texts.find(hand);
   return std::string(found == texts.end() ? otherwise : found->second);
@@ -28,7 +28,8 @@ inline std::string RangeText(const TextsByHand& weights) {
   return text;
 }
 
-/// A results table with the given cells, each "value, tab, equity, tab, fold share", `otherwise` for every other hand.
+/// A results table with the given cells, each "value, tab, equity, tab, fold share", and `otherwise` for every other
+/// hand.
 inline std::string ResultsTable(const TextsByHand& cells, std::string_view otherwise = "0\t0\t1") {
   std::string table;
   for (std::int16_t index = 0; index < kHandClassCount; ++index)

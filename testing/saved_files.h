@@ -1,6 +1,6 @@
 #pragma once
 
-// A file of the user's, and what becomes of it.
+// A file of the user's, for tests of replacing it.
 
 #include <algorithm>
 #include <filesystem>
@@ -33,13 +33,13 @@ inline WatchedCalls::Fault FailOnce(int atNumber, int error) {
   return [=](const MadeCall&, int number) { return number == atNumber ? std::optional(-error) : std::nullopt; };
 }
 
-// Replaces the file. Returns the failure, if it failed.
+// Replaces the file and returns the failure, if any.
 inline std::optional<RunTimeError> FailureOfReplacing(const std::filesystem::path& path,
                                                       const std::filesystem::path& scratchFolder, FileCalls& calls) {
   return FailureOf([&] { ReplaceFile(path, kNew, scratchFolder, calls); });
 }
 
-// A folder of the user's with a folder for scratch files beside it, both gone after the test.
+// A user's folder and one for scratch files, both temporary.
 class Files : public testing::Test {
  protected:
   void SetUp() override {
@@ -64,7 +64,7 @@ class Files : public testing::Test {
   TemporaryFolder root_;
 };
 
-// One whose file may be written, whatever the folders allow.
+// The same with a writable file, whatever the folders' permissions.
 class WritingInPlace : public Files {
  protected:
   static constexpr auto kReadOnly = static_cast<std::filesystem::perms>(0555);

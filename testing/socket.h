@@ -1,6 +1,6 @@
 #pragma once
 
-// The host's end of connections within this machine.
+// The host's end of local connections.
 
 #include <chrono>
 #include <cstddef>
@@ -13,7 +13,7 @@ namespace quillon {
 /// A TCP socket, closed with the object.
 class Socket {
  public:
-  /// One that listens on a free port of 127.0.0.1.
+  /// Listens on a free port of 127.0.0.1.
   Socket();
   Socket(Socket&& other) noexcept;
   Socket(const Socket&) = delete;
@@ -21,28 +21,28 @@ class Socket {
   Socket& operator=(Socket&&) = delete;
   ~Socket();
 
-  /// False of what Accept returns after StopAccepting, and where the system had no socket.
+  /// False for the result of Accept after StopAccepting, and if the system has no socket.
   [[nodiscard]] bool IsOpen() const;
 
-  /// Of one that listens; 0 where the system had none.
+  /// For a listening socket; 0 if the system has none.
   [[nodiscard]] std::uint16_t Port() const;
 
-  /// The next connection, which it waits for.
+  /// Waits for the next connection.
   [[nodiscard]] Socket Accept() const;
 
   /// Ends Accept in another thread.
   void StopAccepting();
 
-  /// Sends all of it. False once the other end is gone.
+  /// Sends everything. False once the other end is gone.
   [[nodiscard]] bool Send(std::string_view bytes) const;
 
-  /// Waits for bytes and returns how many have come, 0 once the other end is gone.
+  /// Waits for bytes and returns their number, 0 once the other end is gone.
   [[nodiscard]] std::size_t Receive(std::span<char> bytes) const;
 
   /// Returns true after that time, or false as soon as the other end is gone.
   [[nodiscard]] bool Pause(std::chrono::milliseconds time) const;
 
-  /// Lets the connection end as a crash would, not as a host does that has said all.
+  /// Resets the connection, as a crash would, instead of closing it.
   void Break() const;
 
  private:
@@ -51,8 +51,8 @@ class Socket {
   std::intptr_t number_;
 };
 
-/// Whether a read tells a connection that broke from one that was closed. Under Wine it does not where something has
-/// waited for bytes before: its select() takes the error away, and the read returns 0.
+/// Whether reading distinguishes a reset connection from a closed one. Not under Wine after waiting for bytes: its
+/// select() clears the error, and the read returns 0.
 [[nodiscard]] bool TellsBreaks();
 
 }  // namespace quillon

@@ -77,7 +77,7 @@ std::size_t Socket::Receive(std::span<char> bytes) const {
   return count < 0 ? 0 : static_cast<std::size_t>(count);
 }
 
-// A caller that has said all shows as something to read, of no bytes.
+// A closed connection is readable, with no bytes.
 bool Socket::Pause(std::chrono::milliseconds time) const {
   fd_set reading{};
   FD_SET(Number(number_), &reading);

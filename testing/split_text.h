@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts taken apart and changed the plain way, for what tests expect.
+// Simple text manipulation for expected values.
 
 #include <cstddef>
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// The pieces of a text between separators, empty ones too: one more than there are separators.
+/// The pieces of a text between separators, including empty ones: one more than there are separators.
 [[nodiscard]] inline std::vector<std::string> Split(std::string_view text, std::string_view separator) {
   std::vector<std::string> pieces;
   for (std::size_t at = 0; (at = text.find(separator)) != std::string_view::npos;) {

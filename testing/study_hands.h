@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// The numbers of all hands, read once for a test program.
+/// The numbers of all hands, read once per test program.
 [[nodiscard]] inline const HandNumbers& Hands() {
   static const HandNumbers hands = [] {
     LoadEquityTable();
@@ -19,7 +19,7 @@ namespace quillon {
   return hands;
 }
 
-/// The classes, best first, and the range of a notation that can be read.
+/// The classes, best first, and the range of a valid notation.
 [[nodiscard]] inline const HandOrder& BestFirst() {
   static const HandOrder order = HandsBestFirst(Hands());
   return order;

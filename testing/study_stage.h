@@ -1,6 +1,6 @@
 #pragma once
 
-// The study window on a program folder of its own, with boxes that are recorded and answered ahead.
+// The study window on a program folder of its own, with boxes that are recorded and answered in advance.
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -24,7 +24,7 @@
 
 namespace quillon {
 
-/// Does all that is left of a page's work.
+/// Finishes a page's work.
 inline void FinishWork(const StudyWork& work) {
   const QDeadlineTimer limit(60000);
   while (work.HasWork() && !limit.hasExpired())
@@ -41,7 +41,7 @@ class StudyStage : public testing::Test {
 
   void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(Form.windowHandle(), key, held); }
 
-  /// All texts that show, one a line.
+  /// All visible texts, one per line.
   [[nodiscard]] std::string Texts() const {
     std::string texts;
     for (const QLabel* label : Form.findChildren<QLabel*>()) {

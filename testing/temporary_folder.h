@@ -1,6 +1,6 @@
 #pragma once
 
-// A folder under the system's folder for temporary files, gone with all that is in it when the object goes.
+// A folder under the system's temporary folder, deleted with the object.
 
 #include <filesystem>
 #include <random>

@@ -1,6 +1,6 @@
 #pragma once
 
-// A program's folder with an empty range folder in it, gone with all it holds when the object goes.
+// A program's folder with an empty range folder, deleted with the object.
 
 #include <filesystem>
 #include <string>
@@ -21,13 +21,13 @@ class TemporaryProgram {
     return RangeFolderPath(folder_) / PathOf(fileName);
   }
 
-  /// Puts a file into the range folder, byte for byte.
+  /// Writes a file into the range folder, byte for byte.
   void Write(std::string_view fileName, std::string_view bytes = {}) const { Put(RangeFile(fileName), bytes); }
 
   /// The bytes of a file in the range folder.
   [[nodiscard]] std::string Read(std::string_view fileName) const { return BytesOf(RangeFile(fileName)); }
 
-  /// A range as the program saves it, and its end.
+  /// Saves a range as the program does, and deletes it.
   void Save(std::string_view name, std::string_view text) const { SaveRangeText(folder_, name, text); }
   void Remove(std::string_view name) const { std::filesystem::remove(RangeFilePath(folder_, name)); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// For tests: what differs under AddressSanitizer and its leak detector.
+// Differences under AddressSanitizer and its leak detector.
 
 #if defined(__SANITIZE_ADDRESS__)
 #define QUILLON_ADDRESS_SANITIZER
@@ -16,8 +16,8 @@
 
 namespace quillon {
 
-/// While it lives, no leak counts. A run-time error that passes through Qt ends the program, so Qt frees nothing
-/// on its way; a test goes on after it.
+/// Ignores leaks during its lifetime. A run-time error that passes through Qt would end the program, so Qt frees
+/// nothing on the way; a test continues.
 class LeaksDoNotCount {
  public:
   LeaksDoNotCount() {

@@ -1,4 +1,4 @@
-// A run in the window that is stopped in the middle. Whole runs are in the other journeys.
+// A run in the window that is stopped in the middle. The other journeys cover whole runs.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ TEST_F(AnalysisJourney, StopInTheMiddleGoesBackToTheInputScreenWithoutResults) {
   Session().WaitUntil("there are no results", [&] { return Look("lblNoResults") == noResults; });
   EXPECT_EQ(BoxText(2), kRaise.Pot);
 
-  // And it can be run again.
+  // It can be run again.
   Analyze(kRaiseRun, kRaise);
 }
 

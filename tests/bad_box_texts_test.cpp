@@ -1,5 +1,5 @@
-// Texts that somebody types into an amount box, odd ones and random ones. Companion and window must take them as the
-// oracle does, and say the same.
+// Odd and random texts typed into an amount box. Companion and window must handle them as the oracle does, and show the
+// same messages.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -24,7 +24,7 @@ namespace quillon {
 namespace {
 
 using namespace std::string_literals;
-using Texts = std::vector<std::string>;  // pot and call; with a shove it is "Preflop Raise"
+using Texts = std::vector<std::string>;  // pot and call; three texts are "Preflop Raise"
 
 constexpr std::array kOptions = {"--pot", "--call", "--shove"};
 
@@ -36,7 +36,7 @@ plain::Run RunOf(const Texts& texts) {
   return {plain::Mode::kRaise, texts[0], texts[1], texts[2], kRange, kCallingRange};
 }
 
-/// What the oracle makes of the texts: those that stay in the boxes, and the outcome of a run with them.
+/// The oracle's view of the texts: those that stay in the boxes, and the outcome of a run with them.
 struct PlainStory {
   Texts Left;
   plain::Outcome InBoxes;  // of the first text that stops the companion
@@ -55,7 +55,7 @@ PlainStory StoryOf(const Texts& texts) {
 
 // ---- the companion
 
-/// What is said of amounts that a comma cuts short, before anything else is said of the run.
+/// The warnings about amounts that a comma cuts short, which come before any others.
 std::string WarningsOf(const PlainStory& story) {
   std::string warnings;
   for (std::size_t i = 0; story.InBoxes.GoesThrough() && i < story.Left.size(); ++i) {
@@ -106,7 +106,7 @@ const std::vector<std::string> kOddTexts = {
     "\uFF15", "\u20AC50", "100\u00A0", "100\xFF\xFE", "100\r\n", "--call", "1e-999", "1e308", "1e999", "1e10", "0",
     "-1", "-1x", "-5", std::string(100000, '9'), std::string(100000, 'x')};
 
-// Good texts in all boxes but one, more often than not: one bad text is enough for a message.
+// Usually valid texts in all boxes but one: one bad text is enough for a message.
 Texts RandomTexts(BadInputs& inputs) {
   Texts texts(2 + inputs.Below(2));
   for (std::string& text : texts)
@@ -121,7 +121,7 @@ std::string AllShown(const Texts& texts) {
   return all;
 }
 
-/// What became of it.
+/// Returns the outcome.
 std::string ExpectAsThePlainReader(const Ranges& ranges, const Texts& texts) {
   SCOPED_TRACE(AllShown(texts));
   const PlainStory story = StoryOf(texts);
@@ -146,7 +146,7 @@ TEST(BadBoxTexts, AreTakenByTheCompanionAsByThePlainReader) {
   for (int left = RandomInputs(25); left > 0 && !HasFailure();) {
     Texts texts = RandomTexts(inputs);
     for (std::string& text : texts)
-      std::erase(text, '\0');  // ends an argument
+      std::erase(text, '\0');  // a NUL would end an argument
     left -= static_cast<int>(texts.size());
     tally.Count(ExpectAsThePlainReader(ranges, texts));
   }
@@ -174,7 +174,7 @@ class BadBoxTextsInWindow : public MainFormTest {
                       .icon = sum ? MessageIcon::kInformation : MessageIcon::kExclamation});
   }
 
-  /// Puts a text into a box and leaves it. Returns the text that is there in the end.
+  /// Types a text into a box and leaves it. Returns the resulting text.
   std::string Fill(std::int16_t box, const std::string& text, std::int16_t chooser) {
     Paste(box, text);
     const std::string held = BoxText(box);
@@ -188,7 +188,7 @@ class BadBoxTextsInWindow : public MainFormTest {
   }
 };
 
-// Whether the window stays when it is given these texts one after the other: what ends it is tested elsewhere.
+// Whether the window survives these texts one after the other; texts that end it are tested elsewhere.
 bool Endures(const Texts& texts) {
   Texts left = texts;
   for (std::string& text : left) {

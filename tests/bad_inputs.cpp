@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// What is put into a text to damage it. Pieces are separated by a character that means nothing to any of the readers.
+// What is inserted into a text to damage it. Pieces are separated by a character that has no meaning in any format.
 constexpr char kBetweenPieces = '|';
 
 constexpr std::string_view kRangePieces =

@@ -1,8 +1,8 @@
 #pragma once
 
-// For tests: input as it comes from broken disks, strange editors and people who try things out. A good range file,
-// settings file or amount is drawn first and then damaged: cut, doubled, mixed up, filled with odd characters, written
-// in another encoding, blown up. The same seed gives the same inputs each time.
+// Input as from broken disks, strange editors and people who try things out. A valid range file, settings file or
+// amount is generated and then damaged: cut, doubled, shuffled, filled with odd characters, re-encoded, inflated. The
+// same seed always gives the same inputs.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,8 +15,8 @@
 
 namespace quillon {
 
-/// How many random inputs a test takes, given its share of all in hundredths. There are 300 of them by default, and as
-/// many as QUILLON_BAD_INPUTS in the environment says if it is set.
+/// The number of random inputs for a test with this percentage of all. By default all are 300; QUILLON_BAD_INPUTS in
+/// the environment sets another number.
 [[nodiscard]] int RandomInputs(int share);
 
 class BadInputs {
@@ -27,14 +27,14 @@ class BadInputs {
   [[nodiscard]] std::string RangeFile();
   [[nodiscard]] std::string SettingsFile();
 
-  /// UTF-8, more or less: the text of an amount box, good in one of two.
+  /// Roughly UTF-8: the text of an amount box, valid half the time.
   [[nodiscard]] std::string BoxText();
 
   /// 0 to `count` - 1.
   [[nodiscard]] std::size_t Below(std::size_t count);
 
  private:
-  // Where a piece of a text begins, and how long it is.
+  // The start and length of a piece of text.
   struct Stretch {
     std::size_t begin;
     std::size_t length;
@@ -53,10 +53,10 @@ class BadInputs {
   std::mt19937_64 random_;
 };
 
-/// A text as some editors save it, with two bytes for each character and a byte order mark.
+/// A text as some editors save it, with two bytes for each character and a byte-order mark.
 [[nodiscard]] std::string InWideCharacters(std::string_view text);
 
-/// What became of the inputs of one kind, printed at the end: "120 range files: 93 read, ...".
+/// Counts the outcomes for inputs of one kind and prints them at the end: "120 range files: 93 read, ...".
 class Tally {
  public:
   explicit Tally(std::string_view kind) : kind_(kind) {}
@@ -74,10 +74,10 @@ class Tally {
   std::map<std::string, int> fates_;
 };
 
-/// The companion's table in CSV has the figures of the oracle.
+/// Checks that the companion's CSV has the figures of the oracle.
 void ExpectFigures(const std::string& csv, const plain::Result& result, plain::Mode mode);
 
-/// The input as a test can print it: unprintable characters as numbers, and only its first part.
+/// A printable form of the input: unprintable characters as numbers, and only its first part.
 [[nodiscard]] std::string Shown(std::string_view input);
 
 }  // namespace quillon

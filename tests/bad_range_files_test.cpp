@@ -1,5 +1,4 @@
-// Range files that are not ranges, that are broken, or that somebody has edited by hand, odd ones and random ones. The
-// companion must read each as the oracle does.
+// Odd and random range files: not ranges, broken, or edited by hand. The companion must read each as the oracle does.
 
 #include <algorithm>
 #include <filesystem>
@@ -24,9 +23,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-constexpr const char* kNoRange = "";  // in place of a listing
+constexpr const char* kNoRange = "";  // instead of a listing
 
-// The text of a range whose aces have any weight, and whose other classes have none.
+// A range text with this weight for the aces and 0 for all other classes.
 std::string AcesAt(const std::string& weight) {
   return "AA (" + weight + ")" + TextWith("").substr("AA (0)"s.size());
 }
@@ -47,7 +46,7 @@ std::string Reversed(const std::string& text) {
   return reversed;
 }
 
-// No ranges.
+// Not ranges.
 const std::vector<std::string> kOtherFiles = {"",
                                               "\r\n",
                                               "\r\n\r\n",
@@ -69,14 +68,14 @@ const std::vector<std::string> kOtherFiles = {"",
                                               std::string(1000, ' '),
                                               std::string(1000, ')')};
 
-// Weights of the aces in a file that is otherwise good.
+// Weights of the aces in an otherwise valid file.
 const std::vector<std::string> kWeights = Split(
     "1.0|1e0|+1|  1  |1x|1,5|1 of 2|1e+|1.|0001|1.00000000000000000001|1(0|0.50|.5|5e-1|0.5.5| 0 . 5 "
     "|50%|0,5|\xBD|\xB9|"
     "0.25|2|-1|--1|1e400|1e-400|1 0||.|NaN|inf|0x1|TRUE|\t1|\r\n1|(1",
     "|");
 
-// Ranges in another shape than the program gives them.
+// Ranges in a different form from the program's.
 const std::vector<std::string> kOddShapes = {"AA (1)",
                                              "AA (1), AKs (1), ",
                                              "AA (0)",
@@ -108,7 +107,7 @@ const std::vector<std::string> kOddShapes = {"AA (1)",
                                              AcesAt("1") + std::string(1U << 20U, ')'),
                                              "\0"s + AcesAt("1")};
 
-// What the companion says of each range: its listing, or kNoRange.
+// What the companion lists for each range, or kNoRange.
 using Listings = std::map<std::string, std::string>;
 
 Listings ListingsIn(const ProgramFolder& folder) {
@@ -199,14 +198,14 @@ plain::Run RunOn(const std::string& command, const std::string& file, const std:
   return {mode, "150", "50", "300", file, callingFile};
 }
 
-// What is said of a range's file before the run.
+// The message about a range's file before the run.
 std::string PointedOut(const TemporaryProgram& program, const std::string& name, const std::string& file) {
   if (plain::ListingOf(file)) return {};
   return "The range \"" + name + "\" cannot be read: " + program.RangeFile(name + ".txt").string() +
          " is missing, empty or no range file.\n";
 }
 
-/// What became of it.
+/// Returns the outcome.
 std::string ExpectRunAsThePlainOne(const std::string& command, const std::string& file,
                                    const std::string& callingFile) {
   SCOPED_TRACE(command + ": " + Shown(file) + ", " + Shown(callingFile));
@@ -239,7 +238,7 @@ TEST(BadRangeFiles, GoThroughARunOrEndItAsInThePlainOne) {
           Replaced(AcesAt("1e308"), "KK (0)", "KK (1e308)"), AcesAt("0.25"), AcesAt("1000"), AcesAt("1e-300")})
       tally.Count(ExpectRunAsThePlainOne(command, file, file));
   }
-  constexpr int kFilesARun = 10;  // of all that are read; a run takes longer
+  constexpr int kFilesARun = 10;  // one in this many; a run takes longer
   BadInputs inputs(2);
   for (int left = RandomInputs(40) / kFilesARun; left > 0 && !HasFailure(); --left) {
     const std::string file = inputs.RangeFile();

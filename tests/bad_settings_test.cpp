@@ -1,5 +1,5 @@
-// Settings files that are broken, or that somebody has edited by hand, odd ones and random ones, given to the main
-// window as it starts. It must show what the oracle reads, store what it shows, and leave the rest of the file alone.
+// Odd and random settings files, broken or edited by hand, for the main window's start. It must show what the oracle
+// reads, store what it shows, and leave the rest of the file unchanged.
 
 #include <QCheckBox>
 #include <algorithm>
@@ -36,7 +36,7 @@ struct Start {
   int Fault = 0;
 };
 
-// "0=100; 4=50; odds 3 : 1, 25%; at 100,50; upgrade 1", or "error 380" where the start ends in a run-time error.
+// "0=100; 4=50; odds 3 : 1, 25%; at 100,50; upgrade 1", or "error 380" if the start ends in a run-time error.
 std::string TextOf(const Start& start) {
   if (start.Fault != 0) return "error " + std::to_string(start.Fault);
   std::string text;
@@ -47,11 +47,11 @@ std::string TextOf(const Start& start) {
          "; upgrade " + std::to_string(start.Upgrade);
 }
 
-// The screen of the tests is 1400 by 1000 pixels, and the window 1020 by 603.
+// The tests' screen is 1400 by 1000 pixels, the window 1020 by 603.
 constexpr int kWidth = 21000;  // twips
 constexpr int kHeight = 15000;
 constexpr int kCentredLeft = 190;
-constexpr int kCentredTop = 199;  // half a pixel goes up
+constexpr int kCentredTop = 199;  // halves round up
 
 int PixelOf(const std::string& text, int screenLength) {
   const double twips = plain::LeadingNumber(text);
@@ -112,11 +112,11 @@ Start StartOf(MainStage& stage) {
 
 // ---- what is stored
 
-// How many lines of `before` are not in `after`, where the others are in the same order: all but those of the longest
-// common row of lines. The last line may have gained its line end.
+// The number of lines of `before` missing from `after`, by the longest common subsequence. The last line may have
+// gained its line end.
 std::size_t LostLines(const std::string& before, const std::string& after) {
   const std::vector<std::string> kept = Lines(after);
-  std::vector<std::size_t> common(kept.size() + 1);  // with the first so many lines of `after`
+  std::vector<std::size_t> common(kept.size() + 1);  // with this many first lines of `after`
   for (const std::string& line : Lines(before)) {
     std::size_t diagonal = 0;
     for (std::size_t i = 0; i < kept.size(); ++i) {
@@ -128,7 +128,7 @@ std::size_t LostLines(const std::string& before, const std::string& after) {
   return Lines(before).size() - common.back();
 }
 
-// A start writes nothing but the switch, which it sets to what it has read, and that only where it has changed by it.
+// A start writes only the switch, as it has read it, and only if that changes the text.
 void ExpectUntouched(const std::string& before, const std::string& after, const Start& start) {
   if (start.Fault != 0 || start.Upgrade == 0) {
     EXPECT_EQ(after, before);
@@ -139,12 +139,12 @@ void ExpectUntouched(const std::string& before, const std::string& after, const 
   EXPECT_EQ(Lines(before).size(), Lines(after).size());
 }
 
-// A value is one line, and what is stored of it ends with that.
+// A value is one line, so it is cut at its first line end.
 std::string Stored(const std::string& value) {
   return value.substr(0, value.find_first_of("\r\n"));
 }
 
-// Closing the window stores what it shows, and takes nothing else from the file.
+// Closing the window stores what it shows, and removes nothing else from the file.
 void ExpectStored(MainStage& stage, const std::string& before, const Start& start) {
   stage.Form.close();
   EXPECT_EQ(stage.Ends, 1);
@@ -167,7 +167,7 @@ void ExpectStored(MainStage& stage, const std::string& before, const Start& star
   EXPECT_LE(LostLines(before, after), kStoredKeys) << Shown(after);
 }
 
-/// What became of it.
+/// Returns the outcome.
 std::string ExpectAsThePlainReader(const std::string& file) {
   SCOPED_TRACE(Shown(file));
   MainStage stage;
@@ -208,7 +208,7 @@ const std::vector<std::string> kOddFiles = {"",
                                             "[Main]\r\nLeft=150\r\n",
                                             "[Main]\r\nLeft=150\r\nTop=\r\n"};
 
-// What follows a heading.
+// The text after a heading.
 struct OddValues {
   std::string Start;
   std::vector<std::string> Rests;

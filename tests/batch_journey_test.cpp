@@ -1,5 +1,5 @@
-// Batches of the real companion: that they take no more memory the longer they are, and that Ctrl+C ends them between
-// two lines. QUILLON_BATCH_LINES in the environment makes the first longer than by default.
+// Batches of the real companion: memory use does not grow with their length, and Ctrl+C ends them between two lines.
+// QUILLON_BATCH_LINES in the environment makes the first test longer.
 
 #include <algorithm>
 #include <chrono>
@@ -54,7 +54,7 @@ bool Waited(const std::function<bool()>& done) {
 
 class BatchJourney : public testing::Test {
  protected:
-  // A batch of the lines in a file, narrowed so that what is kept of its output is short.
+  // A batch of the lines in a file, with few fields, so that the kept output is short.
   [[nodiscard]] ProgramRun Prepare(const std::filesystem::path& file) const {
     ProgramRun run;
     run.Program = QUILLON_CLI_PROGRAM;
@@ -68,13 +68,13 @@ class BatchJourney : public testing::Test {
   TemporaryFolder folder_;
 };
 
-// A batch whose lines come one by one, from a pipe with a name.
+// A batch whose lines come one by one, through a named pipe.
 class OpenBatch {
  public:
   OpenBatch(const std::filesystem::path& pipe, const ProgramRun& run) {
     EXPECT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the call is so
-    input_ = open(pipe.c_str(), O_RDWR | O_CLOEXEC);  // both ways, so that it opens before anyone reads
+    input_ = open(pipe.c_str(), O_RDWR | O_CLOEXEC);  // both ways, so that it opens without a reader
     program_.emplace(run);
   }
   OpenBatch(const OpenBatch&) = delete;
@@ -99,7 +99,7 @@ class OpenBatch {
     });
   }
 
-  // The most that it has had in memory so far, in KiB.
+  // Its peak memory so far, in KiB.
   [[nodiscard]] int PeakMemory() const {
     std::ifstream status("/proc/" + std::to_string(program_->Id()) + "/status");
     for (std::string line; std::getline(status, line);) {
@@ -157,7 +157,7 @@ TEST_F(BatchJourney, EndsOnCtrlCWhileItWaitsInTheMiddleOfALine) {
 
 // ---- in parts
 
-// The lines of the guide's code that begin with one of these words, each without its indentation.
+// The lines of the guide's code that begin with one of these words, without indentation.
 std::vector<std::string> LinesOfTheGuide(const std::vector<std::string>& starts) {
   std::vector<std::string> found;
   for (const std::string& line : Lines(ReadAllBytes(QUILLON_GUIDE))) {
@@ -168,8 +168,8 @@ std::vector<std::string> LinesOfTheGuide(const std::vector<std::string>& starts)
   return found;
 }
 
-// A shell in which the guide's commands can be run as they are written: the program is found by its name, and what
-// others keep of their own goes into the same folder.
+// A shell for running the guide's commands as written: the program is in the PATH, and other programs' own files go
+// into the same folder.
 class GuideShell {
  public:
   explicit GuideShell(std::filesystem::path folder) : folder_(std::move(folder)) {}
@@ -189,7 +189,7 @@ class GuideShell {
   std::filesystem::path folder_;
 };
 
-// The answers of a batch of refused and other lines, but for the number that a refused line has in its part.
+// The answers of a batch without the line numbers of refused lines, which depend on the part.
 std::string WithoutLineNumbers(std::string answers) {
   constexpr std::string_view kNumber = "\"line\":";
   for (std::size_t at = 0; (at = answers.find(kNumber, at)) != std::string::npos;) {
@@ -208,7 +208,7 @@ TEST_F(BatchJourney, InPartsSaysWhatOneBatchSays) {
   const std::string array = "rm -f part-*; for SLURM_ARRAY_TASK_ID in 1 2 3 4 5 6 7 8; do " + commands[1] + "; done; " +
                             "cat part-[1-8].jsonl > results.jsonl";
   constexpr int kCount = 120;
-  const std::string spaces(800, ' ');  // so that few lines are more than the block of the guide
+  const std::string spaces(800, ' ');  // so that a few lines exceed the guide's block size
   for (const bool refused : {false, true}) {
     std::ofstream lines(File(), std::ios::trunc);
     for (int id = 0; id < kCount; ++id)

@@ -1,5 +1,5 @@
-// A clipboard manager for tests: it says "ready", and when a program asks it to take over what was copied there, it
-// prints that as the kind of data it is called with, such as "UTF8_STRING". Called with "silent" it never answers.
+// A clipboard manager for tests: it prints "ready", and when a program asks it to take over the clipboard, it prints
+// the contents as the data type of its argument, such as "UTF8_STRING". With the argument "silent" it never answers.
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,8 +1,8 @@
-// Whole runs of the companion as its user sees them: the real program, put into a folder with the example ranges as
-// ./run does it, started from somewhere else.
+// Whole runs of the companion as its user sees them: the real program in a folder with the example ranges, as ./run
+// sets it up, started from another folder.
 //
-// The reports in tests/golden are what it must print, to the last character. After a change that should change
-// them, write them anew, and look at the difference before it is committed:
+// It must print the reports in tests/golden to the last character. After an intentional change, rewrite them and check
+// the diff before committing:
 //
 //     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
 
@@ -40,7 +40,7 @@ const Arguments kRaise = {"raise",        "--pot",           "150",           "-
                           "Button Shove", "--calling-range", "Big Blind Call"};
 const Arguments kEquity = {"equity", "--range", "Tight Open"};
 
-// A user's home with the program in one folder of it, and another folder from which it is started.
+// A user's home with the program in one folder, started from another.
 class Household {
  public:
   Household() {
@@ -78,7 +78,7 @@ class Household {
 
 // ---- golden reports
 
-// The files hold the web host that is built in unless another one is chosen.
+// The files contain the default web host.
 std::string WithHomeAddress(std::string text) {
   constexpr std::string_view kUsual = "http://www.quillon.example/quillon/";
   const std::size_t at = text.find(kUsual);
@@ -110,7 +110,7 @@ TEST(CompanionJourney, PrintsTheGoldenReportsToTheLastCharacter) {
 
 // ---- examples
 
-// The words of a command line; a pair of quotes keeps spaces together.
+// The words of a command line; double quotes keep spaces together.
 Arguments Words(const std::string& line) {
   Arguments words;
   bool quoted = false;
@@ -138,7 +138,7 @@ TEST(CompanionJourney, DoesWhatTheHelpOfEachCommandGivesAsItsExample) {
   }
 }
 
-// A command line that the guide shows, and what it shows of its output.
+// A command line in the guide, and the output that it shows.
 struct GuideSample {
   std::string Command;
   std::vector<std::string> Shown{};
@@ -205,7 +205,7 @@ TEST(CompanionJourney, LooksInAFolderNamedFromTheCurrentOne) {
 
 // ---- installed
 
-// A household whose program came as a package, with the data of a user in a folder of its own.
+// A household with the program installed as a package, and its user's data in a separate folder.
 class InstalledHousehold : public Household {
  public:
   InstalledHousehold() { std::ofstream(ProgramFolder() / "installed") << ".\n"; }
@@ -260,7 +260,7 @@ struct StatusCase {
   const char* rule;
   Arguments arguments;
   int status;
-  const char* errors;  // how standard error begins
+  const char* errors;  // start of standard error
 };
 
 std::vector<StatusCase> Statuses() {
@@ -296,7 +296,7 @@ TEST(CompanionJourney, EndsWithTheStatusThatGoesWithItsMessage) {
 TEST(CompanionJourney, LeavesEveryFileAlone) {
   const Household household;
   const auto before = household.Inventory();
-  ASSERT_GE(before.size(), 8U);  // the two folders, the program, the range folder and what is in it
+  ASSERT_GE(before.size(), 8U);  // the two folders, the program, the range folder and its files
   for (const Arguments* const command : {&kCall, &kRaise, &kEquity})
     EXPECT_EQ(household.Run(*command).Status, 0);
   for (const char* format : {"2+2", "table", "json", "csv"})
@@ -335,7 +335,7 @@ TEST(CompanionJourney, AnAnswerNeedsStandardOutputAndNoStandardInput) {
   EXPECT_THAT(outcome.Errors, HasSubstr("standard output"));
 }
 
-// Whatever it opens meanwhile must not take the place of the stream.
+// A file that it opens must not take the stream's place.
 TEST(CompanionJourney, FailsOverStandardInputThatIsNotThere) {
   const Household household;
   for (const Arguments& arguments : {Arguments{"batch"}, Arguments{"notation", "--hands", "-"}}) {
@@ -370,7 +370,7 @@ constexpr std::string_view kAnyFrame = "\r[";
 constexpr std::string_view kClearLine = "\r\x1b[K";
 constexpr const char* kCellColor = "\x1b[48;2;";
 
-// A run that takes longer than half a second shows its progress first; here it seldom does.
+// A run of more than half a second first shows its progress; here that is rare.
 std::string WithoutProgress(const std::string& terminal) {
   if (!terminal.starts_with(kAnyFrame)) return terminal;
   const std::size_t end = terminal.rfind(kClearLine);

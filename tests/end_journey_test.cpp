@@ -1,4 +1,4 @@
-// The ways in which the program ends besides its close box, and what is still there afterwards.
+// The ways in which the program ends other than its close box, and what remains afterwards.
 
 #include <QByteArray>
 #include <QImage>
@@ -23,7 +23,7 @@ class EndJourney : public WindowJourney {
 
   void Send(int signal) { ASSERT_EQ(kill(Session().Running().Id(), signal), 0); }
 
-  /// A clipboard manager, which is at work when this returns.
+  /// A clipboard manager that is already running when this returns.
   [[nodiscard]] std::unique_ptr<RunningProgram> StartManager(const std::string& kind) const {
     auto manager = Session().StartBeside(QUILLON_CLIPBOARD_MANAGER_PROGRAM, {kind});
     Session().WaitUntil("there is a clipboard manager", [&] { return manager->Output() == "ready\n"; });
@@ -31,7 +31,7 @@ class EndJourney : public WindowJourney {
   }
 };
 
-// The other signals are heard likewise, which has tests without a window.
+// The other signals work likewise and are tested without a window.
 TEST_F(EndJourney, SignalClosesTheWindowAsItsCloseBoxDoes) {
   StartProgram();
   Click("lblNav(0)");
@@ -66,7 +66,7 @@ TEST_F(EndJourney, CopiedTextIsHandedToTheClipboardManager) {
   StartProgram();
   Click("lblNav(0)");
   Fill(0, "735");
-  EXPECT_EQ(BoxText(0), "735");  // by way of the clipboard
+  EXPECT_EQ(BoxText(0), "735");  // through the clipboard
   EXPECT_EQ(CloseProgram(), 0);
   EXPECT_EQ(manager->Output(), "ready\n735");
 }

@@ -1,5 +1,5 @@
-// A new player's first minutes, with two questions that the guide begins with: is A7o a shove for 12 big blinds, and up
-// to where; and what should he call with?
+// A new player's first minutes, with two questions from the start of the guide: is A7o a shove for 12 big blinds, and
+// up to what stack; and what should he call with?
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ class FirstMinutes : public WindowJourney {
     Session().PutMouseAside();
   }
 
-  /// Down from the first entry, which is blank.
+  /// The number of steps down from the first entry, which is blank.
   [[nodiscard]] std::size_t EntryOf(const std::string& range) const {
     const std::vector<std::string> files = RangeFolderEntries(Session().Program());
     return static_cast<std::size_t>(std::ranges::find(files, range + ".txt") - files.begin()) + 1;
@@ -41,7 +41,7 @@ class FirstMinutes : public WindowJourney {
     Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
   }
 
-  /// What he should call with was saved under the name that is offered.
+  /// Saves the calling range under the proposed name.
   void SaveHisRange() const {
     const Window name = Session().WaitForWindow("Pick a Name");
     Answer(name, {"Return"});
@@ -77,7 +77,7 @@ TEST_F(FirstMinutes, AnswerBothQuestionsByKeys) {
   Session().Press({"ctrl+1"});
   EXPECT_THAT(Session().CopyAllText(), HasSubstr("A7o\tup to\t47.14"));
 
-  // Past the amounts, the box under them and both grids.
+  // Past the amounts, the box below them and both grids.
   Session().Press({"ctrl+4"});
   static_cast<void>(Session().StillPicture(study.Place));
   PressTimes("Tab", 6);

@@ -1,4 +1,4 @@
-// From the first start in an empty folder to the next one, and starts that go wrong.
+// From the first start in an empty folder to the next one, and failing starts.
 
 #include <QUrl>
 #include <filesystem>
@@ -110,7 +110,7 @@ TEST_F(StartJourney, NextStartFindsTheBoxesAndThePlaceAsTheyWere) {
   Fill(1, "abc");
   Click("lblNav(1)");
   Fill(2, "=735+220-178");
-  EXPECT_EQ(BoxText(2), "=735+220-178");  // Windows would close the window before it has read what was typed last.
+  EXPECT_EQ(BoxText(2), "=735+220-178");  // on Windows the window could close before reading the last keys
   Session().MoveWindow(Main(), {75, 120});
   const QPoint place = Session().FindWindow(kMainTitle).value().Place.topLeft();
   EXPECT_EQ(CloseProgram(), 0);
@@ -202,7 +202,7 @@ TEST_F(StartJourney, FolderWhoseNameIsNotUtf8IsTheProgramsAllTheSame) {
   Answer(Session().WaitForWindow("Open Now?"), {"alt+n"});
   EXPECT_TRUE(fs::exists(grids / "shove"));
 
-  // The folder and the name are those of before.
+  // The dialog proposes the same folder and name.
   Click("imgSave");
   const Window second = Session().WaitForWindow("Save Expected Value Grid");
   fs::remove(grids / "shove");

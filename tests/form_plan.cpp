@@ -17,7 +17,7 @@ const ControlRow* FindRow(const ControlTable& table, std::string_view objectName
   return row == table.Rows.end() ? nullptr : &*row;
 }
 
-// All screens keep the place of their rows but this one, which moves down as the program starts.
+// Every screen keeps its row's place except this one, which moves down at start.
 TwipRect PlaceInUse(const ControlRow& row) {
   TwipRect place = row.Place;
   if (row.Name == "frameAboutContent") {

@@ -1,7 +1,7 @@
 #pragma once
 
-// Where the controls of a form are, computed from the tables that it is built from. A journey looks up here what it
-// clicks and what it reads off the screen; nothing is asked of the program.
+// Where the controls of a form are, computed from its tables. A journey uses it to click controls and read them off the
+// screen, without asking the program.
 
 #include <QPoint>
 #include <QRect>
@@ -16,11 +16,11 @@ namespace quillon {
 
 class FormPlan {
  public:
-  /// A form with a card grid has all of its cells, on a screen as well as on a dialog.
+  /// A form with a card grid gets all of its cells.
   explicit FormPlan(std::span<const ControlTable> tables);
 
   /// The place of a control, such as "txtNumber(2)" or "lblCards(168)", within the form: pixels at 100%.
-  /// std::out_of_range for a name that is not there.
+  /// std::out_of_range for an unknown name.
   [[nodiscard]] QRect Place(std::string_view objectName) const;
 
  private:

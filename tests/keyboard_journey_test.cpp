@@ -32,7 +32,7 @@ class KeyboardJourney : public WindowJourney {
   void Press(const std::vector<std::string>& keys) const { Session().Press(keys); }
   void PressTimes(const std::string& key, std::size_t times) const { Press(std::vector<std::string>(times, key)); }
 
-  /// In the list that has the keyboard. Its first entry is blank.
+  /// In the focused list. Its first entry is blank.
   void ChooseByKeys(const std::string& range) const {
     const std::vector<std::string> files = RangeFolderEntries(Session().Program());
     const auto wanted = std::ranges::find(files, range + ".txt");
@@ -46,7 +46,7 @@ class KeyboardJourney : public WindowJourney {
     Session().WaitUntil("the grid shows the colours of the analysis", [&] { return CellColors() == expected; });
   }
 
-  /// Whether the dark line of the focus mark goes round the whole cell.
+  /// Whether the dark line of the focus mark surrounds the whole cell.
   [[nodiscard]] bool IsMarked(const Window& window, const FormPlan& plan, std::string_view hand) const {
     const int out = qRound(Session().Screen().Scale);
     const QRect line =

@@ -1,4 +1,4 @@
-// A player who paints ranges with the mouse, by the menus of the grids and by dropping a text, and takes results along.
+// A player who paints ranges with the mouse, by the grids' menus and by dropping a text, and exports results.
 
 #include <QImage>
 #include <array>
@@ -26,7 +26,7 @@ class PaintingJourney : public WindowJourney {
 
   void Press(const std::vector<std::string>& keys) const { Session().Press(keys); }
 
-  /// Waits until a grid shows these hands in full and those at half weight.
+  /// Waits until a grid shows these hands in full and these at half weight.
   void WaitForHands(const Window& window, const FormPlan& plan, const std::string& full,
                     const std::string& half = {}) const {
     GridColorTable wanted = UnselectedCells();
@@ -45,7 +45,7 @@ class PaintingJourney : public WindowJourney {
   [[nodiscard]] Window MenuOn(const Window& window, const FormPlan& plan, std::string_view hand) const {
     return Session().OpenedBy([&] { Session().RightClickAt(Cell(window, plan, hand).center()); });
   }
-  /// Clicks into an open menu, so many entries below its first, with so many lines between groups above that one.
+  /// Clicks the entry at this index in an open menu, with this many separators above it.
   void ClickEntry(const Window& menu, int entry, int linesAbove) const {
     const double scale = Session().Screen().Scale;
     constexpr double kEntry = 22;
@@ -65,7 +65,7 @@ TEST_F(LargePaintingJourney, ByTheMouseInBothDialogs) {
   const auto pixels = [this](int length) { return qRound(length * Session().Screen().Scale); };
   Click("lblNav(2)");
   Click("lblNewRange(3)");
-  // The two grids beside each other, above the main window.
+  // The two grids side by side, above the main window.
   Session().MoveWindow(Session().WaitForWindow(kNewRangeTitle), {pixels(840), pixels(60)});
   const Window newRange = Session().WaitForWindow(kNewRangeTitle);
   Click("lblRangeManager");
@@ -90,7 +90,7 @@ TEST_F(LargePaintingJourney, ByTheMouseInBothDialogs) {
   WaitForHands(manager, ManagerPlan(), "AA", "AKs");
   EXPECT_EQ(Session().CopiedBy([&] { choose(0, 0); }), "AA,AKs:0.5");
 
-  // The summary of the one dialog, dragged on to the grid of the other.
+  // Drags the summary of one dialog to the grid of the other.
   const QRect summary = OnScreen(manager, ManagerPlan(), "txtRangeAbbr");
   Session().ClickAt(summary.center());
   Press({"ctrl+a"});

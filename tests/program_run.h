@@ -1,8 +1,8 @@
 #pragma once
 
-// For journeys: starts a real program in a process of its own, waits for its end, and keeps what it said. Each of its
-// standard streams can be kept, led to a terminal, to a disk that is full, or not be there at all. On Windows streams
-// are kept or not there, and no program is held up.
+// Starts a real program in a process of its own, waits for its end, and keeps its output. Each standard stream can be
+// captured, connected to a terminal or to a full disk, or missing. On Windows streams are captured or missing, and no
+// program can be suspended.
 
 #include <chrono>
 #include <cstdint>
@@ -22,26 +22,26 @@ struct ProgramRun {
   std::vector<std::string> Arguments;
   std::filesystem::path CurrentFolder = "/";
 
-  /// What is set on top of the test's own environment, from which COLORTERM, NO_COLOR and TERM are taken out.
+  /// Added to the test's own environment, from which COLORTERM, NO_COLOR and TERM are removed.
   std::map<std::string, std::string> Environment;
 
   StreamEnd Output = StreamEnd::kKept;
   StreamEnd Errors = StreamEnd::kKept;
-  bool InputClosed = false;  // otherwise standard input is there and empty
+  bool InputClosed = false;  // otherwise standard input is open and empty
 };
 
 struct ProgramOutcome {
-  int Status = -1;  // the exit status; 128 and the signal's number where a signal ended the program
+  int Status = -1;  // the exit status; 128 plus the signal's number if a signal ended the program
   std::string Output;
   std::string Errors;
-  std::string Terminal;  // what came to the terminal by either stream, in that order
+  std::string Terminal;  // what either stream wrote to the terminal, in order
 };
 
-/// Runs the program to its end. std::system_error if it cannot be started. Not for endless output:
-/// nothing limits what is kept.
+/// Runs the program to its end. std::system_error if it cannot be started. Not for endless output, since everything is
+/// kept.
 [[nodiscard]] ProgramOutcome RunProgram(const ProgramRun& run);
 
-/// A program that runs beside the test, and is killed with this object if it still does. Its streams are not terminals.
+/// A program running next to the test, killed with this object. Its streams are not terminals.
 class RunningProgram {
  public:
   /// std::system_error if it cannot be started.
@@ -52,18 +52,17 @@ class RunningProgram {
   RunningProgram& operator=(RunningProgram&&) = delete;
   ~RunningProgram();
 
-  /// Its number, for signals.
+  /// Its process number, for signals.
   [[nodiscard]] int Id() const;
 
-  /// What it has said so far.
+  /// Its output so far.
   [[nodiscard]] std::string Output() const;
   [[nodiscard]] std::string Errors() const;
 
-  /// As ProgramOutcome::Status, nothing while it runs.
+  /// As ProgramOutcome::Status; nothing while it runs.
   [[nodiscard]] std::optional<int> Status();
 
-  /// Stops it, and lets it continue. What it is sent meanwhile reaches it then. It is stopped when the first of them
-  /// returns.
+  /// Suspends it, and resumes it. Signals and events sent meanwhile reach it then. HoldUp returns once it is suspended.
   void HoldUp();
   void LetGoOn();
 

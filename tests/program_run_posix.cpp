@@ -44,7 +44,7 @@ class Descriptor {
   int number_;
 };
 
-// A pseudo terminal that passes bytes on as they are: no carriage returns are added to line feeds.
+// A pseudo terminal that passes bytes unchanged: no carriage returns are added to line feeds.
 class PseudoTerminal {
  public:
   PseudoTerminal() : PseudoTerminal(Open()) {}
@@ -56,7 +56,7 @@ class PseudoTerminal {
     programSide_.Close();
     std::string text;
     std::array<char, 4096> buffer{};
-    // The end shows as a failure (EIO), not as an end of file.
+    // The end is reported as a failure (EIO), not as an end of file.
     for (ssize_t size = 0; (size = read(ownSide_.Number(), buffer.data(), buffer.size())) > 0;)
       text.append(buffer.data(), static_cast<std::size_t>(size));
     return text;
@@ -80,7 +80,7 @@ class PseudoTerminal {
   Descriptor programSide_;
 };
 
-// A file in memory that takes what a stream is given.
+// A memory file that captures a stream.
 class KeptText {
  public:
   KeptText() : file_(memfd_create("kept", MFD_CLOEXEC)) {}
@@ -98,13 +98,13 @@ class KeptText {
   Descriptor file_;
 };
 
-// What happens to the new process before its program starts.
+// What happens in the new process before its program starts.
 class Preparation {
  public:
   Preparation() {
     Demand(posix_spawn_file_actions_init(&actions_) == 0, "posix_spawn_file_actions_init");
     Demand(posix_spawnattr_init(&attributes_) == 0, "posix_spawnattr_init");
-    // Tests may run in the background, where Ctrl+C is ignored; the program is started as in the foreground.
+    // Tests may run in the background, where Ctrl+C is ignored; the program starts as in the foreground.
     sigset_t interrupt;
     sigemptyset(&interrupt);
     sigaddset(&interrupt, SIGINT);
@@ -172,7 +172,7 @@ std::vector<std::string> EnvironmentOf(const ProgramRun& run) {
   return entries;
 }
 
-// The form in which the system takes a list of texts.
+// A list of texts as the system calls expect it.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
   std::vector<char*> pointers;
   pointers.reserve(texts.size() + 1);
@@ -229,7 +229,7 @@ ProgramOutcome RunProgram(const ProgramRun& run) {
 
   ProgramOutcome outcome;
   const pid_t process = Start(run, preparation);
-  // Read while it runs: a terminal that nobody reads blocks the program.
+  // Read during the run: a terminal that nobody reads blocks the program.
   if (terminal) outcome.Terminal = terminal->ReadToEnd();
   outcome.Status = WaitForEnd(process);
   outcome.Output = output.Text();

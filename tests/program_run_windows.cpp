@@ -13,8 +13,8 @@ void Demand(bool success, const char* call) {
   if (!success) throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), call);
 }
 
-// An argument in quotes, as programs take their command line apart: a quote in it, and the backslashes before one, each
-// with a backslash.
+// An argument in quotes, as programs parse their command line: a quote in it, and the backslashes before one, are each
+// escaped by a backslash.
 std::wstring InQuotes(const std::wstring& argument) {
   std::wstring text = L"\"";
   std::size_t backslashes = 0;
@@ -26,7 +26,7 @@ std::wstring InQuotes(const std::wstring& argument) {
   return text.append(backslashes, L'\\') + L'"';
 }
 
-// A file that takes what a stream is given.
+// A file that captures a stream.
 HANDLE OpenKept(const std::filesystem::path& path) {
   SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, &inherited,

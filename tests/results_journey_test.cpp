@@ -1,4 +1,4 @@
-// What a player does with ranges and results: a range painted by hand, and the grid as a picture.
+// A player's work with ranges and results: a range painted by hand, and the grid as a picture.
 
 #include <QImage>
 #include <QUrl>
@@ -70,7 +70,7 @@ class GridImageJourney : public ResultsJourney {
   void ExpectPictureOfTheGrid(const fs::path& file) const {
     const QImage image = QImage(QString::fromStdString(file.string()), "BMP").convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(image.size(), QSize(409, 521) * Session().Screen().Scale);
-    // What lay over the grid to the last may still be on its way from the screen.
+    // What covered the grid may not have left the screen yet.
     Session().WaitUntil("the screen shows what is in the file", [&] { return Look("GridContainer") == image; });
   }
 };

@@ -1,5 +1,5 @@
 // Saving while processes are killed, and while several save at once. QUILLON_KILLS in the environment makes the first
-// longer than by default.
+// test longer.
 
 #include <chrono>
 #include <cstdlib>
@@ -93,7 +93,7 @@ void MakeOld(const fs::path& folder) {
   }
 }
 
-// When the range folder was changed last: each range that is saved or renamed changes it.
+// When the range folder was last changed: saving or renaming a range changes it.
 fs::file_time_type LastChange(const ProgramFolder& folder) {
   return fs::last_write_time(RangeFolderPath(folder));
 }
@@ -104,8 +104,8 @@ void WaitUntil(const std::function<bool()>& happened) {
     std::this_thread::sleep_for(std::chrono::microseconds(200));
 }
 
-// Waits for the loop's first change; the first loop of all also stores a setting, which comes late in a round. A
-// process may take longer to start on a busy machine than a round takes it then.
+// Waits for the loop's first change; the very first loop also stores a setting, which comes late in a round. On a busy
+// machine a process may take longer to start than a round takes.
 void WaitForWork(const ProgramFolder& folder, fs::file_time_type last, bool first) {
   WaitUntil([&] { return LastChange(folder) != last; });
   if (first) WaitUntil([&] { return fs::exists(SettingsFilePath(folder)); });

@@ -1,9 +1,8 @@
-// Saves and renames ranges, saves situations and stores settings, round upon round, in the manner of the program and
-// with its own routines:
+// Saves and renames ranges, saves situations and stores settings, round after round, with the program's own routines:
 //
 //   saving_loop FOLDER NAME ROUNDS
 //
-// ROUNDS 0 goes on until it is killed. A failure is told on standard error, with exit status 1.
+// With ROUNDS 0 until it is killed. A failure is written to standard error, with exit status 1.
 
 #include "tests/saving_loop.h"
 
@@ -23,7 +22,7 @@
 namespace quillon {
 namespace {
 
-// What this loop has stored in the round before must be there whatever others have stored since.
+// The setting that this loop stored in its last round must still be there, whatever others have stored since.
 void RequireEarlierSetting(const ProgramFolder& folder, const std::string& name, int round) {
   if (round == 0) return;
   const std::string key = LoopKey(name, (round - 1) % kKeysOfALoop);
@@ -31,7 +30,7 @@ void RequireEarlierSetting(const ProgramFolder& folder, const std::string& name,
   throw std::runtime_error("lost: the setting " + key + " of round " + std::to_string(round - 1));
 }
 
-// What Ctrl+S does, and Yes where there is one of that name.
+// What Ctrl+S does, with Yes if the name is taken.
 void SaveSituation(const ProgramFolder& folder, const std::string& name, int round) {
   RecordedInput inputs;
   RecordedMessages messages;

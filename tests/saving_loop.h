@@ -1,7 +1,7 @@
 #pragma once
 
-// What "tests/saving_loop.cpp" writes, so that "tests/saving_journey_test.cpp" can tell whether it is whole. Each
-// content is made of one number over and over, so a part of one and a part of another never make a third.
+// The files that "tests/saving_loop.cpp" writes, so that "tests/saving_journey_test.cpp" can check that they are whole.
+// Each consists of one number repeated, so parts of two never make a valid third.
 
 #include <array>
 #include <string>
@@ -14,10 +14,10 @@
 
 namespace quillon {
 
-/// The settings that each of several loops keeps for itself.
+/// The settings that each of several loops has for itself.
 inline constexpr int kKeysOfALoop = 5;
 
-/// The range, and the situation, that all loops save, beside one of their own under the loop's name, which is renamed
+/// The range and the situation that all loops save, besides one of their own under the loop's name, which is renamed
 /// back and forth between that and the name with this ending.
 inline constexpr std::string_view kSharedRange = "Shared";
 inline constexpr std::string_view kMovedEnd = " moved";

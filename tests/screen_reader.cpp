@@ -14,7 +14,7 @@ const QString kRegistry = QStringLiteral("org.a11y.atspi.Registry");
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString kEvents = QStringLiteral("org.a11y.atspi.Event.Object");
 
-// Of the bus's numbers of states.
+// The bus's numbers for states.
 constexpr unsigned kChecked = 4;
 constexpr unsigned kFocused = 12;
 constexpr unsigned kShowing = 25;
@@ -65,7 +65,7 @@ std::vector<Reference> References(const QVariant& list) {
 }  // namespace
 
 ScreenReader::ScreenReader(const std::string& sessionBus) : bus_(ConnectToAccessibilityBus(sessionBus)) {
-  // Programs tell only of what somebody has asked for.
+  // Programs only send events that somebody has registered for.
   for (const char* events : {"object:", "focus:"}) {
     Call(bus_, kRegistry, QStringLiteral("/org/a11y/atspi/registry"), kRegistry, QStringLiteral("RegisterEvent"),
          {QString::fromLatin1(events)});
@@ -93,7 +93,7 @@ void ScreenReader::Hear(const QDBusMessage& event) {
   }
   const bool tellsOfFocus = event.arguments().value(0).toString() == QStringLiteral("focused");
   if (tellsOfFocus && event.arguments().value(1).toInt() == 1) focused_ = event.path();
-  // Of its state a part may tell that it is hidden now.
+  // Its states are reported before it is hidden, too.
   const bool comesOrGoes =
       event.member() == QStringLiteral("StateChanged") || event.member() == QStringLiteral("ChildrenChanged");
   if (!comesOrGoes) speakers_.push_back(event.path());
@@ -204,7 +204,7 @@ ScreenReader::Part ScreenReader::Focused() const {
   return {focused_, RoleOf(focused_), Property(focused_, QStringLiteral("Name")).toString().toStdString()};
 }
 
-// Without waiting for the end of what it does: that may be a box that waits for an answer.
+// Without waiting for its end, which may be a box that waits for an answer.
 void ScreenReader::Press(const Part& part) const {
   QDBusMessage press = QDBusMessage::createMethodCall(program_, part.Path, QStringLiteral("org.a11y.atspi.Action"),
                                                       QStringLiteral("DoAction"));

@@ -1,8 +1,8 @@
 #pragma once
 
-// A client of the accessibility bus, which does what a screen reader does: it walks through the windows of the program,
-// asks what each part is, presses and checks, and hears what is announced. Parts are found by role and name among those
-// that show, as its user finds them.
+// A client of the accessibility bus that acts as a screen reader: it walks through the program's windows, asks what
+// each part is, presses and checks, and receives announcements. It finds visible parts by role and name, as its user
+// would.
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -20,23 +20,23 @@ class ScreenReader : public QObject {
   Q_OBJECT
 
  public:
-  /// By the session bus of that address, on which the accessibility bus is or is about to be. std::runtime_error where
+  /// Uses the session bus at that address, which has or will soon have the accessibility bus. std::runtime_error if
   /// there is none.
   explicit ScreenReader(const std::string& sessionBus);
 
-  /// One part of the program. The role is the bus's name for it, such as "check box".
+  /// A part of the program. The role is the bus's name for it, such as "check box".
   struct Part {
     QString Path;
     std::string Role;
     std::string Name;
   };
 
-  /// The program with that process; false until the bus knows it.
+  /// Finds the program with that process number; false until it is on the bus.
   [[nodiscard]] bool Meet(pid_t process);
 
-  /// The part that shows, nothing where there is none.
+  /// The visible part; nothing if there is none.
   [[nodiscard]] std::optional<Part> Find(std::string_view role, std::string_view name) const;
-  /// The same among all parts, those that are hidden, too.
+  /// The same among all parts, including hidden ones.
   [[nodiscard]] std::optional<Part> FindAnywhere(std::string_view role, std::string_view name) const;
 
   [[nodiscard]] std::string Description(const Part& part) const;
@@ -46,20 +46,20 @@ class ScreenReader : public QObject {
   [[nodiscard]] bool IsHalfChecked(const Part& part) const;
   [[nodiscard]] bool HasFocus(const Part& part) const;
 
-  /// Where it is on the screen.
+  /// Its place on the screen.
   [[nodiscard]] QRect PlaceOf(const Part& part) const;
 
-  /// The part that told last that it has the focus. An open menu is no part of any window, and only heard this way.
+  /// The part that last reported the focus. An open menu is not part of any window, and only found this way.
   [[nodiscard]] Part Focused() const;
 
-  /// Its first action, that of a click; nothing where it offers none.
+  /// Does its first action, a click; does nothing if it has none.
   void Press(const Part& part) const;
   void Write(const Part& part, std::string_view text) const;
   void GiveFocus(const Part& part) const;
 
-  /// What was announced since the last call.
+  /// The announcements since the last call.
   [[nodiscard]] std::vector<std::string> TakeAnnouncements();
-  /// The paths of the parts that have told of a change in themselves since the last call.
+  /// The paths of the parts that have reported a change since the last call.
   [[nodiscard]] std::vector<QString> TakeSpeakers();
   [[nodiscard]] bool Shows(const QString& path) const;
 

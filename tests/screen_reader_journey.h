@@ -1,6 +1,6 @@
 #pragma once
 
-// A journey with a screen reader in it: what the journeys share that hear the window, by way of the accessibility bus.
+// The base of the journeys with a screen reader, through the accessibility bus.
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -21,7 +21,7 @@ class ScreenReaderJourney : public WindowJourney {
   using Part = ScreenReader::Part;
 
   explicit ScreenReaderJourney(Desk desk = Desk{.IsHeard = true}) : WindowJourney(desk) {
-    // First, so that the registry is there for the program to enter.
+    // First, so that the registry exists before the program starts.
     reader_ = std::make_unique<ScreenReader>(Session().BusAddress());
     StartProgramWithRanges();
     Session().WaitUntil("the screen reader knows the program", [&] { return reader_->Meet(Session().Running().Id()); });
@@ -29,7 +29,7 @@ class ScreenReaderJourney : public WindowJourney {
 
   [[nodiscard]] ScreenReader& Reader() { return *reader_; }
 
-  /// The part, once it shows.
+  /// The part, once it is visible.
   [[nodiscard]] Part The(std::string_view role, std::string_view name) {
     std::optional<Part> part;
     const std::string what = "there is a " + std::string(role) + " called \"" + std::string(name) + "\"";
@@ -65,7 +65,7 @@ class ScreenReaderJourney : public WindowJourney {
   }
   [[nodiscard]] std::string Figures(const char* hand) { return Reader().Description(The("label", hand)); }
 
-  /// Runs to the end, which is announced as the situation's explanation.
+  /// A whole run, whose end is announced as the situation's explanation.
   void Analyze(std::int16_t button, const EnteredSituation& situation) {
     Press("push button", "Analyze");
     std::string expected = MakeGridTexts(AnalysisOf(button, situation, Session().Program())).Results;

@@ -1,5 +1,5 @@
-// A player who hears the window instead of seeing it: all three analyses, both dialogs and the report, by way of the
-// accessibility bus as a screen reader uses it.
+// A player who hears the window instead of seeing it: all three analyses, both dialogs and the report, through the
+// accessibility bus like a screen reader.
 
 #include "tests/screen_reader_journey.h"
 
@@ -92,7 +92,7 @@ TEST_F(ScreenReaderJourney, RangesArePaintedInBothDialogsAndTheirSavingIsHeard) 
 
 TEST_F(ScreenReaderJourney, FastPaintingIsHeard) {
   SaveRangeText(Session().Program(), "Aaa", RangeWith({{"AA", 1}, {"KK", 0.25}}));
-  Press("link", "Preflop Call");  // fills the lists anew
+  Press("link", "Preflop Call");  // refills the lists
   Press("link", "Range Manager");
   const Window manager = Session().WaitForWindow(kManagerTitle);
   Reader().GiveFocus(The("list", "Select a Range:"));
@@ -110,7 +110,7 @@ TEST_F(ScreenReaderJourney, FastPaintingIsHeard) {
   const Part aces = The("check box", "AA");  // where Tab reaches the grid
   Reader().GiveFocus(aces);
   Session().WaitUntil("the cell has the focus", [&] { return Reader().HasFocus(aces); });
-  // Each entry is said as the keys reach it.
+  // Each entry is announced as the keys reach it.
   Session().Press({"shift+F10"});
   for (const std::string_view entry : {"Copy", "Paste", "Everything", "Clear", "Invert"}) {
     Session().WaitUntil("the entry is reached", [&] {
@@ -134,7 +134,7 @@ TEST_F(ScreenReaderJourney, FastPaintingIsHeard) {
   EXPECT_TRUE(Reader().IsChecked(kings));
 }
 
-// On screens without a text of several lines, which has parts of Qt's own.
+// On screens without a multi-line text, which contains parts of Qt's own.
 TEST_F(ScreenReaderJourney, SituationsAreSavedAndOpened) {
   Press("link", "Preflop Call");
   Fill("How much is the current pot?", kCall.Pot);
@@ -175,7 +175,7 @@ TEST_F(ScreenReaderJourney, WhatIsHiddenNeitherSpeaksNorIsPressed) {
   const std::optional<Part> grid = Reader().FindAnywhere("link", "ALL IN Grid");
   ASSERT_TRUE(grid);
   Reader().Press(*grid);
-  // All lists of ranges are filled anew at each change of screen, and none of them shows on this one.
+  // All lists of ranges are refilled at each change of screen, and none of them is visible on this one.
   for (const char* screen : {"Preflop Call", "Preflop Raise", "Equity Only"}) {
     Press("push button", "About Quillon");
     static_cast<void>(The("panel", "About"));
@@ -193,6 +193,6 @@ TEST_F(ScreenReaderJourney, WhatIsHiddenNeitherSpeaksNorIsPressed) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  const QCoreApplication application(argc, argv);  // what the bus brings waits for its event loop
+  const QCoreApplication application(argc, argv);  // the bus needs its event loop
   return RUN_ALL_TESTS();
 }

@@ -1,6 +1,6 @@
-// Every screen and both dialogs as they look, at five scales, against pictures that somebody has checked. Those at 100%
-// are those of the documents, and at 200% there are others; at 75%, 150% and 300% the screen is brought to 100% and
-// must look like the former. After a change that should change them: tools/screenshots.sh
+// The looks of every screen and both dialogs, at five scales, compared with checked pictures: at 100% those of the
+// documents, at 200% separate ones; at 75%, 150% and 300% the screen is rescaled to 100% and must match the former.
+// After an intentional change: tools/screenshots.sh
 
 #include <QColor>
 #include <QDeadlineTimer>
@@ -30,19 +30,19 @@ namespace fs = std::filesystem;
 // The small blind with 12 big blinds, against any hand.
 const EnteredSituation kSmallBlindShove = {"1.5", "0.5", "11", "Everything", "Big Blind Call"};
 
-// How far a colour may be off, and how much of any one tile of a picture may be further off than that: edges of letters
-// are not drawn alike by every version of the font library. Over a whole picture a lost word would hardly count.
+// The allowed colour difference, and the allowed share of larger ones in any tile of a picture: versions of the font
+// library differ in the edges of letters. Over a whole picture a missing word would hardly count.
 constexpr int kNoticeable = 64;
 constexpr int kTile = 32;
 constexpr double kTileShare = 0.05;
 constexpr int kPatience = 10000;  // milliseconds
-// A picture brought to another size is compared as if seen from four times as far away. What is left is text: the lines
-// of longer ones do not all end where they do at 100%.
+// A rescaled picture is compared as if seen from four times as far away. The remaining difference is text: longer texts
+// wrap differently than at 100%.
 constexpr int kDistance = 4;
 
 struct DistantPicture {
   std::string_view Name;
-  double TileShare;  // a little more than at any scale here
+  double TileShare;  // slightly more than at any scale here
 };
 
 constexpr auto kDistantPictures = std::to_array<DistantPicture>({
@@ -79,7 +79,7 @@ double NoticeableShare(const QImage& one, const QImage& other) {
   return static_cast<double>(count) / one.width() / one.height();
 }
 
-// The tile that is most different, and how much of it is.
+// The most different tile, and how different it is.
 std::pair<double, QRect> WorstTile(const QImage& one, const QImage& other) {
   std::pair<double, QRect> worst;
   for (int y = 0; y < one.height(); y += kTile) {
@@ -122,7 +122,7 @@ class ScreensJourney : public WindowJourney, public testing::WithParamInterface<
     }
     ASSERT_EQ(seen.size(), known.size()) << file;
     auto [share, tile] = WorstTile(WithBlank(seen, butFor), WithBlank(WithoutAlpha(known), butFor));
-    // Where there is much to do besides, the program may keep still before it has done all.
+    // On a busy machine the program may pause before it has finished.
     for (const QDeadlineTimer limit(kPatience); share > kTileShare && !limit.hasExpired();) {
       seen = WithoutAlpha(Session().StillPicture(window.Place));
       std::tie(share, tile) = WorstTile(WithBlank(seen, butFor), WithBlank(WithoutAlpha(known), butFor));
@@ -211,7 +211,7 @@ TEST_P(ScreensJourney, LookAsTheyShould) {
   ExpectLook(dialog, "new_range");
 }
 
-// The study window is laid out by the size of its texts, so it does not look the same from afar.
+// The study window's layout depends on its texts' size, so it does not scale exactly.
 TEST_P(ScreensJourney, TheStudyOfAShoveLooksAsItShould) {
   if (!HasPictures()) GTEST_SKIP() << "there are no pictures at this scale";
   StartProgramWithRanges();

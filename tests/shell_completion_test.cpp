@@ -1,5 +1,5 @@
 // What the shells offer after the start of a command line, asked of the shells themselves, and the manual page as man
-// reads it.
+// formats it.
 
 #include <filesystem>
 #include <fstream>
@@ -27,7 +27,7 @@ using testing::UnorderedElementsAre;
 
 using Words = std::vector<std::string>;
 
-// How a shell is asked: the script reads the completion, its first argument, and completes the last of the others.
+// How to ask a shell: the script reads the completion, its first argument, and completes the last of the others.
 struct Shell {
   const char* Name;
   const char* Script;
@@ -40,7 +40,7 @@ COMP_WORDS=("$@") COMP_CWORD=$(($# - 1))
 _quillon_cli
 printf '%s\n' "${COMPREPLY[@]}")"};
 
-// compadd works only while somebody types.
+// compadd works only in an interactive line.
 constexpr Shell kZsh = {"zsh", R"(
 compdef() { }
 compadd() { shift; print -l -- ${(M)@:#$PREFIX*} }
@@ -81,7 +81,7 @@ std::vector<Row> Rows() {
   };
 }
 
-// Offers that fish and readline quote where they are typed.
+// Offers, with the quoting that fish and readline add on insertion.
 Words OffersIn(const std::string& output) {
   Words offers;
   std::istringstream lines(output);
@@ -102,7 +102,7 @@ class GeneratedTexts : public testing::Test {
 
   [[nodiscard]] fs::path Program() const { return folder_.Path() / "quillon-cli"; }
 
-  /// The file with what `quillon-cli generate` prints.
+  /// A file with the output of `quillon-cli generate`.
   [[nodiscard]] fs::path Generated(const Words& words) const {
     ProgramRun run;
     run.Program = Program();

@@ -1,4 +1,4 @@
-// A player who keeps situations: saved on one day, answered by the companion as they are, and opened on another day.
+// A player who saves situations: saved one day, answered by the companion as they are, and opened another day.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-// The main window in use for a long time: no memory is lost and nothing becomes slower. The default form is short and
-// checks memory alone; QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of
-// "docs/reliability.md", and compares durations too, for which the machine has to be quiet.
+// The main window in long use: it leaks no memory and does not slow down. By default the test is short and checks only
+// memory; QUILLON_SOAK=N in the environment makes everything N times as long, up to the figures of
+// "docs/reliability.md", and compares durations too, which needs a quiet machine.
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -22,7 +22,7 @@
 namespace quillon {
 namespace {
 
-/// How many times as long as by default a soak is: 0 by default.
+/// How many times longer than by default a soak is; 0 by default.
 int SoakFactor() {
   const char* const factor = std::getenv("QUILLON_SOAK");
   return factor == nullptr ? 0 : std::max(std::atoi(factor), 1);
@@ -32,14 +32,14 @@ int Times(int everyday) {
   return everyday * std::max(SoakFactor(), 1);
 }
 
-/// Bytes that the process has allocated and not freed, except for Qt's store of drawn pictures: that fills up to its
-/// limit of 10 MiB, and empties when nothing is drawn for a while, which never happens here.
+/// Bytes that the process has allocated and not freed, except for Qt's picture cache: that fills up to its limit of 10
+/// MiB, and is emptied when nothing is drawn for a while, which never happens here.
 double BytesInUse() {
   QPixmapCache::clear();
   return static_cast<double>(mallinfo2().uordblks) + static_cast<double>(mallinfo2().hblkhd);
 }
 
-/// Bytes of the process that are in the machine's memory, likewise.
+/// The process's bytes in physical memory, likewise.
 double BytesResident() {
   QPixmapCache::clear();
   ::malloc_trim(0);
@@ -50,10 +50,10 @@ double BytesResident() {
 }
 
 double Seconds() {
-  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;  // of this process, whatever else the machine does
+  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;  // CPU time, whatever else the machine does
 }
 
-/// The middle one of some durations.
+/// The median of some durations.
 double Median(std::vector<double> values) {
   const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
   std::nth_element(values.begin(), middle, values.end());
@@ -69,7 +69,7 @@ class Soak : public MainFormTest {
 #endif
   }
 
-  /// Does `act` so many times. The first tenth does not count: caches fill, and so do the pools of fonts.
+  /// Calls `act` this many times. The first tenth does not count: caches fill, and so do the pools of fonts.
   void Repeat(const char* name, int times, const std::function<void(int)>& act) {
     const int settled = std::min(std::max(times / 10, 10), 100);
     std::vector<double> durations;
@@ -82,7 +82,7 @@ class Soak : public MainFormTest {
       }
       const double start = Seconds();
       act(turn);
-      // The event loop, which a test has to run itself, frees what was closed.
+      // Frees closed objects, which a test's own event loop has to do.
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       durations.push_back(Seconds() - start);
     }
@@ -100,8 +100,8 @@ class Soak : public MainFormTest {
     std::cout << times << " " << name << ": " << growth << " more bytes in use a turn, memory " << resident * 100
               << "%, a turn took " << early * 1000 << " ms of the processor's time early and " << late * 1000
               << " ms late\n";
-    // Qt keeps the names of the pictures that it drew, some hundred bytes a dialog, and drops them in idle time. Tables
-    // that grow by doubling take some more, once.
+    // Qt keeps the names of drawn pictures, some hundred bytes per dialog, and drops them in idle time. Tables that
+    // grow by doubling take some more, once.
     const double settling = 65536.0 / static_cast<double>(durations.end() - first);
     EXPECT_LT(growth, 1024 + settling) << "something is not given back";
     EXPECT_LT(resident, 1.05) << "memory grows";
@@ -135,7 +135,7 @@ TEST_F(Soak, Hovers) {
 
 TEST_F(Soak, Dialogs) {
   Open(kCallNav);
-  // The names of pictures that Qt keeps meanwhile come to more than anything else after some thousand.
+  // After some thousand, the picture names that Qt keeps would dominate.
   constexpr int kMost = 1000;
   Repeat("openings of dialogs", std::min(Times(20), kMost), [this](int turn) {
     const bool manager = turn % 2 == 0;

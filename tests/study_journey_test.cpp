@@ -1,5 +1,5 @@
-// A player who asks on in the study window, by keys and by the mouse, and hears what it says. Its figures are those
-// that the companion prints.
+// A player with further questions in the study window, by keys and mouse, with a screen reader. Its figures are those
+// of the companion.
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -65,7 +65,7 @@ class StudyJourney : public ScreenReaderJourney {
     Session().WaitUntil("the keyboard is on " + std::string(hand), [&] { return Reader().HasFocus(cell); });
   }
 
-  // A figure of the companion's table, by its line and its column, as the window rounds it.
+  // A figure of the companion's table, by line and column, rounded as in the window.
   [[nodiscard]] static std::string Told(const std::string& table, const std::string& place, std::size_t column) {
     for (const std::string& line : Split(table, "\n")) {
       const std::vector<std::string> cells = Split(line, ",");
@@ -136,7 +136,7 @@ TEST_F(StudyJourney, ANewAnalysisIsOfferedAndFollowedByMouse) {
                                      (words.ends_with(", loses at 90") ? "loses" : "does not lose")));
 }
 
-// By keys alone: the hands, the points, and the table, which is the companion's byte for byte.
+// By keys alone: the hands, the points, and the table, which equals the companion's byte for byte.
 TEST_F(StudyJourney, HowFarIsReadOffByKeysAndSaved) {
   RunRaise();
   static_cast<void>(OpenStudy());

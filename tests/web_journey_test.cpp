@@ -1,5 +1,5 @@
-// The web services of the About screen, with the program's own web client and a host that is really there. The window
-// runs in the test's process.
+// The web services of the About screen, with the program's own web client and a real host. The window runs in the
+// test's process.
 
 #include <QCheckBox>
 #include <QGuiApplication>
@@ -28,7 +28,7 @@ using std::chrono::milliseconds;
 
 const InputQuestion kAddressQuestion = {"What is your email address?", "Quillon", ""};
 
-// The program's own client, which finds the product's host on this machine.
+// The program's own client, redirected to a host on this machine.
 class LoopbackClient : public WebClient {
  public:
   explicit LoopbackClient(const LoopbackHost& host) : host_(host) {}
@@ -37,7 +37,7 @@ class LoopbackClient : public WebClient {
     const std::string productHost = "http://" + std::string(WebHost()) + "/";
     EXPECT_TRUE(address.starts_with(productHost)) << address;
     address.remove_prefix(productHost.size());
-    return HttpClient(milliseconds(20'000))  // never used up, save by a test that fails
+    return HttpClient(milliseconds(20'000))  // only reached by a failing test
         .Get("http://127.0.0.1:" + std::to_string(host_.Port()) + "/" + std::string(address));
   }
 
@@ -95,7 +95,7 @@ TEST(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {
   EXPECT_EQ(stage.Screen(), "Preflop Call") << "now it listens";
 }
 
-// The program in a process of its own, which ends as the real one does, and tells how far it has come.
+// The program in a process of its own, which ends as the real one does, and reports its progress.
 class ClosedStage : public WebStage {
  public:
   ClosedStage() : WebStage([](LoopbackConnection& connection) { connection.WaitUntilTheOtherEndIsGone(); }) {
@@ -117,11 +117,11 @@ class ClosedStage : public WebStage {
 
 class ClosingDeathTest : public testing::Test {
  protected:
-  // A fork of a process that has threads would be a process with broken locks.
+  // A fork of a multi-threaded process would have broken locks.
   ClosingDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
 };
 
-// What the program told at its end, and that it wrote its settings before.
+// The program's last words, and that its settings were written before.
 testing::Matcher<const std::string&> Closed(const char* told) {
   return testing::AllOf(testing::HasSubstr(told), testing::HasSubstr("\n[Main]\r\nLeft="),
                         testing::HasSubstr("\n[Values]\r\n0=\r\n1=\r\n2=\r\n3=\r\n4=\r\n"));

@@ -115,8 +115,8 @@ void WindowJourney::Fill(std::int16_t box, std::string_view text) const {
   if (!text.empty()) Session().Type(text);
 }
 
-// The mouse goes away from the open list, which would otherwise select the entry under it. A list that is
-// still open when the next click comes swallows it.
+// The mouse leaves the open list, which would otherwise select the entry under it. A list that is still open at the
+// next click swallows it.
 void WindowJourney::TakeFromList(std::string_view control, const std::vector<std::string>& keys) const {
   const std::size_t windows = Session().WindowCount();
   Click(control);
@@ -127,7 +127,7 @@ void WindowJourney::TakeFromList(std::string_view control, const std::vector<std
   Session().WaitUntil("the list is closed", [&] { return Session().WindowCount() == windows; });
 }
 
-// Counted from the first entry, the empty one: a search by letters would depend on how fast they are typed.
+// Counted from the first entry, the empty one: a search by letters depends on typing speed.
 void WindowJourney::Choose(std::int16_t list, std::string_view range) const {
   const std::vector<std::string> files = RangeFolderEntries(Session().Program());
   const auto wanted = std::ranges::find(files, std::string(range) + ".txt");
@@ -178,7 +178,7 @@ bool WindowJourney::HoldUpOneRun(std::int16_t button) {
   constexpr int kFrom = 33;
   constexpr int kUpTo = 90;
   const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-  // The click waits until the eyes are on the bar.
+  // The click waits for the screen to be watched.
   Session().Running().HoldUp();
   Click(ButtonOf(button));
   Session().Running().LetGoOn();
@@ -200,7 +200,7 @@ bool WindowJourney::BarReaches(int percent) const {
   return Session().Color({bar.left() + bar.width() * percent / 100, bar.center().y()}) == kBarColor;
 }
 
-// The text is in the upper half, to the right of the icon, and takes the keyboard when it is clicked.
+// The text is in the upper half, to the right of the icon, and gets the focus when clicked.
 std::string WindowJourney::MessageText(const Window& box) const {
   const int line = qRound(18 * Session().Screen().Scale);
   Session().ClickAt({box.Place.center().x(), box.Place.top() + line});

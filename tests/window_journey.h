@@ -1,7 +1,7 @@
 #pragma once
 
-// What the journeys through the window share: a session with the main window in it, hands that find the controls of the
-// three forms by their names, and eyes that know the card grid. A journey that fails leaves a picture of its screen.
+// The base of the journeys through the window: a session with the main window, controls of the three forms found by
+// name, and the card grid read from the screen. A failing journey leaves a picture of its screen.
 
 #include <QImage>
 #include <array>
@@ -24,17 +24,17 @@ inline constexpr std::string_view kMainTitle = "Quillon 0.9";
 
 using GridColorTable = std::array<Rgb, kHandClassCount>;
 
-/// The three forms, as their tables have them.
+/// The three forms, by their tables.
 [[nodiscard]] const FormPlan& MainPlan();
 [[nodiscard]] const FormPlan& ManagerPlan();
 [[nodiscard]] const FormPlan& NewRangePlan();
 
-/// The buttons that start an analysis, by their index.
+/// The buttons that start an analysis, by index.
 inline constexpr std::int16_t kCallRun = 0;
 inline constexpr std::int16_t kRaiseRun = 1;
 inline constexpr std::int16_t kEquityRun = 2;
 
-/// What journeys enter, with the example ranges.
+/// The journeys' entries, with the example ranges.
 inline const EnteredSituation kCall = {"110", "90", "", "Button Shove", ""};
 inline const EnteredSituation kRaise = {"150", "50", "400", "Button Shove", "Big Blind Call"};
 inline const EnteredSituation kEquity = {"", "", "", "Tight Open", ""};
@@ -58,12 +58,12 @@ class WindowJourney : public testing::Test {
   void StartProgramWithRanges();
   /// The same from a folder of that name in the program's own; returns the folder.
   std::filesystem::path StartProgramWithRangesFrom(const std::string& folderName);
-  /// Closes the main window as the window manager's user does, and waits for the end. Returns the exit status.
+  /// Closes the main window through the window manager, and waits for the end. Returns the exit status.
   int CloseProgram();
 
   [[nodiscard]] const Window& Main() const { return main_; }
 
-  /// What the companion prints on the ranges of the program's folder.
+  /// The companion's output with the ranges of the program's folder.
   [[nodiscard]] std::string Companion(std::vector<std::string> arguments) const;
 
   // ---- controls of a window, by their names
@@ -81,31 +81,30 @@ class WindowJourney : public testing::Test {
   void Fill(std::int16_t box, std::string_view text) const;
   /// Opens a list and takes the entry that the keys lead to.
   void TakeFromList(std::string_view control, const std::vector<std::string>& keys) const;
-  /// Opens a list and takes the range of that name out of it, by the keyboard.
+  /// Selects the range of that name in a list, by keyboard.
   void Choose(std::int16_t list, std::string_view range) const;
   /// The text of a number box.
   [[nodiscard]] std::string BoxText(std::int16_t box) const;
 
   // ---- whole actions
 
-  /// Fills in the input screen of a scenario, from the link in the side panel on.
+  /// Fills in the input screen of a scenario, starting from the link in the side panel.
   void FillIn(std::int16_t button, const EnteredSituation& situation) const;
-  /// The same, with the click on Analyze, up to the painted grid, which must be that of the situation `meant`.
+  /// The same, with a click on Analyze, up to the painted grid, which must be that of the situation `meant`.
   void Analyze(std::int16_t button, const EnteredSituation& typed, const EnteredSituation& meant) const;
   void Analyze(std::int16_t button, const EnteredSituation& situation) const { Analyze(button, situation, situation); }
 
-  /// Clicks on Analyze on the input screen, and holds the program up between two classes, with the Progress screen
-  /// showing and its bar between a third and nine tenths of its length. Where a run was over before that, it is done
-  /// again.
+  /// Clicks on Analyze on the input screen, and suspends the program between two classes, with the Progress screen
+  /// visible and its bar between a third and nine tenths. Retries if a run ends before that.
   void AnalyzeAndHoldUp(std::int16_t button);
 
-  /// A message box: its text, read by selecting and copying it, and the keys that answer it.
+  /// A message box: its text, read by selecting and copying, and the keys that answer it.
   [[nodiscard]] std::string MessageText(const Window& box) const;
   void Answer(const Window& box, const std::vector<std::string>& keys) const;
 
   // ---- the card grid
 
-  /// The colours of the cells, read from the upper edge of each, where its label has no text.
+  /// The colours of the cells, read at the upper edge of each, where its label has no text.
   [[nodiscard]] GridColorTable CellColors(const Window& window, const FormPlan& plan) const;
   [[nodiscard]] GridColorTable CellColors() const { return CellColors(main_, MainPlan()); }
 

@@ -24,11 +24,11 @@ using std::chrono::steady_clock;
 constexpr auto kLimit = std::chrono::seconds(60);
 constexpr auto kBetweenQuestions = milliseconds(10);
 constexpr auto kStill = milliseconds(150);
-// What others have copied reaches it after a while, and would replace what its program has copied meanwhile.
+// Other programs' copies reach it after a delay, and would replace what its program has copied meanwhile.
 constexpr auto kWineLooksAtTheClipboard = milliseconds(1000);
 
-// The file in which Xvfb keeps screen 0, in the format of xwd: a header of numbers, highest byte first, the table of
-// colours, and the pixels, line by line.
+// The file in which Xvfb keeps screen 0, in xwd format: a header of big-endian numbers, the table of colours, and the
+// pixels, line by line.
 constexpr const char* kFrameBufferName = "Xvfb_screen0";
 constexpr std::size_t kHeaderSizeField = 0;
 constexpr std::size_t kWidthField = 4;
@@ -37,7 +37,7 @@ constexpr std::size_t kLineSizeField = 12;
 constexpr std::size_t kColorCountField = 19;
 constexpr std::uint32_t kColorSize = 12;
 
-// Those of the window manager; the program brings its own. Drawn alike on every machine.
+// The window manager's fonts, the same on every machine; the program brings its own.
 constexpr std::string_view kFonts = R"(<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig>
@@ -66,20 +66,19 @@ int IntField(const uchar* header, std::size_t field) {
   return static_cast<int>(Field(header, field));
 }
 
-// What is the user's own and not the test's.
+// For variables that are the user's own and not the test's.
 void PassOn(std::vector<std::string>& environment, const char* name) {
   const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): there is one thread
   if (value != nullptr) environment.push_back(std::string(name) + "=" + value);
 }
 
-// The folder with the program for Windows, if that is the one to be used.
+// The folder with the program for Windows, if set.
 std::optional<fs::path> WindowsFolder() {
-  const char* const folder =
-      std::getenv("QUILLON_WINDOWS_FOLDER");  // NOLINT(concurrency-mt-unsafe): there is one thread
+  const char* const folder = std::getenv("QUILLON_WINDOWS_FOLDER");  // one thread only
   return folder == nullptr ? std::nullopt : std::optional<fs::path>(folder);
 }
 
-// Puts the program into the folder, with all that it needs and nothing else.
+// Puts the program into the folder, with everything that it needs and nothing else.
 void PutProgram(const fs::path& folder) {
   if (!WindowsFolder()) {
     fs::copy_file(QUILLON_PROGRAM, folder / "quillon");
@@ -113,7 +112,7 @@ QPoint UpperLeft(const std::string& listing, const std::string& measured) {
   return {NumberBehind(listing, measured + " upper-left X:"), NumberBehind(listing, measured + " upper-left Y:")};
 }
 
-// Wine tells a program of a mouse that comes in from outside, but not of where it is until it moves on.
+// Wine reports a mouse that enters from outside, but not its position until it moves on.
 std::vector<std::string> To(QPoint point) {
   const std::string y = std::to_string(point.y());
   std::vector<std::string> actions = {"mousemove", std::to_string(point.x()), y};
@@ -134,10 +133,10 @@ WindowSession::WindowSession(Desk desk) : desk_(desk), programFolder_(home_ / "M
 }
 
 WindowSession::~WindowSession() {
-  // Its helpers live on for a while, and would be of no use on the next screen.
+  // Its helpers stay for a while, and would be useless on the next screen.
   if (WindowsFolder()) static_cast<void>(Ask("wineserver", {"--kill"}));
   if (!accessibilityBus_) return;
-  // Killed, the launcher would leave its bus running.
+  // If killed, the launcher would leave its bus running.
   kill(accessibilityBus_->Id(), SIGTERM);
   const auto limit = steady_clock::now() + kLimit;
   while (!accessibilityBus_->Status() && steady_clock::now() < limit)
@@ -197,8 +196,8 @@ std::string WindowSession::CommandArguments(const std::string& name) const {
   return ReadAllBytes(arguments);
 }
 
-// A clean environment but for what is needed, so that no setting of the user's desktop gets in, and no signal ignored.
-// The kernel ends the program with the test, whatever becomes of the test.
+// A minimal environment, so that no setting of the user's desktop gets in, with no signal ignored. The kernel ends the
+// program with the test, however that ends.
 ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<std::string>& arguments) const {
   const std::string home = home_.string();
   ProgramRun run;
@@ -208,7 +207,7 @@ ProgramRun WindowSession::Prepare(const std::string& program, const std::vector<
                    "PATH=" + (home_ / "bin").string() + ":/usr/bin:/bin", "LANG=C.UTF-8", "DISPLAY=" + display_,
                    "FONTCONFIG_FILE=" + (home_ / "fonts.conf").string(), "QT_QPA_PLATFORM=xcb",
                    "QT_SCALE_FACTOR=" + std::to_string(desk_.Scale),
-                   // Wine keeps variables of such names from its programs, but for those that are prefixed for it.
+                   // Wine hides variables of such names from its programs unless they have its prefix.
                    "WINEQT_SCALE_FACTOR=" + std::to_string(desk_.Scale)};
   if (!busAddress_.empty()) run.Arguments.push_back("DBUS_SESSION_BUS_ADDRESS=" + busAddress_);
   for (const char* const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH", "WINEPREFIX",
@@ -233,11 +232,11 @@ Window WindowSession::WaitForWindow(std::string_view title) const {
   WaitUntil("a window called \"" + std::string(title) + "\" with the keyboard", [&] {
     window = FindWindow(title);
     const std::string active = Ask("xdotool", {"getactivewindow"});
-    // Where two of Wine's windows close one right after the other, the window manager gives the keyboard to the second.
+    // If two of Wine's windows close in quick succession, the window manager activates the second.
     if (window && WindowsFolder() && TitleOf(active).empty()) Use({"windowactivate", window->Id});
     return window && active == window->Id + "\n";
   });
-  // The window manager may have moved it before it gave it the keyboard.
+  // The window manager may have moved it before activating it.
   window->Place = PlaceOf(window->Id);
   return *window;
 }
@@ -276,7 +275,7 @@ void WindowSession::MoveWindow(const Window& window, QPoint corner) const {
   WaitUntil("the window has been moved", [&] { return CornerOf(window) == corner; });
 }
 
-// To the few pixels by which the frame that Wine believes in differs from the window manager's.
+// Within the few pixels by which Wine's idea of the frame differs from the window manager's.
 bool WindowSession::IsAt(QPoint place, QPoint wanted) {
   constexpr int kFrames = 5;
   return (place - wanted).manhattanLength() <= (WindowsFolder() ? kFrames : 0);
@@ -294,7 +293,7 @@ QRect WindowSession::LayNote(QPoint corner, const Window& keeper) {
   return PlaceOf(ids.front());
 }
 
-// Those of the process itself: the programs of several starts have windows of the same titles.
+// Of this process only: the programs of several starts have windows of the same titles.
 std::vector<std::string> WindowSession::FindIds() const {
   return Lines(Ask("xdotool", {"search", "--onlyvisible", "--all", "--pid", std::to_string(Running().Id())}));
 }
@@ -324,7 +323,7 @@ void WindowSession::Click(QPoint point, const std::string& button) const {
 void WindowSession::Drag(QPoint from, QPoint to) const {
   Use(To(from));
   Use({"mousedown", "1"});
-  // In steps: the first begins the drag, and the last is where it ends.
+  // In steps: the first begins the drag, and the last ends it.
   for (const QPoint& step : {from + QPoint(20, 0), (from + to) / 2, to - QPoint(1, 1), to})
     Use(To(step));
   Use({"mouseup", "1"});
@@ -354,24 +353,24 @@ void WindowSession::PutOnClipboard(std::string_view text) const {
   static_cast<void>(Ask("xclip", {"-selection", "clipboard", "-in", file.string()}));
 }
 
-// The clipboard holds a mark first, so that an old text is not taken for the new one.
+// The clipboard first gets a marker, so that an old text is not taken for the new one.
 std::string WindowSession::CopiedBy(const std::function<void()>& copy, const std::string& kind) const {
   constexpr std::string_view kMark = "nothing has been copied yet";
   PutOnClipboard(kMark);
   if (WindowsFolder()) std::this_thread::sleep_for(kWineLooksAtTheClipboard);
   copy();
   const auto ask = [this](const std::string& target) {
-    // Asked at the moment in which it changes hands, Wine does not answer at all.
+    // If asked while the clipboard changes hands, Wine never answers.
     return Ask("timeout", {"5", "xclip", "-selection", "clipboard", "-out", "-target", target});
   };
   std::string copied;
   WaitUntil("something has been copied", [&] {
-    // Wine has a picture only for those who have asked what there is.
+    // Wine offers a picture only after being asked for the targets.
     if (WindowsFolder()) static_cast<void>(ask("TARGETS"));
     copied = ask(kind);
     return copied != kMark && !copied.empty();
   });
-  // Wine leaves some of those that Windows ends its lines with.
+  // Wine leaves some CRs of Windows line ends.
   if (WindowsFolder() && kind == kText) std::erase(copied, '\r');
   return copied;
 }
@@ -387,7 +386,7 @@ void WindowSession::Use(const std::vector<std::string>& actions) const {
 
 // ---- the screen
 
-// No pointer is drawn, so that it is in no picture.
+// Without a pointer, so that pictures have none.
 void WindowSession::StartScreen() {
   const std::string size = std::to_string(desk_.Width) + "x" + std::to_string(desk_.Height) + "x24";
   screen_ =
@@ -417,7 +416,7 @@ void WindowSession::StartBuses() {
   accessibilityBus_ = std::make_unique<RunningProgram>(
       Prepare("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately", "--a11y=1"}));
   WaitUntil("there is an accessibility bus", [this] {
-    // To ask the bus itself would start another launcher, to which nobody has said that a screen reader is there.
+    // Asking the bus itself would start another launcher, without a screen reader.
     return RunProgram(Prepare("dbus-send", {"--print-reply", "--dest=org.freedesktop.DBus", "/org/freedesktop/DBus",
                                             "org.freedesktop.DBus.GetNameOwner", "string:org.a11y.Bus"}))
                .Status == 0;

@@ -1,15 +1,15 @@
 #pragma once
 
-// For journeys through the window: a screen of its own with a window manager, the program in a folder of its own, and a
-// user with a mouse, a keyboard, a clipboard and eyes. The screen is Xvfb, so nobody sees it and nothing else is on it;
-// the window manager is openbox; xdotool moves the mouse and presses the keys.
+// A user session: a screen of its own with a window manager, the program in a folder of its own, and a simulated user
+// with mouse, keyboard, clipboard and eyes. The screen is a virtual one by Xvfb with nothing else on it; the window
+// manager is openbox; xdotool moves the mouse and presses the keys.
 //
-// Lengths are the screen's own pixels, unless told otherwise. Nothing waits for a fixed time: every wait is for
-// something, and where it does not come within half a minute, or the program ends, std::runtime_error tells what was
-// waited for. All that has been started is gone with the session, even if the test is killed.
+// Lengths are the screen's own pixels, unless stated otherwise. There are no fixed delays: every wait is for a
+// condition, and if that is not met within half a minute, or the program ends, std::runtime_error names it. Everything
+// started ends with the session, even if the test is killed.
 //
-// The program is the one that has just been built, or with QUILLON_WINDOWS_FOLDER in the environment the one for
-// Windows in that folder, which Wine runs ("tools/windows/check_window.sh").
+// The program is the one just built, or with QUILLON_WINDOWS_FOLDER in the environment the one for Windows in that
+// folder, run by Wine ("tools/windows/check_window.sh").
 
 #include <QFile>
 #include <QImage>
@@ -38,7 +38,7 @@ struct Desk {
   bool IsHeard = false;
 };
 
-/// A window of the program: what the window system calls it, and where its inner area is on the screen.
+/// A window of the program: its number in the window system, and the place of its inner area on the screen.
 struct Window {
   std::string Id;
   QRect Place;
@@ -55,77 +55,77 @@ class WindowSession {
 
   [[nodiscard]] const Desk& Screen() const { return desk_; }
 
-  /// The session bus on which the accessibility bus is found; empty where there is none.
+  /// The session bus that leads to the accessibility bus; empty if there is none.
   [[nodiscard]] const std::string& BusAddress() const { return busAddress_; }
 
   // ---- the program and its folder
 
-  /// The folder of the executable; nothing else is in it at first.
+  /// The folder of the executable, with nothing else in it at first.
   [[nodiscard]] ProgramFolder Program() const { return {programFolder_}; }
 
-  /// Puts the example ranges beside the executable.
+  /// Puts the example ranges next to the executable.
   void AddExampleRanges() const;
 
-  /// Starts the program. It may be started more than once; the last one is the one that is watched.
+  /// Starts the program. If started several times, the last one is watched.
   void Start(const std::vector<std::string>& arguments = {});
 
   /// Starts it from a folder of that name in the executable's own, with a copy of the executable. Returns the folder.
   std::filesystem::path StartFromAnother(const std::string& folderName);
   [[nodiscard]] RunningProgram& Running() const { return *programs_.back(); }
 
-  /// The exit status of the program, which ends now.
+  /// Waits for the program to end and returns its exit status.
   [[nodiscard]] int WaitForEnd() const;
 
-  /// The commands that the program finds, by name, and what they are given. A command does nothing but write that down,
-  /// and one that is added again has not been called yet.
+  /// Commands for the program, by name, and their recorded arguments. They only record the call; adding one again
+  /// clears its record.
   void AddCommand(const std::string& name) const;
   [[nodiscard]] std::string CommandArguments(const std::string& name) const;
 
-  /// Starts another program on the same screen, which is gone with the object returned.
+  /// Starts another program on the same screen, which ends with the returned object.
   [[nodiscard]] std::unique_ptr<RunningProgram> StartBeside(const std::string& program,
                                                             const std::vector<std::string>& arguments) const;
 
   // ---- windows
 
-  /// The one visible window of the running program with this title, nothing if there is none.
+  /// The only visible window of the running program with this title; nothing if there is none.
   [[nodiscard]] std::optional<Window> FindWindow(std::string_view title) const;
-  /// The window once it is there and has the keyboard.
+  /// The window once it is visible and active.
   [[nodiscard]] Window WaitForWindow(std::string_view title) const;
-  /// The outer corner of a window, its frame included.
+  /// The outer corner of a window, including its frame.
   [[nodiscard]] QPoint CornerOf(const Window& window) const;
-  /// How many windows of the program can be seen, opened lists among them.
+  /// The number of visible windows of the program, including open lists.
   [[nodiscard]] std::size_t WindowCount() const;
   void WaitUntilGone(const Window& window) const;
-  /// The one that comes up when `open` has been done: a menu, which has no title.
+  /// The window that `open` opens: a menu, which has no title.
   [[nodiscard]] Window OpenedBy(const std::function<void()>& open) const;
-  /// Lays a small window of another program there, in front of all, and leaves the keyboard with `keeper`. Returns
-  /// its inner area.
+  /// Places a small window of another program there, in front of all, leaving the keyboard with `keeper`. Returns its
+  /// inner area.
   QRect LayNote(QPoint corner, const Window& keeper);
   /// Moves the outer corner of the window.
   void MoveWindow(const Window& window, QPoint corner) const;
-  /// Whether a window at `place` is where it was wanted.
+  /// Whether a window at `place` is where it should be.
   [[nodiscard]] static bool IsAt(QPoint place, QPoint wanted);
 
   // ---- mouse, keyboard and clipboard
 
-  /// The mouse goes there, and stays.
+  /// Moves the mouse there.
   void MoveTo(QPoint point) const;
   void ClickAt(QPoint point) const { Click(point, "1"); }
   void RightClickAt(QPoint point) const { Click(point, "3"); }
   /// Presses the left button there and releases it here.
   void Drag(QPoint from, QPoint to) const;
-  /// Keys by their names in the window system, pressed one after the other: "ctrl+a", "Return".
+  /// Presses keys one after the other, by their names in the window system: "ctrl+a", "Return".
   void Press(const std::vector<std::string>& keys) const;
   /// Holds a key down until it is released.
   void HoldKey(const std::string& key) const { Use({"keydown", key}); }
   void ReleaseKey(const std::string& key) const { Use({"keyup", key}); }
   void Type(std::string_view text) const;
-  /// The mouse out of everybody's way.
+  /// Moves the mouse out of the way.
   void PutMouseAside() const;
-  /// All the text of the control that has the keyboard, by way of the clipboard.
+  /// All the text of the focused control, through the clipboard.
   [[nodiscard]] std::string CopyAllText() const;
   void PutOnClipboard(std::string_view text) const;
-  /// What `copy` puts on the clipboard, as that kind of data.
+  /// What `copy` puts on the clipboard, as that data type.
   [[nodiscard]] std::string CopiedBy(const std::function<void()>& copy, const std::string& kind = kText) const;
   static constexpr const char* kText = "UTF8_STRING";
 
@@ -134,10 +134,10 @@ class WindowSession {
   [[nodiscard]] QImage Picture() const;
   [[nodiscard]] QImage Picture(const QRect& area) const;
   [[nodiscard]] QRgb Color(QPoint point) const;
-  /// The area once it has stopped changing.
+  /// A picture of the area once it has stopped changing.
   [[nodiscard]] QImage StillPicture(const QRect& area) const;
 
-  /// Waits until `happened`, which is asked over and over; `what` says what that is.
+  /// Waits until `happened` returns true, calling it repeatedly; `what` names the condition.
   void WaitUntil(std::string_view what, const std::function<bool()>& happened) const;
 
  private:
@@ -160,7 +160,7 @@ class WindowSession {
   std::filesystem::path programFolder_;
   std::string display_;
   std::string busAddress_;
-  // Ended in the opposite order: the screen goes last.
+  // Destroyed in reverse order: the screen goes last.
   std::unique_ptr<RunningProgram> screen_;
   std::unique_ptr<RunningProgram> windowManager_;
   std::unique_ptr<RunningProgram> sessionBus_;

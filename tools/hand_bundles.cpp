@@ -60,13 +60,13 @@ constexpr UseTable MakeUseTable(ClassKind kind) {
 constexpr std::array<UseTable, 3> kUse = {MakeUseTable(ClassKind::kPair), MakeUseTable(ClassKind::kSuited),
                                           MakeUseTable(ClassKind::kOffsuit)};
 
-// The hands of a class whose higher card has one of these suits and whose lower card has one of those.
+// The hands of a class whose higher card has one of `highSuits` and whose lower card has one of `lowSuits`.
 const CardUse& UseOf(const ClassShape& shape, SuitMask highSuits, SuitMask lowSuits) {
   const ClassKind kind = shape.IsPair() ? ClassKind::kPair : shape.suited ? ClassKind::kSuited : ClassKind::kOffsuit;
   return kUse[static_cast<std::size_t>(kind)][highSuits][lowSuits];
 }
 
-// A board from the point of view of the hands beside it.
+// A board as it matters for the hands.
 struct BoardView {
   // For each rank, from the ace down, the suits whose card is not on the board.
   std::array<SuitMask, kRankCount> liveSuits{};
@@ -101,8 +101,8 @@ void AddFlush(const BoardView& view, std::uint8_t handClass, const CardUse& use,
   bundles.push_back({StrengthOfFlush(static_cast<RankMask>(view.flushRanks | handRanks)), handClass, use});
 }
 
-// The hands of a class with two cards of the suit, then those with one, then those with none, as far down as they still
-// make a flush.
+// The hands of a class with two cards of the suit, then those with one, then those with none, as long as they make a
+// flush.
 void AddFlushes(const BoardView& view, std::uint8_t handClass, std::vector<HandBundle>& bundles) {
   const ClassShape& shape = kClassShapes[handClass];
   const SuitMask highIn = view.liveSuits[shape.high] & view.flushSuit;
@@ -120,12 +120,12 @@ void AddFlushes(const BoardView& view, std::uint8_t handClass, std::vector<HandB
   AddFlush(view, handClass, UseOf(shape, highOut, lowOut), 0, bundles);
 }
 
-// The hands that make no flush, which come in the order of their classes.
+// The hands without a flush, in the order of their classes.
 void AddOthers(const BoardView& view, const RankedClasses& ranked, std::vector<HandBundle>& bundles) {
   if (view.cardsNeeded == 0) return;
   for (const RankedClass& entry : ranked) {
     const ClassShape& shape = kClassShapes[entry.handClass];
-    // Where two cards of the suit are needed, an offsuit hand with one of them stays with its class.
+    // If a flush needs two cards of the suit, an offsuit hand with one of them stays with its class.
     const bool someMakeFlush = view.cardsNeeded == 1 || (view.cardsNeeded == 2 && shape.suited);
     const SuitMask suits = someMakeFlush ? kAllSuits & ~view.flushSuit : kAllSuits;
     const CardUse& use = UseOf(shape, view.liveSuits[shape.high] & suits, view.liveSuits[shape.low] & suits);

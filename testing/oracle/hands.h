@@ -1,7 +1,7 @@
 #pragma once
 
-// Hands and their classes by text alone. Nothing here or in the rest of the oracle is shared with the program but the
-// equity table's constant text, so that a fault would have to be made twice.
+// Hands and their classes, by text alone. The oracle shares nothing with the program except the equity table's constant
+// text, so that a bug would have to be made twice.
 
 #include <cstddef>
 #include <string>
@@ -17,11 +17,11 @@ inline constexpr std::size_t kClasses = 169;
 /// The index of a label; 169 if the text is not a label.
 [[nodiscard]] std::size_t IndexOf(const std::string& label);
 
-/// How many hands a class has.
+/// The number of hands in a class.
 [[nodiscard]] int ComboCount(const std::string& label);
 
-/// The 25 lines that runs go through, each from its best class down: the pairs, then for the suited and for the offsuit
-/// hands the twelve rows of a high card each.
+/// The 25 lines of runs, each from its best class down: the pairs, then for the suited and for the offsuit hands one
+/// line for each of twelve high cards.
 [[nodiscard]] const std::vector<std::vector<std::string>>& Lines();
 
 /// The 52 cards, "As" to "2c".
@@ -39,7 +39,7 @@ struct Hand {
 /// All hands, in the order of their cards in the deck.
 [[nodiscard]] const std::vector<Hand>& Hands();
 
-/// The two cards a class is played with: "As Ac", "Ac Kc", "Ac Ks".
+/// The sample hand of a class: "As Ac", "Ac Kc", "Ac Ks".
 [[nodiscard]] std::string SampleCards(const std::string& label);
 
 }  // namespace quillon::plain

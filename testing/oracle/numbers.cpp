@@ -23,8 +23,8 @@ std::string Printed(double value, Form form, std::size_t digits) {
   return stream.str();
 }
 
-// Of a text that is nothing but a number; the largest there is of one beyond it. The library's parser, whatever locale
-// a window has set.
+// The value of a text that is a number, clamped to the largest double. Uses the library's parser, whatever locale a
+// window has set.
 double ValueOf(const std::string& number) {
   std::istringstream stream(number);
   stream.imbue(std::locale::classic());
@@ -61,7 +61,7 @@ std::set<std::string> NumericShapes() {
   return shapes;
 }
 
-// A number to 15 significant digits, without its sign and with more decimals than anyone asks for.
+// A number with 15 significant digits, without sign and with more decimals than any test needs.
 std::string WrittenOut(double value) {
   const std::string text = Printed(std::abs(value), std::ios::scientific, 14);
   const std::string digits = text.substr(0, 1) + text.substr(2, 14);
@@ -149,7 +149,7 @@ std::string SumText(std::string_view sum) {
   double total = 0;
   double sign = 1;
   std::string number;
-  // One sign more ends the last number.
+  // An extra sign ends the last number.
   for (const char c : std::string(sum) + "+") {
     if (c != '+' && c != '-') {
       number += c;

@@ -1,6 +1,6 @@
 #pragma once
 
-// What hands are worth, the plain way: cards read from text, a hand's worth found by trying every five of its cards.
+// The strength of hands in the plainest way: cards from text, and every five of them tried.
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,7 @@
 
 namespace quillon::plain {
 
-/// A place in the deck, 0 for "As" to 51 for "2c".
+/// Positions in the deck, 0 for "As" to 51 for "2c".
 using Cards = std::vector<int>;
 
 /// Cards from text such as "As Kh 7d".
@@ -35,8 +35,8 @@ inline int SuitOf(int card) {
   return card % 4;
 }
 
-/// What five cards are worth: first the category, 0 for a high card to 8 for a straight flush, then the ranks that
-/// decide between hands of the category, weightiest first. Compares as the hands do.
+/// The value of five cards: first the category, 0 for a high card to 8 for a straight flush, then the ranks that decide
+/// between hands of the category, most important first. Compares as the hands do.
 using Worth = std::vector<int>;
 
 inline int CategoryOfFive(const std::vector<int>& countsOfRanks, bool straight, bool flush) {
@@ -75,7 +75,7 @@ inline Worth WorthOfFive(const Cards& five) {
   return worth;
 }
 
-/// What seven cards are worth: the most that any five of them are.
+/// The value of seven cards: the best of any five.
 inline Worth WorthOfSeven(const Cards& seven) {
   Worth best;
   for (std::size_t left = 0; left < seven.size(); ++left) {
@@ -90,7 +90,7 @@ inline Worth WorthOfSeven(const Cards& seven) {
   return best;
 }
 
-/// The index of the class that two different cards are of.
+/// The index of the class of two different cards.
 inline std::size_t ClassOf(int one, int other) {
   const auto& [first, second] = std::minmax(one, other);
   return IndexOf(LabelOf(Deck().at(static_cast<std::size_t>(first)), Deck().at(static_cast<std::size_t>(second))));

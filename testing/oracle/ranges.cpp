@@ -22,7 +22,7 @@ std::vector<std::vector<std::size_t>> LinesOfIndexes() {
 }  // namespace
 
 std::optional<double> WeightOf(std::string_view text, std::string_view label) {
-  // Places count from 1, and 0 is that of a text which is missing.
+  // Positions count from 1; 0 means missing.
   const std::size_t p = text.find(label) + 1;
   const std::size_t q = text.find(')', p) + 1;
   const std::size_t start = p + label.size() + 2;
@@ -56,7 +56,7 @@ std::string RunsAt(const Weights& weights, double target) {
       std::size_t end = first;
       while (end < line.size() && weights[line[end]] == target)
         ++end;
-      // A run that meets a class of more weight below it is left out.
+      // A run followed by a class of more weight is left out.
       const bool shown = end > first && (end == line.size() || weights[line[end]] < target);
       if (shown && !text.empty()) text += ",";
       if (shown && end > first + 1 && first > 0) text += Labels()[line[first]] + "-";

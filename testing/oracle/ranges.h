@@ -1,6 +1,6 @@
 #pragma once
 
-// Range texts as bytes, a character of their code page each, read and summed up in the plainest way.
+// Range texts as bytes, one per character of their code page, read and summarised in the plainest way.
 
 #include <optional>
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace quillon::plain {
 
-/// The weight that a range text has for a label; nothing if it cannot be read.
+/// The weight of a label in a range text; nothing if it cannot be read.
 [[nodiscard]] std::optional<double> WeightOf(std::string_view text, std::string_view label);
 
 using Weights = std::vector<double>;  // 169 of them, in class index order
@@ -20,16 +20,16 @@ using Weights = std::vector<double>;  // 169 of them, in class index order
 /// The hands that a card grid would show: those of full classes, and half of those of half classes.
 [[nodiscard]] double SelectedCombos(const Weights& weights);
 
-/// The runs of classes at a weight, as a summary writes them: "TT+,AKs".
+/// The runs of classes at a weight, as in a summary: "TT+,AKs".
 [[nodiscard]] std::string RunsAt(const Weights& weights, double target);
 
 /// The summary of a whole range.
 [[nodiscard]] std::string Summary(const Weights& weights);
 
-/// A range file's bytes without the line end that it was saved with.
+/// A range file's bytes without the line end from saving.
 [[nodiscard]] std::string_view TextOfFile(std::string_view file);
 
-/// How a range file is listed after its name, "0.5% selected", a tab, "AA"; nothing if it is not a range file.
+/// A range file's line in the list, after its name: "0.5% selected", a tab, "AA"; nothing if it is not a range file.
 [[nodiscard]] std::optional<std::string> ListingOf(std::string_view file);
 
 }  // namespace quillon::plain

@@ -10,20 +10,19 @@
 
 namespace quillon::plain {
 
-/// A results table taken apart.
+/// A parsed results table.
 class ResultsTable {
  public:
   explicit ResultsTable(std::string_view text);
 
-  /// The table's text with `value` added to a cell; a label that is missing gets a row of its own. Nothing if the sum
-  /// is not finite.
+  /// The table's text with `value` added to a cell; a missing label gets a new row. Nothing if the sum is not finite.
   [[nodiscard]] std::optional<std::string> WithValue(const std::string& label, std::size_t column, double value,
                                                      std::size_t lastColumn) const;
 
   /// The number in a cell of the first row with that label; 0 if there is none.
   [[nodiscard]] double Cell(const std::string& label, std::size_t column) const;
 
-  /// The label of the first row that beats all before it and is beaten by none after, each value being kept rounded;
+  /// The label of the first row that beats all before it and is beaten by none after, with the best value rounded;
   /// empty if no row is above -10000.
   [[nodiscard]] std::string Best(std::size_t column) const;
 
@@ -31,7 +30,7 @@ class ResultsTable {
   [[nodiscard]] std::string Worst(std::size_t column) const;
 
  private:
-  std::vector<std::vector<std::string>> rows_;  // with what follows the last line end
+  std::vector<std::vector<std::string>> rows_;  // including what follows the last line end
 };
 
 }  // namespace quillon::plain

@@ -30,7 +30,7 @@ Outcome FaultNumbered(int number) {
   return {{}, {}, number};
 }
 
-// A division, or the run-time error in its place.
+// A quotient, or a run-time error.
 double Divided(double numerator, double denominator, int& fault) {
   if (denominator != 0) return numerator / denominator;
   if (fault == 0) fault = numerator == 0 ? kOverflow : kDivisionByZero;
@@ -54,7 +54,7 @@ double EquityReadOnce(std::size_t hero, std::size_t opponent) {
   return equities[hero * kClasses + opponent];
 }
 
-// Where the numbers of a run come from, by class index.
+// The numbers for a run, by class index.
 struct Source {
   std::function<double(std::size_t)> weight;
   std::function<double(std::size_t)> callingWeight;
@@ -74,10 +74,10 @@ Source SourceOf(const Run& run, Reading reading) {
           EquityReadOnce};
 }
 
-// What one class has against a range.
+// The figures of one class against a range.
 struct Stand {
   double weight = 0;  // of the hands that its two cards leave
-  double positive = 0;  // of those with more than none
+  double positive = 0;  // of those with a weight above 0
   double won = 0;
 
   double Equity(int& fault) const { return Divided(won, positive, fault); }
@@ -130,7 +130,7 @@ Outcome CheckRaise(const Run& run) {
   return {};
 }
 
-// The run-time error that a range ends every run with; 0 for one that can be read.
+// The run-time error of every run with a range; 0 if it can be read.
 int FaultOfRange(std::string_view file) {
   if (TextOfFile(file).empty()) return kSubscriptOutOfRange;
   return WeightsOf(TextOfFile(file)) ? 0 : kInvalidProcedureCall;
@@ -148,7 +148,7 @@ Outcome Check(const Run& run) {
   return Refusal("Empty Range", "Your opponent's range is empty. Please select another range.");
 }
 
-// Both ranges are dealt before either list is looked at, and it is only then that an empty one shows.
+// Both ranges are dealt before either list is used, so an empty one fails later.
 int FaultOfRanges(const Run& run) {
   const int fault = FaultOfRange(run.RangeFile);
   const int callingFault = run.Scenario == Mode::kRaise ? FaultOfRange(run.CallingRangeFile) : 0;
@@ -281,7 +281,7 @@ Result ResultOf(const Run& run, Reading reading) {
     const Row row = RowOf(run, hero, source, fault);
     for (std::size_t i = 0; i < columns.size(); ++i) {
       if (fault == 0 && !std::isfinite(row[i])) fault = kOverflow;
-      // As the results table keeps it.
+      // Rounded as by the results table.
       if (fault == 0) columns[i]->push_back(LeadingNumber(NumberText(row[i])));
     }
     if (fault != 0) return {FaultNumbered(fault)};

@@ -1,6 +1,6 @@
 #pragma once
 
-// A whole run from box texts and range files to its columns, told once more in the plainest way.
+// A whole run from box texts and range files to its columns, written again in the plainest way.
 
 #include <cstddef>
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace quillon::plain {
 
-/// The equity of one class against another: the row is split at its spaces and one of its numbers is read.
+/// The equity of one class against another: splits the row at its spaces and reads one number.
 [[nodiscard]] double HandEquity(const std::string& hand, const std::string& opponentHand);
 
-/// The weight of each of the 1326 hands of a range text, 0 for those that hold one of the two cards. A card may be any
-/// text: it is looked for in the text of each hand. Each weight is read from the text.
+/// The weight of each of the 1326 hands of a range text, 0 for those with one of the two cards. A card may be any text:
+/// it is searched for in the text of each hand. Each weight is read from the text.
 [[nodiscard]] std::vector<double> Deal(std::string_view rangeText, std::string_view card1, std::string_view card2);
 
-/// What comes of an input: it goes through, it is refused with a message, or it ends the program with a run-time error.
+/// The outcome of an input: accepted, refused with a message, or a run-time error.
 struct Outcome {
   std::string Title;  // of the message
   std::string Text;  // of the message, its lines separated by LF
@@ -25,26 +25,26 @@ struct Outcome {
   [[nodiscard]] bool GoesThrough() const { return Title.empty() && Fault == 0; }
   [[nodiscard]] bool IsRefused() const { return !Title.empty(); }
 
-  /// The exit status of a program that meets it, and what it writes to standard error: a message as "title: text", a
-  /// run-time error without the detail in brackets.
+  /// A program's exit status for it, and its standard error: a message as "title: text", a run-time error without the
+  /// detail in brackets.
   [[nodiscard]] int Status() const;
   [[nodiscard]] std::string Told() const;
 
-  /// In a word or three: "through", "with a run-time error", or "refused".
+  /// The outcome in words: "through", "with a run-time error", or "refused".
   [[nodiscard]] std::string Fate() const;
 };
 
-/// What a box for one line takes of a text in UTF-8.
+/// What a one-line box accepts of a UTF-8 text.
 [[nodiscard]] std::string Line(std::string text);
 
-/// What happens to the text of an amount box when the user leaves it; `text` becomes what is in the box then.
+/// What happens to the text of an amount box when the user leaves it; `text` becomes the new text.
 [[nodiscard]] Outcome LeaveBox(std::string& text);
 
 /// The value of a box.
 [[nodiscard]] double BoxValue(std::string_view text);
 
-/// The labels of the opponent's odds, as "3 : 1, 25%", from the texts of the boxes for pot, call and shove; empty if a
-/// run-time error takes their place.
+/// The labels of the opponent's odds, such as "3 : 1, 25%", from the texts of the boxes for pot, call and shove; empty
+/// for a run-time error.
 struct Odds {
   std::string Labels;
   int Fault = 0;
@@ -53,7 +53,7 @@ struct Odds {
 
 enum class Mode { kCall, kRaise, kEquity };
 
-/// A run as boxes that have been left and existing range files state it.
+/// A run, from boxes that have been left and existing range files.
 struct Run {
   Mode Scenario = Mode::kEquity;
   std::string Pot = {};
@@ -63,7 +63,7 @@ struct Run {
   std::string CallingRangeFile = {};
 };
 
-/// What comes of a run, and its columns in class index order if it goes through.
+/// The outcome of a run, and its columns in class index order if it succeeds.
 struct Result {
   plain::Outcome Outcome = {};
   std::vector<double> ExpectedValues = {};
@@ -74,8 +74,8 @@ struct Result {
   [[nodiscard]] std::string Table() const;
 };
 
-/// Whether weights and equities are read from their texts once, or anew each time one is needed. The figures are the
-/// same; benchmarks time the second, which is the plain way to do what the program does.
+/// Whether weights and equities are read from their texts once, or each time they are needed. The figures are the same;
+/// benchmarks use the latter, which is the plain way to do what the program does.
 enum class Reading { kOnce, kEachTime };
 
 [[nodiscard]] Result ResultOf(const Run& run, Reading reading = Reading::kOnce);

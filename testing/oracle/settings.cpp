@@ -34,7 +34,7 @@ std::string WithoutQuotes(const std::string& value) {
   return value;
 }
 
-// The characters from 80 to 9F; each other byte is the character of its own number.
+// The characters for 80 to 9F; every other byte is the character of the same number.
 constexpr std::array<char32_t, 32> kMiddle = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
                                               0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
