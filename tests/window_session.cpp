@@ -74,7 +74,8 @@ void PassOn(std::vector<std::string>& environment, const char* name) {
 
 // The folder with the program for Windows, if set.
 std::optional<fs::path> WindowsFolder() {
-  const char* const folder = std::getenv("QUILLON_WINDOWS_FOLDER");  // one thread only
+  const char* const folder =
+      std::getenv("QUILLON_WINDOWS_FOLDER");  // NOLINT(concurrency-mt-unsafe): there is one thread
   return folder == nullptr ? std::nullopt : std::optional<fs::path>(folder);
 }
 
