@@ -88,6 +88,14 @@ TEST(ChartPage, TellsStacksAndGaps) {
   EXPECT_THAT(page, AllOf(HasSubstr("<dd><b>1.1 to 20 big blinds</b></dd>"), HasSubstr("<td data-o=\"7.1\">7.1</td>")));
 }
 
+TEST(ChartPage, ShadesFromTheSmallestStackToTheLargest) {
+  StackChart chart;
+  chart.Shove.at(0) = {.Largest = "15", .IsLast = true};
+  chart.Shove.at(1) = {.Largest = "5"};
+  const std::string page = ChartPage(chart, std::get<Steps>(Steps::Read("5:15:10")));
+  EXPECT_NE(ColorOf(CellOf(page, "AA")), ColorOf(CellOf(page, "AKs")));
+}
+
 TEST(ChartPicture, ShowsBothGrids) {
   const std::string picture = ChartPicture(SomeChart(), std::get<Steps>(Steps::Read("1.1:20:0.1")));
   for (const char* text :

@@ -129,6 +129,14 @@ TEST(SweepPicture, HoldsNumbersOfAnySize) {
   }
 }
 
+TEST(SweepPicture, ShowsNothingWonOrLostHalfwayUp) {
+  const std::string picture = SweepPicture({"", "", {"AA"}}, std::vector<SweepRow>{{"5", 0, {0.0}}});
+  const std::string axis = Split(Split(picture, "stroke=\"#7b8794\"").at(0), "<line").back();
+  const double top = LeadingNumber(Attribute(axis, "y1"));
+  const double bottom = LeadingNumber(Attribute(axis, "y2"));
+  EXPECT_NEAR(Lines(picture).at(0).at(0).second, (top + bottom) / 2, 0.11);
+}
+
 TEST(SweepPicture, LeavesRoomBetweenNumbersOfAnyLength) {
   constexpr double kDigitWidth = 7;
   for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{

@@ -23,6 +23,7 @@ TEST(MarkupText, ShowsATextAsItIs) {
            {"tab and line ends", "a\tb\r\n", "a\tb\r\n"},
            {"a zero byte", "a\0b"sv, "a" + std::string(kMark) + "b"},
            {"control characters", "\x1b\x7f\xC2\x85", std::string(kMark) + std::string(kMark) + std::string(kMark)},
+           {"the last control character, and the one after it", "\xC2\x9F\xC2\xA0", std::string(kMark) + "\xC2\xA0"},
            {"bytes that are not UTF-8", "\xFF<\xC3", std::string(kMark) + "&lt;" + std::string(kMark)},
            {"no characters", "\xEF\xBF\xBF\xEF\xB7\x90", std::string(kMark) + std::string(kMark)},
        })
