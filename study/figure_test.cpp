@@ -181,18 +181,27 @@ TEST(FigureLayout, KeepsAMarksTextWithinThePlot) {
 }
 
 TEST(FigureLayout, PutsAMarksTextWhereNoLineIs) {
-  Figure figure = TwoHands();
-  figure.Marks[0].At = 3.2;
-  const auto isAtTheTop = [&figure] {
+  struct Case {
+    const char* rule;
+    double mark;
+    std::vector<double> values;  // of the second line
+    bool atTheTop;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"nothing in the way", 3.2, {1, 1, 2, 3.5}, true},
+           {"a line just below the letters", 3.2, {1, 1, 3.55, 3.55}, false},
+           {"the start of a line", 0.8, {3.7, 1, 2, 3.5}, false},
+       }) {
+    Figure figure = TwoHands();
+    figure.Marks[0].At = c.mark;
+    figure.Lines[1].Values = c.values;
     const FigureLayout layout(figure, {800, 500});
     const auto texts = PartsOf<FigureText>(layout);
-    const FigureText* text = TextOf(texts, "now 3.2");
-    EXPECT_NE(text, nullptr);
-    return text != nullptr && text->At.Y < layout.PlotStart().Y + 20;
-  };
-  EXPECT_TRUE(isAtTheTop());
-  figure.Lines[1].Values = {1, 1, 3.55, 3.55};  // just below the letters
-  EXPECT_FALSE(isAtTheTop());
+    const FigureText* text = TextOf(texts, "now " + NumberText(c.mark));
+    ASSERT_NE(text, nullptr) << c.rule;
+    EXPECT_EQ(text->At.Y < layout.PlotStart().Y + 20, c.atTheTop) << c.rule;
+    EXPECT_LT(text->At.Y, layout.PlotEnd().Y) << c.rule;
+  }
 }
 
 TEST(FigureLayout, LeavesNotesOutWhereThereIsNoRoomForThem) {
