@@ -52,7 +52,8 @@ function(quillon_test NAME)
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE
     quillon_flags ${ARG_LINKS} quillon_test_system GTest::gmock $<IF:$<BOOL:${ARG_QT}>,quillon_qt_test_main,GTest::gtest_main>)
-  target_compile_definitions(${NAME} PRIVATE ${ARG_DEFINITIONS})
+  target_compile_definitions(${NAME} PRIVATE
+    QUILLON_GOLDEN_FOLDER="${PROJECT_SOURCE_DIR}/tests/golden" ${ARG_DEFINITIONS})
   # Tests are compiled more often than they are waited for. What they test keeps its own level.
   target_compile_options(${NAME} PRIVATE -O0)
   set_target_properties(${NAME} PROPERTIES QUILLON_IS_TEST ON)

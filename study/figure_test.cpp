@@ -12,6 +12,7 @@
 
 #include "study/figure_svg.h"
 #include "support/number_text.h"
+#include "testing/golden_file.h"
 
 namespace quillon {
 namespace {
@@ -261,6 +262,14 @@ TEST(FigureLayout, LiesUnderAnother) {
   const std::string both = FigureSvg(figures);
   EXPECT_THAT(both, HasSubstr("<g transform=\"translate(0 " + NumberText(above.Size().Height) + ")\">"));
   EXPECT_THAT(both, HasSubstr("height=\"" + NumberText(above.Size().Height + below.Size().Height) + "\""));
+}
+
+TEST(FigureSvg, IsTheGoldenPicture) {
+  std::vector<Figure> figures = {TwoHands(), TwoHands()};
+  figures[0].Subtitle = "He calls with \"Tight\"";
+  figures[1].Across.Pot = 0;
+  AlignFigures(figures);
+  ExpectGolden(FigureSvg(figures), "figures.svg");
 }
 
 TEST(FigureSvg, HasMarksAndPots) {

@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "testing/golden_file.h"
+
 namespace quillon {
 namespace {
 
@@ -96,7 +98,7 @@ TEST(ChartPage, ShadesFromTheSmallestStackToTheLargest) {
   EXPECT_NE(ColorOf(CellOf(page, "AA")), ColorOf(CellOf(page, "AKs")));
 }
 
-TEST(ChartPicture, ShowsBothGrids) {
+TEST(ChartPicture, ShowsBothGridsAsTheGoldenPicture) {
   const std::string picture = ChartPicture(SomeChart(), std::get<Steps>(Steps::Read("1.1:20:0.1")));
   for (const char* text :
        {">20+<", ">7.1*<", ">1.5<", ">Shove, up to so many big blinds (* with gaps)<", ">* But not at: AKs 2.3-5.1<"})
@@ -105,6 +107,7 @@ TEST(ChartPicture, ShowsBothGrids) {
   for (std::size_t at = 0; (at = picture.find("<rect class=", at)) != std::string::npos; ++at)
     ++cells;
   EXPECT_EQ(cells, 2U * 169);
+  ExpectGolden(picture, "chart.svg");
 }
 
 }  // namespace

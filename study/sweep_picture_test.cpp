@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "support/number_text.h"
+#include "testing/golden_file.h"
 #include "testing/split_text.h"
 
 namespace quillon {
@@ -50,7 +51,7 @@ double ZeroLine(const std::string& picture) {
   return LeadingNumber(Attribute(Split(Split(picture, "class=\"zero\"").at(0), "<line").back(), "y1"));
 }
 
-TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
+TEST(SweepPicture, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
   const std::vector<SweepRow> rows = {{"5", 1326, {2, -1}}, {"10", 900, {1, -2}}, {"15", 100, {0, 3}}};
   const std::string picture = SweepPicture({"Preflop Raise", "Shove", {"AA", "72o"}}, rows);
   const auto lines = Lines(picture);
@@ -69,6 +70,7 @@ TEST(SweepPicture, DrawsEachHandWhereItsValuesAre) {
   EXPECT_NEAR(above, below, 0.11);
   EXPECT_THAT(picture, AllOf(HasSubstr(">AA</text>"), HasSubstr(">72o</text>"), HasSubstr(">Preflop Raise</text>"),
                              HasSubstr(">Shove</text>"), HasSubstr(">Expected value, in the unit of the amounts<")));
+  ExpectGolden(picture, "sweep.svg");
 }
 
 TEST(SweepPicture, NamesLinesRightOfThemAndApart) {

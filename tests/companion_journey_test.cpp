@@ -1,15 +1,8 @@
-// Whole runs of the companion as its user sees them: the real program in a folder with the example ranges, as ./run
-// sets it up, started from another folder.
-//
-// It must print the reports in tests/golden to the last character. After an intentional change, rewrite them and check
-// the diff before committing:
-//
-//     QUILLON_WRITE_GOLDEN=1 build/dev/bin/companion_journey_test --gtest_filter='*Golden*'
+// Whole runs of the companion as its user sees them: the real program, put into a folder with the example ranges as
+// ./run does it, started from somewhere else.
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
@@ -21,6 +14,7 @@
 #include "support/files.h"
 #include "testing/companion_program.h"
 #include "testing/folder_state.h"
+#include "testing/golden_file.h"
 #include "testing/split_text.h"
 #include "testing/temporary_folder.h"
 #include "tests/program_run.h"
@@ -78,11 +72,10 @@ class Household {
 
 // ---- golden reports
 
-// The files contain the default web host.
-std::string WithHomeAddress(std::string text) {
-  constexpr std::string_view kUsual = "http://www.quillon.example/quillon/";
-  const std::size_t at = text.find(kUsual);
-  if (at != std::string::npos) text.replace(at, kUsual.size(), HomeAddress());
+// The files hold the web host that is built in unless another one is chosen.
+std::string WithUsualAddress(std::string text) {
+  const std::size_t at = text.find(HomeAddress());
+  if (at != std::string::npos) text.replace(at, HomeAddress().size(), "http://www.quillon.example/quillon/");
   return text;
 }
 
@@ -99,12 +92,7 @@ TEST(CompanionJourney, PrintsTheGoldenReportsToTheLastCharacter) {
     const ProgramOutcome outcome = household.Run(With(c.command, {"--format", c.format}));
     EXPECT_EQ(outcome.Status, 0) << c.file;
     EXPECT_EQ(outcome.Errors, "") << c.file;
-    const fs::path golden = fs::path(QUILLON_GOLDEN_FOLDER) / c.file;
-    if (std::getenv("QUILLON_WRITE_GOLDEN") != nullptr) {  // NOLINT(concurrency-mt-unsafe): there is one thread
-      std::ofstream(golden, std::ios::binary) << outcome.Output;
-      continue;
-    }
-    EXPECT_EQ(outcome.Output, WithHomeAddress(ReadAllBytes(golden))) << c.file;
+    ExpectGolden(WithUsualAddress(outcome.Output), c.file);
   }
 }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+// The files in tests/golden are what the program must write, to the last character. After a change that should change
+// them, write them anew, and look at the difference before it is committed:
+//
+//     QUILLON_WRITE_GOLDEN=1 build/dev/bin/study_test --gtest_filter='*Golden*'
+
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+
+#include "testing/file_bytes.h"
+
+namespace quillon {
+
+/// Fails the test where the text differs from that file of tests/golden, or writes the file.
+inline void ExpectGolden(std::string_view text, const std::string& file) {
+  const std::filesystem::path path = std::filesystem::path(QUILLON_GOLDEN_FOLDER) / file;
+  if (std::getenv("QUILLON_WRITE_GOLDEN") != nullptr) {  // NOLINT(concurrency-mt-unsafe): there is one thread
+    Put(path, text);
+    return;
+  }
+  EXPECT_EQ(text, BytesOf(path)) << file;
+}
+
+}  // namespace quillon
