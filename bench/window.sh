@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Measures the window on a virtual screen of its own: bench/window_bench.cpp, and the time from the start of the real
-# program to its window on the screen, over ten starts.
+# Measures the window on a virtual screen: bench/window_bench.cpp, and the time from the start of the real program to its
+# visible window, over ten starts.
 #
-#   bench/window.sh [PRESET]    bench unless named
+#   bench/window.sh [PRESET]    by default bench
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 bin=build/${1:-bench}/bin

@@ -1,4 +1,4 @@
-# The one target that carries compiler flags; whether a warning is an error is for the preset to say. Everything of ours links it; nothing sets flags of its own.
+# The only target with compiler flags; everything of ours links it. The preset decides whether warnings are errors.
 add_library(quillon_flags INTERFACE)
 
 target_include_directories(quillon_flags INTERFACE ${PROJECT_SOURCE_DIR})
@@ -7,17 +7,17 @@ target_compile_options(quillon_flags INTERFACE
   -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast -Wcast-align
   -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
   -Wformat=2 -Wimplicit-fallthrough -Wextra-semi -Wundef)
-# GCC 12 sees overlapping copies inside std::string although there are none (GCC bug 105651).
+# GCC 12 falsely reports overlapping copies inside std::string (GCC bug 105651).
 target_compile_options(quillon_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(quillon_flags INTERFACE
   $<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
 
-# Results must agree to the last digit wherever they are computed: no fused multiply-add, no reordering.
+# Results must agree to the last digit on every machine: no fused multiply-add, no reordering.
 target_compile_options(quillon_flags INTERFACE -ffp-contract=off)
 
-# What is shipped is hardened, and the same wherever it is built. Tests are not optimised, which FORTIFY needs.
+# Release builds are hardened and reproducible. Tests are not optimised, as FORTIFY would need.
 set(hardened $<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLON_IS_TEST>>>>)
-# Windows moves all code, and a large frame there touches its pages one by one as it is.
+# On Windows code is always relocatable, and large stack frames are always probed.
 set(hardened_posix $<AND:${hardened},$<NOT:$<BOOL:${WIN32}>>>)
 target_compile_options(quillon_flags INTERFACE
   $<${hardened}:-U_FORTIFY_SOURCE>
@@ -33,11 +33,11 @@ if(WIN32)
   # Windows 10 and later, with names in UTF-16, and without the macros that hide std::min and std::max.
   target_compile_definitions(quillon_flags INTERFACE
     _WIN32_WINNT=0x0A00 WINVER=0x0A00 NOMINMAX UNICODE _UNICODE)
-  # What the stack protector calls is in a library; without the time of the build; and with stacks as large as on Linux,
-  # for what is matched recursively (cmake/httplib.cmake).
+  # The stack protector's library; no build time; and stacks as large as on Linux, for recursive matching
+  # (cmake/httplib.cmake).
   target_link_options(quillon_flags INTERFACE
     $<${hardened}:-fstack-protector-strong> LINKER:--no-insert-timestamp,--stack,8388608)
-  # Programs without a window run alone; the window shares Qt's libraries and those of the compiler with them.
+  # Programs without a window are static; the window uses Qt's shared libraries and the compiler's.
   if(NOT QUILLON_GUI)
     target_link_options(quillon_flags INTERFACE -static)
   endif()
@@ -53,8 +53,7 @@ if(QUILLON_SANITIZE)
 endif()
 
 if(QUILLON_COVERAGE)
-  # Clang counts what is in the source. GCC counts the branches of the machine code, of which most are exceptions
-  # that the library might throw.
+  # Clang counts source branches. GCC counts those of the machine code, most of which are possible exceptions.
   target_compile_options(quillon_flags INTERFACE -fprofile-instr-generate -fcoverage-mapping)
   target_link_options(quillon_flags INTERFACE -fprofile-instr-generate)
 endif()

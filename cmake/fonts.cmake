@@ -1,7 +1,7 @@
-# The fonts of the layouts, compiled in, so that a copied folder looks the same on every machine. They are those of the
-# Debian packages that tools/install_packages.sh names, and none of them is kept with the sources.
+# The fonts of the layouts, compiled in, so that a copied folder looks the same on every machine. They come from
+# Debian packages (tools/install_packages.sh), not from the sources.
 #
-# quillon_add_fonts(TARGET): the resource quillon_fonts with one file a font under ":/fonts".
+# quillon_add_fonts(TARGET): the resource quillon_fonts with one file per font under ":/fonts".
 set(QUILLON_LIBERATION_FONTS /usr/share/fonts/truetype/liberation2 CACHE PATH "The folder of the Liberation 2 fonts")
 set(QUILLON_DEJAVU_FONTS /usr/share/fonts/truetype/dejavu CACHE PATH "The folder of the DejaVu fonts")
 set(QUILLON_LIBERATION_LICENCE /usr/share/doc/fonts-liberation2/copyright CACHE FILEPATH "The licence of Liberation 2")
@@ -25,7 +25,7 @@ function(quillon_add_fonts TARGET)
   endforeach()
   set(list ${CMAKE_CURRENT_BINARY_DIR}/quillon_fonts.qrc)
   file(CONFIGURE OUTPUT ${list} @ONLY CONTENT "<RCC>\n  <qresource prefix=\"/fonts\">\n${entries}  </qresource>\n</RCC>\n")
-  # Millions of bytes as a source would take a compiler minutes.
+  # As a source, these millions of bytes would take minutes to compile.
   qt_add_big_resources(objects ${list} OPTIONS --no-compress ${QUILLON_RESOURCE_OPTIONS})
   target_sources(${TARGET} PRIVATE ${objects})
 endfunction()

@@ -1,10 +1,10 @@
-# Qt, for the folders of the window. What does not link quillon_qt cannot include a header of Qt's.
+# Qt, for the window's folders. Targets that do not link quillon_qt cannot include Qt headers.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
 if(QUILLON_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
 
-# What the system's own ways are reached with, in the sources that are named for it.
+# For the system-specific sources.
 add_library(quillon_window_system INTERFACE)
 if(WIN32)
   target_link_libraries(quillon_window_system INTERFACE ole32 oleaut32)
@@ -15,10 +15,10 @@ else()
   target_link_libraries(quillon_window_system INTERFACE
     Qt6::DBus # announcements to screen readers
     Qt6::Svg # the artwork as it is
-    PkgConfig::XCB) # hands the clipboard over as the program ends
+    PkgConfig::XCB) # hands the clipboard over when the program ends
 endif()
 
-# Later formats have the times of the files in them, and a program would depend on when its sources were unpacked.
+# Later formats contain file times, which would make builds irreproducible.
 set(QUILLON_RESOURCE_OPTIONS --format-version 1)
 
 add_library(quillon_qt INTERFACE)

@@ -1,20 +1,20 @@
 # quillon_library(NAME HEADERS ... SOURCES ... LINKS ... TESTS ... QT_TESTS ... POSIX_TESTS ... WINDOWS_TESTS ...
 #   TEST_LINKS ... TEST_DEFINITIONS ...)
 #
-# One folder's library `quillon_NAME`, and one test program `NAME_test` of the tests beside its sources. A
-# folder whose tests build windows lists all of them as QT_TESTS. Rules of one system only have tests of their own.
+# A folder's library `quillon_NAME`, and a program `NAME_test` of its tests. A folder whose tests create windows lists
+# all of them as QT_TESTS. POSIX_TESTS and WINDOWS_TESTS are for one system's own rules.
 function(quillon_library NAME)
   cmake_parse_arguments(ARG "" ""
     "HEADERS;SOURCES;LINKS;TESTS;QT_TESTS;POSIX_TESTS;WINDOWS_TESTS;TEST_LINKS;TEST_DEFINITIONS" ${ARGN})
 
-  # For tools/coverage.sh, which must not count what only tests are made of.
+  # For tools/coverage.sh, which must not count test helpers.
   set(product ${ARG_HEADERS} ${ARG_SOURCES})
   list(TRANSFORM product PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
   list(JOIN product "\n" product)
   file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/product/${NAME}.txt CONTENT "${product}\n" @ONLY)
 
-  # A header with a source beside it is the first that this source includes, and so compiles alone as it is. The others
-  # are compiled alone by the target all_verify_interface_header_sets.
+  # A header with a source is the first one that the source includes, which shows that it compiles alone. The target
+  # all_verify_interface_header_sets compiles the others alone.
   set(lone ${ARG_HEADERS})
   list(TRANSFORM ARG_SOURCES REPLACE "\\.cpp$" ".h" OUTPUT_VARIABLE first_includes)
   list(REMOVE_ITEM lone ${first_includes})
@@ -41,8 +41,8 @@ endfunction()
 
 # quillon_test(NAME [QT] SOURCES ... LINKS ... DEFINITIONS ... PROGRAMS ...)
 #
-# One GoogleTest program; each of its tests is a test of ctest's. Its main is GoogleTest's own, or with QT that of tests
-# that build windows. PROGRAMS are targets that it starts. Nothing where no tests are built.
+# A GoogleTest program; each of its tests becomes a ctest test. Its main is GoogleTest's own, or with QT that for tests
+# with windows. PROGRAMS are targets that it starts. Does nothing if no tests are built.
 function(quillon_test NAME)
   if(NOT QUILLON_TESTS)
     return()
@@ -54,7 +54,7 @@ function(quillon_test NAME)
     quillon_flags ${ARG_LINKS} quillon_test_system GTest::gmock $<IF:$<BOOL:${ARG_QT}>,quillon_qt_test_main,GTest::gtest_main>)
   target_compile_definitions(${NAME} PRIVATE
     QUILLON_GOLDEN_FOLDER="${PROJECT_SOURCE_DIR}/tests/golden" ${ARG_DEFINITIONS})
-  # Tests are compiled more often than they are waited for. What they test keeps its own level.
+  # Compiling tests takes longer than running them. The tested code keeps its own level.
   target_compile_options(${NAME} PRIVATE -O0)
   set_target_properties(${NAME} PROPERTIES QUILLON_IS_TEST ON)
   if(TARGET quillon_test_headers)
@@ -64,7 +64,7 @@ function(quillon_test NAME)
     add_dependencies(${NAME} ${ARG_PROGRAMS})
   endif()
   if(QUILLON_SANITIZE OR CMAKE_CROSSCOMPILING)
-    # A program takes long to start under a sanitizer, and in an emulator.
+    # Programs start slowly under a sanitizer and under Wine.
     add_test(NAME ${NAME} COMMAND ${NAME} --gtest_brief=1)
   else()
     gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES)

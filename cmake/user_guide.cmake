@@ -1,4 +1,4 @@
-# The user guide as a page for the browser, with its pictures, in the folder "Guide" beside the program.
+# The user guide as a page for the browser, with its pictures, in the folder "Guide" next to the program.
 find_program(QUILLON_CMARK cmark-gfm REQUIRED)
 set(guide ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Guide)
 file(GLOB guide_pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/screens/*)

@@ -1,5 +1,5 @@
-# What Debian has for itself only, made for Windows: the libraries of headers alone as they are, GoogleTest from its
-# sources. The headers of this machine's own system must not be found along with them.
+# Debian's libraries, for Windows: header-only ones as they are, GoogleTest from its sources. The other headers of this
+# system must not be found.
 function(quillon_borrow_headers TARGET NAME)
   set(borrowed ${CMAKE_BINARY_DIR}/borrowed/${NAME})
   file(MAKE_DIRECTORY ${borrowed})
@@ -17,7 +17,7 @@ if(QUILLON_TESTS)
     target_compile_options(${library} PRIVATE -O0)
   endforeach()
 
-  # Read once for all tests: they are compiled for every change here as well as at home, and half of that is headers.
+  # Precompiled for all tests: half of their compile time is headers.
   file(WRITE ${CMAKE_BINARY_DIR}/test_headers.cpp "")
   add_library(quillon_test_headers OBJECT ${CMAKE_BINARY_DIR}/test_headers.cpp)
   target_link_libraries(quillon_test_headers PRIVATE quillon_flags GTest::gmock)

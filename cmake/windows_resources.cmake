@@ -1,12 +1,11 @@
-# quillon_windows_resources(TARGET DESCRIPTION): what Windows reads in an executable: its icon, its version, and the
-# manifest, which says what the program is used to: Windows 10, names in UTF-8, long paths, and screens of any density.
-# Nothing on other systems.
+# quillon_windows_resources(TARGET DESCRIPTION): a Windows executable's icon, version, and manifest, which declares
+# support for Windows 10, UTF-8 names, long paths, and screens of any density. Does nothing on other systems.
 if(WIN32)
   enable_language(RC)
   find_program(QUILLON_RSVG_CONVERT rsvg-convert REQUIRED)
   find_program(QUILLON_ICOTOOL icotool REQUIRED)
 
-  # The sizes that Windows shows at 100% to 250%; the largest is kept as a PNG.
+  # The sizes that Windows uses at 100% to 250%; the largest is stored as a PNG.
   set(drawing ${PROJECT_SOURCE_DIR}/artwork/icon.svg)
   set(icon_folder ${PROJECT_BINARY_DIR}/windows_icon)
   file(MAKE_DIRECTORY ${icon_folder})
@@ -35,7 +34,7 @@ function(quillon_windows_resources TARGET DESCRIPTION)
   set(made ${CMAKE_CURRENT_BINARY_DIR}/${TARGET})
   configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/program.manifest.in ${made}.manifest @ONLY)
   configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/program.rc.in ${made}.rc @ONLY)
-  # Compiled apart: what a target's flags say to the compiler, windres would not understand.
+  # Compiled separately: windres does not understand a target's compiler flags.
   add_library(${TARGET}_resources OBJECT ${made}.rc)
   set_source_files_properties(${made}.rc PROPERTIES OBJECT_DEPENDS "${QUILLON_ICON};${made}.manifest")
   add_dependencies(${TARGET}_resources quillon_windows_icon)

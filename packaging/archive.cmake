@@ -1,5 +1,5 @@
-# Packs the portable folder that CPack has put together. CPack's own archives have the order of the file system and the
-# times of the build; this one is the same wherever it is made.
+# Packs the portable folder that CPack has assembled. CPack's own archives depend on the file system's order and on build
+# times; this one is reproducible.
 set(archive "${CPACK_PACKAGE_DIRECTORY}/${CPACK_PACKAGE_FILE_NAME}.tar.xz")
 execute_process(
   COMMAND tar --sort=name --owner=0 --group=0 --numeric-owner --mode=u=rwX,go=rX "--mtime=@$ENV{SOURCE_DATE_EPOCH}"

@@ -1,6 +1,6 @@
-# The licence, in SPDX's words, under which a portable archive carries the libraries of each Debian package; of several
-# to choose from, the one chosen. A package that is not here stops the packaging: read its licence first, which must go
-# with MIT. None is compiled in; each is a file that can be replaced.
+# The SPDX licence of each Debian package whose libraries a portable archive contains; if there is a choice, the one
+# chosen. A missing package stops the packaging: read its licence first, which must be compatible with MIT. None is
+# compiled in; each is a file that can be replaced.
 set(licence_of_gcc-mingw-w64-x86-64-posix-runtime "GPL-3.0-or-later WITH GCC-exception-3.1")
 set(licence_of_libb2-1 CC0-1.0)
 set(licence_of_libcap2 BSD-3-Clause)

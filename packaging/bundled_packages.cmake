@@ -1,15 +1,15 @@
-# What a folder that runs from anywhere owes to the Debian packages whose files it carries.
+# Licences of the Debian packages whose files a portable folder contains.
 #
-# quillon_append_package_of(PACKAGES FILE): appends to the list the package that FILE is of.
-# quillon_copy_licences(ROOT COPYRIGHTS...): copies these files, "PACKAGE=FILE", to "licences/PACKAGE", and beside them the
-# licences that they refer to.
+# quillon_append_package_of(PACKAGES FILE): appends the package of FILE to the list.
+# quillon_copy_licences(ROOT COPYRIGHTS...): copies these files, "PACKAGE=FILE", to "licences/PACKAGE", with the licences
+# that they refer to.
 function(quillon_append_package_of PACKAGES FILE)
-  # A merged /usr gives a file two names, of which the package list knows one.
+  # With a merged /usr a file has two names, only one of which is in the package list.
   file(REAL_PATH "${FILE}" real)
   string(REGEX REPLACE "^/usr/" "/" short "${real}")
   execute_process(COMMAND dpkg-query --search "${real}" "${short}" OUTPUT_VARIABLE owners ERROR_QUIET)
   if(NOT owners MATCHES "^([^:,\n]+)")
-    message(FATAL_ERROR "${real} is of no package")
+    message(FATAL_ERROR "${real} belongs to no package")
   endif()
   set(${PACKAGES} ${${PACKAGES}} ${CMAKE_MATCH_1} PARENT_SCOPE)
 endfunction()

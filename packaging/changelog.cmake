@@ -1,9 +1,9 @@
-# quillon_read_changelog(FILE): makes of CHANGELOG.md, the one place that tells what has changed,
+# quillon_read_changelog(FILE): generates from CHANGELOG.md
 #
 #   QUILLON_RELEASES       the <release> elements of the metainfo
 #   debian-changelog       the same for a Debian package, a file in the build folder
 #
-# and fails where its newest version is not the project's.
+# and fails if its newest version is not the project's.
 function(quillon_read_changelog FILE)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${FILE})
   file(READ ${FILE} text)
@@ -18,9 +18,9 @@ function(quillon_read_changelog FILE)
       set(version ${CMAKE_MATCH_1})
       set(date ${CMAKE_MATCH_2})
       if(releases STREQUAL "" AND NOT version STREQUAL PROJECT_VERSION)
-        message(FATAL_ERROR "CHANGELOG.md begins with ${version}, and the program is ${PROJECT_VERSION}")
+        message(FATAL_ERROR "CHANGELOG.md begins with ${version}, but the program is ${PROJECT_VERSION}")
       endif()
-      # The program reads versions as decimal numbers, packages read them part by part; both must see them fall.
+      # The program reads versions as decimal numbers, packages part by part; both must see them descend.
       if(newer AND NOT (newer GREATER version AND newer VERSION_GREATER version))
         message(FATAL_ERROR "CHANGELOG.md has ${version} after ${newer}")
       endif()
@@ -45,7 +45,7 @@ function(quillon_read_changelog FILE)
   set(QUILLON_RELEASES "${releases}${release_end}" PARENT_SCOPE)
 endfunction()
 
-# An item of a Debian changelog, whose lines have up to 79 letters.
+# An item of a Debian changelog, whose lines have up to 79 characters.
 function(quillon_wrap TEXT RESULT)
   set(wrapped "")
   set(start "  * ")

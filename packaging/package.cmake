@@ -1,4 +1,4 @@
-# The Debian package, of the component "system", and the portable archive, of the component "portable", which CPack
+# The Debian package, from the component "system", and the portable archive, from the component "portable", which CPack
 # makes with -G DEB and -G External.
 set(docs ${CMAKE_INSTALL_DATADIR}/doc/quillon)
 set(licence_names ${licences})

@@ -1,8 +1,7 @@
 # quillon_write_spdx(FILE NAME PACKAGES...): a bill of materials in SPDX 2.3 (JSON) of the portable folder NAME: the
-# program, what is compiled into it, what quillon_append_spdx has added before, and the Debian packages whose libraries it
-# carries, as "PACKAGE", or as "PACKAGE=VERSION" where it is not installed. The licence of each is from
-# bundled_licences.cmake. Reads `QUILLON_WEB_HOST` and `PROJECT_VERSION`. Of SOURCE_DATE_EPOCH is the time in it, so that two makings
-# are the same.
+# program, what is compiled into it, what quillon_append_spdx has added before, and the Debian packages of its libraries,
+# as "PACKAGE", or as "PACKAGE=VERSION" if not installed. Licences are from bundled_licences.cmake. Reads
+# `QUILLON_WEB_HOST` and `PROJECT_VERSION`, and its time from SOURCE_DATE_EPOCH, so that builds are reproducible.
 
 # Appends a package to the caller's `packages_json` and `relations_json`.
 function(quillon_append_spdx NAME VERSION LICENCE RELATION URL)
@@ -84,7 +83,7 @@ ${relations_json}
 }
 ")
   file(READ "${FILE}" written)
-  string(JSON packages LENGTH "${written}" packages) # fails where it is not JSON
+  string(JSON packages LENGTH "${written}" packages) # fails if it is not JSON
 endfunction()
 
 # The version of an installed Debian package.

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Reads the ELF files of packages and fails where a program of ours is not hardened, where a file looks for libraries
-# outside the package, or where the portable archive needs what neither it nor its host has.
+# Checks the ELF files of packages: our programs must be hardened, no file may look for libraries outside the package,
+# and whatever the portable archive needs must be in it or on its host.
 #
 #   tools/check_elf.sh FILE...    Debian packages and portable archives
 set -euo pipefail
@@ -16,10 +16,10 @@ fail() {
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
-# Each that is not there is told of: check_hardening NAME FILE
+# Reports each missing protection: check_hardening NAME FILE
 check_hardening() {
   local name=$1 file=$2
-  # Kept as texts: a search that ends at its first find would break the pipe to it.
+  # Kept as texts: grep -q would break a pipe at its first match.
   local header segments dynamic symbols code
   header=$(readelf -Wh "$file")
   segments=$(readelf -Wl "$file")
@@ -30,14 +30,14 @@ check_hardening() {
   grep -q 'GNU_RELRO' <<<"$segments" && grep -q 'BIND_NOW\|Flags:.*NOW' <<<"$dynamic" || fail "$name: no full RELRO"
   grep -q '__stack_chk_fail' <<<"$symbols" || fail "$name: no stack protector"
   grep -q '__[a-z]*_chk@' <<<"$symbols" || fail "$name: no FORTIFY"
-  # The library's own objects have a few; in ours every function that may be jumped to begins so.
+  # The library's own objects have a few; in ours every function that may be an indirect jump target begins with it.
   [ "$(grep -c 'endbr64' <<<"$code")" -gt 1000 ] || fail "$name: no control-flow protection"
 }
 
 # For every ELF file: check_file NAME FILE FOLDER
 check_file() {
   local name=$1 file=$2 root=$3 path folder
-  # A file that says nothing of its stack can execute it.
+  # Without this segment the stack is executable.
   readelf -Wl "$file" | grep 'GNU_STACK' | grep -q ' RW ' || fail "$name: the stack can be executed"
   path=$(readelf -Wd "$file" | sed -n 's/.*\(RUNPATH\|RPATH\).*\[\(.*\)\]/\2/p')
   [ -n "$path" ] || return 0
@@ -45,11 +45,11 @@ check_file() {
   [[ $path != *:* && $path == '$ORIGIN'* && $folder/ == "$root"/* ]] || fail "$name: looks for libraries in $path"
 }
 
-# Every library that a file of the archive needs is in it, or comes from the host: check_needs NAME FILE FOLDER
+# Every library that a file of the archive needs must be in it or on the host: check_needs NAME FILE FOLDER
 check_needs() {
   local name=$1 file=$2 root=$3 library
   for library in $(readelf -Wd "$file" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p'); do
-    [ -e "$root/lib/$library" ] || grep -qxF "${library%%.so*}" <<<"$host" || fail "$name: needs $library, which nobody brings"
+    [ -e "$root/lib/$library" ] || grep -qxF "${library%%.so*}" <<<"$host" || fail "$name: needs $library, which is neither in the archive nor on the host"
   done
 }
 

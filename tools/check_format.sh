@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails, naming the places, where a source is not as clang-format 14 would write it. With --fix it writes it so.
+# Fails, naming the places, if clang-format 14 would change a source. With --fix it formats them.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -1,12 +1,11 @@
 #!/usr/bin/env bash
 # Runs clang-tidy 14 with the rules of .clang-tidy and fails on a finding.
 #
-#   tools/check_lint.sh            the product, its programs and what tests are made of
+#   tools/check_lint.sh            the product, its programs and the test helpers
 #   tools/check_lint.sh FILE ...   these sources
 #
-# Tests and what they are made of are held to fewer rules, those that find faults: the analyzer would follow every path
-# through their macros. Unless they are named, tests, benchmarks and fuzz targets are left to the warnings of both
-# compilers; to read them all takes three times as long as the rest.
+# Tests and test helpers get fewer rules, those that find bugs: the analyzer would follow every path in their macros.
+# Unless named, tests, benchmarks and fuzz targets are not linted; they take three times as long as the rest.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -18,7 +17,7 @@ cmake --preset dev >/dev/null
 if [ $# -gt 0 ]; then
   sources=("$@")
 else
-  # The equity rows are data, and take longer to look at than all else together. This build knows no Windows sources.
+  # The equity rows are data, and would take longer than everything else. This build has no Windows sources.
   mapfile -t sources < <(git ls-files '*.cpp' | grep -vE '_test\.cpp$|^(bench|fuzz|third_party)/|^hand/equity_rows\.cpp$|_windows\.cpp$')
 fi
 

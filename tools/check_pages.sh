@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Opens web pages and pictures of the companion in a browser without a window: nothing may be fetched or complain on the
-# console, keyboard and sorting must work, and all must look as in tests/golden and in the guide. Pictures that differ are left in
+# Opens web pages and pictures of the companion in a headless browser: they may fetch nothing and log no errors, keyboard
+# and sorting must work, and all must look as in tests/golden and in the guide. Pictures that differ are kept in
 # FOLDER/failed_pages.
 #
 #   tools/check_pages.sh           with the companion of the preset dev
 #   tools/check_pages.sh FOLDER    with that of another build folder
-#   QUILLON_WRITE_GOLDEN=1 tools/check_pages.sh    takes the pictures anew; look at them before you commit
+#   QUILLON_WRITE_GOLDEN=1 tools/check_pages.sh    rewrites the pictures; look at them before you commit
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -24,9 +24,9 @@ complain() {
   failed=1
 }
 
-# browse NAME WIDTH HEIGHT: opens $work/NAME, a page or a picture, and leaves NAME.png, NAME.console (what the page wrote
-# there) and NAME.requests (what it asked for beside itself) beside it. No name is resolved: the browser asks its makers
-# this and that, too. Requests of pages carry the annotation of the page loader, a constant of Chromium.
+# browse NAME WIDTH HEIGHT: opens $work/NAME, a page or a picture, and writes NAME.png, NAME.console (its log) and
+# NAME.requests (its other requests) next to it. No host name is resolved, since the browser makes requests of its own.
+# A page's requests have the annotation of the page loader, a constant of Chromium.
 browse() {
   local file=$work/$1
   local sandbox=()
@@ -40,8 +40,8 @@ browse() {
   grep -o '"traffic_annotation":101845102,"url":"[^"]*"' "$file.net" >"$file.requests" || true
 }
 
-# expect_look NAME GOLDEN: NAME.png against a golden picture, by the rule of the window's: how much of any tile of 32 by 32
-# pixels differs noticeably. Over a whole picture a lost word would hardly count.
+# expect_look NAME GOLDEN: compares NAME.png with a golden picture like the window's: by the share of noticeably
+# different pixels in any tile of 32 by 32. Over a whole picture a missing word would hardly count.
 expect_look() {
   local seen=$work/$1.png golden=$2
   if [ -n "${QUILLON_WRITE_GOLDEN:-}" ]; then
@@ -63,7 +63,7 @@ expect_look() {
   fi
 }
 
-# What is not noticed here would be noticed nowhere.
+# Checks that the check itself can fail.
 cat >"$work/bad.html" <<'END'
 <!DOCTYPE html><link rel="icon" href="data:,"><script>console.error("trouble")</script>
 <img src="http://quillon.invalid/x.png">
@@ -72,7 +72,7 @@ browse bad.html 200 200
 grep -q trouble "$work/bad.html.console" || complain "An error on the console goes unnoticed"
 grep -q quillon.invalid "$work/bad.html.requests" || complain "A request goes unnoticed"
 
-# check_page NAME GOLDEN WIDTH HEIGHT ARGUMENT...: what the companion prints for the arguments.
+# check_page NAME GOLDEN WIDTH HEIGHT ARGUMENT...: checks the companion's output for the arguments.
 check_page() {
   local name=$1 golden=$2 width=$3 height=$4
   shift 4
@@ -103,7 +103,7 @@ check_page limits.svg $golden/limits_grid.png 760 610 limits raise "${shove[@]}"
 check_page chart.html $golden/chart_page.png 1180 1500 chart
 check_page chart.svg $golden/chart_grids.png 1510 660 chart
 
-# Those of the guide.
+# The guide's pictures.
 guide=(raise --pot 1.5 --call 0.5 --hands any --calling-hands "top 30%")
 check_page raise.html docs/screens/page.png 1180 1000 "${guide[@]}" --shove 9
 check_page sweep.svg $golden/sweep.png 820 520 sweep "${guide[@]}" --shove 1:20:0.5 --hand AA A5s 22 K9o T8s 72o

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# Runs each library's tests with counters in the code, and prints how many lines and branches they reach: first of the
-# libraries without a toolkit, then of those of the forms. What counts is what a library lists as its own, so nothing
-# that only tests are made of. Fails where a share falls short. build/coverage/missed.txt has the lines and branches that
-# were missed.
+# Prints how many lines and branches each library's tests reach: first for the libraries without a toolkit, then for
+# those of the forms. Only a library's own sources count, not test helpers. Fails if a share is too low. The missed lines and
+# branches are in build/coverage/missed.txt.
 #
 #   tools/coverage.sh
 set -euo pipefail

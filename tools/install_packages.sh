@@ -1,40 +1,40 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing, and says nothing where none is.
+# Installs missing Debian packages, and prints nothing if there are none.
 #
 #   tools/install_packages.sh run      what ./run needs: to build the programs and to run them
-#   tools/install_packages.sh check    what ./check needs: that, and what tests and benchmarks are made of
+#   tools/install_packages.sh check    what ./check needs: that, and the packages for tests and benchmarks
 #   tools/install_packages.sh lint     what .ci/run needs on top of ./check
 #   tools/install_packages.sh windows  what the presets for Windows and tools/windows/build.sh need on top of ./check
 #   tools/install_packages.sh newer    what the nightly check of a newer compiler needs on top of ./check
 #   tools/install_packages.sh fuzz     what the presets asan and fuzz need on top of ./check
 #   tools/install_packages.sh coverage what tools/coverage.sh needs on top of ./check
 #   tools/install_packages.sh pages    what tools/check_pages.sh needs on top of ./check
-#   tools/install_packages.sh package  what ./package needs: what ./run needs, and what packages are made with
+#   tools/install_packages.sh package  what ./package needs: what ./run needs, and packaging tools
 #   tools/install_packages.sh bare     what tools/try_packages.sh needs on top of ./check and ./package
 #   tools/install_packages.sh screens  what tools/screenshots.sh needs on top of ./check
-#   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that but for screens, and more
+#   tools/install_packages.sh reliability  what tools/reliability.sh needs: all of that except for screens, and more
 #
-# This is the one place that names packages.
+# This is the only place that names packages.
 set -euo pipefail
 
 run=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 # The user guide as a page for the browser.
 run+=(cmark-gfm)
-# The window, the fonts that are compiled into it, and what opens its links and pictures.
+# The window, the fonts compiled into it, and the opener of its links and pictures.
 run+=(qt6-base-dev qt6-svg-dev libxcb1-dev pkg-config xdg-utils)
 run+=(fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra)
 check=("${run[@]}" libgtest-dev libgmock-dev libbenchmark-dev)
-# What spreads a batch over workers.
+# Distributes a batch over workers.
 check+=(parallel)
-# A screen in memory for the tests that use it.
+# A virtual screen for tests.
 check+=(xvfb xauth openbox xdotool xclip x11-utils dbus at-spi2-core imagemagick)
-# Shells that complete the companion's command line, and what reads its manual page.
+# Shells for testing completions, and a reader of manual pages.
 check+=(bash zsh fish groff-base)
-# What reads the menu entry and the description for software centres.
+# Validators of the menu entry and of the description for software centres.
 check+=(desktop-file-utils appstream)
 lint=(git clang-format-14 clang-tidy-14)
 fuzz=(clang-14 libclang-rt-14-dev)
-# Programs for Windows, and what runs them.
+# The compiler for Windows, and Wine to run its programs.
 windows=(g++-mingw-w64-x86-64-posix googletest python3 wine wine64)
 # The zip: Qt from its sources, the icon, the archive.
 windows+=(dpkg-dev librsvg2-bin icoutils zip unzip)
@@ -43,7 +43,7 @@ coverage=("${fuzz[@]}" llvm-14)
 pages=(chromium)
 screens=(optipng)
 reliability=(valgrind python3)
-# Debian packages and the portable archive: what computes dependencies and looks for faults, draws the icon, and sets
+# Debian packages and the portable archive: tools that compute dependencies, check packages, render the icon, and set
 # where libraries are looked for.
 package=(dpkg-dev lintian librsvg2-bin qt6-wayland patchelf xz-utils binutils)
 # A bare Debian for the packages to be tried in.
@@ -69,7 +69,7 @@ case "${1:-}" in
 esac
 
 if ! command -v apt-get >/dev/null; then
-  echo "This is not a Debian system, so nothing is installed. Needed are: ${wanted[*]}" >&2
+  echo "This is not a Debian system, so nothing is installed. Required packages: ${wanted[*]}" >&2
   exit 0
 fi
 
@@ -83,7 +83,7 @@ done
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   if ! command -v sudo >/dev/null; then
-    echo "Packages are missing and only root can install them: apt-get install ${missing[*]}" >&2
+    echo "Packages are missing, and only root can install them: apt-get install ${missing[*]}" >&2
     exit 1
   fi
   as_root=(sudo)
@@ -96,6 +96,6 @@ if ! { "${as_root[@]}" apt-get update -qq &&
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } \
   >"$log" 2>&1; then
   cat "$log" >&2
-  echo "The packages could not be installed; apt-get says why above." >&2
+  echo "The packages could not be installed; the reason is above." >&2
   exit 1
 fi

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Changes one operator, constant or comparison of the logic at a time and tells whether the folder's tests notice.
+"""Changes one operator, constant or comparison of the logic at a time and reports whether the folder's tests fail.
 
     tools/mutate.py                   200 changes, the same ones as long as their lines stay as they are
     tools/mutate.py -n 50 --seed 7    others
@@ -22,7 +22,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDERS = ["support", "hand", "ranges", "analysis", "results", "study", "shell"]
-LEFT_OUT = {"hand/equity_rows.cpp"}  # constant data; what is for Windows alone is not built here either
+LEFT_OUT = {"hand/equity_rows.cpp"}  # constant data; sources for Windows are not built here either
 LONGEST_BUILD = 900  # seconds
 LONGEST_TEST = 300
 LARGEST_TEST = 4 << 30  # bytes of address space
@@ -32,7 +32,7 @@ SWAPS = {
     " && ": " || ", " || ": " && ", " + ": " - ", " - ": " + ", " * ": " / ", " / ": " * ",
     " += ": " -= ", " -= ": " += ", "++": "--", "true": "false", "false": "true",
 }
-# Texts, characters and comments come first, so that nothing within them counts.
+# String literals, characters and comments come first, so that nothing within them matches.
 TOKEN = re.compile(
     r'(?P<skip>//[^\n]*|^\s*#[^\n]*|R"\(.*?\)"|"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])*\')'
     r"|(?P<number>(?<![\w.])\d+(?:\.\d+)?(?![\w.']))"
@@ -69,7 +69,7 @@ def sources(folders):
 
 
 def copy_source(copy):
-    """Brings the copy up to the source; files that are the same keep their time, so that little is built anew."""
+    """Updates the copy; unchanged files keep their time, so that little is rebuilt."""
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
                             capture_output=True, text=True).stdout.splitlines()
     for name in listed:
@@ -90,7 +90,7 @@ def build(tree, targets):
 
 
 def passes(tree, folder):
-    """Whether the folder's tests pass; a test that does not end, or takes too much memory, does not."""
+    """Whether the folder's tests pass; a test that hangs or takes too much memory fails."""
     try:
         run = subprocess.run([str(tree / "bin" / f"{folder}_test"), "--gtest_brief=1", "--gtest_fail_fast"], cwd=tree,
                              stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -110,7 +110,7 @@ def shown(path, offset, old, new):
 
 
 def drawn_place(seed, path, offset, old, _new):
-    """A random number, yet the same one wherever the line of the change has gone."""
+    """A random number that does not depend on the line number of the change."""
     text = (ROOT / path).read_text()
     start = text.rfind("\n", 0, offset) + 1
     before = text[start:offset].lstrip()
@@ -119,7 +119,7 @@ def drawn_place(seed, path, offset, old, _new):
 
 
 def try_change(copy, tree, change):
-    """True where the tests notice, False where they do not, None where it does not compile."""
+    """True if the tests fail, False if they pass, None if it does not compile."""
     path, offset, old, new = change
     target = copy / path
     text = target.read_text()

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Puts the program under strain and measures what becomes of it: the rows of docs/reliability.md, in their order.
+# Stress-tests the program and measures the results: the rows of docs/reliability.md, in order.
 #
-#   tools/reliability.sh                 all of it, for some hours
+#   tools/reliability.sh                 all of it, which takes some hours
 #   tools/reliability.sh ROW ...         fuzz, files, kills, together, input, batch, web, soak, valgrind, mutation,
 #                                        sanitizers, coverage
 #
-# FUZZ_SECONDS is how long each fuzz target runs, 600 unless set, and FUZZ_RUNS after how many runs it ends before that.
+# Each fuzz target runs for FUZZ_SECONDS, by default 600, or until it has made FUZZ_RUNS runs.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -17,7 +17,7 @@ build() {
   cmake --build --preset "$1" --target "${@:2}" | tail -n 1
 }
 
-# fuzz_target NAME: short inputs, of which there are more runs, and for a sixth of the time long ones.
+# fuzz_target NAME: mostly short inputs, which allow more runs, and long ones for a sixth of the time.
 fuzz_target() {
   local log="build/fuzz/$1.log" runs="${FUZZ_RUNS:--1}" seconds="${FUZZ_SECONDS:-600}"
   mkdir -p "build/fuzz/corpus-$1"

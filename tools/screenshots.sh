@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Takes the pictures of every screen anew: those of the documents, docs/screens at 100%, and those that the tests compare
-# besides, tests/screens at 200%. Look at the difference before you commit it.
+# Remakes the pictures of every screen: those of the documents, docs/screens at 100%, and more for the tests,
+# tests/screens at 200%. Look at the differences before you commit them.
 #
 #   tools/screenshots.sh           with the program of the preset dev
 #   tools/screenshots.sh FOLDER    with that of another build folder

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Tries the packages in dist/ on a bare Debian 12 that has nothing of Qt: as root, in a few minutes.
+# Tries the packages in dist/ on a bare Debian 12 without Qt: as root, in a few minutes.
 #
-#   tools/try_packages.sh portable   the portable archive, in a folder with blanks and umlauts in its name
+#   tools/try_packages.sh portable   the portable archive, in a folder with spaces and umlauts in its name
 #   tools/try_packages.sh installed  the Debian package: installed, used, replaced by a higher version, removed, purged
 #   tools/try_packages.sh same       makes both packages twice, in two folders, and compares them
 #   tools/try_packages.sh            all of it
 #
-# The bare system is made once, in build/bare. It has a screen of this machine's, in memory.
+# The bare system is made once, in build/bare. It uses a virtual screen of this machine.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 
@@ -16,7 +16,7 @@ tools/install_packages.sh bare
 readonly bare=$PWD/build/bare
 readonly display=:79
 
-# What packaging/host_libraries.txt names, as packages.
+# The libraries of packaging/host_libraries.txt, as packages.
 readonly host_packages=(libx11-6 libx11-xcb1 libxcb1 libwayland-client0 libegl1 libglx0 libfontconfig1)
 
 fail() {
@@ -24,7 +24,7 @@ fail() {
   exit 1
 }
 
-# With a name space of its own for mounts, so that nothing of them is left.
+# In a mount namespace of its own, so that no mounts remain.
 if [ -z "${QUILLON_TRIAL:-}" ]; then
   exec env QUILLON_TRIAL=1 unshare --mount "$0" "$@"
 fi
@@ -108,7 +108,7 @@ portable() {
   mkdir "$trial$folder"
   tar -xJf dist/Quillon-*.tar.xz --strip-components=1 -C "$trial$folder"
   chown -R --reference="$trial/home/ann" "$trial$folder"
-  [ "$(in_trial ann "$folder/quillon-cli" folder)" = "$folder" ] || fail "the portable folder is another"
+  [ "$(in_trial ann "$folder/quillon-cli" folder)" = "$folder" ] || fail "it uses another folder"
   in_trial ann "$folder/quillon-cli" ranges | grep -q '^Tight Open' || fail "no examples"
   analyse ann "$folder/quillon"
   [ -f "$trial$folder/settings.ini" ] || fail "no settings in the portable folder"
@@ -116,22 +116,22 @@ portable() {
   mv "$trial$folder" "$trial/home/ann/moved"
   [ "$(in_trial ann /home/ann/moved/quillon-cli folder)" = /home/ann/moved ] || fail "it cannot be moved"
 
-  # Every part finds what it needs, those too that this screen does not ask for.
+  # Every plug-in finds its libraries, even those that this screen does not use.
   in_trial ann sh -c 'find /home/ann/moved/plugins -name "*.so" -exec ldd {} +' | grep 'not found' && fail "libraries are missing"
   in_trial ann env QT_QPA_PLATFORM=offscreen timeout 5 /home/ann/moved/quillon && fail "no window stayed open"
   [ $? -eq 124 ] || fail "no start without a screen"
 
-  # Half a copy says so in a line, and makes nothing.
+  # An incomplete copy says so in one line, and writes nothing.
   for part in lib/libQt6Svg.so.6 plugins; do
     cp -a "$trial/home/ann/moved" "$trial/home/ann/half"
     rm -r "$trial/home/ann/half/$part" "$trial/home/ann/half/settings.ini"
     in_trial ann /home/ann/half/quillon 2>"$bare/told" && fail "it starts without $part"
     [ "$(wc -l <"$bare/told")" -eq 1 ] || fail "without $part it says: $(cat "$bare/told")"
-    [ ! -e "$trial/home/ann/half/settings.ini" ] || fail "half a copy has written its settings"
+    [ ! -e "$trial/home/ann/half/settings.ini" ] || fail "an incomplete copy has written settings"
     rm -r "$trial/home/ann/half"
   done
   end_trial
-  echo "The portable archive runs on what every desktop has."
+  echo "The portable archive runs on a bare desktop."
 }
 
 installed() {
@@ -149,8 +149,8 @@ installed() {
   [ -f "$trial$folder/settings.ini" ] || fail "no settings in the user's folder"
   [ "$(in_trial ann quillon-cli folder)" = "$folder" ] || fail "the companion has another folder"
   in_trial ann quillon-cli save Mine --hands AA
-  in_trial bob quillon-cli ranges | grep -q '^Mine' && fail "two users meet"
-  # Those of a portable folder.
+  in_trial bob quillon-cli ranges | grep -q '^Mine' && fail "users see each other's ranges"
+  # Ranges from a portable folder.
   cp examples/Ranges/Everything.txt "$trial$folder/Ranges/Copied.txt"
   in_trial ann quillon-cli ranges | grep -q '^Copied' || fail "copied ranges are not found"
   analyse root quillon
@@ -165,7 +165,7 @@ installed() {
   (cd "$trial$folder" && find . -type f -exec sha256sum {} +) >"$bare/sums"
   install_in_trial /higher.deb
   [ "$(in_trial root dpkg-query -W -f '${Version}' quillon)" = 0.91 ] || fail "the higher version is not installed"
-  (cd "$trial$folder" && sha256sum --quiet --check "$bare/sums") || fail "an upgrade changed what is the user's"
+  (cd "$trial$folder" && sha256sum --quiet --check "$bare/sums") || fail "an upgrade changed the user's files"
   analyse ann quillon
 
   in_trial root apt-get remove -y -qq quillon >"$bare/log" 2>&1 || fail "remove"
@@ -174,7 +174,7 @@ installed() {
   in_trial root dpkg --purge quillon | grep -q '.local/share/Quillon' || fail "purge does not name the users' folders"
   [ -f "$trial$folder/Ranges/Mine.txt" ] || fail "the user's ranges were purged"
   end_trial
-  echo "The Debian package installs, upgrades, and goes, and the user's ranges stay."
+  echo "The Debian package can be installed, upgraded and removed, and the user's ranges stay."
 }
 
 same() {
@@ -185,10 +185,10 @@ same() {
     CCACHE_DISABLE=1 "$bare/$copy/package" >"$bare/log" 2>&1 || { tail -n 20 "$bare/log" >&2; fail "./package"; }
   done
   for copy in "$bare"/one/dist/*; do
-    cmp "$copy" "$bare/another/dist/$(basename "$copy")" || fail "two makings of $(basename "$copy") differ"
+    cmp "$copy" "$bare/another/dist/$(basename "$copy")" || fail "two builds of $(basename "$copy") differ"
   done
   rm -rf "${bare:?}/one" "${bare:?}/another"
-  echo "Two makings are the same, byte for byte."
+  echo "Two builds are identical, byte for byte."
 }
 
 mkdir -p "$bare"
@@ -197,6 +197,6 @@ start_screen
 for trial_name in "$@"; do
   case "$trial_name" in
     portable | installed | same) "$trial_name" ;;
-    *) fail "there is no trial called $trial_name" ;;
+    *) fail "unknown trial: $trial_name" ;;
   esac
 done

@@ -7,7 +7,7 @@ while(licences)
   install(FILES ${file} DESTINATION . RENAME ${name} COMPONENT windows)
 endwhile()
 
-# Libraries are looked for where the compiler has its own, and where Qt is.
+# Libraries are searched for among the compiler's own and Qt's.
 foreach(library libstdc++-6.dll libwinpthread-1.dll)
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}
     OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)

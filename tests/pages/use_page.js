@@ -1,8 +1,8 @@
-// Uses a page of the companion as a reader with a keyboard does, and tells on the console what it finds. It is added
-// to a copy of the page by tools/check_pages.sh.
+// Uses a page of the companion like a reader with a keyboard, and logs its findings to the console.
+// tools/check_pages.sh appends it to a copy of the page.
 "use strict";
 {
-  // A window that has not been given the focus yet styles nothing as focused.
+  // A window without the focus styles nothing as focused.
   if (!document.hasFocus()) console.log("no focus");
   let checks = 0;
   const expect = (what, found, wanted) => {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes what players on Windows unpack: dist/Quillon-VERSION-windows-x86_64.zip. Two makings of the same sources are the
-# same, byte for byte. The first one makes Qt (tools/windows/qt.sh).
+# Makes the zip for Windows, dist/Quillon-VERSION-windows-x86_64.zip. Builds are reproducible, byte for byte. The first
+# one builds Qt (tools/windows/qt.sh).
 #
 #   tools/windows/build.sh
 set -euo pipefail

@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# All that proves Quillon on Windows, under Wine. What Wine alone gets wrong is told apart by each script, with the
-# reason.
+# Tests Quillon for Windows, under Wine. Each script names what Wine alone gets wrong, with the reason.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")"
 

@@ -35,7 +35,7 @@ class Questions:
         return self.random.choice(AMOUNTS if self.random.random() < 0.93 else BAD_AMOUNTS)
 
     def range(self, prefix=""):
-        """A range by its name or its notation, seldom one that is not there or is none."""
+        """A range by name or notation, rarely a missing or invalid one."""
         if self.random.random() < 0.4:
             return [f"--{prefix}range", self.random.choice(NAMES if self.random.random() < 0.93 else UNKNOWN)]
         return [f"--{prefix}hands", self.random.choice(HANDS if self.random.random() < 0.93 else BAD_HANDS)]
@@ -49,7 +49,7 @@ class Questions:
         return ["--hand", *self.random.sample(["AA", "AKs", "72o", "K9o", "Xx"], 2)] if self.random.random() < 0.2 else []
 
     def sweep(self, options):
-        """Makes one of the amounts several."""
+        """Turns one of the amounts into steps."""
         index = self.random.randrange(1, len(options), 2)
         options[index] = self.random.choice(["1:9:2", "5:20:5", "0.5:2:0.5", "3:1:1", "1:2"])
         return options
@@ -70,7 +70,7 @@ class Questions:
         return "{" + ",".join(parts) + "}"
 
     def question(self):
-        """A command line, and what is typed."""
+        """A command line, and its typed input."""
         command = self.random.choice(
             ["raise", "call", "equity", "limits", "sweep", "balance", "matrix", "notation", "chart", "batch", "summary",
              "ranges", "save", "help", "wrong"])
@@ -121,7 +121,7 @@ class Questions:
 
 
 class Companion:
-    """One of the two, in a folder of its own, beside its ranges and away from the current folder."""
+    """One of the two companions, in a folder of its own with its ranges, which is not the current one."""
 
     def __init__(self, kind, program, start):
         self.root = pathlib.Path(f"{kind} Käse & 漢字").absolute()
@@ -142,8 +142,8 @@ class Companion:
         return done.returncode, self.plain(done.stdout), self.plain(done.stderr)
 
     def at_a_terminal(self, arguments, output=None, typed=b"", pressed=b""):
-        """The exit status and what the terminal shows. With `output` answers go to that file. `typed` is typed until there
-        are some, as Wine's console loses what comes before it is ready, and then `pressed`."""
+        """The exit status and what the terminal shows. With `output` answers go to that file. Types `typed` until there are
+        some, since Wine's console loses early input, and then `pressed`."""
         ours, theirs = os.openpty()
         process = subprocess.Popen([*self.start, *arguments], stdin=theirs, stdout=output or theirs, stderr=theirs,
                                    cwd=self.root / "Elsewhere", start_new_session=True,
@@ -164,9 +164,9 @@ class Companion:
             if select.select([ours], [], [], 0.05)[0]:
                 try:
                     shown += os.read(ours, 65536)
-                except OSError:  # nothing has the other end open any more
+                except OSError:  # the other end is closed
                     break
-        while select.select([ours], [], [], 1)[0]:  # what another process, as Wine's console is, has yet to show
+        while select.select([ours], [], [], 1)[0]:  # another process, such as Wine's console, may still be writing
             try:
                 shown += os.read(ours, 65536)
             except OSError:
@@ -175,14 +175,14 @@ class Companion:
         return process.wait(60), shown
 
     def interrupted_batch(self, *file, typed=b""):
-        """The exit status and the answers of a batch that Ctrl+C ends once there are some."""
+        """The exit status and the answers of a batch that is ended by Ctrl+C after the first ones."""
         with open(self.root / "answers", "w+b") as answers:
             status, _ = self.at_a_terminal(["batch", "--jobs", "2", *file], answers, typed, b"\x03")
             answers.seek(0)
             return status, answers.read()
 
     def plain(self, text):
-        """The same text with this system's form of paths below the root."""
+        """The text with paths below the root in this system's form."""
         root = rb"(?:Z:)?" + rb"[/\\]".join(re.escape(name) for name in str(self.root).encode().split(b"/"))
         return re.sub(root + rb"([^\n\"<>|:]*)", lambda path: b"ROOT" + path[1].replace(b"\\", b"/"), text)
 
@@ -208,7 +208,7 @@ def main():
             failures.append(f"{arguments} {typed!r}\n  here:    {told(mine)}\n  Windows: {told(other)}")
         return mine[0]
 
-    # What writes keeps its order.
+    # Commands that write run in order.
     writing = [question for question in asked if question[0][0] == "save"]
     reading = [question for question in asked if question[0][0] != "save"]
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as threads:
@@ -217,7 +217,7 @@ def main():
     if ours.files() != theirs.files():
         failures.append(f"files differ: {sorted(ours.files())} {sorted(theirs.files())}")
 
-    # A folder that cannot be written, and one that is not there.
+    # A folder that cannot be written, and one that does not exist.
     for companion in (ours, theirs):
         for folder in (companion.folder, companion.folder / "Ranges"):
             folder.chmod(0o555)
@@ -234,7 +234,7 @@ def main():
     if mine != other:
         failures.append(f"a folder that is not there:\n  here:    {mine}\n  Windows: {other}")
 
-    # Ctrl+C in the middle of a batch, and while it waits for the next line to be typed.
+    # Ctrl+C in the middle of a batch, and while it waits for the next typed line.
     lines = b"".join(b'{"id":%d,"mode":"equity","hands":"any"}\n' % line for line in range(200000))
     for companion in (ours, theirs):
         (companion.root / "lines").write_bytes(lines)
@@ -249,7 +249,7 @@ def main():
     if (mine[0], other[0]) != (130, 130) or {*mine[1].splitlines()} != {*other[1].splitlines()} or b"\xc3\xa4" not in mine[1]:
         failures.append(f"a line that is typed:\n  here:    {told(mine)}\n  Windows: {told(other)}")
 
-    # A console sees whole characters. It writes spaces as moves of the cursor.
+    # A console gets whole characters. It writes spaces as cursor moves.
     _, shown = theirs.at_a_terminal(["ranges"])
     if "Käseund漢字".encode() not in re.sub(rb"\x1b\[[?0-9;]*[A-Za-z]| ", b"", shown):
         failures.append(f"the ranges on a console: {shown[:1500]}")

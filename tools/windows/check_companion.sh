@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Asks the companion for Windows, under Wine, and that of this system the same questions and compares the answers.
+# Asks the companions for Windows, under Wine, and for this system the same questions and compares the answers.
 #
 #   tools/windows/check_companion.sh                      builds both (presets windows and release) and compares them
 #   tools/windows/check_companion.sh LINUX WINDOWS.exe    compares these
 #   QUILLON_QUESTIONS=50 tools/windows/check_companion.sh   fewer questions than 500
 #
-# What Wine 8 alone does: its console takes the sequences that colour the grid for characters. So no colours are looked at.
+# Colours are not compared: the console of Wine 8 treats their sequences as characters.
 #
-# The folders have spaces, umlauts and Chinese characters in their names. Some may not be written, which no system
-# refuses to its superuser: as root it all runs as the user nobody.
+# The folders have spaces, umlauts and Chinese characters in their names. Some are write-protected, which does not stop
+# root, so root runs everything as the user nobody.
 set -euo pipefail
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 programs=()

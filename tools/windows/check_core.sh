@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Builds what needs no toolkit for Windows and runs its tests under Wine.
+# Builds the folders without a toolkit for Windows and runs their tests under Wine.
 #
-#   tools/windows/check_core.sh          everything: the tests that both systems share, and those of its own rules
-#   tools/windows/check_core.sh system   the companion, and the tests of what lies nearest to the system: less than three
+#   tools/windows/check_core.sh          everything: the tests shared by both systems, and those for Windows only
+#   tools/windows/check_core.sh system   the companion, and the tests closest to the system: less than three
 #                                        minutes on two cores, as a part of .ci/run
 #   QUILLON_KILLS=200 tools/windows/check_core.sh    kills more processes while they save than usual
 #
-# What Wine 8 alone does: it leaves a file its letters where only their case is to change, and a connection that breaks
-# reads as one that was closed once something has waited for it with select().
+# Differences of Wine 8: it does not rename a file if only the case of letters changes, and a reset connection reads as a
+# closed one after select() has waited for it.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
 
@@ -29,7 +29,7 @@ esac
 tools/install_packages.sh windows
 [ -f build/windows-tests/build.ninja ] || cmake --preset windows-tests
 cmake --build --preset windows-tests "${targets[@]}"
-# Wine makes its folders at its first start, which tests at the same time would all wait for.
+# Wine creates its folders at its first start, for which parallel tests would all wait.
 tools/windows/run.sh wineboot --init
 # \\localhost\C$, as Windows has it.
 shares=${WINEPREFIX:-build/wine}/dosdevices/unc/localhost

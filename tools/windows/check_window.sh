@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# The journeys through the window, with the program for Windows: tools/windows/build.sh makes it, Wine runs it on screens
-# that nobody sees, and mouse, keyboard and eyes are those of the journeys on this system.
+# The journeys through the window, with the program for Windows: tools/windows/build.sh makes it, Wine runs it on virtual
+# screens, and the simulated user is that of the journeys on this system.
 #
 #   tools/windows/check_window.sh [GTEST_FILTER]
 #
-# Screens at 100% and 200% are compared with the pictures of this system, and those that differ are kept in
+# Screens at 100% and 200% are compared with this system's pictures; those that differ are kept in
 # build/dev/failed_screens.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
@@ -14,7 +14,7 @@ without=(
   # UTF-8, a terminal to write to.
   EndJourney.\* \*WindowIsKnownToDesktops\* \*Installed\* StartWithoutADisplay.\* \*FolderWhoseNameIsNotUtf8\*
   \*ArgumentsAreRefused\*
-  # Wine: a window gets the keyboard again only when it is raised above the other program's.
+  # Wine: a window regains the focus only when it is raised above the other program's.
   \*AnotherProgramsWindow\*
 )
 
@@ -28,7 +28,7 @@ export QUILLON_WINDOWS_FOLDER
 cmake --build --preset dev --target window_journeys_test
 export WINEPREFIX=${WINEPREFIX:-$PWD/build/wine} WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 wineboot --init
-# Pages and pictures open in the desktop's browser: the part of Wine that would see to it asks for a download.
+# Pages and pictures open in the desktop's browser: Wine's own would have to be downloaded.
 for ending in .html .bmp; do
   wine reg add "HKLM\\Software\\Classes\\$ending" /ve /d htmlfile /f
 done

@@ -1,28 +1,28 @@
 #!/usr/bin/env bash
-# Prints the folder that has Qt for Windows. Where there is none yet, it is first made of Debian's own sources, in half an
+# Prints the folder of Qt for Windows. If there is none yet, builds it first from Debian's own sources, in half an
 # hour on two cores.
 #
 #   tools/windows/qt.sh
 #
-# The version is that of the Qt installed here, whose tools the making uses. The folder is in ~/.cache/quillon or
-# $XDG_CACHE_HOME/quillon, or in $QUILLON_CACHE, and its name tells what it was made of: with another version, other
-# options or another compiler it is made anew.
+# The version is that of the installed Qt, whose tools the build uses. The folder is in ~/.cache/quillon or
+# $XDG_CACHE_HOME/quillon, or in $QUILLON_CACHE. Its name depends on version, options and compiler; another combination
+# is another build.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
 
 version=$(dpkg-query --show --showformat='${source:Version}' qt6-base-dev)
 compiler=$(dpkg-query --show g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)
 
-# Without what Quillon does not use. DirectWrite sets its texts where they are scaled, and comes with Direct2D; the newer
-# Direct2D is only for a second way to draw windows. Debian's sources lack the header for pen tablets. Precompiled
-# headers would keep a compiler's cache from knowing a source again.
+# Without unused features. DirectWrite, which comes with Direct2D, lays out scaled texts; the newer Direct2D is only for
+# another way to draw windows. Debian's sources lack the header for pen tablets. Precompiled headers would defeat a
+# compiler cache.
 options=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/quillon-qt -DBUILD_SHARED_LIBS=ON
   -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DBUILD_WITH_PCH=OFF -DINPUT_opengl=no)
 for feature in concurrent dbus network opengl printsupport sql testlib xml direct2d1_1 tabletevent \
   mimetype_database gif ico jpeg pdf textmarkdownreader textmarkdownwriter textodfwriter pkg_config; do
   options+=("-DFEATURE_$feature=OFF")
 done
-# The time that linker and strip write into each file, so that two makings give the same bytes.
+# The time that linker and strip write into each file, so that builds are reproducible.
 export SOURCE_DATE_EPOCH=0
 
 cache=${QUILLON_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon}
@@ -41,16 +41,16 @@ log=$making/log
 rm -rf "$making"
 mkdir -p "$making"/apt/{lists,cache}
 
-# quietly COMMAND ...: its words go into the log, of which a failure shows the end.
+# quietly COMMAND ...: sends its output to the log, whose end a failure prints.
 quietly() {
   if ! "$@" >>"$log" 2>&1; then
     tail -n 30 "$log" >&2
-    echo "Failed: $* (all of it is in $log)" >&2
+    echo "Failed: $* (full log: $log)" >&2
     exit 1
   fi
 }
 
-# Sources and lists have a folder of their own; what the system is set up for stays as it is.
+# Sources and lists have a separate folder; the system's configuration is untouched.
 signed=signed-by=/usr/share/keyrings/debian-archive-keyring.gpg
 cat >"$making/apt/sources.list" <<SOURCES
 deb-src [$signed] http://deb.debian.org/debian bookworm main
@@ -59,7 +59,7 @@ SOURCES
 apt=(apt-get -o "Dir::Etc::SourceList=$making/apt/sources.list" -o Dir::Etc::SourceParts=/dev/null
   -o "Dir::State::Lists=$making/apt/lists" -o "Dir::Cache=$making/apt/cache")
 
-echo "Making Qt $version for Windows in $qt" >&2
+echo "Building Qt $version for Windows in $qt" >&2
 quietly "${apt[@]}" update
 (cd "$making/apt" && quietly "${apt[@]}" --download-only source "qt6-base=$version")
 quietly dpkg-source --no-check --extract "$making"/apt/qt6-base_*.dsc "$making/src"
@@ -70,7 +70,7 @@ quietly cmake -S "$making/src" -B "$making/build" -G Ninja "${options[@]}" \
 quietly cmake --build "$making/build"
 quietly env DESTDIR="$making/made" cmake --install "$making/build" --strip
 
-# What is compiled into Qt, of which version and under which licences.
+# The libraries compiled into Qt, with versions and licences.
 made=$making/made/quillon-qt
 echo "$version" >"$made/version"
 cp "$making/src/debian/copyright" "$made/copyright"
@@ -79,7 +79,7 @@ for attribution in "$making"/src/src/3rdparty/*/qt_attribution.json; do
   cp "$attribution" "$made/attributions/$(basename "$(dirname "$attribution")").json"
 done
 
-# Named only when it is whole.
+# Renamed only once complete.
 mv "$made" "$qt"
 rm -rf "$making"
 echo "$qt"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs a program for Windows: tools/windows/run.sh PROGRAM.exe ARGUMENTS...
 #
-# Wine keeps its own folders in build/wine, so that nothing of the user's is touched.
+# Wine's folders are in build/wine, apart from the user's.
 set -euo pipefail
 export WINEPREFIX=${WINEPREFIX:-$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../../build/wine}
 export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
