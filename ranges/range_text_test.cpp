@@ -97,6 +97,7 @@ TEST(SearchableRangeText, BreaksLabelsThatAWeightWouldHide) {
   for (const Case& c : {
            Case{"usual weights are as they are", 0.5, 1, "AA (0.5), AKs (0.5), ", "22 (1), "},
            Case{"a doubled digit is a pair yet to come", 0.99, 1, "AA (0.9 9), AKs (0.9 9), ", "22 (1), "},
+           Case{"a pair alone", 99, 1, "AA (9 9), ", "22 (1), "},
            Case{"each of several", 0.2222, 1, "AA (0.2 2 2 2), ", "22 (1), "},
            Case{"noughts and ones are none", 0.1001, 1, "AA (0.1001), ", "22 (1), "},
            Case{"the pair's own entry has come", 1, 0.22, "AA (1), ", "22 (0.22), "},

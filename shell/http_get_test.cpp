@@ -152,6 +152,18 @@ TEST(HttpGet, FollowsARedirectOnTheSameHostAndPort) {
   }
 }
 
+TEST(HttpGet, FollowsEveryKindOfRedirect) {
+  for (const int status : {300, 301, 302, 303, 304, 307, 308}) {
+    const LoopbackHost host([&](LoopbackConnection& connection) {
+      connection.Send(TargetOf(connection.Request()) == "/new"
+                          ? Ok("1.0")
+                          : "HTTP/1.1 " + std::to_string(status) +
+                                " Moved\r\nLocation: /new\r\nContent-Length: 0\r\n\r\n");
+    });
+    EXPECT_EQ(Get(host.Address()), status == 300 || status == 304 ? "" : "1.0") << status;
+  }
+}
+
 TEST(HttpGet, FollowsNoRedirectToAnotherHost) {
   const LoopbackHost other(Ok("1.0"));
   const LoopbackHost host(Redirect(other.Address()));
