@@ -272,7 +272,7 @@ TEST_F(AnalysisDriver, AStopInTheLastYieldThrowsAllClassesAway) {
 
   window_.OnCall = nullptr;
   Run(kEquityButton);
-  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the next run goes through";
+  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the next run succeeds";
 }
 
 TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
@@ -323,7 +323,7 @@ TEST_F(AnalysisDriver, AClickThatItsCheckRefusesLeavesTheRunItsOwnScenario) {
       };
       Run(button);
       EXPECT_FALSE(window_.Boxes.Shown.empty());
-      EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run goes on and finishes";
+      EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run continues and finishes";
       EXPECT_EQ(presented, ScreenOfButton(button).Mode);
       EXPECT_EQ(state_.HandInfo, TableOf(button, situation));
     }

@@ -41,7 +41,7 @@ TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
 TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
   // "33" is found in the weight before it, and no weight follows.
   EXPECT_EQ(FaultOf([] { return Deal(RangeWith({{"AA", 0.333}}), "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
-  EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "after the entry it does no harm";
+  EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "after the entry it is harmless";
 }
 
 TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
@@ -89,7 +89,7 @@ TEST(TotalWeight, AddsInTheOrderOfTheList) {
   list[2].Weight = 1;
   list[3].Weight = -1e16;
   EXPECT_EQ(FaultOf([] { return TotalWeight({}); }), RunTimeFault::kSubscriptOutOfRange);
-  EXPECT_EQ(TotalWeight(list), 0) << "each 1 is lost in the large number it is added to";
+  EXPECT_EQ(TotalWeight(list), 0) << "adding 1 does not change such a large number";
 }
 
 TEST(LimitToRange, RecordsBeyondTheCurrentListStay) {

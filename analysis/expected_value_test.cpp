@@ -28,7 +28,7 @@ TEST(ShoveExpectedValue, NeverCalledItIsExactlyThePot) {
 
 TEST(ShoveExpectedValue, TheSumIsEvaluatedInItsOrder) {
   const double afterCall = (0.3 + 0.1) + (0.7 + 0.7);
-  ASSERT_NE(afterCall, 0.3 + 0.1 + 0.7 + 0.7) << "these amounts tell the orders apart";
+  ASSERT_NE(afterCall, 0.3 + 0.1 + 0.7 + 0.7) << "these amounts distinguish the orders";
   EXPECT_EQ(ShoveExpectedValue(0.3, 0.1, 0.7, 1, 1), afterCall - (0.1 + 0.7));
 }
 

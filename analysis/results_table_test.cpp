@@ -76,19 +76,19 @@ TEST(GetHandInfo, LooksAtEveryPiece) {
   EXPECT_EQ(GetHandInfo("", "AA", 1), 0);
   EXPECT_EQ(GetHandInfo("AA\t5", "AA", 1), 5) << "a row without line end is read";
   EXPECT_EQ(GetHandInfo("AA\t5", "KK", 1), 0) << "and by its key";
-  EXPECT_EQ(GetHandInfo("\r\n\r\nAA\t5\t\r\n", "AA", 1), 5) << "empty rows are passed over";
+  EXPECT_EQ(GetHandInfo("\r\n\r\nAA\t5\t\r\n", "AA", 1), 5) << "empty rows are skipped";
   EXPECT_EQ(GetHandInfo("AA\t5\t\r\nAA\t6\t\r\n", "AA", 1), 5) << "the first row of a key counts";
   EXPECT_EQ(GetHandInfo("\r\n\t7\t\r\n", "", 1), 7) << "a row may have an empty key";
   EXPECT_EQ(GetHandInfo("AA\r\n", "AA", 1), 0) << "a cell that is missing reads as 0";
-  EXPECT_EQ(GetHandInfo("AA\r\nAA\t5\t\r\n", "AA", 1), 0) << "also where a later row has one";
+  EXPECT_EQ(GetHandInfo("AA\r\nAA\t5\t\r\n", "AA", 1), 0) << "even if a later row has one";
 }
 
 TEST(GetHandInfo, TakesALabelForAKeyOnlyInItsPlace) {
-  EXPECT_EQ(GetHandInfo("x\tAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "in a cell it is none";
+  EXPECT_EQ(GetHandInfo("x\tAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "a cell is not a key";
   EXPECT_EQ(GetHandInfo("AAA\t9\t\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor as a part of another key";
   EXPECT_EQ(GetHandInfo("x\rAA\t9\r\nx\nAA\t9\r\nAA\t5\t\r\n", "AA", 1), 5) << "nor after half a line end";
   EXPECT_EQ(GetHandInfo("\nAA\t9\t\r\nAA\t5", "AA", 1), 5) << "nor after half of one at the start";
-  EXPECT_EQ(GetHandInfo("AA\t1\t2\t\r\n", "AA\t1", 1), 0) << "two cells are no key";
+  EXPECT_EQ(GetHandInfo("AA\t1\t2\t\r\n", "AA\t1", 1), 0) << "two cells are not a key";
   EXPECT_EQ(GetHandInfo("AA\r\nKK\t2\t\r\n", "AA\r\nKK", 1), 0) << "nor are two rows";
   EXPECT_EQ(GetHandInfo("AA\r\t7\t\r\n", "AA\r", 1), 7) << "a lone carriage return belongs to the key";
 }

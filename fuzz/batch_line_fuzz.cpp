@@ -47,8 +47,8 @@ void CheckAnswer(std::string_view line, bool refused, const std::string& id) {
   Require(object.is_object(), "an answer is a JSON object");
   Require(object.begin().key() == "id" && object["id"] == Json::parse(id), "an answer begins with the id of its line");
   Require(answer.Refused || !refused, "what cannot be read is refused");
-  Require(answer.Refused == object.contains("error"), "what is refused says why");
-  if (answer.Refused) Require(object["line"] == kNumber, "what is refused says where");
+  Require(answer.Refused == object.contains("error"), "a refusal has an error");
+  if (answer.Refused) Require(object["line"] == kNumber, "a refusal has its line");
 }
 
 }  // namespace

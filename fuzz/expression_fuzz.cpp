@@ -38,7 +38,7 @@ void CheckBox(const std::string& text, const std::string& value) {
   const bool sum = text.starts_with('=');
   const bool bad = value == kExpressionErrorText;
   Require(after == (sum && !bad ? value : text), "a box takes the value of a sum and keeps any other text");
-  Require(messages.Shown.size() == (sum && bad ? 1U : 0U), "only a sum that is none has a message");
+  Require(messages.Shown.size() == (sum && bad ? 1U : 0U), "only an invalid sum has a message");
 }
 
 }  // namespace

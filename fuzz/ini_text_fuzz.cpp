@@ -28,7 +28,7 @@ bool HasInsertion(std::string_view longer, std::string_view text) {
 void CheckWriting(std::string_view text, const std::string& section, const std::string& key, std::string_view value) {
   const std::string after = WithIniValue(text, section, key, value);
   Require(IniValue(after, section, key) == FirstLine(value), "what was written reads back");
-  Require(plain::IniValue(after, section, key) == FirstLine(value), "what was written reads back in the plain way");
+  Require(plain::IniValue(after, section, key) == FirstLine(value), "the oracle reads back what was written");
   Require(WithIniValue(after, section, key, value) == after, "writing twice is writing once");
 
   for (const char* const other : {"Left", "Top", "Auto", "0"}) {
@@ -36,7 +36,7 @@ void CheckWriting(std::string_view text, const std::string& section, const std::
     Require(IniValue(after, section, other) == IniValue(text, section, other), "other keys keep their values");
   }
   const bool isNew = IniValue(text, section, key).empty() && text.find('=') == std::string_view::npos;
-  if (isNew) Require(HasInsertion(after, text), "a new key leaves every byte as it is");
+  if (isNew) Require(HasInsertion(after, text), "a new key changes no other byte");
 }
 
 // The same through the file, with text of the code page.
@@ -48,9 +48,9 @@ void CheckFile(std::string_view bytes, const std::string& section, const std::st
   const bool wide = plain::IsUtf16(bytes);
   const std::string stored = wide ? "" : FirstLine(Windows1252FromUtf8(value)).substr(0, kLongestSetting);
   WriteIniValue(section, key, value, folder);
-  Require(!wide || files.Contents.begin()->second == bytes, "a file in UTF-16 stays as it is");
+  Require(!wide || files.Contents.begin()->second == bytes, "a UTF-16 file is unchanged");
   Require(ReadIniValue(section, key, folder) == Utf8FromWindows1252(stored), "a setting reads back from its file");
-  Require(files.Contents.size() == 1, "no scratch file stays");
+  Require(files.Contents.size() == 1, "no scratch file is left");
   Require(files.AllClosed(), "no file stays open");
 }
 

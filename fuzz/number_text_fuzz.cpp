@@ -27,7 +27,7 @@ void CheckText(std::string_view text) {
   Require(NumberText(LeadingNumber(written)) == written, "a number text reads back as itself");
   Require(IsNumericText(written), "a number text is numeric");
 
-  Require(IsNumericText(text) == plain::IsNumeric(text), "a text is numeric where it has the shape of an amount");
+  Require(IsNumericText(text) == plain::IsNumeric(text), "a text is numeric if it has the shape of an amount");
 }
 
 void EraseOnce(std::string& text, std::string_view unwanted) {
@@ -38,7 +38,7 @@ void EraseOnce(std::string& text, std::string_view unwanted) {
 // removed.
 void CheckMarks(std::string_view text) {
   const bool numeric = IsNumericText(text, {"€", ",", "."});
-  Require(numeric || !plain::IsNumeric(text), "marks take nothing away");
+  Require(numeric || !plain::IsNumeric(text), "marks only add numeric texts");
   if (!numeric) return;
 
   std::string rest(text);
@@ -48,7 +48,7 @@ void CheckMarks(std::string_view text) {
   std::string swapped = rest;
   for (char& c : swapped)
     c = c == '.' ? ',' : c == ',' ? '.' : c;
-  Require(plain::IsNumeric(rest) || plain::IsNumeric(swapped), "a numeric text is a number but for the marks");
+  Require(plain::IsNumeric(rest) || plain::IsNumeric(swapped), "a numeric text without its marks is a number");
 }
 
 void CheckNumber(double value, std::size_t digits) {

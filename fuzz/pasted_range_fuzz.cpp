@@ -40,12 +40,12 @@ void CheckToggles(const CellColors& from, const CellColors& to) {
   const auto toggles = TogglesBetween(from, to);
   for (const CellToggle& toggle : toggles)
     ToggleCell(cells, toggle.Index, {.Half = toggle.Half});
-  Require(cells == to, "toggles lead to the grid that is wanted");
+  Require(cells == to, "toggles lead to the wanted grid");
   Require(toggles.size() <= 2 * cells.size(), "a cell is toggled twice at most");
   GridHistory history(from);
   history.Add(to);
   Require(history.CanUndo() == (from != to), "a change is a step");
-  Require(history.Undo() == from && history.Redo() == to, "a step goes back and forth");
+  Require(history.Undo() == from && history.Redo() == to, "a step can be undone and redone");
 }
 
 void CheckError(std::string_view text, const NotationError& error) {

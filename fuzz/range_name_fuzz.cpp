@@ -34,18 +34,18 @@ void CheckName(const std::string& name, bool isTaken) {
   MemoryFiles files;
   const ProgramFolder folder{"/quillon-fuzz", &files};
   const std::string path = RangeFilePath(folder, name).string();
-  Require(path == "/quillon-fuzz/Ranges/" + name + ".txt", "a path is put together as it stands");
+  Require(path == "/quillon-fuzz/Ranges/" + name + ".txt", "a path is a plain concatenation");
   const bool canNameFile = name.find('\0') == std::string::npos;
   isTaken = isTaken && canNameFile && name.size() <= 251;
   if (isTaken) files.Contents[path] = "AA (1), \r\n";
 
   RecordedMessages messages;
   const bool allowed = ValidateRangeName(folder, name, messages);
-  Require(allowed == PlainAllows(name, isTaken), "a name is judged in the plain way");
+  Require(allowed == PlainAllows(name, isTaken), "a name is judged as by the oracle");
   Require(messages.Shown.size() == (allowed ? 0U : 1U), "a name that is refused has one message");
   if (!allowed) return;
 
-  Require(name.find('/') == std::string::npos, "a new range stands in the range folder");
+  Require(name.find('/') == std::string::npos, "a new range is in the range folder");
   try {
     SaveRangeText(folder, name, "KK (1), ");
     Require(files.Contents.size() == 1 && files.Contents.contains(path), "a range is one file");
@@ -63,7 +63,7 @@ void CheckFileName(const std::string& fileName) {
     const std::string name = RangeNameOfFile(fileName);
     Require(fileName.starts_with(name), "a range's name is the start of its file's");
     const std::size_t length = PlainLength(fileName);
-    Require(length < 4 || PlainLength(name) + 4 >= length, "four characters are taken off at most");
+    Require(length < 4 || PlainLength(name) + 4 >= length, "at most four characters are removed");
   } catch (const RunTimeError& error) {
     Require(error.Fault() == RunTimeFault::kInvalidProcedureCall, "a file name too short is a bad call");
     Require(PlainLength(fileName) <= 4, "only a short file name has no range's name");

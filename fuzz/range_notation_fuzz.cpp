@@ -26,7 +26,7 @@ void CheckRoundTrip(const ClassWeights& weights, const std::string& notation) {
   const NotationReading reading = Read(notation);
   const auto* const read = std::get_if<ClassWeights>(&reading);
   Require(read != nullptr, "a written notation can be read");
-  Require(RangeNotation(*read) == notation, "it is written the same again");
+  Require(RangeNotation(*read) == notation, "it is written the same way again");
   const bool same = std::ranges::equal(*read, weights, [](double a, double b) { return std::abs(a - b) <= a * 1e-14; });
   Require(same, "it reads as the same weights");
 }
@@ -34,7 +34,7 @@ void CheckRoundTrip(const ClassWeights& weights, const std::string& notation) {
 void CheckTexts(const ClassWeights& weights) {
   const std::string text = RangeTextOf(weights);
   const NotationReading reading = Read(RangeNotation(text));
-  Require(RangeTextOf(std::get<ClassWeights>(reading)) == text, "a notation reads as the range text that it is of");
+  Require(RangeTextOf(std::get<ClassWeights>(reading)) == text, "a range text's notation reads as that text");
   Require(RangeTextOf(RangeWeightsOf(SearchableRangeText(weights))) == text,
           "a searchable text holds the same weights");
 }

@@ -40,7 +40,7 @@ void CheckSumAndSummary(const std::string& text) {
     Require(SelectionCaption(combos).ends_with("% selected"), "every sum has a caption");
     Require(RangeSummary(Utf8FromWindows1252(text)) == plain::Summary(*weights), "a summary equals the plain one");
   } catch (const RunTimeError&) {
-    Require(!weights, "a sum fails only where a weight does");
+    Require(!weights, "a sum fails only if a weight does");
   }
 }
 

@@ -46,7 +46,7 @@ std::optional<std::string> Report(const Analysis& state, ReportForm form) {
   try {
     BuildReport(screen, state);
   } catch (const RunTimeError& error) {
-    Require(IsFaultOfAnalysis(error.Fault()), "a report fails for its numbers or its ranges");
+    Require(IsFaultOfAnalysis(error.Fault()), "a report fails only because of its numbers or ranges");
     return std::nullopt;
   }
   Require(screen.ShowsSpecificHand() == (form == ReportForm::kForum), "single hands are for the forum form");
@@ -89,7 +89,7 @@ void CheckForum(const Analysis& state, const std::string& text) {
       Require(place != std::string::npos, "every hand has its equity, in its order");
     }
   } else {
-    Require(text.find("[b]Situation:[/b]") != std::string::npos, "a post tells the situation");
+    Require(text.find("[b]Situation:[/b]") != std::string::npos, "a post has the situation");
   }
 }
 
@@ -111,7 +111,7 @@ void CheckHandLine(const Analysis& state, std::string_view hand) {
   try {
     AddSpecificHand(screen, state, hand);
   } catch (const RunTimeError& error) {
-    Require(IsFaultOfAnalysis(error.Fault()), "a hand's line fails for its numbers");
+    Require(IsFaultOfAnalysis(error.Fault()), "a hand's line fails only because of its numbers");
     return;
   }
   Require(screen.Text().starts_with("before") && screen.Text().ends_with(" after"),

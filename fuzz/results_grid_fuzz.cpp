@@ -32,7 +32,7 @@ void CheckTexts(const Analysis& state, bool twice) {
     Require(texts.LegendVisible == (state.Mode != AnalysisMode::kEquityOnly), "equities have no legend");
     if (twice) Require(texts == MakeGridTexts(state), "the texts are the same again");
   } catch (const RunTimeError& error) {
-    Require(IsFaultOfAnalysis(error.Fault()), "texts fail for their numbers or their ranges");
+    Require(IsFaultOfAnalysis(error.Fault()), "texts fail only because of their numbers or ranges");
   }
 }
 
@@ -46,7 +46,7 @@ void CheckHover(const Analysis& state, std::int16_t index) {
     Require(!texts->Equity.empty() && !texts->Advice.empty(), "the panel has its lines");
     Require(texts->Value.has_value() == (state.Mode != AnalysisMode::kEquityOnly), "equities have no value");
   } catch (const RunTimeError& error) {
-    Require(IsFaultOfAnalysis(error.Fault()), "the panel fails for its numbers");
+    Require(IsFaultOfAnalysis(error.Fault()), "the panel fails only because of its numbers");
   }
   const CardGridPlaces grid = PlaceCardGrid(200, 800, {405, 405});
   const TwipRect square = grid.Cells.at(static_cast<std::size_t>(index)).Square;

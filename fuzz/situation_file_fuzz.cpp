@@ -40,7 +40,7 @@ void CheckWritten(const ScreenSituation& situation) {
   const auto* const read = std::get_if<ReadSituation>(&again);
   Require(read != nullptr, "what is written can be opened");
   if (!text.Fault.empty()) {
-    Require(!read->NotTaken.empty(), "what cannot be read is told when it is written");
+    Require(!read->NotTaken.empty(), "writing reports what cannot be read back");
     return;
   }
   Require(read->Situation.Mode == situation.Mode, "the mode is the same");
@@ -79,7 +79,8 @@ void CheckBatch(std::string_view line) {
               Amounts{question->Situation.PotSize, question->Situation.CallAmount, question->Situation.ShoveAmount},
           "its amounts are those of the batch");
   const std::size_t notations = ScenarioOf(read->Situation.Mode).HasCallingRange ? 2 : 1;
-  Require(read->NotTaken.size() == notations + (question->Id == "null" ? 0 : 1), "the rest of it is told, and no more");
+  Require(read->NotTaken.size() == notations + (question->Id == "null" ? 0 : 1),
+          "the rest is reported, and nothing else");
 }
 
 // Texts as an input screen may contain them: UTF-8 of any length.

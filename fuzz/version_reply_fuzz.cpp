@@ -24,10 +24,10 @@ void CheckLook(const UpgradeLook& look, const std::string& reply) {
   Require(IsNumericText(look.CurrentVersion), "any reply is a number");
   const bool isNewer = LeadingNumber(reply) > LeadingNumber(kVersionText);
   const bool tellsNewer = look.Link == "Download latest version of Quillon";
-  Require(tellsNewer || look.Link == "You have the latest version of Quillon", "the link tells one of two things");
+  Require(tellsNewer || look.Link == "You have the latest version of Quillon", "the link has one of two captions");
   // Between close numbers the caption's 15 digits decide.
   const bool isClose = std::abs(LeadingNumber(reply) - LeadingNumber(kVersionText)) < 1e-12;
-  Require(isClose || tellsNewer == isNewer, "the link goes by the number");
+  Require(isClose || tellsNewer == isNewer, "the link depends on the number");
 }
 
 void CheckSetting(const std::string& setting, const ProgramFolder& folder) {

@@ -12,7 +12,8 @@ namespace {
 void CheckFileName(std::string_view name) {
   const std::string text = TextOfFileName(name);
   Require(plain::IsUtf8(text), "a file name's text is UTF-8");
-  Require(plain::IsUtf8(name) ? text == name : Windows1252FromUtf8(text) == name, "a file name returns from its text");
+  Require(plain::IsUtf8(name) ? text == name : Windows1252FromUtf8(text) == name,
+          "a file name is recovered from its text");
 }
 
 }  // namespace
@@ -21,11 +22,11 @@ void CheckInput(FuzzInput input) {
   const std::string_view bytes = input.Rest();
 
   const std::string text = Utf8FromWindows1252(bytes);
-  Require(text == plain::Utf8(bytes), "any bytes are decoded as the plain way does");
+  Require(text == plain::Utf8(bytes), "any bytes are decoded as by the oracle");
   Require(Windows1252FromUtf8(text) == bytes, "every byte survives");
   Require(Utf8FromWindows1252(Windows1252FromUtf8(text)) == text, "every character of the page survives");
   Require(Windows1252FromUtf8(bytes).size() <= bytes.size(), "a character takes one byte");
-  Require(Windows1252FromUtf8(bytes) == plain::CodePage(bytes), "any text is encoded as the plain way does");
+  Require(Windows1252FromUtf8(bytes) == plain::CodePage(bytes), "any text is encoded as by the oracle");
   CheckFileName(bytes);
 }
 

@@ -63,7 +63,7 @@ TEST_F(EquityTable, LoadingAgainChangesNothing) {
   const char* const place = EquityRows()[0].data();
   LoadEquityTable();
   EXPECT_EQ(EquityRows()[0], before);
-  EXPECT_EQ(EquityRows()[0].data(), place) << "views of a row stay good";
+  EXPECT_EQ(EquityRows()[0].data(), place) << "views of a row stay valid";
 }
 
 TEST_F(EquityTable, EntriesArePlainDecimalsButForSevenBelowTheDiagonal) {

@@ -38,8 +38,8 @@ TEST(EditDistance, CountsWhatIsPutInTakenOutOrChanged) {
 TEST(NearestNames, AreTheNearestFirst) {
   EXPECT_THAT(NearestNames("Tihgt", {"Everything", "Loose", "Tight", "Light"}, 3),
               ElementsAre("Tight", "Light", "Loose"));
-  EXPECT_THAT(NearestNames("x", {"b", "a", "c"}, 2), ElementsAre("b", "a")) << "in the order given where as near";
-  EXPECT_THAT(NearestNames("x", {"a"}, 3), ElementsAre("a")) << "all where there are fewer";
+  EXPECT_THAT(NearestNames("x", {"b", "a", "c"}, 2), ElementsAre("b", "a")) << "ties in the given order";
+  EXPECT_THAT(NearestNames("x", {"a"}, 3), ElementsAre("a")) << "all if there are fewer";
   EXPECT_THAT(NearestNames("x", {}, 3), IsEmpty());
 }
 

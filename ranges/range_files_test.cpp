@@ -121,7 +121,7 @@ TEST(LoadRangeText, WhatCannotBeReadIsEmpty) {
     EXPECT_EQ(LoadRangeText(program.Folder(), name), "") << rule;
     EXPECT_FALSE(RangeExists(program.Folder(), name)) << rule;
   }
-  EXPECT_EQ(LoadRangeText(program.Folder(), "x"), "AA (1), ") << "and this one reads";
+  EXPECT_EQ(LoadRangeText(program.Folder(), "x"), "AA (1), ") << "and this one can be read";
 }
 
 TEST(DeleteRange, FailureIsFatalAndNamed) {

@@ -86,7 +86,7 @@ TEST_P(EachPage, TellsInEachCellWhatTheHoverPanelTells) {
     if (texts.FoldShare) expected += " Opponent Fold %: " + *texts.FoldShare;
     expected += " " + std::string(texts.Advice);
     EXPECT_THAT(SeenText(cell.substr(cell.find('>') + 1)), StartsWith(expected));
-    EXPECT_EQ(cell.starts_with("tabindex=\"0\""), index == 0) << "Tab comes to one cell of the grid";
+    EXPECT_EQ(cell.starts_with("tabindex=\"0\""), index == 0) << "Tab reaches one cell of the grid";
     EXPECT_THAT(cell, HasSubstr("background:" + ColorText(color) + ";color:" + ColorText(ReadableOn(color))));
   }
 }
@@ -115,7 +115,7 @@ TEST_P(EachPage, NeedsNothingFromElsewhere) {
   for (const char* fetches : {"http:", "https:", "//", "src=", "@import", "url(", "<iframe", "<object"})
     EXPECT_THAT(page, Not(HasSubstr(fetches)));
   EXPECT_THAT(page, HasSubstr("content=\"default-src 'none'"));
-  EXPECT_EQ(Split(page, "href=").size(), 2U) << "the icon that is none";
+  EXPECT_EQ(Split(page, "href=").size(), 2U) << "the empty icon";
 }
 
 TEST(AnalysisPage, OfARaiseHasTheFiguresOfEachHand) {

@@ -244,7 +244,7 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
   call.CallAmount = 7.001;
   const std::string plain = Report(call, ReportForm::kPlainText);
   EXPECT_THAT(plain, HasSubstr("Total Pot Size:     \t 12.35\rAmount To Call:     \t 7\r"));
-  EXPECT_THAT(plain, HasSubstr("\rOpponent Range Name:\t Villain: tight\r")) << "a second colon is one of the name";
+  EXPECT_THAT(plain, HasSubstr("\rOpponent Range Name:\t Villain: tight\r")) << "a second colon belongs to the name";
   EXPECT_THAT(plain, HasSubstr("Pot Odds:           \t 1.763 : 1\rBEP:                \t 36.19%\r"));
   EXPECT_THAT(plain, HasSubstr("*(12.35+7)-7\r"));
   EXPECT_THAT(Report(call, ReportForm::kForum), HasSubstr("\rPot Size: 12.345 | To Call: 7.001\r"));

@@ -28,7 +28,7 @@ TEST(FieldHelp, EachLinkShowsWholeSentencesUnderItsKey) {
       EXPECT_TRUE(IsSentences(paragraph)) << key << ": " << paragraph;
       EXPECT_THAT(paragraph, testing::Not(testing::HasSubstr("  "))) << key;
     }
-    EXPECT_TRUE(texts.insert(text).second) << key << " says what another link says";
+    EXPECT_TRUE(texts.insert(text).second) << key << " has the same text as another link";
     RecordedMessages messages;
     ShowFieldHelp(key, messages);
     EXPECT_THAT(messages.Shown,

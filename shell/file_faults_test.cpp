@@ -217,8 +217,8 @@ TEST_P(FileFaults, LeaveEachFileAsItWasOrAsItWasToBe) {
     const bool wasDone = outcome.Left == after && !outcome.Failure;
     const bool wasTold = outcome.Failure && !action.MaySwallow;
     const bool wasLetGo = !outcome.Failure && action.MaySwallow;
-    EXPECT_TRUE(wasDone || wasTold || wasLetGo) << "a failure that nobody was told of, or was told in vain";
-    EXPECT_TRUE(wasDone || disk.Error != EINTR) << "an interruption is no failure";
+    EXPECT_TRUE(wasDone || wasTold || wasLetGo) << "a failure was not reported, or reported needlessly";
+    EXPECT_TRUE(wasDone || disk.Error != EINTR) << "an interruption is not a failure";
   }
   EXPECT_EQ(failures > 0, disk.Error != EINTR);
 }

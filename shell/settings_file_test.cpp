@@ -25,11 +25,11 @@ TEST(SettingsFile, IsInTheCodePageAndMadeByTheFirstWrite) {
   const TemporaryProgram program;
   EXPECT_EQ(SettingsFilePath(program.Folder()), program.Folder().Path / "settings.ini");
   EXPECT_EQ(ReadIniValue("Main", "Left", program.Folder()), "");
-  EXPECT_EQ(EntriesOf(program.Folder()), 1) << "reading makes no file; the range folder is there";
+  EXPECT_EQ(EntriesOf(program.Folder()), 1) << "reading creates no file; the range folder existed";
   WriteIniValue("Values", "0", "5 € ♠", program.Folder());
   EXPECT_EQ(BytesOf(SettingsFilePath(program.Folder())), "[Values]\r\n0=5 \x80 ?\r\n");
   EXPECT_EQ(ReadIniValue("Values", "0", program.Folder()), "5 € ?");
-  EXPECT_EQ(EntriesOf(program.Folder()), 2) << "no scratch file stays";
+  EXPECT_EQ(EntriesOf(program.Folder()), 2) << "no scratch file is left";
 }
 
 TEST(SettingsFile, IsReadUpTo2999Characters) {

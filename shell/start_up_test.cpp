@@ -38,7 +38,7 @@ TEST(PrepareFolders, MakesBothTheRangesFirst) {
   EXPECT_THAT(made, ElementsAre("Ranges", "Saved Grids"));
   EXPECT_TRUE(FolderExists(program.Folder().Path / "Ranges"));
   EXPECT_TRUE(FolderExists(program.Folder().Path / "Saved Grids"));
-  EXPECT_FALSE(std::filesystem::exists(SettingsFilePath(program.Folder()))) << "only a write makes it";
+  EXPECT_FALSE(std::filesystem::exists(SettingsFilePath(program.Folder()))) << "only a write creates it";
 }
 
 TEST(PrepareFolders, AFolderThatCannotBeMadeIsFatal) {

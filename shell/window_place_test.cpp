@@ -18,7 +18,7 @@ constexpr TwipPoint kCentered = {.Left = 6750, .Top = 3577.5F};
 
 TEST(CenteredCorner, PutsTheWindowIntoTheMiddleOfTheScreen) {
   EXPECT_EQ(CenteredCorner(kWindow, kScreen), kCentered);
-  EXPECT_EQ(CenteredCorner(kWindow, {12000, 9000}), (TwipPoint{-1650, -22.5F})) << "that of a large one lies outside";
+  EXPECT_EQ(CenteredCorner(kWindow, {12000, 9000}), (TwipPoint{-1650, -22.5F})) << "that of a larger one is outside";
 }
 
 TEST(StoredCorner, IsWhereTheWindowWas) {

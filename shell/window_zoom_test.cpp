@@ -47,7 +47,7 @@ TEST(WindowZoom, IsKeptAsAStepAndNothingElse) {
                                 Row{"80", std::nullopt}, Row{"x", std::nullopt},  Row{"-100", std::nullopt},
                                 Row{"0", std::nullopt},  Row{"1e2", std::nullopt}};
   const TemporaryProgram program;
-  EXPECT_EQ(StoredZoom(program.Folder()), std::nullopt) << "nothing is kept yet";
+  EXPECT_EQ(StoredZoom(program.Folder()), std::nullopt) << "nothing is stored yet";
   for (const Row& row : kRows) {
     WriteIniValue("View", "Zoom", row.Text, program.Folder());
     EXPECT_EQ(StoredZoom(program.Folder()), row.Percent) << row.Text;

@@ -97,7 +97,8 @@ TEST(PlayedLegend, HasALineForEachColourOfEitherGrid) {
   const ClassCells all = PlayedCells(BalanceSide::kShove, AllHands(), AllHands());
   EXPECT_EQ(PlayedLegend(all, all).size(), 1U);
   EXPECT_EQ(PlayedLegend(all, PlayedCells(BalanceSide::kCall, some, AllHands())).size(), 3U);
-  EXPECT_EQ(PlayedLegend(PlayedCells(BalanceSide::kShove, some, some), all).size(), 3U) << "always, at times, not held";
+  EXPECT_EQ(PlayedLegend(PlayedCells(BalanceSide::kShove, some, some), all).size(), 3U)
+      << "always, sometimes, not held";
 }
 
 TEST(PercentOfHands, CountsWeights) {

@@ -54,7 +54,7 @@ TEST_F(BatchTest, AnswersWithTheIdBeforeTheFieldsOfAnAnalysis) {
   EXPECT_EQ(answer.Line.find('\n'), std::string::npos);
   const Json object = Json::parse(answer.Line);
   EXPECT_EQ(object["hands"].size(), 169U);
-  EXPECT_EQ(object.size(), AnalysisFieldNames().size() - 6 + 1) << "all but those of a hand, and the id";
+  EXPECT_EQ(object.size(), AnalysisFieldNames().size() - 6 + 1) << "all except those of a hand, and the id";
 }
 
 // An id is not an amount, so it loses no digit.

@@ -257,7 +257,7 @@ TEST(FigureLayout, LiesUnderAnother) {
   EXPECT_EQ(above.PlotStart().X, below.PlotStart().X);
   EXPECT_EQ(above.PlotEnd().X, below.PlotEnd().X);
   EXPECT_EQ(above.Size().Width, below.Size().Width);
-  EXPECT_LT(below.PlotStart().Y, above.PlotStart().Y) << "nothing has to have room above it";
+  EXPECT_LT(below.PlotStart().Y, above.PlotStart().Y) << "nothing needs room above it";
 
   const std::string both = FigureSvg(figures);
   EXPECT_THAT(both, HasSubstr("<g transform=\"translate(0 " + NumberText(above.Size().Height) + ")\">"));

@@ -198,7 +198,7 @@ TEST(AmountFigure, MarksTheAmountAndTheLimits) {
   EXPECT_EQ(FigureWords(figure),
             "Preflop Raise: pot 1.5, 0.5 to call. He plays \"Any\" and calls with \"Calls\". now 9 chips, 6 pots. "
             "A5s, up to 116.72. K9o, up to 23.07. 72o, up to 7.89");
-  EXPECT_EQ(figure.Across.Low, 0) << "the first step is one from nothing";
+  EXPECT_EQ(figure.Across.Low, 0) << "the first step starts from 0";
   EXPECT_EQ(figure.Across.Pot, 1.5);
   EXPECT_EQ(figure.Up.Pot, 1.5);
   for (const FigureLine& line : figure.Lines) {

@@ -21,7 +21,7 @@ ClassWeights Range(const std::vector<std::string>& labels) {
 
 TEST(CallLimit, FollowsFromTheEquity) {
   EXPECT_EQ(CallLimit(100, 0.2), (Limit{LimitKind::kUpTo, 25}));
-  EXPECT_EQ(CallLimit(100, 0.5), (Limit{LimitKind::kAlways, 0})) << "as large as the pot, and no call may be";
+  EXPECT_EQ(CallLimit(100, 0.5), (Limit{LimitKind::kAlways, 0})) << "no call may be as large as the pot";
   EXPECT_EQ(CallLimit(100, 0.8), (Limit{LimitKind::kAlways, 0}));
   EXPECT_EQ(CallLimit(100, 1), (Limit{LimitKind::kAlways, 0}));
   EXPECT_EQ(CallLimit(100, 0), (Limit{LimitKind::kNever, 0}));

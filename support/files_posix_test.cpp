@@ -48,7 +48,7 @@ TEST_F(ReplacingAFile, LinkIsFollowed) {
   WatchedCalls calls;
   EXPECT_FALSE(FailureOfReplacing(File(), Folder().parent_path() / "missing", calls));
   EXPECT_EQ(fs::path(calls.ScratchFiles().back()).parent_path().lexically_normal(), elsewhere)
-      << "beside the file, not beside the link";
+      << "next to the file, not to the link";
 }
 
 TEST_F(ReplacingAFile, CircleOfLinksAndPipeFailAndStay) {
@@ -61,7 +61,7 @@ TEST_F(ReplacingAFile, CircleOfLinksAndPipeFailAndStay) {
     EXPECT_THAT(error->what(), testing::HasSubstr(name));
     ExpectNoScratchFiles();
   }
-  EXPECT_EQ(RunTimeFaultOf(EDQUOT), RunTimeFault::kDiskFull) << "a share of the disk that is used up";
+  EXPECT_EQ(RunTimeFaultOf(EDQUOT), RunTimeFault::kDiskFull) << "a used-up disk quota";
   EXPECT_TRUE(fs::is_symlink(Folder() / "circle"));
   EXPECT_TRUE(fs::is_fifo(Folder() / "pipe"));
 }
@@ -140,7 +140,7 @@ TEST_F(ReplacingAFile, ScratchFileIsNeverOpenToMoreThanTheOldFile) {
   Put(File(), kOld);
   ASSERT_EQ(::chmod(File().c_str(), 0600), 0);
   WatchedCalls calls(FailAll(Call::kSetMode, EPERM));
-  EXPECT_FALSE(Replace(calls)) << "a disk without permissions is written all the same";
+  EXPECT_FALSE(Replace(calls)) << "a disk without permissions is still written";
   EXPECT_EQ(BytesOf(File()), kNew);
   EXPECT_EQ(ModeOf(File()), 0600U);
 }

@@ -272,7 +272,7 @@ TEST_F(WritingInPlace, CopyIsKeptUntilTheFileIsOnTheDisk) {
   EXPECT_FALSE(Replace(calls));
   EXPECT_THAT(CallsFrom(calls, OpenFor::kRewriting),
               testing::ElementsAre(Call::kOpen, Call::kWrite, Call::kSync, Call::kClose, Call::kUnlink));
-  EXPECT_THAT(calls.ScratchFiles().back(), testing::EndsWith(".copy")) << "a name that no start clears away";
+  EXPECT_THAT(calls.ScratchFiles().back(), testing::EndsWith(".copy")) << "a name that no start deletes";
 }
 
 TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
@@ -299,7 +299,7 @@ TEST_F(WritingInPlace, FailureOfAnyCallLeavesTheOldContentOrACopyOfTheNew) {
     for (const std::string& name : Listing(ScratchFolder()))
       fs::remove(ScratchFolder() / name);
   }
-  EXPECT_GE(copies, 3) << "writing, reaching the disk and closing can each fail";
+  EXPECT_GE(copies, 3) << "writing, syncing and closing can each fail";
 }
 
 TEST_F(ReplacingAFile, NameThatAKilledProcessLeftIsPassedOver) {
@@ -323,7 +323,7 @@ TEST_F(ReplacingAFile, FolderFullOfScratchNamesEndsTheSearch) {
     return entry.Purpose == OpenFor::kCreating ? std::optional(-EEXIST) : std::nullopt;
   });
   EXPECT_TRUE(Replace(calls));
-  EXPECT_EQ(calls.ScratchFiles().size(), 200U) << "a hundred in the scratch folder and as many beside the file";
+  EXPECT_EQ(calls.ScratchFiles().size(), 200U) << "a hundred in the scratch folder and as many next to the file";
 }
 
 TEST_F(Files, PathTooLongIsOneThatTheSystemRefusesForItsLength) {

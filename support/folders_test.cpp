@@ -55,7 +55,7 @@ TEST_F(Folders, AnyErrorCountsAsNotExisting) {
   WatchedCalls failing(FailAll(Call::kOpen, EIO));
   EXPECT_FALSE(FolderExists(Path(), failing));
   WatchedCalls interrupted(FailAll(Call::kOpen, EINTR, 3));
-  EXPECT_TRUE(FolderExists(Path(), interrupted)) << "the look is taken again";
+  EXPECT_TRUE(FolderExists(Path(), interrupted)) << "the check is repeated";
 }
 
 TEST_F(Folders, ThatCannotBeMadeAreFatal) {
@@ -102,7 +102,7 @@ TEST_F(Folders, ListTheirFilesAsText) {
 
 TEST_F(Folders, HaveTheFileOfAName) {
   EXPECT_EQ(FileOfName(Path(), "Käse").filename(), PathOf("Käse"));
-  EXPECT_EQ(FileOfName(Path(), "/etc"), Path() / "etc") << "no name leads out by being absolute";
+  EXPECT_EQ(FileOfName(Path(), "/etc"), Path() / "etc") << "an absolute name does not lead out";
   std::ofstream(Path() / "file") << "x";
   EXPECT_TRUE(IsThere(Path() / "file"));
   EXPECT_FALSE(IsThere(Path() / "nowhere"));

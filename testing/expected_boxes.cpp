@@ -109,7 +109,7 @@ class BoxWatch : public QObject, public testing::EmptyTestEventListener {
  private:
   void Meet(QDialog& dialog) {
     if (expected_.empty()) {
-      ADD_FAILURE() << "Nobody expected this box: " << Describe(dialog);
+      ADD_FAILURE() << "Unexpected box: " << Describe(dialog);
       Dismiss(dialog);
       return;
     }
@@ -118,7 +118,7 @@ class BoxWatch : public QObject, public testing::EmptyTestEventListener {
     const std::string description = Describe(dialog);
     expected.Answer(dialog);
     if (!dialog.isVisible()) return;
-    ADD_FAILURE() << "This box was answered and is still there: " << description;
+    ADD_FAILURE() << "This box was answered but is still open: " << description;
     Dismiss(dialog);
   }
 

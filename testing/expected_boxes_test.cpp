@@ -38,10 +38,9 @@ TEST(ExpectedBoxes, AnswerWithTheButtonAskedForInTheirOrder) {
 }
 
 TEST(ExpectedBoxes, FailTheTestAtABoxThatNobodyExpected) {
-  EXPECT_NONFATAL_FAILURE(Show(kQuestion),
-                          "Nobody expected this box: message box \"Delete?\" (question, Yes No Cancel)");
+  EXPECT_NONFATAL_FAILURE(Show(kQuestion), "Unexpected box: message box \"Delete?\" (question, Yes No Cancel)");
   EXPECT_NONFATAL_FAILURE(MessageDialogs().Ask("Name?", "New", "Button"),
-                          "Nobody expected this box: input box \"New\": Name? [Button]");
+                          "Unexpected box: input box \"New\": Name? [Button]");
   EXPECT_NONFATAL_FAILURE(QFileDialog(nullptr, QStringLiteral("Save As")).exec(), "QFileDialog \"Save As\"");
 }
 
@@ -74,7 +73,7 @@ TEST(ExpectedBoxes, FailTheTestWhereTheBoxDiffersInAnything) {
 
 TEST(ExpectedBoxes, FailTheTestWhereTheButtonIsNotThere) {
   ExpectMessageBox(kNote, MessageAnswer::kCancel);
-  EXPECT_NONFATAL_FAILURE(Show(kNote), "This box was answered and is still there: message box \"Quillon\"");
+  EXPECT_NONFATAL_FAILURE(Show(kNote), "This box was answered but is still open: message box \"Quillon\"");
 }
 
 TEST(ExpectedBoxes, FailTheTestWhereABoxDoesNotCome) {

@@ -28,7 +28,7 @@ inline void ExpectBuiltAsItsRows(const QWidget& form, const FormControls& contro
     const QWidget* container = table.Container.empty() ? &form : controls.Find(std::string(table.Container));
     for (const ControlRow& row : table.Rows) {
       const std::string name = ObjectName(row.Name, row.Index);
-      EXPECT_TRUE(names.insert(name).second) << name << " is there twice";
+      EXPECT_TRUE(names.insert(name).second) << name << " is not unique";
       const QWidget& control = controls.At(row);
       EXPECT_EQ(FromQt(control.objectName()), name);
       EXPECT_EQ(control.parentWidget(), container) << name;

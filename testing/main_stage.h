@@ -117,7 +117,7 @@ class MainStage {
     for (std::int16_t i = 0; i < Form.Controls().CountOf("frameContent"); ++i) {
       if (Shows("frameContent", i)) shown += FromQt(Get<Frame>("frameContent", i).Caption()) + ";";
     }
-    EXPECT_FALSE(shown.empty()) << "no screen shows";
+    EXPECT_FALSE(shown.empty()) << "no screen is visible";
     return shown.substr(0, shown.empty() ? 0 : shown.size() - 1);
   }
 
@@ -264,7 +264,7 @@ class MainStage {
 class MainFormTest : public testing::Test, public MainStage {
  protected:
   void SetUp() override { Start(); }
-  void TearDown() override { EXPECT_EQ(ActsToCome, 0) << "something was to be done during a run"; }
+  void TearDown() override { EXPECT_EQ(ActsToCome, 0) << "an action planned for a run was not done"; }
 };
 
 /// Names each test of a table after its row.

@@ -115,7 +115,7 @@ class OpenBatch {
 
 TEST_F(BatchJourney, TakesNoMoreMemoryTheLongerItIs) {
 #if defined(QUILLON_ADDRESS_SANITIZER)
-  GTEST_SKIP() << "AddressSanitizer keeps what is freed";
+  GTEST_SKIP() << "AddressSanitizer keeps freed memory";
 #endif
   const int count = LineCount();
   OpenBatch batch(File(), Prepare(File()));

@@ -47,7 +47,7 @@ void ExpectWholeRanges(const ProgramFolder& folder, Loops loops) {
   for (const std::string& fileName : RangeFolderEntries(folder)) {
     const std::string name = RangeNameOfFile(fileName);
     EXPECT_TRUE(name == "A" || name == "A moved" || name == "B" || name == "B moved" || name == kSharedRange)
-        << fileName << " is none of the ranges";
+        << fileName << " is not one of the ranges";
     const std::string text = LoadRangeText(folder, name);
     if (text.empty() && loops == Loops::kRunning) continue;  // renamed since the folder was listed
     ASSERT_FALSE(text.empty()) << name;
@@ -57,7 +57,7 @@ void ExpectWholeRanges(const ProgramFolder& folder, Loops loops) {
 
 void ExpectWholeSituations(const ProgramFolder& folder) {
   for (const std::string& name : SituationNames(folder)) {
-    EXPECT_TRUE(name == "A" || name == "B" || name == kSharedRange) << name << " is none of the situations";
+    EXPECT_TRUE(name == "A" || name == "B" || name == kSharedRange) << name << " is not one of the situations";
     const std::string text = ReadAllBytes(SituationFilePath(folder, name));
     const auto read = SituationOfText(text);
     ASSERT_TRUE(std::holds_alternative<ReadSituation>(read)) << text;
@@ -139,7 +139,7 @@ TEST(Saving, KilledAtAnyMomentLeavesEveryRangeWhole) {
   std::cout << kills << " kills, of which " << left << " left a scratch file behind\n";
   MakeOld(program.Folder().Path);
   RemoveStaleScratchFiles(program.Folder().Path);
-  EXPECT_EQ(ScratchFilesIn(program.Folder().Path), 0U) << "the next start clears them away";
+  EXPECT_EQ(ScratchFilesIn(program.Folder().Path), 0U) << "the next start deletes them";
   EXPECT_TRUE(fs::exists(SettingsFilePath(program.Folder())));
   EXPECT_THAT(SituationNames(program.Folder()), testing::ElementsAre("A", kSharedRange));
 }

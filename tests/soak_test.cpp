@@ -65,7 +65,7 @@ class Soak : public MainFormTest {
   void SetUp() override {
     MainFormTest::SetUp();
 #if defined(QUILLON_ADDRESS_SANITIZER)
-    GTEST_SKIP() << "a sanitizer keeps what was freed";
+    GTEST_SKIP() << "a sanitizer keeps freed memory";
 #endif
   }
 
@@ -103,7 +103,7 @@ class Soak : public MainFormTest {
     // Qt keeps the names of drawn pictures, some hundred bytes per dialog, and drops them in idle time. Tables that
     // grow by doubling take some more, once.
     const double settling = 65536.0 / static_cast<double>(durations.end() - first);
-    EXPECT_LT(growth, 1024 + settling) << "something is not given back";
+    EXPECT_LT(growth, 1024 + settling) << "memory is leaked";
     EXPECT_LT(resident, 1.05) << "memory grows";
     if (SoakFactor() > 0) {
       EXPECT_LT(late, early * 1.5) << "it becomes slower";

@@ -92,7 +92,7 @@ TEST(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {
 
   stage.ComeToFront();
   stage.Open(kCallNav);
-  EXPECT_EQ(stage.Screen(), "Preflop Call") << "now it listens";
+  EXPECT_EQ(stage.Screen(), "Preflop Call") << "it responds again";
 }
 
 // The program in a process of its own, which ends as the real one does, and reports its progress.

@@ -171,7 +171,7 @@ void WindowJourney::AnalyzeAndHoldUp(std::int16_t button) {
     Session().WaitUntil("the run is over", [&] { return IsSelected("lblNav(3)"); });
     Click(LinkOf(button));
   }
-  throw std::runtime_error("no run was ever seen under way");
+  throw std::runtime_error("every run ended before it was seen");
 }
 
 bool WindowJourney::HoldUpOneRun(std::int16_t button) {

@@ -180,7 +180,7 @@ int WindowSession::WaitForEnd() const {
   const auto limit = steady_clock::now() + kLimit;
   while (!(status = Running().Status()) && steady_clock::now() < limit)
     std::this_thread::sleep_for(kBetweenQuestions);
-  if (!status) throw std::runtime_error("the program goes on and on");
+  if (!status) throw std::runtime_error("the program does not end");
   return *status;
 }
 
@@ -459,7 +459,7 @@ QImage WindowSession::StillPicture(const QRect& area) const {
 void WindowSession::WaitUntil(std::string_view what, const std::function<bool()>& happened) const {
   const auto limit = steady_clock::now() + kLimit;
   while (!happened()) {
-    if (steady_clock::now() > limit) throw std::runtime_error("waited in vain until " + std::string(what));
+    if (steady_clock::now() > limit) throw std::runtime_error("timed out waiting until " + std::string(what));
     if (!programs_.empty() && Running().Status()) {
       throw std::runtime_error("the program ended while waiting until " + std::string(what) + ": " +
                                Running().Errors());

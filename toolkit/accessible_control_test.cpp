@@ -209,7 +209,7 @@ TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
   const QString open = QAccessibleActionInterface::showMenuAction();
   QAccessibleActionInterface& actions = *Spoken(chooser).actionInterface();
   actions.doAction(open);
-  EXPECT_FALSE(chooser.view()->isVisible()) << "what is hidden does not open";
+  EXPECT_FALSE(chooser.view()->isVisible()) << "a hidden one does not open";
   chooser.show();
   EXPECT_EQ(actions.actionNames().value(0), open);
   actions.doAction(open);

@@ -132,7 +132,7 @@ TEST(Application, KnowsWhetherItAnswersAKey) {
   std::vector<bool> byKey;
   QObject::connect(&control, &Control::Clicked, &control, [&byKey] { byKey.push_back(AnswersKey()); });
   PressReturn(control);
-  EXPECT_FALSE(AnswersKey()) << "it has been answered";
+  EXPECT_FALSE(AnswersKey()) << "it has been handled";
   ClickWithTheMouse(control);
   control.Click();
   QTest::keyClick(&control, Qt::Key_Down);

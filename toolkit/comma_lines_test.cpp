@@ -65,7 +65,7 @@ TEST_F(CommaLinesTest, EndAfterACommaOrASpaceAndNeverWithinAHand) {
     SetLetters(row.Letters);
     Box.setPlainText(QString::fromLatin1(row.Text));
     EXPECT_EQ(LinesOf(Box), row.Lines) << row.Rule;
-    EXPECT_EQ(Box.toPlainText().toStdString(), row.Text) << "the text stays as it is";
+    EXPECT_EQ(Box.toPlainText().toStdString(), row.Text) << "the text is unchanged";
   }
 }
 

@@ -155,7 +155,7 @@ TEST_F(ControlTest, IsReachedByTabWhereItCanBeClicked) {
   EXPECT_TRUE(box.hasFocus());
   link.SetUse(ControlUse::kPassive);
   Key(Qt::Key_Tab);
-  EXPECT_TRUE(focusLink.hasFocus()) << "the other cannot be clicked any longer";
+  EXPECT_TRUE(focusLink.hasFocus()) << "the other one is no longer clickable";
 }
 
 TEST_F(ControlTest, IsClickedByEnterAndSpaceOnceEach) {

@@ -58,7 +58,7 @@ TEST_F(FocusMarkTest, GoesRoundWhateverTheKeyboardReaches) {
     EXPECT_EQ(mark.geometry(), control->geometry().adjusted(-3, -3, 3, 3));
   }
   form.setFocus(Qt::TabFocusReason);
-  EXPECT_FALSE(mark.isVisible()) << "the window itself is nobody";
+  EXPECT_FALSE(mark.isVisible()) << "the window itself has no mark";
 }
 
 TEST_F(FocusMarkTest, StandsOutFromEveryColour) {

@@ -129,7 +129,7 @@ TEST_F(FormKeysTest, OfTheWholeProgramAreHeardInEveryWindowButNotBehindABox) {
   QTest::keyClick(other.windowHandle(), Qt::Key_F1);
   EXPECT_EQ(presses, 1);
   QTest::keyClick(other.windowHandle(), Qt::Key_L, Qt::ControlModifier);
-  EXPECT_EQ(linkClicks.count(), 0) << "a key of one form's is not heard in another";
+  EXPECT_EQ(linkClicks.count(), 0) << "a form's key does not work in another";
 
   ExpectDialog([](QDialog& dialog) {
     QTest::keyClick(dialog.windowHandle(), Qt::Key_F1);

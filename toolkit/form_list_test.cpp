@@ -41,7 +41,7 @@ class ListTest : public testing::Test {
     List.SelectEntry("two");
     EXPECT_EQ(Clicks, 2) << "the selected entry";
     List.SelectEntry("Two");
-    EXPECT_EQ(List.CurrentText(), "two") << "an entry that is not there";
+    EXPECT_EQ(List.CurrentText(), "two") << "an unknown entry";
     EXPECT_EQ(Clicks, 2);
     QTest::keyClick(&Widget, Qt::Key_Down);
     EXPECT_EQ(List.CurrentText(), "three");
@@ -63,10 +63,10 @@ TEST_F(FormChooserTest, ANameThatIsCutHasAToolTipThatIsWhole) {
   List.Show({{"", longName, "Tight"}, 1});
   EXPECT_EQ(FromQt(Widget.toolTip()), longName);
   List.SelectEntry("Tight");
-  EXPECT_EQ(Widget.toolTip(), QString()) << "it shows as a whole";
+  EXPECT_EQ(Widget.toolTip(), QString()) << "it is shown in full";
   Widget.setFocus();
   QTest::keyClick(&Widget, Qt::Key_Up);
-  EXPECT_EQ(FromQt(Widget.toolTip()), longName) << "by the keyboard, too";
+  EXPECT_EQ(FromQt(Widget.toolTip()), longName) << "by keyboard, too";
   Widget.resize(5000, 200);
   EXPECT_EQ(Widget.toolTip(), QString()) << "now there is room";
   Widget.resize(200, 200);

@@ -258,7 +258,7 @@ TEST_F(InputBlockTest, HearsAgainAfterTheBlock) {
   Use();
   DragIn();
   Drop();
-  EXPECT_EQ(SeenByNow(), "move press key key shortcut wheel composed enter drag drop ") << "Ctrl is a key, too";
+  EXPECT_EQ(SeenByNow(), "move press key key shortcut wheel composed enter drag drop ") << "Ctrl is a key too";
 }
 
 }  // namespace

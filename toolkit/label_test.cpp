@@ -173,7 +173,7 @@ TEST(Label, ThatIsCutKeepsItsPlaceAndHasTheWholeTextInItsToolTip) {
 
   const QImage cut = label.grab().toImage();
   label.SetText(label.fontMetrics().elidedText(longName, Qt::ElideRight, kOneLine.width()));
-  EXPECT_EQ(label.grab().toImage(), cut) << "what shows is the start and an ellipsis";
+  EXPECT_EQ(label.grab().toImage(), cut) << "the start and an ellipsis are visible";
   EXPECT_EQ(label.toolTip(), QString()) << "this one fits";
 }
 
@@ -193,7 +193,7 @@ TEST(Label, WithAHaloHasItRoundItsLettersOnly) {
     for (int x = 0; x < plain.width(); ++x) {
       if (plain.pixelColor(x, y) == QColor(Qt::black)) {
         ++letters;
-        EXPECT_EQ(edged.pixelColor(x, y), QColor(Qt::black)) << "the letters themselves stay";
+        EXPECT_EQ(edged.pixelColor(x, y), QColor(Qt::black)) << "the letters are unchanged";
       }
       pale += edged.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
     }

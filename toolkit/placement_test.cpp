@@ -70,7 +70,7 @@ TEST_F(Placement, KeepsASizeThatTheUserHasGiven) {
   ShowAtScale(1);
   EXPECT_EQ(form.size(), QSize(667, 500));
   form.resize(10, 10);
-  EXPECT_EQ(SizeOf(form), (TwipSize{9000, 6000})) << "the least";
+  EXPECT_EQ(SizeOf(form), (TwipSize{9000, 6000})) << "the minimum";
 }
 
 TEST_F(Placement, LeavesGapsThatAreAlikeToAPixel) {

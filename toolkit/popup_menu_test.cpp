@@ -44,7 +44,7 @@ TEST_F(PopUpMenuTest, HasItsEntriesWithTheirKeysAndALineBetweenGroups) {
                                                                               : action->isEnabled() ? ""
                                                                                                     : " (off)"));
   EXPECT_EQ(shown, (std::vector<std::string>{"Copy (off)", "PasteCtrl+V", "---", "This && that"}));
-  EXPECT_EQ(Menu()->activeAction(), nullptr) << "nothing is marked for the mouse";
+  EXPECT_EQ(Menu()->activeAction(), nullptr) << "nothing is selected for the mouse";
 }
 
 TEST_F(PopUpMenuTest, MarksTheFirstEntryThatCanBeChosenWhereAKeyHasBroughtItUp) {

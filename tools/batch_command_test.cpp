@@ -194,7 +194,7 @@ TEST_F(BatchCommand, EndsWhereItsOutputFails) {
   std::ostream output(&full);
   std::stringbuf lines(EquityLines(3000));
   EXPECT_EQ(Run({"batch"}, lines, output), kDone);
-  EXPECT_FALSE(output) << "for the program to tell";
+  EXPECT_FALSE(output) << "for the program to report";
 }
 
 // ---- what it is made of

@@ -405,7 +405,7 @@ TEST(BalanceCommand, PrintsAndSavesBothRanges) {
 
   const Json own = Json::parse(program.Run(With(balance, {"--own-hands", "AA", "--format", "json"})).Output);
   EXPECT_EQ(own["shove_range"]["hands"], "AA");
-  EXPECT_NEAR(own["value"], 1.5 - 1.0 / 1225, 1e-9) << "other aces alone call, and split the pot";
+  EXPECT_NEAR(own["value"], 1.5 - 1.0 / 1225, 1e-9) << "only other aces call, and split the pot";
 
   const Json seldom = Json::parse(
       program.Run(With(balance, {"--own-hands", "AA:1e-200", "--hands", "KK:1e-200", "--format", "json"})).Output);

@@ -85,7 +85,7 @@ TEST_F(InterruptedBatch, EndsBetweenTwoLinesOnAnInterrupt) {
   EXPECT_EQ(Run({"batch", "--jobs", "2", "--fields", "best"}, lines, output), kInterrupted);
   EXPECT_EQ(lines.Begun(), 101);
   const auto answers = Lines(output.str());
-  ASSERT_EQ(answers.size(), 100U) << "what was read before is answered, the line that was cut off is not";
+  ASSERT_EQ(answers.size(), 100U) << "lines already read are answered, the cut-off line is not";
   EXPECT_EQ(answers.back(), R"({"id":99,"best":"22"})");
   EXPECT_THAT(output.str(), EndsWith("\n"));
 }
@@ -107,7 +107,7 @@ TEST_F(InterruptedBatch, ReadsNothingMoreOnceInterruptedWhileItsOutputIsBlocked)
   release.set_value();
   EXPECT_EQ(run.get(), kInterrupted);
   EXPECT_EQ(lines.Begun(), begun);
-  EXPECT_EQ(Lines(blocked.str()).size(), static_cast<std::size_t>(begun)) << "what was read is answered";
+  EXPECT_EQ(Lines(blocked.str()).size(), static_cast<std::size_t>(begun)) << "lines already read are answered";
   EXPECT_THAT(blocked.str(), EndsWith("\n"));
 }
 

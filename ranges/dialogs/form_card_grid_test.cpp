@@ -110,7 +110,7 @@ TEST_F(FormCardGridTest, AReleaseThatComesTwiceIsOneRelease) {
   EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs"));
   send(QEvent::KeyRelease, 2000);
   Cell("A5s");
-  EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs A5s")) << "the press that is held has had its sweep";
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs A5s")) << "the held press has been used up";
 }
 
 TEST_F(FormCardGridTest, ArrowKeysGoFromCellToCellAndEnterOrSpacePressesIt) {

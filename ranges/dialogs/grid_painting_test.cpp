@@ -188,7 +188,7 @@ TEST_F(PaintingTest, WhatCannotBeReadIsShownAndChangesNothing) {
     EXPECT_EQ(GridText(), TextWith("AA"));
   }
   Undo();
-  EXPECT_EQ(GridText(), TextWith("")) << "no step was made of them";
+  EXPECT_EQ(GridText(), TextWith("")) << "they are not a step";
 }
 
 TEST_F(PaintingTest, TextBoxesKeepTheirKeys) {
@@ -213,7 +213,7 @@ TEST_F(PaintingTest, TextBoxesKeepTheirKeys) {
   EXPECT_EQ(Clipboard(), "AA");
   Paste("QQ");
   Undo();
-  EXPECT_EQ(GridText(), TextWith("AA")) << "not the grid's while a box is read from";
+  EXPECT_EQ(GridText(), TextWith("AA")) << "not for the grid while a read-only box has the focus";
 
   Controls().Get<QPushButton>("cmdOK").setFocus();
   Undo();
@@ -322,7 +322,7 @@ TEST_F(PaintingTest, StepsGoBackAndForth) {
   EXPECT_EQ(Summary(), "22");
   Cell("33");
   Redo();
-  EXPECT_EQ(GridText(), TextWith("22", "33")) << "a click ends the way forth";
+  EXPECT_EQ(GridText(), TextWith("22", "33")) << "a click ends redoing";
 }
 
 TEST_F(PaintingTest, AProposalIsOneStep) {
@@ -405,10 +405,10 @@ TEST_F(ManagerPaintingTest, WeightsThatASaveWouldDropAreTold) {
   EXPECT_THAT(heard.Texts(), ElementsAre(note));
 
   Stage.Dialogs.RefreshLists();
-  EXPECT_THAT(heard.Texts(), ElementsAre(note)) << "the same again is no news";
+  EXPECT_THAT(heard.Texts(), ElementsAre(note)) << "the same range is not news";
   Form().hide();
   Stage.OpenManager();
-  EXPECT_THAT(heard.Texts(), ElementsAre(note, note)) << "it comes up with that range";
+  EXPECT_THAT(heard.Texts(), ElementsAre(note, note)) << "it opens with that range";
 
   ExpectMessageBox(Saved("Loose"));
   Click("imgSave");

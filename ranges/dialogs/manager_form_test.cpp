@@ -216,7 +216,7 @@ TEST_F(ManagerFormTest, SaveWithNothingSelectedWritesTheRangeWithoutAName) {
   ExpectMessageBox(Saved(""));
   Click("imgSave");
   EXPECT_THAT(RangeFolderEntries(Stage.Program.Folder()), testing::ElementsAre(".txt"));
-  EXPECT_EQ(FileText(""), TextWith("AA", "AKs")) << "the grid went on showing the range that was selected last";
+  EXPECT_EQ(FileText(""), TextWith("AA", "AKs")) << "the grid still showed the last selected range";
 }
 
 TEST_F(ManagerFormTest, NewInAnEmptyFolderSelectsItsRange) {
@@ -332,7 +332,7 @@ TEST_F(ManagerFormTest, KeysPressTheActions) {
   press(Qt::Key_F2);
   ExpectMessageBox(AskToDelete("Button Shove"), MessageAnswer::kNo);
   press(Qt::Key_Delete);
-  EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs")) << "deleted on Yes alone";
+  EXPECT_EQ(FileText("Button Shove"), TextWith("AA", "AKs")) << "deleted only on Yes";
 }
 
 TEST_F(ManagerFormTest, EscapeAndControlWCloseLikeTheCloseBox) {

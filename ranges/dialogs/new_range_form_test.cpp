@@ -83,7 +83,7 @@ TEST_F(NewRangeFormTest, AProposalTogglesItsCellsSumsUpAndPutsTheFocusOnTheName)
 TEST_F(NewRangeFormTest, EachCellOfAProposalTakesTheShiftTest) {
   Stage.ShiftHeld = true;
   Form().Propose(std::vector{HandIndex("QQ"), HandIndex("JJ")});
-  EXPECT_EQ(GridText(), TextWith("AA KK QQ JJ")) << "the first hand takes the press";
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ JJ")) << "the first hand uses up the press";
 }
 
 TEST_F(NewRangeFormTest, AnEmptyProposalSumsUpWhatIsThereAndLeavesTheFocusWhereTheNameIsDisabled) {
@@ -156,7 +156,7 @@ TEST_F(NewRangeFormTest, OpenedFromASecondChooserTheRangeGoesThere) {
   EXPECT_EQ(Chosen(0), "");
   EXPECT_EQ(Chosen(1), "Button Shove");
   EXPECT_EQ(Chosen(3), "Mine");
-  EXPECT_EQ(Stage.Main.Controls.Get<QComboBox>("cmboRanges", 2).count(), 4) << "it is on offer in each";
+  EXPECT_EQ(Stage.Main.Controls.Get<QComboBox>("cmboRanges", 2).count(), 4) << "each list has it";
 }
 
 TEST_F(NewRangeFormTest, CancelHidesAndReopeningBringsAllBack) {

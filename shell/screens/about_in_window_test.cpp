@@ -69,7 +69,7 @@ TEST_F(UpgradeInWindow, AReplyIsShownAndGoesWithTheTick) {
     EXPECT_EQ(Web.Asked.size(), 1U);
     ExpectOutcome(latest, link);
     Click("chkUpgrade");
-    EXPECT_EQ(Web.Asked.size(), 1U) << "unticking asks nobody";
+    EXPECT_EQ(Web.Asked.size(), 1U) << "unchecking asks nobody";
     ExpectOutcome("N/A", "");
     EXPECT_EQ(Settings(), "[Upgrade]\r\nAuto=0\r\n");
   }
@@ -177,7 +177,7 @@ TEST_F(FeedbackInWindow, AFailureKeepsTheText) {
   ExpectInputBoxCancelled(kAddressQuestion);
   ExpectMessageBox(kNotSent);
   Send();
-  EXPECT_EQ(Web.Asked, std::vector<std::string>{Request(kAnonymousCode, "%61%62%63")}) << "from nobody";
+  EXPECT_EQ(Web.Asked, std::vector<std::string>{Request(kAnonymousCode, "%61%62%63")}) << "without a sender";
   EXPECT_EQ(Note().toPlainText(), QStringLiteral("abc"));
 }
 
@@ -203,7 +203,7 @@ TEST_F(FeedbackInWindow, TheWindowIsLiveDuringTheWait) {
   ExpectInputBox(kAddressQuestion, "x@y");
   ExpectMessageBox(kSent);
   Send();
-  EXPECT_EQ(Web.Asked, std::vector<std::string>{Request("%78%40%79", "%78")}) << "as the note reads by then";
+  EXPECT_EQ(Web.Asked, std::vector<std::string>{Request("%78%40%79", "%78")}) << "as the note then reads";
 }
 
 TEST_F(FeedbackInWindow, TheAnswerIsTheMainWindowsWhateverIsInFrontByThen) {
@@ -234,7 +234,7 @@ TEST_F(FeedbackInWindow, ASecondClickDuringTheWaitSendsTwice) {
   Send();
   EXPECT_EQ(Web.Asked,
             (std::vector<std::string>{Request("%61%40%62", "%61%62%63"), Request("%78%40%79", "%61%62%63")}));
-  EXPECT_EQ(hourglass, (std::vector<bool>{true, false})) << "the end of the one takes it from the other";
+  EXPECT_EQ(hourglass, (std::vector<bool>{true, false})) << "the end of one removes the other's too";
 }
 
 }  // namespace

@@ -126,7 +126,7 @@ TEST_F(AnalysisInWindow, ARunInsideARunStopsTheOuterOne) {
   Click("cmdPreflopEV", 1);
   EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Tight", ""}));
   EXPECT_FALSE(Form.State().Running);
-  EXPECT_EQ(Screen(), "Equity Only") << "the inner run's, from which the outer one goes back";
+  EXPECT_EQ(Screen(), "Equity Only") << "the inner run's, after which the outer one stops";
 }
 
 TEST_F(AnalysisInWindow, WhatIsTypedDuringARunIsFeltByTheClassesToCome) {

@@ -97,7 +97,7 @@ TEST_F(DetailsInWindow, TheReportIsTheCompanionsCharacterForCharacter) {
     PickHand("AKs");
     EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
     QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands)) << "none adds nothing, nor takes away";
+    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands)) << "None adds and removes nothing";
   }
 }
 

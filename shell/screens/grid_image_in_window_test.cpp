@@ -83,10 +83,10 @@ TEST_F(GridImageInWindow, HasNoPanelOfTheKeyboardsInIt) {
   ASSERT_TRUE(Form.findChild<FocusMark*>()->isVisible());
   SaveAs("grid");
 
-  EXPECT_FALSE(Shows("frameHover")) << "nor does it come back with the window";
+  EXPECT_FALSE(Shows("frameHover")) << "nor does it return with the window";
   const QImage saved = ImageOf(SavedGrids() / "grid").convertToFormat(QImage::Format_RGB32);
   const QImage shown = Get("frameContent", kGridScreen).grab(saved.rect().translated(16, 12)).toImage();
-  EXPECT_EQ(saved, shown.convertToFormat(QImage::Format_RGB32)) << "nor is the mark of the cell in it";
+  EXPECT_EQ(saved, shown.convertToFormat(QImage::Format_RGB32)) << "nor is the cell's focus mark in it";
   EXPECT_EQ(Form.focusWidget(), &Get("lblCards", 1));
 }
 
@@ -94,7 +94,7 @@ TEST_F(GridImageInWindow, TheDialogIsAsDesigned) {
   std::filesystem::remove_all(SavedGrids());
   ExpectDialog([this](QDialog& dialog) {
     const auto& box = dynamic_cast<QFileDialog&>(dialog);
-    EXPECT_TRUE(std::filesystem::is_directory(SavedGrids())) << "made again";
+    EXPECT_TRUE(std::filesystem::is_directory(SavedGrids())) << "recreated";
     EXPECT_EQ(FromQt(box.windowTitle()), "Save Expected Value Grid");
     EXPECT_EQ(FromQt(box.directory().absolutePath()), SavedGrids().string());
     EXPECT_EQ(box.nameFilters().join(QLatin1Char(';')), QStringLiteral("24-bit Bitmap (*.bmp)"));

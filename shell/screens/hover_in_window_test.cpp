@@ -151,7 +151,7 @@ TEST_F(HoverInWindow, APanelOfTheKeyboardsGoesWithItAndOneOfTheMousesStays) {
     row.Leave();
     EXPECT_TRUE(Get("frameHover").isHidden());
     ComeToFront();
-    EXPECT_TRUE(Get("frameHover").isHidden()) << "nor does it come back by itself";
+    EXPECT_TRUE(Get("frameHover").isHidden()) << "nor does it return by itself";
 
     Open(kGridNav);
     OpenByKey();

@@ -75,7 +75,7 @@ TEST_F(ChecksInWindow, ASumThatCannotBeWorkedOutIsToldInsteadOfARun) {
   Type(0, "=50+50");
   Click("cmdPreflopEV", 0);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(Form.State().PotSize, 100) << "worked out before the checks look";
+  EXPECT_EQ(Form.State().PotSize, 100) << "evaluated before the checks";
 }
 
 }  // namespace

@@ -172,7 +172,7 @@ TEST_F(KeyboardInWindow, EscapeStopsARunStillAfterAnotherWasRefused) {
     Press(Qt::Key_Escape);
   });
   Click("cmdPreflopEV", 2);
-  EXPECT_FALSE(Shows("lblNav", kGridNav)) << "it has not gone on to its end";
+  EXPECT_FALSE(Shows("lblNav", kGridNav)) << "it has not run to its end";
 }
 
 TEST_F(KeyboardInWindow, KeysOpenTheRangeManagerAndCloseWindows) {
@@ -231,9 +231,9 @@ TEST_F(KeyboardInWindow, ControlAndADigitOpenAScreenWhoseLinkShowsAtItsFirstBox)
   }
   Focus("lblNav", kRaiseNav);
   Press(Qt::Key_Space);
-  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 2)) << "a link that is pressed, too";
+  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 2)) << "including a pressed link";
   Open(kCallNav);
-  EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse gives nobody the focus";
+  EXPECT_EQ(Form.focusWidget(), &Form) << "the mouse moves no focus";
 }
 
 // The key that starts or stops the run decides, whatever is pressed meanwhile. The mouse moves no focus.
@@ -267,7 +267,7 @@ TEST_F(KeyboardInWindow, ARunThatIsStartedOrStoppedByAKeyEndsWithTheFocusOnWhatI
     EXPECT_EQ(Screen(), row.Screen);
     EXPECT_EQ(Form.focusWidget(), &row.Focus);
     EXPECT_EQ(Form.findChild<FocusMark*>()->isVisible(), &row.Focus != &Form);
-    EXPECT_FALSE(Shows("frameHover")) << "the result is to be seen";
+    EXPECT_FALSE(Shows("frameHover")) << "the result is visible";
   }
 }
 
@@ -415,7 +415,7 @@ TEST_F(SpokenWindow, TheEndOfARunIsAnnouncedWithTheExplanation) {
   EXPECT_EQ(heard.Texts(), std::vector{Caption("lblResults")});
   OpenScreen("Preflop Call");
   Open(kGridNav);
-  EXPECT_EQ(heard.Texts().size(), 1U) << "the end of a run alone";
+  EXPECT_EQ(heard.Texts().size(), 1U) << "only the end of a run";
 }
 
 }  // namespace

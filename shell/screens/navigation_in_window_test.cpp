@@ -98,7 +98,7 @@ TEST_F(NavigationInWindow, ResultsLinksAreWhiteAfterThePanel) {
   MoveOverPanel();
   EXPECT_EQ(LinkLooks(), "000000_ ffffff ffffff ffffff ffffff");
   Open(kRaiseNav);
-  EXPECT_EQ(LinkLooks(), "ffffff 000000_ ffffff ffffc0 ffffc0") << "until they are painted again";
+  EXPECT_EQ(LinkLooks(), "ffffff 000000_ ffffff ffffc0 ffffc0") << "until they are repainted";
 }
 
 TEST_F(NavigationInWindow, TheLogoBringsUpAboutAndLeavesTheBar) {
@@ -114,7 +114,7 @@ TEST_F(NavigationInWindow, TheLogoBringsUpAboutAndLeavesTheBar) {
   EXPECT_TRUE(Get("imgBackground").isHidden());
 
   MoveOver("lblNav", kCallNav);
-  EXPECT_EQ(LinkLooks(), "000000 ffffff ffffff ffffc0 ffffc0") << "it is the selected one still, without a line";
+  EXPECT_EQ(LinkLooks(), "000000 ffffff ffffff ffffc0 ffffc0") << "it is still selected, without a line";
 }
 
 TEST_F(NavigationInWindow, TheRangeManagersFrameIsDottedWhileItIsPressed) {

@@ -120,7 +120,7 @@ TEST_F(NumberBoxesInWindow, TheOpponentsOddsFollowTheThirdAmountAlone) {
   Type(2, "400");
   EXPECT_EQ(odds(), "3 : 1, 25%") << "stale until the third changes";
   Type(4, "=50");
-  EXPECT_EQ(odds(), "N/A, N/A") << "a sum that is not worked out yet counts as 0";
+  EXPECT_EQ(odds(), "N/A, N/A") << "an unevaluated sum counts as 0";
   Press(Qt::Key_Return);
   EXPECT_EQ(odds(), "9 : 1, 10%");
 }

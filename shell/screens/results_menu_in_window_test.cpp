@@ -47,7 +47,7 @@ TEST_F(ResultsMenuInWindow, IsTheHandsUnderTheMouseAndElsewhereOnTheGridThatOfNo
                                              "In the report (off)"));
   CloseMenu(Form);
   OpenMenu(Form, MiddleOf("lblGridTitle"));
-  EXPECT_THAT(MenuEntries(Form), testing::Not(testing::Contains("Copy table"))) << "it is that of the window";
+  EXPECT_THAT(MenuEntries(Form), testing::Not(testing::Contains("Copy table"))) << "it is the window's";
 }
 
 TEST_F(ResultsMenuInWindow, OffersNothingBeforeAnAnalysis) {

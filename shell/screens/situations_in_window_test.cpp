@@ -119,7 +119,7 @@ TEST_F(SituationsInWindow, ASumIsSavedAsItIsTyped) {
   EnterCall("150", "50", "Tight");
   Type(0, "=735+220-178");
   SaveAs("Sum");
-  EXPECT_EQ(BoxText(0), "=735+220-178") << "the box is still being typed in";
+  EXPECT_EQ(BoxText(0), "=735+220-178") << "the box is still being edited";
   EXPECT_THAT(BytesOf(FileOf("Sum")), testing::HasSubstr("\"pot\":\"=735+220-178\""));
   OpenByKeys("Sum");
   EXPECT_EQ(BoxText(0), "777");
@@ -140,8 +140,8 @@ TEST_F(SituationsInWindow, ResultsOfAnotherSituationGo) {
   OpenByKeys("Call");
   EXPECT_EQ(Screen(), "Preflop Call");
   EXPECT_FALSE(Shows("lblNav", 3));
-  EXPECT_TRUE(Shows("lblEditRange", 0)) << "the links of a list that has a range";
-  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0)) << "ready to be typed into";
+  EXPECT_TRUE(Shows("lblEditRange", 0)) << "the links of a list with a range";
+  EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0)) << "ready for typing";
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(Screen(), "ALL IN Grid");
   EXPECT_EQ(Form.State().PotSize, 3);

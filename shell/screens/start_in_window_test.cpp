@@ -26,7 +26,7 @@ TEST_F(StartInWindow, MakesBothFoldersInAnEmptyOne) {
   EXPECT_TRUE(std::filesystem::is_directory(Program.Folder().Path / "Ranges"));
   EXPECT_TRUE(std::filesystem::is_directory(Program.Folder().Path / "Saved Grids"));
   EXPECT_TRUE(std::filesystem::is_empty(Program.Folder().Path / "Ranges"));
-  EXPECT_FALSE(std::filesystem::exists(Program.Folder().Path / "settings.ini")) << "made by the first value written";
+  EXPECT_FALSE(std::filesystem::exists(Program.Folder().Path / "settings.ini")) << "created by the first write";
   for (std::int16_t i = 0; i < kChooserCount; ++i) {
     EXPECT_EQ(Get<QComboBox>("cmboRanges", i).count(), 1);
     EXPECT_EQ(Get<QComboBox>("cmboRanges", i).currentText(), QString());
@@ -94,7 +94,7 @@ TEST_F(StartInWindow, RestoresTheBoxTextsAsTheyStood) {
   EXPECT_EQ(BoxText(2), "100");
   EXPECT_EQ(BoxText(3), "");
   EXPECT_EQ(BoxText(4), "50");
-  EXPECT_EQ(Caption("lblHisOdds"), "3 : 1") << "a text that is restored is a change like any other";
+  EXPECT_EQ(Caption("lblHisOdds"), "3 : 1") << "restoring a text is a change like any other";
   EXPECT_EQ(Caption("lblHisBEP"), "25%");
 }
 

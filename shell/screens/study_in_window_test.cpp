@@ -32,11 +32,11 @@ TEST_F(StudyInWindow, OpensByKeyAboutTheLastFinishedAnalysis) {
   RunRaise("150", "50", "400", "Everything", "Tight");
   EXPECT_THAT(About(), HasSubstr("Preflop Call")) << "it keeps its own";
   Press(Qt::Key_T, Qt::ControlModifier);
-  EXPECT_THAT(About(), HasSubstr("Preflop Call")) << "and comes up as it is";
+  EXPECT_THAT(About(), HasSubstr("Preflop Call")) << "and reopens unchanged";
   Study().close();
   ComeToFront();
   Press(Qt::Key_T, Qt::ControlModifier);
-  EXPECT_THAT(About(), HasSubstr("Preflop Raise")) << "a window that is opened is about what was asked last";
+  EXPECT_THAT(About(), HasSubstr("Preflop Raise")) << "an opened window is about the last analysis";
 }
 
 TEST_F(StudyInWindow, IsAboutTheResultsThatAreAskedAbout) {

@@ -38,7 +38,7 @@ TEST_F(ZoomInWindow, IsChangedByKeysStepByStepAndKept) {
   };
   Start();
   ExpectZoom(100);
-  EXPECT_EQ(Settings(), "") << "what nobody has chosen is not kept";
+  EXPECT_EQ(Settings(), "") << "a zoom that nobody has chosen is not stored";
   for (const Row& row : kRows) {
     Press(row.Key, Qt::ControlModifier);
     ExpectZoom(row.Percent);
@@ -56,14 +56,14 @@ TEST_F(ZoomInWindow, TakesTheDialogsAlong) {
   EXPECT_EQ(Dialogs.LoadedManager()->size(), PixelPlace({0, 0, 13665, 8880}).size());
 
   Dialogs.ShowNewRange();
-  EXPECT_EQ(Dialogs.LoadedNewRange()->size(), PixelPlace({0, 0, 12195, 9105}).size()) << "one that comes later, too";
+  EXPECT_EQ(Dialogs.LoadedNewRange()->size(), PixelPlace({0, 0, 12195, 9105}).size()) << "a later one, too";
 
   Dialogs.LoadedManager()->hide();
   Dialogs.LoadedManager()->move(1000, 700);
   QTest::keyClick(Dialogs.LoadedNewRange()->windowHandle(), Qt::Key_Plus, Qt::ControlModifier);
   ExpectZoom(125);
   const QRect room = Form.screen()->availableGeometry();
-  EXPECT_TRUE(room.contains(Dialogs.LoadedManager()->frameGeometry())) << "and one that is hidden meanwhile";
+  EXPECT_TRUE(room.contains(Dialogs.LoadedManager()->frameGeometry())) << "and a hidden one";
 }
 
 TEST_F(ZoomInWindow, StartsWithOneThatFitsTheScreen) {

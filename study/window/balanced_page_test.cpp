@@ -74,7 +74,7 @@ TEST_F(BalancedRanges, AreThoseOfTypedAmountsBeforeAnyAnalysis) {
   Open();
   Form.ShowPage(StudyTopic::kBalanced);
   EXPECT_THAT(Texts(), HasSubstr("Type the pot."));
-  EXPECT_TRUE(Box(0).hasFocus()) << "the answer is three amounts away";
+  EXPECT_TRUE(Box(0).hasFocus()) << "three amounts are missing";
   EXPECT_FALSE(OnlyHis().isEnabled()) << "he has no range yet";
   Type(0, "150");
   Type(1, "50");
@@ -161,7 +161,7 @@ TEST_F(BalancedRanges, SaveHisRangeUnderANameThatIsFree) {
   Button("Save his range...").click();
   EXPECT_TRUE(saved.empty()) << "Cancel";
   Button("Save his range...").click();
-  EXPECT_TRUE(saved.empty()) << "no name of a range";
+  EXPECT_TRUE(saved.empty()) << "not a valid name";
   Button("Save his range...").click();
   EXPECT_EQ(saved, std::vector<std::string>{"His"});
   EXPECT_EQ(RangeWeightsOf(LoadRangeText(Program.Folder(), "His")), found.Call);

@@ -215,7 +215,7 @@ TEST_F(WidthPageTest, ShowsTheShareAndTheHands) {
   page.ShowHand(HandIndex("K9o"));
   EXPECT_EQ(Boxes(), "K9o|1|100|1");
   WaitFor(page);
-  EXPECT_GT(View(1).height(), 3 * View(0).height() / 2) << "for the names of many hands";
+  EXPECT_GT(View(1).height(), 3 * View(0).height() / 2) << "room for the names of many hands";
   for (const auto& [view, words] : {std::pair{std::size_t{0}, "Profitable at 30%: 85.52%"},
                                     {std::size_t{1}, "K9o at 30%: 0.7085 chips, 0.4723 pots"}}) {
     View(view).setFocus(Qt::TabFocusReason);
@@ -236,14 +236,14 @@ TEST_F(WidthPageTest, GoesOnWhereItTakesLongerAndCanBeStopped) {
   QTest::keyClick(&page, Qt::Key_Escape);
   EXPECT_EQ(heard.Texts(), std::vector<std::string>{"Stopped"});
   const std::size_t stopped = PlacesShown();
-  EXPECT_GT(stopped, 0U) << "the lines are there as far as they are";
+  EXPECT_GT(stopped, 0U) << "partial lines are shown";
   QTest::qWait(50);
   EXPECT_EQ(PlacesShown(), stopped);
 
   page.Work().findChild<QPushButton*>()->click();
   WaitFor(page);
   EXPECT_EQ(PlacesShown(), 1999U);
-  EXPECT_EQ(heard.Texts().back(), Said(1)) << "once it is whole, and not before";
+  EXPECT_EQ(heard.Texts().back(), Said(1)) << "only once it is complete";
 }
 
 TEST_F(WidthPageTest, TabReachesStopBeforeTheFigures) {
@@ -304,7 +304,7 @@ TEST_F(CurvesInWindow, ShareTheHands) {
   QTest::keyClicks(hands, QStringLiteral(" AA"));
   QTest::keyClick(hands, Qt::Key_Return);
   WaitFor(width);
-  EXPECT_EQ(LinesOf(howFar), std::vector<std::string>{"K9o"}) << "nothing is drawn that nobody sees";
+  EXPECT_EQ(LinesOf(howFar), std::vector<std::string>{"K9o"}) << "hidden curves are not drawn";
   Form.ShowPage(StudyTopic::kHowFar);
   EXPECT_EQ(LinesOf(howFar), (std::vector<std::string>{"AA", "K9o"}));
 }

@@ -83,7 +83,7 @@ TEST_F(FigureViewTest, IsReadOffByKeys) {
   View.Show(Hands());
   View.clearFocus();
   View.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(Words(), "K9o at 3 chips: -2 chips") << "the place next to the mark";
+  EXPECT_EQ(Words(), "K9o at 3 chips: -2 chips") << "the place nearest to the mark";
   struct Case {
     Qt::Key key;
     const char* words;

@@ -37,7 +37,7 @@ TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
   EXPECT_TRUE(Form.Tabs().tabBar()->hasFocus());
   const HeardAnnouncements heard;
   Form.Offer(sample::CallState());
-  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "there was nothing to give the keyboard to";
+  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "there was nothing to focus";
   EXPECT_THAT(Texts(), HasSubstr("Preflop Call: pot 150, 50 to call; he plays \"Tight\""));
   EXPECT_TRUE(Limits().isVisible());
 
@@ -53,7 +53,7 @@ TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
   Press(Qt::Key_Space);
   EXPECT_THAT(Texts(), HasSubstr("Preflop Raise: pot 150, 50 to call, he must call 62.5;"));
   EXPECT_FALSE(Follow().isVisible());
-  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "the button that had the keyboard is gone";
+  EXPECT_TRUE(Limits().isAncestorOf(Form.focusWidget())) << "the focused button is gone";
 
   Form.Offer(sample::CallState());
   Press(Qt::Key_F5);
@@ -61,7 +61,7 @@ TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
 
   Form.Offer(sample::RaiseState());
   Form.Offer(sample::CallState());
-  EXPECT_FALSE(Follow().isVisible()) << "the one that is shown is the last again";
+  EXPECT_FALSE(Follow().isVisible()) << "the one shown is the last again";
 }
 
 TEST_F(StudyWindow, SaysWhereEquitiesAloneHaveNothing) {
@@ -133,7 +133,7 @@ TEST_F(StudyWindow, CutsNothingOffAtItsLeastSize) {
       if (const auto* work = Form.Page(topic)->findChild<StudyWork*>()) FinishWork(*work);
       for (int rounds = 0; rounds < 3; ++rounds)  // fonts learn their size first, then layouts the fonts
         QCoreApplication::processEvents();
-      EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the page wants more";
+      EXPECT_EQ(Form.size(), Form.minimumSize()) << scale << ": the page needs more";
       for (const QWidget* part : Form.findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const QLabel*>(part);
         const bool isText = label != nullptr || qobject_cast<const QAbstractButton*>(part) != nullptr;
