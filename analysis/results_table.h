@@ -43,14 +43,9 @@ struct HandResult {
 /// twice adds up. The row then has the cells 0 to `lastColumn`, each followed by a tab, and cells beyond are dropped.
 /// If there is no such row, one with only this cell is appended:
 ///
-///     ("", "AA", 1, 1.5, 3)                              -> "AA\t1.5\t\t\r
-/// "
-///     ("AA\t1.5\t\t\r
-/// ", "AA", 2, 0.85, 3)              -> "AA\t1.5\t0.85\t\t\r
-/// "
-///     ("AA\t1.5\t0.85\t\t\r
-/// ", "AA", 3, 0.25, 3)        -> "AA\t1.5\t0.85\t0.25\t\r
-/// "
+///     ("", "AA", 1, 1.5, 3)                              -> "AA\t1.5\t\t\r\n"
+///     ("AA\t1.5\t\t\r\n", "AA", 2, 0.85, 3)              -> "AA\t1.5\t0.85\t\t\r\n"
+///     ("AA\t1.5\t0.85\t\t\r\n", "AA", 3, 0.25, 3)        -> "AA\t1.5\t0.85\t0.25\t\r\n"
 ///
 /// Text after the last line end is not a row and is dropped. A value that is not finite has no text: RunTimeError
 /// "Overflow".
@@ -71,8 +66,7 @@ struct HandResult {
 /// The finished row of a class, as three calls of SetHandInfo would make it; a table is a concatenation of such rows.
 /// Fails as SetHandInfo does.
 ///
-///     {"AA", 6, 120, 0.85, 1} -> "AA\t120\t0.85\t1\t\r
-/// "
+///     {"AA", 6, 120, 0.85, 1} -> "AA\t120\t0.85\t1\t\r\n"
 [[nodiscard]] std::string ResultRow(const HandResult& result);
 
 /// The label of a row with a high value in `column`; the empty text if no value is above -10000. It is not always the

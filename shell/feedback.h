@@ -41,9 +41,7 @@ inline constexpr std::string_view kAskAddress = "What is your email address?";
 /// that pair, so a CR before one of the characters A0 to AF comes out wrong. A character that the code page lacks is
 /// sent as "?".
 ///
-///     "a b" -> "%61%20%62"      "\r
-/// " -> "%0D%0A"      "
-/// " -> "%A"      "\t" -> "%9"      "\r¡" -> "%0D%0A1"
+///     "a b" -> "%61%20%62"      "\r\n" -> "%0D%0A"      "\n" -> "%A"      "\t" -> "%9"      "\r¡" -> "%0D%0A1"
 [[nodiscard]] std::string EncodeForUrl(std::string_view text);
 
 /// The address that sends a note of any length.

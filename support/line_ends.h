@@ -9,11 +9,7 @@ namespace quillon {
 
 /// The text with every line end (CR, CR LF) as LF.
 ///
-///     "Situation\r" -> "Situation
-/// "      "Hand\r
-/// \r" -> "Hand
-///
-/// "
+///     "Situation\r" -> "Situation\n"      "Hand\r\n\r" -> "Hand\n\n"
 [[nodiscard]] std::string UnixLineEnds(std::string_view text);
 
 }  // namespace quillon

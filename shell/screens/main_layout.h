@@ -92,7 +92,6 @@ inline constexpr auto kSidePanel = std::to_array<ControlRow>({
     {.Name = "imgBack", .Kind = kPicture, .Place = {0, 1440, 3300, 9000}, .Picture = "side_panel"},
 });
 
-// Preflop Call
 inline constexpr auto kPreflopCall = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 0, .Kind = kPicture, .Place = {7680, 7020, 3015, 795}, .Back = 0xFFFFFF,
      .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
@@ -131,7 +130,6 @@ inline constexpr auto kPreflopCall = std::to_array<ControlRow>({
      .Font = Arial(14.25)},
 });
 
-// Preflop Raise
 inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 1, .Kind = kPicture, .Place = {8220, 7320, 3015, 795}, .Back = 0xFFFFFF,
      .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
@@ -203,7 +201,6 @@ inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
      .Font = Arial(14.25)},
 });
 
-// Equity Only
 inline constexpr auto kEquityOnly = std::to_array<ControlRow>({
     {.Name = "cmdPreflopEV", .Index = 2, .Kind = kPicture, .Place = {7920, 3240, 3015, 795}, .Back = 0xFFFFFF,
      .Font = Arial(12), .Use = kFocusLink, .Picture = "analyze", .Spoken = "Analyze"},
@@ -223,7 +220,7 @@ inline constexpr auto kEquityOnly = std::to_array<ControlRow>({
     {.Name = "aLine", .Index = 5, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
 });
 
-// ALL IN Grid, with its two frames
+// With its two frames.
 inline constexpr auto kAllInGrid = std::to_array<ControlRow>({
     {.Name = "frameLegend", .Kind = kFrame, .Place = {6420, 5220, 4995, 2235}, .Back = 0xFFFFFF, .Font = Arial(12)},
     {.Name = "frameHover", .Kind = kFrame, .Place = {7620, 1740, 3855, 4035}, .Back = 0xE0E0E0,
@@ -286,7 +283,6 @@ inline constexpr auto kHoverPanel = std::to_array<ControlRow>({
     {.Name = "imgHover", .Kind = kPicture, .Place = {0, 0, 4200, 3750}, .Picture = "hover_green"},
 });
 
-// Details
 inline constexpr auto kDetails = std::to_array<ControlRow>({
     {.Name = "cmbo169", .Kind = kChooser, .Place = {2460, 7800, 1275, 360}, .Hidden = true,
      .Spoken = "Add Specific Hand:"},
@@ -300,7 +296,6 @@ inline constexpr auto kDetails = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 31, .Text = "For the mathematically inclined...", .Place = {8505, 660, 2850, 240}},
 });
 
-// Progress
 inline constexpr auto kProgress = std::to_array<ControlRow>({
     {.Name = "picProgBar", .Kind = kShape, .Place = {1980, 3180, 7815, 495}, .Back = 0x1B56BA, .Font = Arial(12),
      .Style = LineStyle::kNone},
@@ -328,7 +323,6 @@ inline constexpr auto kProgress = std::to_array<ControlRow>({
     {.Name = "aImage", .Index = 2, .Kind = kPicture, .Place = {10860, 7140, 420, 330}, .Picture = "progress_mark"},
 });
 
-// About
 inline constexpr auto kAboutFrame = std::to_array<ControlRow>({
     {.Name = "frameAboutContent", .Kind = kFrame, .Place = kScreenPlace, .Hidden = true},
 });
