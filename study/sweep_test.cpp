@@ -156,6 +156,8 @@ TEST(Sweep, OfARangeEqualsSeparateAnalyses) {
                    question);
   }
   EXPECT_EQ(rows.front().ProfitableCombos, 1326) << "nobody calls";
+  EXPECT_EQ(ProfitablePercent(rows.front()), 100);
+  EXPECT_EQ(ProfitablePercent({"", 663, {}}), 50);
 }
 
 }  // namespace
