@@ -16,8 +16,8 @@
 
 namespace quillon {
 
-/// The question. "Equity Only" needs just RangeName and RangeText; the shove and the calling range are for
-/// "Preflop Raise" only.
+/// The question. "Equity Only" needs just RangeName and RangeText; only "Preflop Raise" has a shove and a calling
+/// range.
 struct Situation {
   AnalysisMode Mode = AnalysisMode::kNone;
   double PotSize = 0;  // amounts in the user's own unit
@@ -48,8 +48,7 @@ struct AnalysisListener {
 };
 
 /// Analyses a situation, which must have a scenario; nothing if the listener stopped it, even after the last class. The
-/// equity table must be loaded. The listener's amounts affect the rows only; the returned situation is the original
-/// one.
+/// equity table must be loaded. The listener's amounts affect only the rows, not the returned situation.
 ///
 /// Fails as RangeTexts does, on the first class, and as ResultRow does if amounts lead to a value that is not finite.
 [[nodiscard]] std::optional<Analysis> Analyze(Situation situation, const AnalysisListener& listener = {});
@@ -58,8 +57,7 @@ struct AnalysisListener {
 [[nodiscard]] std::optional<Analysis> Analyze(Situation situation, const RangeNumbers& ranges,
                                               const AnalysisListener& listener = {});
 
-/// The result of the class `index` from its figures, which do not depend on the amounts. ResultRow makes a table row of
-/// it.
+/// The result of the class `index` from its figures, which do not depend on the amounts. ResultRow turns it into a row.
 [[nodiscard]] HandResult ResultOf(const Scenario& scenario, std::int16_t index, const ClassFigures& figures,
                                   const Amounts& amounts);
 

@@ -1,8 +1,7 @@
 #pragma once
 
-// The click on an Analyze button: the checks, the screens and captions, and a run of the engine on the window's own
-// thread. After each class the window system processes its events, so that the progress bar moves and the stop label
-// can be clicked.
+// The click on an Analyze button: the checks, the screens and captions, and a run of the engine on the window's thread.
+// After each class pending events are processed, so that the progress bar moves and the stop label works.
 //
 // Every control stays live during a run, including the start buttons, and all runs share one state. A run started
 // within another ends first; the outer one then stops at its next class. A click within a run that its check refuses
@@ -20,8 +19,7 @@
 
 namespace quillon {
 
-/// The caption of `lblNoResults` from the click until the run ends; meanwhile the label is a link to the Progress
-/// screen.
+/// The caption of `lblNoResults` during a run, when the label is a link to the Progress screen.
 inline constexpr std::string_view kWaitCaption = "Please wait...";
 
 /// Its caption at all other times.
@@ -34,9 +32,9 @@ inline constexpr double kProgressBarWidth = 7815;
 [[nodiscard]] EnteredSituation EnteredOn(const InputScreen& screen, const AnalysisWindow& window);
 
 /// The click on `cmdPreflopEV(buttonIndex)`. Earlier results are hidden at once. If the scenario's check has a
-/// complaint, the click ends with it. Intentional: the label keeps saying "Please wait..." although nothing is running,
-/// and the next run corrects it. Otherwise the situation is stored in the state, the Progress screen is shown and the
-/// classes are analysed.
+/// complaint, the click ends. Intentional: the label keeps saying "Please wait..." although nothing is running, and the
+/// next run corrects it. Otherwise the situation is stored in the state, the Progress screen is shown and the run
+/// starts.
 ///
 /// A finished run stores its table in `HandInfo`, presents it, shows the results entries and clicks the third
 /// navigation entry, the grid. A stop takes effect after the class during whose yield it came and discards the table:

@@ -1,8 +1,7 @@
 #pragma once
 
-// The main window as seen by the click on an Analyze button: the boxes and lists that hold the situation, and whatever
-// changes on the screens during a run. The order of the calls is the behaviour. Controls are named as in the main
-// window.
+// The main window as seen by a click on an Analyze button: the boxes and lists of the situation, and whatever changes
+// during a run. The order of the calls is the behaviour. Controls are named as in the main window.
 
 #include <cstdint>
 #include <string>

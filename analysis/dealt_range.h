@@ -1,9 +1,8 @@
 #pragma once
 
 // A range as concrete hands. A range names classes; what an opponent holds is two cards. So a range is dealt: a list of
-// all 1326 concrete hands, each with the weight of its class, except that a hand sharing a card with the hero's (the
-// user's own two cards) weighs nothing. Everything an analysis computes about the opponent is averaged over such a
-// list.
+// all 1326 concrete hands, each with the weight of its class, or 0 if it shares a card with the hero (the user).
+// Everything an analysis computes about the opponent is averaged over such a list.
 //
 // A list is in deck order: "As Ah", "As Ad", "As Ac", "As Ks" and so on to "2d 2c". It is a value, rebuilt for each of
 // the hero's classes, since each blocks other hands. Sums always run in list order, so that they agree to the last
@@ -63,9 +62,8 @@ using HandList = std::vector<HandRecord>;
 /// "Subscript out of range" for a list without records.
 [[nodiscard]] double TotalWeight(const HandList& list);
 
-/// The calling range limited to what the opponent holds: each weight becomes the smaller of the two. Both lists must
-/// have been dealt around the same cards. RunTimeError "Subscript out of range" if `current` is empty or longer than
-/// `calling`.
+/// The calling range limited to what the opponent holds: each weight becomes the smaller of the two. Both lists must be
+/// dealt around the same cards. RunTimeError "Subscript out of range" if `current` is empty or the longer one.
 [[nodiscard]] HandList LimitToRange(const HandList& current, HandList calling);
 
 /// The classes that LimitToRange cuts, for the report's warning, in the order in which the deck reaches them: by label

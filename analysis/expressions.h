@@ -17,9 +17,8 @@ inline constexpr std::string_view kExpressionErrorText = "Only addition (+) and 
 /// The digits and points at the start of a text, unchanged: "12+3" gives "12", "1.5.2" all of it, "-5" nothing.
 [[nodiscard]] std::string GetNumber(std::string_view text);
 
-/// The value of a sum in the general number form, or kExpressionErrorText. The first character is skipped as the "="
-/// without being checked. A number with two points ends before the second. RunTimeError "Overflow" for a sum beyond the
-/// range of a double.
+/// The value of a sum in the general number form, or kExpressionErrorText. The first character is skipped unchecked. A
+/// number with two points ends before the second. RunTimeError "Overflow" for a sum beyond the range of a double.
 ///
 ///     "=735+220-178" -> "777"      "=.5+.5" -> "1"      "=5+" -> "5"      "=--3" -> "-3"
 ///     "=1.5.2" -> "1.5"            "=" -> "0"           "=1 + 2", "=$5", "=2*3" -> the error text

@@ -41,8 +41,7 @@ constexpr std::array<Check, 7> kCallChecks = {{
      [](const Inputs& in) { return !IsNumericText(in.Entered.Call, in.Entered.Marks); }},
 }};
 
-// Intentional: the complaint about the shove has the title "Pot Size", and the wording differs from row to row; users
-// know these messages.
+// Intentional: the shove's complaint has the title "Pot Size", and the wording varies; users know these messages.
 constexpr std::array<Check, 8> kRaiseChecks = {{
     {{"Missing Range", "You must assign or create a range of hands for your opponent."},
      [](const Inputs& in) { return in.Entered.Range.empty(); }},

@@ -15,9 +15,8 @@ namespace quillon {
 /// deck order, wherever weights and equities come from.
 class RangeSums {
  public:
-  /// Adds a hand that he holds with one weight and plays on with another, the same or smaller; `equity` is the hero's
-  /// against it. The equity counts only if the hand is played on with a weight above 0, and may otherwise be any finite
-  /// number.
+  /// Adds a hand that he holds with one weight and plays on with another, not larger; `equity` is the hero's against
+  /// it. It counts only if the hand is played on with a weight above 0, and may otherwise be any finite number.
   void Add(double held, double played, double equity) {
     const double counted = std::max(played, 0.0);  // adding 0 changes no digit
     held_ += held;
@@ -44,8 +43,7 @@ class RangeSums {
 ///     sum of weight * equity / sum of weight,      over the records with a weight above 0, in the list's order
 ///
 /// A range of aces only, dealt around "As" and "Ac", leaves AA one opponent, "Ah Ad", and gives 0.5. RunTimeError
-/// "Overflow" for a list without any weight, so callers check the weight first, and "Subscript out of range" for a list
-/// without records.
+/// "Overflow" for a list without any weight, and "Subscript out of range" for one without records.
 [[nodiscard]] double EquityVsRange(std::string_view heroLabel, const HandList& list);
 
 }  // namespace quillon

@@ -50,8 +50,7 @@ class RangeTexts {
 };
 
 /// The equity table as numbers, and for each of the hero's classes the classes of the 1225 concrete hands that its two
-/// cards leave, in deck order: everything that does not depend on the situation. About half a megabyte, built in a few
-/// milliseconds.
+/// cards leave, in deck order. Independent of the situation; half a megabyte, built in a few milliseconds.
 class HandNumbers {
  public:
   static constexpr std::size_t kDealtHandCount = 1225;  // 50 * 49 / 2
@@ -76,8 +75,7 @@ class RangeNumbers {
   /// `hands` must outlive it.
   RangeNumbers(const HandNumbers& hands, const ClassWeights& range, const ClassWeights& callingRange = {});
 
-  /// The same figures as RangeTexts for texts of these weights. Fails only if there is no mean: RunTimeError
-  /// "Overflow".
+  /// The same figures as RangeTexts for texts of these weights. RunTimeError "Overflow" if there is no mean.
   [[nodiscard]] ClassFigures FiguresOf(const Scenario& scenario, std::int16_t index) const;
   [[nodiscard]] std::string DroppedHands() const;
 

@@ -10,9 +10,8 @@
 //     cell 2   the equity, 0 to 1; -1 if the opponent never calls
 //     cell 3   the share of the opponent's hands that fold, 0 to 1; 1 where he has no choice
 //
-// Rows are in class index order, 169 of them in a finished table. Numbers have the general form, so values are cut to
-// 15 significant digits. A foreign row may have any number of cells: a missing one reads as empty, and a row without a
-// tab is its own key.
+// Rows are in class index order, 169 of them in a finished table. Numbers have the general form, cut to 15 significant
+// digits. A foreign row may have any number of cells: a missing one is empty, and a row without a tab is its own key.
 
 #include <array>
 #include <cstdint>
@@ -47,8 +46,7 @@ struct HandResult {
 ///     ("AA\t1.5\t\t\r\n", "AA", 2, 0.85, 3)              -> "AA\t1.5\t0.85\t\t\r\n"
 ///     ("AA\t1.5\t0.85\t\t\r\n", "AA", 3, 0.25, 3)        -> "AA\t1.5\t0.85\t0.25\t\r\n"
 ///
-/// Text after the last line end is not a row and is dropped. A value that is not finite has no text: RunTimeError
-/// "Overflow".
+/// Text after the last line end is dropped. A value that is not finite has no text: RunTimeError "Overflow".
 [[nodiscard]] std::string SetHandInfo(std::string_view table, std::string_view label, std::int16_t column, double value,
                                       std::int16_t lastColumn);
 

@@ -42,8 +42,7 @@ inline constexpr std::size_t kDeckSize = 52;
   return kDeckText.substr(position * 3, 2);
 }
 
-/// The index of a class label, case-sensitive. Intentional: any other text silently gives 0, so that a bad label
-/// behaves as aces.
+/// The index of a class label, case-sensitive. Intentional: any other text silently gives 0, and behaves as aces.
 [[nodiscard]] std::int16_t HandIndex(std::string_view label);
 
 /// The label of a class index, or the empty text for an index outside 0 to 168. The text lives as long as the program.

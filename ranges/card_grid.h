@@ -79,8 +79,7 @@ void ToggleCell(CellColors& cells, std::int16_t index, CellClick click);
 /// full colour, half as many in the half colour, and 0 for any other colour.
 [[nodiscard]] double SelectedCombos(const CellColors& cells);
 
-/// The grid as a range text ("ranges/range_text.h"): weight 1 for a cell in the full colour, 0.5 in the half colour, 0
-/// otherwise.
+/// The grid as a range text ("ranges/range_text.h"): weight 1 for the full colour, 0.5 for the half colour, else 0.
 [[nodiscard]] std::string RangeTextFromGrid(const CellColors& cells);
 
 /// The caption under the grid, such as "0.5% selected".

@@ -58,8 +58,7 @@ class GridHistory {
   [[nodiscard]] bool CanUndo() const { return now_ > 0; }
   [[nodiscard]] bool CanRedo() const { return now_ + 1 < grids_.size(); }
 
-  /// The grid one step back, or one step forward, which becomes the current one; if there is no such step, the current
-  /// grid.
+  /// The grid one step back, or forward, which becomes the current one; the current grid if there is no such step.
   [[nodiscard]] const CellColors& Undo();
   [[nodiscard]] const CellColors& Redo();
 

@@ -14,8 +14,7 @@ namespace quillon {
 /// reversals", 1966.
 [[nodiscard]] std::size_t EditDistance(std::string_view from, std::string_view to);
 
-/// The `count` of `names` nearest to `wanted` by EditDistance, nearest first and ties in the given order; all if there
-/// are fewer.
+/// The `count` of `names` nearest to `wanted` by EditDistance, or all if fewer; nearest first, ties in the given order.
 [[nodiscard]] std::vector<std::string> NearestNames(std::string_view wanted, std::vector<std::string> names,
                                                     std::size_t count);
 

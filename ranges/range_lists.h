@@ -30,8 +30,7 @@ enum class ListStart : std::uint8_t { kBlankEntry, kFirstRange };
 /// the case of letters of any script (WithoutCase); equal ones in byte order. Fails as FileNamesIn does.
 [[nodiscard]] std::vector<std::string> RangeFolderEntries(const ProgramFolder& folder);
 
-/// The name that a file is listed under: without its last four characters, the length of ".txt". Characters are UTF-8
-/// characters.
+/// The listed name of a file: without its last four characters, the length of ".txt". Counts UTF-8 characters.
 ///
 ///     "Button Shove.txt" -> "Button Shove"      "notes.html" -> "notes."      ".txt" -> ""
 ///

@@ -17,8 +17,7 @@
 namespace quillon {
 namespace {
 
-// A text may read as a range without being one, such as a letter or a picture. A range has at least one class with a
-// weight.
+// A text may read as a range without being one, such as a letter. A range has at least one class with a weight.
 bool HoldsAnEntry(std::string_view text) {
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     if (text.find(std::string(HandLabel(index)) + " (") != std::string_view::npos) return true;

@@ -23,8 +23,7 @@ auto Attempt(Read read) -> std::optional<decltype(read())> {
 /// Whether the range's file can be read as a range and holds at least one entry.
 [[nodiscard]] bool IsReadable(const std::string& name, const ProgramFolder& folder);
 
-/// Nothing for a readable range; otherwise a message that its file is not, with the path, which an error from reading
-/// the text would lack.
+/// Nothing for a readable range; otherwise the error, with the path, which an error of reading the text lacks.
 [[nodiscard]] std::optional<std::string> WhyUnreadable(const std::string& name, const ProgramFolder& folder);
 
 /// Nothing if the range has a file; otherwise a message that there is no such range, with the nearest names. A name

@@ -1,7 +1,6 @@
 #pragma once
 
-// The short form in which poker players write a range, such as "88+,ATs+,KQs,AJo+". For display only; it is never
-// parsed.
+// The short form in which poker players write a range, such as "88+,ATs+,KQs,AJo+". It is never parsed.
 //
 // Items are separated by commas without spaces: first the pairs from AA down, then the suited hands by high card from A
 // down, then the offsuit hands likewise. An item is one class ("88", "KQs"), an open run ("88+", "ATs+": that class and

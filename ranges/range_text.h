@@ -55,8 +55,7 @@ using ClassWeights = std::array<double, kHandClassCount>;
 [[nodiscard]] std::string RangeTextOf(std::span<const double, kHandClassCount> weights);
 
 /// The same, as a text from which RangeWeightsOf reads exactly these weights, to 15 digits: a space splits two equal
-/// digits of a weight if they would hide the entry of a later pair. For files and analyses whose weights may differ
-/// from 0, 0.5 and 1.
+/// digits of a weight if they would hide a later pair's entry. For weights that may differ from 0, 0.5 and 1.
 ///
 ///     AA at 0.99 -> "AA (0.9 9), "      22 at 0.99 -> "22 (0.99), "
 [[nodiscard]] std::string SearchableRangeText(std::span<const double, kHandClassCount> weights);

@@ -27,8 +27,7 @@ struct PictureGrid {
   std::string Note{};
 };
 
-/// One SVG document with the grids side by side. The title is for screen readers and browser tabs. Labels are black or
-/// white, by ReadableOn.
+/// One SVG document with the grids side by side. The title is for screen readers and browser tabs.
 [[nodiscard]] std::string GridPicture(std::string_view title, std::span<const PictureGrid> grids);
 
 }  // namespace quillon

@@ -21,8 +21,7 @@ namespace {
 constexpr std::int16_t kHeadingSize = 14;
 constexpr std::int16_t kBodySize = 10;
 
-// Writes the lines of the plain form. A heading and the first line under it set their fonts; later lines keep the
-// current one.
+// Writes the plain form. A heading and the first line under it set their fonts; later lines keep the current one.
 class PlainReport {
  public:
   explicit PlainReport(ReportBox& box) : box_(box) {}

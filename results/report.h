@@ -2,9 +2,8 @@
 
 // The written report of the last analysis, in one of two forms. The plain form is for reading: headings, the situation,
 // and a table with the formula of each of the 169 hands, in fixed-width type. The forum form is a short text in mark-up
-// for pasting into a post; it sets no font. Rows are in class index order (AA, AKs, ... 22). Ranges are in the summary
-// notation of "ranges/range_summary.h", no amount has a currency sign, and a hand that the opponent never calls has the
-// equity -1.
+// for pasting into a post; it sets no font. Rows are in class index order. Ranges are in the summary notation of
+// "ranges/range_summary.h", no amount has a currency sign, and a hand that is never called has the equity -1.
 
 #include <array>
 #include <string_view>

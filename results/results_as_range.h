@@ -14,8 +14,7 @@
 namespace quillon {
 
 /// The classes of a results table with an expected value above 0, in class index order. A class at exactly 0 is left
-/// out, although the grid is green there and the reports count it as profitable. After "Equity Only", where every value
-/// is 0, there are none.
+/// out, although the grid is green there and the reports count it as profitable. None after "Equity Only".
 [[nodiscard]] std::vector<std::int16_t> ProfitableHands(std::string_view handInfo);
 
 }  // namespace quillon

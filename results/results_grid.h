@@ -1,8 +1,7 @@
 #pragma once
 
 // The results grid of a finished analysis: the colour of each of the 169 cells, the situation under the grid, and the
-// explanation beside it. A hand is profitable if its expected value is 0 or more: it is painted green and counted in
-// the percentage.
+// explanation beside it. A hand is profitable, green and counted in the percentage, from an expected value of 0 up.
 
 #include <cstdint>
 #include <string>
@@ -32,14 +31,12 @@ struct GridTexts {
 /// The column of the results table that a scenario shows: the equity in "Equity Only", otherwise the expected value.
 [[nodiscard]] std::int16_t ShownColumn(const Analysis& analysis);
 
-/// The texts for the last finished analysis. A Preflop Call needs a call amount other than 0: its pot odds fail as
-/// Divide does.
+/// The texts for the last finished analysis. A Preflop Call fails as Divide does if its call amount is 0.
 [[nodiscard]] GridTexts MakeGridTexts(const Analysis& analysis);
 
 /// The colours of the cells, in class index order. High and Low are the values of the rows of BestHand and WorstHand,
 /// in the shown column. High may be below the true maximum, so a cell may be darker than the darkest green. Never
-/// fails: a value measured against 0, such as a best value of exactly 0 or equities that are all equal, has the palest
-/// shade.
+/// fails: a value measured against 0, such as a best value of exactly 0 or equal equities, has the palest shade.
 [[nodiscard]] CellColors GridColors(const Analysis& analysis);
 
 /// A class's row of the results table with the colour of its cell, such as "#00ff00".

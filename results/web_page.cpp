@@ -11,8 +11,7 @@
 namespace quillon {
 namespace {
 
-// The page may fetch nothing, whatever its texts contain; it has an icon because a browser would otherwise ask the host
-// for one.
+// The page may fetch nothing; it has an icon because a browser would otherwise ask the host for one.
 constexpr std::string_view kHead = R"(<!DOCTYPE html>
 <html lang="en">
 <head>

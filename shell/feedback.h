@@ -27,19 +27,16 @@ inline constexpr std::string_view kAskAddress = "What is your email address?";
 /// The complaint about a note, with line ends as LF or CR LF: it is too long or too short. Nothing if it may be sent.
 [[nodiscard]] std::optional<Message> FeedbackComplaint(std::string_view note);
 
-/// The sender, from an answer to kAskAddress. Without an "@" it is kAnonymousAddress, so cancelling that box still
-/// sends the note.
+/// The sender, from an answer to kAskAddress; kAnonymousAddress without an "@", so Cancel still sends the note.
 [[nodiscard]] std::string FeedbackWriter(std::string_view answer);
 
 /// Whether more than kSecondsBeforeSending have passed between two readings of a millisecond counter that wraps from
-/// 2^31 - 1 to -2^31. RunTimeError "Overflow" if the difference does not fit in 32 bits, as when the counter wraps in
-/// between.
+/// 2^31 - 1 to -2^31. RunTimeError "Overflow" if the difference does not fit in 32 bits, as after a wrap.
 [[nodiscard]] bool IsTimeToSend(std::int32_t start, std::int32_t now);
 
 /// A text encoded for a query: every character, letters and digits too, as "%" and its code in the code page, in
 /// upper-case hexadecimal digits without leading zeros. Only CR LF has its zeros, as "%0D%0A"; any "%D%A" is taken for
-/// that pair, so a CR before one of the characters A0 to AF comes out wrong. A character that the code page lacks is
-/// sent as "?".
+/// that pair, so a CR before A0 to AF comes out wrong. A character that the code page lacks is sent as "?".
 ///
 ///     "a b" -> "%61%20%62"      "\r\n" -> "%0D%0A"      "\n" -> "%A"      "\t" -> "%9"      "\r¡" -> "%0D%0A1"
 [[nodiscard]] std::string EncodeForUrl(std::string_view text);

@@ -1,7 +1,6 @@
 #pragma once
 
-// A plain HTTP GET, on threads of its own. The host is not trusted: every buffer is limited, and an invalid reply
-// counts as no reply.
+// A plain HTTP GET, on threads of its own. All buffers are limited, and an invalid reply counts as no reply.
 
 #include <chrono>
 #include <cstddef>

@@ -22,8 +22,7 @@
 namespace quillon {
 
 /// Whether a text is UTF-16, judged by its byte-order mark or by one zero among its first two bytes, as with a Latin
-/// letter. A text of a single zero byte counts too, since an appended line would make it so. The routines below do not
-/// understand its lines.
+/// letter. A single zero byte counts too, since an appended line would make it so. The routines below cannot read it.
 [[nodiscard]] bool IsUtf16(std::string_view text);
 
 /// The value of a key, or the empty text. One pair of double or single quotes around the value is removed.

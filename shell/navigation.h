@@ -1,8 +1,7 @@
 #pragma once
 
 // The side panel and the screens. The panel, on the left of the main window, has the links `lblNav`; to its right one
-// screen shows at a time, one of the frames `frameContent`. A link opens the screen with the same caption. All lengths
-// are twips.
+// screen shows at a time, one of the frames `frameContent`. A link opens the screen of the same caption. In twips.
 //
 // The window system reports when the mouse is over something, but not when it leaves. So a hovered link keeps its looks
 // until the mouse moves over the panel's background.

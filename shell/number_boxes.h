@@ -1,9 +1,9 @@
 #pragma once
 
 // What happens while the user edits one of the five amount boxes `txtNumber`. As soon as a text changes, earlier
-// results no longer fit it and their links are hidden. A sum such as "=735+220-178" is evaluated when the user presses
-// Enter or leaves the box ("analysis/expressions.h"). The box for the opponent's call also updates two labels that show
-// his odds.
+// results no longer fit it and their links are hidden. A sum such as "=735+220-178" is evaluated on Enter and on
+// leaving the box ("analysis/expressions.h"). The box for the opponent's call also updates two labels that show his
+// odds.
 
 #include <string_view>
 
@@ -26,8 +26,7 @@ struct ShoveBoxTexts {
 /// and the user's call too, but do not follow those boxes. Fails as OpponentOddsTexts does.
 [[nodiscard]] OpponentOdds OddsOfBoxes(const ShoveBoxTexts& boxes);
 
-/// The same for the texts of the last run, but odds that cannot be computed are "N/A" in both: no contents of the boxes
-/// may prevent the start.
+/// The same for the texts of the last run, but "N/A" for odds that cannot be computed, so that the start cannot fail.
 [[nodiscard]] OpponentOdds OddsOfRestoredBoxes(const ShoveBoxTexts& boxes);
 
 }  // namespace quillon

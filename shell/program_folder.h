@@ -5,8 +5,7 @@
 // next to its executables, the file "installed", and only this marker moves the program's folder to the user's home.
 // Write permissions play no part, so that root's files never end up among the system's.
 //
-// The marker contains the path, relative to its own folder, of the package's shared files: the example "Ranges" and
-// "Guide".
+// The marker contains the relative path of the package's shared files: the example "Ranges" and "Guide".
 
 #include <filesystem>
 #include <string_view>
@@ -23,8 +22,7 @@ inline constexpr std::string_view kPackageMarker = "installed";
 
 /// The program's folder: that of the executable, or with the marker "$XDG_DATA_HOME/Quillon", by default
 /// "~/.local/share/Quillon". The latter is created if missing, with the example ranges in it, as a whole or not at all;
-/// an existing one is unchanged. A relative XDG_DATA_HOME is ignored, following freedesktop.org's XDG base directory
-/// rules.
+/// an existing one is unchanged. A relative XDG_DATA_HOME is ignored, as freedesktop.org's rules demand.
 ///
 /// RunTimeError, with the path and the reason, if it cannot be created, or if the environment has no folder for it.
 [[nodiscard]] std::filesystem::path ProgramFolderPath(const std::filesystem::path& executableFolder,

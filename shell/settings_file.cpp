@@ -35,8 +35,7 @@ void WriteIniValues(std::span<const IniSetting> settings, const ProgramFolder& f
   try {
     ReplaceFile(path, after, folder.Path, *folder.Calls);
   } catch (const RunTimeError&) {
-    // The only failure that is ignored: a window position is not worth stopping a user who is closing the program, and
-    // the old file is whole.
+    // The only ignored failure: a window position is not worth stopping a user who is closing the program.
     return;
   }
 }

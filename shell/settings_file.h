@@ -2,9 +2,8 @@
 
 // The file "settings.ini" in the program's folder, which holds everything that survives a restart besides the ranges:
 // window places, the contents of the amount boxes, and whether to look for upgrades. "shell/ini_text.h" describes its
-// form; on disk it is in the code page of "support/windows_1252.h". The user may edit it while the program runs: it is
-// read again for each value, and foreign lines are kept. A file that an editor has saved as UTF-16 is neither read nor
-// written.
+// form; on disk it is in the code page of "support/windows_1252.h". The user may edit it at any time: it is read again
+// for each value, and foreign lines are kept. A file saved as UTF-16 is neither read nor written.
 
 #include <cstddef>
 #include <filesystem>

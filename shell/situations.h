@@ -2,8 +2,7 @@
 
 // Saved situations: the contents of an input screen, saved under a name with Ctrl+S and restored with Ctrl+O. The
 // situation "Button 12" is the file "Situations/Button 12.json" in the program's folder, a batch of one line
-// ("study/situation_file.h"); the user may also put files there. Names follow the rules for ranges. The first save
-// creates the folder.
+// ("study/situation_file.h"); the user may add files. Names follow the rules for ranges. Saving creates the folder.
 
 #include <filesystem>
 #include <optional>
@@ -28,10 +27,9 @@ namespace quillon {
 /// listed. RunTimeError, with the folder and the reason, if it exists and cannot be read.
 [[nodiscard]] std::vector<std::string> SituationNames(const ProgramFolder& folder);
 
-/// Asks for a name, proposing `proposed`, saves the situation under it and tells the user; returns the name. Nothing if
-/// the user cancels or does not want to replace one of that name, or was told that the name is invalid or that the
-/// situation could not be read again. RunTimeError, with the file and the reason, if it cannot be written; the old file
-/// is then whole.
+/// Asks for a name, proposing `proposed`, saves the situation and tells the user; returns the name. Nothing if the user
+/// cancels or does not want to replace one of that name, or was told that the name is invalid or the situation could
+/// not be read again. RunTimeError, with file and reason, if it cannot be written; the old file is then whole.
 [[nodiscard]] std::optional<std::string> AskAndSaveSituation(const ScreenSituation& situation,
                                                              std::string_view proposed, const ProgramFolder& folder,
                                                              InputBoxes& inputs, MessageBoxes& messages);
@@ -47,8 +45,7 @@ struct OpenedSituation {
 [[nodiscard]] std::optional<OpenedSituation> OpenSituation(std::string_view name, const ProgramFolder& folder,
                                                            MessageBoxes& messages);
 
-/// Deletes the file of that name if the user agrees. Returns whether he did. RunTimeError, with the file and the
-/// reason, if that fails.
+/// Deletes the file of that name if the user agrees, and returns whether he did. RunTimeError, with file and reason.
 [[nodiscard]] bool AskAndDeleteSituation(std::string_view name, const ProgramFolder& folder, MessageBoxes& messages);
 
 /// After a save.

@@ -44,8 +44,7 @@ struct UpgradeLook {
 /// Stores the state as a digit. Never fails ("shell/settings_file.h").
 void StoreUpgradeBox(CheckBoxState state, const ProgramFolder& folder);
 
-/// The outcome for a reply of the web host. The empty text is a failed request, and a reply without a number counts as
-/// version 0.
+/// The outcome for a reply of the web host. The empty text is a failed request; a reply without a number is version 0.
 [[nodiscard]] UpgradeLook UpgradeLookOf(std::string_view reply);
 
 /// The effect of a click on a link: a message, or an address for the browser. The empty address opens nothing.

@@ -1,8 +1,7 @@
 #pragma once
 
 // Window places, kept between runs. Each window has a section of the settings file with the keys `Left` and `Top`: its
-// upper left corner in twips, as number texts of 32-bit floats. A resizable window also has `Width` and `Height`, in
-// the same form.
+// upper left corner in twips, as texts of 32-bit floats. A resizable window also has `Width` and `Height`.
 
 #include <string_view>
 #include <vector>

@@ -19,8 +19,7 @@ inline constexpr int kDesignZoom = 100;
 [[nodiscard]] int SmallerZoom(int percent);
 
 /// 100, or the largest smaller step at which a window of that size with its decoration fits on the screen, or else the
-/// smallest. An exact fit counts as inside. `screen` is the area without panels, in twips of the desktop's logical
-/// pixels.
+/// smallest. An exact fit counts as inside. `screen` is the area without panels, in twips of logical pixels.
 [[nodiscard]] int FittingZoom(TwipSize window, TwipSize screen);
 
 /// The stored zoom; nothing if it is missing or not one of the steps.

@@ -20,8 +20,7 @@ constexpr double kPromised = 1e-6;
 constexpr double kWanted = 1e-9;
 constexpr double kGoodEnough = 5e-7;
 constexpr int kPatience = 4096;
-// Six decimals are enough except for shoves of many pots, where a millionth of a range is worth more than the promised
-// error.
+// Six decimals are enough except for shoves of many pots, where a millionth of a range exceeds the promised error.
 constexpr int kShareDecimals = 6;
 constexpr int kFineShareDecimals = 12;
 constexpr int kRoundsBetweenLooks = 64;

@@ -28,8 +28,7 @@
 
 namespace quillon {
 
-/// For one class, the number of pairs of its concrete hands with those of each class that share no card: 36 for AA and
-/// KK, 6 for AA and AA.
+/// For one class, the number of pairs of its hands with those of each class that share no card: 36 for AA and KK.
 using PairCounts = std::array<double, kHandClassCount>;
 [[nodiscard]] PairCounts CountPairs(const HandNumbers& hands, std::int16_t index);
 

@@ -333,8 +333,7 @@ bool FigureLayout::IsCrossed(FigureSpot start, FigureSpot end) const {
   return false;
 }
 
-// From the highest line end to the lowest, each name as close to its line as its neighbours allow. Notes are left out
-// if they do not fit.
+// From the highest line end to the lowest, each name as close to its line as possible. Notes are dropped if necessary.
 void FigureLayout::AddNames(std::vector<FigurePart>& parts) const {
   const std::vector<FigureLine>& lines = figure_->Lines;
   const double room = (bottom_ - top_) / static_cast<double>(lines.size());

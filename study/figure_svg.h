@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// One SVG document of the stacked figures, each in its natural size, with the first one's title. There must be at
-/// least one.
+/// One SVG document of the stacked figures, at least one, each in its natural size, with the first one's title.
 [[nodiscard]] std::string FigureSvg(std::span<const Figure> figures);
 [[nodiscard]] std::string FigureSvg(const Figure& figure);
 

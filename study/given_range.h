@@ -29,8 +29,7 @@ using RangeFinding = std::variant<GivenRange, std::string>;
 [[nodiscard]] RangeFinding TypedRange(std::string_view notation,
                                       std::span<const std::int16_t, kHandClassCount> bestFirst);
 
-/// The range in the file of that name; or what WhyUnknown or WhyUnreadable says. Fails as RangeWeightsOf does if a file
-/// has only some weights.
+/// The range in the file of that name; or the error of WhyUnknown or WhyUnreadable. Fails as RangeWeightsOf does.
 [[nodiscard]] RangeFinding SavedRange(const std::string& name, const ProgramFolder& folder);
 
 }  // namespace quillon

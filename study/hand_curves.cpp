@@ -58,8 +58,7 @@ bool IsMultiple(double amount, double step) {
   return std::abs(count - std::round(count)) < kNear * std::max(1.0, count);
 }
 
-// The widest round step that has a hundred to a thousand steps up to `reach` and hits `amount`; the widest of all if
-// none hits it.
+// The widest round step with a hundred to a thousand steps up to `reach` that hits `amount`, or else the widest.
 double StepFor(double reach, double amount) {
   constexpr double kLeastCount = 100;
   constexpr double kMostCount = 1000;

@@ -24,8 +24,7 @@ struct LimitsQuestion {
 /// The grid of the limits, with short amounts (ShortAmount).
 [[nodiscard]] std::string LimitsPicture(const LimitsQuestion& question, const Limits& limits);
 
-/// A chart as a page: the grid of shoves, the grid of calls, and a table with the gaps of both. A star marks a stack
-/// with gaps below it.
+/// A chart as a page: both grids, where a star marks a stack with gaps below it, and a table with the gaps.
 [[nodiscard]] std::string ChartPage(const StackChart& chart, const Steps& stacks);
 
 /// Both grids of a chart side by side.

@@ -2,8 +2,7 @@
 
 // One question asked many times, as one amount or the width of a range goes up step by step. Equities and fold shares
 // do not depend on the amounts, so they are computed once, and a thousand steps take little longer than one; when the
-// range changes they are computed for each step. Either way the figures are those of separate analyses, digit for
-// digit.
+// range changes they are computed for each step. The figures are those of separate analyses, digit for digit.
 
 #include <array>
 #include <cstdint>
@@ -40,8 +39,7 @@ class Steps {
 
   [[nodiscard]] std::int64_t Count() const { return count_; }
 
-  /// The step as text, computed in decimals, not floats: the shortest form, such as "0.3". The value used is that of
-  /// the text.
+  /// The step as text, computed in decimals: the shortest form, such as "0.3". Its value is that of the text.
   [[nodiscard]] std::string Text(std::int64_t step) const;
 
  private:
@@ -64,8 +62,7 @@ struct SweepRow {
 /// The profitable share of all hands, in percent.
 [[nodiscard]] double ProfitablePercent(const SweepRow& row);
 
-/// The rows as comma-separated lines with a heading, with every digit. `what` is what goes up, and the hands are those
-/// of the rows, in order.
+/// The rows as comma-separated lines with a heading, with every digit. `what` goes up; `hands` are those of the rows.
 ///
 ///     shove,profitable,K9o,22
 ///     5,100,0.909819209069834,1.00635614402889
@@ -78,8 +75,7 @@ struct SweepQuestion {
   std::vector<std::int16_t> Hands;  // class indexes
 };
 
-/// A row for each step, with this amount taking the step's value instead of the fixed one. Fails as FiguresOf does for
-/// the ranges.
+/// A row for each step, with this amount taking the step's value. Fails as FiguresOf does for the ranges.
 [[nodiscard]] std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumbers& ranges,
                                                 double Amounts::*amount, const Steps& steps);
 

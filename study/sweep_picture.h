@@ -18,8 +18,8 @@ struct SweepLabels {
   std::vector<std::string> Hands;  // those of the rows, in order
 };
 
-/// The expected values of the hands, with the zero line; if no hand was asked for, the percentage of profitable hands.
-/// There must be a row.
+/// The expected values of the hands, with the zero line, or without hands the percentage of profitable hands. At least
+/// one row.
 [[nodiscard]] Figure SweepFigure(const SweepLabels& labels, std::span<const SweepRow> rows);
 
 /// The same as an SVG document.

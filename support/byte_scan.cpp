@@ -10,8 +10,8 @@
 #endif
 
 // One source, two machine codes: the loader picks one for each search at start, by what the processor offers.
-// Sanitizers hook into programs before that choice can be made, and other compilers and loaders do it differently; they
-// take the baseline.
+// Sanitizers hook into programs before that choice, and other compilers and loaders do it differently; they take the
+// baseline.
 #if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) && \
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define QUILLON_CHOOSES_PROCESSOR

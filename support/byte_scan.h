@@ -10,8 +10,7 @@
 
 namespace quillon {
 
-/// The position of occurrence number `n` (from 0) of `byte` in `text`, or std::string_view::npos if there are
-/// fewer.
+/// The position of occurrence number `n` (from 0) of `byte` in `text`; std::string_view::npos if there are fewer.
 [[nodiscard]] std::size_t FindNthByte(std::string_view text, char byte, std::size_t n);
 
 /// The position of the first occurrence of `wanted` in `text`, or std::string_view::npos: same as

@@ -22,8 +22,7 @@ constexpr FileMode kReadable = 0444;
 constexpr FileMode kWritable = 0222;
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Virus scanners and indexers briefly hold a newly written file open, and until they close it, it can be neither opened
-// nor replaced.
+// Virus scanners and indexers briefly hold a new file open, and meanwhile it can be neither opened nor replaced.
 constexpr int kAttempts = 20;
 constexpr DWORD kPauseMilliseconds = 10;
 

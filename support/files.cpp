@@ -79,8 +79,7 @@ Scratch OpenScratch(const std::filesystem::path& folder, std::string_view end, F
 // Writes the scratch file and renames it to the target: 0, or the negated error number with the scratch file deleted.
 int ReplaceThrough(const Scratch& scratch, const std::string& target, std::optional<FileMode> mode,
                    std::string_view bytes, FileCalls& calls) {
-  // The umask may have removed bits of the old mode. A disk without permissions refuses this call and has none to keep,
-  // so failure is ignored.
+  // The umask may have removed bits of the old mode. Failure is ignored: a disk without permissions has none to keep.
   if (mode) static_cast<void>(Uninterrupted([&] { return calls.SetMode(scratch.file, *mode); }));
   int result = WriteToDisk(scratch.file, bytes, calls);
   if (result >= 0) result = Uninterrupted([&] { return calls.Rename(scratch.path, target); });
@@ -94,8 +93,7 @@ struct OldFile {
   std::optional<FileMode> mode;  // nothing if there is no such file
 };
 
-// A write-protected file must not be replaced either, although the folder's permissions would allow it. A missing file
-// may be created.
+// A write-protected file must not be replaced, even if the folder allows it. A missing file may be created.
 OldFile LookAtOldFile(const std::string& path, FileCalls& calls) {
   const int file = Uninterrupted([&] { return calls.Open(path, OpenFor::kWriting, 0); });
   if (file < 0) return {file == -ENOENT ? 0 : file, std::nullopt};
@@ -124,8 +122,8 @@ struct Rewriting {
 };
 
 // Writes into the file itself while a scratch file keeps a copy of the new content. After a crash midway only the copy
-// is whole, so no later start deletes files of its name. There is no copy if both folders refuse one, but a full disk
-// is an error.
+// is whole, so no start deletes files of its name. If both folders refuse a copy there is none, but a full disk is an
+// error.
 Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
                   const std::filesystem::path& scratchFolder, FileMode mode, FileCalls& calls) {
   Scratch copy = OpenScratch(scratchFolder, kCopyEnd, mode, calls);

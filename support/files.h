@@ -67,8 +67,7 @@ class FileCalls {
   virtual int Mode(int file) = 0;
   virtual int SetMode(int file, FileMode mode) = 0;
 
-  /// Locks an open file or folder, or fails if it is locked already. Close releases the lock, and so does the end of
-  /// the process.
+  /// Locks an open file or folder, or fails if it is locked already. Close or the end of the process releases the lock.
   virtual int TryLock(int file) = 0;
 };
 
@@ -110,9 +109,8 @@ class FileCalls {
 /// If the folder takes no new files but the old file is writable, the file is written in place, with a copy in the
 /// scratch file until its content is on disk; if both folders refuse a scratch file, there is no copy.
 ///
-/// Any failure is a RunTimeError as of FailOnFile. The old content is then intact and the scratch file deleted, except
-/// after writing in place: then the scratch file is kept and the error names it. A write-protected file is such a
-/// failure.
+/// Any failure, such as of a write-protected file, is a RunTimeError as of FailOnFile. The old content is then intact
+/// and the scratch file deleted; after writing in place the scratch file is kept and the error names it.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, const std::filesystem::path& scratchFolder,
                  FileCalls& calls = SystemFileCalls());
 

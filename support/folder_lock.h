@@ -13,8 +13,7 @@ namespace quillon {
 /// left over, and a process that dies releases the lock.
 ///
 /// The constructor waits at most a second for another holder: a copy of the program that hangs must not hang the
-/// others. After that, or if the folder cannot be locked, the object holds no lock, which is no worse than having none.
-/// Never fails.
+/// others. After that, or if the folder cannot be locked, the object holds no lock. Never fails.
 class FolderLock {
  public:
   explicit FolderLock(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());

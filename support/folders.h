@@ -1,7 +1,6 @@
 #pragma once
 
-// The folders that the program keeps its files in. They are created when the program starts, and again whenever one has
-// gone missing.
+// The folders that the program keeps its files in, created when it starts, and again whenever one is missing.
 
 #include <filesystem>
 #include <string>
@@ -26,9 +25,8 @@ void MakeFolderIfMissing(const std::filesystem::path& path, FileCalls& calls = S
 /// Whether the name exists. A dangling link counts: it is listed, and it can be deleted.
 [[nodiscard]] bool IsThere(const std::filesystem::path& file);
 
-/// The names of all files in a folder as text (TextOfFileName), in no order; without its folders and the program's own
-/// scratch files. RunTimeError, with the folder and the reason, if it cannot be read: "Path not found" if it is
-/// missing.
+/// The names of all files in a folder as text (TextOfFileName), in no order; without folders and scratch files.
+/// RunTimeError, with the folder and the reason, if it cannot be read: "Path not found" if it is missing.
 [[nodiscard]] std::vector<std::string> FileNamesIn(const std::filesystem::path& folder);
 
 /// The path of a file in a folder, by its UTF-8 name. If there is no such file but one whose name is not UTF-8 and is

@@ -1,7 +1,6 @@
 #pragma once
 
-// Letters of every script, independent of the user's locale and of which locales are installed. Uses the system's
-// Unicode tables.
+// Letters of every script, by the system's Unicode tables, independent of the user's and the installed locales.
 
 #include <string>
 #include <string_view>

@@ -28,8 +28,8 @@ namespace quillon {
 
 /// The number at the start of a text: the longest prefix that is an optional sign, digits, an optional fraction after a
 /// point and an optional exponent. Spaces are skipped anywhere; anything else ends the number, and a text without such
-/// a prefix gives 0. Never fails: a number beyond the range of a double gives the largest finite double with its sign,
-/// one too small gives 0.
+/// a prefix gives 0. Never fails: a number beyond a double's range gives the largest one with its sign, one too small
+/// 0.
 ///
 ///     "12abc" -> 12      "1,000" -> 1      " 1 000" -> 1000      "1.5.2" -> 1.5
 ///     "1e3" -> 1000      "1e" -> 1         "-.5" -> -0.5         "$5" -> 0      "" -> 0

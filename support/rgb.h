@@ -30,8 +30,7 @@ struct Rgb {
 /// the Web Content Accessibility Guidelines 2, which want 4.5 for text and 3 for large text.
 [[nodiscard]] double ContrastRatio(Rgb one, Rgb other);
 
-/// The text colour for a background: white if its contrast is at least 4.5, otherwise black, whose contrast is then
-/// higher.
+/// The text colour for a background: white if its contrast is at least 4.5, otherwise black, which then has more.
 [[nodiscard]] Rgb ReadableOn(Rgb ground);
 
 }  // namespace quillon

@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// The folder of the running executable, whatever characters its name has. A standard exception if the system cannot
-/// say.
+/// The folder of the running executable, whatever its name. A standard exception if the system cannot say.
 [[nodiscard]] std::filesystem::path ExecutableFolder();
 
 /// A number unique among the machine's running processes.

@@ -12,8 +12,7 @@ namespace quillon {
 /// Bytes of the code page as UTF-8. Never fails: every byte has a character.
 [[nodiscard]] std::string Utf8FromWindows1252(std::string_view bytes);
 
-/// UTF-8 text as bytes of the code page. A character that the code page lacks, and each byte that is not part of valid
-/// UTF-8, becomes "?".
+/// UTF-8 text as bytes of the code page. A character that the code page lacks, and each invalid byte, becomes "?".
 [[nodiscard]] std::string Windows1252FromUtf8(std::string_view text);
 
 /// A file's name as text. Names on disk are normally UTF-8; one that is not, as from old archives, is decoded from the

@@ -7,8 +7,7 @@
 
 namespace quillon {
 
-/// Has a screen reader say the text after its current one, on behalf of that visible control. Does nothing if none is
-/// listening.
+/// Has a screen reader say the text after its current one, on behalf of that visible control, if one is listening.
 void SendAnnouncement(QWidget* speaker, const QString& text);
 
 }  // namespace quillon

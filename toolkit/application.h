@@ -53,12 +53,10 @@ class Answering {
 /// Whether the action is a key. What a key reaches or opens should get the focus and show it.
 [[nodiscard]] bool AnswersKey();
 
-/// The window that a box opened now belongs to: that of the action being handled, or else the active one. Null if
-/// neither is visible.
+/// The window that a box opened now belongs to: that of the action being handled, or the active one; null if invisible.
 [[nodiscard]] QWidget* AskingWindow();
 
-/// The application, once it has a display. Without one, prints a line with Qt's reason to standard error and exits with
-/// status 1.
+/// The application. Without a display, prints a line with Qt's reason to standard error and exits with status 1.
 [[nodiscard]] std::unique_ptr<Application> StartApplication(int& argc, char** argv);
 
 /// Shows the fault and ends the process. Without a window system, it is only written to standard error.

@@ -11,8 +11,7 @@ namespace quillon {
 /// The picture's resource, which need not exist.
 [[nodiscard]] QString ArtworkFile(const QString& name);
 
-/// Draws the picture scaled to the rectangle, in the painter's coordinates. False, with nothing drawn, if there is
-/// none.
+/// Draws the picture scaled to the rectangle, in the painter's coordinates. False, drawing nothing, if there is none.
 [[nodiscard]] bool PaintArtwork(const QString& name, QPainter& painter, const QRectF& rectangle);
 
 }  // namespace quillon

@@ -32,8 +32,7 @@ class Control : public QWidget {
   /// Acts as if clicked.
   void Click();
 
-  /// Focuses the control. False if that opened a box, from the control that lost the focus: the press should then be
-  /// dropped.
+  /// Focuses the control. False if the control that lost the focus opened a box: the press should then be dropped.
   bool TakeFocus(Qt::FocusReason reason);
 
   /// The widget that the focus mark surrounds: the control itself, unless it is part of a larger visual unit.

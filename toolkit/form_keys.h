@@ -1,7 +1,6 @@
 #pragma once
 
-// Keys of a form: they work wherever in its window the focus is, without auto-repeat, but not while a box is waiting
-// for an answer.
+// Keys of a form: they work wherever in its window the focus is, without auto-repeat, but not while a box is open.
 
 #include <QKeyCombination>
 #include <QShortcut>

@@ -1,7 +1,6 @@
 #pragma once
 
-// A part of a form that contains other controls: a screen, or a panel on one. Its caption is never shown; it identifies
-// a screen.
+// A part of a form that contains other controls: a screen, or a panel on one. Its hidden caption identifies a screen.
 
 #include <QColor>
 #include <QString>

@@ -42,8 +42,7 @@ class Label : public Control {
   /// Whether a text that is too wide is cut.
   void SetCut(bool cut);
 
-  /// Draws a thin edge around the letters, if their colour hardly stands out from the background; Qt::transparent for
-  /// none.
+  /// Draws a thin edge around letters whose colour hardly differs from the background; Qt::transparent for none.
   void SetHalo(const QColor& color);
   [[nodiscard]] const QColor& Halo() const { return halo_; }
 

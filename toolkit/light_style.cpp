@@ -184,8 +184,7 @@ QSize LightStyle::sizeFromContents(ContentsType type, const QStyleOption* option
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (type != CT_MenuItem || entry == nullptr) return size;
-  // Its margins around an entry's text, and the height of a separator, are pixels at any scale. It draws with at least
-  // those margins.
+  // It leaves the same pixels around an entry's text, and for a separator, at any scale; these are its minimum.
   const bool line = entry->menuItemType == QStyleOptionMenuItem::Separator;
   const int beside = size.width() - contents.width();
   const int above = line ? size.height() : size.height() - entry->fontMetrics.height();

@@ -21,8 +21,7 @@ void SetPlace(QWidget& control, const TwipRect& place);
 /// does the size that the user chooses.
 void SetResizable(QWidget& window, const TwipSize& least, const TwipSize& size);
 
-/// The size of such a window: exactly that of SetResizable unless the user has changed it. For a maximised one, the
-/// size before.
+/// The size of such a window, or before it was maximised: exactly that of SetResizable unless the user changed it.
 [[nodiscard]] TwipSize SizeOf(const QWidget& window);
 
 /// Sets a control's font, or `inherited` if `font` has none.

@@ -1,7 +1,6 @@
 #pragma once
 
-// The mouse wheel changes a list's selection only while the list has the focus, so that scrolling a screen changes
-// nothing.
+// The mouse wheel changes a list's selection only while the list has the focus, so that scrolling is harmless.
 
 #include <QWidget>
 

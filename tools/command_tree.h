@@ -1,7 +1,6 @@
 #pragma once
 
-// The companion's command line as data, taken from its definitions, for generating the manual page and shell
-// completions.
+// The companion's command line as data, taken from its definitions, for its manual page and shell completions.
 
 #include <string>
 #include <vector>

@@ -26,8 +26,7 @@ inline constexpr int kInterrupted = 130;  // of a batch ended by Ctrl+C; the she
 struct Surroundings {
   std::ostream& Output;
   std::ostream& Errors;
-  /// The parent of "Ranges" unless --folder names another. Called only if a range is named or saved, so that typed
-  /// ranges need no folder.
+  /// The parent of "Ranges" unless --folder names another. Only called for named ranges, so typed ones need no folder.
   std::function<std::filesystem::path()> ProgramFolder;
   quillon::Terminal Terminal{};
   std::function<std::chrono::steady_clock::time_point()> Now = std::chrono::steady_clock::now;

@@ -1,5 +1,5 @@
-// The program equity-table: counts the equities of all pairs of hand classes and writes them as text rows or as the
-// source file.
+// The program equity-table: counts the equities of all pairs of hand classes and writes them as rows or as a source
+// file.
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

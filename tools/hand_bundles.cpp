@@ -101,8 +101,7 @@ void AddFlush(const BoardView& view, std::uint8_t handClass, const CardUse& use,
   bundles.push_back({StrengthOfFlush(static_cast<RankMask>(view.flushRanks | handRanks)), handClass, use});
 }
 
-// The hands of a class with two cards of the suit, then those with one, then those with none, as long as they make a
-// flush.
+// The hands of a class with two cards of the suit, then with one, then with none, as long as they make a flush.
 void AddFlushes(const BoardView& view, std::uint8_t handClass, std::vector<HandBundle>& bundles) {
   const ClassShape& shape = kClassShapes[handClass];
   const SuitMask highIn = view.liveSuits[shape.high] & view.flushSuit;

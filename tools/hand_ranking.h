@@ -22,8 +22,7 @@ namespace quillon {
 /// A set of ranks, bit 0 for the deuce up to bit 12 for the ace.
 using RankMask = std::uint16_t;
 
-/// A hand's strength: greater beats smaller, equal ties. Not every number below the last of kCategoryStart is the
-/// strength of some hand.
+/// A hand's strength: greater beats smaller, equal ties. Not every number is the strength of some hand.
 using HandStrength = std::uint16_t;
 
 inline constexpr int kSuitCount = 4;

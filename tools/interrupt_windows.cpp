@@ -31,8 +31,7 @@ BOOL WINAPI NoteInterrupt(DWORD event) {
   return TRUE;
 }
 
-// Typed input as UTF-8; a console's bytes are in a code page that lacks most characters. Ends at Ctrl+Z at the start of
-// a line.
+// Typed input as UTF-8, which a console's bytes cannot express. Ends at Ctrl+Z at the start of a line.
 std::ptrdiff_t ReadTyped(HANDLE console, std::span<char> buffer) {
   constexpr wchar_t kCtrlZ = 0x1A;
   std::wstring typed(buffer.size() / 3, L'\0');  // a UTF-16 unit becomes at most three bytes

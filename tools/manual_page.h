@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// The page in roff. Its last line names the guide. `exitStatuses`, a list in the footer of each command, gets a
-/// section of its own.
+/// The page in roff. Its last line names the guide. `exitStatuses`, from the footer of each command, gets a section.
 [[nodiscard]] std::string ManualPage(const CommandText& root, std::string_view exitStatuses, const std::string& guide);
 
 }  // namespace quillon

@@ -8,8 +8,7 @@
 
 namespace quillon {
 
-/// Whether a range may be saved under this name; if not, the reason has been reported. With `replace` it may replace an
-/// existing range.
+/// Whether a range may be saved under this name; if not, reports why. With `replace` it may replace an existing range.
 [[nodiscard]] bool MaySave(CommandInputs& inputs, const std::string& name, bool replace,
                            const Surroundings& surroundings);
 

@@ -1,7 +1,6 @@
 #pragma once
 
-// What all windows other than the main window share: a white background, the program's icon, a tab order, and how they
-// are raised.
+// Shared by all windows but the main one: white background, the program's icon, tab order, and how they are raised.
 
 #include <QWidget>
 #include <functional>

@@ -148,8 +148,7 @@ bool ManagerForm::MayTakeName(std::string_view name) {
   return ValidateRangeName(around_.Folder, name, around_.Messages);
 }
 
-// Compared as texts, so a weight that the grid cannot show, such as 0.25, is a change, and so is having no range at
-// all.
+// Compared as texts: a weight that the grid cannot show, such as 0.25, is a change, and so is having no range.
 bool ManagerForm::HasBeenModified() const {
   return RangeTextFromGrid(grid_.Colors()) != LoadRangeText(around_.Folder, list_.CurrentText());
 }

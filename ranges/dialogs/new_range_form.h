@@ -30,8 +30,7 @@ class NewRangeForm : public QWidget {
   [[nodiscard]] const NewRangeControls& Controls() const { return controls_; }
   [[nodiscard]] const FormCardGrid& Grid() const { return grid_; }
 
-  /// Toggles these cells like clicks, in order, updates the summary, and focuses the name if it can be typed. All of it
-  /// is one undo step.
+  /// Toggles these cells like clicks, in order, as one undo step, and focuses the name if it can be typed.
   void Propose(std::span<const std::int16_t> cells);
 
  Q_SIGNALS:

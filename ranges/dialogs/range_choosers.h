@@ -34,8 +34,7 @@ class RangeChoosers : public QObject {
 
   [[nodiscard]] FormChooser& List(std::int16_t index) const { return *lists_.at(static_cast<std::size_t>(index)); }
 
-  /// Fills the lists from the folder, in order; each keeps its range if that still exists. RunTimeError as of
-  /// FillRangeList.
+  /// Fills the lists from the folder, in order; each keeps its range if possible. RunTimeError as of FillRangeList.
   void Refresh(const ProgramFolder& folder);
 
   /// The chooser that last opened the New Range dialog.

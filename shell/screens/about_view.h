@@ -41,8 +41,7 @@ class AboutView {
   /// RunTimeError as of StoredUpgradeBox.
   void CheckForUpgrade();
 
-  /// The click on `chkUpgrade`: stores its state at once and checks. If the setting cannot be written, the box returns
-  /// to its old state.
+  /// The click on `chkUpgrade`: stores its state at once and checks. If it cannot be stored, the box changes back.
   void ClickUpgrade();
 
   /// The click on a link, whose caption decides its target.

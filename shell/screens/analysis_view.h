@@ -34,8 +34,8 @@ class AnalysisView : public AnalysisWindow {
 
   explicit AnalysisView(Parts parts) : parts_(std::move(parts)) {}
 
-  /// Stops a run, if there is one. The next screen then takes the focus for the key that stops, not for the one that
-  /// started the run.
+  /// Stops a run, if there is one. The next screen takes the focus for the key that stops, not for the one that
+  /// started.
   void Stop(AnalysisState& state);
 
   [[nodiscard]] std::string BoxText(std::int16_t index) const override;

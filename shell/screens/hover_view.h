@@ -14,8 +14,7 @@ namespace quillon {
 
 class HoverView {
  public:
-  /// The panel takes the size of its border. It shows no hand yet, so the first one hovered is always new to it, even
-  /// AA.
+  /// The panel takes the size of its border. It shows no hand yet, so the first one hovered is always new, even AA.
   HoverView(const MainControls& controls, const FormCardGrid& grid);
 
   /// The mouse over the cell `index`: fills the panel if it shows another hand, and shows it beside the cell. Lines

@@ -63,9 +63,8 @@ class MainForm : public QWidget {
   void ShowStudy(StudyTopic topic, std::optional<std::int16_t> hand = {}) { study_.ShowPage(topic, hand); }
 
  protected:
-  /// Whenever the window closes, it is hidden, its place, all box texts as they are (unevaluated sums and empty ones
-  /// too) and the study window's place are stored, and the process ends. No other window is asked, and an analysis just
-  /// stops.
+  /// On closing, the window is hidden, its place, all box texts as they are (even unevaluated sums and empty ones) and
+  /// the study window's place are stored, and the process ends. No other window is asked; an analysis stops.
   void closeEvent(QCloseEvent* event) override;
 
   /// A right click that nothing else handles, or the menu key: a menu of what the keys for situations and the study do.

@@ -1,8 +1,8 @@
 #pragma once
 
 // The main window as tables: the side panel, the seven screens, the two frames on the grid screen, and an invisible
-// frame that stores things. The texts are verbatim, odd ones too. The product's web host and feedback address come from
-// the build.
+// frame that stores things. The texts are verbatim, odd ones too. The web host and feedback address come from the
+// build.
 
 #include <array>
 #include <cstddef>

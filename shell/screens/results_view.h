@@ -15,12 +15,10 @@ class ResultsView {
  public:
   ResultsView(const MainControls& controls, FormCardGrid& grid) : controls_(controls), grid_(grid) {}
 
-  /// Paints the cells in index order, describes each as the hover panel does, then shows the texts. Fails as
-  /// MakeGridTexts does.
+  /// Paints the cells in index order, describes each, then shows the texts. Fails as MakeGridTexts does.
   void Present(const Analysis& analysis);
 
-  /// Shows or hides the links to results, which return to their own colour; the note that there are none is shown
-  /// instead.
+  /// Shows or hides the links to results, in their own colour; the note that there are none is the alternative.
   void SetResultsShown(bool shown);
 
   /// Sets the caption of `lblNoResults`, which is a link while it says that a run is going on.
