@@ -14,6 +14,7 @@
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
 #include "results/web_page.h"
+#include "testing/golden_file.h"
 #include "testing/sample_analysis.h"
 #include "testing/split_text.h"
 
@@ -185,6 +186,10 @@ TEST_P(EachPage, HasAPictureOfItsGrid) {
                       HasSubstr(" fill=\"" + ColorText(ReadableOn(color)) + "\">" + std::string(HandLabel(index)) +
                                 "</text>")));
   }
+}
+
+TEST(AnalysisPicture, IsTheGoldenPicture) {
+  ExpectGolden(AnalysisPicture(sample::RaiseState()), "raise_grid.svg");
 }
 
 TEST(GridPicture, HasTheSameMarginOnEverySide) {

@@ -185,16 +185,19 @@ TEST(FigureLayout, PutsAMarksTextWhereNoLineIs) {
   struct Case {
     const char* rule;
     double mark;
+    const char* third;  // of the places
     std::vector<double> values;  // of the second line
     bool atTheTop;
   };
   for (const Case& c : std::vector<Case>{
-           {"nothing in the way", 3.2, {1, 1, 2, 3.5}, true},
-           {"a line just below the letters", 3.2, {1, 1, 3.55, 3.55}, false},
-           {"the start of a line", 0.8, {3.7, 1, 2, 3.5}, false},
+           {"nothing in the way", 3.2, "3.5", {1, 1, 2, 3.5}, true},
+           {"a line just below the letters", 3.2, "3.5", {1, 1, 3.55, 3.55}, false},
+           {"the start of a line", 0.8, "3.5", {3.7, 1, 2, 3.5}, false},
+           {"a line left of a mark at the right end", 5, "4.7", {1, 1, 3.7, 3.5}, false},
        }) {
     Figure figure = TwoHands();
     figure.Marks[0].At = c.mark;
+    figure.Places[2] = c.third;
     figure.Lines[1].Values = c.values;
     const FigureLayout layout(figure, {800, 500});
     const auto texts = PartsOf<FigureText>(layout);
