@@ -36,6 +36,7 @@ TEST(NumberText, IsTheGeneralForm) {
       {"15 decimals are fixed", 1e-15, "0.000000000000001"},
       {"16 decimals are not", 1e-16, "1E-16"},
       {"16 digits before the point are not", 1e15, "1E+15"},
+      {"two digits in the exponent form", 1.5e15, "1.5E+15"},
       {"rounding to 15 digits makes a 16th place", 999999999999999.9, "1E+15"},
       {"the largest number", kLargest, "1.79769313486232E+308"},
       {"the smallest number", kSmallest, "4.94065645841247E-324"},
