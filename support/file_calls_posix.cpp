@@ -78,8 +78,10 @@ std::filesystem::path PathOf(std::string_view text) {
 FolderListing ListFolder(const std::filesystem::path& folder) {
   FolderListing listing;
   std::filesystem::directory_iterator entry(folder, listing.Error);
-  for (const std::filesystem::directory_iterator end; !listing.Error && entry != end; entry.increment(listing.Error))
-    listing.Entries.push_back(*entry);
+  for (const std::filesystem::directory_iterator end; !listing.Error && entry != end; entry.increment(listing.Error)) {
+    std::error_code unknown;
+    listing.Entries.push_back({entry->path(), entry->is_directory(unknown)});
+  }
   return listing;
 }
 
@@ -87,6 +89,23 @@ std::error_code ErrorOfPath(const std::filesystem::path& path) {
   std::error_code error;
   static_cast<void>(std::filesystem::symlink_status(path, error));
   return error;
+}
+
+std::optional<std::chrono::seconds> AgeOfFile(const std::filesystem::path& path) {
+  std::error_code unknown;
+  if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(path, unknown))) return {};
+  const std::filesystem::file_time_type written = std::filesystem::last_write_time(path, unknown);
+  if (unknown) return {};
+  return std::chrono::floor<std::chrono::seconds>(std::filesystem::file_time_type::clock::now() - written);
+}
+
+std::filesystem::path EndOfLinks(const std::filesystem::path& path) {
+  constexpr int kMostLinks = 40;  // the system's own limit
+  std::filesystem::path end = path;
+  std::error_code none;
+  for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(end, none); ++link)
+    end = end.parent_path() / std::filesystem::read_symlink(end, none);
+  return end;
 }
 
 std::string ReasonOf(int systemError) {

@@ -3,12 +3,17 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <fcntl.h>
 #include <initializer_list>
 #include <io.h>
 #include <map>
 #include <mutex>
+#include <ratio>
 #include <utility>
+#include <vector>
 #include <windows.h>
 
 #include "support/file_names.h"
@@ -156,6 +161,27 @@ int Patiently(std::initializer_list<int> passing, Call call) {
   return error;
 }
 
+// Replaces a file that other programs may have open; they keep the old file, as on other systems. Fails on disks that
+// cannot do that: NTFS can since Windows 10 1607.
+bool RenameOverOpenFile(const std::wstring& oldName, const std::wstring& newName) {
+  constexpr auto kFileRenameInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);  // missing from some headers
+  const HANDLE file =
+      CreateFileW(oldName.c_str(), DELETE | SYNCHRONIZE, kShared, nullptr, OPEN_EXISTING,
+                  FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_WRITE_THROUGH, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  const std::size_t size = newName.size() * sizeof(wchar_t);
+  std::vector<std::byte> renaming(sizeof(FILE_RENAME_INFO) + size);
+  FILE_RENAME_INFO start{};
+  start.Flags = FILE_RENAME_FLAG_REPLACE_IF_EXISTS | FILE_RENAME_FLAG_POSIX_SEMANTICS;
+  start.FileNameLength = static_cast<DWORD>(size);
+  std::memcpy(renaming.data(), &start, sizeof start);
+  std::memcpy(renaming.data() + offsetof(FILE_RENAME_INFO, FileName), newName.data(), size);
+  const bool renamed =
+      SetFileInformationByHandle(file, kFileRenameInfoEx, renaming.data(), static_cast<DWORD>(renaming.size())) != 0;
+  CloseHandle(file);
+  return renamed;
+}
+
 class WindowsFileCalls final : public FileCalls {
  public:
   int Open(const std::string& path, OpenFor purpose, FileMode /*mode*/) override {
@@ -195,7 +221,7 @@ class WindowsFileCalls final : public FileCalls {
     if (WriteFile(HandleOf(file), bytes.data(), size, &count, nullptr) == 0) return LastError();
     return count;
   }
-  // Folders cannot be synced and need not be: MOVEFILE_WRITE_THROUGH has already written the new name to disk.
+  // Folders cannot be synced and need not be: renaming has already written the new name to disk.
   int Sync(int file) override { return FlushFileBuffers(HandleOf(file)) != 0 ? 0 : LastError(); }
   int Close(int file) override {
     Unlock(file);
@@ -207,6 +233,7 @@ class WindowsFileCalls final : public FileCalls {
     // ReplaceFileW would keep more of the old file, but midway there is no file of that name at all.
     const DWORD replacing = IsFolder(oldName) ? 0 : MOVEFILE_REPLACE_EXISTING;
     const int renamed = Patiently({EBUSY, EACCES}, [&] {
+      if (replacing != 0 && RenameOverOpenFile(oldName, newName)) return true;
       return MoveFileExW(oldName.c_str(), newName.c_str(), replacing | MOVEFILE_WRITE_THROUGH) != 0;
     });
     return renamed == -EEXIST && !IsFolder(newName) ? -ENOTDIR : renamed;
@@ -283,9 +310,9 @@ FolderListing ListFolder(const std::filesystem::path& folder) {
   const HANDLE search = FindFirstFileW((name + LR"(\*)").c_str(), &found);
   if (search != INVALID_HANDLE_VALUE) {
     do {
-      const std::filesystem::path entry = std::begin(found.cFileName);
-      std::error_code unknown;
-      if (entry != "." && entry != "..") listing.Entries.emplace_back().assign(folder / entry, unknown);
+      const std::wstring_view entry = std::begin(found.cFileName);
+      if (entry == L"." || entry == L".." || WideText(NarrowText(entry)) != entry) continue;
+      listing.Entries.push_back({folder / entry, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
     } while (FindNextFileW(search, &found) != 0);
   }
   const DWORD error = GetLastError();
@@ -300,6 +327,35 @@ std::error_code ErrorOfPath(const std::filesystem::path& path) {
   if (HasLongName(name)) return std::make_error_code(std::errc::filename_too_long);
   if (GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES) return {};
   return {ErrorNumber(GetLastError()), std::generic_category()};
+}
+
+std::optional<std::chrono::seconds> AgeOfFile(const std::filesystem::path& path) {
+  using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+  const auto ticks = [](const FILETIME& time) {
+    return Ticks((static_cast<std::int64_t>(time.dwHighDateTime) << 32U) + time.dwLowDateTime);
+  };
+  WIN32_FILE_ATTRIBUTE_DATA about{};
+  if (GetFileAttributesExW(SystemPath(path.string()).c_str(), GetFileExInfoStandard, &about) == 0) return {};
+  if ((about.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT)) != 0) return {};
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  return std::chrono::floor<std::chrono::seconds>(ticks(now) - ticks(about.ftLastWriteTime));
+}
+
+// Also follows links to folders along the path. Where the disk does not answer, as some RAM disks do not, the path is
+// taken to be its own end.
+std::filesystem::path EndOfLinks(const std::filesystem::path& path) {
+  constexpr DWORD kLongestPath = 1U << 15U;
+  const std::wstring name = SystemPath(path.string());
+  const HANDLE file =
+      CreateFileW(name.c_str(), 0, kShared, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return path;
+  std::wstring end(kLongestPath, L'\0');
+  const DWORD size = GetFinalPathNameByHandleW(file, end.data(), kLongestPath, FILE_NAME_NORMALIZED);
+  CloseHandle(file);
+  if (size == 0 || size > kLongestPath) return path;
+  end.resize(size);
+  return end == name ? path : std::filesystem::path(end);
 }
 
 std::string ReasonOf(int systemError) {

@@ -19,6 +19,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+bool IsWine() {
+  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
 class FileOpenElsewhere : public Files {
  protected:
   void SetUp() override {
@@ -29,6 +33,13 @@ class FileOpenElsewhere : public Files {
   void OpenWith(DWORD shared) {
     handle_ = CreateFileW(File().c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(handle_, INVALID_HANDLE_VALUE);
+  }
+  // What the other reads.
+  [[nodiscard]] std::string Held() const {
+    std::string bytes(100, '\0');
+    DWORD count = 0;
+    EXPECT_NE(ReadFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr), 0);
+    return bytes.substr(0, count);
   }
   void TearDown() override {
     CloseHandle(handle_);
@@ -44,6 +55,7 @@ TEST_F(FileOpenElsewhere, IsReplacedWhateverOfThatTheOtherAllows) {
   EXPECT_FALSE(Replace(SystemFileCalls()));
   EXPECT_EQ(BytesOf(File()), kNew);
   ExpectNoScratchFiles();
+  EXPECT_EQ(Held(), IsWine() ? kNew : kOld) << "Wine 8 cannot replace an open file, so there it is written in place";
 }
 
 TEST_F(FileOpenElsewhere, IsWrittenInPlaceWhereItMayNotBeReplaced) {
@@ -76,14 +88,19 @@ TEST_F(FilesOfWindows, ThatAreReadOnlyStay) {
   ASSERT_NE(SetFileAttributesW(File().c_str(), FILE_ATTRIBUTE_NORMAL), 0);
 }
 
-// Some are names of devices, which a path in the usual form would lead to.
-TEST_F(FilesOfWindows, HaveTheirNamesHoweverLongTheirPathIs) {
-  fs::path folder = Folder();
+// Creates a folder within this one whose path is far longer than 259 characters.
+fs::path DeepFolderIn(fs::path folder) {
   for (int level = 0; level < 5; ++level) {
     folder /= PathOf(std::string(100, static_cast<char>('a' + level)) + " ä 漢");
-    ASSERT_LT(SystemFileCalls().MakeFolder(folder.string()), 1) << level;
+    EXPECT_EQ(SystemFileCalls().MakeFolder(folder.string()), 0) << level;
     EXPECT_TRUE(FolderExists(folder)) << level;
   }
+  return folder;
+}
+
+// Some are names of devices, which a path in the usual form would lead to.
+TEST_F(FilesOfWindows, HaveTheirNamesHoweverLongTheirPathIs) {
+  const fs::path folder = DeepFolderIn(Folder());
   for (const char* name : {"Größe.txt", "CON.txt", "nul.json"}) {
     ReplaceFile(folder / PathOf(name), kOld, ScratchFolder());
     EXPECT_EQ(ReadAllBytes(folder / PathOf(name)), kOld) << name;
@@ -96,6 +113,62 @@ TEST_F(FilesOfWindows, HaveTheirNamesHoweverLongTheirPathIs) {
     DeleteFile(folder / PathOf(name));
   EXPECT_THAT(FileNamesIn(folder), testing::IsEmpty());
   EXPECT_FALSE(IsThere(folder / "CON.txt"));
+}
+
+TEST_F(FilesOfWindows, AreToldFromFoldersAndByTheirAgeHoweverLongTheirPathIs) {
+  const fs::path folder = DeepFolderIn(Folder());
+  ASSERT_EQ(SystemFileCalls().MakeFolder((folder / "inner").string()), 0);
+  for (const char* name : {"range.txt", ".quillon-1-0.tmp", ".quillon-2-0.tmp"})
+    ReplaceFile(folder / name, kOld, ScratchFolder());
+  const HANDLE old = CreateFileW((LR"(\\?\)" + (folder / ".quillon-1-0.tmp").native()).c_str(), FILE_WRITE_ATTRIBUTES,
+                                 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const FILETIME longAgo = {.dwLowDateTime = 0, .dwHighDateTime = 0x01D00000};  // 2014
+  EXPECT_NE(SetFileTime(old, nullptr, nullptr, &longAgo), 0);
+  CloseHandle(old);
+  RemoveStaleScratchFiles(folder);
+  EXPECT_FALSE(IsThere(folder / ".quillon-1-0.tmp"));
+  EXPECT_TRUE(IsThere(folder / ".quillon-2-0.tmp"));
+  EXPECT_THAT(FileNamesIn(folder), testing::ElementsAre("range.txt"));
+}
+
+// Wine cannot store such a name.
+TEST_F(FilesOfWindows, WithHalfASurrogatePairInTheirNamesAreLeftOut) {
+  const std::wstring name = (Folder() / L"a").native() + wchar_t{0xD800} + L".txt";
+  const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) GTEST_SKIP() << "this file system has no such names";
+  CloseHandle(file);
+  Put(File(), kOld);
+  EXPECT_THAT(FileNamesIn(Folder()), testing::ElementsAre("Button.txt"));
+  RemoveStaleScratchFiles(Folder());
+  ::DeleteFileW(name.c_str());
+}
+
+// Wine 8 cannot create links, but follows those of its host system, whose own command creates one here.
+bool MakeLink(const fs::path& folder, const std::wstring& target, const std::wstring& link) {
+  const fs::path path = folder / link;
+  CreateSymbolicLinkW(path.c_str(), target.c_str(), SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE);
+  if (IsWine()) {
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    std::wstring line = L"ln -s " + target + L" " + link;
+    CreateProcessW(LR"(\\?\unix\bin\ln)", line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
+                   &process);
+  }
+  for (int attempt = 0; attempt < 100 && !IsThere(path); ++attempt)
+    Sleep(10);
+  return IsThere(path);
+}
+
+TEST_F(FilesOfWindows, AreReplacedWhereALinkLeads) {
+  Put(Folder() / "kept.txt", kOld);
+  if (!MakeLink(Folder(), L"kept.txt", L"Button.txt")) GTEST_SKIP() << "only some users may create links";
+  for (const auto& content : {kNew, kOld}) {  // the link outlives the first
+    ReplaceFile(File(), content, ScratchFolder());
+    EXPECT_EQ(BytesOf(File()), content);
+    EXPECT_EQ(BytesOf(Folder() / "kept.txt"), content);
+  }
+  ExpectNoScratchFiles();
 }
 
 TEST_F(FilesOfWindows, AreReachedByEveryFormOfAPath) {

@@ -17,7 +17,6 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
-constexpr int kMostLinks = 40;  // the system's own limit
 constexpr FileMode kFileMode = 0666;  // minus the user's umask
 
 constexpr std::string_view kScratchStart = ".quillon-";
@@ -52,13 +51,9 @@ std::string ScratchName(std::string_view end) {
          std::string(end);
 }
 
-bool IsStaleScratch(const std::filesystem::directory_entry& entry) {
-  std::error_code unknown;
-  const std::string name = entry.path().filename().string();
-  if (!IsScratchName(name) || !name.ends_with(kScratchEnd)) return false;
-  if (entry.is_symlink(unknown) || !entry.is_regular_file(unknown)) return false;
-  const std::filesystem::file_time_type written = entry.last_write_time(unknown);
-  return !unknown && std::filesystem::file_time_type::clock::now() - written > kStaleAge;
+bool IsStaleScratch(const std::filesystem::path& path) {
+  const std::string name = path.filename().string();
+  return IsScratchName(name) && name.ends_with(kScratchEnd) && AgeOfFile(path) > kStaleAge;
 }
 
 struct Scratch {
@@ -143,14 +138,6 @@ Rewriting Rewrite(const std::filesystem::path& target, std::string_view bytes,
   return {result, {}};
 }
 
-// The end of a chain of links, whether or not a file is there. For a cycle, one of its links.
-std::filesystem::path EndOfLinks(std::filesystem::path path) {
-  std::error_code none;
-  for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(path, none); ++link)
-    path = path.parent_path() / std::filesystem::read_symlink(path, none);
-  return path;
-}
-
 }  // namespace
 
 void FailOnFile(int systemError, const std::filesystem::path& path, std::string_view addition) {
@@ -228,8 +215,8 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes, cons
 }
 
 void RemoveStaleScratchFiles(const std::filesystem::path& folder, FileCalls& calls) {
-  for (const std::filesystem::directory_entry& entry : ListFolder(folder).Entries) {
-    if (IsStaleScratch(entry)) Uninterrupted([&] { return calls.Unlink(entry.path().string()); });
+  for (const FolderEntry& entry : ListFolder(folder).Entries) {
+    if (IsStaleScratch(entry.Path)) Uninterrupted([&] { return calls.Unlink(entry.Path.string()); });
   }
 }
 

@@ -5,6 +5,7 @@
 // folder refuses that is the file written in place. In memory text is UTF-8; on disk it is the code page of
 // "support/windows_1252.h".
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -21,15 +22,28 @@ namespace quillon {
 /// `string()` returns the same text everywhere.
 [[nodiscard]] std::filesystem::path PathOf(std::string_view text);
 
-/// A folder's entries, in no order and without "." and "..", and the error that ended the listing, if any.
+/// A folder's entries, in no order and without "." and "..", and the error that ended the listing, if any. A name
+/// with half a surrogate pair, which Windows allows and no text can hold, is left out.
+struct FolderEntry {
+  std::filesystem::path Path;
+  bool IsFolder;  // or a link to one
+};
 struct FolderListing {
-  std::vector<std::filesystem::directory_entry> Entries;
+  std::vector<FolderEntry> Entries;
   std::error_code Error;
 };
 [[nodiscard]] FolderListing ListFolder(const std::filesystem::path& folder);
 
 /// Why a path leads to nothing, or no error if something is there: a file, a folder or a link, even a dangling one.
 [[nodiscard]] std::error_code ErrorOfPath(const std::filesystem::path& path);
+
+/// The time since a file was last written, negative if the clock was set back; nothing for a folder, a link or anything
+/// else that is not a regular file, and for what cannot be examined.
+[[nodiscard]] std::optional<std::chrono::seconds> AgeOfFile(const std::filesystem::path& path);
+
+/// The end of a chain of links, whether or not a file is there; a path that is not a link is its own end. For a cycle,
+/// one of its links. On Windows a dangling link is its own end too.
+[[nodiscard]] std::filesystem::path EndOfLinks(const std::filesystem::path& path);
 
 /// The system's text for an error number, such as "No such file or directory".
 [[nodiscard]] std::string ReasonOf(int systemError);

@@ -54,11 +54,10 @@ std::vector<std::string> FileNamesIn(const std::filesystem::path& folder) {
   if (const std::error_code& error = listing.Error)
     FailOnFolder(error.default_error_condition().value(), error.message(), folder);
   std::vector<std::string> names;
-  for (const std::filesystem::directory_entry& file : listing.Entries) {
+  for (const FolderEntry& file : listing.Entries) {
     // What cannot be examined, such as a dangling link, is listed too: it reads as a missing file.
-    std::error_code unknown;
-    if (file.is_directory(unknown)) continue;
-    std::string name = TextOfFileName(file.path().filename().string());
+    if (file.IsFolder) continue;
+    std::string name = TextOfFileName(file.Path.filename().string());
     if (!IsScratchName(name)) names.push_back(std::move(name));
   }
   return names;

@@ -23,7 +23,7 @@ bool MaySave(CommandInputs& inputs, const std::string& name, bool replace, const
 }
 
 void SaveBoth(const ProgramFolder& folder, const NamedText& first, const NamedText& second) {
-  const std::filesystem::path file = RangeFilePath(folder, first.Name);
+  const std::filesystem::path file = EndOfLinks(RangeFilePath(folder, first.Name));
   const bool isNew = !IsThere(file);
   const std::optional<std::string> before = TryReadAllBytes(file, *folder.Calls);
   if (!before) FailOnFile(EACCES, file);
