@@ -20,6 +20,28 @@ HANDLE HandleOf(int file) {
   return reinterpret_cast<HANDLE>(_get_osfhandle(file));  // NOLINT: that is what the number is
 }
 
+// Makes a stream use an open file. A closed stream's number is free, so the file has it already, but a stream missing
+// from the start keeps its number.
+void UseFile(int stream, int file) {
+  if (file < 0 || file == stream) return;
+  static_cast<void>(_dup2(file, stream));
+  _close(file);
+}
+
+// The console outlives the program, so the old code page is restored for other programs, after Ctrl+C too, which skips
+// what is left for the exit.
+void ShowUtf8OnConsole() {
+  static const UINT before = GetConsoleOutputCP();
+  if (before == 0 || before == CP_UTF8 || SetConsoleOutputCP(CP_UTF8) == 0) return;
+  static_cast<void>(std::atexit([] { SetConsoleOutputCP(before); }));
+  SetConsoleCtrlHandler(
+      [](DWORD /*event*/) -> BOOL {
+        SetConsoleOutputCP(before);
+        return FALSE;  // the next handler ends the program
+      },
+      TRUE);
+}
+
 }  // namespace
 
 std::filesystem::path ExecutableFolder() {
@@ -39,11 +61,12 @@ unsigned ProcessNumber() {
   return GetCurrentProcessId();
 }
 
+// Of the thread rather than the process: on a machine with more than 64 cores, whose cores are in groups, a process in
+// several groups has no mask.
 unsigned UsableCores() {
-  DWORD_PTR mine = 0;
-  DWORD_PTR all = 0;
-  if (GetProcessAffinityMask(GetCurrentProcess(), &mine, &all) == 0) return 1;
-  return std::max(1U, static_cast<unsigned>(std::popcount(static_cast<unsigned long long>(mine))));
+  GROUP_AFFINITY mine{};
+  if (GetThreadGroupAffinity(GetCurrentThread(), &mine) == 0) return 1;
+  return std::max(1U, static_cast<unsigned>(std::popcount(mine.Mask)));
 }
 
 std::string ProcessVariable(const char* name) {
@@ -77,7 +100,7 @@ void PrepareStandardStreams() {
   constexpr std::array<std::pair<int, int>, 3> kUseless = {
       {{kInputStream, _O_WRONLY}, {kOutputStream, _O_RDONLY}, {kErrorStream, _O_RDONLY}}};
   for (const auto& [stream, direction] : kUseless) {
-    if (_get_osfhandle(stream) < 0) static_cast<void>(_open("NUL", direction | _O_NOINHERIT));
+    if (_get_osfhandle(stream) < 0) UseFile(stream, _open("NUL", direction | _O_NOINHERIT));
     _setmode(stream, _O_BINARY);
     DWORD mode = 0;
     const HANDLE console = HandleOf(stream);
@@ -88,10 +111,7 @@ void PrepareStandardStreams() {
   constexpr std::size_t kRoom = 1U << 16U;
   for (std::FILE* const stream : {stdout, stderr})
     static_cast<void>(std::setvbuf(stream, nullptr, _IOFBF, kRoom));
-  // The console outlives the program, so the old code page is restored for other programs.
-  static const UINT before = GetConsoleOutputCP();
-  if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != 0)
-    static_cast<void>(std::atexit([] { SetConsoleOutputCP(before); }));
+  ShowUtf8OnConsole();
 }
 
 }  // namespace quillon
