@@ -31,17 +31,21 @@ BOOL WINAPI NoteInterrupt(DWORD event) {
   return TRUE;
 }
 
-// Typed input as UTF-8, which a console's bytes cannot express. Ends at Ctrl+Z at the start of a line.
+// Typed input as UTF-8, which a console's bytes cannot express. Ends at Ctrl+Z at the start of a line. Ctrl+C ends a
+// read, and another thread learns of it, unless Ctrl+C is ignored: then reading goes on.
 std::ptrdiff_t ReadTyped(HANDLE console, std::span<char> buffer) {
   constexpr wchar_t kCtrlZ = 0x1A;
+  constexpr int kMostPauses = 50;
   std::wstring typed(buffer.size() / 3, L'\0');  // a UTF-16 unit becomes at most three bytes
   DWORD count = 0;
-  SetLastError(ERROR_SUCCESS);
-  if (ReadConsoleW(console, typed.data(), static_cast<DWORD>(typed.size()), &count, nullptr) == 0) return -EIO;
-  // Ctrl+C, which is reported on another thread.
-  if (count == 0 && GetLastError() == ERROR_OPERATION_ABORTED) {
-    while (watching && !came)
+  for (bool ended = true; ended;) {
+    SetLastError(ERROR_SUCCESS);
+    const bool read = ReadConsoleW(console, typed.data(), static_cast<DWORD>(typed.size()), &count, nullptr) != 0;
+    ended = count == 0 && GetLastError() == ERROR_OPERATION_ABORTED;
+    if (!read && !ended) return -EIO;
+    for (int pause = 0; ended && !came && pause < kMostPauses; ++pause)
       Sleep(kPauseMilliseconds);
+    if (came) return 0;
   }
   if (count == 0 || typed.front() == kCtrlZ) return 0;
   const std::string bytes = NarrowText({typed.data(), count});
