@@ -5,8 +5,8 @@
 #   tools/windows/qt.sh
 #
 # The version is that of the installed Qt, whose tools the build uses. The folder is in ~/.cache/quillon or
-# $XDG_CACHE_HOME/quillon, or in $QUILLON_CACHE. Its name depends on version, options and compiler; another combination
-# is another build.
+# $XDG_CACHE_HOME/quillon, or in $QUILLON_CACHE. Its name depends on version, options, compiler and toolchain
+# file; another combination is another build.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
 
@@ -24,9 +24,13 @@ for feature in concurrent dbus network opengl printsupport sql testlib xml direc
 done
 # The time that linker and strip write into each file, so that builds are reproducible.
 export SOURCE_DATE_EPOCH=0
+build_folder=qt # what Qt's binaries call the build folder, wherever that is
 
 cache=${QUILLON_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon}
-hash=$(printf '%s\n' "$compiler" "${options[@]}" "$SOURCE_DATE_EPOCH" | sha256sum | cut -c 1-12)
+hash=$({
+  printf '%s\n' "$compiler" "${options[@]}" "$SOURCE_DATE_EPOCH" "$build_folder"
+  grep -v '^#' cmake/windows.cmake
+} | sha256sum | cut -c 1-12)
 qt=$cache/qt-$version-$hash
 mkdir -p "$cache"
 exec {lock}>"$cache/lock"
@@ -66,7 +70,8 @@ quietly dpkg-source --no-check --extract "$making"/apt/qt6-base_*.dsc "$making/s
 
 quietly cmake -S "$making/src" -B "$making/build" -G Ninja "${options[@]}" \
   -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/windows.cmake" \
-  -DCMAKE_C_FLAGS="-ffile-prefix-map=$making=qt" -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$making=qt"
+  -DCMAKE_C_FLAGS="-ffile-prefix-map=$making=$build_folder" \
+  -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$making=$build_folder"
 quietly cmake --build "$making/build"
 quietly env DESTDIR="$making/made" cmake --install "$making/build" --strip
 
