@@ -16,7 +16,7 @@ case "${1:-}" in
   '') ;;
   system)
     export QUILLON_KILLS=${QUILLON_KILLS:-10}
-    programs=(support_test shell_test saving_journey_test)
+    programs=(support_test ranges_test shell_test saving_journey_test)
     targets=(--target quillon-cli "${programs[@]}")
     tests=(--tests-regex "^($(IFS='|' && echo "${programs[*]}"))$")
     ;;
