@@ -19,6 +19,7 @@
 #include "toolkit/light_look.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/placement.h"
+#include "toolkit/start_failure.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -51,7 +52,7 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
   const std::string message = incomplete
                                   ? "Quillon cannot show its window, and may have to be installed or unpacked again: "
                                   : "Quillon finds no display for its window: ";
-  std::fputs((message + reason + "\n").c_str(), stderr);
+  TellStartFailure(message + reason);
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -1,7 +1,6 @@
 // The desktop program. It takes no arguments other than Qt's, as from a session manager that restores the window, and
 // keeps everything in the program's folder ("shell/program_folder.h").
 
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -14,6 +13,7 @@
 #include "toolkit/clipboard.h"
 #include "toolkit/end_signals.h"
 #include "toolkit/message_dialogs.h"
+#include "toolkit/start_failure.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -48,7 +48,7 @@ int RunProgram(int argc, char** argv) {
   const std::unique_ptr<Application> application = StartApplication(argc, argv);
   // Qt has removed its own.
   if (argc > 1) {
-    std::fputs("Quillon takes no arguments. quillon-cli works out a situation given on the command line.\n", stderr);
+    TellStartFailure("Quillon takes no arguments. quillon-cli works out a situation given on the command line.");
     return kWrongUsage;
   }
 
