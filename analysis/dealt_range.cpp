@@ -99,12 +99,6 @@ HandList DealText(std::string_view rangeName, std::string_view card1, std::strin
   return hands;
 }
 
-HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
-                   std::string_view card2, std::string& rangeText) {
-  if (rangeText.empty()) rangeText = LoadRangeText(folder, rangeName);
-  return DealText(rangeName, card1, card2, rangeText);
-}
-
 double TotalWeight(const HandList& list) {
   DemandRecords(list, 1);
   double total = 0;

@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "hand/hand_classes.h"
-#include "ranges/range_files.h"
 #include "support/fixed_text.h"
 
 namespace quillon {
@@ -53,10 +52,6 @@ using HandList = std::vector<HandRecord>;
 /// argument" for a text without any ")". Both name the range's file.
 [[nodiscard]] HandList DealText(std::string_view rangeName, std::string_view card1, std::string_view card2,
                                 std::string_view rangeText);
-
-/// The same, but first fills an empty `rangeText` from the range's file.
-[[nodiscard]] HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
-                                 std::string_view card2, std::string& rangeText);
 
 /// The sum of the weights: 1326 for a full range with no card blocked, 1225 with two cards blocked. RunTimeError
 /// "Subscript out of range" for a list without records.

@@ -7,15 +7,14 @@
 
 #include "testing/fault_of.h"
 #include "testing/range_texts.h"
-#include "testing/temporary_program.h"
 
 namespace quillon {
 namespace {
 
 using testing::SizeIs;
 
-HandList Deal(std::string text, std::string_view card1, std::string_view card2) {
-  return DealRange(ProgramFolder{}, "", card1, card2, text);
+HandList Deal(std::string_view text, std::string_view card1, std::string_view card2) {
+  return DealText("", card1, card2, text);
 }
 
 HandList DealForClass(const std::string& text, std::string_view label) {
@@ -38,46 +37,21 @@ TEST(BuildCombos, EveryFieldOfARecordIsFilled) {
   EXPECT_EQ(BuildCombos("As", "Yy").back().WeightText, "1");
 }
 
-TEST(DealRange, AWeightThatSpellsAPairIsTakenForItsLabel) {
+TEST(DealText, AWeightThatSpellsAPairIsTakenForItsLabel) {
   // "33" is found in the weight before it, and no weight follows.
   EXPECT_EQ(FaultOf([] { return Deal(RangeWith({{"AA", 0.333}}), "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
   EXPECT_EQ(Deal(RangeWith({{"32o", 0.333}}), "Xx", "Yy").at(1302).Weight, 0.333) << "after the entry it is harmless";
 }
 
-TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
-  const TemporaryProgram ranges;
-  ranges.Save("Aces", RangeWith({{"AA", 1}}));
-  std::string text;
-  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 6);
-  EXPECT_EQ(text, RangeWith({{"AA", 1}}));
-  text = RangeWith({{"AKs", 1}});
-  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4) << "a text at hand is not read again";
-  std::string none;
-  EXPECT_THAT(DealRange(ranges.Folder(), "", "Xx", "Yy", none), SizeIs(0)) << "no range is chosen";
-  EXPECT_EQ(none, "");
+TEST(DealText, AFaultNamesTheRangesFile) {
+  EXPECT_EQ(FaultTextOf([] { return DealText("Missing", "Xx", "Yy", ""); }),
+            "Run-time error '9': Subscript out of range (the range file \"Missing.txt\" is missing or empty)");
+  EXPECT_EQ(FaultTextOf([] { return DealText("Broken", "Xx", "Yy", "AA (1"); }),
+            "Run-time error '5': Invalid procedure call or argument (the range file \"Broken.txt\" holds no weight for "
+            "AA)");
 }
 
-TEST(DealRange, AFaultNamesTheRangesFile) {
-  struct Row {
-    const char* range;
-    const char* fault;
-  };
-  const TemporaryProgram ranges;
-  ranges.Save("Broken", "AA (1");
-  for (const Row& row : {
-           Row{"Missing",
-               "Run-time error '9': Subscript out of range (the range file \"Missing.txt\" is missing or empty)"},
-           Row{"Broken",
-               "Run-time error '5': Invalid procedure call or argument (the range file \"Broken.txt\" holds no weight "
-               "for "
-               "AA)"},
-       }) {
-    std::string text;
-    EXPECT_EQ(FaultTextOf([&] { return DealRange(ranges.Folder(), row.range, "Xx", "Yy", text); }), row.fault);
-  }
-}
-
-TEST(DealRange, ATextWithoutBracketsFailsEvenIfEveryHandIsBlocked) {
+TEST(DealText, ATextWithoutBracketsFailsEvenIfEveryHandIsBlocked) {
   EXPECT_EQ(FaultOf([] { return Deal("aces and kings", "Xx", "Yy"); }), RunTimeFault::kInvalidProcedureCall);
   EXPECT_EQ(FaultOf([] { return Deal("aces and kings", "", ""); }), RunTimeFault::kInvalidProcedureCall);
 }

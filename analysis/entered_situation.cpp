@@ -29,6 +29,12 @@ Amounts AmountsOf(const EnteredSituation& entered) {
   return {.Pot = BoxValue(entered.Pot), .Call = BoxValue(entered.Call), .Shove = BoxValue(entered.Shove)};
 }
 
+HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
+                   std::string_view card2, std::string& rangeText) {
+  if (rangeText.empty()) rangeText = LoadRangeText(folder, rangeName);
+  return DealText(rangeName, card1, card2, rangeText);
+}
+
 Situation SituationOf(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder) {
   const Scenario& scenario = ScenarioOf(mode);
   const Amounts amounts = AmountsOf(entered);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "analysis/analysis.h"
+#include "analysis/dealt_range.h"
 #include "ranges/range_files.h"
 #include "support/number_text.h"
 
@@ -37,6 +38,10 @@ struct EnteredSituation {
 
 /// The values of the three amounts.
 [[nodiscard]] Amounts AmountsOf(const EnteredSituation& entered);
+
+/// DealText of a range by name: an empty `rangeText` is filled from the range's file first.
+[[nodiscard]] HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,
+                                 std::string_view card2, std::string& rangeText);
 
 /// The situation of a scenario, with range texts read from their files; the empty text for a range without a readable
 /// file. Whatever the scenario does not ask for keeps its default.

@@ -20,6 +20,19 @@ TEST(BoxValue, IsTheLeadingNumberWithoutDollarSigns) {
   }
 }
 
+TEST(DealRange, AnEmptyTextIsReadFromTheFileAndStaysWithTheCaller) {
+  const TemporaryProgram ranges;
+  ranges.Save("Aces", RangeWith({{"AA", 1}}));
+  std::string text;
+  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 6);
+  EXPECT_EQ(text, RangeWith({{"AA", 1}}));
+  text = RangeWith({{"AKs", 1}});
+  EXPECT_EQ(TotalWeight(DealRange(ranges.Folder(), "Aces", "Xx", "Yy", text)), 4) << "a text at hand is not read again";
+  std::string none;
+  EXPECT_TRUE(DealRange(ranges.Folder(), "", "Xx", "Yy", none).empty()) << "no range is chosen";
+  EXPECT_EQ(none, "");
+}
+
 TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
   const TemporaryProgram ranges;
   ranges.Save("Aces", RangeWith({{"AA", 1}}));

@@ -5,7 +5,6 @@
 #include <span>
 #include <string>
 
-#include "analysis/dealt_range.h"
 #include "support/number_text.h"
 
 namespace quillon {

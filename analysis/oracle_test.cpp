@@ -91,8 +91,7 @@ class Oracle : public testing::Test {
 };
 
 void ExpectSameDeal(const std::string& text, std::string_view card1, std::string_view card2) {
-  std::string rangeText = text;
-  const HandList hands = DealRange(ProgramFolder{}, "", card1, card2, rangeText);
+  const HandList hands = DealText("", card1, card2, text);
   const std::vector<double> weights = plain::Deal(text, card1, card2);
   ASSERT_EQ(hands.size(), weights.size());
   for (std::size_t i = 0; i < hands.size(); ++i) {

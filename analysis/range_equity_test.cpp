@@ -15,10 +15,9 @@ class EquityVsRangeTest : public testing::Test {
   void SetUp() override { LoadEquityTable(); }
 };
 
-double Equity(std::string_view hero, std::string range) {
+double Equity(std::string_view hero, const std::string& range) {
   const FixedText<5> cards = HandCards(hero);
-  return EquityVsRange(hero,
-                       DealRange(ProgramFolder{}, "", cards.View().substr(0, 2), cards.View().substr(3, 2), range));
+  return EquityVsRange(hero, DealText("", cards.View().substr(0, 2), cards.View().substr(3, 2), range));
 }
 
 TEST_F(EquityVsRangeTest, ClassesCountByTheHandsThatSurviveAndTheirWeight) {

@@ -108,7 +108,7 @@ BENCHMARK(WeightRead);
 void DealtRange(benchmark::State& timing) {
   std::string text = EveryHandAt(1);
   while (timing.KeepRunning())
-    benchmark::DoNotOptimize(DealRange({}, "Everything", "As", "Ac", text));
+    benchmark::DoNotOptimize(DealText("Everything", "As", "Ac", text));
 }
 BENCHMARK(DealtRange)->Unit(benchmark::kMicrosecond);
 

@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "ranges/range_text.h"
 #include "support/file_names.h"
 #include "support/folders.h"
 #include "support/run_time_error.h"
@@ -32,10 +33,6 @@ bool HoldsContentOf(const std::filesystem::path& oldFile, const std::filesystem:
 
 std::filesystem::path RangeFolderPath(const ProgramFolder& folder) {
   return folder.Path / "Ranges";
-}
-
-std::string RangeFileName(std::string_view name) {
-  return std::string(name).append(".txt");
 }
 
 std::filesystem::path RangeFilePath(const ProgramFolder& folder, std::string_view name) {

@@ -21,9 +21,6 @@ struct ProgramFolder {
 /// The folder of the range files: "Ranges" in the program's folder.
 [[nodiscard]] std::filesystem::path RangeFolderPath(const ProgramFolder& folder);
 
-/// The name of a range's file, for messages: "Button" -> "Button.txt".
-[[nodiscard]] std::string RangeFileName(std::string_view name);
-
 /// The file of the range `name` in the range folder (FileOfName): the name plus ".txt". The empty name gives the file
 /// ".txt". The file system decides which names are equal: if it is case-sensitive, "button" and "Button" are two
 /// ranges, and a file "Button.TXT" is neither.

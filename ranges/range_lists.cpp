@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "ranges/range_text.h"
 #include "support/folders.h"
 #include "support/letter_case.h"
 #include "support/run_time_error.h"

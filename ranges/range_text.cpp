@@ -75,6 +75,10 @@ double WeightShownOnGrid(double weight) {
 
 }  // namespace
 
+std::string RangeFileName(std::string_view name) {
+  return std::string(name).append(".txt");
+}
+
 double RangeWeightOf(std::string_view text, std::string_view label, std::string_view fileName) {
   const std::size_t found = FindText(text, label);
   if (const auto weight = WeightOfUsualEntry(text, found, label)) return *weight;

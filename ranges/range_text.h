@@ -31,6 +31,9 @@ using ClassWeights = std::array<double, kHandClassCount>;
   return weights;
 }
 
+/// The name of the file of the range `name`: "Button" -> "Button.txt".
+[[nodiscard]] std::string RangeFileName(std::string_view name);
+
 /// The weight of the class `label` in a range text: the leading number of what is between the two characters after the
 /// label's first occurrence and the next ")". Labels are case-sensitive. A text without a number there reads as 0, and
 /// a weight such as 0.25, 2 or -1 is returned as it is.
