@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "hand/equity_rows.h"
-#include "hand/hand_classes.h"
 #include "support/byte_scan.h"
 #include "support/number_text.h"
 #include "support/run_time_error.h"
@@ -38,7 +37,7 @@ void LoadEquityTable() {
   });
 }
 
-const std::array<std::string, 169>& EquityRows() {
+const std::array<std::string, kHandClassCount>& EquityRows() {
   return Rows();
 }
 

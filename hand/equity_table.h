@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "hand/hand_classes.h"
+
 namespace quillon {
 
 /// Joins the two pieces of each row and stores the 169 rows. Called once at start, before anything asks for an equity;
@@ -16,7 +18,7 @@ void LoadEquityTable();
 
 /// The 169 rows in class index order, each of 169 numbers followed by one space each; empty texts before
 /// LoadEquityTable, constant afterwards.
-[[nodiscard]] const std::array<std::string, 169>& EquityRows();
+[[nodiscard]] const std::array<std::string, kHandClassCount>& EquityRows();
 
 /// The equity, 0 to 1, of the class labelled `hand` against the class labelled `opponentHand`. The order matters: the
 /// first picks the row, the second the column. A text that is not a label counts as "AA".

@@ -44,7 +44,7 @@ static_assert(CoversEveryScenario(kWorkings));
 
 }  // namespace
 
-void AddSpecificHand(ReportBox& box, const Analysis& analysis, std::string_view hand) {
+void AddSpecificHand(ReportText& box, const Analysis& analysis, std::string_view hand) {
   constexpr std::int16_t kSize = 10;
 
   const WorkingRow* const row = FindRow(kWorkings, analysis.Mode);

@@ -16,6 +16,6 @@ namespace quillon {
 ///     Preflop Call:  EV for AA = 0.8523 * (200) - 50 = +120.46
 ///     Preflop Raise: EV for AKs = (0.4*150)+(1-0.4)*(0.55*(150+50+2*100)-(50+100)) = +98.2
 ///     Equity Only:   Equity for AA : 0.8523      (with a tab after the colon)
-void AddSpecificHand(ReportBox& box, const Analysis& analysis, std::string_view hand);
+void AddSpecificHand(ReportText& box, const Analysis& analysis, std::string_view hand);
 
 }  // namespace quillon

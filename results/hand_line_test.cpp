@@ -6,21 +6,19 @@
 #include <string_view>
 #include <vector>
 
-#include "testing/recording_report_screen.h"
 #include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 // The line for a hand with the given cells: expected value, equity, fold share.
 std::string LineFor(Analysis state, std::string_view hand, std::string_view cells) {
   state.HandInfo = sample::ResultsTable({{hand, cells}}, "7\t0.7\t0.7");
-  RecordingReportScreen screen;
-  AddSpecificHand(screen, state, hand);
-  return screen.Text;
+  ReportText report;
+  AddSpecificHand(report, state, hand);
+  return PlainText(report);
 }
 
 Analysis ShoveOf(double shove) {
@@ -70,21 +68,18 @@ TEST(HandLine, HoldsTheWorkingOfTheHand) {
   }
 }
 
-TEST(HandLine, IsBlackCourierOfTenPointsAtTheCaret) {
-  RecordingReportScreen screen;
-  screen.Text = "one\rtwo\r";
-  screen.InsertionPoint = 4;
-  AddSpecificHand(screen, sample::EquityState(), "22");
-  EXPECT_EQ(screen.Text, "one\r\r\n[COLOR=\"DimGray\"]Equity for 22 :\t 0.5[/COLOR]\rtwo\r");
-  EXPECT_THAT(screen.Calls, ElementsAre("font Courier New", "size 10", "colour 0",
-                                        "insert \r\n[COLOR=\"DimGray\"]Equity for 22 :\t 0.5[/COLOR]\r"));
+TEST(HandLine, IsBlackCourierOfTenPoints) {
+  ReportText report = {"one\r"};
+  AddSpecificHand(report, sample::EquityState(), "22");
+  EXPECT_EQ(report, (ReportText{"one\r", ReportFont{"Courier New", 10, 0},
+                                "\r\n[COLOR=\"DimGray\"]Equity for 22 :\t 0.5[/COLOR]\r"}));
 }
 
 TEST(HandLine, IsNotAddedForNoneNorBeforeAnyAnalysis) {
   for (const Analysis& state : {Analysis{}, sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
-    RecordingReportScreen screen;
-    AddSpecificHand(screen, state, state.Mode == AnalysisMode::kNone ? "AA" : "None");
-    EXPECT_THAT(screen.Calls, IsEmpty());
+    ReportText report;
+    AddSpecificHand(report, state, state.Mode == AnalysisMode::kNone ? "AA" : "None");
+    EXPECT_THAT(report, IsEmpty());
   }
 }
 

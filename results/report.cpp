@@ -24,7 +24,7 @@ constexpr std::int16_t kBodySize = 10;
 // Writes the plain form. A heading and the first line under it set their fonts; later lines keep the current one.
 class PlainReport {
  public:
-  explicit PlainReport(ReportBox& box) : box_(box) {}
+  explicit PlainReport(ReportText& box) : box_(box) {}
 
   void Heading(std::string text) {
     SetReportFont(box_, kHeadingFontCode, kHeadingSize, kBlack);
@@ -38,7 +38,7 @@ class PlainReport {
   void BlankLine() { Line("\r\n"); }
 
  private:
-  ReportBox& box_;
+  ReportText& box_;
 };
 
 std::string HandAndCombos(const HandResult& hand) {
@@ -69,7 +69,7 @@ void WriteRows(PlainReport& report, const Analysis& analysis, RowText rowText) {
     report.Line(rowText(analysis, GetHandResult(analysis.HandInfo, HandLabel(index))));
 }
 
-void WritePlainCall(ReportBox& box, const Analysis& analysis) {
+void WritePlainCall(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
   const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
 
@@ -96,7 +96,7 @@ void WriteDroppedHands(PlainReport& report, const Analysis& analysis) {
   report.BlankLine();
 }
 
-void WritePlainRaise(ReportBox& box, const Analysis& analysis) {
+void WritePlainRaise(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
   report.Heading("Situation");
   report.Body("Type: Preflop Raise ALL IN");
@@ -115,7 +115,7 @@ void WritePlainRaise(ReportBox& box, const Analysis& analysis) {
   WriteRows(report, analysis, RaiseRow);
 }
 
-void WritePlainEquity(ReportBox& box, const Analysis& analysis) {
+void WritePlainEquity(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
   report.Heading("Range");
   report.Body("Current Range: " + analysis.RangeName);
@@ -125,7 +125,7 @@ void WritePlainEquity(ReportBox& box, const Analysis& analysis) {
   WriteRows(report, analysis, EquityRow);
 }
 
-void WriteForumLine(ReportBox& box, std::string text) {
+void WriteForumLine(ReportText& box, std::string text) {
   AppendReportLine(box, text, kNoPadding);
 }
 
@@ -154,16 +154,16 @@ std::string EquityBlockText(const Analysis& analysis) {
   return block;
 }
 
-void WriteForumTitle(ReportBox& box, const std::string& title) {
+void WriteForumTitle(ReportText& box, const std::string& title) {
   WriteForumLine(box, "[URL=\"" + HomeAddress() + "\"]Quillon[/URL] - " + title + ":\r\n");
 }
 
-void WriteForumProfitableHands(ReportBox& box, const Analysis& analysis) {
+void WriteForumProfitableHands(ReportText& box, const Analysis& analysis) {
   WriteForumLine(box, "[b][COLOR=\"DarkGreen\"]Profitable Hands:[/COLOR][/b]");
   WriteForumLine(box, ProfitableHandsText(analysis));
 }
 
-void WriteForumCall(ReportBox& box, const Analysis& analysis) {
+void WriteForumCall(ReportText& box, const Analysis& analysis) {
   const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
 
   WriteForumTitle(box, "Hand Analysis");
@@ -176,7 +176,7 @@ void WriteForumCall(ReportBox& box, const Analysis& analysis) {
   WriteForumProfitableHands(box, analysis);
 }
 
-void WriteForumRaise(ReportBox& box, const Analysis& analysis) {
+void WriteForumRaise(ReportText& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
   WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount) +
@@ -186,7 +186,7 @@ void WriteForumRaise(ReportBox& box, const Analysis& analysis) {
   WriteForumProfitableHands(box, analysis);
 }
 
-void WriteForumEquity(ReportBox& box, const Analysis& analysis) {
+void WriteForumEquity(ReportText& box, const Analysis& analysis) {
   WriteForumTitle(box, "Equity Analysis");
   WriteForumLine(box, "Villain Range: " + RangeSummary(analysis.RangeText));
   WriteForumLine(box, "[COLOR=\"BLUE\"]");
@@ -196,8 +196,8 @@ void WriteForumEquity(ReportBox& box, const Analysis& analysis) {
 
 struct ReportRow {
   AnalysisMode Mode = AnalysisMode::kNone;
-  void (*Plain)(ReportBox& box, const Analysis& analysis) = nullptr;
-  void (*Forum)(ReportBox& box, const Analysis& analysis) = nullptr;
+  void (*Plain)(ReportText& box, const Analysis& analysis) = nullptr;
+  void (*Forum)(ReportText& box, const Analysis& analysis) = nullptr;
 };
 
 constexpr ScenarioTable<ReportRow> kReports = {{
@@ -209,14 +209,11 @@ static_assert(CoversEveryScenario(kReports));
 
 }  // namespace
 
-void BuildReport(ReportScreen& screen, const Analysis& analysis) {
-  screen.SetText("");
-  const ReportForm form = screen.SelectedForm();
-  screen.SetSpecificHandVisible(form == ReportForm::kForum);
-  const ReportRow* const row = FindRow(kReports, analysis.Mode);
-  if (row == nullptr) return;
-  const auto write = form == ReportForm::kPlainText ? row->Plain : row->Forum;
-  write(screen, analysis);
+ReportText BuildReport(const Analysis& analysis, ReportForm form) {
+  ReportText report;
+  if (const ReportRow* const row = FindRow(kReports, analysis.Mode))
+    (form == ReportForm::kPlainText ? row->Plain : row->Forum)(report, analysis);
+  return report;
 }
 
 }  // namespace quillon

@@ -18,20 +18,10 @@ enum class ReportForm { kPlainText, kForum };
 /// The entries of the list of forms, in the order of ReportForm.
 inline constexpr std::array<std::string_view, 2> kReportFormTexts = {"Plain Text", "2+2"};
 
-/// The report's view of its screen.
-class ReportScreen : public ReportBox {
- public:
-  /// The form selected in cmboOutputType.
-  [[nodiscard]] virtual ReportForm SelectedForm() const = 0;
-  /// Shows or hides the list cmbo169 and its label lblSpecificHand together.
-  virtual void SetSpecificHandVisible(bool visible) = 0;
-};
-
-/// Clears the box and, unless there has been no analysis, writes the report in the selected form. The list of single
-/// hands is shown with the forum form only.
+/// The report for an emptied box; nothing if there has been no analysis.
 ///
 /// A Preflop Call needs a call amount other than 0: its pot odds fail as Divide does, and so does its break-even point
 /// if pot and call sum to 0.
-void BuildReport(ReportScreen& screen, const Analysis& analysis);
+[[nodiscard]] ReportText BuildReport(const Analysis& analysis, ReportForm form);
 
 }  // namespace quillon

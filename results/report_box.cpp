@@ -20,20 +20,27 @@ std::string Blanks(std::int64_t count) {
 
 }  // namespace
 
-void SetReportFont(ReportBox& box, std::int32_t fontCode, std::int16_t size, std::int32_t color) {
-  constexpr std::array<std::string_view, 3> kFontNames = {"Arial", "Verdana", "Courier New"};
-  if (fontCode >= 1 && fontCode <= 3) box.SetFontName(kFontNames[static_cast<std::size_t>(fontCode - 1)]);
-  box.SetFontSize(size);
-  box.SetFontColor(color);
+std::string PlainText(const ReportText& report) {
+  std::string all;
+  for (const auto& piece : report) {
+    if (const auto* const text = std::get_if<std::string>(&piece)) all += *text;
+  }
+  return all;
 }
 
-void AppendReportLine(ReportBox& box, std::string& text, std::int16_t padWidth) {
+void SetReportFont(ReportText& box, std::int32_t fontCode, std::int16_t size, std::int32_t color) {
+  constexpr std::array<std::string_view, 3> kFontNames = {"Arial", "Verdana", "Courier New"};
+  const bool hasName = fontCode >= 1 && fontCode <= 3;
+  box.emplace_back(ReportFont{hasName ? kFontNames[static_cast<std::size_t>(fontCode - 1)] : "", size, color});
+}
+
+void AppendReportLine(ReportText& box, std::string& text, std::int16_t padWidth) {
   const std::size_t colon = text.find(':');
   if (padWidth != kNoPadding && colon != std::string::npos) {
     const std::int64_t leftLength = CharacterCount(std::string_view(text).substr(0, colon + 1));
     text.insert(colon + 1, Blanks(padWidth - leftLength) + "\t");
   }
-  box.InsertText(text + "\r");
+  box.emplace_back(text + "\r");
 }
 
 std::string MoneyColumn(double value, std::int16_t width) {

@@ -1,28 +1,31 @@
 #pragma once
 
-// Writing into the report's text box, one line and one font at a time. The box is a rich text box with an insertion
-// point: fonts set there apply to what is inserted next, and inserting moves it after the new text. Line ends within
-// the box are single carriage returns; CR LF within a line makes empty lines.
+// What is written into the report's text box, one line and one font at a time. The box is a rich text box with an
+// insertion point: fonts set there apply to what is inserted next, and inserting moves it after the new text. Line ends
+// within the box are single carriage returns; CR LF within a line makes empty lines.
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 namespace quillon {
 
-/// The report's view of its box.
-class ReportBox {
- public:
-  virtual ~ReportBox() = default;
+/// The font of the insertion point.
+struct ReportFont {
+  std::string_view Name;  // if empty, the name stays as it is
+  std::int16_t Size = 0;  // in points
+  std::int32_t Color = 0;  // red + 256 * green + 65536 * blue
 
-  virtual void SetText(std::string_view text) = 0;
-  /// The font of the insertion point: its name, its size in points, its colour as red + 256 * green + 65536 * blue.
-  virtual void SetFontName(std::string_view name) = 0;
-  virtual void SetFontSize(std::int16_t size) = 0;
-  virtual void SetFontColor(std::int32_t color) = 0;
-  /// Inserts at the insertion point, which moves to the end of the text.
-  virtual void InsertText(std::string_view text) = 0;
+  bool operator==(const ReportFont&) const = default;
 };
+
+/// What goes into the box, in order: texts for the insertion point, and its fonts.
+using ReportText = std::vector<std::variant<ReportFont, std::string>>;
+
+/// The texts alone.
+[[nodiscard]] std::string PlainText(const ReportText& report);
 
 inline constexpr std::int32_t kHeadingFontCode = 1;  // "Arial"
 inline constexpr std::int32_t kFixedWidthFontCode = 3;  // "Courier New"
@@ -33,9 +36,9 @@ inline constexpr std::int16_t kNoPadding = -1;
 /// The pad width of lines that start with a name and a colon, so that what follows the names is aligned.
 inline constexpr std::int16_t kNameColumn = 20;
 
-/// Sets the font of the insertion point: name, then size, then colour. The codes are 1 "Arial", 2 "Verdana" and 3
+/// Sets the font of the insertion point. The codes are 1 "Arial", 2 "Verdana" and 3
 /// "Courier New"; any other code keeps the name.
-void SetReportFont(ReportBox& box, std::int32_t fontCode, std::int16_t size, std::int32_t color);
+void SetReportFont(ReportText& box, std::int32_t fontCode, std::int16_t size, std::int32_t color);
 
 /// Inserts one line and a carriage return. Unless `padWidth` is kNoPadding, a text with a colon is first split after
 /// its first colon, the left part padded with spaces to `padWidth` characters (not bytes), and a tab put between the
@@ -43,7 +46,7 @@ void SetReportFont(ReportBox& box, std::int32_t fontCode, std::int16_t size, std
 ///
 ///     ("Total Pot Size: 150", 20) -> "Total Pot Size:     \t 150"      ("BEP:", 2) -> "BEP:\t"
 ///     ("Situation", 20) -> "Situation"                                 ("a: b", -1) -> "a: b"
-void AppendReportLine(ReportBox& box, std::string& text, std::int16_t padWidth);
+void AppendReportLine(ReportText& box, std::string& text, std::int16_t padWidth);
 
 /// An amount with two decimals, rounded half away from zero, without a leading 0 before the point, right-aligned to
 /// `width`, so that a column lines up at the points. A longer amount is not cut. A loss too small to show keeps its

@@ -1,33 +1,24 @@
 #include "results/report_box.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
 #include <vector>
 
 #include "testing/fault_of.h"
-#include "testing/recording_report_screen.h"
 
 namespace quillon {
 namespace {
 
-using ::testing::ElementsAre;
-
-TEST(SetReportFont, SetsNameThenSizeThenColour) {
+TEST(SetReportFont, SetsNameSizeAndColour) {
   struct Case {
     std::int32_t code;
     const char* name;
   };
-  for (const Case& c : {Case{1, "font Arial"}, Case{2, "font Verdana"}, Case{3, "font Courier New"}}) {
-    RecordingReportScreen screen;
-    SetReportFont(screen, c.code, 14, 255);
-    EXPECT_THAT(screen.Calls, ElementsAre(c.name, "size 14", "colour 255"));
-  }
-  for (const std::int32_t code : {0, 4}) {
-    RecordingReportScreen screen;
-    SetReportFont(screen, code, 10, 0);
-    EXPECT_THAT(screen.Calls, ElementsAre("size 10", "colour 0")) << code;
+  for (const Case& c : {Case{1, "Arial"}, Case{2, "Verdana"}, Case{3, "Courier New"}, Case{0, ""}, Case{4, ""}}) {
+    ReportText report;
+    SetReportFont(report, c.code, 14, 255);
+    EXPECT_EQ(report, ReportText({ReportFont{c.name, 14, 255}})) << c.code;
   }
 }
 
@@ -52,10 +43,10 @@ TEST(AppendReportLine, PadsTheTextUpToItsFirstColon) {
       {"characters of three and four bytes too", "€𝄞: 5", 5, "€𝄞:  \t 5"},
   };
   for (const Case& c : cases) {
-    RecordingReportScreen screen;
+    ReportText report;
     std::string text = c.text;
-    AppendReportLine(screen, text, c.padWidth);
-    EXPECT_EQ(screen.Text, c.written + "\r") << c.rule;
+    AppendReportLine(report, text, c.padWidth);
+    EXPECT_EQ(report, ReportText({c.written + "\r"})) << c.rule;
     EXPECT_EQ(text, c.written) << c.rule << ": the caller's text changes as well";
   }
 }

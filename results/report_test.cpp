@@ -11,21 +11,16 @@
 #include "results/hand_line.h"
 #include "results/web_addresses.h"
 #include "support/run_time_error.h"
-#include "testing/recording_report_screen.h"
 #include "testing/sample_analysis.h"
 
 namespace quillon {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
-std::string Report(Analysis state, ReportForm form) {
-  RecordingReportScreen screen;
-  screen.Form = form;
-  BuildReport(screen, state);
-  return screen.Text;
+std::string Report(const Analysis& state, ReportForm form) {
+  return PlainText(BuildReport(state, form));
 }
 
 std::string_view Combos(std::string_view hand) {
@@ -169,39 +164,29 @@ TEST(Report, HeadingsOfThePlainFormAreLargerThanTheRest) {
   for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
     for (Analysis state : {sample::CallState(), sample::RaiseState(), sample::EquityState()}) {
       state.DroppedHands = "QQ, JJ";
-      RecordingReportScreen screen;
-      screen.Form = form;
-      BuildReport(screen, state);
-      EXPECT_EQ(screen.SpecificHandVisible, form == ReportForm::kForum);
-      std::string font;
-      for (const std::string& call : screen.Calls) {
-        if (call.starts_with("font ")) font = call;
-        if (call.starts_with("size ") || call.starts_with("colour ")) font += ", " + call;
-        if (!call.starts_with("insert ")) continue;
+      ReportFont font;
+      std::size_t fonts = 0;
+      for (const auto& piece : BuildReport(state, form)) {
+        if (const auto* const set = std::get_if<ReportFont>(&piece)) {
+          font = *set;
+          ++fonts;
+          continue;
+        }
+        const std::string& text = std::get<std::string>(piece);
         const bool isHeading = std::ranges::any_of(kHeadings, [&](const std::string_view heading) {
-          return call.find('\t') == std::string::npos && call.ends_with(std::string(heading) + "\r");
+          return text.find('\t') == std::string::npos && text.ends_with(std::string(heading) + "\r");
         });
-        const char* const ofPlain = isHeading ? "font Arial, size 14, colour 0" : "font Courier New, size 10, colour 0";
-        EXPECT_EQ(font, form == ReportForm::kForum ? "" : ofPlain) << call;
+        const ReportFont ofPlain = isHeading ? ReportFont{"Arial", 14, 0} : ReportFont{"Courier New", 10, 0};
+        EXPECT_EQ(font, form == ReportForm::kForum ? ReportFont{} : ofPlain) << text;
       }
-      const std::ptrdiff_t hands = form == ReportForm::kForum ? 0 : kHandClassCount;
-      EXPECT_TRUE(std::all_of(screen.Calls.end() - hands, screen.Calls.end(), [](const std::string& call) {
-        return call.starts_with("insert ");
-      })) << "no font is set for each row";
+      EXPECT_LT(fonts, 10U) << "no font is set for each row";
     }
   }
 }
 
-TEST(Report, BeforeAnyAnalysisItOnlyEmptiesTheBox) {
-  Analysis state;
-  RecordingReportScreen screen;
-  BuildReport(screen, state);
-  EXPECT_THAT(screen.Calls, ElementsAre("text ", "hands hidden"));
-
-  screen.Calls.clear();
-  screen.Form = ReportForm::kForum;
-  BuildReport(screen, state);
-  EXPECT_THAT(screen.Calls, ElementsAre("text ", "hands shown"));
+TEST(Report, HasNothingBeforeAnyAnalysis) {
+  for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum})
+    EXPECT_TRUE(BuildReport({}, form).empty());
 }
 
 TEST(Report, OnlyThePlainFormOfAShoveTellsTheDroppedHands) {

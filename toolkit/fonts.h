@@ -26,6 +26,8 @@ inline constexpr FontSpec kDialogFont = {.Family = "Arial", .Points = 9};
 /// The font of a row, or `inherited` if it has none: 8.25 points are 11 pixels, 20.25 points are 27, at a scale of 1.
 [[nodiscard]] QFont FormFont(const FontSpec& font, const FontSpec& inherited);
 
+inline constexpr double kPointsPerPixel = 72.0 / 96;
+
 /// Points at 96 dots to the inch as design pixels, rounded.
 [[nodiscard]] int FontPixels(float points);
 

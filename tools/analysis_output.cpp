@@ -17,32 +17,11 @@
 namespace quillon {
 namespace {
 
-// A report screen that keeps only the text; a terminal has no fonts.
-class TextScreen final : public ReportScreen {
- public:
-  explicit TextScreen(ReportForm form) : form_(form) {}
-
-  [[nodiscard]] const std::string& Text() const { return text_; }
-
-  [[nodiscard]] ReportForm SelectedForm() const override { return form_; }
-  void SetSpecificHandVisible(bool /*visible*/) override {}
-  void SetText(std::string_view text) override { text_ = text; }
-  void SetFontName(std::string_view /*name*/) override {}
-  void SetFontSize(std::int16_t /*size*/) override {}
-  void SetFontColor(std::int32_t /*color*/) override {}
-  void InsertText(std::string_view text) override { text_ += text; }
-
- private:
-  ReportForm form_;
-  std::string text_;
-};
-
 std::string ReportOutput(ReportForm form, const Analysis& analysis, std::span<const std::string> hands) {
-  TextScreen screen(form);
-  BuildReport(screen, analysis);
+  ReportText report = BuildReport(analysis, form);
   for (const std::string& hand : hands)
-    AddSpecificHand(screen, analysis, hand);
-  return UnixLineEnds(screen.Text());
+    AddSpecificHand(report, analysis, hand);
+  return UnixLineEnds(PlainText(report));
 }
 
 // Black on light cells, white on dark ones. Source of the weights: ITU-R BT.601, luma.
@@ -84,7 +63,7 @@ std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::s
   return {};
 }
 
-std::string TerminalGrid(const std::array<Rgb, 169>& colors) {
+std::string TerminalGrid(const CellColors& colors) {
   std::string text;
   for (std::size_t i = 0; i < colors.size(); ++i) {
     const std::string_view label = HandLabel(static_cast<std::int16_t>(i));

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "analysis/analysis.h"
-#include "support/rgb.h"
+#include "ranges/card_grid.h"
 #include "tools/formats.h"
 
 namespace quillon {
@@ -46,6 +46,6 @@ inline constexpr std::array<OutputFormatRow, 7> kAnalysisFormats = {{
 
 /// The 13 by 13 grid in its colours, for a terminal with 24-bit colour sequences: one line for each row, with class
 /// labels in black or white, whichever reads better.
-[[nodiscard]] std::string TerminalGrid(const std::array<Rgb, 169>& colors);
+[[nodiscard]] std::string TerminalGrid(const CellColors& colors);
 
 }  // namespace quillon

@@ -22,9 +22,9 @@
 #include "hand/hand_classes.h"
 #include "ranges/range_summary.h"
 #include "results/hand_line.h"
+#include "results/report.h"
 #include "results/results_grid.h"
 #include "testing/range_texts.h"
-#include "testing/recording_report_screen.h"
 #include "testing/split_text.h"
 #include "testing/temporary_program.h"
 
@@ -114,12 +114,10 @@ class EachScenario : public testing::Test {
 };
 
 std::string BoxText(ReportForm form, const Analysis& state, const std::vector<std::string>& hands) {
-  RecordingReportScreen screen;
-  screen.Form = form;
-  BuildReport(screen, state);
+  ReportText report = BuildReport(state, form);
   for (const std::string& hand : hands)
-    AddSpecificHand(screen, state, hand);
-  return screen.Text;
+    AddSpecificHand(report, state, hand);
+  return PlainText(report);
 }
 
 // ---- names of the formats

@@ -37,41 +37,50 @@ void SetColumns(const RichTextBox& box) {
 }  // namespace
 
 void ReportView::Build(const Analysis& analysis) {
-  BuildReport(*this, analysis);
+  const auto& forms = controls_.Get<QComboBox>("cmboOutputType");
+  const ReportForm form = forms.currentIndex() == 1 ? ReportForm::kForum : ReportForm::kPlainText;
+  Empty(form);
+  controls_.LabelAt("lblSpecificHand").setVisible(form == ReportForm::kForum);
+  controls_.Get<QComboBox>("cmbo169").setVisible(form == ReportForm::kForum);
+  Insert(BuildReport(analysis, form));
   Box().document()->clearUndoRedoStacks();
 }
 
 void ReportView::AddHand(const Analysis& analysis, std::string_view hand) {
   QTextCursor whole(Box().document());
   whole.beginEditBlock();
-  AddSpecificHand(*this, analysis, hand);
+  ReportText line;
+  AddSpecificHand(line, analysis, hand);
+  Insert(line);
   whole.endEditBlock();
   Box().ensureCursorVisible();
 }
 
-void ReportView::SetText(std::string_view text) {
+void ReportView::Empty(ReportForm form) {
   RichTextBox& box = Box();
   font_ = QTextCharFormat();
   font_.setFont(box.font());
-  box.setPlainText(ToQt(text));
+  box.setPlainText({});
 
   // A table must not wrap; marked-up prose may.
-  box.setLineWrapMode(SelectedForm() == ReportForm::kPlainText ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
+  box.setLineWrapMode(form == ReportForm::kPlainText ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
   SetColumns(box);
 }
 
-void ReportView::SetFontName(std::string_view name) {
-  font_.setFontFamilies(FontFamilies(name));
+void ReportView::Insert(const ReportText& report) {
+  for (const auto& piece : report) {
+    if (const auto* const font = std::get_if<ReportFont>(&piece))
+      SetFont(*font);
+    else
+      InsertText(std::get<std::string>(piece));
+  }
 }
 
-void ReportView::SetFontSize(std::int16_t size) {
-  constexpr double kPointsPerPixel = 72.0 / 96;
+void ReportView::SetFont(const ReportFont& font) {
+  if (!font.Name.empty()) font_.setFontFamilies(FontFamilies(font.Name));
   font_.clearProperty(QTextFormat::FontPixelSize);
-  font_.setFontPointSize(FontPixels(static_cast<float>(size)) * kPointsPerPixel);
-}
-
-void ReportView::SetFontColor(std::int32_t color) {
-  font_.setForeground(QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF));
+  font_.setFontPointSize(FontPixels(static_cast<float>(font.Size)) * kPointsPerPixel);
+  font_.setForeground(QColor(font.Color & 0xFF, (font.Color >> 8) & 0xFF, (font.Color >> 16) & 0xFF));
 }
 
 void ReportView::InsertText(std::string_view text) {
@@ -83,15 +92,6 @@ void ReportView::InsertText(std::string_view text) {
   }
   // The box's own caret moves along, but the view does not scroll: a report is read from its start.
   caret.insertText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), font_);
-}
-
-ReportForm ReportView::SelectedForm() const {
-  return controls_.Get<QComboBox>("cmboOutputType").currentIndex() == 1 ? ReportForm::kForum : ReportForm::kPlainText;
-}
-
-void ReportView::SetSpecificHandVisible(bool visible) {
-  controls_.LabelAt("lblSpecificHand").setVisible(visible);
-  controls_.Get<QComboBox>("cmbo169").setVisible(visible);
 }
 
 }  // namespace quillon

@@ -10,25 +10,22 @@
 
 namespace quillon {
 
-class ReportView : public ReportScreen {
+class ReportView {
  public:
   explicit ReportView(MainControls& controls) : controls_(controls) {}
 
-  /// Rewrites the report and clears the undo history.
+  /// Rewrites the report in the selected form and clears the undo history. The list of single hands is shown with the
+  /// forum form only.
   void Build(const Analysis& analysis);
 
   /// Appends the calculation for a hand as one undo step.
   void AddHand(const Analysis& analysis, std::string_view hand);
 
-  void SetText(std::string_view text) override;
-  void SetFontName(std::string_view name) override;
-  void SetFontSize(std::int16_t size) override;
-  void SetFontColor(std::int32_t color) override;
-  void InsertText(std::string_view text) override;
-  [[nodiscard]] ReportForm SelectedForm() const override;
-  void SetSpecificHandVisible(bool visible) override;
-
  private:
+  void Empty(ReportForm form);
+  void Insert(const ReportText& report);
+  void SetFont(const ReportFont& font);
+  void InsertText(std::string_view text);
   [[nodiscard]] RichTextBox& Box() const { return controls_.Get<RichTextBox>("rtfSummary"); }
 
   MainControls& controls_;

@@ -39,7 +39,6 @@ QColor ColorOf(std::string_view color) {
 }
 
 QFont FontOf(const FigureFont& font) {
-  constexpr double kPointsPerPixel = 72.0 / 96;
   const double size = font.Size > 0 ? font.Size : kFigureTextSize;
   return FormFont({.Family = "Arial", .Points = static_cast<float>(size * kPointsPerPixel), .Bold = font.Bold}, {});
 }
