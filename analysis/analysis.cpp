@@ -8,8 +8,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::int16_t kLastClass = kHandClassCount - 1;
-
 // Whether every class is done.
 template <class Ranges>
 bool Walk(Analysis& analysis, const Ranges& ranges, const AnalysisListener& listener) {

@@ -14,9 +14,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kProgressScreen = "Progress";
-constexpr std::int16_t kLastHandClass = kHandClassCount - 1;
-
 std::string BoxTextIn(std::int16_t box, const AnalysisWindow& window) {
   return box == kNoControl ? std::string() : window.BoxText(box);
 }
@@ -66,7 +63,7 @@ AnalysisListener ListenerOf(AnalysisState& state, const InputScreen& screen, Ana
           .AmountsNow = [&] { return AmountsOf(EnteredOn(screen, window)); },
           .GoesOn =
               [&state, &window, run](std::int16_t index, const Analysis& soFar) {
-                const bool dropped = index == kLastHandClass && ScenarioOf(soFar.Mode).HasCallingRange;
+                const bool dropped = index == kLastClass && ScenarioOf(soFar.Mode).HasCallingRange;
                 if (dropped && run == state.RunsBegun) state.DroppedHands = soFar.DroppedHands;
                 ShowProgress(static_cast<std::int16_t>(index + 1), window);
                 if (!state.Running) return false;

@@ -25,6 +25,9 @@ inline constexpr std::string_view kWaitCaption = "Please wait...";
 /// Its caption at all other times.
 inline constexpr std::string_view kNoResultsCaption = "There are no results to display at this time.";
 
+/// The screen that shows during a run.
+inline constexpr std::string_view kProgressScreen = "Progress";
+
 /// The width of the full progress bar, in twips.
 inline constexpr double kProgressBarWidth = 7815;
 

@@ -14,6 +14,9 @@ namespace quillon {
 /// The result of EvalExpression for a text that is not a sum.
 inline constexpr std::string_view kExpressionErrorText = "Only addition (+) and subtract (-) are supported";
 
+/// What is said of a sum for which EvalExpression fails.
+inline constexpr std::string_view kSumTooLarge = "the sum is beyond all numbers";
+
 /// The digits and points at the start of a text, unchanged: "12+3" gives "12", "1.5.2" all of it, "-5" nothing.
 [[nodiscard]] std::string GetNumber(std::string_view text);
 

@@ -9,8 +9,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::int16_t kLastClass = kHandClassCount - 1;
-
 // A class, represented by its sample hand.
 struct Hero {
   explicit Hero(std::int16_t index) : Label(HandLabel(index)), Cards(HandCards(Label)) {}

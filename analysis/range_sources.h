@@ -17,6 +17,9 @@
 
 namespace quillon {
 
+/// The class around whose cards dropped hands are listed.
+inline constexpr std::int16_t kLastClass = kHandClassCount - 1;
+
 /// The figures of a class that do not depend on the amounts.
 struct ClassFigures {
   double Equity = 0;  // 0 to 1; -1 if the opponent never calls

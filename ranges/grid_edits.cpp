@@ -8,8 +8,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
-
 Rgb SelectedColor(bool half) {
   return half ? kHalfColor : kFullColor;
 }
@@ -59,8 +57,8 @@ std::variant<CellColors, NotationError> CellsOfNotation(std::string_view notatio
 }
 
 std::optional<CellColors> BestCells(std::string_view share, bool half, const HandOrder& bestFirst) {
-  std::string_view number = Trimmed(share, kBlanks);
-  if (number.ends_with('%')) number = Trimmed(number.substr(0, number.size() - 1), kBlanks);
+  std::string_view number = Trimmed(share, kSpaceAndTab);
+  if (number.ends_with('%')) number = Trimmed(number.substr(0, number.size() - 1), kSpaceAndTab);
   if (number.find_first_not_of("0123456789.") != std::string_view::npos) return {};
   const NotationReading reading = ReadRangeNotation(Joined({"top ", number, "%", half ? ":0.5" : ""}), bestFirst);
   const auto* const weights = std::get_if<ClassWeights>(&reading);

@@ -10,8 +10,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kErrorTitle = "Error";
-
 constexpr std::string_view kForbiddenCharacters = R"(/\:*?"<>|)";
 // Intentional: the message lists nine characters although "|", the last of them, is accepted.
 constexpr std::string_view kRefusedCharacters = kForbiddenCharacters.substr(0, 8);

@@ -16,6 +16,9 @@ namespace quillon {
 /// is a range like any other.
 inline constexpr std::string_view kScratchRangeName = "Temp Range1";
 
+/// The title of a complaint about what the user saves.
+inline constexpr std::string_view kErrorTitle = "Error";
+
 /// Whether a new range may have this name. If not, the first rule that it breaks is shown in one message box: it must
 /// not be empty; it must not contain any of the eight characters / \ : * ? " < > (the message names "|" as a ninth,
 /// which is accepted); no range of that name may exist, unless it is the scratch range; its file name must not be

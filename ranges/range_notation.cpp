@@ -18,7 +18,6 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kSeparators = ",; \t\r\n";
 
 constexpr std::string_view kHalfAHand = "a hand is two cards, such as AKs, AK or 88";
@@ -129,7 +128,7 @@ class NotationReader {
   // After hands and spaces, without another separator between them.
   [[nodiscard]] bool SpacedDashIsNext() const {
     return !named_.empty() && Rest().starts_with('-') &&
-           kSeparators.find(text_[text_.find_last_not_of(kBlanks, place_ - 1)]) == std::string_view::npos;
+           kSeparators.find(text_[text_.find_last_not_of(kSpaceAndTab, place_ - 1)]) == std::string_view::npos;
   }
 
   void ReadItem() {
@@ -156,7 +155,7 @@ class NotationReader {
     }
     if (TakeWord("none") || TakeWord("[none]")) return true;
     if (TakeWord("top")) {
-      Skip(kBlanks);
+      Skip(kSpaceAndTab);
       return ShareIsNext() ? ReadShare() : Fail("after top comes a share, such as 15%");
     }
     return ShareIsNext() ? ReadShare() : ReadHands();
@@ -207,7 +206,7 @@ class NotationReader {
       Name(*first);
       return true;
     }
-    if (!Rest().empty() && kBlanks.find(Rest().front()) != std::string_view::npos) return Fail(kSpacedRun);
+    if (!Rest().empty() && kSpaceAndTab.find(Rest().front()) != std::string_view::npos) return Fail(kSpacedRun);
     const std::optional<WrittenHand> second = TakeHand();
     return second && NameRun(*first, *second);
   }
@@ -270,7 +269,7 @@ class NotationReader {
       return WeightOf(written);
     }
     const std::size_t itemEnd = place_;
-    Skip(kBlanks);
+    Skip(kSpaceAndTab);
     if (TakeWord("(")) return TakeWeightInBrackets();
     place_ = itemEnd;
     return usualWeight_;
@@ -280,7 +279,7 @@ class NotationReader {
   std::optional<double> TakeWeightInBrackets() {
     std::string inside(Rest().substr(0, Rest().find(')')));
     place_ += inside.size();
-    std::erase_if(inside, [](char c) { return kBlanks.find(c) != std::string_view::npos; });
+    std::erase_if(inside, [](char c) { return kSpaceAndTab.find(c) != std::string_view::npos; });
     const std::string_view written = WeightAtFront(inside);
     const std::optional<double> weight = WeightOf(written);
     if (written.size() < inside.size() || !TakeWord(")")) Fail("\")\" is missing after the weight");

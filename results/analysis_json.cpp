@@ -70,12 +70,13 @@ struct Field {
 };
 
 constexpr std::array<Field, 14> kFields = {{
-    {"mode", [](Told& told) { return Json(told.Asked().Command); }},
-    {"pot", [](Told& told) { return ValueIf(told.Asked().AmountCount > 0, told.Found().PotSize); }},
-    {"call", [](Told& told) { return ValueIf(told.Asked().AmountCount > 1, told.Found().CallAmount); }},
-    {"shove", [](Told& told) { return ValueIf(told.Asked().AmountCount > 2, told.Found().ShoveAmount); }},
-    {"range", [](Told& told) { return Json(told.Found().RangeName); }},
-    {"calling_range", [](Told& told) { return ValueIf(told.Asked().HasCallingRange, told.Found().CallingRangeName); }},
+    {kModeField, [](Told& told) { return Json(told.Asked().Command); }},
+    {kPotField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 0, told.Found().PotSize); }},
+    {kCallField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 1, told.Found().CallAmount); }},
+    {kShoveField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 2, told.Found().ShoveAmount); }},
+    {kRangeField, [](Told& told) { return Json(told.Found().RangeName); }},
+    {kCallingRangeField,
+     [](Told& told) { return ValueIf(told.Asked().HasCallingRange, told.Found().CallingRangeName); }},
     {"range_summary", [](Told& told) { return Json(RangeSummary(told.Found().RangeText)); }},
     {"calling_range_summary",
      [](Told& told) {

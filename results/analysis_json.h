@@ -8,11 +8,20 @@
 #include <nlohmann/json_fwd.hpp>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/analysis.h"
 
 namespace quillon {
+
+/// The keys that an analysis shares with the question that asks for it ("study/batch_line.h").
+inline constexpr std::string_view kModeField = "mode";
+inline constexpr std::string_view kPotField = "pot";
+inline constexpr std::string_view kCallField = "call";
+inline constexpr std::string_view kShoveField = "shove";
+inline constexpr std::string_view kRangeField = "range";
+inline constexpr std::string_view kCallingRangeField = "calling_range";
 
 /// The names of all fields: those of the object first, then those of each hand.
 [[nodiscard]] std::vector<std::string> AnalysisFieldNames();

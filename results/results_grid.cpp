@@ -38,7 +38,7 @@ GridTexts CallTexts(const Analysis& analysis) {
   const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
   const std::string oddsText = RoundedText(odds, 2) + ":1";
   return {
-      .Title = "ALL IN Grid",
+      .Title = std::string(kGridTitle),
       .HandInfo =
           PotAndCallText(analysis) + " | Odds: " + oddsText + "\r\nHis Range: " + RangeSummary(analysis.RangeText),
       .Results =
@@ -52,7 +52,7 @@ GridTexts CallTexts(const Analysis& analysis) {
 
 GridTexts RaiseTexts(const Analysis& analysis) {
   return {
-      .Title = "ALL IN Grid",
+      .Title = std::string(kGridTitle),
       .HandInfo = PotAndCallText(analysis) + " | Shove Amount: " + RoundedText(analysis.ShoveAmount, 2) +
                   "\r\nHis Calling Range: " + RangeSummary(analysis.CallingRangeText),
       .Results =

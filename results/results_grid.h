@@ -18,11 +18,14 @@ namespace quillon {
 inline constexpr std::string_view kGoodLegend = "Go ALL IN";
 inline constexpr std::string_view kBadLegend = "Fold";
 
+inline constexpr std::string_view kGridTitle = "ALL IN Grid";
+inline constexpr std::string_view kNoAnalysisText = "No analysis has been performed.";
+
 /// The texts around the grid, initialised as before any analysis.
 struct GridTexts {
-  std::string Title = "ALL IN Grid";
+  std::string Title{kGridTitle};
   std::string HandInfo;  // the situation, lines separated by CR LF
-  std::string Results = "No analysis has been performed.";  // the explanation, lines separated by CR LF
+  std::string Results{kNoAnalysisText};  // the explanation, lines separated by CR LF
   bool LegendVisible = true;
 
   bool operator==(const GridTexts&) const = default;

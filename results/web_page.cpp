@@ -78,18 +78,18 @@ footer{color:var(--soft);font-size:13px;text-align:center}
 constexpr std::string_view kScript = R"(<script>
 "use strict";
 for (const grid of document.querySelectorAll(".grid")) {
-  const cells = [...grid.querySelectorAll("td")];
+  const cells = [...grid.querySelectorAll("td")], width = grid.querySelector("tr").cells.length;
   grid.addEventListener("focusin", event => {
     grid.classList.remove("quiet");
     for (const cell of cells) cell.tabIndex = cell === event.target ? 0 : -1;
   });
   grid.addEventListener("mouseover", () => grid.classList.remove("quiet"));
   grid.addEventListener("keydown", event => {
-    const at = cells.indexOf(event.target), column = at % 13;
+    const at = cells.indexOf(event.target), column = at % width;
     if (event.key === "Escape") grid.classList.add("quiet");
     if (event.ctrlKey || event.altKey || event.metaKey || event.shiftKey) return;
-    const steps = {ArrowLeft: column > 0 ? -1 : 0, ArrowRight: column < 12 ? 1 : 0, ArrowUp: at > 12 ? -13 : 0,
-                   ArrowDown: at < 156 ? 13 : 0, Home: -column, End: 12 - column};
+    const steps = {ArrowLeft: column > 0 ? -1 : 0, ArrowRight: column < width - 1 ? 1 : 0, ArrowUp: at < width ? 0 : -width,
+                   ArrowDown: at < cells.length - width ? width : 0, Home: -column, End: width - 1 - column};
     if (at < 0 || !(event.key in steps)) return;
     event.preventDefault();
     cells[at + steps[event.key]].focus();

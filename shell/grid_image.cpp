@@ -26,7 +26,7 @@ PixelRect PixelsOf(const CaptureRect& rect, double twipsPerPixelX, double twipsP
 }
 
 Message OpenImageQuestion() {
-  return {"Open Now?", "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
+  return {std::string(kOpenNowTitle), "Screen shot saved successfully.\r\n\r\nDo you want to open the screen shot now?",
           MessageIcon::kQuestion, MessageButtons::kYesNo};
 }
 

@@ -43,6 +43,8 @@ struct PixelRect {
 inline constexpr std::string_view kSaveImageTitle = "Save Expected Value Grid";
 inline constexpr std::string_view kSaveImageFilter = "24-bit Bitmap | *.bmp";
 
+inline constexpr std::string_view kOpenNowTitle = "Open Now?";
+
 /// After a save: whether to open the picture, Yes or No.
 [[nodiscard]] Message OpenImageQuestion();
 

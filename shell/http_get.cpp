@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "support/ascii_text.h"
+#include "support/message_boxes.h"
 #include "support/windows_1252.h"
 
 namespace quillon {
@@ -88,7 +89,7 @@ std::string Follow(httplib::Client& client, std::optional<Place> place) {
     std::optional<std::string> location;
     std::string body;
     const httplib::Result reply = client.Get(
-        place->Target, {{"User-Agent", "Quillon"}},
+        place->Target, {{"User-Agent", std::string(kApplicationTitle)}},
         [&](const httplib::Response& head) {
           if (Redirects(head.status)) location = head.get_header_value("Location");
           return !location && head.get_header_value_u64("Content-Length") <= kLongestHttpBody;

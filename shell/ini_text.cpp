@@ -10,11 +10,10 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kLineEnds = "\r\n";
 
 std::string_view WithoutBlanks(std::string_view text) {
-  return Trimmed(text, kBlanks);
+  return Trimmed(text, kSpaceAndTab);
 }
 
 bool IsInQuotes(std::string_view value) {

@@ -6,8 +6,10 @@
 #include <system_error>
 #include <utility>
 
+#include "ranges/range_files.h"
 #include "support/folder_lock.h"
 #include "support/folders.h"
+#include "support/message_boxes.h"
 #include "support/run_time_error.h"
 #include "support/uninterrupted.h"
 
@@ -15,8 +17,6 @@ namespace quillon {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kRanges = "Ranges";
 
 bool IsInstalled(const fs::path& executableFolder) {
   std::error_code unknown;
@@ -88,7 +88,7 @@ void MakeProgramFolder(const fs::path& path, const fs::path& examples, FileCalls
   if (FolderExists(path, calls)) return;  // another copy of the program was faster
   const fs::path draftPath = path.parent_path() / ".Quillon.new";
   const Draft draft(draftPath, calls);
-  CopyExamples(examples, draftPath / kRanges, calls);
+  CopyExamples(examples, RangeFolderPath({draftPath}), calls);
   const int named = Uninterrupted([&] { return calls.Rename(draftPath.string(), path.string()); });
   if (named < 0) FailOnFile(-named, path);
 }
@@ -103,8 +103,8 @@ fs::path SharedFolderPath(const fs::path& executableFolder) {
 
 fs::path ProgramFolderPath(const fs::path& executableFolder, const EnvironmentVariable& variable, FileCalls& calls) {
   if (!IsInstalled(executableFolder)) return executableFolder;
-  fs::path path = DataHome(variable) / "Quillon";
-  if (!FolderExists(path, calls)) MakeProgramFolder(path, SharedFolderPath(executableFolder) / kRanges, calls);
+  fs::path path = DataHome(variable) / kApplicationTitle;
+  if (!FolderExists(path, calls)) MakeProgramFolder(path, RangeFolderPath({SharedFolderPath(executableFolder)}), calls);
   return path;
 }
 

@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include "shell/grid_image.h"
 #include "support/windows_1252.h"
 
 namespace quillon {
 
 Message OpenPageQuestion() {
-  return {.title = "Open Now?",
+  return {.title = std::string(kOpenNowTitle),
           .text = "Web page saved successfully.\r\n\r\nDo you want to open the web page now?",
           .icon = MessageIcon::kQuestion,
           .buttons = MessageButtons::kYesNo};

@@ -19,7 +19,6 @@ namespace {
 
 constexpr std::string_view kThing = "situation";
 constexpr std::string_view kExtension = ".json";
-constexpr std::string_view kErrorTitle = "Error";
 constexpr std::string_view kNamePrompt = "What do you want to call this situation?";
 constexpr std::string_view kNameTitle = "Save Situation";
 

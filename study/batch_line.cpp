@@ -213,7 +213,7 @@ LineAmount AmountOfLine(const BatchLine& line, BatchKey key) {
   const std::string& text = *line[key];
   if (!text.starts_with('=')) return {text, {}};
   const auto sum = Attempt([&text] { return EvalExpression(text); });
-  if (!sum) return {text, QuotedKey(key) + ": the sum is beyond all numbers"};
+  if (!sum) return {text, Joined({QuotedKey(key), ": ", kSumTooLarge})};
   if (!IsNumericText(*sum)) return {text, Joined({QuotedKey(key), ": ", *sum})};
   return {*sum, {}};
 }

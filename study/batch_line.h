@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "analysis/scenarios.h"
+#include "results/analysis_json.h"
 
 namespace quillon {
 
@@ -33,7 +34,7 @@ enum BatchKey : std::size_t {
 
 /// The spelling of each key.
 inline constexpr std::array<std::string_view, 9> kBatchKeys = {
-    "id", "mode", "pot", "call", "shove", "range", "hands", "calling_range", "calling_hands"};
+    "id", kModeField, kPotField, kCallField, kShoveField, kRangeField, "hands", kCallingRangeField, "calling_hands"};
 
 /// The keys of the amounts, in the order in which a scenario asks for them.
 inline constexpr std::array<BatchKey, 3> kAmountKeys = {kPotKey, kCallKey, kShoveKey};

@@ -26,6 +26,8 @@ namespace quillon {
   return std::ranges::equal(a, b, [](char x, char y) { return AsciiLower(x) == AsciiLower(y); });
 }
 
+inline constexpr std::string_view kSpaceAndTab = " \t";
+
 /// The text without the characters of `blanks` at its ends; a view into it, even if it is empty.
 [[nodiscard]] constexpr std::string_view Trimmed(std::string_view text, std::string_view blanks) {
   const std::size_t first = text.find_first_not_of(blanks);

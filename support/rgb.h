@@ -18,6 +18,9 @@ struct Rgb {
 /// A colour from components of any size, each clamped to 0 to 255.
 [[nodiscard]] Rgb MakeRgb(int red, int green, int blue);
 
+/// The blue of headings and frames.
+inline constexpr Rgb kBrandBlue = {0x33, 0x66, 0x99};
+
 /// 0xRRGGBB.
 [[nodiscard]] constexpr std::int32_t RgbNumber(Rgb color) {
   return color.Red * 0x10000 + color.Green * 0x100 + color.Blue;

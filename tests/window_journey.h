@@ -20,7 +20,7 @@
 
 namespace quillon {
 
-inline constexpr std::string_view kMainTitle = "Quillon 0.9";
+inline constexpr std::string_view kMainTitle = "Quillon " QUILLON_VERSION;
 
 using GridColorTable = std::array<Rgb, kHandClassCount>;
 

@@ -1,5 +1,7 @@
 #include <uiautomationcore.h>
 
+#include "support/message_boxes.h"
+#include "support/text_windows.h"
 #include "toolkit/announcement.h"
 
 namespace quillon {
@@ -31,7 +33,7 @@ void SendAnnouncement(QWidget* speaker, const QString& text) {
   const auto handle = reinterpret_cast<HWND>(speaker->window()->winId());  // NOLINT: that is what the number is
   if (FAILED(hostOf(handle, &window)) || window == nullptr) return;
   const BSTR said = SysAllocString(reinterpret_cast<const wchar_t*>(text.utf16()));  // NOLINT: both are UTF-16
-  const BSTR activity = SysAllocString(L"Quillon");
+  const BSTR activity = SysAllocString(WideText(kApplicationTitle).c_str());
   notify(window, kOtherKind, kAllInOrder, said, activity);
   SysFreeString(activity);
   SysFreeString(said);

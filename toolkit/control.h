@@ -7,15 +7,19 @@
 #include <QRect>
 #include <QString>
 #include <QWidget>
+#include <array>
 #include <optional>
 
 #include "toolkit/control_row.h"
 
 namespace quillon {
 
-/// Whether a Qt::Key is Enter, on the keyboard or on its number pad.
+/// The Enter keys, of the keyboard and of its number pad.
+inline constexpr std::array kEnterKeys = {Qt::Key_Return, Qt::Key_Enter};
+
+/// Whether a Qt::Key is one of them.
 [[nodiscard]] constexpr bool IsEnterKey(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
+  return key == kEnterKeys[0] || key == kEnterKeys[1];
 }
 
 class Control : public QWidget {

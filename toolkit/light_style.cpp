@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "support/rgb.h"
 #include "toolkit/picture.h"
 #include "toolkit/twip_geometry.h"
 
@@ -15,7 +16,7 @@ namespace quillon {
 namespace {
 
 constexpr QRgb kEdge = 0xFF8C8C8C;
-constexpr QRgb kFocusedEdge = 0xFF336699;
+constexpr QRgb kFocusedEdge = qRgb(kBrandBlue.Red, kBrandBlue.Green, kBrandBlue.Blue);
 constexpr QRgb kSign = 0xFF404040;  // arrows and check marks
 constexpr QRgb kGroove = 0xFFE6E9EC;
 constexpr QRgb kHandle = 0xFF8C9BAA;

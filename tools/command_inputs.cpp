@@ -16,6 +16,7 @@
 #include "ranges/range_lookup.h"
 #include "ranges/range_notation.h"
 #include "study/hand_order.h"
+#include "support/joined_text.h"
 #include "support/line_ends.h"
 #include "support/number_text.h"
 
@@ -151,7 +152,7 @@ bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
 
 std::optional<double> CommandInputs::Amount(std::string_view option, std::string text, LeastAmount least) {
   const std::optional<bool> evaluated = Attempt([&] { return EvaluateAmount(option, text); });
-  if (!evaluated) Refuse(std::string(option) + ": the sum is beyond all numbers");
+  if (!evaluated) Refuse(Joined({option, ": ", kSumTooLarge}));
   if (!evaluated.value_or(false)) return std::nullopt;
   const double value = BoxValue(text);
   if (!IsNumericText(text) && !(text.empty() && least == LeastAmount::kZero)) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <string_view>
 
+#include "support/rgb.h"
 #include "support/twips.h"
 #include "toolkit/control_row.h"
 #include "toolkit/form_builder.h"
@@ -22,7 +23,7 @@ namespace manager_layout {
 using enum ControlKind;
 using enum ControlUse;
 
-constexpr std::int32_t kHeading = 0x336699;
+constexpr std::int32_t kHeading = RgbNumber(kBrandBlue);
 constexpr std::string_view kActionTip = "Delete current range";  // of all actions but Delete
 
 // One line per row.

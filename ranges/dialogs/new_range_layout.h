@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "ranges/card_grid.h"
+#include "support/rgb.h"
 #include "support/twips.h"
 #include "toolkit/control_row.h"
 #include "toolkit/form_builder.h"
@@ -23,7 +24,7 @@ namespace new_range_layout {
 using enum ControlKind;
 using enum ControlUse;
 
-constexpr std::int32_t kHeading = 0x336699;
+constexpr std::int32_t kHeading = RgbNumber(kBrandBlue);
 constexpr std::int32_t kKeyLine = 0x404040;
 
 // One line per row.

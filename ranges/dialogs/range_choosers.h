@@ -11,13 +11,14 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/input_screens.h"
 #include "ranges/range_files.h"
 #include "toolkit/form_builder.h"
 #include "toolkit/form_list.h"
 
 namespace quillon {
 
-inline constexpr std::int16_t kChooserCount = 4;
+inline constexpr std::int16_t kChooserCount = kEquityRangeList + 1;
 
 class RangeChoosers : public QObject {
   Q_OBJECT

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "analysis/analysis_driver.h"
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
 #include "shell/field_help.h"
@@ -31,30 +32,36 @@ constexpr TextAlignment kMiddle = TextAlignment::kCentered;
 constexpr TwipRect kScreenPlace = {3300, 0, 12000, kScreenHeight};
 
 constexpr std::int32_t kHeading = RgbNumber(kPaleYellow);
+constexpr std::int32_t kInk = RgbNumber(kBrandBlue);
+
+constexpr std::string_view kCall = ScenarioOf(AnalysisMode::kPreflopCall).Name;
+constexpr std::string_view kRaise = ScenarioOf(AnalysisMode::kPreflopRaise).Name;
+constexpr std::string_view kEquity = ScenarioOf(AnalysisMode::kEquityOnly).Name;
+constexpr std::string_view kDetailsScreen = "Details";
 
 // One line per row.
 // clang-format off
 
 constexpr ControlRow WhatsThis(std::int16_t index, TwipRect place, std::string_view spoken) {
-  return {.Name = "lblWhatsThis", .Index = index, .Text = "What's this?", .Place = place, .Fore = 0x336699,
+  return {.Name = "lblWhatsThis", .Index = index, .Text = "What's this?", .Place = place, .Fore = kInk,
           .Font = Arial(8.25), .Use = kLink, .ToolTip = kFieldHelpKeys.at(static_cast<std::size_t>(index)),
           .Spoken = spoken};
 }
 
 constexpr ControlRow StepNumber(std::int16_t index, std::string_view text, float left, float top) {
-  return {.Name = "Label", .Index = index, .Text = text, .Place = {left, top, 360, 270}, .Back = 0x336699,
+  return {.Name = "Label", .Index = index, .Text = text, .Place = {left, top, 360, 270}, .Back = kInk,
           .Fore = 0xFFFFFF, .Font = Bold(Arial(11.25)), .Alignment = kMiddle};
 }
 
 // The screens. Each is placed and sized again when it is shown.
 inline constexpr auto kScreens = std::to_array<ControlRow>({
-    {.Name = "frameContent", .Index = 0, .Kind = kFrame, .Text = "Preflop Call", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 1, .Kind = kFrame, .Text = "ALL IN Grid", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 2, .Kind = kFrame, .Text = "Details", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 3, .Kind = kFrame, .Text = "Progress", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 4, .Kind = kFrame, .Text = "Preflop Raise", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 5, .Kind = kFrame, .Text = "About", .Place = kScreenPlace, .Hidden = true},
-    {.Name = "frameContent", .Index = 6, .Kind = kFrame, .Text = "Equity Only", .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 0, .Kind = kFrame, .Text = kCall, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 1, .Kind = kFrame, .Text = kGridTitle, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 2, .Kind = kFrame, .Text = kDetailsScreen, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 3, .Kind = kFrame, .Text = kProgressScreen, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 4, .Kind = kFrame, .Text = kRaise, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 5, .Kind = kFrame, .Text = kAboutScreen, .Place = kScreenPlace, .Hidden = true},
+    {.Name = "frameContent", .Index = 6, .Kind = kFrame, .Text = kEquity, .Place = kScreenPlace, .Hidden = true},
     {.Name = "frameControls", .Kind = kFrame, .Place = kScreenPlace, .Hidden = true},
 });
 
@@ -67,21 +74,21 @@ inline constexpr auto kSidePanel = std::to_array<ControlRow>({
      .Font = Underlined(Bold(Arial(9.75))), .Use = kLink},
     {.Name = "Label", .Index = 48, .Text = "Tools:", .Place = {180, 6060, 1845, 285}, .Fore = kHeading,
      .Font = Bold(Arial(9))},
-    {.Name = "lblNav", .Index = 2, .Text = "Equity Only", .Place = {480, 3240, 1320, 285}, .Fore = 0xFFFFFF,
+    {.Name = "lblNav", .Index = 2, .Text = kEquity, .Place = {480, 3240, 1320, 285}, .Fore = 0xFFFFFF,
      .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "Label", .Index = 46, .Text = "What do you want to do?", .Place = {180, 1800, 2415, 210},
      .Fore = kHeading, .Font = Bold(Tahoma(9))},
-    {.Name = "lblNav", .Index = 4, .Text = "Details", .Place = {420, 4680, 780, 285}, .Fore = 0xFFFFFF,
+    {.Name = "lblNav", .Index = 4, .Text = kDetailsScreen, .Place = {420, 4680, 780, 285}, .Fore = 0xFFFFFF,
      .Font = Bold(Arial(12)), .Use = kLink},
-    {.Name = "lblNav", .Index = 3, .Text = "ALL IN Grid", .Place = {420, 4200, 1305, 285}, .Fore = 0xFFFFFF,
+    {.Name = "lblNav", .Index = 3, .Text = kGridTitle, .Place = {420, 4200, 1305, 285}, .Fore = 0xFFFFFF,
      .Font = Bold(Arial(12)), .Use = kLink},
-    {.Name = "lblNoResults", .Text = "There are no results to display at this time.", .Place = {420, 4140, 2535, 555},
+    {.Name = "lblNoResults", .Text = kNoResultsCaption, .Place = {420, 4140, 2535, 555},
      .Fore = kHeading, .Font = Tahoma(9)},
     {.Name = "Label", .Index = 16, .Text = "Results:", .Place = {180, 3720, 1845, 285}, .Fore = kHeading,
      .Font = Bold(Tahoma(9))},
-    {.Name = "lblNav", .Index = 0, .Text = "Preflop Call", .Place = {480, 2160, 1320, 285}, .Fore = 0xFFFFFF,
+    {.Name = "lblNav", .Index = 0, .Text = kCall, .Place = {480, 2160, 1320, 285}, .Fore = 0xFFFFFF,
      .Font = Bold(Arial(12)), .Use = kLink},
-    {.Name = "lblNav", .Index = 1, .Text = "Preflop Raise", .Place = {480, 2700, 1530, 285}, .Fore = 0xFFFFFF,
+    {.Name = "lblNav", .Index = 1, .Text = kRaise, .Place = {480, 2700, 1530, 285}, .Fore = 0xFFFFFF,
      .Font = Bold(Arial(12)), .Use = kLink},
     {.Name = "shapeRangeManager", .Kind = kRoundedShape, .Place = {300, 6480, 2895, 435}, .Back = 0xC0C0C0,
      .Fore = 0x404040},
@@ -104,7 +111,7 @@ inline constexpr auto kPreflopCall = std::to_array<ControlRow>({
     WhatsThis(7, {4680, 4140, 975, 255}, "What's this? Call ALL IN - Current Range"),
     WhatsThis(6, {5160, 2940, 975, 255}, "What's this? Call ALL IN - Amount To Call"),
     WhatsThis(5, {4860, 1680, 975, 255}, "What's this? Call ALL IN - Pot Size"),
-    {.Name = "aLine", .Index = 2, .Kind = kLine, .Place = {480, 900, 10920, 0}, .Fore = 0x336699},
+    {.Name = "aLine", .Index = 2, .Kind = kLine, .Place = {480, 900, 10920, 0}, .Fore = kInk},
     {.Name = "lblOr", .Index = 0, .Text = "or", .Place = {3060, 5160, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 0, .Text = "Edit this Range...", .Place = {3360, 5160, 1665, 255},
      .Fore = 0x004040, .Font = Underlined(Arial(11.25)), .Use = kLink},
@@ -115,13 +122,13 @@ inline constexpr auto kPreflopCall = std::to_array<ControlRow>({
     StepNumber(19, "1. ", 540, 1560),
     {.Name = "Label", .Index = 18, .Text = "You're facing a decision for all your chips. It's your move...",
      .Place = {5760, 540, 5025, 240}},
-    {.Name = "Label", .Index = 17, .Text = "Preflop Calling ALL IN", .Place = {540, 360, 4395, 480}, .Fore = 0x336699,
+    {.Name = "Label", .Index = 17, .Text = "Preflop Calling ALL IN", .Place = {540, 360, 4395, 480}, .Fore = kInk,
      .Font = Bold(Arial(20.25))},
     {.Name = "Label", .Index = 4, .Text = "or", .Place = {3060, 4800, 195, 255}, .Font = Arial(11.25)},
     {.Name = "ShapeBorder", .Index = 1, .Kind = kRoundedShape, .Place = {1380, 3180, 2595, 435}, .Back = 0xFFFFFF,
-     .Fore = 0x336699},
+     .Fore = kInk},
     {.Name = "ShapeBorder", .Index = 0, .Kind = kRoundedShape, .Place = {1380, 1920, 2655, 435}, .Back = 0xFFFFFF,
-     .Fore = 0x336699},
+     .Fore = kInk},
     {.Name = "Label", .Index = 2, .Text = "How much do you have to call?", .Place = {1140, 2820, 3900, 330},
      .Font = Arial(14.25)},
     {.Name = "Label", .Index = 1, .Text = "How much is the current pot?", .Place = {1080, 1560, 3660, 330},
@@ -158,8 +165,8 @@ inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     WhatsThis(2, {8820, 3840, 1515, 255}, "What's this? Hypothetical Call Amount"),
     WhatsThis(1, {5220, 2580, 1515, 255}, "What's this? Amount To Call"),
     WhatsThis(0, {4980, 1380, 975, 255}, "What's this? Pot Size"),
-    {.Name = "aLine", .Index = 3, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
-    {.Name = "Label", .Index = 23, .Text = "Preflop Raise ALL IN", .Place = {540, 360, 4095, 480}, .Fore = 0x336699,
+    {.Name = "aLine", .Index = 3, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = kInk},
+    {.Name = "Label", .Index = 23, .Text = "Preflop Raise ALL IN", .Place = {540, 360, 4095, 480}, .Fore = kInk,
      .Font = Bold(Arial(20.25))},
     {.Name = "lblOr", .Index = 2, .Text = "or", .Place = {8760, 6180, 195, 255}, .Font = Arial(11.25)},
     {.Name = "lblEditRange", .Index = 2, .Text = "Edit this Range...", .Place = {9060, 6180, 1665, 255},
@@ -184,11 +191,11 @@ inline constexpr auto kPreflopRaise = std::to_array<ControlRow>({
     StepNumber(24, "1. ", 540, 1260),
     {.Name = "Label", .Index = 22, .Text = "Fold? Go ALL IN? Let's find out...", .Place = {8340, 540, 2760, 240}},
     {.Name = "ShapeBorder", .Index = 4, .Kind = kRoundedShape, .Place = {1320, 4200, 3015, 435}, .Back = 0xFFFFFF,
-     .Fore = 0x336699},
+     .Fore = kInk},
     {.Name = "ShapeBorder", .Index = 3, .Kind = kRoundedShape, .Place = {1320, 2940, 3015, 435}, .Back = 0xFFFFFF,
-     .Fore = 0x336699},
+     .Fore = kInk},
     {.Name = "ShapeBorder", .Index = 2, .Kind = kRoundedShape, .Place = {1320, 1740, 3015, 435}, .Back = 0xFFFFFF,
-     .Fore = 0x336699},
+     .Fore = kInk},
     {.Name = "Label", .Index = 8, .Text = "What range will he call with?", .Place = {6780, 4920, 4335, 375},
      .Font = Arial(14.25)},
     {.Name = "Label", .Index = 7, .Text = "What is his current range?", .Place = {1200, 4920, 3285, 330},
@@ -215,9 +222,9 @@ inline constexpr auto kEquityOnly = std::to_array<ControlRow>({
     {.Name = "Label", .Index = 62, .Text = "Select a Range:", .Place = {540, 1920, 2025, 330}, .Font = Arial(14.25)},
     {.Name = "Label", .Index = 61, .Text = "Show me the equity!", .Place = {9000, 540, 2145, 255},
      .Font = Arial(11.25)},
-    {.Name = "Label", .Index = 60, .Text = "Equity Only", .Place = {540, 360, 2295, 480}, .Fore = 0x336699,
+    {.Name = "Label", .Index = 60, .Text = kEquity, .Place = {540, 360, 2295, 480}, .Fore = kInk,
      .Font = Bold(Arial(20.25))},
-    {.Name = "aLine", .Index = 5, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = 0x336699},
+    {.Name = "aLine", .Index = 5, .Kind = kLine, .Place = {540, 900, 10920, 0}, .Fore = kInk},
 });
 
 // With its two frames.
@@ -238,7 +245,7 @@ inline constexpr auto kAllInGrid = std::to_array<ControlRow>({
      .Font = Tahoma(15.75)},
     {.Name = "imgSave", .Kind = kPicture, .Place = {240, 8100, 480, 480}, .Use = kLink, .Picture = "save_image",
      .ToolTip = "Save this grid!", .Spoken = "Save the grid as a picture"},
-    {.Name = "lblGridTitle", .Text = "ALL IN Grid", .Place = {360, 420, 5595, 375}, .Fore = 0x008000,
+    {.Name = "lblGridTitle", .Text = kGridTitle, .Place = {360, 420, 5595, 375}, .Fore = 0x008000,
      .Font = Arial(15.75)},
     {.Name = "GridContainer", .Kind = kShape, .Place = {240, 180, 6135, 7815}, .Fore = 0x808080},
     {.Name = "shapeCardBack", .Index = 0, .Kind = kShape, .Place = {900, 1020, 405, 405}, .Back = 0xFFFF80,
@@ -249,7 +256,7 @@ inline constexpr auto kAllInGrid = std::to_array<ControlRow>({
      .Font = Arial(8.25)},
     {.Name = "shapeBlue", .Kind = kShape, .Place = {420, 840, 5760, 5700}, .Back = 0xE0E0E0, .Fore = 0x33789C,
      .Hidden = true},
-    {.Name = "lblResults", .Text = "No analysis has been performed.", .Place = {6600, 1020, 3840, 4410},
+    {.Name = "lblResults", .Text = kNoAnalysisText, .Place = {6600, 1020, 3840, 4410},
      .Font = Tahoma(11.25)},
 });
 
@@ -290,14 +297,14 @@ inline constexpr auto kDetails = std::to_array<ControlRow>({
     {.Name = "rtfSummary", .Kind = kRichTextBox, .Place = {540, 1140, 11055, 6495}, .Font = Verdana(9.75), .Spoken = "Analysis details"},
     {.Name = "lblSpecificHand", .Text = "Add Specific Hand:", .Place = {240, 7860, 1860, 255}, .Hidden = true},
     {.Name = "Label", .Index = 65, .Text = "Type of output:", .Place = {7380, 7860, 1440, 255}},
-    {.Name = "Label", .Index = 32, .Text = "Analysis Details", .Place = {540, 540, 2385, 360}, .Fore = 0x336699,
+    {.Name = "Label", .Index = 32, .Text = "Analysis Details", .Place = {540, 540, 2385, 360}, .Fore = kInk,
      .Font = Bold(Arial(15.75))},
-    {.Name = "aShape", .Index = 5, .Kind = kLine, .Place = {540, 1020, 11040, 0}, .Fore = 0x336699},
+    {.Name = "aShape", .Index = 5, .Kind = kLine, .Place = {540, 1020, 11040, 0}, .Fore = kInk},
     {.Name = "Label", .Index = 31, .Text = "For the mathematically inclined...", .Place = {8505, 660, 2850, 240}},
 });
 
 inline constexpr auto kProgress = std::to_array<ControlRow>({
-    {.Name = "picProgBar", .Kind = kShape, .Place = {1980, 3180, 7815, 495}, .Back = 0x1B56BA, .Font = Arial(12),
+    {.Name = "picProgBar", .Kind = kShape, .Place = {1980, 3180, static_cast<float>(kProgressBarWidth), 495}, .Back = 0x1B56BA, .Font = Arial(12),
      .Style = LineStyle::kNone},
     {.Name = "Shape3", .Kind = kShape, .Place = {120, 300, 855, 375}, .Fore = 0x800000},
     {.Name = "lblStopCalc", .Text = "< Back", .Place = {195, 360, 720, 240}, .Fore = 0x800000, .Use = kLink},
@@ -332,7 +339,7 @@ inline constexpr auto kAbout = std::to_array<ControlRow>({
      .Place = {6000, 4140, 3615, 315}, .Back = 0xFFFFFF},
     {.Name = "cmdSendFeedback", .Kind = kButton, .Text = "Send", .Place = {6600, 7020, 1335, 375}, .Font = Tahoma(9)},
     {.Name = "txtFeedback", .Kind = kMemo, .Place = {420, 6060, 6015, 1395}, .Font = Arial(9), .Spoken = "Feedback"},
-    {.Name = "lblLink", .Index = 3, .Text = "Download Upgrade", .Place = {5940, 3660, 4275, 240}, .Fore = 0x336699,
+    {.Name = "lblLink", .Index = 3, .Text = "Download Upgrade", .Place = {5940, 3660, 4275, 240}, .Fore = kInk,
      .Font = Underlined(Bold(Tahoma(9.75))), .Hidden = true, .Use = kLink},
     {.Name = "lblCurrentVersion", .Text = "0.5", .Place = {7500, 3120, 2805, 300}, .Fore = 0x000000},
     {.Name = "Label", .Index = 58, .Text = "Latest Version:", .Place = {5940, 3120, 1485, 300}, .Fore = 0x000000},
@@ -357,8 +364,8 @@ inline constexpr auto kAbout = std::to_array<ControlRow>({
      .Font = Tahoma(18)},
     {.Name = "aImage", .Index = 0, .Kind = kPicture, .Place = {5640, 1320, 4785, 900}, .Picture = "about_header"},
     {.Name = "aRectangle", .Index = 3, .Kind = kShape, .Place = {5640, 2040, 4755, 2775}, .Fore = 0xE0E0E0},
-    {.Name = "aLine", .Index = 4, .Kind = kLine, .Place = {480, 660, 10920, 0}, .Fore = 0x336699},
-    {.Name = "Label", .Index = 34, .Text = "Welcome to Quillon!", .Place = {420, 0, 5295, 480}, .Fore = 0x336699,
+    {.Name = "aLine", .Index = 4, .Kind = kLine, .Place = {480, 660, 10920, 0}, .Fore = kInk},
+    {.Name = "Label", .Index = 34, .Text = "Welcome to Quillon!", .Place = {420, 0, 5295, 480}, .Fore = kInk,
      .Font = Bold(Arial(20.25))},
 });
 
