@@ -50,10 +50,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 install(TARGETS ${programs} RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/Ranges ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Guide
   DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
-install(FILES ${PROJECT_SOURCE_DIR}/NOTICE qt.conf DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
-foreach(name file IN ZIP_LISTS licence_names licence_files)
-  install(FILES ${file} DESTINATION . RENAME ${name} COMPONENT portable EXCLUDE_FROM_ALL)
-endforeach()
+install(FILES qt.conf DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+quillon_install_licences(. portable EXCLUDE_FROM_ALL)
 find_program(QUILLON_PATCHELF patchelf REQUIRED)
 get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
 execute_process(COMMAND ${qmake} -query QT_INSTALL_PLUGINS

@@ -1,11 +1,8 @@
 # The folder for Windows, which runs from anywhere: the component "windows", which tools/windows/build.sh packs.
 install(TARGETS ${programs} RUNTIME DESTINATION . COMPONENT windows)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/Ranges DESTINATION . COMPONENT windows)
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/qt.conf ${PROJECT_SOURCE_DIR}/NOTICE DESTINATION . COMPONENT windows)
-while(licences)
-  list(POP_FRONT licences name file)
-  install(FILES ${file} DESTINATION . RENAME ${name} COMPONENT windows)
-endwhile()
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/qt.conf DESTINATION . COMPONENT windows)
+quillon_install_licences(. windows)
 
 # Libraries are searched for among the compiler's own and Qt's.
 foreach(library libstdc++-6.dll libwinpthread-1.dll)
