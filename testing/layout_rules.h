@@ -5,7 +5,6 @@
 #include <QImageReader>
 #include <QWidget>
 #include <gtest/gtest.h>
-#include <map>
 #include <set>
 #include <span>
 #include <string>
@@ -77,18 +76,6 @@ inline void ExpectPicturesAreThere(const FormControls& controls, std::span<const
       EXPECT_EQ(drawn, place * (file.endsWith(QStringLiteral(".svg")) ? 1 : drawn.width() / place.width())) << name;
     }
   }
-}
-
-/// The tool tips of these controls; empty means none.
-inline void ExpectToolTips(const FormControls& controls, const std::map<std::string, const char*>& tips) {
-  for (const auto& [name, tip] : tips)
-    EXPECT_EQ(FromQt(controls.At(name).toolTip()), tip) << name;
-}
-
-/// These controls have the hand cursor.
-inline void ExpectHands(const FormControls& controls, const std::vector<std::string>& names) {
-  for (const std::string& name : names)
-    EXPECT_EQ(controls.At(name).cursor().shape(), Qt::PointingHandCursor) << name;
 }
 
 }  // namespace quillon

@@ -9,6 +9,7 @@
 
 #include "analysis/analysis.h"
 #include "hand/hand_classes.h"
+#include "testing/range_texts.h"
 
 namespace quillon::sample {
 
@@ -18,14 +19,6 @@ using TextsByHand = std::map<std::string_view, std::string_view>;
 inline std::string TextFor(const TextsByHand& texts, std::string_view hand, std::string_view otherwise) {
   const auto found = texts.find(hand);
   return std::string(found == texts.end() ? otherwise : found->second);
-}
-
-/// A range text with the given weights, 0 for every other hand.
-inline std::string RangeText(const TextsByHand& weights) {
-  std::string text;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    text += std::string(HandLabel(index)) + " (" + TextFor(weights, HandLabel(index), "0") + "), ";
-  return text;
 }
 
 /// A results table with the given cells, each "value, tab, equity, tab, fold share", and `otherwise` for every other
@@ -44,7 +37,7 @@ inline Analysis CallState() {
   state.PotSize = 150;
   state.CallAmount = 50;
   state.RangeName = "Tight";
-  state.RangeText = RangeText({{"AA", "1"}, {"KK", "0.5"}});
+  state.RangeText = TextWith("AA", "KK");
   state.HandInfo = ResultsTable(
       {{"AA", "120\t0.85\t1"}, {"AKs", "0\t0.25\t1"}, {"72o", "-25.32\t0.1234\t1"}, {"22", "-0.5\t0.0625\t1"}});
   return state;
@@ -58,9 +51,9 @@ inline Analysis RaiseState() {
   state.CallAmount = 50;
   state.ShoveAmount = 62.5;
   state.RangeName = "Wide";
-  state.RangeText = RangeText({{"AA", "1"}, {"KK", "1"}, {"QQ", "1"}, {"AKs", "1"}});
+  state.RangeText = TextWith("AA KK QQ AKs");
   state.CallingRangeName = "Tight";
-  state.CallingRangeText = RangeText({{"AA", "1"}});
+  state.CallingRangeText = TextWith("AA");
   state.HandInfo = ResultsTable({{"AA", "150\t-1\t1"},
                                  {"AKs", "98.2\t0.55\t0.4"},
                                  {"KK", "1234.565\t0.123456789\t0.123456789"},
@@ -73,7 +66,7 @@ inline Analysis EquityState() {
   Analysis state;
   state.Mode = AnalysisMode::kEquityOnly;
   state.RangeName = "Wide";
-  state.RangeText = RangeText({{"AA", "1"}, {"KK", "1"}});
+  state.RangeText = TextWith("AA KK");
   state.HandInfo = ResultsTable(
       {{"AA", "0\t0.8523\t1"}, {"AKs", "0\t0.123456789012345\t1"}, {"72o", "0\t-1\t1"}, {"22", "0\t0.5\t1"}});
   return state;

@@ -92,32 +92,19 @@ TEST(RangeDialogLayouts, KeepTheRulesOfEveryLayout) {
   ExpectPicturesAreThere(newRange.Controls(), new_range_layout::kTables);
 }
 
-TEST(RangeDialogLayouts, TheActionsAreLinksWhoseCaptionsHaveATipButThatWhichDeletes) {
-  DialogStage stage;
-  const ManagerControls& controls = stage.OpenManager().Controls();
-  ExpectHands(controls, {"imgNew", "imgSave", "imgRename", "imgSaveAs", "imgDelete"});
-  const char* const tip = "Delete current range";
-  ExpectToolTips(controls, {{"lblAction(0)", tip},
-                            {"lblAction(2)", tip},
-                            {"lblRename", tip},
-                            {"lblSaveAs", tip},
-                            {"lblDelete", ""},
-                            {"imgDelete", ""}});
-}
-
-void ExpectAWindowOfItsOwn(const QWidget& form, const char* title, QSize size) {
+void ExpectAWindowOfItsOwn(const QWidget& form, std::string_view title, const TwipSize& size) {
   EXPECT_TRUE(form.isWindow());
   EXPECT_FALSE(form.isModal());
-  EXPECT_EQ(form.windowTitle(), QLatin1String(title));
+  EXPECT_EQ(FromQt(form.windowTitle()), title);
   EXPECT_FALSE(form.windowIcon().isNull());
-  EXPECT_EQ(form.size(), size);
+  EXPECT_EQ(form.size(), PixelPlace({0, 0, size.Width, size.Height}).size());
   EXPECT_EQ(form.minimumSize(), form.maximumSize());
 }
 
 TEST(RangeDialogLayouts, AreWindowsOfTheirOwnThatKeepTheirSize) {
   DialogStage stage;
-  ExpectAWindowOfItsOwn(stage.OpenManager(), "Range Manager", {911, 592});
-  ExpectAWindowOfItsOwn(stage.OpenNewRange(), "Create a New Range for your Opponent", {813, 607});
+  ExpectAWindowOfItsOwn(stage.OpenManager(), kManagerTitle, kManagerSize);
+  ExpectAWindowOfItsOwn(stage.OpenNewRange(), kNewRangeTitle, kNewRangeSize);
 }
 
 TEST(RangeDialogLayouts, CutNothingOffAndCoverNothing) {

@@ -48,22 +48,6 @@ TEST_F(MainLayoutTest, EverythingStaysWithinItsScreen) {
   }
 }
 
-// Hidden in every initial picture of a screen.
-TEST_F(MainLayoutTest, HidesWhatComesLater) {
-  for (const auto name : std::to_array<MainControls::Key<>>(
-           {"frameControls", "shapeBlue", "cmbo169", "lblSpecificHand", "frameHover", "lblLastEdit", "fileList"})) {
-    EXPECT_TRUE(Stage().Get(name).isHidden()) << name.Name();
-  }
-  EXPECT_TRUE(Stage().Get("lblLink", 3).isHidden());
-  EXPECT_EQ(Stage().Caption("lblLink", 3), "Download Upgrade");
-  EXPECT_EQ(Stage().Caption("lblProgressMsg"), "Quillon...");
-}
-
-TEST_F(MainLayoutTest, BothWaysToSaveAGridAreLinksWithATip) {
-  ExpectHands(Controls(), {"imgSave", "imgSaveAsRange", "picLogo", "lblLink(0)"});
-  ExpectToolTips(Controls(), {{"imgSave", "Save this grid!"}, {"imgSaveAsRange", "Save this grid!"}});
-}
-
 TEST_F(MainLayoutTest, TheProductsAddressesAreInTheTexts) {
   const std::string host(WebHost());
   EXPECT_EQ(Stage().Caption("Label", 9), " " + host);

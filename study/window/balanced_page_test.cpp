@@ -131,7 +131,7 @@ TEST_F(BalancedRanges, AskForWhatASituationLacks) {
 // Kings alone against a shove of a thousand pots: the longest search, and it finds nothing.
 TEST_F(BalancedRanges, ShowHowFarALongSearchIsAndThatItFoundNothing) {
   Analysis kings = sample::RaiseState();
-  kings.RangeText = sample::RangeText({{"KK", "1"}});
+  kings.RangeText = TextWith("KK");
   kings.PotSize = 1;
   kings.CallAmount = 0;
   kings.ShoveAmount = 1000;
