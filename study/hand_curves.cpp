@@ -197,8 +197,8 @@ HandCurves AmountCurves(const StudySituation& situation, std::vector<std::int16_
 SweepRow WidthRow(const StudySituation& situation, std::span<const std::int16_t> hands, const HandOrder& bestFirst,
                   const std::string& width) {
   const ClassWeights range = TopHands(width, bestFirst);
-  const RangeNumbers ranges = IsShove(situation) ? RangeNumbers(*situation.Hands, situation.Range, range)
-                                                 : RangeNumbers(*situation.Hands, range);
+  const RangeNumbers ranges =
+      IsShove(situation) ? RangeNumbers(situation.Hands, situation.Range, range) : RangeNumbers(situation.Hands, range);
   return SweepRowAt(QuestionOf(situation, hands), ranges, width);
 }
 

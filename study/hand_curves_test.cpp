@@ -24,13 +24,13 @@ StudySituation Shove(double amount = 9, const std::string& calling = "top 30%") 
                     .CallingRangeName = "Calls"},
           .Range = RangeOf("any"),
           .CallingRange = RangeOf(calling),
-          .Hands = &Hands()};
+          .Hands = Hands()};
 }
 
 StudySituation Call(double pot, double call) {
   return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = pot, .CallAmount = call, .RangeName = "Button"},
           .Range = RangeOf("top 20%"),
-          .Hands = &Hands()};
+          .Hands = Hands()};
 }
 
 std::vector<std::int16_t> HandsOf(const std::string& notation) {

@@ -14,7 +14,7 @@ double StudySituation::OwnAmount() const {
 
 StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);
-  StudySituation situation{.Asked = {.Mode = analysis.Mode}, .Hands = &hands};
+  StudySituation situation{.Asked = {.Mode = analysis.Mode}, .Hands = hands};
   Situation& asked = situation.Asked;
   if (scenario.AmountCount > 0) asked.PotSize = analysis.PotSize;
   if (scenario.AmountCount > 1) asked.CallAmount = analysis.CallAmount;

@@ -2,6 +2,7 @@
 
 // A finished analysis with its ranges read once, for the further questions of the study's pages.
 
+#include <functional>
 #include <string>
 
 #include "analysis/analysis.h"
@@ -14,10 +15,10 @@ struct StudySituation {
   Situation Asked;  // whatever its scenario does not ask for is 0 or empty
   ClassWeights Range{};  // the weights of Asked.RangeText
   ClassWeights CallingRange{};  // of Asked.CallingRangeText; all 0 in a scenario without one
-  const HandNumbers* Hands = nullptr;  // never null; outlives the situation
+  std::reference_wrapper<const HandNumbers> Hands;  // outlive the situation
 
   /// The ranges, ready for thousands of questions.
-  [[nodiscard]] RangeNumbers Numbers() const { return {*Hands, Range, CallingRange}; }
+  [[nodiscard]] RangeNumbers Numbers() const { return {Hands, Range, CallingRange}; }
 
   /// The amounts of the situation.
   [[nodiscard]] Amounts AllAmounts() const { return {Asked.PotSize, Asked.CallAmount, Asked.ShoveAmount}; }

@@ -34,7 +34,7 @@ inline void FinishWork(const StudyWork& work) {
 
 class StudyStage : public testing::Test {
  protected:
-  StudyStage() { LoadEquityTable(); }
+  static void SetUpTestSuite() { LoadEquityTable(); }
   ~StudyStage() override { ShowAtScale(1); }
 
   void Open() { BringToFront(Form); }

@@ -169,7 +169,7 @@ void BalancedPage::Ask() {
 
 void BalancedPage::Search(const BalanceQuestion& question) {
   ShowNotice({});
-  const auto search = std::make_shared<BalanceSearch>(*situation_->Hands, question);
+  const auto search = std::make_shared<BalanceSearch>(situation_->Hands, question);
   work_.Start(
       QStringLiteral("Finding balanced ranges"),
       [search]() -> std::optional<double> {
@@ -221,7 +221,7 @@ void BalancedPage::Tell(std::int16_t index) {
 }
 
 void BalancedPage::SaveCall() {
-  const std::string name = around_.Inputs.Ask(kAskSaveAsName.Prompt, kAskSaveAsName.Title, "Balanced call");
+  const std::string name = around_.Ask({kAskSaveAsName.Prompt, kAskSaveAsName.Title, "Balanced call"});
   if (name.empty() || !ValidateRangeName(around_.Folder, name, around_.Messages)) return;
   SaveRangeText(around_.Folder, name, SearchableRangeText(found_));
   TellSaved(*window(), around_, name);

@@ -33,6 +33,7 @@ class BalancedPage : public StudyPage {
   /// Always nothing: with its own boxes the page can answer for any situation, even before the first analysis.
   [[nodiscard]] std::optional<QString> WhyNothing(const StudySituation& situation) const override;
   void Show(const StudySituation& situation) override;
+  void ShowHand(std::int16_t /*index*/) override {}
 
  Q_SIGNALS:
   /// The calling range was saved and the player told: the lists must be refilled before this returns.

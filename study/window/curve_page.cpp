@@ -64,7 +64,7 @@ CurvePage::CurvePage(ProgramFolder folder, int figures, QWidget* parent)
 
 void CurvePage::Show(const StudySituation& situation) {
   situation_ = situation;
-  bestFirst_ = HandsBestFirst(*situation.Hands);
+  bestFirst_ = HandsBestFirst(situation.Hands);
   const auto hands = ReadCurveHands(FromQt(hands_->text()), bestFirst_);
   if (std::holds_alternative<std::string>(hands)) hands_->setText(ToQt(HandLabel(MarginalHand(situation))));
   curves_ = {};

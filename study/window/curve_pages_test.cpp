@@ -37,13 +37,13 @@ StudySituation Shove() {
                     .CallingRangeName = "Calls"},
           .Range = RangeOf("any"),
           .CallingRange = RangeOf("top 30%"),
-          .Hands = &Hands()};
+          .Hands = Hands()};
 }
 
 StudySituation Call() {
   return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = 110, .CallAmount = 90, .RangeName = "Button"},
           .Range = RangeOf("top 30%"),
-          .Hands = &Hands()};
+          .Hands = Hands()};
 }
 
 template <typename Page>

@@ -103,7 +103,7 @@ void StudyForm::BindKeys() {
 
 void StudyForm::Follow(const Analysis& analysis) {
   const bool isFirst = situation_.Asked.Mode == AnalysisMode::kNone;
-  situation_ = StudySituationOf(analysis, Hands());
+  situation_ = StudySituationOf(analysis, hands_);
   const QString words = ToQt(SituationWords(situation_.Asked));
   about_.setText(ShortWords(situation_.Asked));
   about_.setToolTip(words);
@@ -117,7 +117,7 @@ void StudyForm::Follow(const Analysis& analysis) {
 }
 
 bool StudyForm::IsAbout(const Analysis& analysis) {
-  return StudySituationOf(analysis, Hands()).Asked == situation_.Asked;
+  return StudySituationOf(analysis, hands_).Asked == situation_.Asked;
 }
 
 void StudyForm::Offer(const Analysis& analysis) {
@@ -127,7 +127,7 @@ void StudyForm::Offer(const Analysis& analysis) {
   offered_.reset();
   if (!isNew) return;
   offered_ = analysis;
-  const QString words = ToQt(SituationWords(StudySituationOf(analysis, Hands()).Asked));
+  const QString words = ToQt(SituationWords(StudySituationOf(analysis, hands_).Asked));
   follow_.setToolTip(words);
   follow_.setAccessibleDescription(words);
   Announce(*this, QStringLiteral("Follow the new analysis: %1").arg(words));
@@ -192,13 +192,7 @@ void StudyForm::ShowCurrent() {
   leaf.Stack->setCurrentIndex(nothing ? 0 : 1);
   if (nothing) return Announce(*leaf.Notice, *nothing);
   if (std::exchange(leaf.IsCurrent, true)) return;
-  situation_.Hands = &Hands();
   leaf.Page->Show(situation_);
-}
-
-const HandNumbers& StudyForm::Hands() {
-  if (hands_ == nullptr) hands_ = std::make_unique<HandNumbers>();
-  return *hands_;
 }
 
 }  // namespace quillon

@@ -9,7 +9,6 @@
 #include <QTabWidget>
 #include <QWidget>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -27,10 +26,10 @@ class StudyForm : public QWidget {
   Q_OBJECT
 
  public:
-  /// The window at its last place, hidden and empty.
+  /// The window at its last place, hidden and empty. The equity table must be loaded.
   explicit StudyForm(DialogSurroundings surroundings);
 
-  /// Makes a finished analysis the window's situation. The equity table must be loaded.
+  /// Makes a finished analysis the window's situation.
   void Follow(const Analysis& analysis);
 
   /// Whether the window is about an analysis of the same situation.
@@ -74,15 +73,14 @@ class StudyForm : public QWidget {
   void ShowCurrent();
   void FocusPage();
   [[nodiscard]] Leaf& Current();
-  [[nodiscard]] const HandNumbers& Hands();
 
   DialogSurroundings around_;
   QLabel& about_;
   QPushButton& follow_;
   QTabWidget& tabs_;
   std::vector<Leaf> leaves_;
-  std::unique_ptr<HandNumbers> hands_;  // read when first needed
-  StudySituation situation_;  // without a scenario before the first analysis
+  HandNumbers hands_;
+  StudySituation situation_{.Asked = {}, .Hands = hands_};  // without a scenario before the first analysis
   std::optional<Analysis> offered_;
 };
 

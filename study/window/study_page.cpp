@@ -16,6 +16,4 @@ std::optional<QString> StudyPage::WhyNothing(const StudySituation& situation) co
       "Preflop Raise.");
 }
 
-void StudyPage::ShowHand(std::int16_t /*index*/) {}
-
 }  // namespace quillon

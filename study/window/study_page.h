@@ -31,8 +31,8 @@ class StudyPage : public QWidget {
   /// Shows a situation that the page has something for. `situation` must be copied.
   virtual void Show(const StudySituation& situation) = 0;
 
-  /// Goes to a hand of the current situation, if the page can. By default nothing happens.
-  virtual void ShowHand(std::int16_t index);
+  /// Goes to a hand of the current situation, if the page shows hands one by one.
+  virtual void ShowHand(std::int16_t index) = 0;
 
  Q_SIGNALS:
   /// The player wants to see this hand on another page.
