@@ -78,7 +78,7 @@ void Finish(AnalysisState& state, const Analysis& analysis, AnalysisWindow& wind
   state.Running = false;
   window.PresentResults(state);
   window.SetResultsShown(true);
-  window.ClickNav(kGridNav);
+  window.ShowGrid(state);
 }
 
 }  // namespace

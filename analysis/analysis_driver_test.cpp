@@ -59,10 +59,10 @@ class RecordingWindow : public AnalysisWindow {
     }
     return "no list";
   }
+  [[nodiscard]] NumberMarks Marks() const override { return {}; }
   [[nodiscard]] MessageBoxes& Messages() override { return Boxes; }
 
   void ShowFrame(std::string_view name) override { Note("ShowFrame", name); }
-  void ClickNav(std::int16_t index) override { Note("ClickNav", std::to_string(index)); }
   void SetResultsShown(bool shown) override { Note("SetResultsShown", shown ? "true" : "false"); }
   void SetNoResultsCaption(std::string_view caption) override { Note("SetNoResultsCaption", caption); }
   void SetNoResultsUnderline(bool underline) override { Note("SetNoResultsUnderline", underline ? "true" : "false"); }
@@ -75,6 +75,7 @@ class RecordingWindow : public AnalysisWindow {
   void HideGridBack() override { Note("HideGridBack", ""); }
   void Yield() override { Note("Yield", ""); }
   void PresentResults(const Analysis& /*analysis*/) override { Note("PresentResults", ""); }
+  void ShowGrid(const Analysis& /*analysis*/) override { Note("ShowGrid", ""); }
 
   // The number of log lines that start with `text`.
   [[nodiscard]] std::ptrdiff_t Count(std::string_view text) const {
@@ -178,7 +179,7 @@ TEST_F(AnalysisDriver, AFinishedRunEndsInOrder) {
   EXPECT_THAT(window_.LogFromLast("Yield"),
               ElementsAre("Yield", "SetNoResultsUnderline false",
                           "SetNoResultsCaption There are no results to display at this time.", "PresentResults",
-                          "SetResultsShown true", "ClickNav 3"));
+                          "SetResultsShown true", "ShowGrid"));
   EXPECT_FALSE(state_.Running);
 }
 
@@ -272,7 +273,7 @@ TEST_F(AnalysisDriver, AStopInTheLastYieldThrowsAllClassesAway) {
 
   window_.OnCall = nullptr;
   Run(kEquityButton);
-  EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the next run succeeds";
+  EXPECT_EQ(window_.Log.back(), "ShowGrid") << "the next run succeeds";
 }
 
 TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
@@ -284,7 +285,7 @@ TEST_F(AnalysisDriver, ARunInsideARunStopsTheOuterOneAtItsNextClass) {
   Run(kRaiseButton);
   EXPECT_THAT(
       window_.LogFromLast("PresentResults"),
-      ElementsAre("PresentResults", "SetResultsShown true", "ClickNav 3", "RaiseCell 3", "SetProgressPercent 2%",
+      ElementsAre("PresentResults", "SetResultsShown true", "ShowGrid", "RaiseCell 3", "SetProgressPercent 2%",
                   "SetProgressBarWidth 184.970413208008", "SetNoResultsUnderline false",
                   "SetNoResultsCaption There are no results to display at this time.", "ShowFrame Equity Only"));
   EXPECT_EQ(window_.Count("RaiseCell"), 4 + 169);
@@ -323,7 +324,7 @@ TEST_F(AnalysisDriver, AClickThatItsCheckRefusesLeavesTheRunItsOwnScenario) {
       };
       Run(button);
       EXPECT_FALSE(window_.Boxes.Shown.empty());
-      EXPECT_EQ(window_.Log.back(), "ClickNav 3") << "the run continues and finishes";
+      EXPECT_EQ(window_.Log.back(), "ShowGrid") << "the run continues and finishes";
       EXPECT_EQ(presented, ScreenOfButton(button).Mode);
       EXPECT_EQ(state_.HandInfo, TableOf(button, situation));
     }

@@ -13,13 +13,6 @@
 
 namespace quillon {
 
-/// The links of the side panel, `lblNav`, by index: first the input screens, then, from the grid on, the results.
-inline constexpr std::int16_t kCallNav = 0;
-inline constexpr std::int16_t kRaiseNav = 1;
-inline constexpr std::int16_t kEquityNav = 2;
-inline constexpr std::int16_t kGridNav = 3;
-inline constexpr std::int16_t kDetailsNav = 4;
-
 class AnalysisWindow {
  public:
   virtual ~AnalysisWindow() = default;
@@ -31,16 +24,13 @@ class AnalysisWindow {
   [[nodiscard]] virtual std::string SelectedRange(std::int16_t index) const = 0;
 
   /// The user's marks in amounts, accepted besides the plain ones.
-  [[nodiscard]] virtual NumberMarks Marks() const { return {}; }
+  [[nodiscard]] virtual NumberMarks Marks() const = 0;
 
   /// Shows the complaint of an input check.
   [[nodiscard]] virtual MessageBoxes& Messages() = 0;
 
   /// Shows the screen of that name: "Progress", or the input screen of a scenario.
   virtual void ShowFrame(std::string_view name) = 0;
-
-  /// Does what a click on the navigation entry `lblNav(index)` does.
-  virtual void ClickNav(std::int16_t index) = 0;
 
   /// Shows or hides the results entries of the navigation; `lblNoResults` is visible when they are not.
   virtual void SetResultsShown(bool shown) = 0;
@@ -54,7 +44,7 @@ class AnalysisWindow {
   /// `lblProgressPerc`.
   virtual void SetProgressPercent(std::string_view caption) = 0;
 
-  /// The width of `picProgBar` in twips, 7815 when full.
+  /// The width of `picProgBar` in twips.
   virtual void SetProgressBarWidth(float twips) = 0;
 
   /// Brings the grid cell of a class to the front: `shapeCardBack(index)`, then `lblCards(index)`.
@@ -69,6 +59,9 @@ class AnalysisWindow {
 
   /// Colours the grid and shows the texts of a finished run.
   virtual void PresentResults(const Analysis& analysis) = 0;
+
+  /// Does what a click on the grid's link in the side panel does: a run has finished with this.
+  virtual void ShowGrid(const Analysis& analysis) = 0;
 };
 
 }  // namespace quillon

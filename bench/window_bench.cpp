@@ -25,20 +25,12 @@
 namespace quillon {
 namespace {
 
-class NoBoxes : public MessageBoxes, public InputBoxes {
+class NoBoxes : public MessageBoxes {
  public:
   MessageAnswer Show(const Message& message) override {
     std::cerr << message.title << ": " << message.text << "\n";
     std::exit(EXIT_FAILURE);
   }
-  std::string Ask(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view /*defaultText*/) override {
-    return {};
-  }
-};
-
-class NoWeb : public WebClient {
- public:
-  std::string Get(std::string_view /*address*/) override { return {}; }
 };
 
 // Counts the paint events of a widget.
@@ -62,7 +54,6 @@ class PaintWatch : public QObject {
 struct Program {
   TemporaryProgram Files;
   NoBoxes Boxes;
-  NoWeb Web;
   ShiftWatch Shift;
   std::unique_ptr<MainForm> Window;
 
@@ -71,15 +62,15 @@ struct Program {
     Window = std::make_unique<MainForm>(MainForm::Surroundings{.Folder = Files.Folder(),
                                                                .UserGuide = {},
                                                                .Messages = Boxes,
-                                                               .Inputs = Boxes,
-                                                               .Web = Web,
+                                                               .Ask = {},
+                                                               .Web = {},
                                                                .Shift = Shift,
                                                                .EndProcess = [] {}});
     Window->Start();
     QCoreApplication::processEvents();
   }
 
-  [[nodiscard]] MainControls& Controls() const { return Window->Controls(); }
+  [[nodiscard]] const MainControls& Controls() const { return Window->Controls(); }
 
   void FillInRaise() const {
     Controls().LabelAt("lblNav", 1).Click();

@@ -8,15 +8,10 @@
 
 #include "hand/hand_classes.h"
 #include "ranges/range_notation.h"
+#include "support/line_question.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
-
-/// A question for a line of text ("support/input_boxes.h").
-struct LineQuestion {
-  std::string_view Prompt;
-  std::string_view Title;
-};
 
 // Intentional: the title of New is that of Rename, as players know it.
 inline constexpr LineQuestion kAskNewName = {"What do you want to name the range?", "Rename Range"};

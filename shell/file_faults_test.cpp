@@ -66,7 +66,7 @@ void SaveSituation(const std::string& name, const ProgramFolder& folder) {
   inputs.Answers = {name};
   messages.Answers = {MessageAnswer::kYes};
   const ScreenSituation situation = {AnalysisMode::kPreflopCall, {"150", "50", {}, std::string(900, 'x'), {}}};
-  EXPECT_EQ(AskAndSaveSituation(situation, {}, folder, inputs, messages), name);
+  EXPECT_EQ(AskAndSaveSituation(situation, {}, folder, std::ref(inputs), messages), name);
 }
 
 struct Action {

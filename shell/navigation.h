@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "analysis/analysis_window.h"
 #include "support/rgb.h"
 #include "support/twips.h"
 
@@ -18,11 +17,12 @@ namespace quillon {
 /// The screen without a link: it shows at start and on a click on the logo.
 inline constexpr std::string_view kAboutScreen = "About";
 
+/// The links that lead to results, by their index in `lblNav`. Those of the input screens come before them.
+inline constexpr std::int16_t kGridNav = 3;
+inline constexpr std::int16_t kDetailsNav = 4;
+
 /// The height of every screen.
 inline constexpr float kScreenHeight = 8645;
-
-/// The index when no link is selected.
-inline constexpr std::int16_t kNoNav = -1;
 
 /// The colour of the panel's headings, and of the links to results.
 inline constexpr Rgb kPaleYellow = {0xFF, 0xFF, 0xC0};

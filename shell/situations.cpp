@@ -74,14 +74,14 @@ std::vector<std::string> SituationNames(const ProgramFolder& folder) {
 }
 
 std::optional<std::string> AskAndSaveSituation(const ScreenSituation& situation, std::string_view proposed,
-                                               const ProgramFolder& folder, InputBoxes& inputs,
+                                               const ProgramFolder& folder, const AskLine& ask,
                                                MessageBoxes& messages) {
   const SituationText text = TextOfSituation(situation);
   if (!text.Fault.empty()) {
     messages.Show(Refusal(Joined({"This situation cannot be saved: ", text.Fault, "."})));
     return std::nullopt;
   }
-  std::string name = inputs.Ask(kNamePrompt, kNameTitle, proposed);
+  std::string name = ask({kNamePrompt, kNameTitle, proposed});
   if (name.empty()) return std::nullopt;
   std::optional<Message> complaint = NameComplaint(kThing, name);
   const std::filesystem::path file = SituationFilePath(folder, name);

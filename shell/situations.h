@@ -12,7 +12,7 @@
 
 #include "ranges/range_files.h"
 #include "study/situation_file.h"
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
@@ -32,7 +32,7 @@ namespace quillon {
 /// not be read again. RunTimeError, with file and reason, if it cannot be written; the old file is then whole.
 [[nodiscard]] std::optional<std::string> AskAndSaveSituation(const ScreenSituation& situation,
                                                              std::string_view proposed, const ProgramFolder& folder,
-                                                             InputBoxes& inputs, MessageBoxes& messages);
+                                                             const AskLine& ask, MessageBoxes& messages);
 
 /// A situation for the window to show.
 struct OpenedSituation {

@@ -18,7 +18,8 @@ TEST(SituationFiles, ThatALinkToNowhereHoldsAreAskedAbout) {
   RecordedMessages messages;
   inputs.Answers = {"Link"};
   messages.Answers = {MessageAnswer::kNo};
-  EXPECT_EQ(AskAndSaveSituation({AnalysisMode::kEquityOnly, {}}, {}, program.Folder(), inputs, messages), std::nullopt);
+  EXPECT_EQ(AskAndSaveSituation({AnalysisMode::kEquityOnly, {}}, {}, program.Folder(), std::ref(inputs), messages),
+            std::nullopt);
   ASSERT_EQ(messages.Shown.size(), 1U);
   EXPECT_EQ(messages.Shown[0].title, "Replace?");
 }

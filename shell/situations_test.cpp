@@ -42,7 +42,7 @@ class Situations : public testing::Test {
 
   std::optional<std::string> Save(const std::string& answer, const ScreenSituation& situation = kShove) {
     inputs_.Answers = {answer};
-    return AskAndSaveSituation(situation, "Last", Folder(), inputs_, messages_);
+    return AskAndSaveSituation(situation, "Last", Folder(), std::ref(inputs_), messages_);
   }
   std::optional<OpenedSituation> Open(std::string_view name) { return OpenSituation(name, Folder(), messages_); }
 

@@ -102,7 +102,7 @@ class DialogStage {
   RangeDialogs Dialogs{
       Main,
       Main.Controls,
-      {.Folder = Program.Folder(), .Messages = Boxes, .Inputs = Boxes, .Shift = Shift, .BestFirst = IndexOrder}};
+      {.Folder = Program.Folder(), .Messages = Boxes, .Ask = AskForLine, .Shift = Shift, .BestFirst = IndexOrder}};
 };
 
 /// A click of the left mouse button in the middle of the control, sent to its window, so that whatever is in front

@@ -23,8 +23,9 @@
 
 #include "hand/hand_classes.h"
 #include "shell/screens/main_form.h"
+#include "shell/settings_file.h"
+#include "shell/start_up.h"
 #include "shell/user_guide.h"
-#include "shell/web_client.h"
 #include "testing/bring_to_front.h"
 #include "testing/dialog_stage.h"
 #include "testing/expected_boxes.h"
@@ -45,15 +46,18 @@ inline constexpr std::int16_t kRaiseScreen = 4;
 inline constexpr std::int16_t kAboutScreenIndex = 5;
 inline constexpr std::int16_t kEquityScreen = 6;
 
-/// A web client that returns a given answer, or asks another client, and records each address.
-class RecordedWeb : public WebClient {
- public:
-  explicit RecordedWeb(std::deque<std::string> replies = {}) : Replies(std::move(replies)) {}
+/// The links of the input screens, lblNav, by index.
+inline constexpr std::int16_t kCallNav = 0;
+inline constexpr std::int16_t kRaiseNav = 1;
+inline constexpr std::int16_t kEquityNav = 2;
 
-  std::string Get(std::string_view address) override {
+/// A web client that returns a given answer, or asks another client, and records each address.
+class RecordedWeb {
+ public:
+  std::string operator()(std::string_view address) {
     Asked.emplace_back(address);
     if (WhileAsked) WhileAsked();
-    if (Behind != nullptr) return Behind->Get(address);
+    if (Behind) return Behind(address);
     if (Replies.empty()) return {};
     std::string reply = Replies.front();
     Replies.pop_front();
@@ -62,7 +66,7 @@ class RecordedWeb : public WebClient {
 
   std::vector<std::string> Asked;
   std::deque<std::string> Replies;  // to the next requests, in order; further ones fail
-  WebClient* Behind = nullptr;  // if set, answers instead of the replies
+  WebClient Behind;  // if set, answers instead of the replies
   std::function<void()> WhileAsked;  // called during a request
 };
 
@@ -78,8 +82,8 @@ class MainStage {
       : Form({.Folder = Program.Folder(),
               .UserGuide = UserGuidePath(Program.Folder().Path),
               .Messages = Boxes,
-              .Inputs = Boxes,
-              .Web = Web,
+              .Ask = AskForLine,
+              .Web = std::ref(Web),
               .Shift = Shift,
               .EndProcess = [this] { End(); },
               .Marks = std::move(marks),
@@ -236,10 +240,10 @@ class MainStage {
   [[nodiscard]] static QLineEdit& NameLineOf(QDialog& dialog) {
     return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   }
-  [[nodiscard]] std::filesystem::path SavedGrids() const { return Program.Folder().Path / "Saved Grids"; }
+  [[nodiscard]] std::filesystem::path SavedGrids() const { return SavedGridsFolderPath(Program.Folder()); }
 
-  [[nodiscard]] std::string Settings() const { return BytesOf(Program.Folder().Path / "settings.ini"); }
-  void WriteSettings(std::string_view text) const { Put(Program.Folder().Path / "settings.ini", text); }
+  [[nodiscard]] std::string Settings() const { return BytesOf(SettingsFilePath(Program.Folder())); }
+  void WriteSettings(std::string_view text) const { Put(SettingsFilePath(Program.Folder()), text); }
 
   TemporaryProgram Program;
   bool ShiftHeld = false;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 
 namespace quillon {
 
@@ -22,10 +22,10 @@ struct InputQuestion {
   }
 };
 
-class RecordedInput : public InputBoxes {
+class RecordedInput {
  public:
-  std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override {
-    Asked.push_back({std::string(prompt), std::string(title), std::string(defaultText)});
+  std::string operator()(const LineQuestion& question) {
+    Asked.push_back({std::string(question.Prompt), std::string(question.Title), std::string(question.Proposal)});
     if (Answers.empty()) return {};
     std::string answer = Answers.front();
     Answers.pop_front();

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <functional>
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
@@ -61,8 +62,11 @@ class StudyStage : public testing::Test {
   RecordedMessages Messages;
   RecordedInput Inputs;
   ShiftWatch Shift{[] { return false; }};
-  DialogSurroundings Around{
-      .Folder = Program.Folder(), .Messages = Messages, .Inputs = Inputs, .Shift = Shift, .BestFirst = BestFirst};
+  DialogSurroundings Around{.Folder = Program.Folder(),
+                            .Messages = Messages,
+                            .Ask = std::ref(Inputs),
+                            .Shift = Shift,
+                            .BestFirst = BestFirst};
   StudyForm Form{Around};
 };
 

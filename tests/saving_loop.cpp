@@ -36,7 +36,7 @@ void SaveSituation(const ProgramFolder& folder, const std::string& name, int rou
   RecordedMessages messages;
   inputs.Answers = {name};
   messages.Answers = {MessageAnswer::kYes};
-  if (AskAndSaveSituation(LongSituation(round), {}, folder, inputs, messages) == name) return;
+  if (AskAndSaveSituation(LongSituation(round), {}, folder, std::ref(inputs), messages) == name) return;
   throw std::runtime_error("not saved: the situation " + name);
 }
 

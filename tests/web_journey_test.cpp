@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "results/web_addresses.h"
-#include "shell/screens/http_client.h"
+#include "shell/screens/web_client.h"
 #include "testing/loopback_host.h"
 #include "testing/main_stage.h"
 
@@ -28,30 +28,21 @@ using std::chrono::milliseconds;
 
 const InputQuestion kAddressQuestion = {"What is your email address?", "Quillon", ""};
 
-// The program's own client, redirected to a host on this machine.
-class LoopbackClient : public WebClient {
- public:
-  explicit LoopbackClient(const LoopbackHost& host) : host_(host) {}
-
-  std::string Get(std::string_view address) override {
-    const std::string productHost = "http://" + std::string(WebHost()) + "/";
-    EXPECT_TRUE(address.starts_with(productHost)) << address;
-    address.remove_prefix(productHost.size());
-    return HttpClient(milliseconds(20'000))  // only reached by a failing test
-        .Get("http://127.0.0.1:" + std::to_string(host_.Port()) + "/" + std::string(address));
-  }
-
- private:
-  const LoopbackHost& host_;
-};
-
 bool HourglassShows() {
   return QGuiApplication::overrideCursor() != nullptr;
 }
 
 class WebStage : public MainStage {
  public:
-  explicit WebStage(LoopbackHost::Serve serve) : Host(std::move(serve)) { Web.Behind = &client_; }
+  explicit WebStage(LoopbackHost::Serve serve) : Host(std::move(serve)) {
+    // The program's own client, redirected to a host on this machine.
+    Web.Behind = [this](std::string_view address) {
+      const std::string productHost = "http://" + std::string(WebHost());
+      EXPECT_TRUE(address.starts_with(productHost + "/")) << address;
+      address.remove_prefix(productHost.size());
+      return WaitForHttp(Host.Address(address), milliseconds(20'000));  // only reached by a failing test
+    };
+  }
 
   [[nodiscard]] QPlainTextEdit& Note() { return Get<QPlainTextEdit>("txtFeedback"); }
   void SendNote() {
@@ -60,9 +51,6 @@ class WebStage : public MainStage {
   }
 
   LoopbackHost Host;
-
- private:
-  LoopbackClient client_{Host};
 };
 
 TEST(WebJourney, NothingThatIsDoneDuringARequestIsHeard) {

@@ -89,13 +89,13 @@ MessageAnswer MessageDialogs::Show(const Message& message) {
   return AnswerOf(box.exec());
 }
 
-std::string MessageDialogs::Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) {
+std::string AskForLine(const LineQuestion& question) {
   QInputDialog box(AskingWindow());
-  box.setWindowTitle(ToQt(title));
-  box.setLabelText(ToQt(prompt));
+  box.setWindowTitle(ToQt(question.Title));
+  box.setLabelText(ToQt(question.Prompt));
   box.setInputMode(QInputDialog::TextInput);
   KeepToOneLine(*box.findChild<QLineEdit*>());
-  box.setTextValue(ToQt(defaultText));
+  box.setTextValue(ToQt(question.Proposal));
   return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
 }
 

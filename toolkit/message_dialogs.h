@@ -5,16 +5,18 @@
 
 #include <QMessageBox>
 
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
 
-class MessageDialogs : public MessageBoxes, public InputBoxes {
+class MessageDialogs : public MessageBoxes {
  public:
   MessageAnswer Show(const Message& message) override;
-  std::string Ask(std::string_view prompt, std::string_view title, std::string_view defaultText) override;
 };
+
+/// Asks in an input box (AskLine).
+[[nodiscard]] std::string AskForLine(const LineQuestion& question);
 
 /// Sets up a box: its text is plain text and can be selected with the mouse.
 void FillMessageBox(QMessageBox& box, const Message& message);

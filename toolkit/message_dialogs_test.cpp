@@ -132,7 +132,7 @@ TEST_F(AskingWindows, AreThoseWhoseUserIsAnsweredWhateverHasComeInFront) {
     // Right after a box no window is active, until the window system activates one.
     QApplication::setActiveWindow(nullptr);
     ExpectBoxOf(asker);
-    boxes.Ask("Name?", "New Range", "");
+    static_cast<void>(AskForLine({"Name?", "New Range"}));
     QApplication::setActiveWindow(nullptr);
     ExpectBoxOf(asker);
     boxes.Show(With(MessageButtons::kYesNo));
@@ -249,7 +249,7 @@ TEST(MessageDialogs, OfferTheDefaultTextSelected) {
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
 
-  EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", "Button"), "Button");
+  EXPECT_EQ(AskForLine({"Name?", "New Range", "Button"}), "Button");
 }
 
 TEST(MessageDialogs, TakeOneLineWithoutTabs) {
@@ -257,10 +257,10 @@ TEST(MessageDialogs, TakeOneLineWithoutTabs) {
     dialog.findChild<QLineEdit*>()->insert(QStringLiteral("B\u00E4r\tBlind\r\nCall"));
     dialog.accept();
   });
-  EXPECT_EQ(MessageDialogs().Ask("Name?", "New Range", ""), "B\u00E4r Blind");
+  EXPECT_EQ(AskForLine({"Name?", "New Range", ""}), "B\u00E4r Blind");
 
   ExpectDialog([](QDialog& dialog) { dialog.accept(); });
-  EXPECT_EQ(MessageDialogs().Ask("Name?", "Rename Range", "Big\tBlind"), "Big Blind");
+  EXPECT_EQ(AskForLine({"Name?", "Rename Range", "Big\tBlind"}), "Big Blind");
 }
 
 TEST(MessageDialogs, GetTheEmptyTextFromALineThatIsLeftOrEmptied) {
@@ -270,7 +270,7 @@ TEST(MessageDialogs, GetTheEmptyTextFromALineThatIsLeftOrEmptied) {
   ExpectDialog([](QDialog& box) { box.close(); });
 
   for (int i = 0; i < 4; ++i)
-    EXPECT_EQ(MessageDialogs().Ask("Name?", "", "Button"), "");
+    EXPECT_EQ(AskForLine({"Name?", "", "Button"}), "");
 }
 
 }  // namespace

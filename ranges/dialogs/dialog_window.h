@@ -9,7 +9,7 @@
 
 #include "ranges/range_files.h"
 #include "ranges/range_notation.h"
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 #include "support/message_boxes.h"
 #include "support/twips.h"
 #include "toolkit/form_builder.h"
@@ -21,7 +21,7 @@ namespace quillon {
 struct DialogSurroundings {
   ProgramFolder Folder;
   MessageBoxes& Messages;
-  InputBoxes& Inputs;
+  AskLine Ask;
   ShiftWatch& Shift;
   std::function<HandOrder()> BestFirst;  // the classes in the order of "top 15%"
 };

@@ -82,7 +82,7 @@ void GridPainting::PaintText(const QString& notation) {
 }
 
 void GridPainting::PaintBest() {
-  const std::string share = around_.Inputs.Ask(kAskTopShare.Prompt, kAskTopShare.Title, {});
+  const std::string share = around_.Ask(kAskTopShare);
   if (share.empty()) return;
   if (const auto cells = BestCells(share, half_.isChecked(), around_.BestFirst())) {
     Paint(*cells);

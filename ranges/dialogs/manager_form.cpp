@@ -141,7 +141,7 @@ void ManagerForm::ClickOk() {
 }
 
 std::string ManagerForm::AskName(const LineQuestion& question, std::string_view onOffer) {
-  return around_.Inputs.Ask(question.Prompt, question.Title, onOffer);
+  return around_.Ask({question.Prompt, question.Title, onOffer});
 }
 
 bool ManagerForm::MayTakeName(std::string_view name) {

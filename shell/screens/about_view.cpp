@@ -64,7 +64,7 @@ void AboutView::CheckForUpgrade() {
   if (state != CheckBoxState::kChecked) return link.hide();
 
   ShowCurrentVersion(kUpgradeAskedCaption);
-  const UpgradeLook look = UpgradeLookOf(around_.Web.Get(VersionFileAddress()));
+  const UpgradeLook look = UpgradeLookOf(around_.Web(VersionFileAddress()));
   ShowCurrentVersion(look.CurrentVersion);
   link.setVisible(!look.Link.empty());
   if (!look.Link.empty()) link.SetText(ToQt(look.Link));
@@ -88,11 +88,11 @@ void AboutView::SendFeedback() {
     around_.Messages.Show(*complaint);
     return;
   }
-  const std::string writer = FeedbackWriter(around_.Inputs.Ask(kAskAddress, kApplicationTitle, {}));
+  const std::string writer = FeedbackWriter(around_.Ask({.Prompt = kAskAddress, .Title = kApplicationTitle}));
 
   ShowHourglass(true);
   WaitToSend();
-  const bool sent = TellsSent(around_.Web.Get(FeedbackRequest(writer, FeedbackText())));
+  const bool sent = TellsSent(around_.Web(FeedbackRequest(writer, FeedbackText())));
   ShowHourglass(false);
 
   if (sent) controls_.Get<QPlainTextEdit>("txtFeedback").setPlainText({});

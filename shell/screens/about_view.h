@@ -9,9 +9,9 @@
 
 #include "ranges/range_files.h"
 #include "shell/screens/main_layout.h"
+#include "shell/screens/web_client.h"
 #include "shell/upgrade_check.h"
-#include "shell/web_client.h"
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 #include "support/message_boxes.h"
 
 namespace quillon {
@@ -25,8 +25,8 @@ class AboutView {
   struct Surroundings {
     ProgramFolder Folder;
     MessageBoxes& Messages;
-    InputBoxes& Inputs;
-    WebClient& Web;
+    AskLine Ask;
+    WebClient Web;
     std::function<std::int32_t()> Clock;  // the millisecond counter for waits
   };
 

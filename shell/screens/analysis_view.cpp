@@ -28,14 +28,6 @@ void AnalysisView::ShowFrame(std::string_view name) {
   parts_.Screens.ShowFrame(name);
 }
 
-void AnalysisView::ClickNav(std::int16_t index) {
-  parts_.ClickNav(index);
-  // The focus moves here after a run.
-  Label& results = parts_.Controls.LabelAt("lblResults");
-  Announce(results, results.Text());
-  if (const Analysis* const finished = std::exchange(finished_, nullptr)) parts_.Finished(*finished);
-}
-
 void AnalysisView::SetResultsShown(bool shown) {
   parts_.Results.SetResultsShown(shown);
 }
@@ -77,7 +69,13 @@ void AnalysisView::Yield() {
 
 void AnalysisView::PresentResults(const Analysis& analysis) {
   parts_.Results.Present(analysis);
-  finished_ = &analysis;
+}
+
+void AnalysisView::ShowGrid(const Analysis& analysis) {
+  parts_.ClickNav(kGridNav);
+  Label& results = parts_.Controls.LabelAt("lblResults");
+  Announce(results, results.Text());
+  parts_.Finished(analysis);
 }
 
 }  // namespace quillon

@@ -43,7 +43,6 @@ class AnalysisView : public AnalysisWindow {
   [[nodiscard]] NumberMarks Marks() const override { return parts_.Marks; }
   [[nodiscard]] MessageBoxes& Messages() override { return parts_.Boxes; }
   void ShowFrame(std::string_view name) override;
-  void ClickNav(std::int16_t index) override;
   void SetResultsShown(bool shown) override;
   void SetNoResultsCaption(std::string_view caption) override;
   void SetNoResultsUnderline(bool underline) override;
@@ -54,12 +53,12 @@ class AnalysisView : public AnalysisWindow {
   void HideGridBack() override;
   void Yield() override;
   void PresentResults(const Analysis& analysis) override;
+  void ShowGrid(const Analysis& analysis) override;
 
  private:
   Parts parts_;
   UserAct stop_;
   bool isStopping_ = false;  // until the stop has been handled
-  const Analysis* finished_ = nullptr;  // until its results are shown
 };
 
 }  // namespace quillon

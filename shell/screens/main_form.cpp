@@ -98,7 +98,7 @@ MainForm::MainForm(Surroundings surroundings)
       report_(controls_),
       about_(controls_, {.Folder = around_.Folder,
                          .Messages = around_.Messages,
-                         .Inputs = around_.Inputs,
+                         .Ask = around_.Ask,
                          .Web = around_.Web,
                          .Clock = around_.Clock}),
       image_(*this, controls_, around_.Messages, around_.Folder),
@@ -127,7 +127,7 @@ MainForm::MainForm(Surroundings surroundings)
                    .Screens = navigation_,
                    .ClickNav = [this](std::int16_t link) { ClickNav(link); },
                    .Messages = around_.Messages,
-                   .Names = around_.Inputs,
+                   .Ask = around_.Ask,
                    .Folder = around_.Folder}),
       zoom_(*this, around_.Folder),
       stop_(BindKey(*this, Qt::Key_Escape, [this] { analysis_.Stop(state_); })) {
@@ -146,7 +146,7 @@ MainForm::MainForm(Surroundings surroundings)
 DialogSurroundings MainForm::AroundDialogs() const {
   return {.Folder = around_.Folder,
           .Messages = around_.Messages,
-          .Inputs = around_.Inputs,
+          .Ask = around_.Ask,
           .Shift = around_.Shift,
           .BestFirst = [] { return HandsBestFirst(HandNumbers()); }};
 }
@@ -310,7 +310,7 @@ void MainForm::BindKeys() {
     BindPress(controls_.LabelAt("lblNav", i), Qt::CTRL | kLinkKeys.at(static_cast<std::size_t>(i)));
   BindPress(controls_.LabelAt("lblRangeManager"), Qt::CTRL | Qt::Key_R);
   for (std::int16_t i = 0; i < controls_.CountOf("cmdPreflopEV"); ++i) {
-    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
+    for (const Qt::Key enter : kEnterKeys)
       BindPress(controls_.PictureAt("cmdPreflopEV", i), Qt::CTRL | enter);
   }
   stop_.setEnabled(false);

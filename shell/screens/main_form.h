@@ -23,8 +23,8 @@
 #include "shell/screens/results_view.h"
 #include "shell/screens/situation_view.h"
 #include "shell/screens/study_view.h"
+#include "shell/screens/web_client.h"
 #include "shell/screens/zoom_view.h"
-#include "shell/web_client.h"
 #include "toolkit/focus_mark.h"
 #include "toolkit/form_card_grid.h"
 
@@ -39,8 +39,8 @@ class MainForm : public QWidget {
     ProgramFolder Folder;
     std::filesystem::path UserGuide;
     MessageBoxes& Messages;
-    InputBoxes& Inputs;
-    WebClient& Web;
+    AskLine Ask;
+    WebClient Web;
     ShiftWatch& Shift;
     std::function<void()> EndProcess;  // ends the program at once
     NumberMarks Marks = {};  // of the user's locale
@@ -53,7 +53,7 @@ class MainForm : public QWidget {
   /// is shown, if a folder cannot be created or the ranges cannot be listed ("ranges/range_lists.h").
   void Start();
 
-  [[nodiscard]] MainControls& Controls() { return controls_; }
+  [[nodiscard]] const MainControls& Controls() const { return controls_; }
   [[nodiscard]] AnalysisState& State() { return state_; }
   [[nodiscard]] RangeDialogs& Dialogs() { return dialogs_; }
   [[nodiscard]] const ZoomView& Zoom() const { return zoom_; }

@@ -2,9 +2,9 @@
 
 #include <QAbstractButton>
 #include <QPlainTextEdit>
+#include <cassert>
 #include <string>
 
-#include "support/run_time_error.h"
 #include "toolkit/application.h"
 #include "toolkit/colors.h"
 #include "toolkit/placement.h"
@@ -18,11 +18,10 @@ constexpr std::string_view kScreenName = "frameContent";
 constexpr std::string_view kNavName = "lblNav";
 
 Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
-  for (std::int16_t index = 0; index < controls.CountOf(kScreenName); ++index) {
-    Frame& screen = controls.FrameAt(kScreenName, index);
-    if (FromQt(screen.Caption()) == name) return screen;
-  }
-  throw RunTimeError(RunTimeFault::kInvalidProcedureCall, "no screen is called " + std::string(name));
+  std::int16_t index = 0;
+  for (; FromQt(controls.FrameAt(kScreenName, index).Caption()) != name; ++index)
+    assert(index + 1 < controls.CountOf(kScreenName));
+  return controls.FrameAt(kScreenName, index);
 }
 
 // A focus on the hidden screen is given to the window: Qt would otherwise move it to a neighbour, or to the window's
@@ -113,11 +112,11 @@ void NavigationView::HoverPanel() {
 
 void NavigationView::ClickLogo() {
   controls_.PictureAt("imgBackground").hide();
-  RestLinks(kNoNav);
+  RestLinks({});
   ShowFrame(kAboutScreen);
 }
 
-void NavigationView::RestLinks(std::int16_t selected) {
+void NavigationView::RestLinks(std::optional<std::int16_t> selected) {
   for (std::int16_t link = 0; link < controls_.CountOf(kNavName); ++link)
     SetLook(link, RestingLink(link, link == selected));
 }

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,7 +26,7 @@ class NavigationView {
   /// Shows the screen of exactly that name, white and in front of all others, which are hidden, and returns it. Resets
   /// the mouse pointer. In response to a key ("toolkit/application.h"), the first control of the screen that is not
   /// just a button gets the focus, such as its first box; otherwise a focus on the hidden screen is dropped.
-  /// RunTimeError "Invalid procedure call or argument", with nothing changed, if no screen has that name.
+  /// There must be a screen of that name.
   Frame& ShowFrame(std::string_view name);
 
   /// Shows the screen of `lblNav(link)`, moves the selection bar behind the link, and selects it.
@@ -40,12 +41,12 @@ class NavigationView {
   void ClickLogo();
 
  private:
-  void RestLinks(std::int16_t selected);
+  void RestLinks(std::optional<std::int16_t> selected);
   void SetLook(std::int16_t link, const LinkLook& look);
 
   QWidget& form_;
   const MainControls& controls_;
-  std::int16_t selected_ = kNoNav;
+  std::optional<std::int16_t> selected_;
 };
 
 }  // namespace quillon

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "shell/program_folder.h"
-#include "shell/screens/http_client.h"
 #include "shell/screens/main_form.h"
+#include "shell/screens/web_client.h"
 #include "shell/user_guide.h"
 #include "support/this_process.h"
 #include "toolkit/application.h"
@@ -25,13 +25,12 @@ int RunWindow() {
   const std::filesystem::path executableFolder = ExecutableFolder();
   const ProgramFolder folder{ProgramFolderPath(executableFolder, ProcessVariable)};
   MessageDialogs boxes;
-  HttpClient web;
   ShiftWatch shift;
   MainForm window({.Folder = folder,
                    .UserGuide = UserGuidePath(SharedFolderPath(executableFolder)),
                    .Messages = boxes,
-                   .Inputs = boxes,
-                   .Web = web,
+                   .Ask = AskForLine,
+                   .Web = [](std::string_view address) { return WaitForHttp(address, kWebTimeLimit); },
                    .Shift = shift,
                    .EndProcess =
                        [] {

@@ -17,7 +17,7 @@ void SituationView::Save() {
     return;
   }
   const ScreenSituation situation{screen->Mode, EnteredOn(*screen, parts_.Inputs)};
-  auto name = AskAndSaveSituation(situation, lastName_, parts_.Folder, parts_.Names, parts_.Messages);
+  auto name = AskAndSaveSituation(situation, lastName_, parts_.Folder, parts_.Ask, parts_.Messages);
   if (!name) return;
   lastName_ = *std::move(name);
   const Message saved = SituationSavedMessage(lastName_);

@@ -16,7 +16,7 @@
 #include "shell/screens/navigation_view.h"
 #include "shell/screens/number_box_view.h"
 #include "shell/situations.h"
-#include "support/input_boxes.h"
+#include "support/line_question.h"
 
 namespace quillon {
 
@@ -31,7 +31,7 @@ class SituationView {
     const NavigationView& Screens;
     std::function<void(std::int16_t link)> ClickNav;
     MessageBoxes& Messages;
-    InputBoxes& Names;
+    AskLine Ask;
     ProgramFolder Folder;
   };
 

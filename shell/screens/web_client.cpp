@@ -1,4 +1,4 @@
-#include "shell/screens/http_client.h"
+#include "shell/screens/web_client.h"
 
 #include <QEventLoop>
 #include <QFutureWatcher>
@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-std::string HttpClient::Get(std::string_view address) {
+std::string WaitForHttp(std::string_view address, std::chrono::milliseconds limit) {
   const InputBlock block;
   QEventLoop loop;
   QFutureWatcher<std::string> watcher;
@@ -20,7 +20,7 @@ std::string HttpClient::Get(std::string_view address) {
   const auto reply = std::make_shared<QPromise<std::string>>();
   reply->start();
   watcher.setFuture(reply->future());
-  HttpGet(address, limit_, [reply](std::string body) {
+  HttpGet(address, limit, [reply](std::string body) {
     reply->addResult(std::move(body));
     reply->finish();
   });
