@@ -143,21 +143,32 @@ TEST_F(FilesOfWindows, WithHalfASurrogatePairInTheirNamesAreLeftOut) {
   ::DeleteFileW(name.c_str());
 }
 
-// Wine 8 cannot create links, but follows those of its host system, whose own command creates one here.
+// Wine 8 neither creates links nor deletes them, but follows those of its host system, whose own commands do both here.
+void RunOnHost(const fs::path& folder, const std::wstring& command, std::wstring line) {
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  CreateProcessW((LR"(\\?\unix\bin\)" + command).c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                 folder.c_str(), &start, &process);
+}
+
 bool MakeLink(const fs::path& folder, const std::wstring& target, const std::wstring& link) {
   const fs::path path = folder / link;
   CreateSymbolicLinkW(path.c_str(), target.c_str(), SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE);
-  if (IsWine()) {
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    PROCESS_INFORMATION process{};
-    std::wstring line = L"ln -s " + target + L" " + link;
-    CreateProcessW(LR"(\\?\unix\bin\ln)", line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
-                   &process);
-  }
-  for (int attempt = 0; attempt < 100 && !IsThere(path); ++attempt)
+  if (IsWine()) RunOnHost(folder, L"ln", L"ln -s " + target + L" " + link);
+  for (int attempt = 0; attempt < 500 && !IsThere(path); ++attempt)
     Sleep(10);
   return IsThere(path);
+}
+
+void RemoveLink(const fs::path& folder, const std::wstring& link) {
+  const fs::path path = folder / link;
+  if (IsWine())
+    RunOnHost(folder, L"rm", L"rm " + link);
+  else
+    ::DeleteFileW(path.c_str());
+  for (int attempt = 0; attempt < 500 && IsThere(path); ++attempt)
+    Sleep(10);
 }
 
 TEST_F(FilesOfWindows, AreReplacedWhereALinkLeads) {
@@ -169,6 +180,8 @@ TEST_F(FilesOfWindows, AreReplacedWhereALinkLeads) {
     EXPECT_EQ(BytesOf(Folder() / "kept.txt"), content);
   }
   ExpectNoScratchFiles();
+  RemoveLink(Folder(), L"Button.txt");
+  EXPECT_THAT(Listing(Folder()), testing::ElementsAre("kept.txt"));
 }
 
 TEST_F(FilesOfWindows, AreReachedByEveryFormOfAPath) {
