@@ -26,6 +26,18 @@ bool Walk(Analysis& analysis, const Ranges& ranges, const AnalysisListener& list
 
 }  // namespace
 
+void StoreAsked(const Situation& asked, Situation& kept) {
+  const Scenario& scenario = ScenarioOf(asked.Mode);
+  if (scenario.AmountCount > 0) kept.PotSize = asked.PotSize;
+  if (scenario.AmountCount > 1) kept.CallAmount = asked.CallAmount;
+  if (scenario.AmountCount > 2) kept.ShoveAmount = asked.ShoveAmount;
+  kept.RangeName = asked.RangeName;
+  kept.RangeText = asked.RangeText;
+  if (!scenario.HasCallingRange) return;
+  kept.CallingRangeName = asked.CallingRangeName;
+  kept.CallingRangeText = asked.CallingRangeText;
+}
+
 std::optional<Analysis> Analyze(Situation situation, const AnalysisListener& listener) {
   Analysis analysis{std::move(situation), {}, {}};
   const RangeTexts ranges({analysis.RangeName, analysis.RangeText},

@@ -31,6 +31,10 @@ struct Situation {
   bool operator==(const Situation&) const = default;
 };
 
+/// Stores in `kept` what the scenario of `asked` asks for: its amounts, and its ranges by name and by text. The rest of
+/// `kept`, including its scenario, keeps its value.
+void StoreAsked(const Situation& asked, Situation& kept);
+
 /// The question with its answer.
 struct Analysis : Situation {
   std::string DroppedHands;  // only with a calling range: ListDroppedHands of the last class

@@ -4,9 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "analysis/entered_situation.h"
 #include "analysis/input_checks.h"
-#include "analysis/input_screens.h"
 #include "hand/hand_classes.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
@@ -28,19 +26,6 @@ void ShowComplaint(const Complaint& complaint, AnalysisWindow& window) {
 
 std::string ProgressMessage(const InputScreen& screen, std::string_view rangeName) {
   return std::string(screen.ProgressMessage).append(screen.MessageNamesRange ? rangeName : "");
-}
-
-// Whatever the scenario does not ask for keeps its value from an earlier run.
-void StoreSituation(AnalysisState& state, const Situation& situation) {
-  const Scenario& scenario = ScenarioOf(situation.Mode);
-  if (scenario.AmountCount > 0) state.PotSize = situation.PotSize;
-  if (scenario.AmountCount > 1) state.CallAmount = situation.CallAmount;
-  if (scenario.AmountCount > 2) state.ShoveAmount = situation.ShoveAmount;
-  state.RangeName = situation.RangeName;
-  state.RangeText = situation.RangeText;
-  if (!scenario.HasCallingRange) return;
-  state.CallingRangeName = situation.CallingRangeName;
-  state.CallingRangeText = situation.CallingRangeText;
 }
 
 // A range without a file is read again when it is dealt.
@@ -102,7 +87,7 @@ void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow&
 
   Situation situation = SituationOf(screen.Mode, EnteredOn(screen, window), folder);
   window.SetProgressMessage(ProgressMessage(screen, situation.RangeName));
-  StoreSituation(state, situation);
+  StoreAsked(situation, state);  // the rest keeps its value from an earlier run
   window.ShowFrame(kProgressScreen);
   state.Running = true;
   ++state.RunsBegun;
@@ -110,7 +95,7 @@ void RunAnalysis(AnalysisState& state, std::int16_t buttonIndex, AnalysisWindow&
   window.HideGridBack();
 
   ReadMissingRanges(situation, folder);
-  StoreSituation(state, situation);
+  StoreAsked(situation, state);
   const std::optional<Analysis> analysis = Analyze(std::move(situation), ListenerOf(state, screen, window));
 
   window.SetNoResultsUnderline(false);

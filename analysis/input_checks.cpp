@@ -66,46 +66,33 @@ constexpr std::array<Check, 2> kEquityChecks = {{
      [](const Inputs& in) { return TotalWeight(in.Range) == 0; }},
 }};
 
-std::optional<Complaint> FirstComplaint(std::span<const Check> checks, const Inputs& inputs) {
-  const auto check = std::find_if(checks.begin(), checks.end(), [&](const Check& row) { return row.Applies(inputs); });
-  if (check == checks.end()) return std::nullopt;
-  return check->Message;
-}
-
 // Dealt around two cards that are in no deck, so that nothing is blocked.
 HandList WholeRange(const ProgramFolder& folder, const EnteredSituation& entered) {
   std::string rangeText = entered.RangeText;
   return DealRange(folder, entered.Range, "Xx", "Yy", rangeText);
 }
 
-struct ScenarioCheck {
+struct ScenarioChecks {
   AnalysisMode Mode = AnalysisMode::kNone;
-  std::optional<Complaint> (*Run)(const EnteredSituation& entered, const ProgramFolder& folder) = nullptr;
+  std::span<const Check> Rows;
+  bool OpensRange = false;
 };
 
-constexpr ScenarioTable<ScenarioCheck> kScenarioChecks = {{
-    {AnalysisMode::kPreflopCall, CheckCallInputs},
-    {AnalysisMode::kPreflopRaise, CheckRaiseInputs},
-    {AnalysisMode::kEquityOnly, CheckEquityInputs},
+constexpr ScenarioTable<ScenarioChecks> kScenarioChecks = {{
+    {AnalysisMode::kPreflopCall, kCallChecks, true},
+    {AnalysisMode::kPreflopRaise, kRaiseChecks, false},
+    {AnalysisMode::kEquityOnly, kEquityChecks, true},
 }};
 static_assert(CoversEveryScenario(kScenarioChecks));
 
 }  // namespace
 
 std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder) {
-  return RowOf(kScenarioChecks, mode).Run(entered, folder);
-}
-
-std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
-  return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
-}
-
-std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& /*folder*/) {
-  return FirstComplaint(kRaiseChecks, {entered, AmountsOf(entered), {}});
-}
-
-std::optional<Complaint> CheckEquityInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
-  return FirstComplaint(kEquityChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
+  const ScenarioChecks& checks = RowOf(kScenarioChecks, mode);
+  const Inputs inputs = {entered, AmountsOf(entered), checks.OpensRange ? WholeRange(folder, entered) : HandList{}};
+  const auto check = std::ranges::find_if(checks.Rows, [&](const Check& row) { return row.Applies(inputs); });
+  if (check == checks.Rows.end()) return std::nullopt;
+  return check->Message;
 }
 
 }  // namespace quillon

@@ -30,10 +30,9 @@ class InputChecks : public testing::Test {
     ranges_.Save("Scribble", "no weights here");
   }
 
-  template <class Check>
-  void ExpectRows(const std::vector<Row>& rows, Check check) const {
+  void ExpectRows(AnalysisMode mode, const std::vector<Row>& rows) const {
     for (const Row& row : rows)
-      EXPECT_EQ(check(row.entered, ranges_.Folder()), row.complaint) << row.name;
+      EXPECT_EQ(CheckInputs(mode, row.entered, ranges_.Folder()), row.complaint) << row.name;
   }
 
   TemporaryProgram ranges_;
@@ -49,6 +48,7 @@ const Complaint kCallNotNumeric = {"Call Size Error", "The call size contains no
 
 TEST_F(InputChecks, PreflopCall) {
   ExpectRows(
+      AnalysisMode::kPreflopCall,
       {
           {"a good situation passes", {"100", "50", "", "Full", ""}, kNone},
           {"no range chosen", {"100", "50", "", "", ""}, kNoRange},
@@ -68,14 +68,13 @@ TEST_F(InputChecks, PreflopCall) {
           {"call is looked at before letters in the pot", {"100x", "0", "", "Full", ""}, kCallNotPositive},
           {"letters are 0, and a call may lie below", {"abc", "-5", "", "Full", ""}, kPotNotPositive},
           {"its weight is tested before the amounts", {"0", "0", "", "Nothing", ""}, kNoHands},
-      },
-      CheckCallInputs);
+      });
 }
 
 TEST_F(InputChecks, ARangeThatCannotBeReadIsAFault) {
-  for (const auto check : {CheckCallInputs, CheckEquityInputs}) {
+  for (const AnalysisMode mode : {AnalysisMode::kPreflopCall, AnalysisMode::kEquityOnly}) {
     const auto faultOf = [&](const char* range) {
-      return FaultOf([&] { return check({"100", "50", "", range, ""}, ranges_.Folder()); });
+      return FaultOf([&] { return CheckInputs(mode, {"100", "50", "", range, ""}, ranges_.Folder()); });
     };
     EXPECT_EQ(faultOf("Missing"), RunTimeFault::kSubscriptOutOfRange);
     EXPECT_EQ(faultOf("Hollow"), RunTimeFault::kSubscriptOutOfRange);
@@ -96,6 +95,7 @@ const Complaint kShoveNotNumeric = {"Shove Size",
 
 TEST_F(InputChecks, PreflopRaise) {
   ExpectRows(
+      AnalysisMode::kPreflopRaise,
       {
           {"a good situation passes", {"15", "5", "100", "Full", "Half Aces"}, kNone},
           {"a call of 0 passes", {"15", "0", "100", "Full", "Full"}, kNone},
@@ -122,23 +122,21 @@ TEST_F(InputChecks, PreflopRaise) {
           {"shove with letters after a good number", {"15", "5", "100x", "Full", "Full"}, kShoveNotNumeric},
           {"dollar signs and separators pass", {"$15", "$5", "1,000", "Full", "Full"}, kNone},
           {"values are tested before texts", {"15x", "5x", "0", "Full", "Full"}, kShoveNotPositive},
-      },
-      CheckRaiseInputs);
+      });
 }
 
 TEST_F(InputChecks, EquityOnly) {
-  ExpectRows(
-      {
-          {"a range with weight passes", {"", "", "", "Half Aces", ""}, kNone},
-          {"amounts do not matter", {"abc", "-5", "x", "Full", ""}, kNone},
-          {"no range chosen",
-           {"", "", "", "", ""},
-           Complaint{"Select Range", "Please select a range for your opponent."}},
-          {"a range without weight",
-           {"", "", "", "Nothing", ""},
-           Complaint{"Empty Range", "Your opponent's range is empty. Please select another range."}},
-      },
-      CheckEquityInputs);
+  ExpectRows(AnalysisMode::kEquityOnly,
+             {
+                 {"a range with weight passes", {"", "", "", "Half Aces", ""}, kNone},
+                 {"amounts do not matter", {"abc", "-5", "x", "Full", ""}, kNone},
+                 {"no range chosen",
+                  {"", "", "", "", ""},
+                  Complaint{"Select Range", "Please select a range for your opponent."}},
+                 {"a range without weight",
+                  {"", "", "", "Nothing", ""},
+                  Complaint{"Empty Range", "Your opponent's range is empty. Please select another range."}},
+             });
 }
 
 }  // namespace

@@ -13,19 +13,11 @@ double StudySituation::OwnAmount() const {
 }
 
 StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands) {
-  const Scenario& scenario = ScenarioOf(analysis.Mode);
   StudySituation situation{.Asked = {.Mode = analysis.Mode}, .Hands = hands};
-  Situation& asked = situation.Asked;
-  if (scenario.AmountCount > 0) asked.PotSize = analysis.PotSize;
-  if (scenario.AmountCount > 1) asked.CallAmount = analysis.CallAmount;
-  if (scenario.AmountCount > 2) asked.ShoveAmount = analysis.ShoveAmount;
-  asked.RangeName = analysis.RangeName;
-  asked.RangeText = analysis.RangeText;
-  situation.Range = RangeWeightsOf(asked.RangeText);
-  if (!scenario.HasCallingRange) return situation;
-  asked.CallingRangeName = analysis.CallingRangeName;
-  asked.CallingRangeText = analysis.CallingRangeText;
-  situation.CallingRange = RangeWeightsOf(asked.CallingRangeText);
+  StoreAsked(analysis, situation.Asked);
+  situation.Range = RangeWeightsOf(situation.Asked.RangeText);
+  if (ScenarioOf(analysis.Mode).HasCallingRange)
+    situation.CallingRange = RangeWeightsOf(situation.Asked.CallingRangeText);
   return situation;
 }
 
