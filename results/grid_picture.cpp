@@ -31,7 +31,7 @@ std::string TextAt(int x, int y, std::string_view attributes, std::string_view t
   return Joined({"<text x=\"", Number(x), "\" y=\"", Number(y), "\"", attributes, ">", MarkupText(text), "</text>\n"});
 }
 
-std::string CellMarkup(std::string_view label, const PictureCell& cell, int left, int top) {
+std::string CellMarkup(std::string_view label, const PageCell& cell, int left, int top) {
   const std::string fill = " fill=\"" + ColorText(ReadableOn(cell.Color)) + "\"";
   const int middle = left + kCellWidth / 2;
   std::string markup =

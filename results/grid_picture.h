@@ -7,23 +7,15 @@
 #include <string>
 #include <string_view>
 
-#include "hand/hand_classes.h"
-#include "support/rgb.h"
+#include "results/web_page.h"
 
 namespace quillon {
 
-/// A cell: its colour, and an optional short text under its label.
-struct PictureCell {
-  Rgb Color;
-  std::string Text{};
-};
-
-using PictureCells = std::array<PictureCell, kHandClassCount>;
-
-/// A grid with an optional line above it and an optional note below it, which is wrapped.
+/// A grid, of whose cells the colours and the texts are drawn, with an optional line above it and an optional note below
+/// it, which is wrapped.
 struct PictureGrid {
   std::string Caption;
-  PictureCells Cells;
+  std::array<PageCell, kHandClassCount> Cells;
   std::string Note{};
 };
 

@@ -15,14 +15,6 @@ namespace {
 constexpr Rgb kPanelColor = {0x1F, 0x5F, 0xA8};
 constexpr double kLast = 1e300;  // for sorting; the largest double would not have 15 digits
 
-std::array<PictureCell, kHandClassCount> PictureOf(const PageGrid& grid) {
-  PictureCells cells;
-  std::ranges::transform(grid.Cells, cells.begin(), [](const PageCell& cell) {
-    return PictureCell{cell.Color, cell.Text};
-  });
-  return cells;
-}
-
 // ---- limits
 
 double OrderOf(const Limit& limit) {
@@ -114,7 +106,7 @@ std::string LimitsPage(const LimitsQuestion& question, const Limits& limits) {
 }
 
 std::string LimitsPicture(const LimitsQuestion& question, const Limits& limits) {
-  const PictureGrid grid = {question.Title, PictureOf(GridOf(question.Title, limits))};
+  const PictureGrid grid = {question.Title, GridOf(question.Title, limits).Cells};
   return GridPicture(question.Title, std::array{grid});
 }
 
@@ -145,7 +137,7 @@ std::string ChartPage(const StackChart& chart, const Steps& stacks) {
 std::string ChartPicture(const StackChart& chart, const Steps& stacks) {
   const auto grid = [&stacks](const char* title, const StackLimits& limits) {
     return PictureGrid{std::string(title) + ", up to so many " + kUnit + " (* with gaps)",
-                       PictureOf(GridOf(title, limits, stacks)), GapsNote(limits)};
+                       GridOf(title, limits, stacks).Cells, GapsNote(limits)};
   };
   return GridPicture("Up to which stack each hand is shoved, and called with",
                      std::array{grid(kShoveTitle, chart.Shove), grid(kCallTitle, chart.Call)});
