@@ -11,8 +11,8 @@
 
 namespace quillon {
 
-/// A grid, of whose cells the colours and the texts are drawn, with an optional line above it and an optional note below
-/// it, which is wrapped.
+/// A grid, of whose cells the colours and the texts are drawn, with an optional line above it and an optional note
+/// below it, which is wrapped.
 struct PictureGrid {
   std::string Caption;
   std::array<PageCell, kHandClassCount> Cells;

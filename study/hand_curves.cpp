@@ -8,10 +8,9 @@
 #include "analysis/scenarios.h"
 #include "study/balance_texts.h"
 #include "study/limits.h"
-#include "study/sweep_picture.h"
+#include "study/sweep_figure.h"
 #include "support/joined_text.h"
 #include "support/number_text.h"
-#include "support/rounding.h"
 
 namespace quillon {
 namespace {

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "study/sweep_picture.h"
+#include "study/sweep_figure.h"
 #include "support/number_text.h"
 #include "testing/study_hands.h"
 

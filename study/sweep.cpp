@@ -150,16 +150,4 @@ std::vector<SweepRow> SweepAmount(const SweepQuestion& question, const RangeNumb
   return rows;
 }
 
-std::vector<SweepRow> SweepRanges(const SweepQuestion& question,
-                                  const std::function<RangeNumbers(std::string_view at)>& rangesAt,
-                                  const Steps& steps) {
-  std::vector<SweepRow> rows;
-  for (std::int64_t step = 0; step < steps.Count(); ++step) {
-    std::string at = steps.Text(step);
-    const RangeNumbers ranges = rangesAt(at);
-    rows.push_back(SweepRowAt(question, ranges, std::move(at)));
-  }
-  return rows;
-}
-
 }  // namespace quillon

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -81,10 +80,5 @@ struct SweepQuestion {
 
 /// The row of one step, from the ranges and amounts at that step. Fails as FiguresOf does.
 [[nodiscard]] SweepRow SweepRowAt(const SweepQuestion& question, const RangeNumbers& ranges, std::string at);
-
-/// The same with all amounts fixed and a range for each step, given by the step's text.
-[[nodiscard]] std::vector<SweepRow> SweepRanges(const SweepQuestion& question,
-                                                const std::function<RangeNumbers(std::string_view at)>& rangesAt,
-                                                const Steps& steps);
 
 }  // namespace quillon

@@ -142,10 +142,8 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
 
 TEST(Sweep, OfARangeEqualsSeparateAnalyses) {
   const SweepQuestion question = {AnalysisMode::kPreflopRaise, {100, 30, 250}, kSomeHands};
-  const auto rangesAt = [](std::string_view at) { return RangeNumbers(Hands(), AllHands(), Top(at)); };
-  const auto rows = SweepRanges(question, rangesAt, StepsOf("0:100:25"));
-  ASSERT_EQ(rows.size(), 5U);
-  for (const SweepRow& row : rows) {
+  for (const std::string at : {"0", "25", "50", "75", "100"}) {
+    const SweepRow row = SweepRowAt(question, RangeNumbers(Hands(), AllHands(), Top(at)), at);
     ExpectSeparate(row,
                    {.Mode = question.Mode,
                     .PotSize = 100,
@@ -155,8 +153,9 @@ TEST(Sweep, OfARangeEqualsSeparateAnalyses) {
                     .CallingRangeText = RangeTextOf(Top(row.At))},
                    question);
   }
-  EXPECT_EQ(rows.front().ProfitableCombos, 1326) << "nobody calls";
-  EXPECT_EQ(ProfitablePercent(rows.front()), 100);
+  const SweepRow uncalled = SweepRowAt(question, RangeNumbers(Hands(), AllHands(), Top("0")), "0");
+  EXPECT_EQ(uncalled.ProfitableCombos, 1326);
+  EXPECT_EQ(ProfitablePercent(uncalled), 100);
   EXPECT_EQ(ProfitablePercent({"", 663, {}}), 50);
 }
 

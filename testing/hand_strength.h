@@ -18,7 +18,7 @@ inline HandStrength StrengthOfCards(std::span<const int> cards) {
   RankTally tally;
   std::array<RankMask, kSuitCount> suits{};
   for (const int card : cards) {
-    const RankMask rank = RankBit(card);
+    const RankMask rank = RankAt(static_cast<std::size_t>(card / kSuitCount));
     RankMask& suit = suits[static_cast<std::size_t>(card % kSuitCount)];
     suit = static_cast<RankMask>(suit | rank);
     tally = WithRanks(tally, rank);

@@ -1,5 +1,3 @@
-#include "tools/analysis_command.h"
-
 #include <CLI/CLI.hpp>
 #include <array>
 #include <cstddef>
@@ -16,6 +14,7 @@
 #include "ranges/range_lookup.h"
 #include "results/results_grid.h"
 #include "tools/analysis_output.h"
+#include "tools/commands.h"
 #include "tools/progress_bar.h"
 
 namespace quillon {
@@ -57,18 +56,16 @@ bool TakeRange(const RangeOption& option, CommandInputs& inputs, std::string& na
 }
 
 int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings& surroundings) {
-  const OutputFormat format = OutputFormatOf(request.format);
-  if (!request.hands.empty() && format != OutputFormat::kForum) {
+  if (!request.hands.empty() && request.format != kForumFormat) {
     throw CLI::ValidationError("--hand goes with --format 2+2 only");
   }
-  const auto& [amounts, range, callingRange] = request.situation;
+  auto [amounts, range, callingRange] = request.situation;
+  CommandInputs inputs(surroundings, request.folder);
+  for (std::size_t i = 0; i < amounts.size(); ++i) {
+    if (!inputs.EvaluateAmount(kAmountOptions[i], amounts[i])) return kRefused;
+  }
   EnteredSituation situation{
       .Pot = amounts[0], .Call = amounts[1], .Shove = amounts[2], .Range = {}, .CallingRange = {}};
-  CommandInputs inputs(surroundings, request.folder);
-  const std::array<std::string*, 3> texts = {&situation.Pot, &situation.Call, &situation.Shove};
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (!inputs.EvaluateAmount(kAmountOptions[i], *texts[i])) return kRefused;
-  }
   bool rangesTaken = TakeRange(range, inputs, situation.Range, situation.RangeText);
   if (ScenarioOf(mode).HasCallingRange) {
     rangesTaken &= TakeRange(callingRange, inputs, situation.CallingRange, situation.CallingRangeText);
@@ -82,8 +79,8 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
   }
 
   const Analysis analysis = AnalyzeWithProgress(SituationOf(mode, situation, folder), surroundings);
-  const std::string text = AnalysisOutput(format, analysis, request.hands);
-  if (format == OutputFormat::kPlain && surroundings.Terminal.ShowColors) {
+  const std::string text = InFormat(kAnalysisFormats, request.format, {analysis, request.hands});
+  if (request.format == kPlainFormat && surroundings.Terminal.ShowColors) {
     surroundings.Output << TerminalGrid(GridColors(analysis)) << '\n';
   }
   surroundings.Output << text;
@@ -97,9 +94,7 @@ RunCommand OfferAnalysis(AnalysisMode mode, CLI::App& options) {
   OfferAmounts(options, mode, static_cast<std::size_t>(ScenarioOf(mode).AmountCount), request->situation);
   OfferRanges(options, mode, request->situation);
   OfferFormat(options, request->format, kAnalysisFormats);
-  options.add_option("--hand", request->hands, "With 2+2: adds the working of these hands")
-      ->type_name("LABEL")
-      ->check(CLI::Validator(CheckLabel, ""));
+  OfferHands(options, request->hands, "With 2+2: adds the working of these hands");
   OfferFolder(options, request->folder);
   return [mode, request](const Surroundings& surroundings) { return PrintAnalysis(mode, *request, surroundings); };
 }

@@ -1,11 +1,9 @@
 #include "tools/analysis_output.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <nlohmann/json.hpp>
 
-#include "analysis/results_table.h"
 #include "hand/hand_classes.h"
 #include "results/analysis_json.h"
 #include "results/analysis_page.h"
@@ -24,6 +22,11 @@ std::string ReportOutput(ReportForm form, const Analysis& analysis, std::span<co
   return UnixLineEnds(PlainText(report));
 }
 
+// A name from the command line may be invalid UTF-8, which must not make the output fail.
+std::string JsonOutput(const AnalysisAnswer& answer) {
+  return AnalysisJson(answer.Finished).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+}
+
 // Black on light cells, white on dark ones. Source of the weights: ITU-R BT.601, luma.
 bool ReadsBetterInWhite(Rgb color) {
   constexpr int kHalfLuma = 128 * 1000;
@@ -36,32 +39,20 @@ std::string Channels(Rgb color) {
 
 }  // namespace
 
-OutputFormat OutputFormatOf(std::string_view name) {
-  const auto* const found = std::find_if(kAnalysisFormats.begin(), kAnalysisFormats.end(),
-                                         [name](const OutputFormatRow& row) { return row.Name == name; });
-  return found == kAnalysisFormats.end() ? OutputFormat::kPlain : found->Format;
-}
-
-std::string AnalysisOutput(OutputFormat format, const Analysis& analysis, std::span<const std::string> hands) {
-  switch (format) {
-    case OutputFormat::kPlain:
-      return ReportOutput(ReportForm::kPlainText, analysis, {});
-    case OutputFormat::kForum:
-      return ReportOutput(ReportForm::kForum, analysis, hands);
-    case OutputFormat::kTable:
-      return analysis.HandInfo;
-    case OutputFormat::kJson:
-      // A name from the command line may be invalid UTF-8, which must not make the output fail.
-      return AnalysisJson(analysis).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
-    case OutputFormat::kCsv:
-      return AnalysisTable(analysis, ',');
-    case OutputFormat::kHtml:
-      return AnalysisPage(analysis);
-    case OutputFormat::kSvg:
-      return AnalysisPicture(analysis);
-  }
-  return {};
-}
+const std::array<Format<AnalysisAnswer>, 7> kAnalysisFormats = {{
+    {{kPlainFormat, "the report to read, under the grid where a terminal shows 24-bit colours"},
+     [](const AnalysisAnswer& answer) { return ReportOutput(ReportForm::kPlainText, answer.Finished, {}); }},
+    {{kForumFormat, "the report as forum mark-up, with the working of each --hand"},
+     [](const AnalysisAnswer& answer) { return ReportOutput(ReportForm::kForum, answer.Finished, answer.Hands); }},
+    {{"table", "the results table: label, expected value, equity, fold share, separated by tabs"},
+     [](const AnalysisAnswer& answer) { return answer.Finished.HandInfo; }},
+    {{"csv", "hand, combos, ev, equity, fold, colour; what a question does not have is empty"},
+     [](const AnalysisAnswer& answer) { return AnalysisTable(answer.Finished, ','); }},
+    {{"json", "all of it as one object; what a question does not have is null"}, JsonOutput},
+    {{"html", "a web page of one file: the situation, the grid with the figures of each hand, a table"},
+     [](const AnalysisAnswer& answer) { return AnalysisPage(answer.Finished); }},
+    {{"svg", "the grid as a picture"}, [](const AnalysisAnswer& answer) { return AnalysisPicture(answer.Finished); }},
+}};
 
 std::string TerminalGrid(const CellColors& colors) {
   std::string text;

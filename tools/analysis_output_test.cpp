@@ -120,23 +120,15 @@ std::string BoxText(ReportForm form, const Analysis& state, const std::vector<st
   return PlainText(report);
 }
 
-// ---- names of the formats
-
-TEST(OutputFormat, IsFoundByItsNameAndPlainForAnyOther) {
-  for (const OutputFormatRow& row : kAnalysisFormats)
-    EXPECT_EQ(OutputFormatOf(row.Name), row.Format) << row.Name;
-  EXPECT_EQ(OutputFormatOf("JSON"), OutputFormat::kPlain);
-}
-
 // ---- the two reports and the table
 
 TEST_F(EachScenario, PrintsTheReportsOfTheWindow) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
     const std::string plain = WithUnixLineEnds(BoxText(ReportForm::kPlainText, state, {}));
-    EXPECT_EQ(AnalysisOutput(OutputFormat::kPlain, state, {}), plain);
+    EXPECT_EQ(InFormat(kAnalysisFormats, "plain", {state, {}}), plain);
     EXPECT_TRUE(plain.ends_with('\n'));
     const std::string forum = WithUnixLineEnds(BoxText(ReportForm::kForum, state, {}));
-    EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, {}), forum);
+    EXPECT_EQ(InFormat(kAnalysisFormats, "2+2", {state, {}}), forum);
     EXPECT_TRUE(forum.starts_with("[URL="));
   });
 }
@@ -145,7 +137,7 @@ TEST_F(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
     const std::vector<std::string> hands = {"72o", "AA", "72o"};
     const std::string expected = WithUnixLineEnds(BoxText(ReportForm::kForum, state, hands));
-    EXPECT_EQ(AnalysisOutput(OutputFormat::kForum, state, hands), expected);
+    EXPECT_EQ(InFormat(kAnalysisFormats, "2+2", {state, hands}), expected);
     EXPECT_THAT(Split(expected, "for 72o"), SizeIs(3));
     EXPECT_LT(expected.find("for 72o"), expected.find("for AA"));
   });
@@ -153,17 +145,18 @@ TEST_F(EachScenario, AddsTheWorkingOfHandsInTheOrderAskedFor) {
 
 TEST_F(EachScenario, PrintsTheTableByteForByte) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
-    EXPECT_EQ(AnalysisOutput(OutputFormat::kTable, state, {}), state.HandInfo);
+    EXPECT_EQ(InFormat(kAnalysisFormats, "table", {state, {}}), state.HandInfo);
     EXPECT_THAT(Cells(state.HandInfo), SizeIs(169));
   });
 }
 
-TEST_F(EachScenario, AddsNoWorkingToOtherFormats) {
+TEST_F(EachScenario, AddsWorkingToNoOtherFormat) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
     const std::vector<std::string> hands = {"AA"};
-    for (const OutputFormat format :
-         {OutputFormat::kPlain, OutputFormat::kTable, OutputFormat::kJson, OutputFormat::kCsv})
-      EXPECT_EQ(AnalysisOutput(format, state, hands), AnalysisOutput(format, state, {}));
+    for (const auto& format : kAnalysisFormats) {
+      const bool adds = format.Name == std::string_view(kForumFormat);
+      EXPECT_EQ(format.Text({state, hands}) != format.Text({state, {}}), adds) << format.Name;
+    }
   });
 }
 
@@ -180,7 +173,7 @@ TEST_F(EachScenario, PrintsCsvWithTheDigitsOfTheTable) {
       expected += cells[0] + "," + CombosOf(cells[0]) + "," + (run.hasValue ? cells[1] : "") + "," + cells[2] + "," +
                   (run.hasFold ? cells[3] : "") + "," + HexColor(colors[i]) + "\n";
     }
-    EXPECT_EQ(AnalysisOutput(OutputFormat::kCsv, state, {}), expected);
+    EXPECT_EQ(InFormat(kAnalysisFormats, "csv", {state, {}}), expected);
   });
 }
 
@@ -203,7 +196,7 @@ std::vector<std::string> NullKeys(const Json& object) {
 
 TEST_F(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
-    const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+    const std::string text = InFormat(kAnalysisFormats, "json", {state, {}});
     EXPECT_TRUE(text.ends_with("}\n"));
     const Json object = Json::parse(text);
     EXPECT_THAT(Keys(object), ElementsAre("mode", "pot", "call", "shove", "range", "calling_range", "range_summary",
@@ -217,7 +210,7 @@ TEST_F(EachScenario, PrintsOneJsonObjectWithItsKeysInOrder) {
 
 TEST_F(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
   InEach([](const RunCase& run, const Analysis& state) {
-    const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+    const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
     const std::array<Rgb, 169> colors = GridColors(state);
     const auto rows = Cells(state.HandInfo);
     ASSERT_THAT(rows, SizeIs(169));
@@ -236,7 +229,7 @@ TEST_F(EachScenario, PrintsJsonHandsThatEqualTableAndGrid) {
 
 TEST_F(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
   InEach([](const RunCase& /*run*/, const Analysis& state) {
-    const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+    const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
     const GridTexts texts = MakeGridTexts(state);
     EXPECT_EQ(object["situation"], WithUnixLineEnds(texts.HandInfo));
     EXPECT_EQ(object["explanation"], WithUnixLineEnds(texts.Results));
@@ -248,7 +241,7 @@ TEST(JsonOutput, HoldsNumbersOfAnySize) {
   state.PotSize = std::numeric_limits<double>::max();
   const std::string& table = state.HandInfo;
   state.HandInfo = "AA\t7.92119999999999E-02\t-1E+300\t1\t\r\n" + table.substr(table.find("AKs"));
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_EQ(object["pot"].get<double>(), state.PotSize);
   EXPECT_EQ(object["hands"][0]["ev"].get<double>(), 7.92119999999999E-02);
   EXPECT_EQ(object["hands"][0]["equity"].get<double>(), -1E+300);
@@ -256,7 +249,7 @@ TEST(JsonOutput, HoldsNumbersOfAnySize) {
 
 TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
   Analysis state = CallRun();
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_THAT(NullKeys(object), ElementsAre("shove", "calling_range", "calling_range_summary", "dropped_hands"));
   EXPECT_EQ(object["mode"], "call");
   EXPECT_EQ(object["pot"], 150.125);
@@ -273,7 +266,7 @@ TEST(JsonOutput, OfACallHasNoShoveAndNoCallingRange) {
 
 TEST(JsonOutput, OfARaiseHasEverything) {
   Analysis state = RaiseRun();
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_THAT(NullKeys(object), IsEmpty());
   EXPECT_EQ(object["mode"], "raise");
   EXPECT_EQ(object["pot"], 150);
@@ -293,7 +286,7 @@ TEST(JsonOutput, OfARaiseHasEverything) {
 
 TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
   Analysis state = EquityRun();
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_THAT(NullKeys(object),
               ElementsAre("pot", "call", "shove", "calling_range", "calling_range_summary", "dropped_hands"));
   EXPECT_EQ(object["mode"], "equity");
@@ -308,7 +301,7 @@ TEST(JsonOutput, OfEquityHasNoAmountsAndRanksByEquity) {
 TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyList) {
   Analysis state = FinishedRun(AnalysisMode::kPreflopRaise,
                                {.Pot = "3", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_EQ(object["dropped_hands"], Json::array());
   EXPECT_EQ(object["call"], 0);
   for (const Json& hand : object["hands"]) {
@@ -320,7 +313,7 @@ TEST(JsonOutput, OfARaiseWithNothingDroppedHasAnEmptyList) {
 TEST(JsonOutput, HasNoWorstHandWhereNoneIsBelowTenThousand) {
   Analysis state = FinishedRun(AnalysisMode::kPreflopRaise,
                                {.Pot = "20000", .Call = "", .Shove = "9", .Range = "Now", .CallingRange = "Nothing"});
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_EQ(object["best"], "AA");
   EXPECT_THAT(NullKeys(object), ElementsAre("worst"));
 }
@@ -330,7 +323,7 @@ TEST(JsonOutput, HasNoBestHandWhereNoneIsAboveMinusTenThousand) {
   state.HandInfo.clear();
   for (std::int16_t index = 0; index < kHandClassCount; ++index)
     state.HandInfo.append(HandLabel(index)).append("\t-20000\t0\t1\t\r\n");
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_TRUE(object["best"].is_null());
   EXPECT_EQ(object["worst"], "AA");
 }
@@ -340,14 +333,14 @@ TEST(JsonOutput, IsValidWhateverBytesARangeNameHolds) {
   state.RangeName =
       "Gr\xfc\xdf"
       "e \"\\\x01";
-  const Json object = Json::parse(AnalysisOutput(OutputFormat::kJson, state, {}));
+  const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
   EXPECT_EQ(object["range"], "Gr\uFFFD\uFFFDe \"\\\x01");
 }
 
 TEST(JsonOutput, KeepsANameInUtf8) {
   Analysis state = EquityRun();
   state.RangeName = "Überfall ½";
-  const std::string text = AnalysisOutput(OutputFormat::kJson, state, {});
+  const std::string text = InFormat(kAnalysisFormats, "json", {state, {}});
   EXPECT_NE(text.find(R"("range": "Überfall ½")"), std::string::npos);
 }
 

@@ -11,7 +11,6 @@
 #include <ostream>
 #include <streambuf>
 #include <string>
-#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -157,9 +156,7 @@ class OpenFile {
     if (descriptor_ < 0) inputs.Refuse(path + ": " + ReasonOf(-descriptor_));
   }
   OpenFile(const OpenFile&) = delete;
-  OpenFile(OpenFile&&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
-  OpenFile& operator=(OpenFile&&) = delete;
   ~OpenFile() {
     if (descriptor_ >= 0) SystemFileCalls().Close(descriptor_);
   }

@@ -1,5 +1,4 @@
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -83,21 +82,15 @@ std::string JsonOutput(const Answer& answer) {
   return object.dump(2) + "\n";
 }
 
-std::string HtmlOutput(const Answer& answer) {
-  return ChartPage(answer.chart, answer.stacks);
-}
-
-std::string SvgOutput(const Answer& answer) {
-  return ChartPicture(answer.chart, answer.stacks);
-}
-
 constexpr std::array<Format<Answer>, 5> kFormats = {{
     {{"grid", "two grids to read, and the gaps; a plus is the largest stack of the chart"}, PlainOutput},
     {{"csv", "hand, shove, shove_gaps, call, call_gaps; empty means never, the last stack means at least that"},
      CsvOutput},
     {{"json", "the same as one object; what is never played is null"}, JsonOutput},
-    {{"html", "a web page of one file: both grids and a table"}, HtmlOutput},
-    {{"svg", "both grids as a picture, and the gaps"}, SvgOutput},
+    {{"html", "a web page of one file: both grids and a table"},
+     [](const Answer& answer) { return ChartPage(answer.chart, answer.stacks); }},
+    {{"svg", "both grids as a picture, and the gaps"},
+     [](const Answer& answer) { return ChartPicture(answer.chart, answer.stacks); }},
 }};
 
 std::optional<Steps> StacksOf(const Request& request, CommandInputs& inputs) {

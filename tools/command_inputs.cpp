@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <filesystem>
 #include <istream>
 #include <memory>
 #include <ostream>
@@ -49,6 +48,12 @@ constexpr ScenarioTable<SituationTexts> kSituationTexts = {{
     {AnalysisMode::kEquityOnly, {}, "His range", nullptr},
 }};
 static_assert(CoversEveryScenario(kSituationTexts));
+
+// Nothing for the label of a class, otherwise the error.
+std::string WhyNoLabel(const std::string& label) {
+  if (HandLabel(HandIndex(label)) == label) return {};
+  return "\"" + label + "\" is no starting hand; hands are written as AA, AKs or AKo";
+}
 
 HandNumbers ReadHandNumbers() {
   LoadEquityTable();
@@ -129,9 +134,8 @@ void OfferRanges(CLI::App& command, AnalysisMode mode, SituationOptions& situati
   OfferRange(command, "--calling-range", "--calling-hands", situation.CallingRange, texts.CallingRange);
 }
 
-std::string CheckLabel(const std::string& label) {
-  if (HandLabel(HandIndex(label)) == label) return {};
-  return "\"" + label + "\" is no starting hand; hands are written as AA, AKs or AKo";
+void OfferHands(CLI::App& command, std::vector<std::string>& hands, const std::string& description) {
+  command.add_option("--hand", hands, description)->type_name("LABEL")->check(CLI::Validator(WhyNoLabel, ""));
 }
 
 CommandInputs::CommandInputs(const Surroundings& surroundings, const std::string& folder)

@@ -15,7 +15,6 @@
 #include "analysis/range_sources.h"
 #include "analysis/scenarios.h"
 #include "ranges/range_files.h"
-#include "ranges/range_text.h"
 #include "study/given_range.h"
 #include "support/message_boxes.h"
 #include "tools/companion.h"
@@ -98,8 +97,8 @@ void OfferFormat(CLI::App& command, std::string& format, const std::array<Row, c
   OfferFormat(command, format, std::vector<FormatName>(formats.begin(), formats.end()));
 }
 
-/// Nothing for the label of a class, otherwise the error.
-[[nodiscard]] std::string CheckLabel(const std::string& label);
+/// Adds "--hand" for labels of classes.
+void OfferHands(CLI::App& command, std::vector<std::string>& hands, const std::string& description);
 
 enum class LeastAmount { kAboveZero, kZero };
 

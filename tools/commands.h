@@ -1,21 +1,21 @@
 #pragma once
 
-// The commands of the companion, one file each.
+// The commands of the companion.
 
 #include <algorithm>
 #include <array>
 
 #include "analysis/scenarios.h"
+#include "ranges/range_notation.h"
+#include "ranges/range_summary.h"
 #include "tools/command_inputs.h"
 
 namespace quillon {
 
-[[nodiscard]] RunCommand OfferCall(CLI::App& options);
-[[nodiscard]] RunCommand OfferRaise(CLI::App& options);
-[[nodiscard]] RunCommand OfferEquity(CLI::App& options);
-[[nodiscard]] RunCommand OfferSummary(CLI::App& options);
+/// Adds the options of a scenario's command, which prints one analysis, and returns what runs it.
+[[nodiscard]] RunCommand OfferAnalysis(AnalysisMode mode, CLI::App& options);
+
 [[nodiscard]] RunCommand OfferRanges(CLI::App& options);
-[[nodiscard]] RunCommand OfferNotation(CLI::App& options);
 [[nodiscard]] RunCommand OfferSave(CLI::App& options);
 [[nodiscard]] RunCommand OfferMatrix(CLI::App& options);
 [[nodiscard]] RunCommand OfferLimits(CLI::App& options);
@@ -29,23 +29,26 @@ inline constexpr std::array<Command, 14> kCommands = {{
     {"call", "What each hand wins or loses by calling an all-in",
      "He is all in. For each of the 169 starting hands: its equity against his range, and what calling is\n"
      "worth against folding, in the unit of the amounts.",
-     R"(--pot 150 --call 50 --range "Button Shove")", OfferCall},
+     R"(--pot 150 --call 50 --range "Button Shove")",
+     [](CLI::App& options) { return OfferAnalysis(AnalysisMode::kPreflopCall, options); }},
     {"raise", "What each hand wins or loses by going all in",
      "You may go all in over him; he calls with some of his hands and folds the others. For each of the 169\n"
      "starting hands: its equity when he calls, how often he folds, and what the shove is worth against\n"
      "folding, in the unit of the amounts.",
-     R"(--pot 1.5 --call 0.5 --shove 9 --hands any --calling-hands "top 30%" --format html)", OfferRaise},
+     R"(--pot 1.5 --call 0.5 --shove 9 --hands any --calling-hands "top 30%" --format html)",
+     [](CLI::App& options) { return OfferAnalysis(AnalysisMode::kPreflopRaise, options); }},
     {"equity", "The equity of each hand against a range",
      "How often each of the 169 starting hands wins against his range, a split pot counted as half.",
-     R"(--range "Tight Open" --format csv)", OfferEquity},
+     R"(--range "Tight Open" --format csv)",
+     [](CLI::App& options) { return OfferAnalysis(AnalysisMode::kEquityOnly, options); }},
     {"summary", "The short notation of a range",
      "A summary is for reading. It leaves out some hands at half weight, and all weights other than 1 and a\n"
      "half; the command notation prints all of it.",
-     R"(--range "Tight Open")", OfferSummary},
+     R"(--range "Tight Open")", [](CLI::App& options) { return OfferRangeText(options, RangeSummary); }},
     {"notation", "The exact notation of a range, with every weight",
      "What it prints reads as the same range after --hands. A weight above 1 or below 0, which a file may hold, is\n"
      "printed like any other, but typed weights are from 0 to 1.",
-     R"(--hands "top 15%, 76s-54s:0.5")", OfferNotation},
+     R"(--hands "top 15%, 76s-54s:0.5")", [](CLI::App& options) { return OfferRangeText(options, RangeNotation); }},
     {"ranges", "Lists the saved ranges: name, percent selected, short notation",
      "A file that is no range is left out, told on standard error, and makes the exit status 1.", "", OfferRanges},
     {"save", "Saves a range under a name",

@@ -2,15 +2,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <ostream>
-#include <span>
 #include <sstream>
-#include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "shell/version.h"

@@ -38,8 +38,8 @@ struct Surroundings {
 /// everywhere. A comma that cuts an amount short gives a warning, and the input checks run as after a click on the
 /// window's button: a refusal is printed as "title: message". A range without a file is refused, with the nearest
 /// names; one whose file cannot be read is reported before the run fails on it. If the terminal supports it, a run of
-/// more than half a second shows a bar. Fails as the input checks, Analyze and AnalysisOutput do. Only saving a range
-/// writes anything.
+/// more than half a second shows a bar. Fails as the input checks, Analyze and the output format do. Only saving a
+/// range writes anything.
 [[nodiscard]] int RunCompanion(std::span<const std::string> arguments, const Surroundings& surroundings);
 
 }  // namespace quillon

@@ -73,20 +73,20 @@ Analysis EngineRun(const CommandCase& command, const ProgramFolder& folder) {
 TEST_P(EachCommand, PrintsItsRunInEveryFormatAndPlainUnlessToldOtherwise) {
   const CompanionProgram program;
   const Analysis state = EngineRun(GetParam(), program.Folder());
-  for (const OutputFormatRow& row : kAnalysisFormats) {
+  for (const auto& row : kAnalysisFormats) {
     const CompanionOutcome outcome = program.Run(With(*GetParam().arguments, {"--format", row.Name}));
     EXPECT_EQ(outcome.Status, kDone) << row.Name;
     EXPECT_EQ(outcome.Errors, "") << row.Name;
-    EXPECT_EQ(outcome.Output, AnalysisOutput(row.Format, state, {})) << row.Name;
+    EXPECT_EQ(outcome.Output, row.Text({state, {}})) << row.Name;
   }
-  EXPECT_EQ(program.Run(*GetParam().arguments).Output, AnalysisOutput(OutputFormat::kPlain, state, {}));
+  EXPECT_EQ(program.Run(*GetParam().arguments).Output, InFormat(kAnalysisFormats, "plain", {state, {}}));
 }
 
 TEST_P(EachCommand, AddsTheWorkingOfEachHand) {
   const CompanionProgram program;
   Analysis state = EngineRun(GetParam(), program.Folder());
   const std::vector<std::string> hands = {"AKo", "22", "AKo"};
-  const std::string expected = AnalysisOutput(OutputFormat::kForum, state, hands);
+  const std::string expected = InFormat(kAnalysisFormats, "2+2", {state, hands});
   for (const Arguments& options : {Arguments{"--hand", "AKo", "--format", "2+2", "--hand", "22", "--hand", "AKo"},
                                    Arguments{"--format", "2+2", "--hand", "AKo", "22", "AKo"},
                                    Arguments{"--hand", "AKo", "22", "--hand", "AKo", "--format", "2+2"}}) {
@@ -397,7 +397,7 @@ TEST(OddRun, IsPrintedInEveryFormat) {
            {"a best value of zero", Raise("100", "100", "50", "Aces", "Aces")},
            {"equities all alike", {"equity", "--range", "Trace"}},
            {"all hands of one value", Raise("3", "", "9", "Loose", "Nothing")}}) {
-    for (const OutputFormatRow& row : kAnalysisFormats) {
+    for (const auto& row : kAnalysisFormats) {
       const CompanionOutcome outcome =
           program.Run(With(arguments, {"--format", row.Name}), {.Terminal = {.ShowColors = true}});
       EXPECT_EQ(outcome.Status, kDone) << rule << " as " << row.Name;

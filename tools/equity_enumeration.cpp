@@ -4,7 +4,6 @@
 #include <atomic>
 #include <limits>
 #include <memory>
-#include <span>
 #include <thread>
 
 namespace quillon {

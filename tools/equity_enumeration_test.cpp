@@ -44,7 +44,8 @@ std::vector<LiveHand> LiveHands(const BoardClass& board) {
   constexpr int kEnd = static_cast<int>(kDeckSize);
   plain::Cards cards;
   for (int card = 0; card < kEnd; ++card) {
-    if ((board.suits[static_cast<std::size_t>(card % kSuitCount)] & RankBit(card)) != 0) cards.push_back(card);
+    const RankMask rank = RankAt(static_cast<std::size_t>(card / kSuitCount));
+    if ((board.suits[static_cast<std::size_t>(card % kSuitCount)] & rank) != 0) cards.push_back(card);
   }
   const auto isLive = [&](int card) { return std::find(cards.begin(), cards.end(), card) == cards.end(); };
   std::vector<LiveHand> hands;

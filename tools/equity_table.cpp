@@ -4,7 +4,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iostream>

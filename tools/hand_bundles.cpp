@@ -14,10 +14,6 @@ constexpr std::size_t kSuitMaskCount = kAllSuits + 1;
 constexpr int kCardsInFlush = 5;
 constexpr int kCardsInHand = 2;
 
-constexpr RankMask RankAt(std::size_t place) {
-  return static_cast<RankMask>(1U << (kRankCount - 1 - place));
-}
-
 constexpr bool Has(SuitMask suits, std::size_t suit) {
   return (suits >> suit & 1U) != 0;
 }

@@ -1,6 +1,5 @@
 #include "tools/hand_ranking.h"
 
-#include <algorithm>
 #include <bit>
 
 namespace quillon {

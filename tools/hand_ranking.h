@@ -80,10 +80,10 @@ struct RankTally {
   return tally;
 }
 
-/// The rank bit of a card by its position in the deck, which runs from the ace down, four suits to a rank: `RankBit(0)`
-/// is the ace's bit 12, `RankBit(51)` the deuce's bit 0.
-[[nodiscard]] constexpr RankMask RankBit(int card) {
-  return static_cast<RankMask>(1U << (kRankCount - 1 - card / kSuitCount));
+/// The set of one rank, by its position from the ace down: `RankAt(0)` is the ace's bit 12, `RankAt(12)` the deuce's
+/// bit 0.
+[[nodiscard]] constexpr RankMask RankAt(std::size_t place) {
+  return static_cast<RankMask>(1U << (kRankCount - 1 - place));
 }
 
 /// The strength of the best five cards among five to seven whose ranks are tallied, ignoring suits.

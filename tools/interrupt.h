@@ -15,9 +15,7 @@ class InterruptWatch {
  public:
   InterruptWatch();
   InterruptWatch(const InterruptWatch&) = delete;
-  InterruptWatch(InterruptWatch&&) = delete;
   InterruptWatch& operator=(const InterruptWatch&) = delete;
-  InterruptWatch& operator=(InterruptWatch&&) = delete;
   ~InterruptWatch();
 
   /// Whether the signal has come.

@@ -1,7 +1,6 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <cstddef>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/types.h>

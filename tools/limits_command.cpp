@@ -36,10 +36,6 @@ std::string GridOutput(const Answer& answer) {
   return ClassGrid(texts);
 }
 
-std::string CsvOutput(const Answer& answer) {
-  return LimitTable(answer.limits, ',');
-}
-
 std::string JsonOutput(const Answer& answer) {
   nlohmann::ordered_json hands = nlohmann::ordered_json::array();
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
@@ -52,20 +48,15 @@ std::string JsonOutput(const Answer& answer) {
   return nlohmann::ordered_json{{"hands", hands}}.dump(2) + "\n";
 }
 
-std::string HtmlOutput(const Answer& answer) {
-  return LimitsPage(answer.question, answer.limits);
-}
-
-std::string SvgOutput(const Answer& answer) {
-  return LimitsPicture(answer.question, answer.limits);
-}
-
 constexpr std::array<Format<Answer>, 5> kFormats = {{
     {{"grid", "a grid to read, amounts rounded to the side on which the hand does not lose"}, GridOutput},
-    {{"csv", "hand, limit, amount; always and never have no amount"}, CsvOutput},
+    {{"csv", "hand, limit, amount; always and never have no amount"},
+     [](const Answer& answer) { return LimitTable(answer.limits, ','); }},
     {{"json", "the same as one object"}, JsonOutput},
-    {{"html", "a web page of one file: the situation, the grid, a table"}, HtmlOutput},
-    {{"svg", "the grid as a picture"}, SvgOutput},
+    {{"html", "a web page of one file: the situation, the grid, a table"},
+     [](const Answer& answer) { return LimitsPage(answer.question, answer.limits); }},
+    {{"svg", "the grid as a picture"},
+     [](const Answer& answer) { return LimitsPicture(answer.question, answer.limits); }},
 }};
 
 int Print(const Answer& answer, const std::string& format, const Surroundings& surroundings) {

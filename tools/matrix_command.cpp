@@ -4,7 +4,6 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "hand/equity_table.h"
 #include "support/number_text.h"
 #include "tools/commands.h"
 

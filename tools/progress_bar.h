@@ -14,9 +14,7 @@ class ProgressBar {
   /// A bar that starts now. `surroundings` must outlive it.
   explicit ProgressBar(const Surroundings& surroundings) : surroundings_(surroundings), start_(surroundings.Now()) {}
   ProgressBar(const ProgressBar&) = delete;
-  ProgressBar(ProgressBar&&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
-  ProgressBar& operator=(ProgressBar&&) = delete;
   /// Clears the line, so that the text of a failure does not follow the bar.
   ~ProgressBar();
 

@@ -1,6 +1,5 @@
 #include <CLI/CLI.hpp>
 #include <memory>
-#include <ostream>
 
 #include "tools/commands.h"
 #include "tools/saved_range.h"

@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "ranges/range_notation.h"
+#include "study/figure_svg.h"
 #include "study/hand_order.h"
 #include "study/sweep.h"
-#include "study/sweep_picture.h"
+#include "study/sweep_figure.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/commands.h"
@@ -52,10 +53,6 @@ std::vector<std::string> Headings(const Answer& answer) {
   std::vector<std::string> headings = {answer.what, "profitable"};
   headings.insert(headings.end(), answer.hands.begin(), answer.hands.end());
   return headings;
-}
-
-std::string CsvOutput(const Answer& answer) {
-  return SweepCsv(answer.what, answer.hands, answer.rows);
 }
 
 // Right-aligned columns, for numbers.
@@ -101,12 +98,13 @@ std::string SvgOutput(const Answer& answer) {
       {"width", "Width of his range, in percent of all hands"},
   }};
   const auto* const row = std::ranges::find(kRows, answer.what, &Row::What);
-  return SweepPicture({answer.title, row->Across, answer.hands}, answer.rows);
+  return FigureSvg(SweepFigure({answer.title, row->Across, answer.hands}, answer.rows));
 }
 
 constexpr std::array<Format<Answer>, 4> kFormats = {{
     {{"table", "columns to read, values rounded to four decimals"}, TableOutput},
-    {{"csv", "the same with every digit"}, CsvOutput},
+    {{"csv", "the same with every digit"},
+     [](const Answer& answer) { return SweepCsv(answer.what, answer.hands, answer.rows); }},
     {{"json", "the same as one object"}, JsonOutput},
     {{"svg", "a picture: a line for each --hand, or the profitable hands without one"}, SvgOutput},
 }};
@@ -193,11 +191,15 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
   }
   const auto range = raise ? inputs.Range(request.situation.Range) : GivenRange{};
   if (!range) return inputs.Status();
-  const auto rangesAt = [&](std::string_view share) {
+  Rows rows;
+  for (std::int64_t step = 0; step < steps->Count(); ++step) {
+    const std::string share = steps->Text(step);
     const ClassWeights width = weightsAt(share);
-    return raise ? RangeNumbers(inputs.Hands(), range->Weights, width) : RangeNumbers(inputs.Hands(), width);
-  };
-  return Print(mode, "width", request, SweepRanges(question, rangesAt, *steps), surroundings);
+    const RangeNumbers ranges =
+        raise ? RangeNumbers(inputs.Hands(), range->Weights, width) : RangeNumbers(inputs.Hands(), width);
+    rows.push_back(SweepRowAt(question, ranges, share));
+  }
+  return Print(mode, "width", request, std::move(rows), surroundings);
 }
 
 std::vector<std::string> EachOnce(std::vector<std::string> hands) {
@@ -233,9 +235,7 @@ CLI::App* OfferSweepOf(AnalysisMode mode, CLI::App& options, const std::string& 
   OfferAmounts(*command, mode, static_cast<std::size_t>(scenario.AmountCount), request.situation);
   OfferRanges(*command, mode, request.situation);
   command->add_option(std::string(kWidthOption), request.width, width)->type_name("FROM:TO:STEP");
-  command->add_option("--hand", request.hands, "Adds the expected value of these hands")
-      ->type_name("LABEL")
-      ->check(CLI::Validator(CheckLabel, ""));
+  OfferHands(*command, request.hands, "Adds the expected value of these hands");
   OfferFormat(*command, request.format, kFormats);
   OfferFolder(*command, request.folder);
   return command;

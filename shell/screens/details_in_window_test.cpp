@@ -87,17 +87,17 @@ TEST_F(DetailsInWindow, TheReportIsTheCompanionsCharacterForCharacter) {
                                 ShoveWithDroppedHands(), CallWithOddDigits()}) {
     SCOPED_TRACE(state.RangeName);
     ShowDetailsOf(state);
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+    EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "plain", {state, {}}));
     PickForum();
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, {}));
+    EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "2+2", {state, {}}));
     PickPlain();
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kPlain, state, {}));
+    EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "plain", {state, {}}));
     PickForum();
     PickHand("72o");
     PickHand("AKs");
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands));
+    EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "2+2", {state, hands}));
     QTest::keyClick(&Get<QComboBox>("cmbo169"), Qt::Key_Home);
-    EXPECT_EQ(ReportText(), AnalysisOutput(OutputFormat::kForum, state, hands)) << "None adds and removes nothing";
+    EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "2+2", {state, hands})) << "None adds and removes nothing";
   }
 }
 

@@ -76,7 +76,7 @@ TEST_F(ResultsMenuInWindow, CopiesTheTableThatTheCompanionPrintsWithTabs) {
     ShowGridOf(state);
     Choose("72o", "Copy table");
     EXPECT_EQ(FromQt(QGuiApplication::clipboard()->text()),
-              Replaced(AnalysisOutput(OutputFormat::kCsv, state, {}), ",", "\t"));
+              Replaced(InFormat(kAnalysisFormats, "csv", {state, {}}), ",", "\t"));
   }
 }
 
@@ -99,7 +99,8 @@ TEST_F(ResultsMenuInWindow, SavesTheCompanionsPageUnderTheNameTyped) {
   ExpectMessageBox(kSaved, MessageAnswer::kNo);
   Choose("AA", "Save as web page...");
   VerifyExpectedBoxes();
-  EXPECT_EQ(BytesOf(SavedGrids() / "My \"shove\".html"), AnalysisOutput(OutputFormat::kHtml, sample::RaiseState(), {}));
+  EXPECT_EQ(BytesOf(SavedGrids() / "My \"shove\".html"),
+            InFormat(kAnalysisFormats, "html", {sample::RaiseState(), {}}));
   EXPECT_EQ(opener.Opened(), "");
 
   ComeToFront();
@@ -151,7 +152,7 @@ TEST_F(ResultsMenuInWindow, AHandInTheReportIsDetailsForumAndThatHand) {
     EXPECT_EQ(FromQt(Get<QComboBox>("cmbo169").currentText()), "K9o");
     EXPECT_TRUE(Shows("cmbo169"));
     EXPECT_EQ(FromQt(Get<RichTextBox>("rtfSummary").toPlainText()),
-              AnalysisOutput(OutputFormat::kForum, sample::RaiseState(), hands));
+              InFormat(kAnalysisFormats, "2+2", {sample::RaiseState(), hands}));
   };
   expectReport();
 

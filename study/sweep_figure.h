@@ -22,7 +22,4 @@ struct SweepLabels {
 /// one row.
 [[nodiscard]] Figure SweepFigure(const SweepLabels& labels, std::span<const SweepRow> rows);
 
-/// The same as an SVG document.
-[[nodiscard]] std::string SweepPicture(const SweepLabels& labels, std::span<const SweepRow> rows);
-
 }  // namespace quillon

@@ -1,4 +1,4 @@
-#include "study/sweep_picture.h"
+#include "study/sweep_figure.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "study/figure_svg.h"
 #include "support/number_text.h"
 #include "testing/golden_file.h"
 #include "testing/split_text.h"
@@ -51,9 +52,13 @@ double ZeroLine(const std::string& picture) {
   return LeadingNumber(Attribute(Split(Split(picture, "class=\"zero\"").at(0), "<line").back(), "y1"));
 }
 
-TEST(SweepPicture, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
+std::string Picture(const SweepLabels& labels, const std::vector<SweepRow>& rows) {
+  return FigureSvg(SweepFigure(labels, rows));
+}
+
+TEST(SweepFigure, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
   const std::vector<SweepRow> rows = {{"5", 1326, {2, -1}}, {"10", 900, {1, -2}}, {"15", 100, {0, 3}}};
-  const std::string picture = SweepPicture({"Preflop Raise", "Shove", {"AA", "72o"}}, rows);
+  const std::string picture = Picture({"Preflop Raise", "Shove", {"AA", "72o"}}, rows);
   const auto lines = Lines(picture);
   ASSERT_THAT(lines, SizeIs(2));
   const double zero = ZeroLine(picture);
@@ -73,14 +78,14 @@ TEST(SweepPicture, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
   ExpectGolden(picture, "sweep.svg");
 }
 
-TEST(SweepPicture, NamesLinesRightOfThemAndApart) {
+TEST(SweepFigure, NamesLinesRightOfThemAndApart) {
   std::vector<std::string> hands;
   std::vector<double> values;
   for (int i = 0; i < 40; ++i) {
     hands.push_back("H" + std::to_string(i));
     values.push_back(i % 3);
   }
-  const std::string picture = SweepPicture({"", "", hands}, std::vector<SweepRow>{{"1", 0, values}, {"2", 0, values}});
+  const std::string picture = Picture({"", "", hands}, std::vector<SweepRow>{{"1", 0, values}, {"2", 0, values}});
   double right = 0;
   for (const Points& line : Lines(picture))
     right = std::max(right, line.back().first);
@@ -99,9 +104,9 @@ TEST(SweepPicture, NamesLinesRightOfThemAndApart) {
   EXPECT_EQ(names, hands.size());
 }
 
-TEST(SweepPicture, WithoutAHandShowsTheShareThatIsProfitable) {
+TEST(SweepFigure, WithoutAHandShowsTheShareThatIsProfitable) {
   const std::string picture =
-      SweepPicture({"Preflop Call", "Call", {}}, std::vector<SweepRow>{{"1", 1326, {}}, {"2", 663, {}}});
+      Picture({"Preflop Call", "Call", {}}, std::vector<SweepRow>{{"1", 1326, {}}, {"2", 663, {}}});
   const auto lines = Lines(picture);
   ASSERT_THAT(lines, SizeIs(1));
   const double zero = ZeroLine(picture);
@@ -110,7 +115,7 @@ TEST(SweepPicture, WithoutAHandShowsTheShareThatIsProfitable) {
 }
 
 // Numbers of any size stay within the picture.
-TEST(SweepPicture, HoldsNumbersOfAnySize) {
+TEST(SweepFigure, HoldsNumbersOfAnySize) {
   using Rows = std::vector<SweepRow>;
   for (const Rows& rows : std::vector<Rows>{
            Rows{SweepRow{"5", 0, {0.0}}},
@@ -119,7 +124,7 @@ TEST(SweepPicture, HoldsNumbersOfAnySize) {
            Rows{SweepRow{"999999999999998", 0, {kMost}}, SweepRow{"999999999999999", 0, {-kMost}}},
            Rows{SweepRow{"0", 0, {1e15}}, SweepRow{"100000", 0, {1e15 + 1}}},
        }) {
-    const std::string picture = SweepPicture({"", "", {"AA"}}, rows);
+    const std::string picture = Picture({"", "", {"AA"}}, rows);
     EXPECT_THAT(picture, AllOf(StartsWith("<svg "), Not(HasSubstr("nan")), Not(HasSubstr("inf"))));
     const double width = LeadingNumber(Attribute(picture, "width"));
     const double height = LeadingNumber(Attribute(picture, "height"));
@@ -131,16 +136,16 @@ TEST(SweepPicture, HoldsNumbersOfAnySize) {
   }
 }
 
-TEST(SweepPicture, HasAScaleWhereNothingIsWonOrLost) {
-  EXPECT_THAT(SweepPicture({"", "", {"AA"}}, std::vector<SweepRow>{{"5", 0, {0.0}}}),
+TEST(SweepFigure, HasAScaleWhereNothingIsWonOrLost) {
+  EXPECT_THAT(Picture({"", "", {"AA"}}, std::vector<SweepRow>{{"5", 0, {0.0}}}),
               AllOf(HasSubstr(">-1</text>"), HasSubstr(">1</text>")));
 }
 
-TEST(SweepPicture, LeavesRoomBetweenNumbersOfAnyLength) {
+TEST(SweepFigure, LeavesRoomBetweenNumbersOfAnyLength) {
   constexpr double kDigitWidth = 7;
   for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{
            {"0", "10"}, {"123456", "234567"}, {"100000000000000", "900000000000000"}}) {
-    const std::string picture = SweepPicture({"", "", {"AA"}}, std::vector<SweepRow>{{from, 0, {1}}, {to, 0, {2}}});
+    const std::string picture = Picture({"", "", {"AA"}}, std::vector<SweepRow>{{from, 0, {1}}, {to, 0, {2}}});
     double end = 0;
     std::size_t numbers = 0;
     for (const std::string& tag : Split(picture, "<text x=")) {
@@ -157,17 +162,17 @@ TEST(SweepPicture, LeavesRoomBetweenNumbersOfAnyLength) {
   }
 }
 
-TEST(SweepPicture, OfManyStepsIsNotLarge) {
+TEST(SweepFigure, OfManyStepsIsNotLarge) {
   std::vector<SweepRow> rows;
   for (int i = 0; i < 100000; ++i)
     rows.push_back({std::to_string(i), 0, {std::sin(i / 1000.0)}});
-  const std::string picture = SweepPicture({"", "", {"AA"}}, rows);
+  const std::string picture = Picture({"", "", {"AA"}}, rows);
   EXPECT_LT(picture.size(), 200000U);
   EXPECT_GT(Lines(picture).at(0).size(), 5000U);
 }
 
-TEST(SweepPicture, EscapesItsTexts) {
-  const std::string picture = SweepPicture({"<a>", "<b>", {"<c>"}}, std::vector<SweepRow>{{"1", 0, {1}}});
+TEST(SweepFigure, EscapesItsTexts) {
+  const std::string picture = Picture({"<a>", "<b>", {"<c>"}}, std::vector<SweepRow>{{"1", 0, {1}}});
   for (const char* text : {"&lt;a&gt;", "&lt;b&gt;", "&lt;c&gt;"})
     EXPECT_THAT(picture, HasSubstr(text));
   EXPECT_THAT(picture, Not(HasSubstr("<a>")));

@@ -1,12 +1,10 @@
-#include "study/sweep_picture.h"
+#include "study/sweep_figure.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <utility>
 
 #include "hand/hand_classes.h"
-#include "study/figure_svg.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 
@@ -66,10 +64,6 @@ Figure SweepFigure(const SweepLabels& labels, std::span<const SweepRow> rows) {
     AddValues(figure, labels.Hands, rows);
   }
   return figure;
-}
-
-std::string SweepPicture(const SweepLabels& labels, std::span<const SweepRow> rows) {
-  return FigureSvg(SweepFigure(labels, rows));
 }
 
 }  // namespace quillon
