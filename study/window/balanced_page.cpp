@@ -50,7 +50,7 @@ BalancedPage::BalancedPage(DialogSurroundings surroundings, QWidget* parent)
       call_{*MakeTextLabel(&grids_, kHeadingPoints, true), *new ClassGridView(&grids_)},
       worth_(*MakeTextLabel(this, kTextPoints)),
       hand_(*MakeTextLabel(this, kTextPoints, true)),
-      legend_(*new LegendView(this)),
+      legend_(*new QWidget(this)),
       save_(*new QPushButton(QStringLiteral("Save his range..."), this)) {
   BuildPage();
   Bind();
@@ -197,7 +197,7 @@ void BalancedPage::ShowFound(const BalanceQuestion& question, const std::optiona
   found_ = found->Call;
   const QString worth = ToQt(BalanceWords(*found));
   worth_.setText(worth);
-  legend_.Show(PlayedLegend(shove_.Cells, call_.Cells));
+  ShowLegend(legend_, PlayedLegend(shove_.Cells, call_.Cells));
   Tell(told_);
   notice_.hide();
   for (QWidget* part : std::initializer_list<QWidget*>{&grids_, &worth_, &hand_, &legend_})

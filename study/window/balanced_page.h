@@ -15,7 +15,7 @@
 #include "ranges/dialogs/dialog_window.h"
 #include "study/balance_texts.h"
 #include "study/window/class_grid_view.h"
-#include "study/window/legend_view.h"
+#include "study/window/legend.h"
 #include "study/window/study_page.h"
 #include "study/window/study_work.h"
 #include "toolkit/text_box.h"
@@ -69,7 +69,7 @@ class BalancedPage : public StudyPage {
   Side call_;
   QLabel& worth_;
   QLabel& hand_;
-  LegendView& legend_;
+  QWidget& legend_;
   QPushButton& save_;
   std::optional<StudySituation> situation_;
   std::optional<BalanceTexts> asked_;  // the question shown, or being answered

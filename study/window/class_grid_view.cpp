@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 #include "toolkit/colors.h"
 #include "toolkit/control.h"

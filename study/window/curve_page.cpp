@@ -2,13 +2,10 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "shell/start_up.h"

@@ -1,3 +1,5 @@
+#include "study/window/curve_pages.h"
+
 #include <QAccessible>
 #include <QClipboard>
 #include <QFileDialog>
@@ -14,8 +16,6 @@
 #include <vector>
 
 #include "study/figure_svg.h"
-#include "study/window/how_far_page.h"
-#include "study/window/width_page.h"
 #include "testing/bring_to_front.h"
 #include "testing/expected_boxes.h"
 #include "testing/heard_announcements.h"

@@ -1,7 +1,6 @@
 #include "study/window/limits_page.h"
 
 #include <QClipboard>
-#include <QFrame>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -44,7 +43,7 @@ LimitsPage::LimitsPage(QWidget* parent)
       summary_(*MakeTextLabel(this, kTextPoints)),
       hand_(*MakeTextLabel(this, kHandPoints, true)),
       words_(*MakeTextLabel(this, kTextPoints)),
-      legend_(*new LegendView(this)) {
+      legend_(*new QWidget(this)) {
   auto* copy = new QPushButton(QStringLiteral("Copy Table"), this);
   copy->setAutoDefault(true);
   auto* side = new QVBoxLayout;
@@ -78,7 +77,7 @@ void LimitsPage::Show(const StudySituation& situation) {
   grid_.Show(LimitCellsAt(limits_, now_));
   title_.setText(QStringLiteral("%1 up to").arg(MoveOf(asked)));
   summary_.setText(ToQt(SummaryOf(limits_, now_)));
-  legend_.Show(LimitLegendAt(limits_, now_));
+  ShowLegend(legend_, LimitLegendAt(limits_, now_));
   Tell(told_);
 }
 

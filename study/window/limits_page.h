@@ -6,7 +6,7 @@
 
 #include "study/limits.h"
 #include "study/window/class_grid_view.h"
-#include "study/window/legend_view.h"
+#include "study/window/legend.h"
 #include "study/window/study_page.h"
 
 namespace quillon {
@@ -32,7 +32,7 @@ class LimitsPage : public StudyPage {
   QLabel& summary_;
   QLabel& hand_;
   QLabel& words_;
-  LegendView& legend_;
+  QWidget& legend_;
   std::int16_t told_ = 0;
   Limits limits_{};
   double now_ = 0;  // the situation's amount

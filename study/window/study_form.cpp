@@ -11,10 +11,9 @@
 
 #include "ranges/dialogs/form_place.h"
 #include "study/window/balanced_page.h"
-#include "study/window/how_far_page.h"
+#include "study/window/curve_pages.h"
 #include "study/window/limits_page.h"
 #include "study/window/text_label.h"
-#include "study/window/width_page.h"
 #include "support/utf8.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/form_keys.h"

@@ -1,4 +1,4 @@
-#include "study/window/legend_view.h"
+#include "study/window/legend.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -35,19 +35,17 @@ class Swatch : public QWidget {
 
 }  // namespace
 
-LegendView::LegendView(QWidget* parent) : QWidget(parent) {}
-
-void LegendView::Show(const std::vector<PageLegend>& lines) {
-  qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-  delete layout();
-  auto* rows = new QGridLayout(this);
+void ShowLegend(QWidget& place, const std::vector<PageLegend>& lines) {
+  qDeleteAll(place.findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+  delete place.layout();
+  auto* rows = new QGridLayout(&place);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setColumnStretch(1, 1);
   int row = 0;
   for (const PageLegend& line : lines) {
-    QLabel* text = MakeTextLabel(this, kTextPoints);
+    QLabel* text = MakeTextLabel(&place, kTextPoints);
     text->setText(ToQt(line.Text));
-    rows->addWidget(new Swatch(line.Color, this), row, 0, Qt::AlignTop);
+    rows->addWidget(new Swatch(line.Color, &place), row, 0, Qt::AlignTop);
     rows->addWidget(text, row, 1);
     ++row;
   }

@@ -1,4 +1,4 @@
-#include "study/window/width_page.h"
+#include "study/window/curve_pages.h"
 
 #include <QElapsedTimer>
 #include <cstdint>
@@ -13,6 +13,25 @@ namespace {
 constexpr int kStepMilliseconds = 10;
 
 }  // namespace
+
+HowFarPage::HowFarPage(ProgramFolder folder, QWidget* parent) : CurvePage(std::move(folder), 1, parent) {}
+
+StepTexts HowFarPage::StepsFor(std::span<const std::int16_t> hands) const {
+  return AmountStepsFor(About(), hands);
+}
+
+std::variant<Steps, std::string> HowFarPage::ReadSteps(const StepTexts& texts) const {
+  return ReadAmountSteps(About(), texts);
+}
+
+void HowFarPage::Begin(const std::vector<std::int16_t>& hands, const Steps& steps) {
+  Draw(AmountCurves(About(), hands, steps));
+  TellFigure();
+}
+
+std::vector<Figure> HowFarPage::FiguresOf(const HandCurves& curves) const {
+  return {AmountFigure(About(), curves)};
+}
 
 WidthPage::WidthPage(ProgramFolder folder, QWidget* parent)
     : CurvePage(std::move(folder), 2, parent), work_(*new StudyWork(this)) {

@@ -9,14 +9,7 @@
 
 namespace quillon {
 
-class LegendView : public QWidget {
-  Q_OBJECT
-
- public:
-  explicit LegendView(QWidget* parent = nullptr);
-
-  /// Replaces all lines.
-  void Show(const std::vector<PageLegend>& lines);
-};
+/// Fills a widget with these lines, in place of all that was in it.
+void ShowLegend(QWidget& place, const std::vector<PageLegend>& lines);
 
 }  // namespace quillon
