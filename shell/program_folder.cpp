@@ -68,9 +68,7 @@ class Draft {
     MakeFolder(path_, calls);
   }
   Draft(const Draft&) = delete;
-  Draft(Draft&&) = delete;
   Draft& operator=(const Draft&) = delete;
-  Draft& operator=(Draft&&) = delete;
   ~Draft() { Remove(); }
 
  private:

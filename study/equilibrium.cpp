@@ -252,8 +252,6 @@ struct BalanceSearch::State {
 BalanceSearch::BalanceSearch(const HandNumbers& hands, const BalanceQuestion& question)
     : state_(std::make_unique<State>(hands, question)) {}
 BalanceSearch::~BalanceSearch() = default;
-BalanceSearch::BalanceSearch(BalanceSearch&& other) noexcept = default;
-BalanceSearch& BalanceSearch::operator=(BalanceSearch&& other) noexcept = default;
 
 bool BalanceSearch::GoOn() {
   if (state_->Ended) return false;

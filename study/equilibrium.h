@@ -59,8 +59,6 @@ class BalanceSearch {
   /// `hands` need not outlive it.
   BalanceSearch(const HandNumbers& hands, const BalanceQuestion& question);
   ~BalanceSearch();
-  BalanceSearch(BalanceSearch&& other) noexcept;
-  BalanceSearch& operator=(BalanceSearch&& other) noexcept;
   BalanceSearch(const BalanceSearch&) = delete;
   BalanceSearch& operator=(const BalanceSearch&) = delete;
 

@@ -18,9 +18,7 @@ class FolderLock {
  public:
   explicit FolderLock(const std::filesystem::path& folder, FileCalls& calls = SystemFileCalls());
   FolderLock(const FolderLock&) = delete;
-  FolderLock(FolderLock&&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
-  FolderLock& operator=(FolderLock&&) = delete;
   ~FolderLock();
 
   /// Whether the lock was acquired.

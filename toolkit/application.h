@@ -41,10 +41,7 @@ class Answering {
  public:
   explicit Answering(UserAct act);
   ~Answering();
-  Answering(const Answering&) = delete;
-  Answering& operator=(const Answering&) = delete;
-  Answering(Answering&&) = delete;
-  Answering& operator=(Answering&&) = delete;
+  Q_DISABLE_COPY_MOVE(Answering)
 
  private:
   UserAct outer_;

@@ -24,10 +24,7 @@ class QtScalingOff {
  public:
   QtScalingOff();
   ~QtScalingOff();
-  QtScalingOff(const QtScalingOff&) = delete;
-  QtScalingOff& operator=(const QtScalingOff&) = delete;
-  QtScalingOff(QtScalingOff&&) = delete;
-  QtScalingOff& operator=(QtScalingOff&&) = delete;
+  Q_DISABLE_COPY_MOVE(QtScalingOff)
 
  private:
   std::array<QByteArray, 3> before_;

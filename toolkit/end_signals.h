@@ -15,9 +15,7 @@ class EndSignals {
   /// object may exist at a time.
   explicit EndSignals(std::function<void()> end);
   EndSignals(const EndSignals&) = delete;
-  EndSignals(EndSignals&&) = delete;
   EndSignals& operator=(const EndSignals&) = delete;
-  EndSignals& operator=(EndSignals&&) = delete;
   /// Restores the signals' old handlers.
   ~EndSignals();
 

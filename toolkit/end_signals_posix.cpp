@@ -52,10 +52,7 @@ class EndSignals::Watch {
       if (before_.at(i).sa_handler != SIG_IGN) sigaction(kSignals.at(i), &wake, nullptr);
     }
   }
-  Watch(const Watch&) = delete;
-  Watch(Watch&&) = delete;
-  Watch& operator=(const Watch&) = delete;
-  Watch& operator=(Watch&&) = delete;
+  Q_DISABLE_COPY_MOVE(Watch)
   ~Watch() {
     for (std::size_t i = 0; i < kSignals.size(); ++i)
       sigaction(kSignals.at(i), &before_.at(i), nullptr);

@@ -15,11 +15,6 @@ namespace quillon {
 class InputBlock : public QObject {
  public:
   InputBlock();
-  ~InputBlock() override = default;
-  InputBlock(const InputBlock&) = delete;
-  InputBlock& operator=(const InputBlock&) = delete;
-  InputBlock(InputBlock&&) = delete;
-  InputBlock& operator=(InputBlock&&) = delete;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

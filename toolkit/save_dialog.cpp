@@ -87,10 +87,7 @@ class FolderForQt {
     hold_ = SystemFileCalls().Open(path, OpenFor::kListing, 0);
     if (hold_ >= 0) name_ = QStringLiteral("/proc/self/fd/%1").arg(hold_);
   }
-  FolderForQt(const FolderForQt&) = delete;
-  FolderForQt(FolderForQt&&) = delete;
-  FolderForQt& operator=(const FolderForQt&) = delete;
-  FolderForQt& operator=(FolderForQt&&) = delete;
+  Q_DISABLE_COPY_MOVE(FolderForQt)
   ~FolderForQt() {
     if (hold_ >= 0) SystemFileCalls().Close(hold_);
   }
