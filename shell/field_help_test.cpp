@@ -22,7 +22,8 @@ bool IsSentences(const std::string& text) {
 
 TEST(FieldHelp, EachLinkShowsWholeSentencesUnderItsKey) {
   std::set<std::string> texts;
-  for (const std::string_view key : kFieldHelpKeys) {
+  for (const FieldHelp& help : kFieldHelp) {
+    const std::string_view key = help.Key;
     const std::string text(FieldHelpText(key));
     for (const std::string& paragraph : Split(text, "\r\n\r\n")) {
       EXPECT_TRUE(IsSentences(paragraph)) << key << ": " << paragraph;

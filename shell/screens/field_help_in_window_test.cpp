@@ -5,9 +5,9 @@ namespace quillon {
 namespace {
 
 TEST_F(MainFormTest, EachHelpLinkShowsItsTextUnderItsToolTip) {
-  ASSERT_EQ(Form.Controls().CountOf("lblWhatsThis"), static_cast<std::int16_t>(kFieldHelpKeys.size()));
+  ASSERT_EQ(Form.Controls().CountOf("lblWhatsThis"), static_cast<std::int16_t>(kFieldHelp.size()));
   for (std::int16_t i = 0; i < Form.Controls().CountOf("lblWhatsThis"); ++i) {
-    const std::string key(kFieldHelpKeys.at(static_cast<std::size_t>(i)));
+    const std::string key(kFieldHelp.at(static_cast<std::size_t>(i)).Key);
     SCOPED_TRACE(key);
     Open(i < 5 ? kRaiseNav : kCallNav);
     const Label& link = LabelAt("lblWhatsThis", i);

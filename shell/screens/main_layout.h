@@ -44,7 +44,7 @@ constexpr std::string_view kDetailsScreen = "Details";
 
 constexpr ControlRow WhatsThis(std::int16_t index, TwipRect place, std::string_view spoken) {
   return {.Name = "lblWhatsThis", .Index = index, .Text = "What's this?", .Place = place, .Fore = kInk,
-          .Font = Arial(8.25), .Use = kLink, .ToolTip = kFieldHelpKeys.at(static_cast<std::size_t>(index)),
+          .Font = Arial(8.25), .Use = kLink, .ToolTip = kFieldHelp.at(static_cast<std::size_t>(index)).Key,
           .Spoken = spoken};
 }
 

@@ -7,10 +7,11 @@
 #include "analysis/scenarios.h"
 #include "results/analysis_page.h"
 #include "results/analysis_table.h"
-#include "shell/saved_page.h"
+#include "shell/grid_image.h"
 #include "shell/start_up.h"
 #include "support/files.h"
 #include "support/folders.h"
+#include "support/windows_1252.h"
 #include "toolkit/accessible_control.h"
 #include "toolkit/browser.h"
 #include "toolkit/popup_menu.h"
@@ -18,6 +19,21 @@
 #include "toolkit/text.h"
 
 namespace quillon {
+namespace {
+
+Message OpenPageQuestion() {
+  return {.title = std::string(kOpenNowTitle),
+          .text = "Web page saved successfully.\r\n\r\nDo you want to open the web page now?",
+          .icon = MessageIcon::kQuestion,
+          .buttons = MessageButtons::kYesNo};
+}
+
+Message PageNotOpenedMessage(const std::filesystem::path& page) {
+  return {.text = "The web page could not be opened. It is the file:\r\n\r\n" + TextOfFileName(page.string()),
+          .icon = MessageIcon::kExclamation};
+}
+
+}  // namespace
 
 ResultsMenu::ResultsMenu(Surroundings surroundings) : around_(std::move(surroundings)) {}
 
@@ -50,8 +66,8 @@ void ResultsMenu::CopyTable() const {
 void ResultsMenu::SavePage() {
   MakeFolderIfMissing(SavedGridsFolderPath(around_.Folder), *around_.Folder.Calls);
   const std::filesystem::path fileName =
-      AskFileName(around_.Form, {.Title = kSavePageTitle,
-                                 .Filter = kSavePageFilter,
+      AskFileName(around_.Form, {.Title = "Save as Web Page",
+                                 .Filter = "Web page | *.html",
                                  .Folder = SavedGridsFolderPath(around_.Folder).string(),
                                  .Offered = lastPage_});
   if (fileName.empty()) return;

@@ -1,7 +1,8 @@
 #pragma once
 
-// The menu of the results grid: the results as a picture, a table or a web page, and more about the hand that it was
-// opened on. All disabled before the first finished analysis.
+// The menu of the results grid: the results as a picture, a table or a web page ("results/analysis_page.h"), and more
+// about the hand that it was opened on. All disabled before the first finished analysis. The page is a file under
+// exactly the name that the user gives, by default in the folder of the pictures.
 
 #include <QPoint>
 #include <QWidget>

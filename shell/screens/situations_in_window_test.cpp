@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <gmock/gmock.h>
 
-#include "shell/screens/situation_dialog.h"
 #include "testing/heard_announcements.h"
 #include "testing/main_stage.h"
 #include "testing/opened_menu.h"
@@ -55,7 +54,10 @@ class SituationsInWindow : public MainFormTest {
   }
 
   [[nodiscard]] static QListWidget& ListOf(QDialog& dialog) { return *dialog.findChild<QListWidget*>(); }
-  [[nodiscard]] static std::string Current(QDialog& dialog) { return dynamic_cast<SituationDialog&>(dialog).Name(); }
+  [[nodiscard]] static std::string Current(QDialog& dialog) {
+    const QListWidgetItem* const item = ListOf(dialog).currentItem();
+    return item == nullptr ? std::string() : FromQt(item->text());
+  }
   [[nodiscard]] static std::vector<std::string> Names(QDialog& dialog) {
     std::vector<std::string> names;
     for (int row = 0; row < ListOf(dialog).count(); ++row)
