@@ -119,7 +119,7 @@ class MainStage {
   [[nodiscard]] std::string Screen() {
     std::string shown;
     for (std::int16_t i = 0; i < Form.Controls().CountOf("frameContent"); ++i) {
-      if (Shows("frameContent", i)) shown += FromQt(Get<Frame>("frameContent", i).Caption()) + ";";
+      if (Shows("frameContent", i)) shown += FromQt(Get<Frame>("frameContent", i).accessibleName()) + ";";
     }
     EXPECT_FALSE(shown.empty()) << "no screen is visible";
     return shown.substr(0, shown.empty() ? 0 : shown.size() - 1);

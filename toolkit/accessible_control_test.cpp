@@ -109,7 +109,7 @@ TEST(AccessibleControl, SaysItsTextOrTheNameItWasGiven) {
   EXPECT_EQ(NameOf(picture), QStringLiteral("Analyze"));
 
   Frame frame(nullptr);
-  frame.SetCaption(QStringLiteral("ALL IN Grid"));
+  frame.setAccessibleName(QStringLiteral("ALL IN Grid"));
   EXPECT_EQ(NameOf(frame), QStringLiteral("ALL IN Grid"));
 }
 

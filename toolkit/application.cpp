@@ -16,7 +16,7 @@
 #include "toolkit/clipboard.h"
 #include "toolkit/desktop_scale.h"
 #include "toolkit/fonts.h"
-#include "toolkit/light_look.h"
+#include "toolkit/light_style.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/placement.h"
 #include "toolkit/start_failure.h"

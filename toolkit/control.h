@@ -4,7 +4,6 @@
 // default a mouse click does not move the focus, so a box keeps it while a link is clicked. A click is a press and
 // release of the left button over the control, or Enter or Space while it has the focus; a double click is two clicks.
 
-#include <QRect>
 #include <QString>
 #include <QWidget>
 #include <array>

@@ -107,6 +107,8 @@ struct ControlTable {
 };
 
 /// A control's object name: "txtNumber(2)", or "picLogo" for a unique name.
-[[nodiscard]] std::string ObjectName(std::string_view name, std::int16_t index = kNoIndex);
+[[nodiscard]] inline std::string ObjectName(std::string_view name, std::int16_t index = kNoIndex) {
+  return std::string(name) + (index == kNoIndex ? "" : "(" + std::to_string(index) + ")");
+}
 
 }  // namespace quillon

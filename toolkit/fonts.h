@@ -5,7 +5,6 @@
 // converted to pixels here, by the program's scale ("toolkit/twip_geometry.h"), whatever the screen reports.
 
 #include <QFont>
-#include <QString>
 #include <QStringList>
 #include <string_view>
 

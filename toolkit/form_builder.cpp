@@ -83,7 +83,7 @@ QPushButton* MakeButton(QWidget* container, const ControlRow& row) {
 
 Frame* MakeFrame(QWidget* container, const ControlRow& row) {
   auto* frame = new Frame(container);
-  frame->SetCaption(ToQt(row.Text));
+  frame->setAccessibleName(ToQt(row.Text));
   frame->SetBackColor(ToColor(row.Back == kNoColor ? 0xFFFFFF : row.Back));
   return frame;
 }

@@ -73,7 +73,7 @@ TEST(FormBuilder, PutsEachTableIntoItsContainer) {
   const LayoutControls<kTables> controls(form);
 
   const Label& label = controls.LabelAt("lblPot");
-  EXPECT_EQ(controls.FrameAt("frameContent", 0).Caption(), QStringLiteral("Progress"));
+  EXPECT_EQ(controls.FrameAt("frameContent", 0).accessibleName(), QStringLiteral("Progress"));
   EXPECT_EQ(label.mapTo(&form, QPoint(0, 0)), QPoint(220 + 100 + 10, 100 + 20));
   EXPECT_EQ(label.font().pixelSize(), 16);
 }

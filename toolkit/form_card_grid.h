@@ -14,7 +14,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string_view>
 
 #include "hand/hand_classes.h"
 #include "ranges/card_grid.h"

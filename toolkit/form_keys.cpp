@@ -5,7 +5,6 @@
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QShortcut>
 #include <QTextEdit>
 #include <utility>
 

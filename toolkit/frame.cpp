@@ -9,11 +9,6 @@ Frame::Frame(QWidget* parent) : Control(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void Frame::SetCaption(const QString& caption) {
-  caption_ = caption;
-  setAccessibleName(caption);
-}
-
 void Frame::SetBackColor(const QColor& color) {
   if (color == backColor_) return;
   backColor_ = color;

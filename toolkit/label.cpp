@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QFontMetrics>
-#include <QPainter>
 #include <algorithm>
 #include <array>
 #include <cstddef>

@@ -1,9 +1,10 @@
 #pragma once
 
-// How native controls are drawn: boxes, lists, buttons, check boxes, tabs and scroll bars. Lengths follow the program's
-// scale ("toolkit/twip_geometry.h"), lines are whole pixels, and nothing is added or left out at any scale. Edges have
-// a contrast of at least 3:1 to white, and the handle of a scroll bar is darker than its groove. A tool tip is always
-// plain text, since it may be a name from the user.
+// The look of the native controls, the same on every desktop: the screens have white backgrounds, so boxes, lists,
+// buttons, check boxes, tabs and scroll bars are light too, whatever the desktop's colours. Lengths follow the
+// program's scale ("toolkit/twip_geometry.h"), lines are whole pixels, and nothing is added or left out at any scale.
+// Edges have a contrast of at least 3:1 to white, and the handle of a scroll bar is darker than its groove. A tool tip
+// is always plain text, since it may be a name from the user.
 
 #include <QProxyStyle>
 
@@ -32,5 +33,8 @@ class LightStyle : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
 };
+
+/// Sets the program's style and palette. Called once, before the first form is built.
+void UseLightLook();
 
 }  // namespace quillon

@@ -7,7 +7,6 @@
 // The program's scale, pixels per twip, is the same for all of its windows and used only here: at 1 there are 15 twips
 // to the pixel, at 2 there are 7.5. Layouts do not depend on it.
 
-#include <QPoint>
 #include <QRect>
 
 #include "support/twips.h"

@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QPlainTextEdit>
 #include <cassert>
-#include <string>
 
 #include "toolkit/application.h"
 #include "toolkit/colors.h"
@@ -19,7 +18,7 @@ constexpr std::string_view kNavName = "lblNav";
 
 Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
   std::int16_t index = 0;
-  for (; FromQt(controls.FrameAt(kScreenName, index).Caption()) != name; ++index)
+  for (; FromQt(controls.FrameAt(kScreenName, index).accessibleName()) != name; ++index)
     assert(index + 1 < controls.CountOf(kScreenName));
   return controls.FrameAt(kScreenName, index);
 }
@@ -64,7 +63,7 @@ TwipRect NavigationView::PanelPlace() const {
 std::string NavigationView::ShownScreen() const {
   for (std::int16_t index = 0; index < controls_.CountOf(kScreenName); ++index) {
     const Frame& screen = controls_.FrameAt(kScreenName, index);
-    if (!screen.isHidden()) return FromQt(screen.Caption());
+    if (!screen.isHidden()) return FromQt(screen.accessibleName());
   }
   return {};
 }
