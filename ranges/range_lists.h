@@ -4,7 +4,6 @@
 // list of the Range Manager, which does not. The range folder is the only source, read again whenever a list is shown.
 
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <span>
 #include <string>

@@ -1,10 +1,8 @@
 #include "ranges/range_notation.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <initializer_list>
 #include <optional>
 #include <system_error>
 #include <utility>

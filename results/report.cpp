@@ -1,6 +1,5 @@
 #include "results/report.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>

@@ -1,7 +1,6 @@
 #include "results/results_grid.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "analysis/expected_value.h"
 #include "analysis/results_table.h"

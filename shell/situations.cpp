@@ -1,7 +1,6 @@
 #include "shell/situations.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "ranges/range_lists.h"

@@ -1,7 +1,5 @@
 #include "shell/user_guide.h"
 
-#include <string>
-
 #include "support/windows_1252.h"
 
 namespace quillon {

@@ -1,11 +1,7 @@
 #include "study/balance_texts.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <cstddef>
-#include <cstdint>
-#include <span>
 
 #include "analysis/entered_situation.h"
 #include "ranges/card_grid.h"

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <variant>
 
 #include "hand/hand_classes.h"

@@ -4,7 +4,6 @@
 // and in a picture. The larger the amount, the darker the blue.
 
 #include <array>
-#include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>

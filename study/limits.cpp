@@ -1,7 +1,6 @@
 #include "study/limits.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>

@@ -5,8 +5,6 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <system_error>
-#include <vector>
 
 #include "support/run_time_error.h"
 #include "support/this_process.h"

@@ -1,7 +1,6 @@
 #include "support/folders.h"
 
 #include <cerrno>
-#include <string>
 #include <system_error>
 #include <utility>
 

@@ -4,7 +4,6 @@
 // text (range files, the results table, amount boxes), so these few define what a number is. None of them uses the
 // locale: the decimal mark is always a point.
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "ranges/dialogs/form_place.h"
-#include "ranges/range_messages.h"
 #include "ranges/range_names.h"
 #include "toolkit/form_keys.h"
 #include "toolkit/text.h"

@@ -8,7 +8,6 @@
 #include <QObject>
 #include <cstdint>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include "analysis/input_screens.h"

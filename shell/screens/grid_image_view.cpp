@@ -4,13 +4,11 @@
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QImage>
-#include <QPixmap>
 #include <QScreen>
 #include <QTimer>
 #include <utility>
 
 #include "shell/grid_image.h"
-#include "shell/screens/main_layout.h"
 #include "shell/start_up.h"
 #include "support/files.h"
 #include "support/folders.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "shell/screens/main_layout.h"
 #include "toolkit/placement.h"
 #include "toolkit/text.h"
 

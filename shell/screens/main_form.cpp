@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -19,9 +18,7 @@
 #include "hand/equity_table.h"
 #include "ranges/dialogs/form_place.h"
 #include "results/results_as_range.h"
-#include "results/results_grid.h"
 #include "shell/field_help.h"
-#include "shell/screens/main_layout.h"
 #include "shell/start_up.h"
 #include "shell/user_guide.h"
 #include "study/hand_order.h"

@@ -3,7 +3,6 @@
 // Connects the study window ("study/window/study_form.h") with the main window. It is created on first use and kept,
 // and is told of finished analyses.
 
-#include <QWidget>
 #include <cstdint>
 #include <memory>
 #include <optional>
