@@ -72,8 +72,7 @@ std::optional<ClassWeights> HandsOf(const RangeOption& option, CommandInputs& in
   const std::optional<GivenRange> range = inputs.RangeWithHands(option);
   if (!range) return std::nullopt;
   if (CanBeHeld(range->Weights)) return range->Weights;
-  inputs.Refuse("The range \"" + range->Name + "\" has weights that are not from 0 to 1.");
-  return std::nullopt;
+  return inputs.Refuse("The range \"" + range->Name + "\" has weights that are not from 0 to 1.");
 }
 
 // The situation, once checked to be one that can be balanced.
@@ -88,8 +87,7 @@ std::optional<BalanceQuestion> QuestionOf(const Request& request, CommandInputs&
   if (!potSize || !callAmount || !shoveAmount || !own || !his) return std::nullopt;
   if ((*callAmount + *shoveAmount) / *potSize <= kMostPotsAtRisk)
     return BalanceQuestion{*potSize, *callAmount, *shoveAmount, *own, *his};
-  inputs.Refuse("--call and --shove may be at most " + NumberText(kMostPotsAtRisk) + " times --pot, together");
-  return std::nullopt;
+  return inputs.Refuse("--call and --shove may be at most " + NumberText(kMostPotsAtRisk) + " times --pot, together");
 }
 
 // Whether both ranges may be saved under their names, if given.

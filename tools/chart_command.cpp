@@ -95,18 +95,14 @@ constexpr std::array<Format<Answer>, 5> kFormats = {{
 
 std::optional<Steps> StacksOf(const Request& request, CommandInputs& inputs) {
   const auto read = Steps::Between(request.from, request.to, request.step);
-  if (const auto* const reason = std::get_if<std::string>(&read)) {
-    inputs.Refuse("--from, --to, --step: " + *reason);
-    return std::nullopt;
-  }
+  if (const auto* const reason = std::get_if<std::string>(&read))
+    return inputs.Refuse("--from, --to, --step: " + *reason);
   const auto& stacks = std::get<Steps>(read);
   if (LeadingNumber(stacks.Text(0)) <= 1)
-    inputs.Refuse("--from must be above 1: the big blind is in the pot already");
-  else if (LeadingNumber(stacks.Text(stacks.Count() - 1)) > kMostStack)
-    inputs.Refuse("--to may be at most " + NumberText(kMostStack));
-  else
-    return stacks;
-  return std::nullopt;
+    return inputs.Refuse("--from must be above 1: the big blind is in the pot already");
+  if (LeadingNumber(stacks.Text(stacks.Count() - 1)) > kMostStack)
+    return inputs.Refuse("--to may be at most " + NumberText(kMostStack));
+  return stacks;
 }
 
 int Print(const Request& request, const Surroundings& surroundings) {

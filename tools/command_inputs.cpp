@@ -156,20 +156,14 @@ bool CommandInputs::EvaluateAmount(std::string_view option, std::string& text) {
 
 std::optional<double> CommandInputs::Amount(std::string_view option, std::string text, LeastAmount least) {
   const std::optional<bool> evaluated = Attempt([&] { return EvaluateAmount(option, text); });
-  if (!evaluated) Refuse(Joined({option, ": ", kSumTooLarge}));
-  if (!evaluated.value_or(false)) return std::nullopt;
+  if (!evaluated) return Refuse(Joined({option, ": ", kSumTooLarge}));
+  if (!*evaluated) return std::nullopt;
   const double value = BoxValue(text);
-  if (!IsNumericText(text) && !(text.empty() && least == LeastAmount::kZero)) {
-    Refuse(std::string(option) + ": \"" + text + "\" is not an amount");
-    return std::nullopt;
-  }
-  if (value > kMostAmount) {
-    Refuse(std::string(option) + " may be at most " + NumberText(kMostAmount));
-    return std::nullopt;
-  }
+  if (!IsNumericText(text) && !(text.empty() && least == LeastAmount::kZero))
+    return Refuse(std::string(option) + ": \"" + text + "\" is not an amount");
+  if (value > kMostAmount) return Refuse(std::string(option) + " may be at most " + NumberText(kMostAmount));
   if (value > 0 || (value == 0 && least == LeastAmount::kZero)) return value;
-  Refuse(std::string(option) + (least == LeastAmount::kZero ? " must not be below 0" : " must be above 0"));
-  return std::nullopt;
+  return Refuse(std::string(option) + (least == LeastAmount::kZero ? " must not be below 0" : " must be above 0"));
 }
 
 std::optional<GivenRange> CommandInputs::Range(const RangeOption& option) {
@@ -181,19 +175,16 @@ std::optional<GivenRange> CommandInputs::Range(const RangeOption& option) {
 std::optional<GivenRange> CommandInputs::RangeWithHands(const RangeOption& option) {
   std::optional<GivenRange> range = Range(option);
   if (!range || std::ranges::any_of(range->Weights, [](double weight) { return weight > 0; })) return range;
-  Refuse("The range \"" + range->Name + "\" has no hands.");
+  return Refuse("The range \"" + range->Name + "\" has no hands.");
+}
+
+std::nullopt_t CommandInputs::Refuse(std::string_view reason) {
+  surroundings_.Errors << reason << '\n';
   return std::nullopt;
 }
 
-void CommandInputs::Refuse(std::string_view reason) {
-  surroundings_.Errors << reason << '\n';
-}
-
 std::optional<GivenRange> CommandInputs::NamedRange(const std::string& name) {
-  if (const auto unknown = WhyUnknown(name, Folder())) {
-    Refuse(*unknown);
-    return std::nullopt;
-  }
+  if (const auto unknown = WhyUnknown(name, Folder())) return Refuse(*unknown);
   const auto unreadable = WhyUnreadable(name, Folder());
   if (unreadable) Refuse(*unreadable);
   GivenRange range{name, LoadRangeText(Folder(), name)};
@@ -209,8 +200,7 @@ std::optional<GivenRange> CommandInputs::TypedRange(const std::string& notation)
   if (!typed) return std::nullopt;
   RangeFinding finding = quillon::TypedRange(*typed, HandsBestFirst(hands_));
   if (auto* const range = std::get_if<GivenRange>(&finding)) return std::move(*range);
-  Refuse(std::get<std::string>(finding));
-  return std::nullopt;
+  return Refuse(std::get<std::string>(finding));
 }
 
 std::optional<std::string> CommandInputs::StandardInput() {

@@ -127,8 +127,8 @@ class CommandInputs {
   /// As Range; a range without hands is refused too.
   [[nodiscard]] std::optional<GivenRange> RangeWithHands(const RangeOption& option);
 
-  /// Reports why an input is refused.
-  void Refuse(std::string_view reason);
+  /// Reports why an input is refused. Always nothing, so that a failure can be returned.
+  std::nullopt_t Refuse(std::string_view reason);
 
   /// The exit status after an input error.
   [[nodiscard]] int Status() const { return status_; }

@@ -84,34 +84,27 @@ std::vector<std::string> Reversed(std::span<const std::string> arguments) {
 }
 
 // A command for packagers: prints the manual page and the shell completions. The help does not list it.
-class TextsForPackages {
- public:
-  explicit TextsForPackages(CLI::App& app) : app_(app), options_(*app.add_subcommand("generate")) {
-    options_.group("");
-    std::vector<std::string> texts = {kManual};
-    for (const CompletionShell& shell : kCompletionShells)
-      texts.emplace_back(shell.Name);
-    options_.add_option("text", text_)->required()->check(CLI::IsMember(texts));
-    options_.add_option("--guide", guide_);
-  }
-
-  [[nodiscard]] bool Asked() const { return options_.parsed(); }
-
-  int Print(std::ostream& output) const {
-    const CommandText root = CommandTree(app_);
-    const auto* const shell = std::ranges::find(kCompletionShells, text_, &CompletionShell::Name);
-    output << (shell == kCompletionShells.end() ? ManualPage(root, kExitStatuses, guide_) : shell->Script(root));
+RunCommand OfferTextsForPackages(const CLI::App& app, CLI::App& options) {
+  constexpr const char* kManual = "man";
+  struct Request {
+    std::string text;
+    std::string guide = "Guide/user-guide.html beside the program";
+  };
+  const auto request = std::make_shared<Request>();
+  std::vector<std::string> texts = {kManual};
+  for (const CompletionShell& shell : kCompletionShells)
+    texts.emplace_back(shell.Name);
+  options.group("");
+  options.add_option("text", request->text)->required()->check(CLI::IsMember(texts));
+  options.add_option("--guide", request->guide);
+  return [&app, request](const Surroundings& surroundings) {
+    const CommandText root = CommandTree(app);
+    const auto* const shell = std::ranges::find(kCompletionShells, request->text, &CompletionShell::Name);
+    surroundings.Output << (shell == kCompletionShells.end() ? ManualPage(root, kExitStatuses, request->guide)
+                                                             : shell->Script(root));
     return kDone;
-  }
-
- private:
-  static constexpr const char* kManual = "man";
-
-  CLI::App& app_;
-  CLI::App& options_;
-  std::string text_;
-  std::string guide_ = "Guide/user-guide.html beside the program";
-};
+  };
+}
 
 int Run(const std::vector<OfferedCommand>& commands, const Surroundings& surroundings) {
   for (const OfferedCommand& command : commands) {
@@ -138,11 +131,11 @@ int RunCompanion(std::span<const std::string> arguments, const Surroundings& sur
       Explain(command, *part);
   }
   app.add_subcommand(kHelpCommand, "This text; the options of a command with its name after it");
-  TextsForPackages texts(app);
+  CLI::App* const texts = app.add_subcommand("generate");
+  commands.push_back({texts, OfferTextsForPackages(app, *texts)});
   try {
     CheckHelpOf(arguments);
     app.parse(Reversed(arguments));
-    if (texts.Asked()) return texts.Print(surroundings.Output);
     return Run(commands, surroundings);
   } catch (const CLI::ParseError& error) {
     const int status = app.exit(error, surroundings.Output, surroundings.Errors);

@@ -135,8 +135,6 @@ std::string FindWhatComes(const CommandText& root, const char* isOption) {
          "    fi\n";
 }
 
-}  // namespace
-
 std::string BashCompletion(const CommandText& root) {
   return "# bash completion for quillon-cli, made by \"quillon-cli generate bash\"\n"
          "_quillon_cli() {\n"
@@ -195,8 +193,6 @@ std::string ZshCompletion(const CommandText& root) {
 
 // ---- fish
 
-namespace {
-
 // In fish's single quotes "\" and "'" are escaped by "\".
 std::string FishQuoted(std::string_view text) {
   std::string quoted = "'";
@@ -233,8 +229,6 @@ std::string FishLines(const CommandText& command) {
   }
   return script;
 }
-
-}  // namespace
 
 std::string FishCompletion(const CommandText& root) {
   const std::vector<const CommandText*> commands = AllCommands(root);
@@ -276,5 +270,13 @@ std::string FishCompletion(const CommandText& root) {
     script += FishLines(*command);
   return script;
 }
+
+}  // namespace
+
+const std::array<CompletionShell, 3> kCompletionShells = {{
+    {"bash", BashCompletion},
+    {"zsh", ZshCompletion},
+    {"fish", FishCompletion},
+}};
 
 }  // namespace quillon

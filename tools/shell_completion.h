@@ -16,14 +16,6 @@ struct CompletionShell {
   std::string (*Script)(const CommandText& root);
 };
 
-[[nodiscard]] std::string BashCompletion(const CommandText& root);
-[[nodiscard]] std::string ZshCompletion(const CommandText& root);
-[[nodiscard]] std::string FishCompletion(const CommandText& root);
-
-inline constexpr std::array<CompletionShell, 3> kCompletionShells = {{
-    {"bash", BashCompletion},
-    {"zsh", ZshCompletion},
-    {"fish", FishCompletion},
-}};
+extern const std::array<CompletionShell, 3> kCompletionShells;
 
 }  // namespace quillon

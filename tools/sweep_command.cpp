@@ -118,8 +118,7 @@ int Print(AnalysisMode mode, std::string what, const Request& request, Rows rows
 std::optional<Steps> ReadSteps(std::string_view option, const std::string& text, CommandInputs& inputs) {
   auto read = Steps::Read(text);
   if (auto* const steps = std::get_if<Steps>(&read)) return *steps;
-  inputs.Refuse(std::string(option) + ": " + std::get<std::string>(read));
-  return std::nullopt;
+  return inputs.Refuse(std::string(option) + ": " + std::get<std::string>(read));
 }
 
 // The index of the one amount that has steps.
