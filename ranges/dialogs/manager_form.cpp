@@ -85,7 +85,7 @@ void ManagerForm::TellLostWeights(std::string_view name, const ClassWeights& fil
 
 void ManagerForm::ClickNew() {
   const std::string answer = AskName(kAskNewName, {});
-  if (answer.empty() || !MayTakeName(answer)) return;
+  if (answer.empty() || !ValidateRangeName(around_.Folder, answer, around_.Messages)) return;
 
   grid_.Show(UnselectedCells());
   SetSummary({});
@@ -104,7 +104,7 @@ void ManagerForm::ClickSave() {
 
 void ManagerForm::ClickSaveAs() {
   const std::string answer = AskName(kAskSaveAsName, list_.CurrentText());
-  if (answer.empty() || !MayTakeName(answer)) return;
+  if (answer.empty() || !ValidateRangeName(around_.Folder, answer, around_.Messages)) return;
 
   SaveGridAs(answer);
   RefreshAndSelect(answer);
@@ -141,10 +141,6 @@ void ManagerForm::ClickOk() {
 
 std::string ManagerForm::AskName(const LineQuestion& question, std::string_view onOffer) {
   return around_.Ask({question.Prompt, question.Title, onOffer});
-}
-
-bool ManagerForm::MayTakeName(std::string_view name) {
-  return ValidateRangeName(around_.Folder, name, around_.Messages);
 }
 
 // Compared as texts: a weight that the grid cannot show, such as 0.25, is a change, and so is having no range.

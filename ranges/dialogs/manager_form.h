@@ -62,7 +62,6 @@ class ManagerForm : public QWidget {
   void ClickOk();
 
   [[nodiscard]] std::string AskName(const LineQuestion& question, std::string_view onOffer);
-  [[nodiscard]] bool MayTakeName(std::string_view name);
   [[nodiscard]] bool HasBeenModified() const;
   void SaveGridAs(std::string_view name);
   void RefreshAndSelect(std::string_view name);

@@ -8,18 +8,8 @@
 namespace quillon {
 namespace {
 
-// The pictures are in the store, named by colour.
-MainControls::Key<Picture> StoredPicture(HoverPicture picture) {
-  switch (picture) {
-    case HoverPicture::kGreen:
-      return "backGreen";
-    case HoverPicture::kRed:
-      return "backRed";
-    case HoverPicture::kBlue:
-      break;
-  }
-  return "backBlue";
-}
+// The pictures are in the store, in the order of HoverPicture.
+constexpr auto kStoredPictures = std::to_array<MainControls::Key<Picture>>({"backGreen", "backRed", "backBlue"});
 
 }  // namespace
 
@@ -48,7 +38,8 @@ void HoverView::Show(std::int16_t index, const Analysis& analysis, bool guest) {
 }
 
 void HoverView::Fill(const HoverTexts& texts) {
-  controls_.PictureAt("imgHover").SetArtwork(controls_.PictureAt(StoredPicture(texts.Picture)).Artwork());
+  const Picture& stored = controls_.PictureAt(kStoredPictures.at(static_cast<std::size_t>(texts.Picture)));
+  controls_.PictureAt("imgHover").SetArtwork(stored.Artwork());
   SetCaption("lblHov_Cards", texts.Hand);
   SetCaption("lblHovDesc_Eq", texts.EquityTitle);
   SetCaption("lblHov_Eq", texts.Equity);

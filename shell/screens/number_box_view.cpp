@@ -31,8 +31,7 @@ void NumberBoxView::Set(std::int16_t index, std::string_view text) {
     const QSignalBlocker quiet(Box(index));
     Box(index).setText(ToQt(text));
   }
-  hideResults_();
-  if (index == kRaiseShoveBox) ShowOdds(OddsOfRestoredBoxes);
+  Change(index, OddsOfRestoredBoxes);
 }
 
 void NumberBoxView::Restore(std::span<const std::string> texts) {
@@ -45,7 +44,7 @@ void NumberBoxView::Restore(std::span<const std::string> texts) {
 void NumberBoxView::Bind(std::int16_t index) {
   TextBox& box = Box(index);
   Shape& border = controls_.ShapeAt("ShapeBorder", index);
-  QObject::connect(&box, &TextBox::textChanged, &box, [this, index] { Change(index); });
+  QObject::connect(&box, &TextBox::textChanged, &box, [this, index] { Change(index, OddsOfBoxes); });
   QObject::connect(&box, &TextBox::FocusGot, &border, [&border] { border.SetLineWidth(kFocusedBorderWidth); });
   QObject::connect(&box, &TextBox::FocusLost, &border, [this, index, &border] {
     border.SetLineWidth(kRestingBorderWidth);
@@ -57,9 +56,13 @@ void NumberBoxView::Bind(std::int16_t index) {
   });
 }
 
-void NumberBoxView::Change(std::int16_t index) {
+void NumberBoxView::Change(std::int16_t index, OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes)) {
   hideResults_();
-  if (index == kRaiseShoveBox) ShowOdds(OddsOfBoxes);
+  if (index != kRaiseShoveBox) return;
+  const OpponentOdds odds =
+      oddsOf({.Pot = Text(kRaisePotBox), .Call = Text(kRaiseCallBox), .Shove = Text(kRaiseShoveBox)});
+  controls_.LabelAt("lblHisOdds").SetText(ToQt(odds.HisOdds));
+  controls_.LabelAt("lblHisBEP").SetText(ToQt(odds.HisBreakEven));
 }
 
 void NumberBoxView::WorkOut(std::int16_t index) {
@@ -67,13 +70,6 @@ void NumberBoxView::WorkOut(std::int16_t index) {
   const std::string after = EvalTextBox(before, messages_);
   // An unchanged text is not set: that would count as a change and hide the results.
   if (after != before) Box(index).setText(ToQt(after));
-}
-
-void NumberBoxView::ShowOdds(OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes)) {
-  const OpponentOdds odds =
-      oddsOf({.Pot = Text(kRaisePotBox), .Call = Text(kRaiseCallBox), .Shove = Text(kRaiseShoveBox)});
-  controls_.LabelAt("lblHisOdds").SetText(ToQt(odds.HisOdds));
-  controls_.LabelAt("lblHisBEP").SetText(ToQt(odds.HisBreakEven));
 }
 
 }  // namespace quillon

@@ -34,9 +34,8 @@ class NumberBoxView {
 
  private:
   void Bind(std::int16_t index);
-  void Change(std::int16_t index);
+  void Change(std::int16_t index, OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes));
   void WorkOut(std::int16_t index);
-  void ShowOdds(OpponentOdds (*oddsOf)(const ShoveBoxTexts& boxes));
   [[nodiscard]] TextBox& Box(std::int16_t index) const { return controls_.Get<TextBox>("txtNumber", index); }
 
   const MainControls& controls_;
