@@ -9,6 +9,11 @@
 
 namespace quillon {
 
+/// Ctrl and the digit of a link or page, the first of which has index 0; there are nine digits.
+[[nodiscard]] constexpr QKeyCombination DigitKey(int index) {
+  return QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + index));
+}
+
 /// Makes the key press `control`, a label, a picture or a button, like a click. It does nothing while the control is
 /// hidden or disabled. A control that takes the focus on a click gets it first, so that a box being edited is left; if
 /// that box complains, the press is dropped.

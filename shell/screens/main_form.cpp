@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QPushButton>
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -302,9 +301,8 @@ void MainForm::BindAbout() {
 }
 
 void MainForm::BindKeys() {
-  constexpr std::array kLinkKeys = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5};
   for (std::int16_t i = 0; i < controls_.CountOf("lblNav"); ++i)
-    BindPress(controls_.LabelAt("lblNav", i), Qt::CTRL | kLinkKeys.at(static_cast<std::size_t>(i)));
+    BindPress(controls_.LabelAt("lblNav", i), DigitKey(i));
   BindPress(controls_.LabelAt("lblRangeManager"), Qt::CTRL | Qt::Key_R);
   for (std::int16_t i = 0; i < controls_.CountOf("cmdPreflopEV"); ++i) {
     for (const Qt::Key enter : kEnterKeys)

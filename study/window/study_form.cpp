@@ -5,7 +5,6 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 
@@ -87,9 +86,8 @@ void StudyForm::AddPage(StudyTopic topic, StudyPage* page) {
 }
 
 void StudyForm::BindKeys() {
-  constexpr std::array kPageKeys = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4};
-  for (std::size_t i = 0; i < leaves_.size(); ++i)
-    BindKey(*this, Qt::CTRL | kPageKeys.at(i), [this, topic = leaves_[i].Topic] { ShowPage(topic); });
+  for (int i = 0; i < tabs_.count(); ++i)
+    BindKey(*this, DigitKey(i), [this, topic = leaves_[static_cast<std::size_t>(i)].Topic] { ShowPage(topic); });
   const auto turn = [this](int pages) {
     const int count = tabs_.count();
     ShowPage(leaves_[static_cast<std::size_t>((tabs_.currentIndex() + pages + count) % count)].Topic);
