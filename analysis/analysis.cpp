@@ -12,12 +12,11 @@ namespace {
 template <class Ranges>
 bool Walk(Analysis& analysis, const Ranges& ranges, const AnalysisListener& listener) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);
-  const Amounts asked = {analysis.PotSize, analysis.CallAmount, analysis.ShoveAmount};
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     if (listener.Begins) listener.Begins(index);
     const ClassFigures figures = ranges.FiguresOf(scenario, index);
     if (scenario.HasCallingRange && index == kLastClass) analysis.DroppedHands = ranges.DroppedHands();
-    const Amounts amounts = listener.AmountsNow ? listener.AmountsNow() : asked;
+    const Amounts amounts = listener.AmountsNow ? listener.AmountsNow() : analysis.Amounts;
     analysis.HandInfo += ResultRow(ResultOf(scenario, index, figures, amounts));
     if (listener.GoesOn && !listener.GoesOn(index, analysis)) return false;
   }
@@ -28,9 +27,7 @@ bool Walk(Analysis& analysis, const Ranges& ranges, const AnalysisListener& list
 
 void StoreAsked(const Situation& asked, Situation& kept) {
   const Scenario& scenario = ScenarioOf(asked.Mode);
-  if (scenario.AmountCount > 0) kept.PotSize = asked.PotSize;
-  if (scenario.AmountCount > 1) kept.CallAmount = asked.CallAmount;
-  if (scenario.AmountCount > 2) kept.ShoveAmount = asked.ShoveAmount;
+  kept.Amounts = scenario.TakeAmounts(asked.Amounts, kept.Amounts);
   kept.RangeName = asked.RangeName;
   kept.RangeText = asked.RangeText;
   if (!scenario.HasCallingRange) return;

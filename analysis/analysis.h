@@ -20,9 +20,7 @@ namespace quillon {
 /// range.
 struct Situation {
   AnalysisMode Mode = AnalysisMode::kNone;
-  double PotSize = 0;  // amounts in the user's own unit
-  double CallAmount = 0;
-  double ShoveAmount = 0;  // what the opponent must put in to call the shove
+  quillon::Amounts Amounts{};
   std::string RangeName{};  // the opponent's range before he responds to a shove; names are for reports and errors
   std::string CallingRangeName{};  // what he calls a shove with
   std::string RangeText{};

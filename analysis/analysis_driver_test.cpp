@@ -200,8 +200,7 @@ TEST_F(AnalysisDriver, ARunStoresItsSituation) {
   window_.Entered = {"150", "50", "7", "Aces", "Aces"};
   Run(kCallButton);
   stored.Mode = AnalysisMode::kPreflopCall;
-  stored.PotSize = 150;
-  stored.CallAmount = 50;
+  stored.Amounts = {150, 50, 100};
   stored.RangeName = "Aces";
   stored.RangeText = kAces;
   EXPECT_EQ(static_cast<const Situation&>(state_), stored);
@@ -354,10 +353,10 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
     const auto rowsAfter = Lines(TableOf(button, after), "\r\n");
     for (std::size_t index = 0; index < rows.size(); ++index)
       EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
-    EXPECT_EQ(state_.PotSize, 100);
-    EXPECT_EQ(state_.CallAmount, 50);
+    EXPECT_EQ(state_.Amounts.Pot, 100);
+    EXPECT_EQ(state_.Amounts.Call, 50);
   }
-  EXPECT_EQ(state_.ShoveAmount, 200);
+  EXPECT_EQ(state_.Amounts.Shove, 200);
 }
 
 // A window in which a range's file vanishes when the run starts, after the check has read it.

@@ -22,14 +22,12 @@ const std::string kAces = RangeWith({{"AA", 1}});
 const std::string kPairs = RangeWith({{"AA", 1}, {"KK", 1}, {"QQ", 1}, {"22", 0.5}});
 
 Situation ACall(const std::string& range) {
-  return {.Mode = AnalysisMode::kPreflopCall, .PotSize = 100, .CallAmount = 50, .RangeText = range};
+  return {.Mode = AnalysisMode::kPreflopCall, .Amounts = {100, 50, 0}, .RangeText = range};
 }
 
 Situation ARaise(const std::string& range, const std::string& callingRange) {
   return {.Mode = AnalysisMode::kPreflopRaise,
-          .PotSize = 100,
-          .CallAmount = 50,
-          .ShoveAmount = 200,
+          .Amounts = {100, 50, 200},
           .RangeText = range,
           .CallingRangeText = callingRange};
 }
@@ -66,7 +64,7 @@ TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
     RunTimeFault fault;
   };
   Situation beyond = ARaise(kEveryHand, kEveryHand);
-  beyond.PotSize = beyond.CallAmount = beyond.ShoveAmount = 1e308;
+  beyond.Amounts.Pot = beyond.Amounts.Call = beyond.Amounts.Shove = 1e308;
   for (const Row& row :
        {Row{"a call without a range text", ACall(""), RunTimeFault::kSubscriptOutOfRange},
         Row{"a shove without a range text", ARaise("", kEveryHand), RunTimeFault::kSubscriptOutOfRange},

@@ -37,12 +37,9 @@ HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std:
 
 Situation SituationOf(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder) {
   const Scenario& scenario = ScenarioOf(mode);
-  const Amounts amounts = AmountsOf(entered);
   Situation situation;
   situation.Mode = mode;
-  if (scenario.AmountCount > 0) situation.PotSize = amounts.Pot;
-  if (scenario.AmountCount > 1) situation.CallAmount = amounts.Call;
-  if (scenario.AmountCount > 2) situation.ShoveAmount = amounts.Shove;
+  situation.Amounts = scenario.TakeAmounts(AmountsOf(entered));
   situation.RangeName = entered.Range;
   situation.RangeText = TextOr(entered.RangeText, entered.Range, folder);
   if (scenario.HasCallingRange) {

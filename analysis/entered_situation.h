@@ -2,6 +2,7 @@
 
 // A situation as the user enters it, amounts as typed and ranges by name, and its conversion for the analysis.
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,10 @@ struct EnteredSituation {
   std::string RangeText{};
   std::string CallingRangeText{};
 };
+
+/// Where the amounts are, in the order of kAmounts.
+inline constexpr std::array<std::string EnteredSituation::*, kAmounts.size()> kEnteredAmounts = {
+    &EnteredSituation::Pot, &EnteredSituation::Call, &EnteredSituation::Shove};
 
 /// The value of a typed amount: its leading number, once every "$" is removed. Never fails.
 ///

@@ -41,11 +41,10 @@ TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
   const Situation equity = {.Mode = AnalysisMode::kEquityOnly, .RangeName = "Full", .RangeText = EveryHandAt(1)};
   Situation call = equity;
   call.Mode = AnalysisMode::kPreflopCall;
-  call.PotSize = 100;
-  call.CallAmount = 1;
+  call.Amounts = {100, 1, 0};
   Situation raise = call;
   raise.Mode = AnalysisMode::kPreflopRaise;
-  raise.ShoveAmount = 30;
+  raise.Amounts.Shove = 30;
   raise.CallingRangeName = "Aces";
   raise.CallingRangeText = RangeWith({{"AA", 1}});
   for (const Situation& situation : {equity, call, raise})

@@ -3,7 +3,9 @@
 // The input screens, one for each scenario: which boxes and lists of the main window hold its situation, and what the
 // Progress screen says during its run. A row's index is that of its start button.
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -29,7 +31,7 @@ inline constexpr std::int16_t kNoControl = -1;
 
 struct InputScreen {
   AnalysisMode Mode = AnalysisMode::kNone;
-  std::array<std::int16_t, 3> AmountBoxes{};  // pot, call, shove
+  std::array<std::int16_t, kAmounts.size()> AmountBoxes{};  // pot, call, shove
   std::array<std::int16_t, 2> RangeLists{};  // the opponent's range, his calling range
   std::string_view ProgressMessage;
   bool MessageNamesRange = false;  // the range's name follows the message
@@ -54,6 +56,13 @@ inline constexpr ScenarioTable<InputScreen> kInputScreens = {{
      .MessageNamesRange = true},
 }};
 static_assert(CoversEveryScenario(kInputScreens));
+static_assert(std::ranges::all_of(kInputScreens, [](const InputScreen& screen) {
+  const Scenario& scenario = ScenarioOf(screen.Mode);
+  for (std::size_t i = 0; i < kAmounts.size(); ++i) {
+    if ((screen.AmountBoxes.at(i) != kNoControl) != (i < scenario.AmountCount)) return false;
+  }
+  return screen.RangeLists[0] != kNoControl && (screen.RangeLists[1] != kNoControl) == scenario.HasCallingRange;
+}));
 
 /// The screen of the button `cmdPreflopEV(index)`; any other index gives "Preflop Raise".
 [[nodiscard]] constexpr const InputScreen& ScreenOfButton(std::int16_t index) {

@@ -66,11 +66,11 @@ std::string_view RowOf(std::string_view table, std::string_view label) {
 }
 
 HandResult ResultIn(std::string_view row, std::string_view label) {
-  return {.Label = label,
-          .Combos = ComboCount(label),
-          .ExpectedValue = ValueOf(row, kExpectedValueColumn),
-          .Equity = ValueOf(row, kEquityColumn),
-          .FoldShare = ValueOf(row, kFoldShareColumn)};
+  HandResult result{.Label = label, .Combos = ComboCount(label)};
+  std::int16_t column = 0;
+  for (double HandResult::*const cell : kResultCells)
+    result.*cell = ValueOf(row, ++column);
+  return result;
 }
 
 void AppendTabs(std::string& table, int count) {
@@ -141,9 +141,11 @@ std::array<HandResult, kHandClassCount> GetHandResults(std::string_view table) {
 }
 
 std::string ResultRow(const HandResult& result) {
-  std::string row = SetHandInfo({}, result.Label, kExpectedValueColumn, result.ExpectedValue, kLastColumn);
-  row = SetHandInfo(row, result.Label, kEquityColumn, result.Equity, kLastColumn);
-  return SetHandInfo(row, result.Label, kFoldShareColumn, result.FoldShare, kLastColumn);
+  std::string row;
+  std::int16_t column = 0;
+  for (double HandResult::*const cell : kResultCells)
+    row = SetHandInfo(row, result.Label, ++column, result.*cell, kLastColumn);
+  return row;
 }
 
 std::string BestHand(std::string_view table, std::int16_t column) {

@@ -24,8 +24,6 @@ namespace quillon {
 
 inline constexpr std::int16_t kExpectedValueColumn = 1;
 inline constexpr std::int16_t kEquityColumn = 2;
-inline constexpr std::int16_t kFoldShareColumn = 3;
-inline constexpr std::int16_t kLastColumn = 3;
 
 /// The result for one class: a row of the table as values.
 struct HandResult {
@@ -37,6 +35,10 @@ struct HandResult {
 
   bool operator==(const HandResult&) const = default;
 };
+
+/// The cells of a row after its key, from column 1 on.
+inline constexpr std::array kResultCells = {&HandResult::ExpectedValue, &HandResult::Equity, &HandResult::FoldShare};
+inline constexpr std::int16_t kLastColumn = kResultCells.size();
 
 /// The table with `value` added to cell `column` of the row with the key `label`; an empty cell counts as 0, so writing
 /// twice adds up. The row then has the cells 0 to `lastColumn`, each followed by a tab, and cells beyond are dropped.

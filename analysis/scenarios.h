@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "analysis/expected_value.h"
@@ -26,18 +27,46 @@ struct Amounts {
   bool operator==(const Amounts&) const = default;
 };
 
+/// An amount as code that walks all of them sees it.
+struct AmountKind {
+  std::string_view Key;  // one word, for the command line and data
+  std::string_view Title;
+  std::string_view Meaning;
+  double Amounts::*Value = nullptr;
+};
+
+/// The amounts in the order in which scenarios ask for them.
+inline constexpr std::array<AmountKind, 3> kAmounts = {{
+    {"pot", "Pot Size", "Pot", &Amounts::Pot},
+    {"call", "Call Amount", "What you must put in to call", &Amounts::Call},
+    {"shove", "Shove Amount", "What he must put in to call your shove", &Amounts::Shove},
+}};
+
 struct Scenario {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::string_view Name;
   std::string_view Command;  // one word, for the command line and data
-  int AmountCount = 0;  // how many of pot, call and shove it asks for, in this order
+  std::size_t AmountCount = 0;  // how many of pot, call and shove it asks for, in this order
   bool HasCallingRange = false;  // the opponent may fold: a second range says what he calls with
+  std::string_view EquityTitle;
 
   /// The value of the move, from the equity and the share of the opponent's hands that call. Null if nothing is put in:
   /// every expected value is then 0.
   double (*ExpectedValue)(const Amounts& amounts, double equity, double callShare) = nullptr;
 
   [[nodiscard]] constexpr bool HasExpectedValue() const { return ExpectedValue != nullptr; }
+
+  /// The amounts it asks for; the last is the move's own.
+  [[nodiscard]] constexpr std::span<const AmountKind> AskedAmounts() const {
+    return std::span(kAmounts).first(AmountCount);
+  }
+
+  /// `kept` with the amounts that it asks for replaced by those of `given`.
+  [[nodiscard]] constexpr Amounts TakeAmounts(const Amounts& given, Amounts kept = {}) const {
+    for (const AmountKind& amount : AskedAmounts())
+      kept.*amount.Value = given.*amount.Value;
+    return kept;
+  }
 };
 
 inline constexpr std::array<Scenario, 3> kScenarios = {{
@@ -46,6 +75,7 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
      .Command = "call",
      .AmountCount = 2,
      .HasCallingRange = false,
+     .EquityTitle = "Equity:",
      .ExpectedValue = [](const Amounts& amounts, double equity,
                          double /*callShare*/) { return CallExpectedValue(amounts.Pot, amounts.Call, equity); }},
     {.Mode = AnalysisMode::kPreflopRaise,
@@ -53,6 +83,7 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
      .Command = "raise",
      .AmountCount = 3,
      .HasCallingRange = true,
+     .EquityTitle = "Equity when Called:",
      .ExpectedValue =
          [](const Amounts& amounts, double equity, double callShare) {
            return ShoveExpectedValue(amounts.Pot, amounts.Call, amounts.Shove, equity, callShare);
@@ -62,6 +93,7 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
      .Command = "equity",
      .AmountCount = 0,
      .HasCallingRange = false,
+     .EquityTitle = "Equity:",
      .ExpectedValue = nullptr},
 }};
 

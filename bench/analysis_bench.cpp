@@ -15,9 +15,7 @@ namespace {
 Situation FullRange(AnalysisMode mode) {
   Situation situation;
   situation.Mode = mode;
-  situation.PotSize = 150;
-  situation.CallAmount = 50;
-  situation.ShoveAmount = 400;
+  situation.Amounts = {150, 50, 400};
   situation.RangeText = EveryHandAt(1);
   situation.CallingRangeText = situation.RangeText;
   return situation;

@@ -45,10 +45,8 @@ inline std::string AnyResults(FuzzInput& input) {
 
 inline Analysis AnyState(FuzzInput& input) {
   Analysis state;
-  state.Mode = static_cast<AnalysisMode>(input.TakeBelow(4));
-  state.PotSize = AnyAmount(input);
-  state.CallAmount = AnyAmount(input);
-  state.ShoveAmount = AnyAmount(input);
+  state.Mode = static_cast<AnalysisMode>(input.TakeBelow(kScenarios.size() + 1));
+  state.Amounts = {AnyAmount(input), AnyAmount(input), AnyAmount(input)};
   state.RangeName = input.TakeText(input.TakeBelow(16));
   state.CallingRangeName = input.TakeText(input.TakeBelow(16));
   state.RangeText = AnyRangeText(input);

@@ -27,8 +27,10 @@ const Batch& TheBatch() {
 void CheckQuestion(const BatchQuestion& question) {
   const Situation& asked = question.Situation;
   Require(asked.Mode != AnalysisMode::kNone, "a question has a scenario");
-  for (const double amount : {asked.PotSize, asked.CallAmount, asked.ShoveAmount})
-    Require(std::isfinite(amount) && amount >= 0, "an amount is a number that is not below 0");
+  for (const AmountKind& amount : kAmounts) {
+    const double value = asked.Amounts.*amount.Value;
+    Require(std::isfinite(value) && value >= 0, "an amount is a number that is not below 0");
+  }
   Require(!asked.RangeName.empty() && !asked.RangeText.empty(), "a question has a range");
   Require(ScenarioOf(asked.Mode).HasCallingRange == !asked.CallingRangeText.empty(),
           "a question has a calling range where its scenario has one");

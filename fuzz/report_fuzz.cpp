@@ -6,7 +6,6 @@
 
 #include "fuzz/any_state.h"
 #include "fuzz/fuzz_target.h"
-#include "results/hand_line.h"
 #include "results/report.h"
 
 namespace quillon {

@@ -27,8 +27,8 @@ std::array<std::string, 5> TextsOf(const ScreenSituation& situation) {
 void CheckIsOfItsMode(const ScreenSituation& situation) {
   const Scenario& scenario = ScenarioOf(situation.Mode);
   const EnteredSituation& entered = situation.Entered;
-  Require(scenario.AmountCount > 0 || (entered.Pot.empty() && entered.Call.empty()), "only a move has a pot");
-  Require(scenario.AmountCount > 2 || entered.Shove.empty(), "only a shove has a third amount");
+  for (std::size_t i = scenario.AmountCount; i < kEnteredAmounts.size(); ++i)
+    Require((entered.*kEnteredAmounts.at(i)).empty(), "an amount that is not asked for is empty");
   Require(scenario.HasCallingRange || entered.CallingRange.empty(), "only a shove has a calling range");
 }
 
@@ -75,9 +75,7 @@ void CheckBatch(std::string_view line) {
   const auto* const read = std::get_if<ReadSituation>(&reading);
   Require(read != nullptr, "a line that a batch answers can be opened");
   Require(read->Situation.Mode == question->Situation.Mode, "its mode is that of the batch");
-  Require(AmountsOf(read->Situation.Entered) ==
-              Amounts{question->Situation.PotSize, question->Situation.CallAmount, question->Situation.ShoveAmount},
-          "its amounts are those of the batch");
+  Require(AmountsOf(read->Situation.Entered) == question->Situation.Amounts, "its amounts are those of the batch");
   const std::size_t notations = ScenarioOf(read->Situation.Mode).HasCallingRange ? 2 : 1;
   Require(read->NotTaken.size() == notations + (question->Id == "null" ? 0 : 1),
           "the rest is reported, and nothing else");
@@ -93,9 +91,8 @@ ScreenSituation AnyScreen(FuzzInput& input) {
     const std::string_view bytes = input.TakeText(input.TakeBelow(256) * input.TakeBelow(8));
     if (asked && IsUtf8(bytes)) text = bytes;
   };
-  take(entered.Pot, scenario.AmountCount > 0);
-  take(entered.Call, scenario.AmountCount > 1);
-  take(entered.Shove, scenario.AmountCount > 2);
+  for (std::size_t i = 0; i < kEnteredAmounts.size(); ++i)
+    take(entered.*kEnteredAmounts.at(i), i < scenario.AmountCount);
   take(entered.Range, true);
   take(entered.CallingRange, scenario.HasCallingRange);
   return situation;

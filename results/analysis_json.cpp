@@ -8,10 +8,11 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 #include "analysis/results_table.h"
 #include "ranges/range_summary.h"
-#include "results/results_grid.h"
+#include "results/result_columns.h"
 #include "support/line_ends.h"
 
 namespace quillon {
@@ -21,7 +22,6 @@ using Json = nlohmann::ordered_json;
 using FieldNames = std::span<const std::string>;
 
 constexpr std::string_view kHands = "hands";
-constexpr std::string_view kLabel = "hand";
 
 // The analysis, plus what several fields share.
 class Told {
@@ -64,6 +64,11 @@ Json DroppedHandsJson(std::string_view text) {
   return hands;
 }
 
+template <std::size_t place>
+Json AmountJson(Told& told) {
+  return ValueIf(place < told.Asked().AmountCount, told.Found().Amounts.*kAmounts.at(place).Value);
+}
+
 struct Field {
   std::string_view Name;
   Json (*ValueOf)(Told& told);
@@ -71,9 +76,9 @@ struct Field {
 
 constexpr std::array<Field, 14> kFields = {{
     {kModeField, [](Told& told) { return Json(told.Asked().Command); }},
-    {kPotField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 0, told.Found().PotSize); }},
-    {kCallField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 1, told.Found().CallAmount); }},
-    {kShoveField, [](Told& told) { return ValueIf(told.Asked().AmountCount > 2, told.Found().ShoveAmount); }},
+    {kPotField, AmountJson<0>},
+    {kCallField, AmountJson<1>},
+    {kShoveField, AmountJson<2>},
     {kRangeField, [](Told& told) { return Json(told.Found().RangeName); }},
     {kCallingRangeField,
      [](Told& told) { return ValueIf(told.Asked().HasCallingRange, told.Found().CallingRangeName); }},
@@ -91,45 +96,33 @@ constexpr std::array<Field, 14> kFields = {{
     {"worst", [](Told& told) { return LabelIfAny(WorstHand(told.Found().HandInfo, told.Column())); }},
 }};
 
-struct HandField {
-  std::string_view Name;
-  Json (*ValueOf)(const Scenario& scenario, const ShownHand& hand);
-};
-
-constexpr std::array<HandField, 6> kHandFields = {{
-    {kLabel, [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.first.Label); }},
-    {"combos", [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.first.Combos); }},
-    {"ev", [](const Scenario& scenario,
-              const ShownHand& hand) { return ValueIf(scenario.HasExpectedValue(), hand.first.ExpectedValue); }},
-    {"equity", [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.first.Equity); }},
-    {"fold", [](const Scenario& scenario,
-                const ShownHand& hand) { return ValueIf(scenario.HasCallingRange, hand.first.FoldShare); }},
-    {"colour", [](const Scenario& /*scenario*/, const ShownHand& hand) { return Json(hand.second); }},
-}};
-
 bool IsNamed(FieldNames names, std::string_view name) {
   return std::ranges::find(names, name) != names.end();
 }
 
 // All fields of a hand, or, if some are named, its label and those.
-std::vector<HandField> WantedOfHands(FieldNames names) {
-  const bool some =
-      std::ranges::any_of(kHandFields, [&](const HandField& field) { return IsNamed(names, field.Name); });
-  std::vector<HandField> wanted;
+std::vector<ResultColumn> WantedOfHands(FieldNames names) {
+  const auto columns = ResultColumns();
+  const bool some = std::ranges::any_of(
+      columns, [&](std::string_view key) { return IsNamed(names, key); }, &ResultColumn::Key);
+  std::vector<ResultColumn> wanted;
   if (!some && !names.empty() && !IsNamed(names, kHands)) return wanted;
-  std::ranges::copy_if(kHandFields, std::back_inserter(wanted), [&](const HandField& field) {
-    return !some || field.Name == kLabel || IsNamed(names, field.Name);
+  const std::string_view label = columns.front().Key;
+  std::ranges::copy_if(columns, std::back_inserter(wanted), [&](const ResultColumn& column) {
+    return !some || column.Key == label || IsNamed(names, column.Key);
   });
   return wanted;
 }
 
-Json HandsJson(const Analysis& analysis, const std::vector<HandField>& fields) {
+Json HandsJson(const Analysis& analysis, const std::vector<ResultColumn>& columns) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);
   Json hands = Json::array();
   for (const ShownHand& hand : ShownHands(analysis)) {
     Json object = Json::object();
-    for (const HandField& field : fields)
-      object[std::string(field.Name)] = field.ValueOf(scenario, hand);
+    for (const ResultColumn& column : columns) {
+      Json& value = object[std::string(column.Key)];
+      if (column.IsIn(scenario)) value = std::visit([](auto cell) { return Json(cell); }, column.ValueOf(hand));
+    }
     hands.push_back(std::move(object));
   }
   return hands;
@@ -139,12 +132,12 @@ Json HandsJson(const Analysis& analysis, const std::vector<HandField>& fields) {
 
 std::vector<std::string> AnalysisFieldNames() {
   std::vector<std::string> names;
-  names.reserve(kFields.size() + 1 + kHandFields.size());
+  names.reserve(kFields.size() + 1 + ResultColumns().size());
   for (const Field& field : kFields)
     names.emplace_back(field.Name);
   names.emplace_back(kHands);
-  for (const HandField& field : kHandFields)
-    names.emplace_back(field.Name);
+  for (const ResultColumn& column : ResultColumns())
+    names.emplace_back(column.Key);
   return names;
 }
 
@@ -154,7 +147,7 @@ Json AnalysisJson(const Analysis& analysis, FieldNames fields) {
   for (const Field& field : kFields) {
     if (fields.empty() || IsNamed(fields, field.Name)) object[std::string(field.Name)] = field.ValueOf(told);
   }
-  const std::vector<HandField> ofHands = WantedOfHands(fields);
+  const std::vector<ResultColumn> ofHands = WantedOfHands(fields);
   if (!ofHands.empty()) object[std::string(kHands)] = HandsJson(analysis, ofHands);
   return object;
 }

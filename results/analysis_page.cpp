@@ -6,8 +6,9 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <variant>
+#include <vector>
 
-#include "analysis/results_table.h"
 #include "analysis/scenarios.h"
 #include "hand/hand_classes.h"
 #include "ranges/range_summary.h"
@@ -15,9 +16,9 @@
 #include "results/grid_colors.h"
 #include "results/grid_picture.h"
 #include "results/hover_panel.h"
+#include "results/result_columns.h"
 #include "results/results_grid.h"
 #include "results/web_page.h"
-#include "support/number_text.h"
 
 namespace quillon {
 namespace {
@@ -50,10 +51,6 @@ PageCell CellOf(const HoverTexts& texts, Rgb color) {
   return cell;
 }
 
-std::string WithoutColon(std::string_view title) {
-  return std::string(title.substr(0, title.find(':')));
-}
-
 PageLine RangeLine(const char* title, const std::string& name, std::string_view text) {
   const std::string summary = RangeSummary(text);
   if (name.empty() || name == summary) return {title, summary};
@@ -61,10 +58,9 @@ PageLine RangeLine(const char* title, const std::string& name, std::string_view 
 }
 
 std::vector<PageLine> SituationOf(const Analysis& analysis, const Scenario& scenario) {
-  const std::array<PageLine, 3> amounts = {{{"Pot Size", RoundedText(analysis.PotSize, 2)},
-                                            {"Call Amount", RoundedText(analysis.CallAmount, 2)},
-                                            {"Shove Amount", RoundedText(analysis.ShoveAmount, 2)}}};
-  std::vector<PageLine> lines(amounts.begin(), amounts.begin() + scenario.AmountCount);
+  std::vector<PageLine> lines;
+  for (const AmountKind& amount : scenario.AskedAmounts())
+    lines.push_back({std::string(amount.Title), RoundedText(analysis.Amounts.*amount.Value, 2)});
   lines.push_back(RangeLine("His Range", analysis.RangeName, analysis.RangeText));
   if (!scenario.HasCallingRange) return lines;
   lines.push_back(RangeLine("His Calling Range", analysis.CallingRangeName, analysis.CallingRangeText));
@@ -83,17 +79,10 @@ std::vector<std::string> Paragraphs(std::string_view text) {
   return paragraphs;
 }
 
-std::string ValueText(double value) {
-  constexpr int kDecimals = 4;
-  return (value > 0 ? "+" : "") + PatternText(value, kDecimals);
-}
-
-std::vector<PageFigure> FiguresOf(const HandResult& result, const HoverTexts& texts, const Scenario& scenario) {
-  std::vector<PageFigure> figures = {{std::to_string(result.Combos), static_cast<double>(result.Combos)}};
-  if (scenario.HasExpectedValue()) figures.push_back({ValueText(result.ExpectedValue), result.ExpectedValue});
-  figures.push_back({texts.Equity, result.Equity});
-  if (texts.FoldShare) figures.push_back({*texts.FoldShare, result.FoldShare});
-  return figures;
+// Only numbers have headings, so no text is sorted.
+double OrderOf(const ResultValue& value) {
+  if (const auto* const count = std::get_if<std::int16_t>(&value)) return *count;
+  return std::get<double>(value);
 }
 
 }  // namespace
@@ -106,21 +95,25 @@ std::string AnalysisPage(const Analysis& analysis) {
                .Subtitle = std::string(scenario.Name),
                .Situation = SituationOf(analysis, scenario),
                .Explanation = Paragraphs(texts.Results),
-               .Grids = {{.Name = texts.Title, .Cells = {}}},
-               .Columns = {"Combos"}};
+               .Grids = {{.Name = texts.Title, .Cells = {}}}};
   if (texts.LegendVisible) {
     page.Legend = {{EVColor(kLegendShade, "+"), std::string(kGoodLegend)},
                    {EVColor(kLegendShade, "-"), std::string(kBadLegend)}};
   }
-  if (scenario.HasExpectedValue()) page.Columns.push_back(WithoutColon(kValueTitle));
+  std::vector<ResultColumn> columns;
+  for (const ResultColumn& column : ResultColumns()) {
+    if (column.Heading == nullptr || !column.IsIn(scenario)) continue;
+    columns.push_back(column);
+    page.Columns.push_back(column.Heading(scenario));
+  }
+  const std::vector<ShownHand> hands = ShownHands(analysis);
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const auto i = static_cast<std::size_t>(index);
     const HoverTexts hover = *MakeHoverTexts(index, analysis);
-    if (index == 0) page.Columns.push_back(WithoutColon(hover.EquityTitle));
     page.Grids.front().Cells.at(i) = CellOf(hover, colors.at(i));
-    page.Rows.at(i) = FiguresOf(GetHandResult(analysis.HandInfo, HandLabel(index)), hover, scenario);
+    for (const ResultColumn& column : columns)
+      page.Rows.at(i).push_back({column.Text(hands.at(i).first, hover), OrderOf(column.ValueOf(hands.at(i)))});
   }
-  if (scenario.HasCallingRange) page.Columns.push_back(WithoutColon(kFoldShareTitle));
   return PageMarkup(page);
 }
 

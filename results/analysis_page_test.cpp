@@ -121,9 +121,7 @@ TEST_P(EachPage, NeedsNothingFromElsewhere) {
 
 TEST(AnalysisPage, OfARaiseHasTheFiguresOfEachHand) {
   Analysis raise = sample::RaiseState();
-  raise.PotSize = 1.005;
-  raise.CallAmount = 0.126;
-  raise.ShoveAmount = 62.497;
+  raise.Amounts = {1.005, 0.126, 62.497};
   const std::string page = AnalysisPage(raise);
   EXPECT_THAT(SeenText(TableRows(page).at(0)), StartsWith("AA6+150.0000N/A100%"));
   EXPECT_THAT(SeenText(TableRows(page).at(168)), StartsWith("226-12.500030%0%"));

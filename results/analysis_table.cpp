@@ -1,31 +1,36 @@
 #include "results/analysis_table.h"
 
-#include <initializer_list>
 #include <string_view>
+#include <variant>
 
-#include "results/results_grid.h"
+#include "results/result_columns.h"
 #include "support/number_text.h"
 
 namespace quillon {
 namespace {
 
-std::string Row(std::initializer_list<std::string_view> cells, char separator) {
-  std::string row;
-  for (const std::string_view cell : cells)
-    row.append(cell) += separator;
-  row.back() = '\n';
-  return row;
+std::string TextOf(std::string_view text) {
+  return std::string(text);
+}
+
+std::string TextOf(double number) {
+  return NumberText(number);
 }
 
 }  // namespace
 
 std::string AnalysisTable(const Analysis& analysis, char separator) {
   const Scenario& scenario = ScenarioOf(analysis.Mode);
-  std::string text = Row({"hand", "combos", "ev", "equity", "fold", "colour"}, separator);
-  for (const auto& [hand, color] : ShownHands(analysis)) {
-    const std::string value = scenario.HasExpectedValue() ? NumberText(hand.ExpectedValue) : "";
-    const std::string fold = scenario.HasCallingRange ? NumberText(hand.FoldShare) : "";
-    text += Row({hand.Label, std::to_string(hand.Combos), value, NumberText(hand.Equity), fold, color}, separator);
+  std::string text;
+  for (const ResultColumn& column : ResultColumns())
+    text.append(column.Key) += separator;
+  text.back() = '\n';
+  for (const ShownHand& hand : ShownHands(analysis)) {
+    for (const ResultColumn& column : ResultColumns()) {
+      if (column.IsIn(scenario)) text += std::visit([](auto value) { return TextOf(value); }, column.ValueOf(hand));
+      text += separator;
+    }
+    text.back() = '\n';
   }
   return text;
 }

@@ -36,9 +36,7 @@ TEST(ShoveFormulaText, RoundsEachTermToItsOwnDecimals) {
   };
   for (const Case& c : cases) {
     Analysis state;
-    state.PotSize = c.pot;
-    state.CallAmount = c.call;
-    state.ShoveAmount = c.shove;
+    state.Amounts = {c.pot, c.call, c.shove};
     EXPECT_EQ(ShoveFormulaText(state, {.Equity = c.equity, .FoldShare = c.foldShare}), c.text) << c.rule;
   }
 }

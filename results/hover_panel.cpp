@@ -37,25 +37,24 @@ std::string_view AdviceOn(double expectedValue) {
 }
 
 HoverTexts MoveTexts(const HandResult& result, const Scenario& scenario, double callAmount) {
-  const bool raise = scenario.HasCallingRange;
   HoverTexts texts{.Picture = result.ExpectedValue > 0 ? HoverPicture::kGreen : HoverPicture::kRed,
                    .Hand = result.Label,
-                   .EquityTitle = raise ? "Equity when Called:" : "Equity:",
+                   .EquityTitle = scenario.EquityTitle,
                    .Equity = EquityText(result.Equity),
                    .Value = ValueText(result.ExpectedValue),
                    .Return = ReturnText(result.ExpectedValue, callAmount),
                    .FoldShare = {},
                    .Advice = AdviceOn(result.ExpectedValue)};
-  if (raise) texts.FoldShare = PercentText(result.FoldShare, 2);
+  if (scenario.HasCallingRange) texts.FoldShare = PercentText(result.FoldShare, 2);
   return texts;
 }
 
-HoverTexts EquityTexts(const HandResult& result) {
+HoverTexts EquityTexts(const HandResult& result, const Scenario& scenario) {
   constexpr double kGoodEquity = 0.25;
   // Intentional: unlike the other scenarios this one rounds before it multiplies, and treats -1 like any other number.
   return {.Picture = HoverPicture::kBlue,
           .Hand = result.Label,
-          .EquityTitle = "Equity:",
+          .EquityTitle = scenario.EquityTitle,
           .Equity = NumberText(RoundTo(result.Equity, 4) * 100) + "%",
           .Value = {},
           .Return = {},
@@ -69,7 +68,8 @@ std::optional<HoverTexts> MakeHoverTexts(std::int16_t index, const Analysis& ana
   const Scenario* const scenario = FindRow(kScenarios, analysis.Mode);
   if (scenario == nullptr || analysis.HandInfo.empty()) return std::nullopt;
   const HandResult result = GetHandResult(analysis.HandInfo, HandLabel(index));
-  return scenario->HasExpectedValue() ? MoveTexts(result, *scenario, analysis.CallAmount) : EquityTexts(result);
+  return scenario->HasExpectedValue() ? MoveTexts(result, *scenario, analysis.Amounts.Call)
+                                      : EquityTexts(result, *scenario);
 }
 
 TwipRect HoverPlace(const TwipRect& panel, const TwipRect& square, const TwipRect& screen) {

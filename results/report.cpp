@@ -46,8 +46,8 @@ std::string HandAndCombos(const HandResult& hand) {
 
 // Intentional: the equity column rounds half away from zero and the formula to even, so the last digits may differ.
 std::string CallRow(const Analysis& analysis, const HandResult& hand) {
-  const std::string call = RoundedText(analysis.CallAmount, 2);
-  const std::string pot = RoundedText(analysis.PotSize, 2);
+  const std::string call = RoundedText(analysis.Amounts.Call, 2);
+  const std::string pot = RoundedText(analysis.Amounts.Pot, 2);
   return Joined({HandAndCombos(hand), PatternText(hand.Equity, 3), "\t", MoneyColumn(hand.ExpectedValue, 13),
                  "\t=", RoundedText(hand.Equity, 3), "*(", pot, "+", call, ")-", call});
 }
@@ -70,12 +70,12 @@ void WriteRows(PlainReport& report, const Analysis& analysis, RowText rowText) {
 
 void WritePlainCall(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
-  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
+  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
 
   report.Heading("Situation");
   report.Body("Type: Preflop Call ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(analysis.PotSize, 2));
-  report.Line("Amount To Call: " + RoundedText(analysis.CallAmount, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.Pot, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.Call, 2));
   report.Heading("\r\n\r\nRange");
   report.Body("Opponent Range Name: " + analysis.RangeName);
   report.Line("Range: " + RangeSummary(analysis.RangeText));
@@ -99,9 +99,9 @@ void WritePlainRaise(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
   report.Heading("Situation");
   report.Body("Type: Preflop Raise ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(analysis.PotSize, 2));
-  report.Line("Amount To Call: " + RoundedText(analysis.CallAmount, 2));
-  report.Line("Amount Behind: " + RoundedText(analysis.ShoveAmount, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.Pot, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.Call, 2));
+  report.Line("Amount Behind: " + RoundedText(analysis.Amounts.Shove, 2));
   report.Heading("\r\n\r\nRange");
   report.Body("Current Range: " + analysis.RangeName);
   report.Line("Range: " + RangeSummary(analysis.RangeText));
@@ -163,11 +163,12 @@ void WriteForumProfitableHands(ReportText& box, const Analysis& analysis) {
 }
 
 void WriteForumCall(ReportText& box, const Analysis& analysis) {
-  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
+  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
 
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount));
+  WriteForumLine(box,
+                 "Pot Size: " + NumberText(analysis.Amounts.Pot) + " | To Call: " + NumberText(analysis.Amounts.Call));
   // Intentional: a post shows the break-even point as a fraction, the plain form as a percentage.
   WriteForumLine(box, "[COLOR=\"GRAY\"](Pot Odds: " + RoundedText(odds, 2) +
                           ":1, BEP: " + RoundedText(BreakEvenEquity(odds), 2) + ")[/COLOR]");
@@ -178,8 +179,8 @@ void WriteForumCall(ReportText& box, const Analysis& analysis) {
 void WriteForumRaise(ReportText& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box, "Pot Size: " + NumberText(analysis.PotSize) + " | To Call: " + NumberText(analysis.CallAmount) +
-                          " | Shove Amount: " + NumberText(analysis.ShoveAmount));
+  WriteForumLine(box, "Pot Size: " + NumberText(analysis.Amounts.Pot) + " | To Call: " +
+                          NumberText(analysis.Amounts.Call) + " | Shove Amount: " + NumberText(analysis.Amounts.Shove));
   WriteForumLine(box, "Villain Current Range: " + RangeSummary(analysis.RangeText));
   WriteForumLine(box, "Villain Calling Range: " + RangeSummary(analysis.CallingRangeText) + "\r\n");
   WriteForumProfitableHands(box, analysis);
@@ -193,16 +194,36 @@ void WriteForumEquity(ReportText& box, const Analysis& analysis) {
   WriteForumLine(box, "[/COLOR]");
 }
 
+std::string SignedMoneyText(double value) {
+  return (value > 0 ? "+" : "") + RoundedText(value, 2);
+}
+
+std::string CallWorking(const Analysis& analysis, const HandResult& hand) {
+  return Joined({"EV for ", hand.Label, " = ", RoundedText(hand.Equity, 4), " * (",
+                 NumberText(analysis.Amounts.Pot + analysis.Amounts.Call), ") - ", NumberText(analysis.Amounts.Call),
+                 " = ", SignedMoneyText(hand.ExpectedValue)});
+}
+
+std::string RaiseWorking(const Analysis& analysis, const HandResult& hand) {
+  return Joined(
+      {"EV for ", hand.Label, " = ", ShoveFormulaText(analysis, hand), " = ", SignedMoneyText(hand.ExpectedValue)});
+}
+
+std::string EquityWorking(const Analysis& /*analysis*/, const HandResult& hand) {
+  return Joined({"Equity for ", hand.Label, " : ", NumberText(hand.Equity)});
+}
+
 struct ReportRow {
   AnalysisMode Mode = AnalysisMode::kNone;
   void (*Plain)(ReportText& box, const Analysis& analysis) = nullptr;
   void (*Forum)(ReportText& box, const Analysis& analysis) = nullptr;
+  RowText Working = nullptr;  // the calculation for a single hand
 };
 
 constexpr ScenarioTable<ReportRow> kReports = {{
-    {AnalysisMode::kPreflopCall, WritePlainCall, WriteForumCall},
-    {AnalysisMode::kPreflopRaise, WritePlainRaise, WriteForumRaise},
-    {AnalysisMode::kEquityOnly, WritePlainEquity, WriteForumEquity},
+    {AnalysisMode::kPreflopCall, WritePlainCall, WriteForumCall, CallWorking},
+    {AnalysisMode::kPreflopRaise, WritePlainRaise, WriteForumRaise, RaiseWorking},
+    {AnalysisMode::kEquityOnly, WritePlainEquity, WriteForumEquity, EquityWorking},
 }};
 static_assert(CoversEveryScenario(kReports));
 
@@ -213,6 +234,16 @@ ReportText BuildReport(const Analysis& analysis, ReportForm form) {
   if (const ReportRow* const row = FindRow(kReports, analysis.Mode))
     (form == ReportForm::kPlainText ? row->Plain : row->Forum)(report, analysis);
   return report;
+}
+
+void AddSpecificHand(ReportText& box, const Analysis& analysis, std::string_view hand) {
+  const ReportRow* const row = FindRow(kReports, analysis.Mode);
+  if (row == nullptr || hand == "None") return;
+
+  SetReportFont(box, kFixedWidthFontCode, kBodySize, kBlack);
+  const std::string working = row->Working(analysis, GetHandResult(analysis.HandInfo, hand));
+  std::string line = "\r\n[COLOR=\"DimGray\"]" + working + "[/COLOR]";
+  AppendReportLine(box, line, kNameColumn);
 }
 
 }  // namespace quillon

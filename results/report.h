@@ -24,4 +24,13 @@ inline constexpr std::array<std::string_view, 2> kReportFormTexts = {"Plain Text
 /// if pot and call sum to 0.
 [[nodiscard]] ReportText BuildReport(const Analysis& analysis, ReportForm form);
 
+/// Inserts the line for the class labelled `hand` at the box's insertion point, in 10 point Courier New; "None", the
+/// first entry of the list of hands, adds nothing. The expected value is that of the results table, not recomputed from
+/// the printed terms. The line begins with a line break and wraps these texts in mark-up:
+///
+///     Preflop Call:  EV for AA = 0.8523 * (200) - 50 = +120.46
+///     Preflop Raise: EV for AKs = (0.4*150)+(1-0.4)*(0.55*(150+50+2*100)-(50+100)) = +98.2
+///     Equity Only:   Equity for AA : 0.8523      (with a tab after the colon)
+void AddSpecificHand(ReportText& box, const Analysis& analysis, std::string_view hand);
+
 }  // namespace quillon

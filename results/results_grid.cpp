@@ -7,6 +7,7 @@
 #include "ranges/range_summary.h"
 #include "results/formula_texts.h"
 #include "results/grid_colors.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/rgb.h"
 #include "support/rounding.h"
@@ -29,17 +30,19 @@ std::string ProfitableSentence(const Analysis& analysis) {
   return "In this situation, " + ProfitablePercentText(analysis) + "% of hands are profitable.";
 }
 
-std::string PotAndCallText(const Analysis& analysis) {
-  return "Pot Size: " + RoundedText(analysis.PotSize, 2) + " | Call Amount: " + RoundedText(analysis.CallAmount, 2);
+std::string AmountsText(const Analysis& analysis) {
+  std::string text;
+  for (const AmountKind& amount : ScenarioOf(analysis.Mode).AskedAmounts())
+    text += Joined({text.empty() ? "" : " | ", amount.Title, ": ", RoundedText(analysis.Amounts.*amount.Value, 2)});
+  return text;
 }
 
 GridTexts CallTexts(const Analysis& analysis) {
-  const double odds = PotOdds(analysis.PotSize, analysis.CallAmount);
+  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
   const std::string oddsText = RoundedText(odds, 2) + ":1";
   return {
       .Title = std::string(kGridTitle),
-      .HandInfo =
-          PotAndCallText(analysis) + " | Odds: " + oddsText + "\r\nHis Range: " + RangeSummary(analysis.RangeText),
+      .HandInfo = AmountsText(analysis) + " | Odds: " + oddsText + "\r\nHis Range: " + RangeSummary(analysis.RangeText),
       .Results =
           "If you call with all of the hands in green you will profit in the long run. You should fold "
           "everything else.\r\n\r\nSince you are getting " +
@@ -52,8 +55,7 @@ GridTexts CallTexts(const Analysis& analysis) {
 GridTexts RaiseTexts(const Analysis& analysis) {
   return {
       .Title = std::string(kGridTitle),
-      .HandInfo = PotAndCallText(analysis) + " | Shove Amount: " + RoundedText(analysis.ShoveAmount, 2) +
-                  "\r\nHis Calling Range: " + RangeSummary(analysis.CallingRangeText),
+      .HandInfo = AmountsText(analysis) + "\r\nHis Calling Range: " + RangeSummary(analysis.CallingRangeText),
       .Results =
           "If you raise with all of the hands in green you will profit in the long run. For any hand, you "
           "should also consider how well you and your opponent play after the flop to decide whether or not "

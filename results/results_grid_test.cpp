@@ -31,8 +31,7 @@ Analysis WithTable(AnalysisMode mode, std::string table) {
 
 TEST(GridTexts, OfAPreflopCall) {
   Analysis state = sample::CallState();
-  state.PotSize = 100.126;
-  state.CallAmount = 50;
+  state.Amounts = {100.126, 50, 0};
   EXPECT_EQ(MakeGridTexts(state),
             (GridTexts{.Title = "ALL IN Grid",
                        .HandInfo = "Pot Size: 100.13 | Call Amount: 50 | Odds: 2:1\r\n"
@@ -74,18 +73,15 @@ TEST(GridTexts, BeforeAnyAnalysisSaySo) {
 
 TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
   Analysis state = sample::CallState();
-  state.PotSize = 10.125;
-  state.CallAmount = 3;
+  state.Amounts = {10.125, 3, 0};
   EXPECT_THAT(MakeGridTexts(state).HandInfo,
               ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3 | Odds: 3.38:1\r\n"))
       << "10.125 is a tie, 3.375 too";
-  state.CallAmount = 3.125;
+  state.Amounts.Call = 3.125;
   EXPECT_THAT(MakeGridTexts(state).HandInfo, ::testing::HasSubstr("Call Amount: 3.12 |"));
 
   Analysis raise = sample::RaiseState();
-  raise.PotSize = 10.125;
-  raise.CallAmount = 3.125;
-  raise.ShoveAmount = 62.125;
+  raise.Amounts = {10.125, 3.125, 62.125};
   EXPECT_THAT(MakeGridTexts(raise).HandInfo,
               ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3.12 | Shove Amount: 62.12\r\n"));
 }
@@ -124,11 +120,11 @@ TEST(GridTexts, TheShareOfProfitableHandsCountsCombosAgainst1325) {
 
 TEST(GridTexts, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
   Analysis call = sample::CallState();
-  call.CallAmount = 0;
+  call.Amounts.Call = 0;
   EXPECT_THROW(static_cast<void>(MakeGridTexts(call)), RunTimeError);
 
   Analysis raise = sample::RaiseState();
-  raise.CallAmount = 0;
+  raise.Amounts.Call = 0;
   EXPECT_EQ(MakeGridTexts(raise).HandInfo,
             "Pot Size: 150 | Call Amount: 0 | Shove Amount: 62.5\r\nHis Calling Range: AA");
 }

@@ -131,9 +131,8 @@ std::string SituationOpenedText(std::string_view name) {
 }
 
 Message NoInputScreenMessage() {
-  return {
-      .text =
-          "Ctrl+S saves the situation on the screen where you enter it: Preflop Call, Preflop Raise or Equity Only."};
+  return {.text = Joined({"Ctrl+S saves the situation on the screen where you enter it: ",
+                          Listed(kScenarios, &Scenario::Name), "."})};
 }
 
 Message NoSituationsMessage() {

@@ -52,14 +52,13 @@ class Batch::Reader {
   }
 
   bool ReadAmounts(std::string& warning) {
-    const std::array<std::string*, 3> texts = {&entered_.Pot, &entered_.Call, &entered_.Shove};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(scenario_->AmountCount); ++i) {
+    for (std::size_t i = 0; i < scenario_->AmountCount; ++i) {
       const BatchKey key = kAmountKeys.at(i);
       LineAmount amount = AmountOfLine(line_, key);
       if (!amount.Fault.empty()) return Fail(std::move(amount.Fault));
       if (const auto comma = CommaWarning(kBatchKeys.at(key), amount.Text))
         warning += (warning.empty() ? "" : " ") + *comma;
-      *texts.at(i) = std::move(amount.Text);
+      entered_.*kEnteredAmounts.at(i) = std::move(amount.Text);
     }
     return true;
   }

@@ -39,15 +39,6 @@ constexpr std::array<KeyRow, kBatchKeys.size()> kKeyRows = {{
 
 constexpr std::size_t kMostFaults = 8;
 
-// The names of a table's rows, as "a, b or c".
-template <typename Rows, typename NameOf>
-std::string Listed(const Rows& rows, NameOf nameOf) {
-  std::string list;
-  for (std::size_t i = 0; i < rows.size(); ++i)
-    list.append(i == 0 ? "" : i + 1 == rows.size() ? " or " : ", ").append(nameOf(rows[i]));
-  return list;
-}
-
 // Collects the values of a line from the parser. A bad value does not stop it, so that an answer can have its id.
 class LineValues final : public nlohmann::json_sax<nlohmann::json> {
  public:
@@ -93,8 +84,8 @@ class LineValues final : public nlohmann::json_sax<nlohmann::json> {
     const auto* const row = std::ranges::find(kBatchKeys, name);
     if (row == kBatchKeys.end()) {
       constexpr std::size_t kShown = 60;
-      return Fail(Joined({"there is no key ", Quoted(WholeCharacters(name, kShown)), "; there are ",
-                          Listed(kBatchKeys, [](std::string_view key) { return key; })}));
+      return Fail(
+          Joined({"there is no key ", Quoted(WholeCharacters(name, kShown)), "; there are ", Listed(kBatchKeys)}));
     }
     const auto found = static_cast<BatchKey>(row - kBatchKeys.begin());
     if (std::exchange(seen_.at(found), true)) return Fail(QuotedKey(found) + " is there twice");
@@ -191,8 +182,7 @@ std::variant<const Scenario*, std::string> ScenarioOfLine(const BatchLine& line)
   if (!line[kModeKey]) return Missing(kModeKey);
   const auto* const scenario = std::ranges::find(kScenarios, *line[kModeKey], &Scenario::Command);
   if (scenario != kScenarios.end()) return scenario;
-  return Joined({"\"mode\" is ", Listed(kScenarios, [](const Scenario& row) { return row.Command; }), ", not ",
-                 Quoted(*line[kModeKey])});
+  return Joined({"\"mode\" is ", Listed(kScenarios, &Scenario::Command), ", not ", Quoted(*line[kModeKey])});
 }
 
 std::vector<std::string> ForeignKeys(const BatchLine& line, const Scenario& scenario) {
@@ -202,7 +192,7 @@ std::vector<std::string> ForeignKeys(const BatchLine& line, const Scenario& scen
       faults.push_back(Joined({QuotedKey(key), " does not go with mode ", Quoted(scenario.Command)}));
   };
   for (std::size_t i = 0; i < kAmountKeys.size(); ++i)
-    check(kAmountKeys.at(i), i < static_cast<std::size_t>(scenario.AmountCount));
+    check(kAmountKeys.at(i), i < scenario.AmountCount);
   for (const BatchKey key : {kCallingRangeKey, kCallingHandsKey})
     check(key, scenario.HasCallingRange);
   return faults;

@@ -128,9 +128,7 @@ class OrdinaryAnalysis {
   // In "Preflop Raise", against the calling range found.
   [[nodiscard]] double HeroCouldGain() const {
     const Analysis analysis = Finished({.Mode = AnalysisMode::kPreflopRaise,
-                                        .PotSize = question_.Pot,
-                                        .CallAmount = question_.Call,
-                                        .ShoveAmount = question_.Shove,
+                                        .Amounts = {question_.Pot, question_.Call, question_.Shove},
                                         .RangeText = SearchableRangeText(question_.HisHands),
                                         .CallingRangeText = SearchableRangeText(found_.Call)});
     return CouldGain(analysis, question_.OwnHands, found_.Shove, question_.HisHands);
@@ -138,10 +136,10 @@ class OrdinaryAnalysis {
 
   // In "Preflop Call", facing the range found; the pot then includes the hero's call and shove.
   [[nodiscard]] double OpponentCouldGain() const {
-    const Analysis analysis = Finished({.Mode = AnalysisMode::kPreflopCall,
-                                        .PotSize = question_.Pot + question_.Call + question_.Shove,
-                                        .CallAmount = question_.Shove,
-                                        .RangeText = SearchableRangeText(found_.Shove)});
+    const Analysis analysis =
+        Finished({.Mode = AnalysisMode::kPreflopCall,
+                  .Amounts = {question_.Pot + question_.Call + question_.Shove, question_.Shove, 0},
+                  .RangeText = SearchableRangeText(found_.Shove)});
     return CouldGain(analysis, question_.HisHands, found_.Call, found_.Shove);
   }
 

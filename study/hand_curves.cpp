@@ -18,12 +18,21 @@ namespace {
 constexpr std::string_view kValuesTitle = "Expected value, in chips";
 constexpr std::string_view kNow = "now";
 
-bool IsShove(const StudySituation& situation) {
+bool IsBelowPot(const StudySituation& situation) {
+  return RowOf(kMoves, situation.Asked.Mode).StaysBelowPot;
+}
+
+// Whether the width is that of his calling range, which may be empty.
+bool MayFold(const StudySituation& situation) {
   return ScenarioOf(situation.Asked.Mode).HasCallingRange;
 }
 
+const AmountKind& OwnAmountKind(const Situation& asked) {
+  return ScenarioOf(asked.Mode).AskedAmounts().back();
+}
+
 SweepQuestion QuestionOf(const StudySituation& situation, std::span<const std::int16_t> hands) {
-  return {situation.Asked.Mode, situation.AllAmounts(), {hands.begin(), hands.end()}};
+  return {situation.Asked.Mode, situation.Asked.Amounts, {hands.begin(), hands.end()}};
 }
 
 std::vector<std::string> LabelsOf(std::span<const std::int16_t> hands) {
@@ -36,8 +45,7 @@ std::vector<std::string> LabelsOf(std::span<const std::int16_t> hands) {
 Limit LimitOf(const StudySituation& situation, const RangeNumbers& ranges, std::int16_t hand) {
   const Situation& asked = situation.Asked;
   const ClassFigures figures = ranges.FiguresOf(ScenarioOf(asked.Mode), hand);
-  return IsShove(situation) ? ShoveLimit(asked.PotSize, asked.CallAmount, figures)
-                            : CallLimit(asked.PotSize, figures.Equity);
+  return RowOf(kMoves, asked.Mode).LimitOf(asked.Amounts, figures);
 }
 
 std::string NoteOf(const Limit& limit) {
@@ -73,12 +81,12 @@ double StepFor(double reach, double amount) {
   }
 }
 
-std::string TitleOf(const Situation& asked) {
-  return std::string(ScenarioOf(asked.Mode).Name) + ": pot " + NumberText(asked.PotSize);
+std::string TitleOf(const Situation& asked, std::size_t amountCount) {
+  return Joined({ScenarioOf(asked.Mode).Name, ": ", AmountWords(asked, amountCount)});
 }
 
 void CountInPots(FigureScale& scale, const StudySituation& situation) {
-  scale.Pot = situation.Asked.PotSize;
+  scale.Pot = situation.Asked.Amounts.Pot;
 }
 
 void AddLimits(Figure& figure, const StudySituation& situation, std::span<const std::int16_t> hands) {
@@ -135,7 +143,7 @@ std::int16_t MarginalHand(const StudySituation& situation) {
   std::optional<std::pair<double, std::int16_t>> best;
   for (std::int16_t index = 0; index < kHandClassCount; ++index) {
     const ClassFigures figures = ranges.FiguresOf(scenario, index);
-    const double value = ResultOf(scenario, index, figures, situation.AllAmounts()).ExpectedValue;
+    const double value = ResultOf(scenario, index, figures, situation.Asked.Amounts).ExpectedValue;
     if (value >= 0 && (!gaining || value < gaining->first)) gaining = {value, index};
     if (!best || value > best->first) best = {value, index};
   }
@@ -152,10 +160,10 @@ StepTexts AmountStepsFor(const StudySituation& situation, std::span<const std::i
     const Limit limit = LimitOf(situation, ranges, hand);
     if (HasAmount(limit) && limit.Amount < kFarLimit * now) reach = std::max(reach, kBeyondLimit * limit.Amount);
   }
-  reach = std::min(reach, IsShove(situation) ? kMostLimit : situation.Asked.PotSize);
+  reach = std::min(reach, IsBelowPot(situation) ? situation.Asked.Amounts.Pot : kMostLimit);
   const double step = StepFor(reach, now);
   double count = std::ceil(reach / step);
-  if (!IsShove(situation) && count * step >= situation.Asked.PotSize) --count;
+  if (IsBelowPot(situation) && count * step >= situation.Asked.Amounts.Pot) --count;
   return {.From = NumberText(step), .To = NumberText(count * step), .Step = NumberText(step)};
 }
 
@@ -163,9 +171,9 @@ std::variant<Steps, std::string> ReadAmountSteps(const StudySituation& situation
   auto read = ReadSteps(texts);
   const auto* const steps = std::get_if<Steps>(&read);
   if (steps == nullptr) return read;
-  const double pot = situation.Asked.PotSize;
+  const double pot = situation.Asked.Amounts.Pot;
   if (LeadingNumber(steps->Text(0)) == 0) return "the first amount must be above 0";
-  if (!IsShove(situation) && LeadingNumber(steps->Text(steps->Count() - 1)) >= pot) {
+  if (IsBelowPot(situation) && LeadingNumber(steps->Text(steps->Count() - 1)) >= pot) {
     return "a call is smaller than the pot, which is " + NumberText(pot);
   }
   return read;
@@ -178,7 +186,7 @@ std::variant<Steps, std::string> ReadWidthSteps(const StudySituation& situation,
   if (steps == nullptr) return read;
   if (LeadingNumber(steps->Text(steps->Count() - 1)) > 100) return "a range is at most 100% wide";
   const bool isEmpty = TopHands(steps->Text(0), bestFirst) == ClassWeights{};
-  if (isEmpty && !IsShove(situation)) return "the narrowest range has no hands";
+  if (isEmpty && !MayFold(situation)) return "the narrowest range has no hands";
   return read;
 }
 
@@ -187,32 +195,26 @@ std::string HandCurves::Csv() const {
 }
 
 HandCurves AmountCurves(const StudySituation& situation, std::vector<std::int16_t> hands, const Steps& steps) {
-  const bool shove = IsShove(situation);
-  std::vector<SweepRow> rows =
-      SweepAmount(QuestionOf(situation, hands), situation.Numbers(), shove ? &Amounts::Shove : &Amounts::Call, steps);
-  return {shove ? "shove" : "call", std::move(hands), std::move(rows)};
+  const AmountKind& own = OwnAmountKind(situation.Asked);
+  std::vector<SweepRow> rows = SweepAmount(QuestionOf(situation, hands), situation.Numbers(), own.Value, steps);
+  return {std::string(own.Key), std::move(hands), std::move(rows)};
 }
 
 SweepRow WidthRow(const StudySituation& situation, std::span<const std::int16_t> hands, const HandOrder& bestFirst,
                   const std::string& width) {
   const ClassWeights range = TopHands(width, bestFirst);
   const RangeNumbers ranges =
-      IsShove(situation) ? RangeNumbers(situation.Hands, situation.Range, range) : RangeNumbers(situation.Hands, range);
+      MayFold(situation) ? RangeNumbers(situation.Hands, situation.Range, range) : RangeNumbers(situation.Hands, range);
   return SweepRowAt(QuestionOf(situation, hands), ranges, width);
 }
 
 Figure AmountFigure(const StudySituation& situation, const HandCurves& curves) {
   const Situation& asked = situation.Asked;
-  const bool shove = IsShove(situation);
-  std::string title = TitleOf(asked);
-  if (shove) title += ", " + NumberText(asked.CallAmount) + " to call";
-  Figure figure = SweepFigure(
-      {.Title = title,
-       .Across = shove ? "What he must put in to call your shove, in chips" : "What you must put in to call, in chips",
-       .Hands = LabelsOf(curves.Hands)},
-      curves.Rows);
-  figure.Subtitle = "He plays " + Quoted(asked.RangeName);
-  if (shove) figure.Subtitle += " and calls with " + Quoted(asked.CallingRangeName);
+  Figure figure = SweepFigure({.Title = TitleOf(asked, ScenarioOf(asked.Mode).AmountCount - 1),
+                               .Across = Joined({OwnAmountKind(asked).Meaning, ", in chips"}),
+                               .Hands = LabelsOf(curves.Hands)},
+                              curves.Rows);
+  figure.Subtitle = "He " + RangeWords(asked);
   figure.Up.Title = kValuesTitle;
   // A first step equal to the step width means that the sweep starts from 0.
   const std::vector<std::string>& places = figure.Places;
@@ -226,22 +228,21 @@ Figure AmountFigure(const StudySituation& situation, const HandCurves& curves) {
 
 std::array<Figure, 2> WidthFigures(const StudySituation& situation, const HandCurves& curves) {
   const Situation& asked = situation.Asked;
-  const bool shove = IsShove(situation);
+  const bool mayFold = MayFold(situation);
   const std::string across =
-      shove ? "Width of his calling range, in percent of all hands" : "Width of his range, in percent of all hands";
+      mayFold ? "Width of his calling range, in percent of all hands" : "Width of his range, in percent of all hands";
   std::array<Figure, 2> figures = {
       SweepFigure({.Title = {}, .Across = {}, .Hands = {}}, curves.Rows),
       SweepFigure({.Title = {}, .Across = across, .Hands = LabelsOf(curves.Hands)}, curves.Rows)};
   auto& [share, values] = figures;
-  share.Title = TitleOf(asked) + ", " + NumberText(asked.CallAmount) + " to call";
-  if (shove) share.Title += ", he must call " + NumberText(asked.ShoveAmount);
-  if (shove) share.Subtitle = "He plays " + Quoted(asked.RangeName);
+  share.Title = TitleOf(asked, ScenarioOf(asked.Mode).AmountCount);
+  if (mayFold) share.Subtitle = "He plays " + Quoted(asked.RangeName);
   share.Lines.front().Name = "Profitable";
   share.Up.Title = "Profitable hands, in %";  // short enough for a low plot
   share.Up.High = 105;  // a line at 100 is clear of the frame
   values.Up.Title = kValuesTitle;
   CountInPots(values.Up, situation);
-  const double now = PercentOfHands(shove ? situation.CallingRange : situation.Range);
+  const double now = PercentOfHands(mayFold ? situation.CallingRange : situation.Range);
   for (Figure& figure : figures) {
     figure.Across.Low = 0;
     figure.Across.High = 100;

@@ -17,9 +17,7 @@ namespace {
 // The small blind with 10 big blinds.
 StudySituation Shove(double amount = 9, const std::string& calling = "top 30%") {
   return {.Asked = {.Mode = AnalysisMode::kPreflopRaise,
-                    .PotSize = 1.5,
-                    .CallAmount = 0.5,
-                    .ShoveAmount = amount,
+                    .Amounts = {1.5, 0.5, amount},
                     .RangeName = "Any",
                     .CallingRangeName = "Calls"},
           .Range = RangeOf("any"),
@@ -28,7 +26,7 @@ StudySituation Shove(double amount = 9, const std::string& calling = "top 30%") 
 }
 
 StudySituation Call(double pot, double call) {
-  return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = pot, .CallAmount = call, .RangeName = "Button"},
+  return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .Amounts = {pot, call, 0}, .RangeName = "Button"},
           .Range = RangeOf("top 20%"),
           .Hands = Hands()};
 }
@@ -73,9 +71,9 @@ TEST(CurveHands, BeginWithTheHandThatHardlyPays) {
   for (const StudySituation& situation : {Shove(), Shove(15), Call(150, 50)}) {
     const auto rows = [&](const std::vector<std::int16_t>& hands) {
       return situation.Asked.Mode == AnalysisMode::kPreflopRaise
-                 ? SweepAmount({situation.Asked.Mode, situation.AllAmounts(), hands}, situation.Numbers(),
+                 ? SweepAmount({situation.Asked.Mode, situation.Asked.Amounts, hands}, situation.Numbers(),
                                &Amounts::Pot, StepsOf("1.5:1.5:1"))
-                 : SweepAmount({situation.Asked.Mode, situation.AllAmounts(), hands}, situation.Numbers(),
+                 : SweepAmount({situation.Asked.Mode, situation.Asked.Amounts, hands}, situation.Numbers(),
                                &Amounts::Pot, StepsOf("150:150:1"));
     };
     std::vector<std::int16_t> all(kHandClassCount);
@@ -185,7 +183,7 @@ TEST(HandCurves, OverTheWidthMeetThoseOfNow) {
   for (const auto& [situation, width] : {std::pair{Shove(), "30"}, {Call(150, 50), "20"}}) {
     const std::vector<std::int16_t> hands = HandsOf("22 A5s T8s");
     const SweepRow there = WidthRow(situation, hands, BestFirst(), width);
-    const SweepRow now = SweepRowAt({situation.Asked.Mode, situation.AllAmounts(), hands}, situation.Numbers(), width);
+    const SweepRow now = SweepRowAt({situation.Asked.Mode, situation.Asked.Amounts, hands}, situation.Numbers(), width);
     EXPECT_EQ(there.ExpectedValues, now.ExpectedValues);
     EXPECT_EQ(there.ProfitableCombos, now.ProfitableCombos);
   }

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "analysis/expected_value.h"
-#include "analysis/scenarios.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 
@@ -37,14 +36,6 @@ std::string WithPowerOfTen(double amount) {
   return {text.data(), end};
 }
 
-template <typename LimitOf>
-Limits LimitsOf(const RangeNumbers& ranges, AnalysisMode mode, LimitOf limitOf) {
-  Limits limits;
-  for (std::int16_t index = 0; index < kHandClassCount; ++index)
-    limits[static_cast<std::size_t>(index)] = limitOf(ranges.FiguresOf(ScenarioOf(mode), index));
-  return limits;
-}
-
 }  // namespace
 
 Limit CallLimit(double pot, double equity) {
@@ -59,14 +50,13 @@ Limit ShoveLimit(double pot, double call, const ClassFigures& figures) {
   return LimitOfLine(ShoveExpectedValue(pot, call, 0, figures.Equity, figures.CallShare), slope);
 }
 
-Limits CallLimits(const RangeNumbers& range, double pot) {
-  return LimitsOf(range, AnalysisMode::kPreflopCall,
-                  [pot](const ClassFigures& figures) { return CallLimit(pot, figures.Equity); });
-}
-
-Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call) {
-  return LimitsOf(ranges, AnalysisMode::kPreflopRaise,
-                  [pot, call](const ClassFigures& figures) { return ShoveLimit(pot, call, figures); });
+Limits LimitsOf(AnalysisMode mode, const RangeNumbers& ranges, const Amounts& amounts) {
+  Limits limits;
+  for (std::int16_t index = 0; index < kHandClassCount; ++index) {
+    const ClassFigures figures = ranges.FiguresOf(ScenarioOf(mode), index);
+    limits[static_cast<std::size_t>(index)] = RowOf(kMoves, mode).LimitOf(amounts, figures);
+  }
+  return limits;
 }
 
 std::string_view LimitKindName(LimitKind kind) {

@@ -3,11 +3,13 @@
 // The amount up to which a class is good. The value of a move is linear in each amount, so the amount at which it is 0
 // follows from the formula without a search.
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
 #include "analysis/range_sources.h"
+#include "analysis/scenarios.h"
 #include "hand/hand_classes.h"
 
 namespace quillon {
@@ -42,9 +44,32 @@ using Limits = std::array<Limit, kHandClassCount>;
 /// the call than it gains may win only from some amount on.
 [[nodiscard]] Limit ShoveLimit(double pot, double call, const ClassFigures& figures);
 
-/// The limits of all classes, by class index. `range` must have some weight above 0; fails as FiguresOf does.
-[[nodiscard]] Limits CallLimits(const RangeNumbers& range, double pot);
-[[nodiscard]] Limits ShoveLimits(const RangeNumbers& ranges, double pot, double call);
+/// The move of a scenario, whose amount is the last that the scenario asks for.
+struct Move {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::string_view Title;
+  bool StaysBelowPot = false;  // an analysis refuses larger amounts
+
+  /// The limit of a class; its own amount does not count. Null if the scenario has no expected value.
+  Limit (*LimitOf)(const Amounts& amounts, const ClassFigures& figures) = nullptr;
+};
+
+inline constexpr ScenarioTable<Move> kMoves = {{
+    {AnalysisMode::kPreflopCall, "Call", true,
+     [](const Amounts& amounts, const ClassFigures& figures) { return CallLimit(amounts.Pot, figures.Equity); }},
+    {AnalysisMode::kPreflopRaise, "Shove", false,
+     [](const Amounts& amounts, const ClassFigures& figures) {
+       return ShoveLimit(amounts.Pot, amounts.Call, figures);
+     }},
+    {AnalysisMode::kEquityOnly, "", false, nullptr},
+}};
+static_assert(CoversEveryScenario(kMoves));
+static_assert(std::ranges::equal(
+    kMoves, kScenarios, {}, [](const Move& move) { return move.LimitOf != nullptr; }, &Scenario::HasExpectedValue));
+
+/// The limits of all classes, by class index, in a scenario with an expected value. A range that never folds must have
+/// some weight above 0; fails as FiguresOf does.
+[[nodiscard]] Limits LimitsOf(AnalysisMode mode, const RangeNumbers& ranges, const Amounts& amounts);
 
 /// Whether a limit has an amount.
 [[nodiscard]] constexpr bool HasAmount(const Limit& limit) {

@@ -79,13 +79,12 @@ double ExpectedValue(const Situation& situation, const RangeNumbers& ranges, std
 
 TEST(CallLimits, AgreeWithAnalysesJustBelowAndAbove) {
   const RangeNumbers range(Hands(), Range({"AA", "KK", "AKs", "AKo", "76s", "22"}));
-  const Limits limits = CallLimits(range, 100);
+  const Limits limits = LimitsOf(AnalysisMode::kPreflopCall, range, {100, 0, 0});
   std::set<LimitKind> kinds;
   for (std::int16_t index = 0; index < kHandClassCount; index += 3) {
     const Limit& limit = limits.at(static_cast<std::size_t>(index));
     const auto at = [&](double call) {
-      return ExpectedValue({.Mode = AnalysisMode::kPreflopCall, .PotSize = 100, .CallAmount = call}, range,
-                           HandLabel(index));
+      return ExpectedValue({.Mode = AnalysisMode::kPreflopCall, .Amounts = {100, call, 0}}, range, HandLabel(index));
     };
     ExpectLimit(limit, at, std::string(HandLabel(index)));
     kinds.insert(limit.Kind);
@@ -105,14 +104,13 @@ TEST(ShoveLimits, AgreeWithAnalysesJustBelowAndAbove) {
                         Case{1, 90, AllHands(), {LimitKind::kNever, LimitKind::kFrom}},
                         Case{15, 5, ClassWeights{}, {LimitKind::kAlways}}}) {
     const RangeNumbers ranges(Hands(), AllHands(), c.calling);
-    const Limits limits = ShoveLimits(ranges, c.pot, c.call);
+    const Limits limits = LimitsOf(AnalysisMode::kPreflopRaise, ranges, {c.pot, c.call, 0});
     std::set<LimitKind> kinds;
     for (std::int16_t index = 0; index < kHandClassCount; index += 3) {
       const Limit& limit = limits.at(static_cast<std::size_t>(index));
       const auto at = [&](double shove) {
-        return ExpectedValue(
-            {.Mode = AnalysisMode::kPreflopRaise, .PotSize = c.pot, .CallAmount = c.call, .ShoveAmount = shove}, ranges,
-            HandLabel(index));
+        return ExpectedValue({.Mode = AnalysisMode::kPreflopRaise, .Amounts = {c.pot, c.call, shove}}, ranges,
+                             HandLabel(index));
       };
       ExpectLimit(limit, at, std::string(HandLabel(index)));
       kinds.insert(limit.Kind);

@@ -47,12 +47,11 @@ std::string TakeRange(const BatchLine& line, BatchKey nameKey, BatchKey handsKey
 SituationText TextOfSituation(const ScreenSituation& situation) {
   const Scenario& scenario = ScenarioOf(situation.Mode);
   const EnteredSituation& entered = situation.Entered;
-  const std::array<const std::string*, kAmountKeys.size()> amounts = {&entered.Pot, &entered.Call, &entered.Shove};
   Json line;
   const auto put = [&line](BatchKey key, std::string_view text) { line[std::string(kBatchKeys.at(key))] = text; };
   put(kModeKey, scenario.Command);
-  for (std::size_t i = 0; i < static_cast<std::size_t>(scenario.AmountCount); ++i)
-    put(kAmountKeys.at(i), *amounts.at(i));
+  for (std::size_t i = 0; i < scenario.AmountCount; ++i)
+    put(kAmountKeys.at(i), entered.*kEnteredAmounts.at(i));
   put(kRangeKey, entered.Range);
   if (scenario.HasCallingRange) put(kCallingRangeKey, entered.CallingRange);
 
@@ -78,10 +77,9 @@ std::variant<ReadSituation, std::string> SituationOfText(std::string_view bytes)
   if (!IsBlank(bytes)) read.NotTaken.emplace_back("only the first line of the file is taken");
   if (line[kIdKey]) read.NotTaken.push_back(QuotedKey(kIdKey) + " has no place on a screen");
   std::ranges::move(ForeignKeys(line, scenario), std::back_inserter(read.NotTaken));
-  const std::array<std::string*, kAmountKeys.size()> amounts = {&entered.Pot, &entered.Call, &entered.Shove};
-  for (std::size_t i = 0; i < static_cast<std::size_t>(scenario.AmountCount); ++i) {
+  for (std::size_t i = 0; i < scenario.AmountCount; ++i) {
     LineAmount amount = AmountOfLine(line, kAmountKeys.at(i));
-    *amounts.at(i) = std::move(amount.Text);
+    entered.*kEnteredAmounts.at(i) = std::move(amount.Text);
     if (!amount.Fault.empty()) read.NotTaken.push_back(std::move(amount.Fault));
   }
   entered.Range = TakeRange(line, kRangeKey, kHandsKey, read.NotTaken);

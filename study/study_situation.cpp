@@ -1,5 +1,9 @@
 #include "study/study_situation.h"
 
+#include <array>
+#include <string_view>
+#include <utility>
+
 #include "analysis/scenarios.h"
 #include "support/joined_text.h"
 #include "support/number_text.h"
@@ -7,9 +11,8 @@
 namespace quillon {
 
 double StudySituation::OwnAmount() const {
-  const Scenario& scenario = ScenarioOf(Asked.Mode);
-  if (!scenario.HasExpectedValue()) return 0;
-  return scenario.HasCallingRange ? Asked.ShoveAmount : Asked.CallAmount;
+  const auto amounts = ScenarioOf(Asked.Mode).AskedAmounts();
+  return amounts.empty() ? 0 : Asked.Amounts.*amounts.back().Value;
 }
 
 StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands) {
@@ -21,15 +24,27 @@ StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& han
   return situation;
 }
 
+std::string AmountWords(const Situation& situation, std::size_t count) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, kAmounts.size()> kAround = {
+      {{"pot ", ""}, {"", " to call"}, {"he must call ", ""}}};
+  std::string words;
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto& [before, after] = kAround.at(i);
+    words += Joined({i == 0 ? "" : ", ", before, NumberText(situation.Amounts.*kAmounts.at(i).Value), after});
+  }
+  return words;
+}
+
+std::string RangeWords(const Situation& situation) {
+  std::string words = "plays " + Quoted(situation.RangeName);
+  if (ScenarioOf(situation.Mode).HasCallingRange) words += " and calls with " + Quoted(situation.CallingRangeName);
+  return words;
+}
+
 std::string SituationWords(const Situation& situation) {
   const Scenario& scenario = ScenarioOf(situation.Mode);
-  std::string words = std::string(scenario.Name) + ": ";
-  if (!scenario.HasExpectedValue()) return words + "against " + Quoted(situation.RangeName);
-  words += "pot " + NumberText(situation.PotSize) + ", " + NumberText(situation.CallAmount) + " to call";
-  if (scenario.HasCallingRange) words += ", he must call " + NumberText(situation.ShoveAmount);
-  words += "; he plays " + Quoted(situation.RangeName);
-  if (scenario.HasCallingRange) words += " and calls with " + Quoted(situation.CallingRangeName);
-  return words;
+  if (scenario.AmountCount == 0) return Joined({scenario.Name, ": against ", Quoted(situation.RangeName)});
+  return Joined({scenario.Name, ": ", AmountWords(situation, scenario.AmountCount), "; he ", RangeWords(situation)});
 }
 
 }  // namespace quillon

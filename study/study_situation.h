@@ -2,6 +2,7 @@
 
 // A finished analysis with its ranges read once, for the further questions of the study's pages.
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -20,9 +21,6 @@ struct StudySituation {
   /// The ranges, ready for thousands of questions.
   [[nodiscard]] RangeNumbers Numbers() const { return {Hands, Range, CallingRange}; }
 
-  /// The amounts of the situation.
-  [[nodiscard]] Amounts AllAmounts() const { return {Asked.PotSize, Asked.CallAmount, Asked.ShoveAmount}; }
-
   /// The amount of the move: the call or the shove, or 0 in "Equity Only".
   [[nodiscard]] double OwnAmount() const;
 };
@@ -30,6 +28,14 @@ struct StudySituation {
 /// The situation of a finished analysis, without fields that its scenario does not ask for. `hands` must outlive the
 /// result. Fails as RangeWeightsOf does, on texts with which no analysis could finish.
 [[nodiscard]] StudySituation StudySituationOf(const Analysis& analysis, const HandNumbers& hands);
+
+/// The first `count` amounts of a situation.
+///
+///     "pot 150, 50 to call, he must call 400"
+[[nodiscard]] std::string AmountWords(const Situation& situation, std::size_t count);
+
+/// What the opponent does: "plays \"Button Shove\" and calls with \"Tight\"".
+[[nodiscard]] std::string RangeWords(const Situation& situation);
 
 /// One line about a situation, which must have a scenario.
 ///

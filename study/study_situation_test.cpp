@@ -13,7 +13,7 @@ TEST(StudySituation, HoldsWhatItsScenarioAsksFor) {
   const StudySituation raise = StudySituationOf(raised, Hands());
   EXPECT_EQ(raise.Asked, static_cast<const Situation&>(raised));
   EXPECT_EQ(raise.OwnAmount(), 62.5);
-  EXPECT_EQ(raise.AllAmounts(), (Amounts{150, 50, 62.5}));
+  EXPECT_EQ(raise.Asked.Amounts, (Amounts{150, 50, 62.5}));
   EXPECT_EQ(raise.CallingRange.at(0), 1);
   EXPECT_EQ(raise.CallingRange.at(1), 0);
 
@@ -21,7 +21,7 @@ TEST(StudySituation, HoldsWhatItsScenarioAsksFor) {
   raised.Mode = AnalysisMode::kPreflopCall;
   const StudySituation call = StudySituationOf(raised, Hands());
   EXPECT_EQ(call.OwnAmount(), 50);
-  EXPECT_EQ(call.AllAmounts(), (Amounts{150, 50, 0}));
+  EXPECT_EQ(call.Asked.Amounts, (Amounts{150, 50, 0}));
   EXPECT_EQ(call.Asked.CallingRangeName, "");
   EXPECT_EQ(call.Asked.CallingRangeText, "");
   EXPECT_EQ(call.CallingRange, ClassWeights{});
@@ -30,7 +30,7 @@ TEST(StudySituation, HoldsWhatItsScenarioAsksFor) {
   raised.Mode = AnalysisMode::kEquityOnly;
   const StudySituation equity = StudySituationOf(raised, Hands());
   EXPECT_EQ(equity.OwnAmount(), 0);
-  EXPECT_EQ(equity.AllAmounts(), Amounts{});
+  EXPECT_EQ(equity.Asked.Amounts, Amounts{});
   EXPECT_EQ(equity.Asked.RangeName, "Wide");
 }
 

@@ -112,14 +112,13 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
     AnalysisMode mode;
     double Amounts::*amount;
     const char* steps;
-    double Situation::*field;
   };
   const Amounts fixed = {100, 30, 250};
   for (const Case& c : {
-           Case{"call", AnalysisMode::kPreflopCall, &Amounts::Call, "0.1:0.7:0.3", &Situation::CallAmount},
-           Case{"pot of a call", AnalysisMode::kPreflopCall, &Amounts::Pot, "31:200:66.66", &Situation::PotSize},
-           Case{"shove", AnalysisMode::kPreflopRaise, &Amounts::Shove, "1:3000:999.9", &Situation::ShoveAmount},
-           Case{"call of a raise", AnalysisMode::kPreflopRaise, &Amounts::Call, "0:60:20", &Situation::CallAmount},
+           Case{"call", AnalysisMode::kPreflopCall, &Amounts::Call, "0.1:0.7:0.3"},
+           Case{"pot of a call", AnalysisMode::kPreflopCall, &Amounts::Pot, "31:200:66.66"},
+           Case{"shove", AnalysisMode::kPreflopRaise, &Amounts::Shove, "1:3000:999.9"},
+           Case{"call of a raise", AnalysisMode::kPreflopRaise, &Amounts::Call, "0:60:20"},
        }) {
     const ClassWeights range = Top("40");
     const ClassWeights calling = Top("12.5");
@@ -127,13 +126,9 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
     const auto rows = SweepAmount(question, RangeNumbers(Hands(), range, calling), c.amount, StepsOf(c.steps));
     EXPECT_EQ(rows.size(), static_cast<std::size_t>(StepsOf(c.steps).Count())) << c.what;
     for (const SweepRow& row : rows) {
-      Situation situation = {.Mode = c.mode,
-                             .PotSize = fixed.Pot,
-                             .CallAmount = fixed.Call,
-                             .ShoveAmount = fixed.Shove,
-                             .RangeText = RangeTextOf(range),
-                             .CallingRangeText = RangeTextOf(calling)};
-      situation.*c.field = LeadingNumber(row.At);
+      Situation situation = {
+          .Mode = c.mode, .Amounts = fixed, .RangeText = RangeTextOf(range), .CallingRangeText = RangeTextOf(calling)};
+      situation.Amounts.*c.amount = LeadingNumber(row.At);
       SCOPED_TRACE(c.what);
       ExpectSeparate(row, situation, question);
     }
@@ -146,9 +141,7 @@ TEST(Sweep, OfARangeEqualsSeparateAnalyses) {
     const SweepRow row = SweepRowAt(question, RangeNumbers(Hands(), AllHands(), Top(at)), at);
     ExpectSeparate(row,
                    {.Mode = question.Mode,
-                    .PotSize = 100,
-                    .CallAmount = 30,
-                    .ShoveAmount = 250,
+                    .Amounts = {100, 30, 250},
                     .RangeText = RangeTextOf(AllHands()),
                     .CallingRangeText = RangeTextOf(Top(row.At))},
                    question);

@@ -3,6 +3,7 @@
 // Long texts joined from many short ones.
 
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -25,6 +26,15 @@ namespace quillon {
 /// A text in double quotes.
 [[nodiscard]] inline std::string Quoted(std::string_view text) {
   return Joined({"\"", text, "\""});
+}
+
+/// The names of a table's rows as "a, b or c".
+template <typename Rows, typename NameOf = std::identity>
+[[nodiscard]] std::string Listed(const Rows& rows, NameOf nameOf = {}) {
+  std::string list;
+  for (std::size_t i = 0; i < rows.size(); ++i)
+    list.append(i == 0 ? "" : i + 1 == rows.size() ? " or " : ", ").append(std::invoke(nameOf, rows[i]));
+  return list;
 }
 
 }  // namespace quillon

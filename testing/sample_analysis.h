@@ -34,8 +34,7 @@ inline std::string ResultsTable(const TextsByHand& cells, std::string_view other
 inline Analysis CallState() {
   Analysis state;
   state.Mode = AnalysisMode::kPreflopCall;
-  state.PotSize = 150;
-  state.CallAmount = 50;
+  state.Amounts = {150, 50, 0};
   state.RangeName = "Tight";
   state.RangeText = TextWith("AA", "KK");
   state.HandInfo = ResultsTable(
@@ -47,9 +46,7 @@ inline Analysis CallState() {
 inline Analysis RaiseState() {
   Analysis state;
   state.Mode = AnalysisMode::kPreflopRaise;
-  state.PotSize = 150;
-  state.CallAmount = 50;
-  state.ShoveAmount = 62.5;
+  state.Amounts = {150, 50, 62.5};
   state.RangeName = "Wide";
   state.RangeText = TextWith("AA KK QQ AKs");
   state.CallingRangeName = "Tight";

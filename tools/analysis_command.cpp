@@ -1,5 +1,4 @@
 #include <CLI/CLI.hpp>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -59,13 +58,13 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
   if (!request.hands.empty() && request.format != kForumFormat) {
     throw CLI::ValidationError("--hand goes with --format 2+2 only");
   }
-  auto [amounts, range, callingRange] = request.situation;
+  const auto& [amounts, range, callingRange] = request.situation;
+  EnteredSituation situation;
   CommandInputs inputs(surroundings, request.folder);
-  for (std::size_t i = 0; i < amounts.size(); ++i) {
-    if (!inputs.EvaluateAmount(kAmountOptions[i], amounts[i])) return kRefused;
+  for (std::size_t i = 0; i < kEnteredAmounts.size(); ++i) {
+    std::string& text = situation.*kEnteredAmounts.at(i) = amounts.at(i);
+    if (!inputs.EvaluateAmount(kAmountOptions[i], text)) return kRefused;
   }
-  EnteredSituation situation{
-      .Pot = amounts[0], .Call = amounts[1], .Shove = amounts[2], .Range = {}, .CallingRange = {}};
   bool rangesTaken = TakeRange(range, inputs, situation.Range, situation.RangeText);
   if (ScenarioOf(mode).HasCallingRange) {
     rangesTaken &= TakeRange(callingRange, inputs, situation.CallingRange, situation.CallingRangeText);
@@ -91,7 +90,7 @@ int PrintAnalysis(AnalysisMode mode, const Request& request, const Surroundings&
 
 RunCommand OfferAnalysis(AnalysisMode mode, CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  OfferAmounts(options, mode, static_cast<std::size_t>(ScenarioOf(mode).AmountCount), request->situation);
+  OfferAmounts(options, mode, ScenarioOf(mode).AmountCount, request->situation);
   OfferRanges(options, mode, request->situation);
   OfferFormat(options, request->format, kAnalysisFormats);
   OfferHands(options, request->hands, "With 2+2: adds the working of these hands");

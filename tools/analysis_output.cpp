@@ -8,7 +8,6 @@
 #include "results/analysis_json.h"
 #include "results/analysis_page.h"
 #include "results/analysis_table.h"
-#include "results/hand_line.h"
 #include "results/report.h"
 #include "support/line_ends.h"
 

@@ -27,28 +27,6 @@ constexpr std::size_t kHelpNameWidth = 6;
 
 constexpr double kMostAmount = 1e300;
 
-// The help's texts for a scenario's amounts and ranges.
-struct SituationTexts {
-  AnalysisMode Mode = AnalysisMode::kNone;
-  std::array<const char*, 3> Amounts{};  // pot, call, shove
-  const char* Range = nullptr;
-  const char* CallingRange = nullptr;
-};
-
-constexpr ScenarioTable<SituationTexts> kSituationTexts = {{
-    {AnalysisMode::kPreflopCall,
-     {"Everything in the pot, his bet included", "What you must put in to call"},
-     "His range",
-     nullptr},
-    {AnalysisMode::kPreflopRaise,
-     {"Everything in the pot", "What you must put in to call, 0 if you are first to act",
-      "What he must put in to call your shove"},
-     "His range now",
-     "The range he calls your shove with"},
-    {AnalysisMode::kEquityOnly, {}, "His range", nullptr},
-}};
-static_assert(CoversEveryScenario(kSituationTexts));
-
 // Nothing for the label of a class, otherwise the error.
 std::string WhyNoLabel(const std::string& label) {
   if (HandLabel(HandIndex(label)) == label) return {};
@@ -119,6 +97,25 @@ void OfferFormat(CLI::App& command, std::string& format, std::vector<FormatName>
   command.footer(meanings + "\n" + command.get_footer());
 }
 
+RunCommand OfferMoves(CLI::App& options, const char* SituationTexts::*description,
+                      const std::function<void(const Scenario& scenario, CLI::App& command)>& offer,
+                      std::function<int(AnalysisMode mode, const Surroundings& surroundings)> run) {
+  std::string formats;
+  for (const Scenario& scenario : kScenarios) {
+    if (!scenario.HasExpectedValue()) continue;
+    CLI::App* const command =
+        options.add_subcommand(std::string(scenario.Command), RowOf(kSituationTexts, scenario.Mode).*description);
+    offer(scenario, *command);
+    formats = command->get_footer();
+  }
+  options.footer(formats);  // not sooner, as a subcommand would inherit it
+  options.require_subcommand(1);
+  return [&options, run = std::move(run)](const Surroundings& surroundings) {
+    const std::string name = options.get_subcommands().front()->get_name();
+    return run(std::ranges::find(kScenarios, name, &Scenario::Command)->Mode, surroundings);
+  };
+}
+
 void OfferAmounts(CLI::App& command, AnalysisMode mode, std::size_t count, SituationOptions& situation) {
   const SituationTexts& texts = RowOf(kSituationTexts, mode);
   for (std::size_t i = 0; i < count; ++i)
@@ -181,6 +178,14 @@ std::optional<GivenRange> CommandInputs::RangeWithHands(const RangeOption& optio
 std::nullopt_t CommandInputs::Refuse(std::string_view reason) {
   surroundings_.Errors << reason << '\n';
   return std::nullopt;
+}
+
+std::optional<GivenRanges> CommandInputs::Ranges(const Scenario& scenario, const SituationOptions& situation) {
+  const bool mayFold = scenario.HasCallingRange;
+  auto range = mayFold ? Range(situation.Range) : RangeWithHands(situation.Range);
+  auto calling = mayFold ? Range(situation.CallingRange) : GivenRange{};
+  if (!range || !calling) return std::nullopt;
+  return GivenRanges{*std::move(range), *std::move(calling)};
 }
 
 std::optional<GivenRange> CommandInputs::NamedRange(const std::string& name) {

@@ -67,14 +67,48 @@ void OfferRange(CLI::App& command, const std::string& nameOption, const std::str
                 const std::string& description);
 
 /// The options of pot, call and shove.
-inline constexpr std::array<const char*, 3> kAmountOptions = {"--pot", "--call", "--shove"};
+inline constexpr std::array<const char*, kAmounts.size()> kAmountOptions = {"--pot", "--call", "--shove"};
 
 /// A situation as given: amounts as typed, in the order of kAmountOptions, and ranges.
 struct SituationOptions {
-  std::array<std::string, 3> Amounts;
+  std::array<std::string, kAmounts.size()> Amounts;
   RangeOption Range;
   RangeOption CallingRange;
 };
+
+/// The help's texts for a scenario: its amounts and ranges, and the commands about its move.
+struct SituationTexts {
+  AnalysisMode Mode = AnalysisMode::kNone;
+  std::array<const char*, kAmounts.size()> Amounts{};
+  const char* Range = nullptr;
+  const char* CallingRange = nullptr;
+  const char* Limits = nullptr;
+  const char* Sweep = nullptr;
+};
+
+inline constexpr ScenarioTable<SituationTexts> kSituationTexts = {{
+    {AnalysisMode::kPreflopCall,
+     {"Everything in the pot, his bet included", "What you must put in to call"},
+     "His range",
+     nullptr,
+     "The largest all-in that each hand can call",
+     "Calling an all-in; one amount is FROM:TO:STEP"},
+    {AnalysisMode::kPreflopRaise,
+     {"Everything in the pot", "What you must put in to call, 0 if you are first to act",
+      "What he must put in to call your shove"},
+     "His range now",
+     "The range he calls your shove with",
+     "The largest shove that is good with each hand",
+     "Going all in; one amount is FROM:TO:STEP"},
+    {AnalysisMode::kEquityOnly, {}, "His range", nullptr, nullptr, nullptr},
+}};
+static_assert(CoversEveryScenario(kSituationTexts));
+
+/// Adds a subcommand for each scenario with an expected value, and returns what runs the one that is given. `offer`
+/// adds the options, and all have the same formats.
+[[nodiscard]] RunCommand OfferMoves(CLI::App& options, const char* SituationTexts::*description,
+                                    const std::function<void(const Scenario& scenario, CLI::App& command)>& offer,
+                                    std::function<int(AnalysisMode mode, const Surroundings& surroundings)> run);
 
 /// Adds the first `count` amounts, each required, with their meanings in a scenario.
 void OfferAmounts(CLI::App& command, AnalysisMode mode, std::size_t count, SituationOptions& situation);
@@ -99,6 +133,12 @@ void OfferFormat(CLI::App& command, std::string& format, const std::array<Row, c
 
 /// Adds "--hand" for labels of classes.
 void OfferHands(CLI::App& command, std::vector<std::string>& hands, const std::string& description);
+
+/// The ranges of a situation. The second is empty in a scenario without a calling range.
+struct GivenRanges {
+  GivenRange Range;
+  GivenRange CallingRange;
+};
 
 enum class LeastAmount { kAboveZero, kZero };
 
@@ -126,6 +166,9 @@ class CommandInputs {
 
   /// As Range; a range without hands is refused too.
   [[nodiscard]] std::optional<GivenRange> RangeWithHands(const RangeOption& option);
+
+  /// The ranges that a scenario asks for, each as by Range; one that never folds must have hands.
+  [[nodiscard]] std::optional<GivenRanges> Ranges(const Scenario& scenario, const SituationOptions& situation);
 
   /// Reports why an input is refused. Always nothing, so that a failure can be returned.
   std::nullopt_t Refuse(std::string_view reason);

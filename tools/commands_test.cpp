@@ -257,7 +257,7 @@ TEST(LimitsCommand, PrintsTheLimitsInEachFormat) {
   LoadEquityTable();
   const HandNumbers hands;
   const auto weights = RangeWeightsOf(TextWith("AA KK QQ AKs AKo"));
-  const Limits expected = ShoveLimits(RangeNumbers(hands, AllHands(), weights), 15, 5);
+  const Limits expected = LimitsOf(AnalysisMode::kPreflopRaise, RangeNumbers(hands, AllHands(), weights), {15, 5, 0});
   const CompanionProgram program;
   const Arguments raise = {"limits",  "raise", "--pot",           "15",   "--call", "5",
                            "--hands", "any",   "--calling-range", "Tight"};

@@ -4,9 +4,11 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "study/limit_cells.h"
 #include "study/study_pages.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 #include "tools/class_grid.h"
 #include "tools/commands.h"
@@ -59,60 +61,43 @@ constexpr std::array<Format<Answer>, 5> kFormats = {{
      [](const Answer& answer) { return LimitsPicture(answer.question, answer.limits); }},
 }};
 
-int Print(const Answer& answer, const std::string& format, const Surroundings& surroundings) {
-  surroundings.Output << InFormat(kFormats, format, answer);
-  return kDone;
-}
-
-int PrintCallLimits(const Request& request, const Surroundings& surroundings) {
-  CommandInputs inputs(surroundings, request.folder);
-  const auto pot = inputs.Amount("--pot", request.situation.Amounts[0], LeastAmount::kAboveZero);
-  const auto range = inputs.RangeWithHands(request.situation.Range);
-  if (!pot || !range) return inputs.Status();
-  const LimitsQuestion question = {"Largest Call", {{"Pot Size", NumberText(*pot)}, {"His Range", range->Name}}};
-  return Print({question, CallLimits(RangeNumbers(inputs.Hands(), range->Weights), *pot)}, request.format,
-               surroundings);
-}
-
-int PrintShoveLimits(const Request& request, const Surroundings& surroundings) {
-  CommandInputs inputs(surroundings, request.folder);
-  const auto pot = inputs.Amount("--pot", request.situation.Amounts[0], LeastAmount::kAboveZero);
-  const auto call = inputs.Amount("--call", request.situation.Amounts[1], LeastAmount::kZero);
-  const auto range = inputs.Range(request.situation.Range);
-  const auto callingRange = inputs.Range(request.situation.CallingRange);
-  if (!pot || !call || !range || !callingRange) return inputs.Status();
-  const LimitsQuestion question = {"Largest Shove",
-                                   {{"Pot Size", NumberText(*pot)},
-                                    {"Call Amount", NumberText(*call)},
-                                    {"His Range", range->Name},
-                                    {"His Calling Range", callingRange->Name}}};
-  const RangeNumbers ranges(inputs.Hands(), range->Weights, callingRange->Weights);
-  return Print({question, ShoveLimits(ranges, *pot, *call)}, request.format, surroundings);
-}
-
-// The amounts of a scenario except its last one, whose limit is the question.
-CLI::App* OfferLimitsOf(AnalysisMode mode, CLI::App& options, const std::string& description, Request& request) {
+int PrintLimits(AnalysisMode mode, const Request& request, const Surroundings& surroundings) {
   const Scenario& scenario = ScenarioOf(mode);
-  CLI::App* const command = options.add_subcommand(std::string(scenario.Command), description);
-  OfferAmounts(*command, mode, static_cast<std::size_t>(scenario.AmountCount) - 1, request.situation);
-  OfferRanges(*command, mode, request.situation);
-  OfferFormat(*command, request.format, kFormats);
-  OfferFolder(*command, request.folder);
-  return command;
+  CommandInputs inputs(surroundings, request.folder);
+  LimitsQuestion question{Joined({"Largest ", RowOf(kMoves, mode).Title}), {}};
+  const auto amountCount = scenario.AmountCount - 1;  // its last one has the limits
+  Amounts amounts;
+  for (std::size_t i = 0; i < amountCount; ++i) {
+    const auto least = i == 0 ? LeastAmount::kAboveZero : LeastAmount::kZero;
+    const auto amount = inputs.Amount(kAmountOptions[i], request.situation.Amounts[i], least);
+    if (!amount) continue;
+    amounts.*kAmounts.at(i).Value = *amount;
+    question.Situation.push_back({std::string(kAmounts.at(i).Title), NumberText(*amount)});
+  }
+  const auto ranges = inputs.Ranges(scenario, request.situation);
+  if (!ranges || question.Situation.size() < amountCount) return inputs.Status();
+  question.Situation.push_back({"His Range", ranges->Range.Name});
+  if (scenario.HasCallingRange) question.Situation.push_back({"His Calling Range", ranges->CallingRange.Name});
+  const RangeNumbers numbers(inputs.Hands(), ranges->Range.Weights, ranges->CallingRange.Weights);
+  const Answer answer = {std::move(question), LimitsOf(mode, numbers, amounts)};
+  surroundings.Output << InFormat(kFormats, request.format, answer);
+  return kDone;
 }
 
 }  // namespace
 
 RunCommand OfferLimits(CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  const CLI::App* const call =
-      OfferLimitsOf(AnalysisMode::kPreflopCall, options, "The largest all-in that each hand can call", *request);
-  OfferLimitsOf(AnalysisMode::kPreflopRaise, options, "The largest shove that is good with each hand", *request);
-  options.require_subcommand(1);
-  options.footer(call->get_footer());
-  return [request, call](const Surroundings& surroundings) {
-    return call->parsed() ? PrintCallLimits(*request, surroundings) : PrintShoveLimits(*request, surroundings);
+  const auto offer = [&request = *request](const Scenario& scenario, CLI::App& command) {
+    OfferAmounts(command, scenario.Mode, scenario.AmountCount - 1, request.situation);
+    OfferRanges(command, scenario.Mode, request.situation);
+    OfferFormat(command, request.format, kFormats);
+    OfferFolder(command, request.folder);
   };
+  return OfferMoves(options, &SituationTexts::Limits, offer,
+                    [request](AnalysisMode mode, const Surroundings& surroundings) {
+                      return PrintLimits(mode, *request, surroundings);
+                    });
 }
 
 }  // namespace quillon

@@ -11,8 +11,10 @@
 #include "ranges/range_notation.h"
 #include "study/figure_svg.h"
 #include "study/hand_order.h"
+#include "study/limits.h"
 #include "study/sweep.h"
 #include "study/sweep_figure.h"
+#include "support/joined_text.h"
 #include "support/number_text.h"
 #include "support/rounding.h"
 #include "tools/commands.h"
@@ -29,7 +31,6 @@ struct Request {
 };
 
 constexpr std::string_view kWidthOption = "--width";
-constexpr std::array kAmountFields = {&Amounts::Pot, &Amounts::Call, &Amounts::Shove};
 
 using Rows = std::vector<SweepRow>;
 
@@ -87,18 +88,10 @@ std::string JsonOutput(const Answer& answer) {
 }
 
 std::string SvgOutput(const Answer& answer) {
-  struct Row {
-    std::string_view What;
-    const char* Across;
-  };
-  constexpr std::array<Row, 4> kRows = {{
-      {"pot", "Pot, in the unit of the amounts"},
-      {"call", "What you must put in to call, in the unit of the amounts"},
-      {"shove", "What he must put in to call your shove, in the unit of the amounts"},
-      {"width", "Width of his range, in percent of all hands"},
-  }};
-  const auto* const row = std::ranges::find(kRows, answer.what, &Row::What);
-  return FigureSvg(SweepFigure({answer.title, row->Across, answer.hands}, answer.rows));
+  const auto* const amount = std::ranges::find(kAmounts, answer.what, &AmountKind::Key);
+  const std::string across = amount == kAmounts.end() ? "Width of his range, in percent of all hands"
+                                                      : Joined({amount->Meaning, ", in the unit of the amounts"});
+  return FigureSvg(SweepFigure({answer.title, across, answer.hands}, answer.rows));
 }
 
 constexpr std::array<Format<Answer>, 4> kFormats = {{
@@ -134,17 +127,16 @@ std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count)
   return swept;
 }
 
-// A call is smaller than the pot, and only a raise's call may be 0. The amounts read are not below 0.
+// The amounts read are not below 0.
 bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& inputs) {
-  const bool raise = mode == AnalysisMode::kPreflopRaise;
+  const AmountKind& own = ScenarioOf(mode).AskedAmounts().back();
+  const double value = amounts.*own.Value;
   if (amounts.Pot == 0)
     inputs.Refuse("--pot must be above 0");
-  else if (!raise && amounts.Call == 0)
-    inputs.Refuse("--call must be above 0");
-  else if (raise && amounts.Shove == 0)
-    inputs.Refuse("--shove must be above 0");
-  else if (!raise && amounts.Call >= amounts.Pot)
-    inputs.Refuse("--pot must be greater than --call");
+  else if (value == 0)
+    inputs.Refuse(Joined({"--", own.Key, " must be above 0"}));
+  else if (RowOf(kMoves, mode).StaysBelowPot && value >= amounts.Pot)
+    inputs.Refuse(Joined({"--pot must be greater than --", own.Key}));
   else
     return true;
   return false;
@@ -155,15 +147,14 @@ int SweepTheAmount(AnalysisMode mode, const Request& request, std::size_t place,
   const auto steps = ReadSteps(kAmountOptions[place], request.situation.Amounts[place], inputs);
   if (!steps) return inputs.Status();
   for (const std::int64_t end : {std::int64_t{0}, steps->Count() - 1}) {
-    question.Fixed.*kAmountFields.at(place) = LeadingNumber(steps->Text(end));
+    question.Fixed.*kAmounts.at(place).Value = LeadingNumber(steps->Text(end));
     if (!AreAccepted(mode, question.Fixed, inputs)) return inputs.Status();
   }
-  const bool raise = mode == AnalysisMode::kPreflopRaise;
-  const auto range = raise ? inputs.Range(request.situation.Range) : inputs.RangeWithHands(request.situation.Range);
-  const auto calling = raise ? inputs.Range(request.situation.CallingRange) : GivenRange{};
-  if (!range || !calling) return inputs.Status();
-  const RangeNumbers ranges(inputs.Hands(), range->Weights, calling->Weights);
-  return Print(mode, kAmountOptions[place] + 2, request, SweepAmount(question, ranges, kAmountFields.at(place), *steps),
+  const auto ranges = inputs.Ranges(ScenarioOf(mode), request.situation);
+  if (!ranges) return inputs.Status();
+  const RangeNumbers numbers(inputs.Hands(), ranges->Range.Weights, ranges->CallingRange.Weights);
+  const AmountKind& amount = kAmounts.at(place);
+  return Print(mode, std::string(amount.Key), request, SweepAmount(question, numbers, amount.Value, *steps),
                surroundings);
 }
 
@@ -179,23 +170,23 @@ int SweepTheWidth(AnalysisMode mode, const Request& request, const SweepQuestion
     return inputs.Status();
   }
   const auto weightsAt = [&](std::string_view share) { return std::get<ClassWeights>(top(share)); };
-  const bool raise = mode == AnalysisMode::kPreflopRaise;
-  if ((raise ? request.situation.CallingRange : request.situation.Range).Given()) {
-    throw CLI::ValidationError(raise ? "--width is his calling range; leave --calling-range and --calling-hands out"
-                                     : "--width is his range; leave --range and --hands out");
+  const bool mayFold = ScenarioOf(mode).HasCallingRange;
+  if ((mayFold ? request.situation.CallingRange : request.situation.Range).Given()) {
+    throw CLI::ValidationError(mayFold ? "--width is his calling range; leave --calling-range and --calling-hands out"
+                                       : "--width is his range; leave --range and --hands out");
   }
-  if (!raise && weightsAt(steps->Text(0)) == ClassWeights{}) {
+  if (!mayFold && weightsAt(steps->Text(0)) == ClassWeights{}) {
     inputs.Refuse(std::string(kWidthOption) + ": the narrowest range has no hands");
     return inputs.Status();
   }
-  const auto range = raise ? inputs.Range(request.situation.Range) : GivenRange{};
+  const auto range = mayFold ? inputs.Range(request.situation.Range) : GivenRange{};
   if (!range) return inputs.Status();
   Rows rows;
   for (std::int64_t step = 0; step < steps->Count(); ++step) {
     const std::string share = steps->Text(step);
     const ClassWeights width = weightsAt(share);
     const RangeNumbers ranges =
-        raise ? RangeNumbers(inputs.Hands(), range->Weights, width) : RangeNumbers(inputs.Hands(), width);
+        mayFold ? RangeNumbers(inputs.Hands(), range->Weights, width) : RangeNumbers(inputs.Hands(), width);
     rows.push_back(SweepRowAt(question, ranges, share));
   }
   return Print(mode, "width", request, std::move(rows), surroundings);
@@ -211,7 +202,7 @@ std::vector<std::string> EachOnce(std::vector<std::string> hands) {
 
 int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) {
   request.hands = EachOnce(std::move(request.hands));
-  const auto count = static_cast<std::size_t>(ScenarioOf(mode).AmountCount);
+  const auto count = ScenarioOf(mode).AmountCount;
   const std::optional<std::size_t> swept = SweptPlace(request, count);
   CommandInputs inputs(surroundings, request.folder);
   SweepQuestion question{mode, {}, {}};
@@ -219,7 +210,7 @@ int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) 
     if (i == swept) continue;
     const auto amount = inputs.Amount(kAmountOptions[i], request.situation.Amounts[i], LeastAmount::kZero);
     if (!amount) return inputs.Status();
-    question.Fixed.*kAmountFields.at(i) = *amount;
+    question.Fixed.*kAmounts.at(i).Value = *amount;
   }
   for (const std::string& hand : request.hands)
     question.Hands.push_back(HandIndex(hand));
@@ -227,33 +218,25 @@ int Sweep(AnalysisMode mode, Request request, const Surroundings& surroundings) 
   return SweepTheWidth(mode, request, question, inputs, surroundings);
 }
 
-CLI::App* OfferSweepOf(AnalysisMode mode, CLI::App& options, const std::string& description, const std::string& width,
-                       Request& request) {
-  const Scenario& scenario = ScenarioOf(mode);
-  CLI::App* const command = options.add_subcommand(std::string(scenario.Command), description);
-  OfferAmounts(*command, mode, static_cast<std::size_t>(scenario.AmountCount), request.situation);
-  OfferRanges(*command, mode, request.situation);
-  command->add_option(std::string(kWidthOption), request.width, width)->type_name("FROM:TO:STEP");
-  OfferHands(*command, request.hands, "Adds the expected value of these hands");
-  OfferFormat(*command, request.format, kFormats);
-  OfferFolder(*command, request.folder);
-  return command;
-}
-
 }  // namespace
 
 RunCommand OfferSweep(CLI::App& options) {
   const auto request = std::make_shared<Request>();
-  const CLI::App* const call =
-      OfferSweepOf(AnalysisMode::kPreflopCall, options, "Calling an all-in; one amount is FROM:TO:STEP",
-                   "His range instead, as the top percent of hands", *request);
-  OfferSweepOf(AnalysisMode::kPreflopRaise, options, "Going all in; one amount is FROM:TO:STEP",
-               "His calling range instead, as the top percent of hands", *request);
-  options.require_subcommand(1);
-  options.footer(call->get_footer());
-  return [request, call](const Surroundings& surroundings) {
-    return Sweep(call->parsed() ? AnalysisMode::kPreflopCall : AnalysisMode::kPreflopRaise, *request, surroundings);
+  const auto offer = [&request = *request](const Scenario& scenario, CLI::App& command) {
+    OfferAmounts(command, scenario.Mode, scenario.AmountCount, request.situation);
+    OfferRanges(command, scenario.Mode, request.situation);
+    command
+        .add_option(std::string(kWidthOption), request.width,
+                    Joined({scenario.HasCallingRange ? "His calling range" : "His range",
+                            " instead, as the top percent of hands"}))
+        ->type_name("FROM:TO:STEP");
+    OfferHands(command, request.hands, "Adds the expected value of these hands");
+    OfferFormat(command, request.format, kFormats);
+    OfferFolder(command, request.folder);
   };
+  return OfferMoves(
+      options, &SituationTexts::Sweep, offer,
+      [request](AnalysisMode mode, const Surroundings& surroundings) { return Sweep(mode, *request, surroundings); });
 }
 
 }  // namespace quillon

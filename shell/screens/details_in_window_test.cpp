@@ -75,8 +75,7 @@ Analysis ShoveWithDroppedHands() {
 
 Analysis CallWithOddDigits() {
   Analysis state = sample::CallState();
-  state.PotSize = 12.345;
-  state.CallAmount = 0.125;
+  state.Amounts = {12.345, 0.125, 0};
   state.RangeName = "Über: \"alles\"";
   return state;
 }
@@ -127,7 +126,7 @@ TEST_F(DetailsInWindow, TheForumReportHasTheBoxsOwnFont) {
 
 Analysis LargestCall() {
   Analysis state = sample::CallState();
-  state.PotSize = 9999999.99;
+  state.Amounts.Pot = 9999999.99;
   state.HandInfo = sample::ResultsTable({{"AA", "9999999.99\t0.85\t1"}, {"72o", "-9999999.99\t0.1234\t1"}});
   return state;
 }

@@ -7,7 +7,6 @@
 #include <QTextOption>
 #include <array>
 
-#include "results/hand_line.h"
 #include "toolkit/fonts.h"
 #include "toolkit/text.h"
 

@@ -129,9 +129,9 @@ void SituationView::Show(const ScreenSituation& situation) {
   const InputScreen& screen = RowOf(kInputScreens, situation.Mode);
   const EnteredSituation& entered = situation.Entered;
   parts_.ClickNav(static_cast<std::int16_t>(&screen - kInputScreens.data()));  // this fills the lists
-  const std::array amounts = {&entered.Pot, &entered.Call, &entered.Shove};
-  for (std::size_t i = 0; i < amounts.size(); ++i) {
-    if (screen.AmountBoxes.at(i) != kNoControl) parts_.Amounts.Set(screen.AmountBoxes.at(i), *amounts.at(i));
+  for (std::size_t i = 0; i < kEnteredAmounts.size(); ++i) {
+    const std::int16_t box = screen.AmountBoxes.at(i);
+    if (box != kNoControl) parts_.Amounts.Set(box, entered.*kEnteredAmounts.at(i));
   }
   const std::array ranges = {&entered.Range, &entered.CallingRange};
   for (std::size_t i = 0; i < ranges.size(); ++i) {

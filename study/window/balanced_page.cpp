@@ -31,9 +31,12 @@ constexpr const char* kGridNote = "The file keeps every weight. Editing it on a 
 // The amounts that the scenario asks for; the others are empty.
 BalanceTexts TextsOf(const StudySituation& situation) {
   const Scenario* const scenario = FindRow(kScenarios, situation.Asked.Mode);
-  const int count = scenario == nullptr ? 0 : scenario->AmountCount;
-  const auto text = [count](int amount, double value) { return amount < count ? NumberText(value) : std::string(); };
-  return {text(0, situation.Asked.PotSize), text(1, situation.Asked.CallAmount), text(2, situation.Asked.ShoveAmount)};
+  const std::size_t count = scenario == nullptr ? 0 : scenario->AmountCount;
+  const auto text = [count](std::size_t amount, double value) {
+    return amount < count ? NumberText(value) : std::string();
+  };
+  return {text(0, situation.Asked.Amounts.Pot), text(1, situation.Asked.Amounts.Call),
+          text(2, situation.Asked.Amounts.Shove)};
 }
 
 }  // namespace

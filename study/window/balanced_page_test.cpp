@@ -132,9 +132,7 @@ TEST_F(BalancedRanges, AskForWhatASituationLacks) {
 TEST_F(BalancedRanges, ShowHowFarALongSearchIsAndThatItFoundNothing) {
   Analysis kings = sample::RaiseState();
   kings.RangeText = TextWith("KK");
-  kings.PotSize = 1;
-  kings.CallAmount = 0;
-  kings.ShoveAmount = 1000;
+  kings.Amounts = {1, 0, 1000};
   Open();
   Form.Follow(kings);
   Form.ShowPage(StudyTopic::kBalanced);

@@ -30,9 +30,7 @@ namespace {
 
 StudySituation Shove() {
   return {.Asked = {.Mode = AnalysisMode::kPreflopRaise,
-                    .PotSize = 1.5,
-                    .CallAmount = 0.5,
-                    .ShoveAmount = 9,
+                    .Amounts = {1.5, 0.5, 9},
                     .RangeName = "Any",
                     .CallingRangeName = "Calls"},
           .Range = RangeOf("any"),
@@ -41,7 +39,7 @@ StudySituation Shove() {
 }
 
 StudySituation Call() {
-  return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .PotSize = 110, .CallAmount = 90, .RangeName = "Button"},
+  return {.Asked = {.Mode = AnalysisMode::kPreflopCall, .Amounts = {110, 90, 0}, .RangeName = "Button"},
           .Range = RangeOf("top 30%"),
           .Hands = Hands()};
 }

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <string>
 
-#include "analysis/scenarios.h"
 #include "study/limit_cells.h"
 #include "study/window/text_label.h"
 #include "support/number_text.h"
@@ -23,10 +22,6 @@ namespace {
 constexpr int kGridShare = 7;  // of the page's width; the rest is for the legend and texts
 constexpr int kPanelShare = 2;
 constexpr float kHandPoints = 15;
-
-QString MoveOf(const Situation& situation) {
-  return ScenarioOf(situation.Mode).HasCallingRange ? QStringLiteral("Shove") : QStringLiteral("Call");
-}
 
 std::string SummaryOf(const Limits& limits, double now) {
   const int combos = CombosGoodAt(limits, now);
@@ -72,10 +67,9 @@ LimitsPage::LimitsPage(QWidget* parent)
 void LimitsPage::Show(const StudySituation& situation) {
   const Situation& asked = situation.Asked;
   now_ = situation.OwnAmount();
-  limits_ = ScenarioOf(asked.Mode).HasCallingRange ? ShoveLimits(situation.Numbers(), asked.PotSize, asked.CallAmount)
-                                                   : CallLimits(situation.Numbers(), asked.PotSize);
+  limits_ = LimitsOf(asked.Mode, situation.Numbers(), asked.Amounts);
   grid_.Show(LimitCellsAt(limits_, now_));
-  title_.setText(QStringLiteral("%1 up to").arg(MoveOf(asked)));
+  title_.setText(QStringLiteral("%1 up to").arg(ToQt(RowOf(kMoves, asked.Mode).Title)));
   summary_.setText(ToQt(SummaryOf(limits_, now_)));
   ShowLegend(legend_, LimitLegendAt(limits_, now_));
   Tell(told_);

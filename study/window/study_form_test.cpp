@@ -78,7 +78,7 @@ TEST_F(StudyWindow, TellsTheLimitsOfTheHandThatIsReached) {
   Open();
   Form.Follow(sample::RaiseState());
   const StudySituation situation = StudySituationOf(sample::RaiseState(), Hands());
-  const auto limits = ShoveLimits(situation.Numbers(), 150, 50);
+  const auto limits = LimitsOf(AnalysisMode::kPreflopRaise, situation.Numbers(), {150, 50, 0});
   const ClassCells cells = LimitCellsAt(limits, 62.5);
   for (std::int16_t i = 0; i < kHandClassCount; ++i) {
     Limits().ShowHand(i);
