@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "analysis/scenarios.h"
 #include "support/rgb.h"
 #include "support/twips.h"
 
@@ -18,8 +19,8 @@ namespace quillon {
 inline constexpr std::string_view kAboutScreen = "About";
 
 /// The links that lead to results, by their index in `lblNav`. Those of the input screens come before them.
-inline constexpr std::int16_t kGridNav = 3;
-inline constexpr std::int16_t kDetailsNav = 4;
+inline constexpr std::int16_t kGridNav = kScenarios.size();
+inline constexpr std::int16_t kDetailsNav = kGridNav + 1;
 
 /// The height of every screen.
 inline constexpr float kScreenHeight = 8645;

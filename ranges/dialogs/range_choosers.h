@@ -10,14 +10,19 @@
 #include <memory>
 #include <vector>
 
-#include "analysis/input_screens.h"
+#include "analysis/scenarios.h"
 #include "ranges/range_files.h"
 #include "toolkit/form_builder.h"
 #include "toolkit/form_list.h"
 
 namespace quillon {
 
-inline constexpr std::int16_t kChooserCount = kEquityRangeList + 1;
+inline constexpr std::int16_t kChooserCount = [] {
+  std::int16_t count = 0;
+  for (const Scenario& scenario : kScenarios)
+    count = static_cast<std::int16_t>(count + (scenario.HasCallingRange ? 2 : 1));
+  return count;
+}();
 
 class RangeChoosers : public QObject {
   Q_OBJECT

@@ -4,12 +4,14 @@
 // frame that stores things. The texts are verbatim, odd ones too. The web host and feedback address come from the
 // build.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 
 #include "analysis/analysis_driver.h"
+#include "analysis/input_screens.h"
 #include "results/hover_panel.h"
 #include "results/results_grid.h"
 #include "shell/field_help.h"
@@ -401,6 +403,33 @@ inline constexpr auto kTables = std::to_array<ControlTable>({
 });
 
 // clang-format on
+
+constexpr bool HasRow(std::string_view name, std::int16_t index, std::string_view text = {}) {
+  for (const ControlTable& table : kTables) {
+    for (const ControlRow& row : table.Rows) {
+      if (row.Name == name && row.Index == index && (text.empty() || row.Text == text)) return true;
+    }
+  }
+  return false;
+}
+
+// A link and a screen with its name, a start button, and its boxes and lists.
+constexpr bool HasInputScreen(const InputScreen& screen) {
+  const auto index = static_cast<std::int16_t>(&screen - kInputScreens.data());
+  const std::string_view name = ScenarioOf(screen.Mode).Name;
+  const auto has = [](std::string_view control) {
+    return [control](std::int16_t place) { return place == kNoControl || HasRow(control, place); };
+  };
+  return HasRow("lblNav", index, name) && HasRow("cmdPreflopEV", index) &&
+         std::ranges::find(kScreens, name, &ControlRow::Text) != kScreens.end() &&
+         std::ranges::all_of(screen.AmountBoxes, has("txtNumber")) &&
+         std::ranges::all_of(screen.RangeLists, has("cmboRanges")) &&
+         std::ranges::all_of(screen.RangeLists, has("lblOr")) &&
+         std::ranges::all_of(screen.RangeLists, has("lblEditRange")) &&
+         std::ranges::all_of(screen.RangeLists, has("lblNewRange"));
+}
+static_assert(std::ranges::all_of(kInputScreens, HasInputScreen));
+static_assert(HasRow("lblNav", kGridNav, kGridTitle) && HasRow("lblNav", kDetailsNav, kDetailsScreen));
 
 }  // namespace main_layout
 
