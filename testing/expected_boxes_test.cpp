@@ -39,8 +39,7 @@ TEST(ExpectedBoxes, AnswerWithTheButtonAskedForInTheirOrder) {
 
 TEST(ExpectedBoxes, FailTheTestAtABoxThatNobodyExpected) {
   EXPECT_NONFATAL_FAILURE(Show(kQuestion), "Unexpected box: message box \"Delete?\" (question, Yes No Cancel)");
-  EXPECT_NONFATAL_FAILURE(MessageDialogs().Ask("Name?", "New", "Button"),
-                          "Unexpected box: input box \"New\": Name? [Button]");
+  EXPECT_NONFATAL_FAILURE(AskForLine({"Name?", "New", "Button"}), "Unexpected box: input box \"New\": Name? [Button]");
   EXPECT_NONFATAL_FAILURE(QFileDialog(nullptr, QStringLiteral("Save As")).exec(), "QFileDialog \"Save As\"");
 }
 
@@ -88,12 +87,11 @@ TEST(ExpectedBoxes, FailTheTestWhereABoxDoesNotCome) {
 }
 
 TEST(ExpectedBoxes, TypeIntoAnInputBoxOrCancelIt) {
-  MessageDialogs dialogs;
   ExpectInputBox({"Name?", "New", "Button"}, "Big Blind");
   ExpectInputBoxCancelled({"Name?", "New", "Button"});
 
-  EXPECT_EQ(dialogs.Ask("Name?", "New", "Button"), "Big Blind");
-  EXPECT_EQ(dialogs.Ask("Name?", "New", "Button"), "");
+  EXPECT_EQ(AskForLine({"Name?", "New", "Button"}), "Big Blind");
+  EXPECT_EQ(AskForLine({"Name?", "New", "Button"}), "");
 }
 
 TEST(ExpectedBoxes, HandOverADialogOfAnyKind) {
