@@ -139,7 +139,7 @@ void ManagerForm::ClickOk() {
   close();
 }
 
-std::string ManagerForm::AskName(const LineQuestion& question, std::string_view onOffer) {
+std::string ManagerForm::AskName(const LineQuestion& question, std::string_view onOffer) const {
   return around_.Ask({question.Prompt, question.Title, onOffer});
 }
 

@@ -61,7 +61,7 @@ class ManagerForm : public QWidget {
   void ClickDelete();
   void ClickOk();
 
-  [[nodiscard]] std::string AskName(const LineQuestion& question, std::string_view onOffer);
+  [[nodiscard]] std::string AskName(const LineQuestion& question, std::string_view onOffer) const;
   [[nodiscard]] bool HasBeenModified() const;
   void SaveGridAs(std::string_view name);
   void RefreshAndSelect(std::string_view name);
