@@ -39,7 +39,8 @@ TEST(ExpectedBoxes, AnswerWithTheButtonAskedForInTheirOrder) {
 
 TEST(ExpectedBoxes, FailTheTestAtABoxThatNobodyExpected) {
   EXPECT_NONFATAL_FAILURE(Show(kQuestion), "Unexpected box: message box \"Delete?\" (question, Yes No Cancel)");
-  EXPECT_NONFATAL_FAILURE(AskForLine({"Name?", "New", "Button"}), "Unexpected box: input box \"New\": Name? [Button]");
+  EXPECT_NONFATAL_FAILURE(static_cast<void>(AskForLine({"Name?", "New", "Button"})),
+                          "Unexpected box: input box \"New\": Name? [Button]");
   EXPECT_NONFATAL_FAILURE(QFileDialog(nullptr, QStringLiteral("Save As")).exec(), "QFileDialog \"Save As\"");
 }
 
