@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-/// The pot is explained alike on both screens.
+/// Both screens explain the pot alike; their examples differ.
 inline constexpr std::string_view kPotSizeHelp =
     "The pot size is the total amount of money currently in the pot, including whatever your opponent has bet.";
 

@@ -2,7 +2,8 @@
 
 // The value of hands as one thing goes up and the rest of a situation stays: the amount of the move, or the width of
 // the opponent's range (if he may fold, of his calling range). These are sweeps ("study/sweep.h"), figure for figure,
-// plus what the charts show beside the lines: the current amount or width, and the limit of each hand.
+// plus what the charts show beside the lines: the current amount or width, and the limit of each hand. The situation
+// has an expected value.
 
 #include <array>
 #include <cstdint>

@@ -48,7 +48,7 @@ using Limits = std::array<Limit, kHandClassCount>;
 struct Move {
   AnalysisMode Mode = AnalysisMode::kNone;
   std::string_view Title;
-  bool StaysBelowPot = false;  // an analysis refuses larger amounts
+  bool StaysBelowPot = false;  // an analysis refuses other amounts
 
   /// The limit of a class; its own amount does not count. Null if the scenario has no expected value.
   Limit (*LimitOf)(const Amounts& amounts, const ClassFigures& figures) = nullptr;

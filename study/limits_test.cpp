@@ -77,7 +77,7 @@ double ExpectedValue(const Situation& situation, const RangeNumbers& ranges, std
   return GetHandResult(Analyze(situation, ranges).value_or(Analysis{}).HandInfo, label).ExpectedValue;
 }
 
-TEST(CallLimits, AgreeWithAnalysesJustBelowAndAbove) {
+TEST(LimitsOf, ACallAgreesWithAnalysesJustBelowAndAbove) {
   const RangeNumbers range(Hands(), Range({"AA", "KK", "AKs", "AKo", "76s", "22"}));
   const Limits limits = LimitsOf(AnalysisMode::kPreflopCall, range, {100, 0, 0});
   std::set<LimitKind> kinds;
@@ -92,7 +92,7 @@ TEST(CallLimits, AgreeWithAnalysesJustBelowAndAbove) {
   EXPECT_EQ(kinds, (std::set<LimitKind>{LimitKind::kUpTo, LimitKind::kAlways}));
 }
 
-TEST(ShoveLimits, AgreeWithAnalysesJustBelowAndAbove) {
+TEST(LimitsOf, AShoveAgreesWithAnalysesJustBelowAndAbove) {
   struct Case {
     double pot;
     double call;
