@@ -36,8 +36,8 @@ inline constexpr std::int16_t kNoPadding = -1;
 /// The pad width of lines that start with a name and a colon, so that what follows the names is aligned.
 inline constexpr std::int16_t kNameColumn = 20;
 
-/// Sets the font of the insertion point. The codes are 1 "Arial", 2 "Verdana" and 3
-/// "Courier New"; any other code keeps the name.
+/// Sets the font of the insertion point. The codes are 1 "Arial", 2 "Verdana" and 3 "Courier New"; any other code keeps
+/// the name.
 void SetReportFont(ReportText& box, std::int32_t fontCode, std::int16_t size, std::int32_t color);
 
 /// Inserts one line and a carriage return. Unless `padWidth` is kNoPadding, a text with a colon is first split after

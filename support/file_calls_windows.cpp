@@ -342,8 +342,8 @@ std::optional<std::chrono::seconds> AgeOfFile(const std::filesystem::path& path)
   return std::chrono::floor<std::chrono::seconds>(ticks(now) - ticks(about.ftLastWriteTime));
 }
 
-// Also follows links to folders along the path. Where the disk does not answer, as some RAM disks do not, the path is
-// taken to be its own end.
+// A path in other letters than the disk has is no link. Where the disk does not answer, as some RAM disks do not, the
+// path is taken to be its own end.
 std::filesystem::path EndOfLinks(const std::filesystem::path& path) {
   constexpr DWORD kLongestPath = 1U << 15U;
   const std::wstring name = SystemPath(path.string());
@@ -355,7 +355,8 @@ std::filesystem::path EndOfLinks(const std::filesystem::path& path) {
   CloseHandle(file);
   if (size == 0 || size > kLongestPath) return path;
   end.resize(size);
-  return end == name ? path : std::filesystem::path(end);
+  const bool isItself = CompareStringOrdinal(end.c_str(), -1, name.c_str(), -1, TRUE) == CSTR_EQUAL;
+  return isItself ? path : std::filesystem::path(end);
 }
 
 std::string ReasonOf(int systemError) {

@@ -22,12 +22,14 @@ namespace quillon {
 /// `string()` returns the same text everywhere.
 [[nodiscard]] std::filesystem::path PathOf(std::string_view text);
 
-/// A folder's entries, in no order and without "." and "..", and the error that ended the listing, if any. A name
-/// with half a surrogate pair, which Windows allows and no text can hold, is left out.
+/// A file or folder in a listing.
 struct FolderEntry {
   std::filesystem::path Path;
   bool IsFolder;  // or a link to one
 };
+
+/// A folder's entries, in no order and without "." and "..", and the error that ended the listing, if any. A name
+/// with half a surrogate pair, which Windows allows and no text can hold, is left out.
 struct FolderListing {
   std::vector<FolderEntry> Entries;
   std::error_code Error;
@@ -42,7 +44,7 @@ struct FolderListing {
 [[nodiscard]] std::optional<std::chrono::seconds> AgeOfFile(const std::filesystem::path& path);
 
 /// The end of a chain of links, whether or not a file is there; a path that is not a link is its own end. For a cycle,
-/// one of its links. On Windows a dangling link is its own end too.
+/// one of its links. On Windows a dangling link is its own end too, and links to folders along the path are followed.
 [[nodiscard]] std::filesystem::path EndOfLinks(const std::filesystem::path& path);
 
 /// The system's text for an error number, such as "No such file or directory".

@@ -19,7 +19,6 @@
 #include "toolkit/light_style.h"
 #include "toolkit/message_dialogs.h"
 #include "toolkit/placement.h"
-#include "toolkit/start_failure.h"
 #include "toolkit/text.h"
 
 namespace quillon {
@@ -52,7 +51,7 @@ void HearStart(QtMsgType type, const QMessageLogContext& context, const QString&
   const std::string message = incomplete
                                   ? "Quillon cannot show its window, and may have to be installed or unpacked again: "
                                   : "Quillon finds no display for its window: ";
-  TellStartFailure(message + reason);
+  std::fputs((message + reason + "\n").c_str(), stderr);  // on Windows Qt has shown a box of its own
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -53,7 +53,7 @@ class Answering {
 /// The window that a box opened now belongs to: that of the action being handled, or the active one; null if invisible.
 [[nodiscard]] QWidget* AskingWindow();
 
-/// The application. Without a display, shows Qt's reason (TellStartFailure) and exits with status 1.
+/// The application. Without a display, prints a line with Qt's reason to standard error and exits with status 1.
 [[nodiscard]] std::unique_ptr<Application> StartApplication(int& argc, char** argv);
 
 /// Shows the fault and ends the process. Without a window system, it is only written to standard error.

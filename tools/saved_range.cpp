@@ -23,10 +23,11 @@ bool MaySave(CommandInputs& inputs, const std::string& name, bool replace, const
 }
 
 void SaveBoth(const ProgramFolder& folder, const NamedText& first, const NamedText& second) {
-  const std::filesystem::path file = EndOfLinks(RangeFilePath(folder, first.Name));
+  const std::filesystem::path named = RangeFilePath(folder, first.Name);
+  const std::filesystem::path file = EndOfLinks(named);
   const bool isNew = !IsThere(file);
   const std::optional<std::string> before = TryReadAllBytes(file, *folder.Calls);
-  if (!before) FailOnFile(EACCES, file);
+  if (!before) FailOnFile(EACCES, named);
   SaveRangeText(folder, first.Name, first.Text);
   try {
     SaveRangeText(folder, second.Name, second.Text);
