@@ -187,7 +187,7 @@ TEST_P(EachPage, HasAPictureOfItsGrid) {
 }
 
 TEST(AnalysisPicture, IsTheGoldenPicture) {
-  ExpectGolden(AnalysisPicture(sample::RaiseState()), "raise_grid.svg");
+  ExpectGolden(AnalysisPicture(sample::RaiseState()), QUILLON_GOLDEN_FOLDER "/raise_grid.svg");
 }
 
 TEST(GridPicture, HasTheSameMarginOnEverySide) {

@@ -272,7 +272,7 @@ TEST(FigureSvg, IsTheGoldenPicture) {
   figures[0].Subtitle = "He calls with \"Tight\"";
   figures[1].Across.Pot = 0;
   AlignFigures(figures);
-  ExpectGolden(FigureSvg(figures), "figures.svg");
+  ExpectGolden(FigureSvg(figures), QUILLON_GOLDEN_FOLDER "/figures.svg");
 }
 
 TEST(FigureSvg, HasMarksAndPots) {

@@ -107,7 +107,7 @@ TEST(ChartPicture, ShowsBothGridsAsTheGoldenPicture) {
   for (std::size_t at = 0; (at = picture.find("<rect class=", at)) != std::string::npos; ++at)
     ++cells;
   EXPECT_EQ(cells, 2U * 169);
-  ExpectGolden(picture, "chart.svg");
+  ExpectGolden(picture, QUILLON_GOLDEN_FOLDER "/chart.svg");
 }
 
 }  // namespace

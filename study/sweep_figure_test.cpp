@@ -75,7 +75,7 @@ TEST(SweepFigure, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
   EXPECT_NEAR(above, below, 0.11);
   EXPECT_THAT(picture, AllOf(HasSubstr(">AA</text>"), HasSubstr(">72o</text>"), HasSubstr(">Preflop Raise</text>"),
                              HasSubstr(">Shove</text>"), HasSubstr(">Expected value, in the unit of the amounts<")));
-  ExpectGolden(picture, "sweep.svg");
+  ExpectGolden(picture, QUILLON_GOLDEN_FOLDER "/sweep.svg");
 }
 
 TEST(SweepFigure, NamesLinesRightOfThemAndApart) {

@@ -8,21 +8,19 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <string>
 #include <string_view>
 
 #include "testing/file_bytes.h"
 
 namespace quillon {
 
-/// Fails the test where the text differs from that file of tests/golden, or writes the file.
-inline void ExpectGolden(std::string_view text, const std::string& file) {
-  const std::filesystem::path path = std::filesystem::path(QUILLON_GOLDEN_FOLDER) / file;
+/// Fails the test where the text differs from that file, or writes it.
+inline void ExpectGolden(std::string_view text, const std::filesystem::path& path) {
   if (std::getenv("QUILLON_WRITE_GOLDEN") != nullptr) {  // NOLINT(concurrency-mt-unsafe): there is one thread
     Put(path, text);
     return;
   }
-  EXPECT_EQ(text, BytesOf(path)) << file;
+  EXPECT_EQ(text, BytesOf(path)) << path;
 }
 
 }  // namespace quillon

@@ -92,7 +92,7 @@ TEST(CompanionJourney, PrintsTheGoldenReportsToTheLastCharacter) {
     const ProgramOutcome outcome = household.Run(With(c.command, {"--format", c.format}));
     EXPECT_EQ(outcome.Status, 0) << c.file;
     EXPECT_EQ(outcome.Errors, "") << c.file;
-    ExpectGolden(WithUsualAddress(outcome.Output), c.file);
+    ExpectGolden(WithUsualAddress(outcome.Output), fs::path(QUILLON_GOLDEN_FOLDER) / c.file);
   }
 }
 
