@@ -353,10 +353,10 @@ TEST_F(AnalysisDriver, ABoxEditedDuringARunIsFeltByTheClassesToCome) {
     const auto rowsAfter = Lines(TableOf(button, after), "\r\n");
     for (std::size_t index = 0; index < rows.size(); ++index)
       EXPECT_EQ(rows[index], (index < 50 ? rowsBefore : rowsAfter)[index]);
-    EXPECT_EQ(state_.Amounts.Pot, 100);
-    EXPECT_EQ(state_.Amounts.Call, 50);
+    EXPECT_EQ(state_.Amounts.PotSize, 100);
+    EXPECT_EQ(state_.Amounts.CallAmount, 50);
   }
-  EXPECT_EQ(state_.Amounts.Shove, 200);
+  EXPECT_EQ(state_.Amounts.ShoveAmount, 200);
 }
 
 // A window in which a range's file vanishes when the run starts, after the check has read it.

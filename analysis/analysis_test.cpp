@@ -64,7 +64,7 @@ TEST_F(AnalyzeTest, WhatCannotBeReadOrWrittenFails) {
     RunTimeFault fault;
   };
   Situation beyond = ARaise(kEveryHand, kEveryHand);
-  beyond.Amounts.Pot = beyond.Amounts.Call = beyond.Amounts.Shove = 1e308;
+  beyond.Amounts.PotSize = beyond.Amounts.CallAmount = beyond.Amounts.ShoveAmount = 1e308;
   for (const Row& row :
        {Row{"a call without a range text", ACall(""), RunTimeFault::kSubscriptOutOfRange},
         Row{"a shove without a range text", ARaise("", kEveryHand), RunTimeFault::kSubscriptOutOfRange},

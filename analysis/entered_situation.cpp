@@ -26,7 +26,8 @@ std::optional<std::string> CommaWarning(std::string_view name, const std::string
 }
 
 Amounts AmountsOf(const EnteredSituation& entered) {
-  return {.Pot = BoxValue(entered.Pot), .Call = BoxValue(entered.Call), .Shove = BoxValue(entered.Shove)};
+  return {
+      .PotSize = BoxValue(entered.Pot), .CallAmount = BoxValue(entered.Call), .ShoveAmount = BoxValue(entered.Shove)};
 }
 
 HandList DealRange(const ProgramFolder& folder, std::string_view rangeName, std::string_view card1,

@@ -44,7 +44,7 @@ TEST(SituationOf, TakesWhatTheScenarioAsksFor) {
   call.Amounts = {100, 1, 0};
   Situation raise = call;
   raise.Mode = AnalysisMode::kPreflopRaise;
-  raise.Amounts.Shove = 30;
+  raise.Amounts.ShoveAmount = 30;
   raise.CallingRangeName = "Aces";
   raise.CallingRangeText = RangeWith({{"AA", 1}});
   for (const Situation& situation : {equity, call, raise})

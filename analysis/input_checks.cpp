@@ -29,11 +29,11 @@ constexpr std::array<Check, 7> kCallChecks = {{
     {{"No Hands in Range", "No hands in your opponent's current range."},
      [](const Inputs& in) { return TotalWeight(in.Range) == 0; }},
     {{"Pot Size Error", "The pot size must be greater than the amount you have to call."},
-     [](const Inputs& in) { return in.Values.Call >= in.Values.Pot; }},
+     [](const Inputs& in) { return in.Values.CallAmount >= in.Values.PotSize; }},
     {{"Pot Size Error", "The pot size must be greater than zero."},
-     [](const Inputs& in) { return in.Values.Pot <= 0; }},
+     [](const Inputs& in) { return in.Values.PotSize <= 0; }},
     {{"Call Size Error", "The amount to call must be greater than zero."},
-     [](const Inputs& in) { return in.Values.Call <= 0; }},
+     [](const Inputs& in) { return in.Values.CallAmount <= 0; }},
     {{"Pot Size Error", "The pot size contains non-numeric characters"},
      [](const Inputs& in) { return !IsNumericText(in.Entered.Pot, in.Entered.Marks); }},
     {{"Call Size Error", "The call size contains non-numeric characters"},
@@ -46,11 +46,11 @@ constexpr std::array<Check, 8> kRaiseChecks = {{
      [](const Inputs& in) { return in.Entered.Range.empty(); }},
     {{"Missing Range", "You must assign or create a range of hands for your opponent to call with."},
      [](const Inputs& in) { return in.Entered.CallingRange.empty(); }},
-    {{"Pot Size", "The pot size must be greater than zero."}, [](const Inputs& in) { return in.Values.Pot <= 0; }},
+    {{"Pot Size", "The pot size must be greater than zero."}, [](const Inputs& in) { return in.Values.PotSize <= 0; }},
     {{"Call Amount", "The amount you must call cannot be a negative number."},
-     [](const Inputs& in) { return in.Values.Call < 0; }},
+     [](const Inputs& in) { return in.Values.CallAmount < 0; }},
     {{"Pot Size", "The amount your opponent must call must be greater than zero."},
-     [](const Inputs& in) { return in.Values.Shove <= 0; }},
+     [](const Inputs& in) { return in.Values.ShoveAmount <= 0; }},
     {{"Pot Size", "The pot size contains non-numeric characters"},
      [](const Inputs& in) { return !IsNumericText(in.Entered.Pot, in.Entered.Marks); }},
     {{"Call Size", "The call size contains illegal characters"},
@@ -72,27 +72,40 @@ HandList WholeRange(const ProgramFolder& folder, const EnteredSituation& entered
   return DealRange(folder, entered.Range, "Xx", "Yy", rangeText);
 }
 
-struct ScenarioChecks {
+std::optional<Complaint> FirstComplaint(std::span<const Check> checks, const Inputs& inputs) {
+  const auto check = std::ranges::find_if(checks, [&](const Check& row) { return row.Applies(inputs); });
+  if (check == checks.end()) return std::nullopt;
+  return check->Message;
+}
+
+struct ScenarioCheck {
   AnalysisMode Mode = AnalysisMode::kNone;
-  std::span<const Check> Rows;
-  bool OpensRange = false;
+  std::optional<Complaint> (*Run)(const EnteredSituation& entered, const ProgramFolder& folder) = nullptr;
 };
 
-constexpr ScenarioTable<ScenarioChecks> kScenarioChecks = {{
-    {AnalysisMode::kPreflopCall, kCallChecks, true},
-    {AnalysisMode::kPreflopRaise, kRaiseChecks, false},
-    {AnalysisMode::kEquityOnly, kEquityChecks, true},
+constexpr ScenarioTable<ScenarioCheck> kScenarioChecks = {{
+    {AnalysisMode::kPreflopCall, CheckCallInputs},
+    {AnalysisMode::kPreflopRaise, CheckRaiseInputs},
+    {AnalysisMode::kEquityOnly, CheckEquityInputs},
 }};
 static_assert(CoversEveryScenario(kScenarioChecks));
 
 }  // namespace
 
 std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered, const ProgramFolder& folder) {
-  const ScenarioChecks& checks = RowOf(kScenarioChecks, mode);
-  const Inputs inputs = {entered, AmountsOf(entered), checks.OpensRange ? WholeRange(folder, entered) : HandList{}};
-  const auto check = std::ranges::find_if(checks.Rows, [&](const Check& row) { return row.Applies(inputs); });
-  if (check == checks.Rows.end()) return std::nullopt;
-  return check->Message;
+  return RowOf(kScenarioChecks, mode).Run(entered, folder);
+}
+
+std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
+  return FirstComplaint(kCallChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
+}
+
+std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& /*folder*/) {
+  return FirstComplaint(kRaiseChecks, {entered, AmountsOf(entered), {}});
+}
+
+std::optional<Complaint> CheckEquityInputs(const EnteredSituation& entered, const ProgramFolder& folder) {
+  return FirstComplaint(kEquityChecks, {entered, AmountsOf(entered), WholeRange(folder, entered)});
 }
 
 }  // namespace quillon

@@ -22,17 +22,20 @@ struct Complaint {
   bool operator==(const Complaint&) const = default;
 };
 
-/// The check of a scenario:
-///
-/// - "Preflop Call": a range is chosen and has weight, the pot is larger than the call and both are above 0, and both
-///   are numbers.
-/// - "Preflop Raise": both ranges are chosen, pot and shove are above 0, the call is not below 0 (an empty text is 0),
-///   and the texts are numbers. No range is opened: the run can handle an empty one.
-/// - "Equity Only": a range is chosen and has weight.
-///
-/// A range that must have weight is read from its file. A missing or empty file is not a complaint but a RunTimeError
-/// "Subscript out of range", and a file that cannot be read as a range fails as DealRange does.
+/// The check of a scenario, one of the three below.
 [[nodiscard]] std::optional<Complaint> CheckInputs(AnalysisMode mode, const EnteredSituation& entered,
                                                    const ProgramFolder& folder);
+
+/// "Preflop Call": a range is chosen and has weight, the pot is larger than the call and both are above 0, and both are
+/// numbers. The range is read from its file. A missing or empty file is not a complaint but a RunTimeError "Subscript
+/// out of range", and a file that cannot be read as a range fails as DealRange does.
+[[nodiscard]] std::optional<Complaint> CheckCallInputs(const EnteredSituation& entered, const ProgramFolder& folder);
+
+/// "Preflop Raise": both ranges are chosen, pot and shove are above 0, the call is not below 0 (an empty text is 0),
+/// and the texts are numbers. No range is opened: the run can handle an empty one.
+[[nodiscard]] std::optional<Complaint> CheckRaiseInputs(const EnteredSituation& entered, const ProgramFolder& folder);
+
+/// "Equity Only": a range is chosen and has weight. Fails as CheckCallInputs does.
+[[nodiscard]] std::optional<Complaint> CheckEquityInputs(const EnteredSituation& entered, const ProgramFolder& folder);
 
 }  // namespace quillon

@@ -20,9 +20,9 @@ enum class AnalysisMode : std::int32_t { kNone = 0, kPreflopCall = 1, kPreflopRa
 
 /// The amounts of a situation, in the user's own unit. One that a scenario does not ask for is 0.
 struct Amounts {
-  double Pot = 0;
-  double Call = 0;  // what the user must put in
-  double Shove = 0;  // what the opponent must put in to call the user's shove
+  double PotSize = 0;
+  double CallAmount = 0;  // what the user must put in
+  double ShoveAmount = 0;  // what the opponent must put in to call the user's shove
 
   bool operator==(const Amounts&) const = default;
 };
@@ -37,9 +37,9 @@ struct AmountKind {
 
 /// The amounts in the order in which scenarios ask for them.
 inline constexpr std::array<AmountKind, 3> kAmounts = {{
-    {"pot", "Pot Size", "Pot", &Amounts::Pot},
-    {"call", "Call Amount", "What you must put in to call", &Amounts::Call},
-    {"shove", "Shove Amount", "What he must put in to call your shove", &Amounts::Shove},
+    {"pot", "Pot Size", "Pot", &Amounts::PotSize},
+    {"call", "Call Amount", "What you must put in to call", &Amounts::CallAmount},
+    {"shove", "Shove Amount", "What he must put in to call your shove", &Amounts::ShoveAmount},
 }};
 
 struct Scenario {
@@ -76,8 +76,10 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
      .AmountCount = 2,
      .HasCallingRange = false,
      .EquityTitle = "Equity:",
-     .ExpectedValue = [](const Amounts& amounts, double equity,
-                         double /*callShare*/) { return CallExpectedValue(amounts.Pot, amounts.Call, equity); }},
+     .ExpectedValue =
+         [](const Amounts& amounts, double equity, double /*callShare*/) {
+           return CallExpectedValue(amounts.PotSize, amounts.CallAmount, equity);
+         }},
     {.Mode = AnalysisMode::kPreflopRaise,
      .Name = "Preflop Raise",
      .Command = "raise",
@@ -86,7 +88,7 @@ inline constexpr std::array<Scenario, 3> kScenarios = {{
      .EquityTitle = "Equity when Called:",
      .ExpectedValue =
          [](const Amounts& amounts, double equity, double callShare) {
-           return ShoveExpectedValue(amounts.Pot, amounts.Call, amounts.Shove, equity, callShare);
+           return ShoveExpectedValue(amounts.PotSize, amounts.CallAmount, amounts.ShoveAmount, equity, callShare);
          }},
     {.Mode = AnalysisMode::kEquityOnly,
      .Name = "Equity Only",

@@ -26,7 +26,7 @@ void ShoveSweep(benchmark::State& timing) {
   while (timing.KeepRunning()) {
     const HandNumbers hands;
     benchmark::DoNotOptimize(
-        SweepAmount(question, RangeNumbers(hands, AllHands(), AllHands()), &Amounts::Shove, steps));
+        SweepAmount(question, RangeNumbers(hands, AllHands(), AllHands()), &Amounts::ShoveAmount, steps));
   }
 }
 BENCHMARK(ShoveSweep)->Unit(benchmark::kMillisecond)->Arg(1)->Arg(1000);

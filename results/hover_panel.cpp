@@ -68,7 +68,7 @@ std::optional<HoverTexts> MakeHoverTexts(std::int16_t index, const Analysis& ana
   const Scenario* const scenario = FindRow(kScenarios, analysis.Mode);
   if (scenario == nullptr || analysis.HandInfo.empty()) return std::nullopt;
   const HandResult result = GetHandResult(analysis.HandInfo, HandLabel(index));
-  return scenario->HasExpectedValue() ? MoveTexts(result, *scenario, analysis.Amounts.Call)
+  return scenario->HasExpectedValue() ? MoveTexts(result, *scenario, analysis.Amounts.CallAmount)
                                       : EquityTexts(result, *scenario);
 }
 

@@ -103,7 +103,7 @@ TEST(HoverPanel, ReturnThatIsNoNumberReadsAsSuch) {
   };
   for (const Case& c : cases) {
     Analysis state = WithCells(sample::RaiseState(), c.cells);
-    state.Amounts.Call = c.call;
+    state.Amounts.CallAmount = c.call;
     const HoverTexts texts = TextsOf("KQs", state);
     EXPECT_EQ(texts.Value, c.value) << c.rule;
     EXPECT_EQ(texts.Return, c.back) << c.rule;

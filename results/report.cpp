@@ -46,8 +46,8 @@ std::string HandAndCombos(const HandResult& hand) {
 
 // Intentional: the equity column rounds half away from zero and the formula to even, so the last digits may differ.
 std::string CallRow(const Analysis& analysis, const HandResult& hand) {
-  const std::string call = RoundedText(analysis.Amounts.Call, 2);
-  const std::string pot = RoundedText(analysis.Amounts.Pot, 2);
+  const std::string call = RoundedText(analysis.Amounts.CallAmount, 2);
+  const std::string pot = RoundedText(analysis.Amounts.PotSize, 2);
   return Joined({HandAndCombos(hand), PatternText(hand.Equity, 3), "\t", MoneyColumn(hand.ExpectedValue, 13),
                  "\t=", RoundedText(hand.Equity, 3), "*(", pot, "+", call, ")-", call});
 }
@@ -70,12 +70,12 @@ void WriteRows(PlainReport& report, const Analysis& analysis, RowText rowText) {
 
 void WritePlainCall(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
-  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
+  const double odds = PotOdds(analysis.Amounts.PotSize, analysis.Amounts.CallAmount);
 
   report.Heading("Situation");
   report.Body("Type: Preflop Call ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.Pot, 2));
-  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.Call, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.PotSize, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.CallAmount, 2));
   report.Heading("\r\n\r\nRange");
   report.Body("Opponent Range Name: " + analysis.RangeName);
   report.Line("Range: " + RangeSummary(analysis.RangeText));
@@ -99,9 +99,9 @@ void WritePlainRaise(ReportText& box, const Analysis& analysis) {
   PlainReport report(box);
   report.Heading("Situation");
   report.Body("Type: Preflop Raise ALL IN");
-  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.Pot, 2));
-  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.Call, 2));
-  report.Line("Amount Behind: " + RoundedText(analysis.Amounts.Shove, 2));
+  report.Line("Total Pot Size: " + RoundedText(analysis.Amounts.PotSize, 2));
+  report.Line("Amount To Call: " + RoundedText(analysis.Amounts.CallAmount, 2));
+  report.Line("Amount Behind: " + RoundedText(analysis.Amounts.ShoveAmount, 2));
   report.Heading("\r\n\r\nRange");
   report.Body("Current Range: " + analysis.RangeName);
   report.Line("Range: " + RangeSummary(analysis.RangeText));
@@ -163,12 +163,12 @@ void WriteForumProfitableHands(ReportText& box, const Analysis& analysis) {
 }
 
 void WriteForumCall(ReportText& box, const Analysis& analysis) {
-  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
+  const double odds = PotOdds(analysis.Amounts.PotSize, analysis.Amounts.CallAmount);
 
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box,
-                 "Pot Size: " + NumberText(analysis.Amounts.Pot) + " | To Call: " + NumberText(analysis.Amounts.Call));
+  WriteForumLine(box, "Pot Size: " + NumberText(analysis.Amounts.PotSize) +
+                          " | To Call: " + NumberText(analysis.Amounts.CallAmount));
   // Intentional: a post shows the break-even point as a fraction, the plain form as a percentage.
   WriteForumLine(box, "[COLOR=\"GRAY\"](Pot Odds: " + RoundedText(odds, 2) +
                           ":1, BEP: " + RoundedText(BreakEvenEquity(odds), 2) + ")[/COLOR]");
@@ -179,8 +179,9 @@ void WriteForumCall(ReportText& box, const Analysis& analysis) {
 void WriteForumRaise(ReportText& box, const Analysis& analysis) {
   WriteForumTitle(box, "Hand Analysis");
   WriteForumLine(box, "[b]Situation:[/b]");
-  WriteForumLine(box, "Pot Size: " + NumberText(analysis.Amounts.Pot) + " | To Call: " +
-                          NumberText(analysis.Amounts.Call) + " | Shove Amount: " + NumberText(analysis.Amounts.Shove));
+  WriteForumLine(box, "Pot Size: " + NumberText(analysis.Amounts.PotSize) +
+                          " | To Call: " + NumberText(analysis.Amounts.CallAmount) +
+                          " | Shove Amount: " + NumberText(analysis.Amounts.ShoveAmount));
   WriteForumLine(box, "Villain Current Range: " + RangeSummary(analysis.RangeText));
   WriteForumLine(box, "Villain Calling Range: " + RangeSummary(analysis.CallingRangeText) + "\r\n");
   WriteForumProfitableHands(box, analysis);
@@ -200,8 +201,8 @@ std::string SignedMoneyText(double value) {
 
 std::string CallWorking(const Analysis& analysis, const HandResult& hand) {
   return Joined({"EV for ", hand.Label, " = ", RoundedText(hand.Equity, 4), " * (",
-                 NumberText(analysis.Amounts.Pot + analysis.Amounts.Call), ") - ", NumberText(analysis.Amounts.Call),
-                 " = ", SignedMoneyText(hand.ExpectedValue)});
+                 NumberText(analysis.Amounts.PotSize + analysis.Amounts.CallAmount), ") - ",
+                 NumberText(analysis.Amounts.CallAmount), " = ", SignedMoneyText(hand.ExpectedValue)});
 }
 
 std::string RaiseWorking(const Analysis& analysis, const HandResult& hand) {

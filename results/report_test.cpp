@@ -245,11 +245,11 @@ TEST(Report, AmountsAreRoundedInThePlainFormAndWholeInTheForumForm) {
 TEST(Report, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
   for (const ReportForm form : {ReportForm::kPlainText, ReportForm::kForum}) {
     Analysis call = sample::CallState();
-    call.Amounts.Call = 0;
+    call.Amounts.CallAmount = 0;
     EXPECT_THROW(Report(call, form), RunTimeError);
 
     Analysis raise = sample::RaiseState();
-    raise.Amounts.Call = 0;
+    raise.Amounts.CallAmount = 0;
     EXPECT_NO_THROW(Report(raise, form));
   }
 }
@@ -264,7 +264,7 @@ std::string LineFor(Analysis state, std::string_view hand, std::string_view cell
 
 Analysis ShoveOf(double shove) {
   Analysis state = sample::RaiseState();
-  state.Amounts.Shove = shove;
+  state.Amounts.ShoveAmount = shove;
   return state;
 }
 

@@ -38,7 +38,7 @@ std::string AmountsText(const Analysis& analysis) {
 }
 
 GridTexts CallTexts(const Analysis& analysis) {
-  const double odds = PotOdds(analysis.Amounts.Pot, analysis.Amounts.Call);
+  const double odds = PotOdds(analysis.Amounts.PotSize, analysis.Amounts.CallAmount);
   const std::string oddsText = RoundedText(odds, 2) + ":1";
   return {
       .Title = std::string(kGridTitle),

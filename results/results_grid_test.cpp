@@ -77,7 +77,7 @@ TEST(GridTexts, AmountsAndOddsHaveTwoDecimalsWithTiesToEven) {
   EXPECT_THAT(MakeGridTexts(state).HandInfo,
               ::testing::StartsWith("Pot Size: 10.12 | Call Amount: 3 | Odds: 3.38:1\r\n"))
       << "10.125 is a tie, 3.375 too";
-  state.Amounts.Call = 3.125;
+  state.Amounts.CallAmount = 3.125;
   EXPECT_THAT(MakeGridTexts(state).HandInfo, ::testing::HasSubstr("Call Amount: 3.12 |"));
 
   Analysis raise = sample::RaiseState();
@@ -120,11 +120,11 @@ TEST(GridTexts, TheShareOfProfitableHandsCountsCombosAgainst1325) {
 
 TEST(GridTexts, ACallOfNothingHasNoPotOddsAndAShoveNeedsNone) {
   Analysis call = sample::CallState();
-  call.Amounts.Call = 0;
+  call.Amounts.CallAmount = 0;
   EXPECT_THROW(static_cast<void>(MakeGridTexts(call)), RunTimeError);
 
   Analysis raise = sample::RaiseState();
-  raise.Amounts.Call = 0;
+  raise.Amounts.CallAmount = 0;
   EXPECT_EQ(MakeGridTexts(raise).HandInfo,
             "Pot Size: 150 | Call Amount: 0 | Shove Amount: 62.5\r\nHis Calling Range: AA");
 }

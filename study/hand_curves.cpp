@@ -86,7 +86,7 @@ std::string TitleOf(const Situation& asked, std::size_t amountCount) {
 }
 
 void CountInPots(FigureScale& scale, const StudySituation& situation) {
-  scale.Pot = situation.Asked.Amounts.Pot;
+  scale.Pot = situation.Asked.Amounts.PotSize;
 }
 
 void AddLimits(Figure& figure, const StudySituation& situation, std::span<const std::int16_t> hands) {
@@ -160,10 +160,10 @@ StepTexts AmountStepsFor(const StudySituation& situation, std::span<const std::i
     const Limit limit = LimitOf(situation, ranges, hand);
     if (HasAmount(limit) && limit.Amount < kFarLimit * now) reach = std::max(reach, kBeyondLimit * limit.Amount);
   }
-  reach = std::min(reach, IsBelowPot(situation) ? situation.Asked.Amounts.Pot : kMostLimit);
+  reach = std::min(reach, IsBelowPot(situation) ? situation.Asked.Amounts.PotSize : kMostLimit);
   const double step = StepFor(reach, now);
   double count = std::ceil(reach / step);
-  if (IsBelowPot(situation) && count * step >= situation.Asked.Amounts.Pot) --count;
+  if (IsBelowPot(situation) && count * step >= situation.Asked.Amounts.PotSize) --count;
   return {.From = NumberText(step), .To = NumberText(count * step), .Step = NumberText(step)};
 }
 
@@ -171,7 +171,7 @@ std::variant<Steps, std::string> ReadAmountSteps(const StudySituation& situation
   auto read = ReadSteps(texts);
   const auto* const steps = std::get_if<Steps>(&read);
   if (steps == nullptr) return read;
-  const double pot = situation.Asked.Amounts.Pot;
+  const double pot = situation.Asked.Amounts.PotSize;
   if (LeadingNumber(steps->Text(0)) == 0) return "the first amount must be above 0";
   if (IsBelowPot(situation) && LeadingNumber(steps->Text(steps->Count() - 1)) >= pot) {
     return "a call is smaller than the pot, which is " + NumberText(pot);

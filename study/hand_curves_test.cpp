@@ -72,9 +72,9 @@ TEST(CurveHands, BeginWithTheHandThatHardlyPays) {
     const auto rows = [&](const std::vector<std::int16_t>& hands) {
       return situation.Asked.Mode == AnalysisMode::kPreflopRaise
                  ? SweepAmount({situation.Asked.Mode, situation.Asked.Amounts, hands}, situation.Numbers(),
-                               &Amounts::Pot, StepsOf("1.5:1.5:1"))
+                               &Amounts::PotSize, StepsOf("1.5:1.5:1"))
                  : SweepAmount({situation.Asked.Mode, situation.Asked.Amounts, hands}, situation.Numbers(),
-                               &Amounts::Pot, StepsOf("150:150:1"));
+                               &Amounts::PotSize, StepsOf("150:150:1"));
     };
     std::vector<std::int16_t> all(kHandClassCount);
     for (std::int16_t index = 0; index < kHandClassCount; ++index)
@@ -157,7 +157,7 @@ TEST(WidthSteps, AreThoseOfARange) {
 TEST(HandCurves, AreTheCompanionsFigures) {
   const HandCurves amounts = AmountCurves(Shove(), HandsOf("K9o 22"), StepsOf("5:20:5"));
   const auto rows = SweepAmount({AnalysisMode::kPreflopRaise, {1.5, 0.5, 0}, HandsOf("K9o 22")}, Shove().Numbers(),
-                                &Amounts::Shove, StepsOf("5:20:5"));
+                                &Amounts::ShoveAmount, StepsOf("5:20:5"));
   ASSERT_EQ(amounts.Rows.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     EXPECT_EQ(amounts.Rows[i].At, rows[i].At);

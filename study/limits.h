@@ -56,10 +56,10 @@ struct Move {
 
 inline constexpr ScenarioTable<Move> kMoves = {{
     {AnalysisMode::kPreflopCall, "Call", true,
-     [](const Amounts& amounts, const ClassFigures& figures) { return CallLimit(amounts.Pot, figures.Equity); }},
+     [](const Amounts& amounts, const ClassFigures& figures) { return CallLimit(amounts.PotSize, figures.Equity); }},
     {AnalysisMode::kPreflopRaise, "Shove", false,
      [](const Amounts& amounts, const ClassFigures& figures) {
-       return ShoveLimit(amounts.Pot, amounts.Call, figures);
+       return ShoveLimit(amounts.PotSize, amounts.CallAmount, figures);
      }},
     {AnalysisMode::kEquityOnly, "", false, nullptr},
 }};

@@ -115,10 +115,10 @@ TEST(Sweep, OfAnAmountEqualsSeparateAnalyses) {
   };
   const Amounts fixed = {100, 30, 250};
   for (const Case& c : {
-           Case{"call", AnalysisMode::kPreflopCall, &Amounts::Call, "0.1:0.7:0.3"},
-           Case{"pot of a call", AnalysisMode::kPreflopCall, &Amounts::Pot, "31:200:66.66"},
-           Case{"shove", AnalysisMode::kPreflopRaise, &Amounts::Shove, "1:3000:999.9"},
-           Case{"call of a raise", AnalysisMode::kPreflopRaise, &Amounts::Call, "0:60:20"},
+           Case{"call", AnalysisMode::kPreflopCall, &Amounts::CallAmount, "0.1:0.7:0.3"},
+           Case{"pot of a call", AnalysisMode::kPreflopCall, &Amounts::PotSize, "31:200:66.66"},
+           Case{"shove", AnalysisMode::kPreflopRaise, &Amounts::ShoveAmount, "1:3000:999.9"},
+           Case{"call of a raise", AnalysisMode::kPreflopRaise, &Amounts::CallAmount, "0:60:20"},
        }) {
     const ClassWeights range = Top("40");
     const ClassWeights calling = Top("12.5");

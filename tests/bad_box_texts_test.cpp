@@ -245,10 +245,10 @@ TEST_F(BadBoxTextsInWindow, ThatAreRandomAreTakenAsByThePlainReader) {
     EXPECT_EQ(Screen(), through ? "ALL IN Grid" : raise ? "Preflop Raise" : "Preflop Call");
     EXPECT_EQ(Shows("lblNav", kGridNav), through);
     if (through) {
-      EXPECT_EQ(Form.State().Amounts.Pot, plain::BoxValue(boxes[0]));
-      EXPECT_EQ(Form.State().Amounts.Call, plain::BoxValue(boxes[1]));
+      EXPECT_EQ(Form.State().Amounts.PotSize, plain::BoxValue(boxes[0]));
+      EXPECT_EQ(Form.State().Amounts.CallAmount, plain::BoxValue(boxes[1]));
       if (raise) {
-        EXPECT_EQ(Form.State().Amounts.Shove, plain::BoxValue(boxes[2]));
+        EXPECT_EQ(Form.State().Amounts.ShoveAmount, plain::BoxValue(boxes[2]));
       }
     }
   }

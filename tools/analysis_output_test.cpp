@@ -237,11 +237,11 @@ TEST_F(EachScenario, PrintsJsonTextsWithUnixLineEnds) {
 
 TEST(JsonOutput, HoldsNumbersOfAnySize) {
   Analysis state = CallRun();
-  state.Amounts.Pot = std::numeric_limits<double>::max();
+  state.Amounts.PotSize = std::numeric_limits<double>::max();
   const std::string& table = state.HandInfo;
   state.HandInfo = "AA\t7.92119999999999E-02\t-1E+300\t1\t\r\n" + table.substr(table.find("AKs"));
   const Json object = Json::parse(InFormat(kAnalysisFormats, "json", {state, {}}));
-  EXPECT_EQ(object["pot"].get<double>(), state.Amounts.Pot);
+  EXPECT_EQ(object["pot"].get<double>(), state.Amounts.PotSize);
   EXPECT_EQ(object["hands"][0]["ev"].get<double>(), 7.92119999999999E-02);
   EXPECT_EQ(object["hands"][0]["equity"].get<double>(), -1E+300);
 }

@@ -131,11 +131,11 @@ std::optional<std::size_t> SweptPlace(const Request& request, std::size_t count)
 bool AreAccepted(AnalysisMode mode, const Amounts& amounts, CommandInputs& inputs) {
   const AmountKind& own = ScenarioOf(mode).AskedAmounts().back();
   const double value = amounts.*own.Value;
-  if (amounts.Pot == 0)
+  if (amounts.PotSize == 0)
     inputs.Refuse("--pot must be above 0");
   else if (value == 0)
     inputs.Refuse(Joined({"--", own.Key, " must be above 0"}));
-  else if (RowOf(kMoves, mode).StaysBelowPot && value >= amounts.Pot)
+  else if (RowOf(kMoves, mode).StaysBelowPot && value >= amounts.PotSize)
     inputs.Refuse(Joined({"--pot must be greater than --", own.Key}));
   else
     return true;

@@ -48,7 +48,7 @@ TEST_F(AnalysisInWindow, EachComesToTheEnginesResults) {
   RunEquity("Tight");
   EXPECT_EQ(Form.State().HandInfo, EngineTable(2, {"", "", "", "Tight", ""}));
   EXPECT_EQ(Caption("lblProgressMsg"), "Quillon is determing your equity vs the following range: \r\nTight");
-  EXPECT_EQ(Form.State().Amounts.Shove, 62.5) << "no amount is touched";
+  EXPECT_EQ(Form.State().Amounts.ShoveAmount, 62.5) << "no amount is touched";
   EXPECT_FALSE(Form.State().Running);
   EXPECT_EQ(Screen(), "ALL IN Grid");
 }
@@ -140,7 +140,7 @@ TEST_F(AnalysisInWindow, WhatIsTypedDuringARunIsFeltByTheClassesToCome) {
   const auto ofDeuces = [](const std::string& table) { return table.substr(table.find("\r\n22\t")); };
   EXPECT_EQ(ofAces(Form.State().HandInfo), ofAces(EngineTable(0, {"150", "50", "", "Pairs", ""})));
   EXPECT_EQ(ofDeuces(Form.State().HandInfo), ofDeuces(EngineTable(0, {"300", "50", "", "Pairs", ""})));
-  EXPECT_EQ(Form.State().Amounts.Pot, 150);
+  EXPECT_EQ(Form.State().Amounts.PotSize, 150);
 }
 
 TEST_F(AnalysisInWindow, ThePressedLookEndsWithTheClick) {

@@ -126,7 +126,7 @@ TEST_F(DetailsInWindow, TheForumReportHasTheBoxsOwnFont) {
 
 Analysis LargestCall() {
   Analysis state = sample::CallState();
-  state.Amounts.Pot = 9999999.99;
+  state.Amounts.PotSize = 9999999.99;
   state.HandInfo = sample::ResultsTable({{"AA", "9999999.99\t0.85\t1"}, {"72o", "-9999999.99\t0.1234\t1"}});
   return state;
 }

@@ -47,8 +47,8 @@ TEST_F(GermanChecksInWindow, TheUsersMarksPassAndTheValueIsWhatItIs) {
   Get<QLineEdit>("txtNumber", 1).insert(ToQt("12,5€"));
   Click("cmdPreflopEV", 0);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(Form.State().Amounts.Pot, 100);
-  EXPECT_EQ(Form.State().Amounts.Call, 12);
+  EXPECT_EQ(Form.State().Amounts.PotSize, 100);
+  EXPECT_EQ(Form.State().Amounts.CallAmount, 12);
 }
 
 // The message box makes the button's release miss it, so the picture is not clicked.
@@ -75,7 +75,7 @@ TEST_F(ChecksInWindow, ASumThatCannotBeWorkedOutIsToldInsteadOfARun) {
   Type(0, "=50+50");
   Click("cmdPreflopEV", 0);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(Form.State().Amounts.Pot, 100) << "evaluated before the checks";
+  EXPECT_EQ(Form.State().Amounts.PotSize, 100) << "evaluated before the checks";
 }
 
 }  // namespace

@@ -133,7 +133,7 @@ TEST_F(KeyboardInWindow, ControlAndEnterAnalyzeWithTheSumThatIsBeingTyped) {
     Type(0, key == Qt::Key_Return ? "=100+50" : "=100+75");
     Press(key, Qt::ControlModifier);
     EXPECT_EQ(Screen(), "ALL IN Grid");
-    EXPECT_EQ(Form.State().Amounts.Pot, key == Qt::Key_Return ? 150 : 175);
+    EXPECT_EQ(Form.State().Amounts.PotSize, key == Qt::Key_Return ? 150 : 175);
   }
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(Screen(), "ALL IN Grid") << "there is nothing to analyse here";

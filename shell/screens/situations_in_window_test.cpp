@@ -146,7 +146,7 @@ TEST_F(SituationsInWindow, ResultsOfAnotherSituationGo) {
   EXPECT_EQ(Form.focusWidget(), &Get("txtNumber", 0)) << "ready for typing";
   Press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(Screen(), "ALL IN Grid");
-  EXPECT_EQ(Form.State().Amounts.Pot, 3);
+  EXPECT_EQ(Form.State().Amounts.PotSize, 3);
 }
 
 TEST_F(SituationsInWindow, ARangeThatCameToTheFolderSinceIsChosen) {

@@ -35,8 +35,8 @@ BalanceTexts TextsOf(const StudySituation& situation) {
   const auto text = [count](std::size_t amount, double value) {
     return amount < count ? NumberText(value) : std::string();
   };
-  return {text(0, situation.Asked.Amounts.Pot), text(1, situation.Asked.Amounts.Call),
-          text(2, situation.Asked.Amounts.Shove)};
+  return {text(0, situation.Asked.Amounts.PotSize), text(1, situation.Asked.Amounts.CallAmount),
+          text(2, situation.Asked.Amounts.ShoveAmount)};
 }
 
 }  // namespace
