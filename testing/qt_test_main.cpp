@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
   ForgetTheDesktop(folder);
   QDir::setCurrent(folder.path());
 
-  quillon::Application application(argc, argv);
+  const auto application = quillon::StartApplication(argc, argv);
   qInstallMessageHandler(FailAtWarning);
   quillon::StartWatchingBoxes();
   return RUN_ALL_TESTS();
