@@ -67,7 +67,7 @@ void CommaLines::LayOut(QTextBlock block) const {
     height += line.height();
   }
   layout.endLayout();
-  block.setLineCount(block.isVisible() ? layout.lineCount() : 0);
+  block.setLineCount(layout.lineCount());
 }
 
 }  // namespace quillon

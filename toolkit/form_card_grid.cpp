@@ -168,9 +168,8 @@ bool FormCardGrid::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::DragEnter:
     case QEvent::DragMove:
-    case QEvent::Drop:
-      if (watched == &container_) return HandlesDrag(dynamic_cast<QDropEvent&>(*event));
-      break;
+    case QEvent::Drop:  // for the container: cells take no drops
+      return HandlesDrag(dynamic_cast<QDropEvent&>(*event));
     default:
       break;
   }

@@ -15,10 +15,9 @@ namespace {
 
 void PressByKey(QWidget& control) {
   if (auto* button = qobject_cast<QAbstractButton*>(&control)) return button->click();
-  auto* ours = qobject_cast<Control*>(&control);
-  if (ours == nullptr) return;
-  if (ours->Use() == ControlUse::kFocusLink && !ours->TakeFocus(Qt::ShortcutFocusReason)) return;
-  ours->Click();
+  auto& ours = dynamic_cast<Control&>(control);
+  if (ours.Use() == ControlUse::kFocusLink && !ours.TakeFocus(Qt::ShortcutFocusReason)) return;
+  ours.Click();
 }
 
 bool IsTextBox(const QWidget* control) {

@@ -81,9 +81,7 @@ void FormChooser::Select(int index) {
 
 FormListBox::FormListBox(QListWidget& list) : list_(list) {
   CutLongNames(list_);
-  connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) Q_EMIT Clicked();
-  });
+  connect(&list_, &QListWidget::currentRowChanged, this, &FormListBox::Clicked);
   // A click below the entries or Ctrl+Space would clear the selection.
   connect(&list_, &QListWidget::itemSelectionChanged, this, [this] {
     QListWidgetItem* item = list_.currentItem();
@@ -100,12 +98,11 @@ FormListBox::FormListBox(QListWidget& list) : list_(list) {
 bool FormListBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
   if (!press && event->type() != QEvent::MouseMove) return QObject::eventFilter(watched, event);
-  const auto* mouse = dynamic_cast<QMouseEvent*>(event);
-  if (mouse == nullptr) return false;
-  if (mouse->modifiers().testFlag(Qt::ControlModifier)) return true;
+  const auto& mouse = dynamic_cast<QMouseEvent&>(*event);
+  if (mouse.modifiers().testFlag(Qt::ControlModifier)) return true;
   if (!press) return false;
   rowBeforePress_ = list_.currentRow();
-  return mouse->button() != Qt::LeftButton;
+  return mouse.button() != Qt::LeftButton;
 }
 
 std::string FormListBox::CurrentText() const {

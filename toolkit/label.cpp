@@ -70,7 +70,7 @@ void Label::SetHalo(const QColor& color) {
 }
 
 void Label::ShowTip() {
-  setToolTip(cut_ && TextSize().width() > place_.width() ? text_ : QString());
+  setToolTip(TextSize().width() > place_.width() ? text_ : QString());
 }
 
 QRect Label::WithinContainer(QRect grown) const {

@@ -21,7 +21,7 @@ constexpr const char* kPointsProperty = "fontPoints";
 // For more than one. Judged by the layout, not by pixels, so that a label is the same at every scale.
 bool HasRoomForLines(const QWidget& control) {
   const int line = FontPixels(control.property(kPointsProperty).toFloat());
-  return line > 0 && PlaceOf(control).Height >= 2 * kTwipsPerPixel * static_cast<float>(line);
+  return PlaceOf(control).Height >= 2 * kTwipsPerPixel * static_cast<float>(line);
 }
 
 void TakePlace(QWidget& control) {

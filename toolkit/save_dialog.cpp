@@ -25,7 +25,6 @@ constexpr std::size_t kLongestName = 255;  // of a file, in bytes: every system 
 // The dialog's "caption | the files it lists" in Qt's form, with the list in brackets.
 QString NameFilter(std::string_view filter) {
   const auto bar = filter.find('|');
-  if (bar == std::string_view::npos) return ToQt(filter);
   return ToQt(filter.substr(0, bar)).trimmed() + QStringLiteral(" (%1)").arg(ToQt(filter.substr(bar + 1)).trimmed());
 }
 
