@@ -253,13 +253,9 @@ bool TellsThatSomethingComesOrGoes(QAccessible::Event type) {
          type == QAccessible::ObjectShow || type == QAccessible::ObjectHide || type == QAccessible::ObjectReorder;
 }
 
-// Every accessibility event passes here. Hidden widgets send none, except that they are hidden.
+// Every accessibility event passes here.
 void PassOn(QAccessibleEvent* event) {
-  const auto* widget = qobject_cast<const QWidget*>(event->object());
-  if (widget != nullptr && IsDecoration(*widget)) return;
-  if (widget != nullptr && !widget->isVisible() && !TellsThatSomethingComesOrGoes(event->type())) return;
-  // The table's interface knows already and would count it twice; nobody else wants it.
-  if (event->type() == QAccessible::TableModelChanged) return;
+  if (!IsForScreenReaders(*event)) return;
   QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(event);
   QAccessible::installUpdateHandler(PassOn);
@@ -271,6 +267,14 @@ void InstallAccessibleControls(Application& application) {
   QAccessible::installFactory(MakeInterface);
   QAccessible::installUpdateHandler(PassOn);
   QObject::connect(&application, &Application::Announced, SendAnnouncement);
+}
+
+bool IsForScreenReaders(const QAccessibleEvent& event) {
+  const auto* widget = qobject_cast<const QWidget*>(event.object());
+  if (widget != nullptr && IsDecoration(*widget)) return false;
+  if (widget != nullptr && !widget->isVisible() && !TellsThatSomethingComesOrGoes(event.type())) return false;
+  // The table's interface knows already and would count it twice; nobody else wants it.
+  return event.type() != QAccessible::TableModelChanged;
 }
 
 void TellNameChanged(Control& control) {
@@ -289,8 +293,7 @@ void TellChecked(Control& control) {
 }
 
 void Announce(QWidget& speaker, const QString& text) {
-  auto* application = dynamic_cast<Application*>(QCoreApplication::instance());
-  if (application != nullptr && speaker.isVisible()) Q_EMIT application->Announced(&speaker, text);
+  if (speaker.isVisible()) Q_EMIT dynamic_cast<Application&>(*qApp).Announced(&speaker, text);
 }
 
 }  // namespace quillon

@@ -5,6 +5,7 @@
 // selection as description; top-level windows are windows. Actions count as keys: while the program ignores keys, they
 // do nothing. Hidden controls say nothing and cannot be pressed.
 
+#include <QAccessible>
 #include <QString>
 
 #include "toolkit/control.h"
@@ -15,6 +16,10 @@ class Application;
 
 /// Registers all that with the accessibility interface. Called once, before the first form is built.
 void InstallAccessibleControls(Application& application);
+
+/// Whether an event of the accessibility interface is passed on to them. Decoration sends none, and a hidden control
+/// only that it comes or goes.
+[[nodiscard]] bool IsForScreenReaders(const QAccessibleEvent& event);
 
 /// Notifies screen readers that the control's spoken text or check state has changed.
 void TellNameChanged(Control& control);

@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <vector>
@@ -85,6 +86,8 @@ TEST(AccessibleControl, IsFoundAmongThePartsOfItsWindowButDecorationIsNot) {
     Picture button(whole);
     button.SetUse(ControlUse::kLink);
     const FocusMark mark(*whole);
+    const QTimer timer(whole);
+    const QDialog ownWindow(whole);
     QLineEdit box(whole);
     const std::vector<QObject*> heard = {&label, &chart, &button, &box};
     ASSERT_EQ(Spoken(*whole).childCount() - before, static_cast<int>(heard.size()));
@@ -113,6 +116,16 @@ TEST(AccessibleControl, SaysItsTextOrTheNameItWasGiven) {
   EXPECT_EQ(NameOf(frame), QStringLiteral("ALL IN Grid"));
 }
 
+// A cell's tool tip is that of the whole grid.
+TEST(AccessibleControl, TellsItsToolTipUnlessItIsACheckBox) {
+  Label label(nullptr);
+  label.setToolTip(QStringLiteral("Click to select"));
+  EXPECT_FALSE(Spoken(label).state().checkable);
+  EXPECT_EQ(Spoken(label).text(QAccessible::Description), QStringLiteral("Click to select"));
+  label.SetCheckState(Qt::Unchecked);
+  EXPECT_EQ(Spoken(label).text(QAccessible::Description), QString());
+}
+
 TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
   Label label(nullptr);
   label.show();
@@ -137,9 +150,11 @@ TEST(AccessibleControl, CanBePressedWhereItCanBeClicked) {
 
 TEST(AccessibleControl, ButtonsTellTheirTextAndState) {
   QPushButton button(QStringLiteral("&Send"));
+  EXPECT_FALSE(Spoken(button).state().defaultButton);
   button.setDefault(true);
   EXPECT_EQ(Spoken(button).role(), QAccessible::Button);
   EXPECT_EQ(NameOf(button), QStringLiteral("Send"));
+  EXPECT_EQ(Spoken(button).text(QAccessible::Description), QString());
   EXPECT_TRUE(Spoken(button).state().defaultButton);
   EXPECT_FALSE(Spoken(button).state().checkable);
   button.setDown(true);
@@ -206,6 +221,8 @@ TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
     EXPECT_EQ(Spoken(chooser).text(QAccessible::Description), chosen);
     EXPECT_EQ(Spoken(chooser).text(QAccessible::Value), chosen);
   }
+  chooser.setWhatsThis(QStringLiteral("All of your ranges"));
+  EXPECT_EQ(Spoken(chooser).text(QAccessible::Help), QStringLiteral("All of your ranges"));
   const QString open = QAccessibleActionInterface::showMenuAction();
   QAccessibleActionInterface& actions = *Spoken(chooser).actionInterface();
   actions.doAction(open);
@@ -217,7 +234,9 @@ TEST(AccessibleControl, ADropDownListTellsItsQuestionAndWhatIsChosen) {
   EXPECT_TRUE(Spoken(chooser).state().expanded);
   ASSERT_EQ(Spoken(chooser).childCount(), 1);
   EXPECT_EQ(Spoken(chooser).child(0)->object(), chooser.view());
+  EXPECT_EQ(Spoken(chooser).child(1), nullptr);
   EXPECT_EQ(Spoken(chooser).indexOfChild(Spoken(chooser).child(0)), 0);
+  EXPECT_EQ(Spoken(chooser).indexOfChild(&Spoken(chooser)), -1);
   actions.doAction(open);
   EXPECT_FALSE(chooser.view()->isVisible());
 }
@@ -294,6 +313,34 @@ TEST(AccessibleControl, ATopWindowIsAWindow) {
   EXPECT_EQ(Spoken(window).role(), QAccessible::Window);
   EXPECT_NE(Spoken(part).role(), QAccessible::Window);
   EXPECT_EQ(Spoken(box).role(), QAccessible::Dialog);
+}
+
+TEST(AccessibleControl, IsSilentWhileItIsHiddenAndAsDecoration) {
+  Label shown(nullptr);
+  shown.show();
+  Label hidden(nullptr);
+  Shape line(ControlKind::kLine, nullptr);
+  line.show();
+  QTimer timer;
+  struct Row {
+    QObject& From;
+    QAccessible::Event Type;
+    bool Told;
+  };
+  for (const Row& row : {Row{shown, QAccessible::NameChanged, true},
+                         {shown, QAccessible::TableModelChanged, false},
+                         {line, QAccessible::NameChanged, false},
+                         {line, QAccessible::ObjectShow, false},
+                         {hidden, QAccessible::NameChanged, false},
+                         {hidden, QAccessible::ObjectCreated, true},
+                         {hidden, QAccessible::ObjectDestroyed, true},
+                         {hidden, QAccessible::ObjectShow, true},
+                         {hidden, QAccessible::ObjectHide, true},
+                         {hidden, QAccessible::ObjectReorder, true},
+                         {timer, QAccessible::NameChanged, true}}) {
+    const QAccessibleEvent event(&row.From, row.Type);
+    EXPECT_EQ(IsForScreenReaders(event), row.Told) << row.From.metaObject()->className() << " " << row.Type;
+  }
 }
 
 TEST(Announcement, IsHeardOnceFromWhatShows) {
