@@ -1,6 +1,7 @@
 #include "toolkit/application.h"
 
 #include <QAccessible>
+#include <QMenu>
 #include <QMessageBox>
 #include <QStyle>
 #include <QTest>
@@ -160,6 +161,17 @@ TEST(Application, GoesOnAnsweringTheFirstActAfterOthersInBetween) {
   EXPECT_EQ(byKey, (std::vector{true, true, false, true}));
 }
 
+TEST(Application, TakesAListThatBelongsToNoWindowForTheWindow) {
+  QMenu list;
+  const QWidget* asking = nullptr;
+  QObject::connect(list.addAction(QStringLiteral("an entry")), &QAction::triggered, &list,
+                   [&asking] { asking = AnsweredAct().Window; });
+  list.popup({10, 10});
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Return);
+  EXPECT_EQ(asking, &list);
+}
+
 TEST(Application, LooksTheSameOnEveryDesktop) {
   EXPECT_NE(qobject_cast<LightStyle*>(QApplication::style()), nullptr);
   EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
@@ -169,7 +181,9 @@ TEST(Application, LooksTheSameOnEveryDesktop) {
 TEST(Application, IsOneToDesktopsAndHasAnotherNameForPeople) {
   EXPECT_EQ(QApplication::applicationName(), QStringLiteral("example.quillon.Quillon"));
   EXPECT_EQ(QApplication::desktopFileName(), QApplication::applicationName());
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(qApp)->text(QAccessible::Name), QStringLiteral("Quillon"));
+  const QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(qApp);
+  EXPECT_EQ(spoken.text(QAccessible::Name), QStringLiteral("Quillon"));
+  EXPECT_EQ(spoken.text(QAccessible::Description), QApplication::applicationFilePath());
 }
 
 }  // namespace

@@ -69,6 +69,10 @@ TEST_F(CommaLinesTest, EndAfterACommaOrASpaceAndNeverWithinAHand) {
   }
 }
 
+TEST_F(CommaLinesTest, OfNoBlockTakeNoRoom) {
+  EXPECT_TRUE(Box.document()->documentLayout()->blockBoundingRect({}).isEmpty());
+}
+
 TEST_F(CommaLinesTest, FollowTheWidthOfTheBox) {
   Box.setPlainText(QStringLiteral("AKs,AQs,AJs,ATs"));
   SetLetters(15);

@@ -176,6 +176,12 @@ TEST_F(ControlTest, IsClickedByEnterAndSpaceOnceEach) {
   EXPECT_EQ(clicks.count(), count);
 }
 
+TEST_F(ControlTest, IsNotClickedByAReleaseOfAPressFromElsewhere) {
+  const QSignalSpy clicks(&link, &Control::Clicked);
+  QTest::mouseRelease(&link, Qt::LeftButton);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
 TEST_F(ControlTest, TellsThatTheKeyboardReachedItButNotThatTheMouseDid) {
   const QSignalSpy byKeyboard(&link, &Control::FocusReached);
   const QSignalSpy byMouse(&focusLink, &Control::FocusReached);

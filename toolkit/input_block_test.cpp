@@ -51,6 +51,9 @@ class WatchedWindow : public QWidget {
   void paintEvent(QPaintEvent* /*event*/) override { Seen += "paint "; }
   void mouseMoveEvent(QMouseEvent* /*event*/) override { Seen += "move "; }
   void mousePressEvent(QMouseEvent* /*event*/) override { Seen += "press "; }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::RightButton) Seen += "right release ";
+  }
   void wheelEvent(QWheelEvent* /*event*/) override { Seen += "wheel "; }
   void keyPressEvent(QKeyEvent* /*event*/) override { Seen += "key "; }
   void inputMethodEvent(QInputMethodEvent* /*event*/) override { Seen += "composed "; }
@@ -190,6 +193,20 @@ TEST_F(InputBlockTest, LosesAClickThatEndsDuringTheBlock) {
   EXPECT_EQ(releases.count(), 1);
   EXPECT_FALSE(button.isDown());
   EXPECT_EQ(clicks.count() + buttonClicks.count(), 0);
+}
+
+TEST_F(InputBlockTest, NeverLearnsOfTheReleaseOfAnotherButtonDuringTheBlock) {
+  const auto letGo = [this] { QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, kSpot.toPoint()); };
+  for (const bool blocked : {true, false}) {
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, kSpot.toPoint());
+    window.Seen.clear();
+    if (blocked) {
+      SeenWhileBlocked(letGo);
+    } else {
+      letGo();
+    }
+    EXPECT_EQ(SeenByNow(), blocked ? "" : "right release ");
+  }
 }
 
 TEST_F(InputBlockTest, ClosesAListThatIsOpenAtItsStart) {

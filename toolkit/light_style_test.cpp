@@ -9,8 +9,10 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyleOption>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -125,6 +127,20 @@ TEST_F(LightStyleTest, DrawsTabsThatStandOutFromWhite) {
   }
 }
 
+TEST_F(LightStyleTest, MarksATabUnderTheMouseUnlessItIsChosen) {
+  const auto look = [](QStyle::State state) {
+    QStyleOptionTab tab;
+    tab.rect = {0, 0, 60, 24};
+    tab.state = state;
+    QImage image(tab.rect.size(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    QApplication::style()->drawControl(QStyle::CE_TabBarTabShape, &tab, &painter);
+    return image.pixelColor(image.rect().center());
+  };
+  EXPECT_NE(look(QStyle::State_MouseOver), look({}));
+  EXPECT_EQ(look(QStyle::State_Selected | QStyle::State_MouseOver), look(QStyle::State_Selected));
+}
+
 // On each side of a control or box the focus makes a clearly visible change.
 TEST_F(LightStyleTest, MarksTheFocusOnEachSide) {
   constexpr double kLeast = 3;
@@ -177,6 +193,8 @@ TEST_F(LightStyleTest, DrawsACheckMarkThatCanBeSeen) {
       EXPECT_NE(image, before) << state << " at " << scale;
       before = image;
     }
+    box.setEnabled(false);
+    EXPECT_NE(box.grab().toImage(), before) << "it is paler at " << scale;
   }
 }
 
@@ -199,24 +217,49 @@ TEST_F(LightStyleTest, GivesAScrollBarAHandleDarkerThanItsGroove) {
   }
 }
 
+TEST_F(LightStyleTest, ShowsNoHandleWhereNothingCanBeScrolled) {
+  struct Row {
+    int Most;
+    int Page;
+    bool Enabled;
+    bool Handle;
+  };
+  for (const Row& row :
+       {Row{100, 50, true, true}, {100, 50, false, false}, {0, 50, true, false}, {0, 0, true, false}}) {
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, row.Most);
+    bar.setPageStep(row.Page);
+    bar.setEnabled(row.Enabled);
+    bar.resize(16, 200);
+    const QImage image = bar.grab().toImage();
+    EXPECT_EQ(image.pixelColor(8, 20) != image.pixelColor(0, 0), row.Handle) << row.Most << " " << row.Enabled;
+  }
+}
+
 TEST_F(LightStyleTest, ScrollsByAPageBesideTheHandleAndByDraggingIt) {
-  QScrollBar bar(Qt::Vertical);
-  bar.setRange(0, 200);
-  bar.setPageStep(50);
-  bar.resize(16, 500);
-  bar.show();
-  QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 480});
-  EXPECT_EQ(bar.value(), 50);
-  QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 5});
-  EXPECT_EQ(bar.value(), 0);
-  QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 50});
-  QTest::mouseMove(&bar, {8, 250});
-  QTest::mouseRelease(&bar, Qt::LeftButton, {}, {8, 250});
-  EXPECT_EQ(bar.value(), 100);
-  QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 250});
-  QTest::mouseMove(&bar, {8, 900});
-  EXPECT_EQ(bar.value(), 200);
-  QTest::mouseRelease(&bar, Qt::LeftButton, {}, {8, 900});
+  for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+    const bool lying = orientation == Qt::Horizontal;
+    const auto at = [lying](int along) { return lying ? QPoint(along, 8) : QPoint(8, along); };
+    QScrollBar bar(orientation);
+    bar.setRange(0, 200);
+    bar.setPageStep(50);
+    bar.resize(lying ? QSize(500, 16) : QSize(16, 500));
+    bar.show();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, at(480));
+    EXPECT_EQ(bar.value(), 50);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, at(5));
+    EXPECT_EQ(bar.value(), 0);
+    const QColor resting = bar.grab().toImage().pixelColor(at(50));
+    QTest::mousePress(&bar, Qt::LeftButton, {}, at(50));
+    EXPECT_LT(bar.grab().toImage().pixelColor(at(50)).lightness(), resting.lightness()) << "it is held";
+    QTest::mouseMove(&bar, at(250));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, at(250));
+    EXPECT_EQ(bar.value(), 100);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, at(250));
+    QTest::mouseMove(&bar, at(900));
+    EXPECT_EQ(bar.value(), 200);
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, at(900));
+  }
 }
 
 TEST_F(LightStyleTest, EndsANameThatIsTooLongForItsBoxWithAnEllipsis) {

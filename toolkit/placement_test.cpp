@@ -1,5 +1,6 @@
 #include "toolkit/placement.h"
 
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <array>
 #include <cmath>
@@ -71,6 +72,18 @@ TEST_F(Placement, KeepsASizeThatTheUserHasGiven) {
   EXPECT_EQ(form.size(), QSize(667, 500));
   form.resize(10, 10);
   EXPECT_EQ(SizeOf(form), (TwipSize{9000, 6000})) << "the minimum";
+}
+
+TEST_F(Placement, LeavesAMaximizedWindowAsLargeAsItIs) {
+  QWidget form;
+  SetResizable(form, {9000, 6000}, {15005, 9050});
+  form.showMaximized();
+  QCoreApplication::processEvents();
+  const QSize whole = form.size();
+  ASSERT_GT(whole.width(), 1000);
+  ShowAtScale(1.5);
+  EXPECT_EQ(form.size(), whole);
+  EXPECT_EQ(SizeOf(form), (TwipSize{15005, 9050})) << "the size that it goes back to";
 }
 
 TEST_F(Placement, LeavesGapsThatAreAlikeToAPixel) {

@@ -54,6 +54,15 @@ TEST_F(PopUpMenuTest, MarksTheFirstEntryThatCanBeChosenWhereAKeyHasBroughtItUp) 
   EXPECT_EQ(done_, "pasted");
 }
 
+TEST_F(PopUpMenuTest, MarksNothingWhereNothingCanBeChosen) {
+  BindKey(form_, Qt::Key_F2, [this] {
+    PopUpMenu(form_, {10, 10}, {{.Text = QStringLiteral("Copy"), .Action = [] {}, .Enabled = false}});
+  });
+  QTest::keyClick(form_.windowHandle(), Qt::Key_F2);
+  ASSERT_NE(Menu(), nullptr);
+  EXPECT_EQ(Menu()->activeAction(), nullptr);
+}
+
 TEST_F(PopUpMenuTest, DoesOneEntryAndIsGone) {
   Open();
   QMenu& menu = *Menu();

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "testing/bring_to_front.h"
+#include "toolkit/twip_geometry.h"
 
 namespace quillon {
 namespace {
@@ -36,6 +37,15 @@ TEST(RichTextBox, TakesPastedTextAsPlainText) {
   EXPECT_EQ(box.toPlainText(), QStringLiteral("AA"));
   box.selectAll();
   EXPECT_EQ(box.fontWeight(), QFont::Normal);
+}
+
+TEST(RichTextBox, IsSetOnPaperOfTheProgramsScale) {
+  const ScaledPaper paper;
+  for (const double scale : {1.5, 1.0}) {
+    SetPixelScale(scale);
+    for (const int dots : {paper.logicalDpiX(), paper.logicalDpiY(), paper.physicalDpiX(), paper.physicalDpiY()})
+      EXPECT_EQ(dots, 96 * scale);
+  }
 }
 
 TEST(RichTextBox, IsLeftWithTab) {

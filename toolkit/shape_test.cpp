@@ -70,6 +70,10 @@ TEST(Shape, WithRoundedCornersLeavesTheCornersFree) {
   for (const QPoint corner : {QPoint(0, 0), QPoint(39, 0), QPoint(0, 29), QPoint(39, 29)})
     EXPECT_EQ(image.pixelColor(corner), QColor(Qt::white));
   EXPECT_EQ(image.pixelColor(20, 15), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(20, 0), QColor(Qt::black));
+
+  shape.SetLineStyle(LineStyle::kNone);
+  EXPECT_EQ(Drawn(shape, {40, 30}).pixelColor(20, 0), QColor(Qt::red));
 }
 
 TEST(Shape, ThatIsALineIsOneThroughAndThrough) {
