@@ -159,7 +159,7 @@ void BalancedPage::LeaveBox(TextBox& box) {
 void BalancedPage::Ask() {
   const BalanceTexts texts = Texts();
   const bool onlyHis = onlyHis_.isChecked();
-  if (!situation_ || (asked_ == texts && askedOnlyHis_ == onlyHis)) return;
+  if (asked_ == texts && askedOnlyHis_ == onlyHis) return;
   asked_ = texts;
   askedOnlyHis_ = onlyHis;
   work_.Drop();

@@ -74,7 +74,6 @@ void CurvePage::Show(const StudySituation& situation) {
 
 void CurvePage::ShowHand(std::int16_t index) {
   hands_->setText(ToQt(HandLabel(index)));
-  if (!situation_) return;
   answers_ = true;
   Read();
   setFocus(Qt::OtherFocusReason);
@@ -144,7 +143,7 @@ QStringList CurvePage::Typed() const {
 
 // Passing through a box without typing changes nothing.
 void CurvePage::Leave(const TextBox& box) {
-  if (!situation_ || Typed() == read_) return;
+  if (Typed() == read_) return;
   if (&box != hands_) hasOwnSteps_ = true;
   answers_ = true;
   Read();

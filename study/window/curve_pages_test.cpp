@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPushButton>
 #include <QTest>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
@@ -190,6 +191,21 @@ TEST_F(HowFarPageTest, SavesThePictureAndTheCompanionsTable) {
   EXPECT_EQ(Told(), "Saved as my picture.svg.");
   SaveAs(Qt::ControlModifier | Qt::ShiftModifier, "K9o shove.csv", "table.csv");
   EXPECT_EQ(FileOf("table.csv"), curves.Csv());
+}
+
+TEST_F(HowFarPageTest, ACancelSavesNothing) {
+  Open(Shove());
+  ExpectDialog([](QDialog& dialog) { dialog.reject(); });
+  QTest::keyClick(&page, Qt::Key_S, Qt::ControlModifier);
+  VerifyExpectedBoxes();
+  EXPECT_EQ(Told(), "");
+  EXPECT_TRUE(std::filesystem::is_empty(program.Folder().Path / "Saved Grids"));
+}
+
+TEST_F(HowFarPageTest, CopiesAndSavesNothingBeforeThereIsAFigure) {
+  for (QPushButton* button : page.findChildren<QPushButton*>())
+    button->click();
+  EXPECT_EQ(Told(), "");
 }
 
 // Pressing Enter twice must not overwrite the picture of another situation.

@@ -53,6 +53,27 @@ TEST_F(FigureViewTest, SaysHowToReadItUntilAPointIsReached) {
   EXPECT_EQ(Words(), "Point at a line, or go along it with the arrow keys.");
 }
 
+TEST_F(FigureViewTest, HasNoPointWithoutAFigure) {
+  MoveTo({100, 100});
+  View.clearFocus();
+  View.setFocus(Qt::TabFocusReason);
+  const HeardAnnouncements heard;
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Escape})
+    Press(key);
+  EXPECT_EQ(View.Point(), std::nullopt);
+  EXPECT_TRUE(heard.Texts().empty());
+  QImage empty = View.Picture();
+  empty.fill(Qt::white);
+  EXPECT_EQ(View.Picture(), empty);
+}
+
+TEST_F(FigureViewTest, BeginsAtTheFirstPlaceWithoutAMark) {
+  Figure figure = Hands();
+  figure.Marks.clear();
+  View.Show(figure);
+  EXPECT_EQ(View.Point(), (FigurePoint{0, 0}));
+}
+
 TEST_F(FigureViewTest, FindsThePointNearestToTheMouse) {
   View.Show(Hands());
   for (const double scale : {0.75, 1.0, 1.5, 3.0}) {

@@ -131,16 +131,14 @@ void StudyForm::Offer(const Analysis& analysis) {
 }
 
 void StudyForm::ShowPage(StudyTopic topic, std::optional<std::int16_t> hand) {
-  const auto found = std::ranges::find(leaves_, topic, &Leaf::Topic);
-  const Leaf& leaf = found == leaves_.end() ? leaves_.front() : *found;
+  const Leaf& leaf = LeafOf(topic);
   tabs_.setCurrentWidget(leaf.Stack);
   FocusPage();
   if (hand && leaf.Stack->currentWidget() == leaf.Page) leaf.Page->ShowHand(*hand);
 }
 
 StudyPage* StudyForm::Page(StudyTopic topic) const {
-  const auto found = std::ranges::find(leaves_, topic, &Leaf::Topic);
-  return found == leaves_.end() ? nullptr : found->Page;
+  return LeafOf(topic).Page;
 }
 
 std::vector<IniSetting> StudyForm::PlaceSettings() const {
@@ -167,15 +165,18 @@ void StudyForm::FollowOffer() {
   Announce(*this, about_.accessibleName());
 }
 
+const StudyForm::Leaf& StudyForm::LeafOf(StudyTopic topic) const {
+  return *std::ranges::find(leaves_, topic, &Leaf::Topic);
+}
+
 StudyForm::Leaf& StudyForm::Current() {
   return leaves_.at(static_cast<std::size_t>(tabs_.currentIndex()));
 }
 
 void StudyForm::FocusPage() {
   const Leaf& leaf = Current();
-  const bool takesIt = leaf.Stack->currentWidget() == leaf.Page && leaf.Page->focusProxy() != nullptr;
   QWidget* place = tabs_.tabBar();
-  if (takesIt) place = leaf.Page;
+  if (leaf.Stack->currentWidget() == leaf.Page) place = leaf.Page;
   place->setFocus(Qt::OtherFocusReason);
 }
 

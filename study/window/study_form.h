@@ -38,7 +38,7 @@ class StudyForm : public QWidget {
   /// Reports a finished analysis: the first is followed at once; a later one is only offered, if its situation differs.
   void Offer(const Analysis& analysis);
 
-  /// Switches to a page and focuses it, and there to a hand; to the first page if the window does not have this one.
+  /// Switches to a page and focuses it, and there to a hand.
   void ShowPage(StudyTopic topic, std::optional<std::int16_t> hand = {});
 
   /// The window's place as settings; none while it is maximised.
@@ -46,7 +46,7 @@ class StudyForm : public QWidget {
 
   [[nodiscard]] QTabWidget& Tabs() const { return tabs_; }
 
-  /// The page of a topic; null if the window has none.
+  /// The page of a topic.
   [[nodiscard]] StudyPage* Page(StudyTopic topic) const;
 
  Q_SIGNALS:
@@ -72,6 +72,7 @@ class StudyForm : public QWidget {
   void FollowOffer();
   void ShowCurrent();
   void FocusPage();
+  [[nodiscard]] const Leaf& LeafOf(StudyTopic topic) const;
   [[nodiscard]] Leaf& Current();
 
   DialogSurroundings around_;

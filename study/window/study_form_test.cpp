@@ -64,6 +64,26 @@ TEST_F(StudyWindow, TakesTheFirstAnalysisAndOffersTheNext) {
   EXPECT_FALSE(Follow().isVisible()) << "the one shown is the last again";
 }
 
+TEST_F(StudyWindow, FollowsNothingWhereNothingIsOffered) {
+  Open();
+  Form.Follow(sample::CallState());
+  const HeardAnnouncements heard;
+  Press(Qt::Key_F5);
+  EXPECT_TRUE(heard.Texts().empty());
+}
+
+TEST_F(StudyWindow, GoesRoundItsPagesByKey) {
+  Open();
+  std::string pages;
+  for (const Qt::KeyboardModifiers held : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier)}) {
+    for (int i = 0; i < Form.Tabs().count(); ++i) {
+      Press(held == Qt::NoModifier ? Qt::Key_Tab : Qt::Key_Backtab, held | Qt::ControlModifier);
+      pages += std::to_string(Form.Tabs().currentIndex());
+    }
+  }
+  EXPECT_EQ(pages, "12303210");
+}
+
 TEST_F(StudyWindow, SaysWhereEquitiesAloneHaveNothing) {
   Open();
   Form.Follow(sample::RaiseState());
@@ -114,6 +134,13 @@ TEST_F(StudyWindow, RemembersItsPlaceAndSize) {
   EXPECT_EQ(again.pos(), QPoint(31, 47));
   ShowAtScale(1.5);
   EXPECT_EQ(again.size(), QSize(1502, 1055));
+}
+
+TEST_F(StudyWindow, RemembersNoPlaceWhileItIsMaximized) {
+  Form.showMaximized();
+  Press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_FALSE(Form.isVisible());
+  EXPECT_EQ(ReadIniValue("Study", "Width", Program.Folder()), "");
 }
 
 // Its minimum size fits the pages, whatever the ranges are called.

@@ -1,7 +1,7 @@
 #pragma once
 
 // A page of the study window. It keeps the situation that it was last shown. A hidden page gets no calls: it is shown
-// the situation when the player switches to it.
+// the situation when the player switches to it. Its focus proxy is the control that the player begins with.
 
 #include <QString>
 #include <QWidget>

@@ -94,6 +94,16 @@ TEST_F(Work, RestsWhileItsPageIsHidden) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return Ends == 1; }));
 }
 
+TEST_F(Work, StaysStoppedWhileItsPageIsHiddenAndShownAgain) {
+  Start(200);
+  Button().click();
+  const int steps = Steps;
+  Page.hide();
+  Page.show();
+  QTest::qWait(40);
+  EXPECT_EQ(Steps, steps);
+}
+
 TEST_F(Work, GivesWayToOtherWork) {
   Start(200);
   Button().click();
