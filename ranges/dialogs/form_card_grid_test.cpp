@@ -92,6 +92,20 @@ TEST_F(FormCardGridTest, ARepeatOfAHeldShiftKeyIsNoNewPress) {
   ShiftUp();
 }
 
+// From a source without times, such as a keyboard on the screen.
+TEST_F(FormCardGridTest, EachOfTheTwoShiftKeysIsAPress) {
+  const auto press = [this](quint32 scanCode, quint32 symbol) {
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier, scanCode, symbol, 0);
+    QCoreApplication::sendEvent(&Form(), &event);
+  };
+  Stage.ShiftHeld = true;
+  press(0x2A, 0xFFE1);
+  Cell("AJs");
+  press(0x36, 0xFFE2);
+  Cell("QQ");
+  EXPECT_EQ(GridText(), TextWith("AA KK QQ AKs AQs AJs"));
+}
+
 // Both Shift keys: one pressed while another program had the keyboard and still held, and one pressed and released
 // here. The window system's event reaches the window and then the control in it.
 TEST_F(FormCardGridTest, AReleaseThatComesTwiceIsOneRelease) {

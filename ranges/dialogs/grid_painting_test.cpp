@@ -117,10 +117,17 @@ TEST_F(PaintingTest, TheMenuComesAllOverTheGridAndNowhereElse) {
     EXPECT_EQ(OpenedMenu(Form()) != nullptr, c.comes) << c.rule;
     if (OpenedMenu(Form()) != nullptr) CloseMenu(Form());
   }
+  QWidget panel(&Form());
+  panel.setGeometry(cell);
+  panel.show();
+  OpenMenu(Form(), cell.center());
+  EXPECT_EQ(OpenedMenu(Form()), nullptr) << "over what is in front of the grid";
 }
 
 TEST_F(PaintingTest, TheMenuComesByTheKeyboardWithItsFirstEntryMarked) {
   Cell("AKs");
+  Press(Qt::Key_F10);
+  ASSERT_EQ(OpenedMenu(Form()), nullptr);
   Press(Qt::Key_F10, Qt::ShiftModifier);
   ASSERT_NE(OpenedMenu(Form()), nullptr);
   QTest::keyClick(OpenedMenu(Form()), Qt::Key_Return);

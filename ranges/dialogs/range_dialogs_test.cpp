@@ -103,6 +103,18 @@ TEST(RangeDialogs, AChosenRangeThatIsDeletedLeavesTheBlankEntry) {
   EXPECT_FALSE(stage.Main.OffersEdit(1));
 }
 
+// With another window in front, Qt would leave it there.
+TEST(RangeDialogs, TheFocusLeavesALinkThatGoesWithItsRange) {
+  DialogStage stage;
+  stage.Dialogs.RefreshLists();
+  stage.List(0).SelectEntry("Tight");
+  Label& edit = stage.Main.Controls.LabelAt("lblEditRange", 0);
+  edit.setFocus();
+  ASSERT_EQ(stage.Main.focusWidget(), &edit);
+  stage.List(0).SelectEntry("");
+  EXPECT_EQ(stage.Main.focusWidget(), &stage.Main);
+}
+
 TEST(RangeDialogs, ANewRangeStandsInTheManagersListAtOnceAndDropsItsChanges) {
   DialogStage stage;
   ManagerForm& manager = stage.OpenManager();

@@ -103,7 +103,7 @@ void AboutView::SendFeedback() {
 void AboutView::ShowCurrentVersion(std::string_view caption) {
   Label& label = controls_.LabelAt("lblCurrentVersion");
   label.SetText(ToQt(caption));
-  if (label.isVisible()) label.repaint();
+  label.repaint();
 }
 
 std::string AboutView::FeedbackText() const {

@@ -100,6 +100,15 @@ TEST_F(DetailsInWindow, TheReportIsTheCompanionsCharacterForCharacter) {
   }
 }
 
+TEST_F(DetailsInWindow, AHandReplacesNothingThatIsSelected) {
+  const std::array<std::string, 1> hands = {"AKs"};
+  ShowDetailsOf(sample::CallState());
+  PickForum();
+  Report().selectAll();
+  PickHand("AKs");
+  EXPECT_EQ(ReportText(), InFormat(kAnalysisFormats, "2+2", {sample::CallState(), hands}));
+}
+
 TEST_F(DetailsInWindow, HeadingsAreArialAndTheBodyIsFixedWidth) {
   ShowDetailsOf(sample::CallState());
   for (const char* heading : {"Situation", "Details", "Calculations"}) {

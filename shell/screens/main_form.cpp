@@ -46,9 +46,9 @@ MainControls BuildMainControls(QWidget& form) {
   return MainControls(form);
 }
 
+// For a control that begins no higher than the other.
 bool IsLeftOnTheSameLine(const QWidget& one, const QWidget& other) {
-  const bool sameLine = one.y() <= other.geometry().bottom() && other.y() <= one.geometry().bottom();
-  return sameLine && one.x() < other.x();
+  return one.y() <= other.geometry().bottom() && one.x() < other.x();
 }
 
 // The tab stops of a table: from top to bottom, and within a line from left to right. On a screen with an Analyze

@@ -1,7 +1,6 @@
 #include "shell/screens/navigation_view.h"
 
 #include <QAbstractButton>
-#include <QPlainTextEdit>
 #include <cassert>
 
 #include "toolkit/application.h"
@@ -27,7 +26,7 @@ Frame& ScreenOfName(const MainControls& controls, std::string_view name) {
 // first control on activation.
 void HideScreen(Frame& screen, QWidget& form) {
   QWidget* busy = form.focusWidget();
-  if (busy != nullptr && screen.isAncestorOf(busy)) {
+  if (screen.isAncestorOf(busy)) {
     form.setFocus(Qt::OtherFocusReason);
     // With another program in front there is no focus to lose, but the box must still handle being left.
     if (auto* box = qobject_cast<TextBox*>(busy)) box->Leave();
@@ -40,16 +39,11 @@ bool IsJustPressed(const QWidget& control) {
   return ours != nullptr ? ours->CanBeClicked() : qobject_cast<const QAbstractButton*>(&control) != nullptr;
 }
 
-bool IsJustRead(const QWidget& control) {
-  const auto* memo = qobject_cast<const QPlainTextEdit*>(&control);
-  return memo != nullptr && memo->isReadOnly();
-}
-
 // In tab order.
 QWidget* FirstToWorkWith(const Frame& screen) {
   for (QWidget* control = screen.nextInFocusChain(); control != &screen; control = control->nextInFocusChain()) {
     const bool reached = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisibleTo(control->window());
-    if (reached && screen.isAncestorOf(control) && !IsJustPressed(*control) && !IsJustRead(*control)) return control;
+    if (reached && screen.isAncestorOf(control) && !IsJustPressed(*control)) return control;
   }
   return nullptr;
 }

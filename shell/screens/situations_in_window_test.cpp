@@ -227,6 +227,16 @@ TEST_F(SituationsInWindow, AreSavedAndOpenedWithTheMouseAlone) {
   EXPECT_EQ(Screen(), "Equity Only");
 }
 
+TEST_F(SituationsInWindow, NoMenuComesWhileTheLeftButtonIsHeld) {
+  const QPoint place(Form.width() - 20, Form.height() - 60);
+  QTest::mousePress(Form.windowHandle(), Qt::LeftButton, {}, place);
+  OpenMenu(Form, place);
+  EXPECT_EQ(OpenedMenu(Form), nullptr);
+  QTest::mouseRelease(Form.windowHandle(), Qt::LeftButton, {}, place);
+  OpenMenu(Form, place);
+  EXPECT_NE(OpenedMenu(Form), nullptr);
+}
+
 TEST_F(SituationsInWindow, TheMenuComesByTheKeyboardToo) {
   Open(kEquityNav);
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, Form.mapToGlobal(QPoint(10, 10)));

@@ -122,6 +122,16 @@ TEST_F(StudyInWindow, HasItsPlaceStoredWhenTheMainWindowCloses) {
   EXPECT_THAT(Settings(), HasSubstr("Width=15000\r\n"));
 }
 
+TEST_F(StudyInWindow, HasItsPlaceStoredOnceWhereItWasClosedBefore) {
+  Press(Qt::Key_T, Qt::ControlModifier);
+  Study().close();
+  EXPECT_THAT(Settings(), HasSubstr("[Study]"));
+  WriteSettings("");
+  ComeToFront();
+  Press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_THAT(Settings(), Not(HasSubstr("[Study]")));
+}
+
 TEST_F(StudyInWindow, LeavesTheSettingsAloneWhereItWasNeverOpen) {
   Press(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_THAT(Settings(), Not(HasSubstr("[Study]")));
