@@ -39,6 +39,8 @@ struct HandResult {
 /// The cells of a row after its key, from column 1 on.
 inline constexpr std::array kResultCells = {&HandResult::ExpectedValue, &HandResult::Equity, &HandResult::FoldShare};
 inline constexpr std::int16_t kLastColumn = kResultCells.size();
+static_assert(kResultCells[kExpectedValueColumn - 1] == &HandResult::ExpectedValue);
+static_assert(kResultCells[kEquityColumn - 1] == &HandResult::Equity);
 
 /// The table with `value` added to cell `column` of the row with the key `label`; an empty cell counts as 0, so writing
 /// twice adds up. The row then has the cells 0 to `lastColumn`, each followed by a tab, and cells beyond are dropped.

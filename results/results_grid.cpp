@@ -119,9 +119,9 @@ CellColors GridColors(const Analysis& analysis) {
   const double low = GetHandInfo(table, WorstHand(table, column), column);
 
   CellColors colors{};
-  std::ranges::transform(GetHandResults(table), colors.begin(), [&](const HandResult& hand) {
-    return CellColor(column, column == kEquityColumn ? hand.Equity : hand.ExpectedValue, high, low);
-  });
+  const auto cell = kResultCells.at(static_cast<std::size_t>(column) - 1);
+  std::ranges::transform(GetHandResults(table), colors.begin(),
+                         [&](const HandResult& hand) { return CellColor(column, hand.*cell, high, low); });
   return colors;
 }
 
