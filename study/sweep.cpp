@@ -13,8 +13,8 @@ constexpr std::size_t kMostDigits = 15;
 constexpr std::size_t kParts = 3;
 
 struct Decimal {
-  std::int64_t digits = 0;
-  int decimals = 0;
+  std::int64_t digits;
+  int decimals;
 };
 
 bool IsDigit(char c) {
@@ -26,9 +26,8 @@ std::optional<Decimal> ReadDecimal(std::string_view text) {
   std::string digits(text.substr(0, point));
   if (point < text.size()) digits += text.substr(point + 1);
   if (digits.empty() || digits.size() > kMostDigits || !std::ranges::all_of(digits, IsDigit)) return std::nullopt;
-  Decimal decimal;
+  Decimal decimal{.digits = 0, .decimals = static_cast<int>(digits.size() - point)};
   std::from_chars(digits.data(), digits.data() + digits.size(), decimal.digits);
-  decimal.decimals = static_cast<int>(digits.size() - point);
   return decimal;
 }
 
@@ -85,7 +84,7 @@ std::variant<Steps, std::string> Steps::Read(std::string_view text) {
 
 std::variant<Steps, std::string> Steps::Between(std::string_view from, std::string_view to, std::string_view step) {
   const std::array<std::string_view, kParts> parts = {from, to, step};
-  std::array<Decimal, kParts> decimals;
+  std::array<Decimal, kParts> decimals{};
   for (std::size_t i = 0; i < kParts; ++i) {
     const std::optional<Decimal> decimal = ReadDecimal(parts[i]);
     if (!decimal) return "\"" + std::string(parts[i]) + "\" is not a plain decimal of at most 15 digits";
