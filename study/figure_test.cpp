@@ -60,6 +60,7 @@ TEST(RoundTicks, AreRoundAndWithin) {
            {0, 20, 5, {0, 5, 10, 15, 20}},
            {-0.3, 1.1, 7, {-0.2, 0, 0.2, 0.4, 0.6, 0.8, 1}},
            {7, 7, 5, {7}},
+           {0, 27.5, 5, {0, 10, 20}},
            {0.1, 0.5, 4, {0.1, 0.2, 0.3, 0.4, 0.5}},
            {1234, 5678, 5, {2000, 3000, 4000, 5000}},
            {1e15, 1e15 + 1, 8, {}},
@@ -90,7 +91,8 @@ TEST(Figure, TellsAPointInWords) {
     EXPECT_EQ(PointWords(figure, c.point), c.words) << c.rule;
   figure.Across.Unit = "%";
   figure.Across.Pot = 0;
-  EXPECT_EQ(PointWords(figure, {0, 2}), "K9o at 3.5%: -2 chips, -1 pots");
+  figure.Up.Pot = 1;
+  EXPECT_EQ(PointWords(figure, {0, 2}), "K9o at 3.5%: -2 chips, -2 pots");
 }
 
 TEST(Figure, TellsItselfInWords) {
@@ -98,13 +100,15 @@ TEST(Figure, TellsItselfInWords) {
 }
 
 TEST(FigureLayout, FindsThePointNearestToASpot) {
-  const Figure figure = TwoHands();
+  Figure figure = TwoHands();
+  figure.Across.Low = 0.9;
+  figure.Lines.push_back({.Name = "72o", .Values = {-1, -3, -3.5, -3.9}});
   const FigureLayout layout(figure, {800, 500});
   for (std::size_t line = 0; line < figure.Lines.size(); ++line) {
     for (std::size_t place = 0; place < figure.Places.size(); ++place) {
       const FigurePoint point{line, place};
       const FigureSpot spot = layout.SpotOf(point);
-      const bool shared = place == 1;  // both lines meet there, and the earlier is read
+      const bool shared = line == 1 && place == 1;  // two lines meet there, and the earlier is read
       EXPECT_EQ(layout.Nearest(spot), (FigurePoint{shared ? 0 : line, place})) << line << " " << place;
       EXPECT_EQ(layout.Nearest({spot.X + 20, spot.Y + 5}).Place, place) << line << " " << place;
     }
@@ -116,7 +120,7 @@ TEST(FigureLayout, FindsThePointNearestToASpot) {
   };
   for (const Case& c : std::vector<Case>{
            {"left of the plot", {-100, layout.PlotStart().Y}, {0, 0}},
-           {"right of it", {1e9, layout.PlotEnd().Y}, {0, 3}},
+           {"right of it", {1e9, layout.PlotEnd().Y}, {2, 3}},
            {"above it", {layout.PlotEnd().X, -1e9}, {1, 3}},
        })
     EXPECT_EQ(layout.Nearest(c.spot), c.point) << c.rule;
@@ -128,9 +132,11 @@ TEST(FigureLayout, FindsAPointOnAnyScale) {
   figure.Places = {"7"};
   figure.Across = {.Title = "", .Low = 7, .High = 7};
   for (FigureLine& line : figure.Lines)
-    line.Values = {kMost};
+    line.Values = {kMost / 2};
   figure.Up = {.Title = "", .Low = -kMost, .High = kMost};
-  EXPECT_EQ(FigureLayout(figure, {400, 300}).Nearest({10, 10}), (FigurePoint{0, 0}));
+  const FigureLayout layout(figure, {400, 300});
+  EXPECT_EQ(layout.Nearest({10, 10}), (FigurePoint{0, 0}));
+  EXPECT_DOUBLE_EQ(layout.SpotOf({0, 0}).Y, 0.75 * layout.PlotStart().Y + 0.25 * layout.PlotEnd().Y);
 }
 
 TEST(FigureLayout, CountsInPotsAboveAndToTheRight) {
@@ -267,11 +273,58 @@ TEST(FigureLayout, LiesUnderAnother) {
   EXPECT_THAT(both, HasSubstr("height=\"" + NumberText(above.Size().Height + below.Size().Height) + "\""));
 }
 
+// More lines than there are colours and dashes, each with more points than have dots.
+Figure ManyLines() {
+  Figure figure{.Title = "Many",
+                .Across = {.Title = "Call", .Low = 0, .High = 11},
+                .Up = {.Title = "Value", .Low = 0, .High = 6},
+                .Places = {},
+                .Lines = {},
+                .Marks = {{.At = 4, .Text = "below all lines"}}};
+  for (int place = 0; place < 26; ++place)
+    figure.Places.push_back(NumberText(place * 0.44));
+  for (int line = 0; line < 34; ++line) {
+    FigureLine& added = figure.Lines.emplace_back(FigureLine{.Name = "Line " + std::to_string(line)});
+    for (int place = 0; place < 26; ++place)
+      added.Values.push_back((line + place) % 7);
+  }
+  return figure;
+}
+
+TEST(FigureLayout, DrawsThePointsThatLieApartAndTheLast) {
+  Figure figure = TwoHands();
+  figure.Places = {"1", "1.00001", "1.00002"};
+  figure.Lines = {{.Name = "", .Values = {0, 1, 2}}};
+  const FigureLayout layout(figure, {800, 500});
+  EXPECT_EQ(PartsOf<FigureCurve>(layout).at(0).Spots, (std::vector{layout.SpotOf({0, 0}), layout.SpotOf({0, 2})}));
+}
+
+TEST(FigureLayout, HasDotsUpToTwentyFivePoints) {
+  for (const int count : {25, 26}) {
+    Figure figure = ManyLines();
+    figure.Places.resize(static_cast<std::size_t>(count));
+    EXPECT_EQ(PartsOf<FigureCurve>(FigureLayout(figure, {800, 500})).at(0).Dotted, count == 25);
+  }
+}
+
 TEST(FigureSvg, IsTheGoldenPicture) {
   std::vector<Figure> figures = {TwoHands(), TwoHands()};
   figures[0].Subtitle = "He calls with \"Tight\"";
   figures[1].Across.Pot = 0;
   AlignFigures(figures);
+  figures.push_back({.Title = "",
+                     .Across = {.Title = "", .Low = 1000000, .High = 1000010, .Pot = 1},
+                     .Up = {.Title = "Share", .Low = 0, .High = 0.5, .Pot = 1},
+                     .Places = {"1000000", "1000010"},
+                     .Lines = {{.Name = "A name of many letters", .Values = {0.1, 0.5}}}});
+  figures.push_back({.Title = "Long numbers",
+                     .Across = {.Title = "Shove", .Low = 1000000, .High = 1000008},
+                     .Up = {.Title = "Value", .Low = 0, .High = 9},
+                     .Places = {"1000000", "1000008"},
+                     .Lines = {{.Name = "AA", .Values = {9, 0}},
+                               {.Name = "KK", .Values = {0, 1}, .Note = "from 1000004", .Limit = 1000004}},
+                     .Marks = {{.At = 1000000.5, .Text = "now"}, {.At = 1000008, .Text = "end"}}});
+  figures.push_back(ManyLines());
   ExpectGolden(FigureSvg(figures), QUILLON_GOLDEN_FOLDER "/figures.svg");
 }
 
