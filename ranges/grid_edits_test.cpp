@@ -57,6 +57,7 @@ TEST(GridEdits, SelectAsAClickDoes) {
            {"everything", EverySelectedCell(false), EveryHandAt(1)},
            {"the opposite has neither full nor half", InvertedCells(shown, false), TextWith(others)},
            {"the opposite, with \"Maybe\"", InvertedCells(shown, true), TextWith("", others)},
+           {"the opposite of nothing", InvertedCells(UnselectedCells(), false), EveryHandAt(1)},
            {"the opposite of everything", InvertedCells(EverySelectedCell(true), true), EveryHandAt(0)},
        }) {
     EXPECT_EQ(RangeTextFromGrid(c.cells), c.text) << c.rule;

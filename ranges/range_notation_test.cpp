@@ -147,6 +147,7 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"AA JJ -88", "AA JJ -88\n      ^ " + spaced},
            {"JJ- 88", "JJ- 88\n^ " + spaced},
            {"JJ, -88", "JJ, -88\n    ^ " + half},
+           {"JJ,-88", "JJ,-88\n   ^ " + half},
            {"QQ-AKs", "QQ-AKs\n^ " + run},
            {"AQs-A9o", "AQs-A9o\n^ " + run},
            {"76s-53s", "76s-53s\n^ " + run},
@@ -155,6 +156,7 @@ TEST(RangeNotation, AnErrorMarksTheItem) {
            {"1e999%", "1e999%\n^ a share is from 0% to 100%"},
            {"AA:2", "AA:2\n^ " + weight},
            {"AA:", "AA:\n^ " + weight},
+           {"AA:%", "AA:%\n^ " + weight},
            {"AA:-1", "AA:-1\n^ " + weight},
            {"AA:nan", "AA:nan\n^ " + weight},
            {"-5%", "-5%\n^ " + half},
@@ -202,6 +204,7 @@ TEST(RangeNotation, OfALongLineTheMarkShowsWhatIsAroundThePlace) {
   EXPECT_EQ(Read(before + "XX," + before), before.substr(0, 60) + "XX," + before.substr(0, 57) + "\n" +
                                                std::string(60, ' ') + "^ \"X\" is not a rank");
   EXPECT_EQ(MarkedPlace("AA,KK,XX,QQ,JJ", {6, "wrong"}, 3), "KK,XX,\n   ^ wrong");
+  EXPECT_EQ(MarkedPlace("A½XX", {3, "wrong"}, 1), "X\n^ wrong") << "half a character is left out";
 }
 
 TEST(RangeNotation, ANotationWithoutEndIsRefused) {

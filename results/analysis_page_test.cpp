@@ -92,12 +92,18 @@ TEST_P(EachPage, TellsInEachCellWhatTheHoverPanelTells) {
   }
 }
 
+TEST_P(EachPage, HasThirteenRowsOfThirteenCellsInItsGrid) {
+  const auto cells = GridCells(AnalysisPage(GetParam().analysis()));
+  for (std::size_t i = 0; i + 1 < cells.size(); ++i)
+    EXPECT_EQ(cells.at(i).ends_with("</td>\n</tr>\n<tr>"), i % 13 == 12) << i;
+}
+
 TEST_P(EachPage, ShowsSituationExplanationAndARowForEachHand) {
   const Analysis analysis = GetParam().analysis();
   const std::string page = AnalysisPage(analysis);
   EXPECT_THAT(page, HasSubstr("<dt>His Range</dt><dd><b>" + analysis.RangeName + "</b><br>"));
   const GridTexts texts = MakeGridTexts(analysis);
-  EXPECT_THAT(page, HasSubstr("<h1>" + texts.Title + "</h1>"));
+  EXPECT_THAT(page, AllOf(HasSubstr("<h1>" + texts.Title + "</h1>"), Not(HasSubstr("<h2>" + texts.Title))));
   const auto rows = TableRows(page);
   ASSERT_THAT(rows, SizeIs(169));
   const std::size_t columns = Split(page.substr(0, page.find("<tbody>")), "<th ").size() - 1;
@@ -202,6 +208,18 @@ TEST(GridPicture, HasTheSameMarginOnEverySide) {
     EXPECT_EQ(width - Length(rects.back(), "x") - Length(rects.back(), "width"), margin);
     EXPECT_EQ(height - Length(rects.back(), "y") - Length(rects.back(), "height"), margin);
   }
+}
+
+TEST(GridPicture, WrapsANoteBelowItsGrid) {
+  const std::string fits = "aa " + std::string(127, 'b');
+  const PictureGrid grid{.Caption = "", .Cells = {}, .Note = fits + " cc dd"};
+  const auto rects = Split(GridPicture("", std::array{grid}), "<rect ");
+  const int bottom = Length(rects.back(), "y") + Length(rects.back(), "height");
+  const auto line = [&](int below, const std::string& text) {
+    return "y=\"" + std::to_string(bottom + below) + R"(" class="s" text-anchor="start">)" + text + "</text>\n";
+  };
+  EXPECT_THAT(rects.back(), AllOf(HasSubstr(line(16, fits)), HasSubstr(line(32, "cc dd"))));
+  EXPECT_EQ(Length(rects.at(1), "height"), bottom + 32 + 12);
 }
 
 TEST(GridPicture, EscapesItsTexts) {

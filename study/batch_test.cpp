@@ -228,7 +228,7 @@ std::vector<RefusedCase> RefusedLines() {
       {"KeyTwice", with(R"(,"pot":3)"), "1", "\"pot\" is there twice"},
       {"IdTwice", R"({"id":1,"id":2})", "1", "\"id\" is there twice"},
       {"ObjectForAText", with(R"(,"call":{"id":7,"amount":1})"), "1", "\"call\" is a number or a text"},
-      {"ListForAText", with(R"(,"range":["Tight"])"), "1", "\"range\" is a text"},
+      {"ListForAText", R"({"range":["Tight"],"id":1})", "1", "\"range\" is a text"},
       {"TruthForAnAmount", with(R"(,"call":true)"), "1", "\"call\" is a number or a text"},
       {"NumberForARange", with(R"(,"range":5)"), "1", "\"range\" is a text"},
       {"FractionForAnId", R"({"id":1.5})", "null", "\"id\" is a text or a whole number"},

@@ -49,9 +49,30 @@ TEST(LimitCells, ArePaleAtAnAmountWhereTheHandLoses) {
   }
 }
 
+TEST(LimitCells, ArePaleByAVeilOfThreeQuarters) {
+  EXPECT_EQ(LimitCells(SomeLimits())[2].Color, (Rgb{0xFF, 0xD3, 0x7A}));
+  EXPECT_EQ(LimitCellsAt(SomeLimits(), 29)[2].Color, (Rgb{0xFF, 0xF4, 0xDE}));
+}
+
 TEST(LimitCells, TellPaleFromFullByContrast) {
   for (const ClassCell& cell : LimitCellsAt(SomeLimits(), 27))
     EXPECT_GE(ContrastRatio(cell.Color, ReadableOn(cell.Color)), 4.5) << cell.Words;
+}
+
+// The shade of an amount on the scale of two.
+Rgb Shade(double least, double most, double amount) {
+  AmountShades shades;
+  shades.Add(most);
+  shades.Add(least);
+  return shades.Of(amount);
+}
+
+TEST(AmountShades, DependOnRatiosOnly) {
+  for (const double amount : {2, 3, 8})
+    EXPECT_EQ(Shade(2, 8, amount), Shade(200, 800, 100 * amount)) << amount;
+  EXPECT_NE(Shade(2, 8, 2), Shade(2, 8, 8));
+  EXPECT_EQ(Shade(5, 5, 5), Shade(2, 8, 2)) << "the palest";
+  EXPECT_EQ(Shade(2, 8, 3.95), AmountShades::Middle());
 }
 
 TEST(LimitLegend, HasALineForPaleHandsWhereThereAreAny) {

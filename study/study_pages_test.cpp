@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "testing/golden_file.h"
+#include "testing/split_text.h"
 
 namespace quillon {
 namespace {
@@ -88,6 +89,10 @@ TEST(ChartPage, TellsStacksAndGaps) {
   EXPECT_THAT(CellOf(shove, "22"), HasSubstr("Shove: <b>never</b>"));
   EXPECT_THAT(CellOf(call, "AA"), HasSubstr("Call a shove: <b>up to 1.5</b>"));
   EXPECT_THAT(page, AllOf(HasSubstr("<dd><b>1.1 to 20 big blinds</b></dd>"), HasSubstr("<td data-o=\"7.1\">7.1</td>")));
+  const auto rows = Split(page.substr(page.find("<tbody>")), "<tr>");
+  ASSERT_EQ(rows.size(), 170U);
+  for (std::size_t i = 1; i < rows.size(); ++i)
+    EXPECT_EQ(Split(rows[i], "data-o=").size() - 1, 5U) << "the hand and four figures: " << rows[i];
 }
 
 TEST(ChartPage, ShadesFromTheSmallestStackToTheLargest) {

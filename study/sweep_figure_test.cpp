@@ -48,6 +48,11 @@ std::vector<Points> Lines(const std::string& picture) {
   return lines;
 }
 
+// The tag of the axis of the values.
+std::string Axis(const std::string& picture) {
+  return Split(Split(picture, "stroke=\"#7b8794\"").at(0), "<line").back();
+}
+
 double ZeroLine(const std::string& picture) {
   return LeadingNumber(Attribute(Split(Split(picture, "class=\"zero\"").at(0), "<line").back(), "y1"));
 }
@@ -68,7 +73,7 @@ TEST(SweepFigure, DrawsEachHandWhereItsValuesAreAsTheGoldenPicture) {
   EXPECT_NEAR(zero - lines[1][2].second, 3 * (zero - lines[0][1].second), 0.3);
   EXPECT_NEAR(lines[0][1].first - lines[0][0].first, lines[0][2].first - lines[0][1].first, 0.11);
   // The highest and lowest points are equally far from the ends of the axis.
-  const std::string axis = Split(Split(picture, "stroke=\"#7b8794\"").at(0), "<line").back();
+  const std::string axis = Axis(picture);
   const double above = lines[1][2].second - LeadingNumber(Attribute(axis, "y1"));
   const double below = LeadingNumber(Attribute(axis, "y2")) - lines[1][1].second;
   EXPECT_GT(above, 5);
@@ -106,11 +111,14 @@ TEST(SweepFigure, NamesLinesRightOfThemAndApart) {
 
 TEST(SweepFigure, WithoutAHandShowsTheShareThatIsProfitable) {
   const std::string picture =
-      Picture({"Preflop Call", "Call", {}}, std::vector<SweepRow>{{"1", 1326, {}}, {"2", 663, {}}});
+      Picture({"Preflop Call", "Call", {}}, std::vector<SweepRow>{{"1", 1326, {}}, {"2", 663, {}}, {"3", 0, {}}});
   const auto lines = Lines(picture);
   ASSERT_THAT(lines, SizeIs(1));
   const double zero = ZeroLine(picture);
   EXPECT_NEAR(zero - lines[0][0].second, 2 * (zero - lines[0][1].second), 0.2);
+  EXPECT_EQ(lines[0][2].second, zero);
+  EXPECT_EQ(LeadingNumber(Attribute(Axis(picture), "y1")), lines[0][0].second);
+  EXPECT_EQ(LeadingNumber(Attribute(Axis(picture), "y2")), zero);
   EXPECT_THAT(picture, HasSubstr(">100</text>"));
 }
 

@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <thread>
@@ -22,6 +23,13 @@ TEST(UsableCores, AreThoseThatTheThreadMayUse) {
     seen = UsableCores();
   }).join();
   EXPECT_EQ(seen, 1U);
+}
+
+TEST(ProcessVariable, IsEmptyWhereThereIsNone) {
+  ASSERT_EQ(setenv("QUILLON_TEST", "Grüße", 1), 0);
+  EXPECT_EQ(ProcessVariable("QUILLON_TEST"), "Grüße");
+  ASSERT_EQ(unsetenv("QUILLON_TEST"), 0);
+  EXPECT_EQ(ProcessVariable("QUILLON_TEST"), "");
 }
 
 }  // namespace
