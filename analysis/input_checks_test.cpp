@@ -51,6 +51,7 @@ TEST_F(InputChecks, PreflopCall) {
       AnalysisMode::kPreflopCall,
       {
           {"a good situation passes", {"100", "50", "", "Full", ""}, kNone},
+          {"amounts below 1 pass", {"0.5", "0.25", "", "Full", ""}, kNone},
           {"no range chosen", {"100", "50", "", "", ""}, kNoRange},
           {"a range without weight", {"100", "50", "", "Nothing", ""}, kNoHands},
           {"call above the pot", {"100", "101", "", "Full", ""}, kPotNotAboveCall},
@@ -98,6 +99,7 @@ TEST_F(InputChecks, PreflopRaise) {
       AnalysisMode::kPreflopRaise,
       {
           {"a good situation passes", {"15", "5", "100", "Full", "Half Aces"}, kNone},
+          {"amounts below 1 pass", {"0.5", "0.25", "0.75", "Full", "Full"}, kNone},
           {"a call of 0 passes", {"15", "0", "100", "Full", "Full"}, kNone},
           {"an empty call box passes", {"15", "", "100", "Full", "Full"}, kNone},
           {"a call above the pot passes", {"15", "20", "100", "Full", "Full"}, kNone},

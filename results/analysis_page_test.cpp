@@ -128,13 +128,16 @@ TEST_P(EachPage, NeedsNothingFromElsewhere) {
 TEST(AnalysisPage, OfARaiseHasTheFiguresOfEachHand) {
   Analysis raise = sample::RaiseState();
   raise.Amounts = {1.005, 0.126, 62.497};
+  raise.DroppedHands = "QQ: 6";
   const std::string page = AnalysisPage(raise);
   EXPECT_THAT(SeenText(TableRows(page).at(0)), StartsWith("AA6+150.0000N/A100%"));
   EXPECT_THAT(SeenText(TableRows(page).at(168)), StartsWith("226-12.500030%0%"));
   EXPECT_THAT(page, AllOf(HasSubstr("<dt>Pot Size</dt><dd><b>1</b></dd>"),
                           HasSubstr("<dt>Call Amount</dt><dd><b>0.13</b></dd>"),
                           HasSubstr("<dt>Shove Amount</dt><dd><b>62.5</b></dd>"),
-                          HasSubstr("<dt>His Calling Range</dt><dd><b>Tight</b><br>AA</dd>")));
+                          HasSubstr("<dt>His Calling Range</dt><dd><b>Tight</b><br>AA</dd>"),
+                          HasSubstr("<dt>Dropped, as not in his range</dt><dd><b>QQ: 6</b></dd>")));
+  EXPECT_THAT(AnalysisPage(sample::RaiseState()), Not(HasSubstr("Dropped")));
   EXPECT_THAT(AnalysisPage(sample::EquityState()), AllOf(Not(HasSubstr("Pot Size")), Not(HasSubstr(">EV<"))));
 }
 

@@ -105,6 +105,7 @@ TEST(AmountSteps, ReachBeyondTheAmountAndItsLimits) {
            {"one with many digits is not", Shove(9.123456), "72o", {"0.1", "18.3", "0.1"}},
            {"large amounts", Shove(4000), "72o", {"50", "8000", "50"}},
            {"small ones", Shove(0.004), "AA", {"0.00005", "0.008", "0.00005"}},
+           {"a call far below the pot", Call(150, 5), "72o", {"0.1", "10", "0.1"}},
            {"a call stays below the pot", Call(150, 90), "AA", {"1", "149", "1"}},
        }) {
     const StepTexts steps = AmountStepsFor(c.situation, HandsOf(c.hands));
