@@ -89,7 +89,7 @@ TEST(HttpGet, GivesTheBody) {
 
 TEST(HttpGet, AsksWithTheTargetByteForByte) {
   const LoopbackHost host(Ok("sent"));
-  const std::string target = "/quillon/register/benice.php?email_name=%61%40%78&email_body=%9%61%A%E9%0D%0A%20%2B";
+  const std::string target = "/quillon/register/benice.php?email_name=%61%40%78&email_body=%9%61%A%E9%0D%0A%20%2B+,;'";
 
   EXPECT_EQ(Get(host.Address(target)), "sent");
 

@@ -133,6 +133,7 @@ TEST(AmountSteps, AreThoseThatAnAnalysisTakes) {
     EXPECT_EQ(std::get<std::string>(read), c.reason);
   }
   EXPECT_TRUE(std::holds_alternative<Steps>(ReadAmountSteps(Call(150, 50), {"1", "149.99", "1"})));
+  EXPECT_TRUE(std::holds_alternative<Steps>(ReadAmountSteps(Shove(), {"1", "2000", "1"})));
 }
 
 TEST(WidthSteps, AreThoseOfARange) {
