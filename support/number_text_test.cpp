@@ -222,6 +222,7 @@ TEST(IsNumericText, HeedsTheUsersMarks) {
       {"the dollar", german, "$100", true},
       {"marks of two kinds", german, "1.000,50.5", false},
       {"a group after the fraction", german, "1,000,000.5.5", false},
+      {"a letter after the currency", german, "100€x", false},
       {"two currencies", german, "€100€", false},
       {"two blanks before the currency", german, "100  €", false},
       {"the currency alone", german, "€", false},
