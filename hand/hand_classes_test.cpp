@@ -24,8 +24,8 @@ TEST(HandLabel, OutsideTheGridThereIsNone) {
 
 TEST(HandIndex, TakesWhatIsNoLabelForAces) {
   for (const std::string_view text :
-       {"AA",  "",    "A",   "s",   "aa",   "Aa",   "aks",  "AKS",  "AKO", "AK",  "KAs", "KAo",
-        "AAs", "AAo", "22o", "AKx", "AKs ", " AKs", "AKss", "AKos", "1Ks", "10s", "XX",  "\xC3\x84Ks"})
+       {"AA",  "",    "A",   "s",    "aa",   "Aa",   "aks",  "AKS", "AKO", "AK", "KAs", "KAo", "AAs",
+        "AAo", "22o", "AKx", "AKs ", " AKs", "AKss", "AKos", "1Ks", "10s", "XX", "AXs", "AXo", "\xC3\x84Ks"})
     EXPECT_EQ(HandIndex(text), 0) << '"' << text << '"';
   EXPECT_EQ(HandIndex(std::string_view("\0\0", 2)), 0);
 }
